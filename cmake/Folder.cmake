@@ -1,0 +1,30 @@
+# One folder, one target. A folder's headers are seen by other targets only through a link of the folder's
+# name in an include directory of its own, so an include of a folder that a target does not link fails to build.
+
+# kesto_headers(TARGET SCOPE FOLDER): gives TARGET the include directory of FOLDER.
+function(kesto_headers target scope folder)
+  string(REPLACE / _ name ${folder})
+  set(root ${PROJECT_BINARY_DIR}/include/${name})
+  get_filename_component(parent ${root}/${folder} DIRECTORY)
+  file(MAKE_DIRECTORY ${parent})
+  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${root}/${folder} SYMBOLIC)
+  target_include_directories(${target} ${scope} ${root})
+endfunction()
+
+# kesto_folder(TARGET FOLDER SOURCES ... LINKS ...): the static library of one folder of the core.
+function(kesto_folder target folder)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "SOURCES;LINKS")
+  add_library(${target} STATIC ${arg_SOURCES})
+  kesto_headers(${target} PUBLIC ${folder})
+  target_link_libraries(${target} PUBLIC ${arg_LINKS})
+  # The core is linked into the bundle alone; nothing of it may be shared with another copy in the process.
+  set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+  kesto_precompile(${target})
+endfunction()
+
+# kesto_precompile(TARGET): precompiles the Qt headers that nearly every source of TARGET reads.
+function(kesto_precompile target)
+  target_precompile_headers(${target} PRIVATE
+    <QtCore/QObject> <QtCore/QString> <QtCore/QStringList> <QtCore/QByteArray> <QtCore/QVariant>
+    <QtCore/QJsonObject> <QtCore/QFile> <QtCore/QDir> <array> <functional> <memory> <optional> <span> <vector>)
+endfunction()

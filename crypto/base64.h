@@ -1,0 +1,18 @@
+// Base64 in both directions (RFC 4648, section 4).
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+namespace kesto {
+
+/// Writes the Base64 text of `input` and a NUL; answers its length counting the NUL. The output needs
+/// ((length + 2) / 3) * 4 + 1 bytes; when it has fewer, only the groups that fit are written.
+std::size_t Base64encode(std::span<char> output, std::span<const std::uint8_t> input);
+
+/// Decodes `text` up to its first character outside the alphabet (padding, NUL or any other) and writes the bytes
+/// and a NUL; answers the number of bytes without the NUL. The output needs ((n + 3) / 4) * 3 + 1 bytes for n
+/// characters; when it has fewer, only the bytes that fit are written.
+std::size_t Base64decode(std::span<std::uint8_t> output, const char* text);
+
+}  // namespace kesto

@@ -1,0 +1,51 @@
+// The host's side of a panel: what every host of ours lends to it, and the panel itself.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "hosts/cups/ppd_file.h"
+#include "platform/host_callback.h"
+#include "platform/panel.h"
+#include "platform/print_settings.h"
+#include "platform/system_platform.h"
+
+namespace kesto {
+
+/// The type of dialog that the Job Handling panel belongs to.
+inline constexpr char printDialogTypeIdentifier[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
+
+/// One dialog on one queue: lends printer, PPD and print settings to the panel, and owns all of them. Members are set
+/// before `openPanel`.
+class PanelHost : public HostCallback {
+ public:
+  explicit PanelHost(Platform& platform) : m_platform(platform) {}
+
+  PrintSession session;                         ///< With the current printer, if any.
+  std::optional<PrintSettings> settings;        ///< None for a host without print settings.
+  PpdFile ppd;                                  ///< Null without a PPD.
+  bool handlesConstraints = true;
+
+  /// Makes the Job Handling panel from the bundle's entry object. The outcome says why there is none.
+  Outcome openPanel(PrintDialogPlugIn& plugIn);
+  /// Null until the panel is opened.
+  PrintDialogPanel* panel() const { return m_panel.get(); }
+  /// The panel's controls once the panel has made them, else null: looking never loads the layout.
+  PanelView* loadedView() const;
+
+  const PrintSession& printSession() const override { return session; }
+  PrintSettings* printSettings() override { return settings ? &*settings : nullptr; }
+  ppd_file_s* ppdFile() override { return ppd.get(); }
+  bool answersWillChangePPDOptionKeyValue() const override { return handlesConstraints; }
+  Platform& platform() override { return m_platform; }
+
+ private:
+  Platform& m_platform;
+  std::unique_ptr<PrintDialogPanel> m_panel;
+};
+
+/// Finds and loads the bundle "JobHandling.pde". On failure the outcome says where it was looked for, or why it does
+/// not load.
+Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialogPlugIn** plugIn);
+
+}  // namespace kesto

@@ -1,0 +1,23 @@
+// The PPD of a queue, opened through libcups.
+#pragma once
+
+#include <cups/ppd.h>
+
+#include <QtCore/QString>
+#include <memory>
+
+#include "platform/outcome.h"
+
+namespace kesto {
+
+struct ClosePpd {
+  void operator()(ppd_file_t* ppd) const;
+};
+
+/// An opened PPD, closed with its owner.
+using PpdFile = std::unique_ptr<ppd_file_t, ClosePpd>;
+
+/// Opens the PPD file `path`. On failure `*ppd` is null and the outcome names the file, the line and libcups's reason.
+Outcome openPpdFile(const QString& path, PpdFile* ppd);
+
+}  // namespace kesto

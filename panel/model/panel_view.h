@@ -1,0 +1,39 @@
+// The root of a panel's controls, and the keyboard focus among them.
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+
+namespace kesto {
+
+class Control;
+class TextField;
+
+/// Owns the controls of one panel and knows which of its fields has keyboard focus.
+class PanelView : public QObject {
+  Q_OBJECT
+
+ public:
+  using QObject::QObject;
+
+  /// All controls, in the order in which they were made.
+  QList<Control*> controls() const;
+  /// The control of that name and type; null when there is none.
+  template <class T = Control>
+  T* control(const QString& name) const {
+    return findChild<T*>(name, Qt::FindDirectChildrenOnly);
+  }
+
+  /// The field that has keyboard focus, null for none.
+  TextField* firstResponder() const { return m_firstResponder; }
+  /// Gives keyboard focus to a field, or takes it from whichever has it (null).
+  void makeFirstResponder(TextField* field);
+
+ Q_SIGNALS:
+  void firstResponderChanged();
+
+ private:
+  TextField* m_firstResponder = nullptr;
+};
+
+}  // namespace kesto

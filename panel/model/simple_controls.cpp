@@ -1,0 +1,1 @@
+#include "panel/model/simple_controls.h"

@@ -1,0 +1,57 @@
+// Group boxes, tab pages and the progress indicator.
+#pragma once
+
+#include "panel/model/control.h"
+
+namespace kesto {
+
+/// A frame with a title.
+class Box : public Control {
+  Q_OBJECT
+  Q_PROPERTY(QString title READ title NOTIFY changed)
+
+ public:
+  using Control::Control;
+  QString kind() const override { return QStringLiteral("box"); }
+  const QString& title() const { return m_title; }
+  void setTitle(const QString& title) { assign(m_title, title); }
+
+ private:
+  QString m_title;
+};
+
+/// Pages with labels, of which one is shown.
+class TabView : public Control {
+  Q_OBJECT
+  Q_PROPERTY(QStringList tabs READ labels NOTIFY changed)
+  Q_PROPERTY(int selectedTab READ selectedTab NOTIFY changed)
+
+ public:
+  using Control::Control;
+  QString kind() const override { return QStringLiteral("tabView"); }
+  const QStringList& labels() const { return m_labels; }
+  void setLabels(const QStringList& labels) { assign(m_labels, labels); }
+  int selectedTab() const { return m_selectedTab; }
+  void selectTab(int index) { assign(m_selectedTab, index); }
+
+ private:
+  QStringList m_labels;
+  int m_selectedTab = 0;
+};
+
+/// A spinning indicator of work that has no known end.
+class ProgressIndicator : public Control {
+  Q_OBJECT
+  Q_PROPERTY(bool animating READ isAnimating NOTIFY changed)
+
+ public:
+  using Control::Control;
+  QString kind() const override { return QStringLiteral("progress"); }
+  bool isAnimating() const { return m_animating; }
+  void setAnimating(bool animating) { assign(m_animating, animating); }
+
+ private:
+  bool m_animating = false;
+};
+
+}  // namespace kesto

@@ -1,0 +1,103 @@
+#include "panel/model/text_field.h"
+
+#include "panel/model/panel_view.h"
+
+namespace kesto {
+
+QString Formatter::stringForObjectValue(const QVariant& value) const { return value.toString(); }
+
+bool Formatter::getObjectValue(QVariant* value, const QString& forString, QString* /*errorDescription*/) const {
+  *value = forString;
+  return true;
+}
+
+TextField::TextField(const QString& name, PanelView* view, int tag)
+    : Control(name, view), m_tag(tag), m_editable(tag != 0), m_selectable(tag != 0) {}
+
+QString TextField::kind() const { return m_tag == 0 ? QStringLiteral("label") : QStringLiteral("textField"); }
+
+void TextField::setStringValue(const QString& text) {
+  const TextRange end{text.size(), 0};
+  if (m_stringValue == text && m_selection == end) return;
+  m_stringValue = text;
+  m_selection = end;
+  Q_EMIT changed();
+}
+
+Outcome TextField::beginEdit() {
+  if (!m_editable) return Outcome::failed(objectName() + QStringLiteral(" is not editable"));
+  view()->makeFirstResponder(this);
+  return Outcome::done();
+}
+
+void TextField::insert(QStringView text) {
+  QString proposed = m_stringValue;
+  proposed.replace(m_selection.location, m_selection.length, text.toString());
+  edit(std::move(proposed), {m_selection.location + text.size(), 0});
+}
+
+Outcome TextField::type(const QString& text) {
+  if (Outcome begun = beginEdit(); !begun) return begun;
+  for (qsizetype position = 0; position < text.size();) {
+    const bool pair = text[position].isHighSurrogate() && position + 1 < text.size() &&
+                      text[position + 1].isLowSurrogate();
+    const qsizetype units = pair ? 2 : 1;
+    insert(QStringView(text).sliced(position, units));
+    position += units;
+  }
+  return Outcome::done();
+}
+
+Outcome TextField::paste(const QString& text) {
+  if (Outcome begun = beginEdit(); !begun) return begun;
+  insert(text);
+  return Outcome::done();
+}
+
+Outcome TextField::backspace() {
+  if (Outcome begun = beginEdit(); !begun) return begun;
+  TextRange cut = m_selection;
+  if (cut.length == 0) {
+    if (cut.location == 0) return Outcome::done();
+    const bool pair = cut.location > 1 && m_stringValue[cut.location - 1].isLowSurrogate() &&
+                      m_stringValue[cut.location - 2].isHighSurrogate();
+    cut.length = pair ? 2 : 1;
+    cut.location -= cut.length;
+  }
+  QString proposed = m_stringValue;
+  proposed.remove(cut.location, cut.length);
+  edit(std::move(proposed), {cut.location, 0});
+  return Outcome::done();
+}
+
+Outcome TextField::placeCaret(TextRange range) {
+  if (!m_selectable) return Outcome::failed(objectName() + QStringLiteral(" is not selectable"));
+  view()->makeFirstResponder(this);
+  const qsizetype location = qBound(qsizetype{0}, range.location, m_stringValue.size());
+  const qsizetype length = qBound(qsizetype{0}, range.length, m_stringValue.size() - location);
+  assign(m_selection, TextRange{location, length});
+  return Outcome::done();
+}
+
+void TextField::edit(QString proposed, TextRange proposedSelection) {
+  if (m_formatter) {
+    const QString before = proposed;
+    const TextRange selectionBefore = proposedSelection;
+    const bool accepted =
+        m_formatter->isPartialStringValid(proposed, proposedSelection, m_stringValue, m_selection, nullptr);
+    const bool replaced = proposed != before || proposedSelection != selectionBefore;
+    if (!accepted && !replaced) return;
+  }
+  if (proposed == m_stringValue && proposedSelection == m_selection) return;
+  m_stringValue = std::move(proposed);
+  m_selection = proposedSelection;
+  Q_EMIT changed();
+}
+
+QString TextField::textColorName() const {
+  return m_textColor == Color::Gray ? QStringLiteral("gray") : QStringLiteral("black");
+}
+
+QVariantList TextField::selectionList() const { return {m_selection.location, m_selection.length}; }
+
+}  // namespace kesto

@@ -1,0 +1,98 @@
+// Labels and text fields, and the formatter that watches over what the user types.
+#pragma once
+
+#include <memory>
+
+#include "panel/model/control.h"
+#include "platform/outcome.h"
+
+namespace kesto {
+
+/// A range of UTF-16 code units.
+struct TextRange {
+  qsizetype location = 0;
+  qsizetype length = 0;
+
+  bool operator==(const TextRange&) const = default;
+};
+
+/// Judges every edit of the user before it happens.
+class Formatter {
+ public:
+  virtual ~Formatter() = default;
+
+  /// The text shown for a value.
+  virtual QString stringForObjectValue(const QVariant& value) const;
+  /// The value of a text; `errorDescription` is never set. Succeeds for every text.
+  virtual bool getObjectValue(QVariant* value, const QString& forString, QString* errorDescription) const;
+  /// Whether the field may become `partialString` with `proposedSelectedRange` selected. On refusal the two may have
+  /// been replaced by what the field is to show instead; otherwise it stays as it was.
+  virtual bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,
+                                    const QString& originalString, TextRange originalSelectedRange,
+                                    QString* errorDescription) const = 0;
+};
+
+/// A line of text: a label (tag 0) or a field that the user can edit (any other tag). Positions and lengths count
+/// UTF-16 code units.
+class TextField : public Control {
+  Q_OBJECT
+  Q_PROPERTY(QString stringValue READ stringValue NOTIFY changed)
+  Q_PROPERTY(bool editable READ isEditable NOTIFY changed)
+  Q_PROPERTY(bool selectable READ isSelectable NOTIFY changed)
+  Q_PROPERTY(QString textColor READ textColorName NOTIFY changed)
+  Q_PROPERTY(int tag READ tag CONSTANT)
+  Q_PROPERTY(QVariantList selection READ selectionList NOTIFY changed)
+
+ public:
+  enum class Color { Black, Gray };
+
+  /// A label is neither editable nor selectable; a field is both.
+  TextField(const QString& name, PanelView* view, int tag);
+
+  QString kind() const override;
+  int tag() const { return m_tag; }
+
+  const QString& stringValue() const { return m_stringValue; }
+  /// Sets the text from code: past the formatter, and with the caret at the end.
+  void setStringValue(const QString& text);
+
+  bool isEditable() const { return m_editable; }
+  void setEditable(bool editable) { assign(m_editable, editable); }
+  bool isSelectable() const { return m_selectable; }
+  void setSelectable(bool selectable) { assign(m_selectable, selectable); }
+  Color textColor() const { return m_textColor; }
+  void setTextColor(Color color) { assign(m_textColor, color); }
+
+  TextRange selection() const { return m_selection; }
+  const Formatter* formatter() const { return m_formatter.get(); }
+  void setFormatter(std::unique_ptr<Formatter> formatter) { m_formatter = std::move(formatter); }
+
+  /// The user types at the selection, character by character, each through the formatter. Like the three that
+  /// follow, it makes the field the first responder, and fails when the field does not take it.
+  Outcome type(const QString& text);
+  /// The user inserts a text at the selection at once.
+  Outcome paste(const QString& text);
+  /// The user deletes the selection, or the character before it.
+  Outcome backspace();
+  /// The user sets the selection, clamped to the text.
+  Outcome placeCaret(TextRange range);
+  /// One edit of the user, already worked out by a toolkit: the text as it would become and the selection in it.
+  /// The formatter decides what the field then holds.
+  void edit(QString proposed, TextRange proposedSelection);
+
+ private:
+  QString textColorName() const;
+  QVariantList selectionList() const;
+  Outcome beginEdit();
+  void insert(QStringView text);
+
+  int m_tag;
+  QString m_stringValue;
+  TextRange m_selection;
+  bool m_editable;
+  bool m_selectable;
+  Color m_textColor = Color::Black;
+  std::unique_ptr<Formatter> m_formatter;
+};
+
+}  // namespace kesto

@@ -1,0 +1,16 @@
+// The one way in which the panel speaks to the user on its own account.
+#pragma once
+
+#include <QtCore/QString>
+
+namespace kesto {
+
+/// Shows modal alerts on behalf of the panel. The host supplies it.
+class AlertPresenter {
+ public:
+  virtual ~AlertPresenter() = default;
+  /// Shows an informational alert with one button and returns when the user has dismissed it. Texts are localised.
+  virtual void runInformationalAlert(const QString& title, const QString& message, const QString& button) = 0;
+};
+
+}  // namespace kesto

@@ -1,0 +1,65 @@
+#include "platform/environment.h"
+
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QtCore/QFile>
+#include <vector>
+
+namespace kesto {
+namespace {
+
+// One field of the account's entry in the password file.
+QString accountField(char* passwd::*field) {
+  std::vector<char> buffer(16384);
+  passwd entry{};
+  passwd* found = nullptr;
+  if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr) return {};
+  return QString::fromLocal8Bit(found->*field);
+}
+
+// Whether the path is a folder of this user's that nobody else may enter; makes it when it is missing.
+bool isPrivateFolder(const QByteArray& path) {
+  if (::mkdir(path.constData(), 0700) != 0 && errno != EEXIST) return false;
+  struct stat info {};
+  return ::lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == getuid() &&
+         (info.st_mode & 0077) == 0;
+}
+
+}  // namespace
+
+QString accountShortName() {
+  const QString name = accountField(&passwd::pw_name);
+  return name.isEmpty() ? QString() : name;
+}
+
+QString accountFullName() {
+  // The field holds the full name before its first comma; "&" stands for the short name, capitalised.
+  QString name = accountField(&passwd::pw_gecos).section(u',', 0, 0);
+  if (name.contains(u'&')) {
+    QString shortName = accountShortName();
+    if (!shortName.isEmpty()) shortName[0] = shortName[0].toUpper();
+    name.replace(u'&', shortName);
+  }
+  return name.isEmpty() ? QString() : name;
+}
+
+QString userTemporaryDirectory() {
+  const QByteArray named = qgetenv("TMPDIR");
+  if (!named.isEmpty()) return QFile::decodeName(named.endsWith('/') ? named : named + '/');
+  const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
+  const QByteArray folder = runtime + "/kesto";
+  if (runtime.isEmpty() || !isPrivateFolder(folder)) return {};
+  return QFile::decodeName(folder + '/');
+}
+
+TextEncoding systemEncodingOfEnvironment() {
+  for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+    const QByteArray locale = qgetenv(variable);
+    if (!locale.isEmpty()) return systemEncodingForLocale(QString::fromLatin1(locale));
+  }
+  return systemEncodingForLocale({});
+}
+
+}  // namespace kesto

@@ -1,0 +1,66 @@
+// The border between a host and a print-dialog extension: the entry object and the panel protocol.
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtCore/QObject>
+#include <QtCore/QStringList>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace kesto {
+
+class Bundle;
+class HostCallback;
+class PanelView;
+
+/// A panel of a print dialog. The host owns it from the request on and calls it on one thread. Its facts are
+/// read-only properties of the object.
+class PrintDialogPanel : public QObject {
+  Q_OBJECT
+
+ public:
+  using QObject::QObject;
+  /// The panel's controls; null when the layout cannot be loaded. The panel owns them.
+  virtual PanelView* panelView() = 0;
+  /// The name shown for the panel, localised.
+  virtual QString panelName() = 0;
+  /// The kind of the panel, the same in every language.
+  virtual QString panelKind() = 0;
+  /// The PPD options that the panel handles; the host shows no controls of its own for them.
+  virtual QStringList supportedPPDOptionKeys() = 0;
+  /// The host is about to bring the panel to the front.
+  virtual void willShow() = 0;
+  /// Whether the host may hide the panel.
+  virtual bool shouldHide() = 0;
+  /// Whether the host shows its help button.
+  virtual bool shouldShowHelp() = 0;
+  /// A PPD option of the host changed.
+  virtual void PPDOptionKeyValueDidChange(const QString& optionKey, const QString& ppdChoice) = 0;
+  /// Reads the job's print settings into the panel. `error` is never set.
+  virtual bool restoreValuesAndReturnError(QString* error) = 0;
+  /// Writes the panel into the job's print settings. `error` is never set.
+  virtual bool saveValuesAndReturnError(QString* error) = 0;
+  /// Whether the job may go out; says no only after an alert.
+  virtual bool shouldPrint() = 0;
+  /// Label and value of the panel's main choices, for the dialog's summary.
+  virtual QMap<QString, QString> summaryInfo() = 0;
+};
+
+/// The panels that an entry object gives for one request; none when a panel could not be made.
+using PanelList = std::optional<std::vector<std::unique_ptr<PrintDialogPanel>>>;
+
+/// The principal object of a bundle.
+class PrintDialogPlugIn {
+ public:
+  virtual ~PrintDialogPlugIn() = default;
+  /// Called once after loading.
+  virtual bool initWithBundle(const Bundle& bundle) = 0;
+  /// New panels for a dialog of the given type; the caller owns them, and lends them `withHostInfo`.
+  virtual PanelList PDEPanelsForType(const QString& type, HostCallback* withHostInfo) = 0;
+};
+
+}  // namespace kesto
+
+#define KESTO_PRINT_DIALOG_PLUG_IN_IID "kesto.print.pde.PrintDialogPlugIn/1"
+Q_DECLARE_INTERFACE(kesto::PrintDialogPlugIn, KESTO_PRINT_DIALOG_PLUG_IN_IID)

@@ -1,0 +1,217 @@
+#include "platform/text_encoding.h"
+
+#include <unicode/ucnv.h>
+
+#include <QtCore/QLoggingCategory>
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace kesto {
+namespace {
+
+Q_LOGGING_CATEGORY(encodings, "kesto.encodings")
+
+struct EncodingRow {
+  const char* converter;  // ICU's name
+  int systemCode;
+  int stringCode;
+};
+
+constexpr int notASystemEncoding = -1;
+// The string encodings of most system encodings are their code with the top bit set, written as a signed number.
+constexpr int derived(int systemCode) { return static_cast<int>(0x80000000U + static_cast<unsigned>(systemCode)); }
+
+// In the order of TextEncoding. ICU has no converters for the four East Asian ones of the platform; see
+// docs/decisions.md for those that stand in.
+constexpr std::array rows{
+    EncodingRow{"macos-0_2-10.2", 0, 30},
+    EncodingRow{"ibm-943_P15A-2003", 1, derived(1)},
+    EncodingRow{"windows-950-2000", 2, derived(2)},
+    EncodingRow{"ibm-970_P110_P110-2006_U2", 3, derived(3)},
+    EncodingRow{"macos-6_2-10.4", 6, derived(6)},
+    EncodingRow{"macos-7_3-10.2", 7, derived(7)},
+    EncodingRow{"ibm-1383_P110-1999", 25, derived(25)},
+    EncodingRow{"macos-29-10.2", 29, derived(29)},
+    EncodingRow{"macos-35-10.2", 35, derived(35)},
+    EncodingRow{"ISO-8859-1", notASystemEncoding, 5},
+    EncodingRow{"ibm-5348_P100-1997", notASystemEncoding, 12},
+    EncodingRow{"ibm-943_P15A-2003", notASystemEncoding, 8},
+    EncodingRow{"UTF-8", notASystemEncoding, 4},
+};
+
+const EncodingRow& rowOf(TextEncoding encoding) { return rows.at(static_cast<std::size_t>(encoding)); }
+
+struct CloseConverter {
+  void operator()(UConverter* converter) const { ucnv_close(converter); }
+};
+
+// An open converter that stops at what does not convert; opening one is far dearer than using it.
+UConverter* converterOf(TextEncoding encoding) {
+  thread_local std::array<std::unique_ptr<UConverter, CloseConverter>, rows.size()> open;
+  auto& converter = open.at(static_cast<std::size_t>(encoding));
+  if (!converter) {
+    UErrorCode status = U_ZERO_ERROR;
+    converter.reset(ucnv_open(rowOf(encoding).converter, &status));
+    if (U_SUCCESS(status)) {
+      ucnv_setFallback(converter.get(), 0);
+      ucnv_setFromUCallBack(converter.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
+      ucnv_setToUCallBack(converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
+    }
+    if (U_FAILURE(status)) {
+      qCWarning(encodings, "no converter %s: %s", rowOf(encoding).converter, u_errorName(status));
+      converter.reset();
+    }
+  }
+  return converter.get();
+}
+
+// The bytes of one character (one unit, or a surrogate pair); empty when it does not convert.
+QByteArray bytesOfCharacter(QStringView character, TextEncoding encoding) {
+  // ASCII is the same in every one of them; ICU's Shift JIS swaps three control characters.
+  if (character.size() == 1 && character.front().unicode() < 0x80) {
+    return QByteArray(1, static_cast<char>(character.front().unicode()));
+  }
+  UConverter* converter = converterOf(encoding);
+  if (converter == nullptr) return {};
+  std::array<char, 16> bytes{};
+  UErrorCode status = U_ZERO_ERROR;
+  const int32_t count =
+      ucnv_fromUChars(converter, bytes.data(), bytes.size(), reinterpret_cast<const UChar*>(character.utf16()),
+                      static_cast<int32_t>(character.size()), &status);
+  return U_FAILURE(status) ? QByteArray() : QByteArray(bytes.data(), count);
+}
+
+// The character that begins at `position`: a surrogate pair is one.
+QStringView characterAt(QStringView text, qsizetype position) {
+  const bool pair = text.at(position).isHighSurrogate() && position + 1 < text.size() &&
+                    text.at(position + 1).isLowSurrogate();
+  return text.sliced(position, pair ? 2 : 1);
+}
+
+// Undoes ICU's swap of three control characters in its Shift JIS.
+QString withoutSwappedControls(QString text) {
+  for (QChar& unit : text) {
+    switch (unit.unicode()) {
+      case 0x1A: unit = QChar(0x7F); break;
+      case 0x1C: unit = QChar(0x1A); break;
+      case 0x7F: unit = QChar(0x1C); break;
+      default: break;
+    }
+  }
+  return text;
+}
+
+struct LanguageRow {
+  QLatin1String language;
+  TextEncoding encoding;
+};
+
+constexpr std::array languages{
+    LanguageRow{QLatin1String("ja"), TextEncoding::MacJapanese},
+    LanguageRow{QLatin1String("ko"), TextEncoding::MacKorean},
+    LanguageRow{QLatin1String("zh"), TextEncoding::MacSimplifiedChinese},
+    LanguageRow{QLatin1String("el"), TextEncoding::MacGreek},
+    LanguageRow{QLatin1String("be"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("bg"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("kk"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("ky"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("mk"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("mn"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("ru"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("sr"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("tg"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("tt"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("uk"), TextEncoding::MacCyrillic},
+    LanguageRow{QLatin1String("cs"), TextEncoding::MacCentralEurope},
+    LanguageRow{QLatin1String("et"), TextEncoding::MacCentralEurope},
+    LanguageRow{QLatin1String("hu"), TextEncoding::MacCentralEurope},
+    LanguageRow{QLatin1String("lt"), TextEncoding::MacCentralEurope},
+    LanguageRow{QLatin1String("lv"), TextEncoding::MacCentralEurope},
+    LanguageRow{QLatin1String("pl"), TextEncoding::MacCentralEurope},
+    LanguageRow{QLatin1String("sk"), TextEncoding::MacCentralEurope},
+    LanguageRow{QLatin1String("tr"), TextEncoding::MacTurkish},
+};
+
+}  // namespace
+
+int systemEncodingCode(TextEncoding encoding) { return rowOf(encoding).systemCode; }
+
+int stringEncodingCode(TextEncoding encoding) { return rowOf(encoding).stringCode; }
+
+TextEncoding systemEncodingForLocale(const QString& locale) {
+  // language[_TERRITORY][.codeset][@modifier]
+  const QString modifier = locale.section(u'@', 1);
+  const QString name = locale.section(u'@', 0, 0).section(u'.', 0, 0);
+  const QString language = name.section(u'_', 0, 0);
+  const QString territory = name.section(u'_', 1);
+  if (language == u"zh" && (territory == u"TW" || territory == u"HK" || territory == u"MO")) {
+    return TextEncoding::MacTraditionalChinese;
+  }
+  if (modifier == u"latin") return TextEncoding::MacRoman;
+  for (const LanguageRow& row : languages) {
+    if (language == row.language) return row.encoding;
+  }
+  return TextEncoding::MacRoman;
+}
+
+QByteArray bytesOfText(QStringView text, TextEncoding encoding, qsizetype maxUnits, qsizetype maxBytes,
+                       std::optional<char> substitute) {
+  const qsizetype end = qMin(maxUnits, text.size());
+  QByteArray bytes;
+  for (qsizetype position = 0; position < end;) {
+    const QStringView character = characterAt(text, position);
+    if (position + character.size() > end) break;
+    QByteArray converted = bytesOfCharacter(character, encoding);
+    if (converted.isEmpty()) {
+      if (!substitute) break;
+      converted = QByteArray(1, *substitute);
+    }
+    if (bytes.size() + converted.size() > maxBytes) break;
+    bytes += converted;
+    position += character.size();
+  }
+  return bytes;
+}
+
+std::optional<QByteArray> cStringOfText(QStringView text, TextEncoding encoding, qsizetype bufferSize) {
+  const qsizetype nul = text.indexOf(QChar(u'\0'));
+  if (nul >= 0) text = text.first(nul);
+  QByteArray bytes;
+  for (qsizetype position = 0; position < text.size();) {
+    const QStringView character = characterAt(text, position);
+    const QByteArray converted = bytesOfCharacter(character, encoding);
+    if (converted.isEmpty() || bytes.size() + converted.size() >= bufferSize) return std::nullopt;
+    bytes += converted;
+    position += character.size();
+  }
+  return bytes;
+}
+
+std::optional<QByteArray> asciiOfText(QStringView text, qsizetype bufferSize) {
+  const qsizetype nul = text.indexOf(QChar(u'\0'));
+  if (nul >= 0) text = text.first(nul);
+  if (text.size() >= bufferSize) return std::nullopt;
+  for (const QChar unit : text) {
+    if (unit.unicode() >= 0x80) return std::nullopt;
+  }
+  return text.toLatin1();
+}
+
+QString textOfBytes(const QByteArray& bytes, TextEncoding encoding) {
+  const qsizetype nul = bytes.indexOf('\0');
+  const qsizetype length = nul < 0 ? bytes.size() : nul;
+  UConverter* converter = converterOf(encoding);
+  if (converter == nullptr) return {};
+  std::vector<UChar> units(static_cast<std::size_t>(length) * 2 + 1);
+  UErrorCode status = U_ZERO_ERROR;
+  const int32_t count = ucnv_toUChars(converter, units.data(), static_cast<int32_t>(units.size()), bytes.constData(),
+                                      static_cast<int32_t>(length), &status);
+  if (U_FAILURE(status)) return {};
+  const QString text(reinterpret_cast<const QChar*>(units.data()), count);
+  const bool swapped = encoding == TextEncoding::MacJapanese || encoding == TextEncoding::ShiftJis;
+  // A text of no characters is a text all the same.
+  return text.isNull() ? QString::fromLatin1("") : (swapped ? withoutSwappedControls(text) : text);
+}
+
+}  // namespace kesto

@@ -1,0 +1,82 @@
+#include "plugin/action_table.h"
+
+#include <QtCore/QLoggingCategory>
+#include <array>
+
+namespace kesto {
+namespace {
+
+Q_LOGGING_CATEGORY(layout, "kesto.layout")
+
+using Operation = void (ControlActions::*)(Control*);
+
+struct ActionRow {
+  const char* name;
+  Operation operation;
+};
+
+constexpr std::array table{
+#define ACTION(name) ActionRow{#name ":", &ControlActions::name}
+    ACTION(tabProc),
+    ACTION(retentionCBoxProc),
+    ACTION(suspendKeyMatrixProc),
+    ACTION(suspendKeyETextProc),
+    ACTION(suspendKeyButtonProc),
+    ACTION(folderSelectionPopUpButtonProc),
+    ACTION(folderPasswordETextProc),
+    ACTION(folderPasswordButtonProc),
+    ACTION(folderNameButtonProc),
+    ACTION(folderSelectionMatrixProc),
+    ACTION(authenticationMatrixProc),
+    ACTION(loginNameETextProc),
+    ACTION(loginNameButtonProc),
+    ACTION(passwordETextProc),
+    ACTION(passwordButtonProc),
+    ACTION(userNumberETextProc),
+    ACTION(userNumberButtonProc),
+    ACTION(userNameETextProc),
+    ACTION(userNameButtonProc),
+    ACTION(jobNameETextProc),
+    ACTION(jobNameButtonProc),
+    ACTION(accountNumberETextProc),
+    ACTION(accountNumberButtonProc),
+    ACTION(printersAddressButtonProc),
+#undef ACTION
+};
+
+Operation operationNamed(const QString& name) {
+  for (const ActionRow& row : table) {
+    if (name == QLatin1String(row.name)) return row.operation;
+  }
+  return nullptr;
+}
+
+void bindRules(RadioMatrix* matrix, EnablingRules& rules) {
+  for (const QString& name : matrix->rules()) {
+    if (!EnablingRules::exists(name)) {
+      qCWarning(layout, "%s asks for the unknown rule %s", qUtf8Printable(matrix->objectName()), qUtf8Printable(name));
+    }
+  }
+  QObject::connect(matrix, &RadioMatrix::selectedRowChanged, matrix, [&rules](RadioMatrix* changed) {
+    for (const QString& name : changed->rules()) rules.runByName(name);
+  });
+}
+
+}  // namespace
+
+void bindActions(const PanelView& view, ControlActions& actions, EnablingRules& rules) {
+  for (Control* control : view.controls()) {
+    if (auto* matrix = qobject_cast<RadioMatrix*>(control)) bindRules(matrix, rules);
+    if (control->action().isEmpty()) continue;
+    const Operation operation = operationNamed(control->action());
+    if (operation == nullptr) {
+      qCWarning(layout, "%s names the unknown action %s", qUtf8Printable(control->objectName()),
+                qUtf8Printable(control->action()));
+      continue;
+    }
+    QObject::connect(control, &Control::actionSent, control,
+                     [&actions, operation](Control* sender) { (actions.*operation)(sender); });
+  }
+}
+
+}  // namespace kesto

@@ -1,0 +1,22 @@
+// What the panel checks before the job goes out, and how it sums itself up.
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtCore/QString>
+
+#include "panel/state.h"
+
+namespace kesto {
+
+/// Whether the entry that the choice in force asks for is there: the login name, also while it is held, or the user
+/// number. A control that the layout leaves out is not asked for.
+bool isAuthenticationEntered(const PanelState& state);
+
+/// Shows the alert that asks for the authentication entries.
+void alertAuthenticationMissing(PanelState& state);
+
+/// Label and value of retention, folder, hold choice, user name and job name; empty before the controls are
+/// initialised. Labels lose their colons. An entry without label or value is left out.
+QMap<QString, QString> summaryOf(const PanelState& state);
+
+}  // namespace kesto

@@ -1,0 +1,25 @@
+// The bundle's principal object, which makes the panels.
+#pragma once
+
+#include "platform/panel.h"
+
+namespace kesto {
+
+/// The type identifier of the print dialog, compared exactly.
+inline constexpr char printDialogType[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
+
+/// Contributes one Job Handling panel to the print dialog, and none to other dialogs. It keeps no state.
+class KestoPrintPdeVq250nJCPDEPlugIn : public QObject, public PrintDialogPlugIn {
+  Q_OBJECT
+  Q_PLUGIN_METADATA(IID KESTO_PRINT_DIALOG_PLUG_IN_IID FILE "JobHandling.json")
+  Q_INTERFACES(kesto::PrintDialogPlugIn)
+
+ public:
+  /// Does nothing with the bundle; always succeeds.
+  bool initWithBundle(const Bundle& bundle) override;
+  /// One new panel for the print dialog, no panel for another type; none when the panel cannot be made, as without a
+  /// host.
+  PanelList PDEPanelsForType(const QString& type, HostCallback* withHostInfo) override;
+};
+
+}  // namespace kesto

@@ -1,0 +1,47 @@
+// The record of one printer in the user's preferences (docs/formats/preferences.md).
+#pragma once
+
+#include <QtCore/QJsonObject>
+
+#include "folders/folder_list_store.h"
+#include "panel/state.h"
+
+namespace kesto {
+
+/// Validates, loads and saves what the user let the panel remember for the printer. Every operation reads the domain
+/// afresh, and every write replaces it whole, so that other keys of the domain survive and the last writer's record
+/// wins. Without a preference domain there is nothing to load, and saving answers false.
+class PreferenceStore : public FolderListStore {
+ public:
+  explicit PreferenceStore(PanelState& state) : m_state(state) {}
+
+  /// Resets the record when it is of another printer model or release, and writes it either way.
+  void CheckPreference();
+  /// Loads the hold-button mask and the values whose bits it has; all are cleared first. A mask that is no 32-bit
+  /// integer loads no value.
+  void GetUserPreference();
+  /// Stores the controls' entries and the hold-button mask; false when nothing could be written.
+  bool SaveUserPreference();
+  /// Loads the folder list and the printer's address.
+  void GetFolderPreference();
+  bool SaveFolderPreference() override;
+  /// This model keeps nothing of a hard disk.
+  bool GetHDDPreference() { return true; }
+  bool SaveHDDPreference() { return true; }
+
+ private:
+  struct Access {
+    bool available = false;
+    bool exists = false;  // the domain holds a record
+    QJsonObject domain;
+    QJsonObject record;
+  };
+  Access access() const;
+  bool write(Access access);
+  void storeEntry(const HeldField& row, QJsonObject* record) const;
+  QString sealedEntry(const HeldField& row, const QString& text) const;
+
+  PanelState& m_state;
+};
+
+}  // namespace kesto
