@@ -1,16 +1,14 @@
 #include "platform/json_user_defaults.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QLoggingCategory>
-#include <QtCore/QSaveFile>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QUrl>
+
+#include "platform/private_file.h"
 
 namespace kesto {
 namespace {
@@ -32,14 +30,6 @@ bool makePrivateFolder(const QString& path) {
   if (!QFileInfo(parent).isDir() && parent != path && !makePrivateFolder(parent)) return false;
   // Another process may have made it meanwhile.
   return QDir().mkdir(path, ownerFolder) || QFileInfo(path).isDir();
-}
-
-// A rename is on disk only once its folder is synced.
-void syncFolder(const QString& path) {
-  const int folder = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (folder < 0) return;
-  ::fsync(folder);
-  ::close(folder);
 }
 
 // What cannot be read as a domain is the user's all the same: it goes on under another name.
@@ -86,14 +76,7 @@ Outcome JsonUserDefaults::setPersistentDomain(const QJsonObject& values, const Q
   if (!makePrivateFolder(m_directory)) {
     return Outcome::failed(QStringLiteral("the folder %1 cannot be made private").arg(m_directory));
   }
-  const QString path = pathForName(name);
-  QSaveFile file(path);
-  const auto failed = [&] { return Outcome::failed(QStringLiteral("%1: %2").arg(path, file.errorString())); };
-  if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(ownerFile)) return failed();
-  file.write(QJsonDocument(values).toJson());
-  if (!file.commit()) return failed();
-  syncFolder(m_directory);
-  return Outcome::done();
+  return writePrivateFile(pathForName(name), QJsonDocument(values).toJson());
 }
 
 }  // namespace kesto

@@ -46,24 +46,43 @@ struct CloseConverter {
   void operator()(UConverter* converter) const { ucnv_close(converter); }
 };
 
-// An open converter that stops at what does not convert; opening one is far dearer than using it.
+using Converter = std::unique_ptr<UConverter, CloseConverter>;
+
+// A converter that stops at what does not convert; null when ICU has none of the name.
+Converter openConverter(const char* name) {
+  UErrorCode status = U_ZERO_ERROR;
+  Converter converter(ucnv_open(name, &status));
+  if (U_SUCCESS(status)) {
+    ucnv_setFallback(converter.get(), 0);
+    ucnv_setFromUCallBack(converter.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
+    ucnv_setToUCallBack(converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
+  }
+  if (U_FAILURE(status)) converter.reset();
+  return converter;
+}
+
+// Opened once in a thread: opening a converter is far dearer than using it.
 UConverter* converterOf(TextEncoding encoding) {
-  thread_local std::array<std::unique_ptr<UConverter, CloseConverter>, rows.size()> open;
-  auto& converter = open.at(static_cast<std::size_t>(encoding));
+  thread_local std::array<Converter, rows.size()> open;
+  Converter& converter = open.at(static_cast<std::size_t>(encoding));
   if (!converter) {
-    UErrorCode status = U_ZERO_ERROR;
-    converter.reset(ucnv_open(rowOf(encoding).converter, &status));
-    if (U_SUCCESS(status)) {
-      ucnv_setFallback(converter.get(), 0);
-      ucnv_setFromUCallBack(converter.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
-      ucnv_setToUCallBack(converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
-    }
-    if (U_FAILURE(status)) {
-      qCWarning(encodings, "no converter %s: %s", rowOf(encoding).converter, u_errorName(status));
-      converter.reset();
-    }
+    converter = openConverter(rowOf(encoding).converter);
+    if (!converter) qCWarning(encodings, "no converter %s", rowOf(encoding).converter);
   }
   return converter.get();
+}
+
+// The text of all bytes; null when they are not valid.
+QString decoded(UConverter* converter, const QByteArray& bytes) {
+  if (converter == nullptr) return {};
+  // No byte of these encodings stands for more than two units.
+  std::vector<UChar> units(static_cast<std::size_t>(bytes.size()) * 2 + 1);
+  UErrorCode status = U_ZERO_ERROR;
+  const int32_t count = ucnv_toUChars(converter, units.data(), static_cast<int32_t>(units.size()), bytes.constData(),
+                                      static_cast<int32_t>(bytes.size()), &status);
+  if (U_FAILURE(status)) return {};
+  // A text of no characters is a text all the same.
+  return count == 0 ? QString::fromLatin1("") : QString(reinterpret_cast<const QChar*>(units.data()), count);
 }
 
 // The bytes of one character (one unit, or a surrogate pair); empty when it does not convert.
@@ -200,18 +219,13 @@ std::optional<QByteArray> asciiOfText(QStringView text, qsizetype bufferSize) {
 
 QString textOfBytes(const QByteArray& bytes, TextEncoding encoding) {
   const qsizetype nul = bytes.indexOf('\0');
-  const qsizetype length = nul < 0 ? bytes.size() : nul;
-  UConverter* converter = converterOf(encoding);
-  if (converter == nullptr) return {};
-  std::vector<UChar> units(static_cast<std::size_t>(length) * 2 + 1);
-  UErrorCode status = U_ZERO_ERROR;
-  const int32_t count = ucnv_toUChars(converter, units.data(), static_cast<int32_t>(units.size()), bytes.constData(),
-                                      static_cast<int32_t>(length), &status);
-  if (U_FAILURE(status)) return {};
-  const QString text(reinterpret_cast<const QChar*>(units.data()), count);
+  const QString text = decoded(converterOf(encoding), nul < 0 ? bytes : bytes.first(nul));
   const bool swapped = encoding == TextEncoding::MacJapanese || encoding == TextEncoding::ShiftJis;
-  // A text of no characters is a text all the same.
-  return text.isNull() ? QString::fromLatin1("") : (swapped ? withoutSwappedControls(text) : text);
+  return swapped ? withoutSwappedControls(text) : text;
+}
+
+QString textOfBytesIn(const QByteArray& bytes, const QByteArray& encodingName) {
+  return decoded(openConverter(encodingName.constData()).get(), bytes);
 }
 
 }  // namespace kesto

@@ -49,4 +49,8 @@ std::optional<QByteArray> asciiOfText(QStringView text, qsizetype bufferSize);
 /// The text of the bytes up to the first NUL; a null string when they are not valid in the encoding.
 QString textOfBytes(const QByteArray& bytes, TextEncoding encoding);
 
+/// The text of all bytes in an encoding given by its common name, such as "Shift_JIS"; a null string when they are not
+/// valid in it or it is not known.
+QString textOfBytesIn(const QByteArray& bytes, const QByteArray& encodingName);
+
 }  // namespace kesto

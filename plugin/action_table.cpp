@@ -8,7 +8,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(layout, "kesto.layout")
 
-using Operation = void (ControlActions::*)(Control*);
+using Operation = void (*)(const ActionGroups&, Control*);
 
 struct ActionRow {
   const char* name;
@@ -16,7 +16,8 @@ struct ActionRow {
 };
 
 constexpr std::array table{
-#define ACTION(name) ActionRow{#name ":", &ControlActions::name}
+#define ACTION(name) \
+  ActionRow { #name ":", [](const ActionGroups& groups, Control* sender) { groups.actions.name(sender); } }
     ACTION(tabProc),
     ACTION(retentionCBoxProc),
     ACTION(suspendKeyMatrixProc),
@@ -42,6 +43,9 @@ constexpr std::array table{
     ACTION(accountNumberButtonProc),
     ACTION(printersAddressButtonProc),
 #undef ACTION
+    ActionRow{"getFolderNameButtonProc:", [](const ActionGroups& groups, Control* sender) {
+                groups.folderQuery.getFolderNameButtonProc(sender);
+              }},
 };
 
 Operation operationNamed(const QString& name) {
@@ -64,9 +68,9 @@ void bindRules(RadioMatrix* matrix, EnablingRules& rules) {
 
 }  // namespace
 
-void bindActions(const PanelView& view, ControlActions& actions, EnablingRules& rules) {
+void bindActions(const PanelView& view, const ActionGroups& groups) {
   for (Control* control : view.controls()) {
-    if (auto* matrix = qobject_cast<RadioMatrix*>(control)) bindRules(matrix, rules);
+    if (auto* matrix = qobject_cast<RadioMatrix*>(control)) bindRules(matrix, groups.rules);
     if (control->action().isEmpty()) continue;
     const Operation operation = operationNamed(control->action());
     if (operation == nullptr) {
@@ -75,7 +79,7 @@ void bindActions(const PanelView& view, ControlActions& actions, EnablingRules& 
       continue;
     }
     QObject::connect(control, &Control::actionSent, control,
-                     [&actions, operation](Control* sender) { (actions.*operation)(sender); });
+                     [groups, operation](Control* sender) { operation(groups, sender); });
   }
 }
 

@@ -88,7 +88,7 @@ void KestoPrintPdeVq250nJC::loadView() {
     return;
   }
   m_state.outlets = outletsOfView(m_panelView.get());
-  bindActions(*m_panelView, m_actions, m_rules);
+  bindActions(*m_panelView, {.rules = m_rules, .actions = m_actions, .folderQuery = m_folderQuery});
 }
 
 PanelView* KestoPrintPdeVq250nJC::panelView() {

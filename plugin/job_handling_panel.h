@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "folders/folder_popup.h"
+#include "folders/folder_query.h"
 #include "panel/capabilities.h"
 #include "panel/control_actions.h"
 #include "panel/model/panel_view.h"
@@ -84,6 +85,7 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   SettingsWriter m_writer{m_state, *this};
   SettingsReader m_reader{m_state, m_actions, m_folderPopup};
   PreferenceStore m_preferences{m_state};
+  FolderQuery m_folderQuery{m_state, m_folderPopup, m_preferences};
   ppd_file_s* m_ppd = nullptr;  // the host's
   QString m_thePDEName;
   std::unique_ptr<PanelView> m_panelView;

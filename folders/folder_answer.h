@@ -1,0 +1,25 @@
+// Reads the printer's answer to a folder-list request (docs/formats/folder-exchange.md).
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <optional>
+#include <vector>
+
+#include "panel/folder_entry.h"
+
+namespace kesto {
+
+/// What an answer says.
+struct FolderAnswer {
+  bool isList = false;               ///< A folder list was read; else the printer gave none.
+  std::vector<FolderEntry> folders;  ///< In the answer's order; empty when it is no list.
+};
+
+/// Reads the document by position and name: the envelope's last child is the body, its last child the response; there
+/// "result-code" other than "ok" fails the answer, and each child of the last "files" is a folder. Comments,
+/// instructions and CDATA sections are nodes like any other; blank text is none. Names are compared as written, with
+/// their prefix. Folders without a name are left out. None when the document is not well-formed. Entities are
+/// expanded within narrow limits, and nothing outside the document is ever read.
+std::optional<FolderAnswer> readFolderAnswer(const QByteArray& xml);
+
+}  // namespace kesto

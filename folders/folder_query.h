@@ -1,0 +1,42 @@
+// Fetches the printer's folder list.
+#pragma once
+
+#include <chrono>
+#include <memory>
+
+#include "folders/folder_list_store.h"
+#include "folders/folder_popup.h"
+#include "folders/soap_client.h"
+
+namespace kesto {
+
+/// The folder button: asks the printer at the address shown, reads the answer, stores it and offers it in the pop-up.
+///
+/// The exchange runs the event loop, so the user and the host can do other things meanwhile: a second press does
+/// nothing, a save or a restore works as ever, and a panel that is destroyed ends the exchange without an alert.
+class FolderQuery : public SoapContext {
+ public:
+  FolderQuery(PanelState& state, FolderPopup& folderPopup, FolderListStore& store)
+      : m_state(state), m_folderPopup(folderPopup), m_store(store) {}
+  ~FolderQuery() override;
+
+  /// The button's action. Whatever becomes of the exchange, the answer file, old or new, is read, stored and offered.
+  void getFolderNameButtonProc(Control* sender);
+  /// Reads an answer file into the folder list. False, with the list unchanged, when it is missing or not well-formed;
+  /// false, with an empty list, when it holds no list.
+  bool parseXML(const QString& path);
+  /// Stops the progress indicator and tells the user that the exchange failed.
+  void recieveEndCallback() override;
+
+ private:
+  void fetch(const QString& printerAddress);
+  void showProgress(bool isRunning);
+
+  PanelState& m_state;
+  FolderPopup& m_folderPopup;
+  FolderListStore& m_store;
+  KestoPrintPdeVq250nJCSOAPClient* m_running = nullptr;      // while an exchange waits
+  std::shared_ptr<bool> m_isAlive = std::make_shared<bool>(true);  // outlives this in a waiting exchange
+};
+
+}  // namespace kesto

@@ -1,0 +1,74 @@
+// Posts one SOAP message to the printer and waits for the answer (docs/formats/folder-exchange.md).
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QObject>
+#include <QtCore/QUrl>
+#include <chrono>
+#include <memory>
+
+class QNetworkReply;
+
+namespace kesto {
+
+class Platform;
+
+/// Told when an exchange fails or times out.
+class SoapContext {
+ public:
+  virtual ~SoapContext() = default;
+  virtual void recieveEndCallback() = 0;
+};
+
+/// The path of the answer file: "vwxyz.xml" in the user's temporary directory, or in "/tmp/" when there is none.
+QString answerFilePath(Platform& platform);
+
+/// Most bytes of an answer; a longer one is a failed exchange.
+inline constexpr qsizetype largestAnswer = qsizetype{32} * 1024 * 1024;
+
+/// One exchange with one endpoint. The whole answer, whatever its HTTP status, replaces the answer file; a failure
+/// leaves it as it was. Redirects are not followed, and no proxy stands between panel and printer.
+class KestoPrintPdeVq250nJCSOAPClient : public QObject {
+  Q_OBJECT
+
+ public:
+  static constexpr std::chrono::milliseconds timeLimit{20000};
+
+  /// A client for the URL `serverName`; null when that is no valid URL. `context` is not owned, and told of a failure
+  /// before `sendMessage` returns; `limit` bounds the wait.
+  static std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> initWithServerName(
+      const QString& serverName, Platform& platform, SoapContext* context,
+      std::chrono::milliseconds limit = timeLimit);
+  ~KestoPrintPdeVq250nJCSOAPClient() override;
+
+  /// Posts `body` and returns when the exchange has ended. Meanwhile it runs the thread's event loop.
+  void sendMessage(const QByteArray& body);
+  /// Ends a running exchange at once, without a word to the context.
+  void cancel();
+
+ private:
+  enum class Finished { Running, Answered, TimedOut, Failed, Cancelled };
+
+  KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platform& platform, SoapContext* context, std::chrono::milliseconds limit);
+  void connectionDidReceiveResponse();
+  void connectionDidReceiveData();
+  void connectionDidFinishLoading();
+  void connectionDidFailWithError();
+  void firedByTimer();
+  void replyFinished();
+  void finish(Finished state);
+  void waitUntilFinished();
+
+  QUrl m_url;
+  Platform& m_platform;
+  SoapContext* m_context;
+  std::chrono::milliseconds m_limit;
+  Finished m_finished = Finished::Running;
+  QNetworkReply* m_reply = nullptr;  // during sendMessage
+  QByteArray m_receivedData;
+
+ Q_SIGNALS:
+  void finishedChanged();
+};
+
+}  // namespace kesto
