@@ -2,10 +2,10 @@
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
-#include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkProxy>
-#include <QtNetwork/QNetworkReply>
+#include <QtNetwork/QTcpSocket>
 
+#include "panel/trace.h"
 #include "platform/platform.h"
 #include "platform/private_file.h"
 
@@ -13,32 +13,7 @@ namespace kesto {
 namespace {
 
 constexpr std::chrono::milliseconds slice{1000};
-constexpr std::chrono::milliseconds requestTimeOut{60000};
-
-QNetworkRequest requestTo(const QUrl& url, qsizetype bodySize) {
-  QNetworkRequest request(url);
-  request.setRawHeader("SOAPAction", "\"SoapActionDummy\"");
-  request.setRawHeader("Content-Type", "application/soap; charset=\"utf-8\"");
-  request.setRawHeader("Content-Length", QByteArray::number(bodySize));
-  // The answer comes as it is: no compression to unpack, nothing of a cache, no other host.
-  request.setRawHeader("Accept-Encoding", "identity");
-  request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-  request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
-  request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-  request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-  request.setTransferTimeout(static_cast<int>(requestTimeOut.count()));
-  return request;
-}
-
-// Whether the whole answer came, be it an HTTP error. What breaks the connection or the chunks of the body comes as an
-// error of the transport (the first hundred) or of the protocol.
-bool isAnswered(const QNetworkReply& reply) {
-  const QNetworkReply::NetworkError error = reply.error();
-  if (error != QNetworkReply::NoError && error <= QNetworkReply::UnknownNetworkError) return false;
-  if (error == QNetworkReply::ProtocolUnknownError || error == QNetworkReply::ProtocolFailure) return false;
-  return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
-}
+constexpr quint16 httpPort = 80;
 
 }  // namespace
 
@@ -59,37 +34,46 @@ KestoPrintPdeVq250nJCSOAPClient::KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platf
                                                                  std::chrono::milliseconds limit)
     : m_url(std::move(url)), m_platform(platform), m_context(context), m_limit(limit) {}
 
-KestoPrintPdeVq250nJCSOAPClient::~KestoPrintPdeVq250nJCSOAPClient() = default;
+// The values keep their quotation marks; the printer's service compares them as they are.
+QByteArray KestoPrintPdeVq250nJCSOAPClient::requestFor(const QByteArray& body) const {
+  const QUrl::FormattingOptions encoded = QUrl::FullyEncoded;
+  const QByteArray target = m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
+  const QByteArray host = m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveUserInfo | QUrl::RemovePath |
+                                          QUrl::RemoveQuery | QUrl::RemoveFragment);
+  return "POST " + target + " HTTP/1.1\r\n" +
+         "Host: " + host.mid(2) + "\r\n" +
+         "SOAPAction: \"SoapActionDummy\"\r\n"
+         "Content-Type: application/soap; charset=\"utf-8\"\r\n"
+         "Content-Length: " + QByteArray::number(body.size()) + "\r\n" +
+         "Connection: close\r\n\r\n" + body;
+}
 
 void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
-  using Client = KestoPrintPdeVq250nJCSOAPClient;
-  QNetworkAccessManager manager;
-  manager.setProxy(QNetworkProxy::NoProxy);
   m_finished = Finished::Running;
-  m_receivedData.clear();
-  const std::unique_ptr<QNetworkReply> reply(manager.post(requestTo(m_url, body.size()), body));
-  m_reply = reply.get();
-  connect(m_reply, &QNetworkReply::metaDataChanged, this, &Client::connectionDidReceiveResponse);
-  connect(m_reply, &QIODevice::readyRead, this, &Client::connectionDidReceiveData);
-  connect(m_reply, &QNetworkReply::finished, this, &Client::replyFinished);
+  m_response = HttpResponse(largestAnswer);
+  QTcpSocket socket;
+  socket.setProxy(QNetworkProxy::NoProxy);
+  const QByteArray request = requestFor(body);
+  connect(&socket, &QTcpSocket::connected, this, [&] { socket.write(request); });
+  connect(&socket, &QTcpSocket::readyRead, this, [&] { connectionDidReceiveData(socket); });
+  connect(&socket, &QTcpSocket::errorOccurred, this, [&] { connectionDidEnd(socket); });
+  socket.connectToHost(m_url.host(QUrl::FullyEncoded), static_cast<quint16>(m_url.port(httpPort)));
   QTimer timer;
   timer.setSingleShot(true);
-  connect(&timer, &QTimer::timeout, this, &Client::firedByTimer);
+  connect(&timer, &QTimer::timeout, this, &KestoPrintPdeVq250nJCSOAPClient::firedByTimer);
   timer.start(m_limit);
 
   waitUntilFinished();
 
   timer.stop();
-  m_reply->disconnect(this);
-  if (m_finished != Finished::Answered) m_reply->abort();
-  m_reply = nullptr;
+  socket.disconnect(this);
+  socket.abort();
   if (m_finished == Finished::Answered) {
     // Without the file there is nothing new to read; that is not reported.
-    (void)writePrivateFile(answerFilePath(m_platform), m_receivedData);
+    (void)writePrivateFile(answerFilePath(m_platform), m_response.body());
   } else if (m_finished != Finished::Cancelled) {
     m_context->recieveEndCallback();
   }
-  m_receivedData.clear();
 }
 
 void KestoPrintPdeVq250nJCSOAPClient::waitUntilFinished() {
@@ -110,12 +94,28 @@ void KestoPrintPdeVq250nJCSOAPClient::finish(Finished state) {
   Q_EMIT finishedChanged();
 }
 
-// A later response, if one comes, starts the body afresh.
-void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveResponse() { m_receivedData.clear(); }
+// Whatever its status, the response counts by its body.
+void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveResponse() {
+  _PDELog(this, "HTTP status %@", QString::number(m_response.status()));
+}
 
-void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData() {
-  m_receivedData += m_reply->readAll();
-  if (m_receivedData.size() > largestAnswer) connectionDidFailWithError();
+void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData(QTcpSocket& socket) {
+  const bool hadResponse = m_response.status() != 0;
+  m_response.take(socket.readAll());
+  if (!hadResponse && m_response.status() != 0) connectionDidReceiveResponse();
+  if (m_response.isWhole()) connectionDidFinishLoading();
+  if (m_response.isBad()) connectionDidFailWithError();
+}
+
+// The end of the connection ends an answer without a length; any other error breaks it.
+void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(QTcpSocket& socket) {
+  connectionDidReceiveData(socket);
+  if (socket.error() == QAbstractSocket::RemoteHostClosedError) m_response.end();
+  if (m_response.isWhole()) {
+    connectionDidFinishLoading();
+  } else {
+    connectionDidFailWithError();
+  }
 }
 
 void KestoPrintPdeVq250nJCSOAPClient::connectionDidFinishLoading() { finish(Finished::Answered); }
@@ -123,14 +123,5 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidFinishLoading() { finish(Fini
 void KestoPrintPdeVq250nJCSOAPClient::connectionDidFailWithError() { finish(Finished::Failed); }
 
 void KestoPrintPdeVq250nJCSOAPClient::firedByTimer() { finish(Finished::TimedOut); }
-
-void KestoPrintPdeVq250nJCSOAPClient::replyFinished() {
-  connectionDidReceiveData();
-  if (isAnswered(*m_reply)) {
-    connectionDidFinishLoading();
-  } else {
-    connectionDidFailWithError();
-  }
-}
 
 }  // namespace kesto

@@ -7,7 +7,9 @@
 #include <chrono>
 #include <memory>
 
-class QNetworkReply;
+#include "folders/http_response.h"
+
+class QTcpSocket;
 
 namespace kesto {
 
@@ -39,23 +41,26 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   static std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> initWithServerName(
       const QString& serverName, Platform& platform, SoapContext* context,
       std::chrono::milliseconds limit = timeLimit);
-  ~KestoPrintPdeVq250nJCSOAPClient() override;
 
   /// Posts `body` and returns when the exchange has ended. Meanwhile it runs the thread's event loop.
   void sendMessage(const QByteArray& body);
   /// Ends a running exchange at once, without a word to the context.
   void cancel();
 
+ Q_SIGNALS:
+  void finishedChanged();
+
  private:
   enum class Finished { Running, Answered, TimedOut, Failed, Cancelled };
 
   KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platform& platform, SoapContext* context, std::chrono::milliseconds limit);
+  QByteArray requestFor(const QByteArray& body) const;
   void connectionDidReceiveResponse();
-  void connectionDidReceiveData();
+  void connectionDidReceiveData(QTcpSocket& socket);
+  void connectionDidEnd(QTcpSocket& socket);
   void connectionDidFinishLoading();
   void connectionDidFailWithError();
   void firedByTimer();
-  void replyFinished();
   void finish(Finished state);
   void waitUntilFinished();
 
@@ -64,11 +69,7 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   SoapContext* m_context;
   std::chrono::milliseconds m_limit;
   Finished m_finished = Finished::Running;
-  QNetworkReply* m_reply = nullptr;  // during sendMessage
-  QByteArray m_receivedData;
-
- Q_SIGNALS:
-  void finishedChanged();
+  HttpResponse m_response{largestAnswer};
 };
 
 }  // namespace kesto

@@ -1,0 +1,113 @@
+// What the folder exchange adds to the time that the printer takes: one exchange through the client against the same
+// bytes over a bare socket, both with a printer that answers after a fixed delay.
+#include <benchmark/benchmark.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QThread>
+#include <QtCore/QTimer>
+#include <QtNetwork/QTcpServer>
+#include <QtNetwork/QTcpSocket>
+
+#include "folders/soap_client.h"
+#include "platform/platform.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto printerDelay = 20ms;
+const QByteArray answer = "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: 4\r\n\r\n<e/>";
+
+// A printer in a thread of its own.
+class Printer {
+ public:
+  Printer() {
+    m_thread.start();
+    QObject* server = &m_server;
+    m_server.moveToThread(&m_thread);
+    QObject::connect(&m_server, &QTcpServer::newConnection, server, [this] { serve(m_server.nextPendingConnection()); });
+    QMetaObject::invokeMethod(server, [this] { m_server.listen(QHostAddress::LocalHost); }, Qt::BlockingQueuedConnection);
+  }
+  ~Printer() {
+    QMetaObject::invokeMethod(&m_server, [this] { m_server.close(); }, Qt::BlockingQueuedConnection);
+    m_thread.quit();
+    m_thread.wait();
+  }
+  quint16 port() const { return m_server.serverPort(); }
+
+ private:
+  static void serve(QTcpSocket* socket) {
+    QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket] {
+      if (!socket->readAll().endsWith("<request/>")) return;
+      QTimer::singleShot(printerDelay, Qt::PreciseTimer, socket, [socket] {
+        socket->write(answer);
+        socket->disconnectFromHost();
+      });
+    });
+    QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+  }
+
+  QThread m_thread;
+  QTcpServer m_server;
+};
+
+// Only the temporary directory is asked for.
+class BenchPlatform : public kesto::Platform {
+ public:
+  std::shared_ptr<const kesto::Bundle> bundle() override { return nullptr; }
+  kesto::UserDefaults& userDefaults() override { std::abort(); }
+  kesto::AlertPresenter& alertPresenter() override { std::abort(); }
+  QDateTime now() override { return {}; }
+  QString temporaryDirectory() override { return m_folder.path() + QLatin1Char('/'); }
+  QString userName() override { return {}; }
+  QString fullUserName() override { return {}; }
+  kesto::TextEncoding systemEncoding() override { return kesto::TextEncoding::MacRoman; }
+
+ private:
+  QTemporaryDir m_folder;
+};
+
+class Context : public kesto::SoapContext {
+ public:
+  void recieveEndCallback() override { std::abort(); }
+};
+
+QCoreApplication& application() {
+  static int argc = 1;
+  static char name[] = "kesto-bench";
+  static char* argv[] = {name, nullptr};
+  static QCoreApplication instance(argc, argv);
+  return instance;
+}
+
+void exchangeThroughTheClient(benchmark::State& state) {
+  application();
+  const Printer printer;
+  BenchPlatform platform;
+  Context context;
+  const QString url = QStringLiteral("http://127.0.0.1:%1/kesto-mfp-srv").arg(printer.port());
+  for (auto _ : state) {
+    const auto client = kesto::KestoPrintPdeVq250nJCSOAPClient::initWithServerName(url, platform, &context);
+    client->sendMessage("<request/>");
+  }
+}
+
+void exchangeOverABareSocket(benchmark::State& state) {
+  application();
+  const Printer printer;
+  const QByteArray request = "POST /kesto-mfp-srv HTTP/1.1\r\nContent-Length: 10\r\n\r\n<request/>";
+  for (auto _ : state) {
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress::LocalHost, printer.port());
+    if (!socket.waitForConnected()) std::abort();
+    socket.write(request);
+    while (socket.state() == QAbstractSocket::ConnectedState) socket.waitForReadyRead();
+    benchmark::DoNotOptimize(socket.readAll());
+  }
+}
+
+BENCHMARK(exchangeThroughTheClient)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(exchangeOverABareSocket)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace

@@ -1,0 +1,215 @@
+#include <sys/stat.h>
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
+
+#include "folders/soap_client.h"
+#include "support/folder_server.h"
+#include "support/test_platform.h"
+
+namespace kesto::test {
+namespace {
+
+using namespace std::chrono_literals;
+using End = FolderServer::End;
+
+// One exchange with an answer file of its own.
+struct Exchange : SoapContext {
+  Exchange() { platform.temporary = folder.path() + u'/'; }
+
+  void recieveEndCallback() override { ++failures; }
+
+  bool run(const QString& url, std::chrono::milliseconds limit = 10s, const QByteArray& body = "<request/>") {
+    client = KestoPrintPdeVq250nJCSOAPClient::initWithServerName(url, platform, this, limit);
+    if (client) client->sendMessage(body);
+    return client != nullptr;
+  }
+
+  QString path() { return answerFilePath(platform); }
+  // The answer file's bytes; null without one.
+  QByteArray answer() {
+    QFile file(path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+  void putOld() {
+    QFile file(path());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("old");
+  }
+
+  QTemporaryDir folder;
+  TestPlatform platform;
+  std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> client;
+  int failures = 0;
+};
+
+TEST(SoapClient, SendsTheRequestAsItIs) {
+  for (const QByteArray& body : {QByteArray("<request>\xC3\xA4</request>\n"), QByteArray()}) {
+    SCOPED_TRACE(body.size());
+    FolderServer server;
+    Exchange exchange;
+    ASSERT_TRUE(exchange.run(server.url(), 10s, body));
+    ASSERT_EQ(server.requests.size(), 1);
+    const QByteArray head = server.requests[0].left(server.requests[0].indexOf("\r\n\r\n"));
+    QList<QByteArray> lines = head.split('\n');
+    for (QByteArray& line : lines)
+      line = line.trimmed();
+    EXPECT_EQ(lines[0], "POST /kesto-mfp-srv HTTP/1.1");
+    EXPECT_TRUE(lines.contains("SOAPAction: \"SoapActionDummy\""));
+    EXPECT_TRUE(lines.contains("Content-Type: application/soap; charset=\"utf-8\""));
+    EXPECT_TRUE(lines.contains("Content-Length: " + QByteArray::number(body.size())));
+    EXPECT_EQ(head.count("Content-"), 2);
+    EXPECT_EQ(server.requests[0].mid(head.size() + 4), body);
+  }
+}
+
+TEST(SoapClient, TheEventThatEndsTheExchangeDecides) {
+  struct Row {
+    const char* name;
+    QByteArray answer;
+    End end;
+    bool isAnswered;
+    QByteArray body;
+  };
+  const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\nConnection: close\r\n\r\n";
+  const QByteArray tooLong(largestAnswer + 1, 'x');
+  const QList<Row> rows{
+      {"whole", httpAnswer("good"), End::Close, true, "good"},
+      {"whole, connection stays open", httpAnswer("good"), End::StayOpen, true, "good"},
+      {"empty", httpAnswer(""), End::Close, true, ""},
+      {"an error of the server with a body", httpAnswer("bad", "500 Internal Server Error"), End::Close, true,
+       "bad"},
+      {"an error of the request with a body", httpAnswer("bad", "400 Bad Request"), End::Close, true, "bad"},
+      {"a demand to log in", httpAnswer("no", "401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n"),
+       End::Close, true, "no"},
+      {"chunks", chunked + "3\r\nabc\r\n4\r\ndefg\r\n0\r\n\r\n", End::Close, true, "abcdefg"},
+      {"until the connection ends", "HTTP/1.0 200 OK\r\n\r\nlast", End::Close, true, "last"},
+      {"no answer", "", End::Close, false, "old"},
+      {"reset", "", End::Reset, false, "old"},
+      {"cut short", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nshort", End::Close, false, "old"},
+      {"reset in the middle", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nshort", End::Reset, false,
+       "old"},
+      {"last chunk missing", chunked + "3\r\nabc\r\n", End::Close, false, "old"},
+      {"not HTTP", "hello\r\n\r\n", End::Close, false, "old"},
+      {"longer than the limit", httpAnswer(tooLong), End::Close, false, "old"},
+      {"no answer in time", "", End::StayOpen, false, "old"},
+      {"half an answer in time", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nslow", End::StayOpen, false,
+       "old"},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    FolderServer server;
+    server.answer = row.answer;
+    server.end = row.end;
+    Exchange exchange;
+    exchange.putOld();
+    const bool isSlow = !row.isAnswered && row.end == End::StayOpen;
+    ASSERT_TRUE(exchange.run(server.url(), isSlow ? 50ms : 10000ms));
+    EXPECT_EQ(exchange.failures, row.isAnswered ? 0 : 1);
+    EXPECT_EQ(exchange.answer(), row.body);
+  }
+}
+
+TEST(SoapClient, ASlowTrickleEndsAtTheLimit) {
+  FolderServer server;
+  server.answer = "HTTP/1.1 200 OK\r\nContent-Length: 100000\r\n\r\n";
+  server.end = End::StayOpen;
+  QTimer drip;
+  drip.callOnTimeout([&] {
+    for (QTcpSocket* socket : server.findChildren<QTcpSocket*>())
+      socket->write(" ");
+  });
+  drip.start(5);
+  Exchange exchange;
+  ASSERT_TRUE(exchange.run(server.url(), 100ms));
+  EXPECT_EQ(exchange.failures, 1);
+  EXPECT_TRUE(exchange.answer().isNull());
+}
+
+TEST(SoapClient, PortThatRefuses) {
+  QString url;
+  {
+    const FolderServer gone;
+    url = gone.url();
+  }
+  Exchange exchange;
+  ASSERT_TRUE(exchange.run(url));
+  EXPECT_EQ(exchange.failures, 1);
+}
+
+TEST(SoapClient, InvalidUrlsGiveNoClient) {
+  for (const char* url :
+       {"http://bad address/kesto-mfp-srv", "http://host: /x", "http://127.0.0.1:99999/x", "http://[::1/x"}) {
+    SCOPED_TRACE(url);
+    Exchange exchange;
+    EXPECT_FALSE(exchange.run(QString::fromLatin1(url)));
+    EXPECT_EQ(exchange.failures, 0);
+  }
+}
+
+TEST(SoapClient, NoProxyStandsBetween) {
+  qputenv("http_proxy", "http://127.0.0.1:9");
+  FolderServer server;
+  Exchange exchange;
+  ASSERT_TRUE(exchange.run(server.url()));
+  qunsetenv("http_proxy");
+  EXPECT_EQ(server.requests.size(), 1);
+  EXPECT_EQ(exchange.failures, 0);
+}
+
+TEST(SoapClient, RedirectsAreNotFollowed) {
+  FolderServer elsewhere;
+  FolderServer server;
+  server.answer = httpAnswer("here", "302 Found", "Location: " + elsewhere.url().toLatin1() + "\r\n");
+  Exchange exchange;
+  ASSERT_TRUE(exchange.run(server.url()));
+  EXPECT_EQ(elsewhere.requests.size(), 0);
+  EXPECT_EQ(exchange.answer(), "here");
+}
+
+TEST(SoapClient, TheAnswerFileIsPrivateAndReplacesALink) {
+  FolderServer server;
+  Exchange exchange;
+  const QString victim = exchange.folder.filePath(u"victim"_s);
+  QFile precious(victim);
+  ASSERT_TRUE(precious.open(QIODevice::WriteOnly));
+  precious.write("precious");
+  precious.close();
+  ASSERT_TRUE(QFile::link(victim, exchange.path()));
+  ASSERT_TRUE(exchange.run(server.url()));
+  ASSERT_TRUE(precious.open(QIODevice::ReadOnly));
+  EXPECT_EQ(precious.readAll(), "precious");
+  struct stat info {};
+  ASSERT_EQ(::lstat(QFile::encodeName(exchange.path()).constData(), &info), 0);
+  EXPECT_TRUE(S_ISREG(info.st_mode));
+  EXPECT_EQ(info.st_mode & 0777, 0600U);
+  EXPECT_EQ(exchange.answer(), folders({"Art", "Maps*"}));
+}
+
+TEST(SoapClient, AnAnswerThatCannotBeWrittenIsNotReported) {
+  FolderServer server;
+  Exchange exchange;
+  exchange.platform.temporary = exchange.folder.filePath(u"nowhere/"_s);
+  ASSERT_TRUE(exchange.run(server.url()));
+  EXPECT_EQ(exchange.failures, 0);
+  EXPECT_EQ(server.requests.size(), 1);
+}
+
+TEST(SoapClient, CancelledWithoutAWord) {
+  FolderServer server;
+  Exchange exchange;
+  exchange.putOld();
+  server.onRequest = [&] { exchange.client->cancel(); };
+  ASSERT_TRUE(exchange.run(server.url()));
+  EXPECT_EQ(exchange.failures, 0);
+  EXPECT_EQ(exchange.answer(), "old");
+}
+
+TEST(SoapClient, WithoutATemporaryDirectoryTheFileIsInTmp) {
+  TestPlatform platform;
+  EXPECT_EQ(answerFilePath(platform), u"/tmp/vwxyz.xml"_s);
+}
+
+}  // namespace
+}  // namespace kesto::test

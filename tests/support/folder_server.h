@@ -1,0 +1,86 @@
+// The printer's end of the folder exchange, in the test's own thread: the exchange runs the event loop that
+// serves it.
+#pragma once
+
+#include <QtNetwork/QTcpServer>
+#include <QtNetwork/QTcpSocket>
+#include <functional>
+
+#include "support/printing.h"
+
+namespace kesto::test {
+
+/// An answer as it goes over the wire.
+inline QByteArray httpAnswer(const QByteArray& body, const QByteArray& status = "200 OK",
+                             const QByteArray& headers = {}) {
+  return "HTTP/1.1 " + status +
+         "\r\nConnection: close\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n" + headers +
+         "\r\n" + body;
+}
+
+/// An envelope around the children of the response.
+inline QByteArray envelope(const QByteArray& response) {
+  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<s:Envelope "
+         "xmlns:s=\"http://schemas.xmlsoap.org/soap/envelope/\">"
+         "\n <s:Body>\n  <r>" +
+         response + "</r>\n </s:Body>\n</s:Envelope>\n";
+}
+
+/// A good answer with folders; a name that ends in "*" is protected.
+inline QByteArray folders(const QList<QByteArray>& names) {
+  QByteArray files;
+  for (const QByteArray& name : names) {
+    const bool isProtected = name.endsWith('*');
+    files += "<file><name>" + (isProtected ? name.chopped(1) : name) + "</name><password>" +
+             (isProtected ? "true" : "false") + "</password><dir>true</dir></file>";
+  }
+  return envelope("<result-code>ok</result-code><files>" + files + "</files>");
+}
+
+/// Serves one answer per connection, on a port that the system chooses.
+class FolderServer : public QTcpServer {
+ public:
+  enum class End { Close, Reset, StayOpen };
+
+  FolderServer() {
+    listen(QHostAddress::LocalHost);
+    connect(this, &QTcpServer::newConnection, this, [this] { serve(nextPendingConnection()); });
+  }
+
+  QString address() const { return QStringLiteral("127.0.0.1:%1").arg(serverPort()); }
+  QString url() const { return QStringLiteral("http://") + address() + QStringLiteral("/kesto-mfp-srv"); }
+
+  QByteArray answer = httpAnswer(folders({"Art", "Maps*"}));
+  End end = End::Close;
+  std::function<void()> onRequest;  ///< Called when a request has come whole, before the answer.
+  QList<QByteArray> requests;       ///< Heads and bodies, as received.
+
+ private:
+  void serve(QTcpSocket* socket) {
+    socket->setParent(this);
+    connect(socket, &QTcpSocket::readyRead, socket, [this, socket, received = QByteArray()]() mutable {
+      received += socket->readAll();
+      const qsizetype head = received.indexOf("\r\n\r\n");
+      const qsizetype length = received.indexOf("Content-Length: ");
+      if (head < 0 || length < 0) return;
+      const qsizetype body =
+          received.mid(length + 16, received.indexOf('\r', length) - length - 16).toLongLong();
+      if (received.size() < head + 4 + body) return;
+      requests.append(std::exchange(received, {}));
+      if (onRequest) onRequest();
+      respond(socket);
+    });
+  }
+
+  void respond(QTcpSocket* socket) {
+    socket->write(answer);
+    if (end == End::Close) socket->disconnectFromHost();
+    if (end == End::Reset) {
+      socket->flush();
+      socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+      socket->abort();
+    }
+  }
+};
+
+}  // namespace kesto::test
