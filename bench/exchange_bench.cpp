@@ -1,5 +1,5 @@
-// What the folder exchange adds to the time that the printer takes: one exchange through the client against the same
-// bytes over a bare socket, both with a printer that answers after a fixed delay.
+// What the folder exchange adds to the time that the printer takes: one exchange through the client against
+// the same bytes over a bare socket, both with a printer that answers after a fixed delay.
 #include <benchmark/benchmark.h>
 
 #include <QtCore/QCoreApplication>
@@ -26,11 +26,14 @@ class Printer {
     m_thread.start();
     QObject* server = &m_server;
     m_server.moveToThread(&m_thread);
-    QObject::connect(&m_server, &QTcpServer::newConnection, server, [this] { serve(m_server.nextPendingConnection()); });
-    QMetaObject::invokeMethod(server, [this] { m_server.listen(QHostAddress::LocalHost); }, Qt::BlockingQueuedConnection);
+    QObject::connect(&m_server, &QTcpServer::newConnection, server,
+                     [this] { serve(m_server.nextPendingConnection()); });
+    QMetaObject::invokeMethod(
+        server, [this] { m_server.listen(QHostAddress::LocalHost); }, Qt::BlockingQueuedConnection);
   }
   ~Printer() {
-    QMetaObject::invokeMethod(&m_server, [this] { m_server.close(); }, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(
+        &m_server, [this] { m_server.close(); }, Qt::BlockingQueuedConnection);
     m_thread.quit();
     m_thread.wait();
   }
@@ -102,7 +105,8 @@ void exchangeOverABareSocket(benchmark::State& state) {
     socket.connectToHost(QHostAddress::LocalHost, printer.port());
     if (!socket.waitForConnected()) std::abort();
     socket.write(request);
-    while (socket.state() == QAbstractSocket::ConnectedState) socket.waitForReadyRead();
+    while (socket.state() == QAbstractSocket::ConnectedState)
+      socket.waitForReadyRead();
     benchmark::DoNotOptimize(socket.readAll());
   }
 }

@@ -10,9 +10,9 @@ namespace kesto {
 /// ((length + 2) / 3) * 4 + 1 bytes; when it has fewer, only the groups that fit are written.
 std::size_t Base64encode(std::span<char> output, std::span<const std::uint8_t> input);
 
-/// Decodes `text` up to its first character outside the alphabet (padding, NUL or any other) and writes the bytes
-/// and a NUL; answers the number of bytes without the NUL. The output needs ((n + 3) / 4) * 3 + 1 bytes for n
-/// characters; when it has fewer, only the bytes that fit are written.
+/// Decodes `text` up to its first character outside the alphabet (padding, NUL or any other) and writes the
+/// bytes and a NUL; answers the number of bytes without the NUL. The output needs ((n + 3) / 4) * 3 + 1 bytes
+/// for n characters; when it has fewer, only the bytes that fit are written.
 std::size_t Base64decode(std::span<std::uint8_t> output, const char* text);
 
 }  // namespace kesto

@@ -26,7 +26,8 @@ void my_aes_encrypt(const char* plaintext, std::span<std::uint8_t> output) {
   if (length == 0) return;
   AES_KEY key;
   AES_set_encrypt_key(fixedKey.data(), keyBits, &key);
-  for (std::size_t start = 0; start < length && start + cipherBlockSize <= output.size(); start += cipherBlockSize) {
+  for (std::size_t start = 0; start < length && start + cipherBlockSize <= output.size();
+       start += cipherBlockSize) {
     std::array<std::uint8_t, cipherBlockSize> block{};
     std::memcpy(block.data(), plaintext + start, std::min(cipherBlockSize, length - start));
     AES_encrypt(block.data(), &output[start], &key);

@@ -11,14 +11,15 @@ namespace {
 
 enum Level : int { Envelope = 1, Body, Response, Item, Folder, FolderValue };
 
-// Follows the document in one pass. Which child of a node is the last is known only at the node's end, so each new
-// child of the envelope and of the body starts afresh what was read below its elder sibling.
+// Follows the document in one pass. Which child of a node is the last is known only at the node's end, so
+// each new child of the envelope and of the body starts afresh what was read below its elder sibling.
 class AnswerReader {
  public:
   explicit AnswerReader(QXmlStreamReader& xml) : m_xml(xml) {}
 
   std::optional<FolderAnswer> read() {
-    while (!m_xml.atEnd()) step(m_xml.readNext());
+    while (!m_xml.atEnd())
+      step(m_xml.readNext());
     if (m_xml.hasError()) return std::nullopt;
     FolderAnswer answer;
     answer.isList = m_response.hasFiles && m_response.isOk;
@@ -35,13 +36,22 @@ class AnswerReader {
 
   void step(QXmlStreamReader::TokenType token) {
     switch (token) {
-      case QXmlStreamReader::StartElement: startElement(); break;
-      case QXmlStreamReader::EndElement: endElement(); break;
-      case QXmlStreamReader::Characters: characters(); break;
+      case QXmlStreamReader::StartElement:
+        startElement();
+        break;
+      case QXmlStreamReader::EndElement:
+        endElement();
+        break;
+      case QXmlStreamReader::Characters:
+        characters();
+        break;
       case QXmlStreamReader::Comment:
       case QXmlStreamReader::ProcessingInstruction:
-      case QXmlStreamReader::EntityReference: node(m_depth + 1); break;
-      default: break;
+      case QXmlStreamReader::EntityReference:
+        node(m_depth + 1);
+        break;
+      default:
+        break;
     }
   }
 
@@ -75,7 +85,8 @@ class AnswerReader {
   void endElement() {
     if (m_depth == Item && m_isValue) m_response.isOk = m_text == u"ok";
     if (m_depth == FolderValue && m_isValue) endFolderValue();
-    if (m_depth == Folder && m_inFiles && !m_folder.name.isEmpty()) m_response.folders.push_back(std::move(m_folder));
+    if (m_depth == Folder && m_inFiles && !m_folder.name.isEmpty())
+      m_response.folders.push_back(std::move(m_folder));
     if (m_depth == Item) m_inFiles = false;
     if (m_depth == Item || m_depth == FolderValue) m_isValue = false;
     --m_depth;

@@ -1,7 +1,6 @@
 #include "folders/folder_popup.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "panel/localized.h"
 
@@ -43,9 +42,11 @@ void FolderPopup::makeFolderPopup() {
 int FolderPopup::SearchSameFolderName(const QString& name) const {
   if (name.isNull() || !m_state.folderList) return mainFolderItem;
   const auto& folders = *m_state.folderList;
-  const auto found = std::ranges::find_if(
-      folders, [&](const FolderEntry& folder) { return folder.name.compare(name, Qt::CaseInsensitive) == 0; });
-  return found == folders.end() ? mainFolderItem : firstFolderItem + static_cast<int>(found - folders.begin());
+  const auto found = std::ranges::find_if(folders, [&](const FolderEntry& folder) {
+    return folder.name.compare(name, Qt::CaseInsensitive) == 0;
+  });
+  return found == folders.end() ? mainFolderItem
+                                : firstFolderItem + static_cast<int>(found - folders.begin());
 }
 
 bool FolderPopup::offersAllFolders() const {
@@ -53,8 +54,9 @@ bool FolderPopup::offersAllFolders() const {
   if (popUp == nullptr || !m_state.folderList || m_state.folderList->empty()) return true;
   const auto& items = popUp->items();
   if (items.size() != m_state.folderList->size() + firstFolderItem) return false;
-  return std::ranges::equal(*m_state.folderList, items | std::views::drop(firstFolderItem),
-                            [](const FolderEntry& folder, const PopUpItem& item) { return folder.name == item.title; });
+  return std::equal(
+      m_state.folderList->begin(), m_state.folderList->end(), items.begin() + firstFolderItem,
+      [](const FolderEntry& folder, const PopUpItem& item) { return folder.name == item.title; });
 }
 
 }  // namespace kesto

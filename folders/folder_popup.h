@@ -5,14 +5,14 @@
 
 namespace kesto {
 
-/// Rebuilds the pop-up's items and finds folders in it. Items 0 and 1 are quick file and main folder; with folders, 2
-/// is a separator and 3 + i is folder i.
+/// Rebuilds the pop-up's items and finds folders in it. Items 0 and 1 are quick file and main folder; with
+/// folders, 2 is a separator and 3 + i is folder i.
 class FolderPopup {
  public:
   FolderPopup(PanelState& state, ControlActions& actions) : m_state(state), m_actions(actions) {}
 
-  /// Rebuilds the items from the list. The choice stays: the first two items by their place, a folder by its name
-  /// (else the main folder), and then the pop-up's action is sent, so that the rules hold.
+  /// Rebuilds the items from the list. The choice stays: the first two items by their place, a folder by its
+  /// name (else the main folder), and then the pop-up's action is sent, so that the rules hold.
   void makeFolderPopup();
   /// The item of the first folder of that name, letter case aside; 1, the main folder, when there is none.
   int SearchSameFolderName(const QString& name) const;

@@ -56,8 +56,8 @@ void FolderQuery::recieveEndCallback() {
   QString message = bundle.localizedStringForKey(QStringLiteral("Could not retrieve Folder Names.%@"));
   message.replace(QStringLiteral("%@"), QString());
   showProgress(false);
-  m_state.platform->alertPresenter().runInformationalAlert(QStringLiteral(""), message,
-                                                           bundle.localizedStringForKey(QStringLiteral("OK")));
+  m_state.platform->alertPresenter().runInformationalAlert(
+      QStringLiteral(""), message, bundle.localizedStringForKey(QStringLiteral("OK")));
 }
 
 }  // namespace kesto

@@ -10,20 +10,23 @@
 
 namespace kesto {
 
-/// The folder button: asks the printer at the address shown, reads the answer, stores it and offers it in the pop-up.
+/// The folder button: asks the printer at the address shown, reads the answer, stores it and offers it in the
+/// pop-up.
 ///
-/// The exchange runs the event loop, so the user and the host can do other things meanwhile: a second press does
-/// nothing, a save or a restore works as ever, and a panel that is destroyed ends the exchange without an alert.
+/// The exchange runs the event loop, so the user and the host can do other things meanwhile: a second press
+/// does nothing, a save or a restore works as ever, and a panel that is destroyed ends the exchange without
+/// an alert.
 class FolderQuery : public SoapContext {
  public:
   FolderQuery(PanelState& state, FolderPopup& folderPopup, FolderListStore& store)
       : m_state(state), m_folderPopup(folderPopup), m_store(store) {}
   ~FolderQuery() override;
 
-  /// The button's action. Whatever becomes of the exchange, the answer file, old or new, is read, stored and offered.
+  /// The button's action. Whatever becomes of the exchange, the answer file, old or new, is read, stored and
+  /// offered.
   void getFolderNameButtonProc(Control* sender);
-  /// Reads an answer file into the folder list. False, with the list unchanged, when it is missing or not well-formed;
-  /// false, with an empty list, when it holds no list.
+  /// Reads an answer file into the folder list. False, with the list unchanged, when it is missing or not
+  /// well-formed; false, with an empty list, when it holds no list.
   bool parseXML(const QString& path);
   /// Stops the progress indicator and tells the user that the exchange failed.
   void recieveEndCallback() override;
@@ -35,7 +38,7 @@ class FolderQuery : public SoapContext {
   PanelState& m_state;
   FolderPopup& m_folderPopup;
   FolderListStore& m_store;
-  KestoPrintPdeVq250nJCSOAPClient* m_running = nullptr;      // while an exchange waits
+  KestoPrintPdeVq250nJCSOAPClient* m_running = nullptr;            // while an exchange waits
   std::shared_ptr<bool> m_isAlive = std::make_shared<bool>(true);  // outlives this in a waiting exchange
 };
 

@@ -23,7 +23,8 @@ QByteArray headerOf(const QList<QByteArray>& lines, const QByteArray& name) {
 }
 
 bool isNumber(const QByteArray& text) {
-  return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+  return !text.isEmpty() &&
+         std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
 }  // namespace
@@ -43,8 +44,10 @@ void HttpResponse::end() {
 bool HttpResponse::step() {
   QByteArray line;
   switch (m_state) {
-    case State::Head: return takeHead();
-    case State::Counted: return takeCounted();
+    case State::Head:
+      return takeHead();
+    case State::Counted:
+      return takeCounted();
     case State::UntilEnd:
       m_body += std::exchange(m_pending, {});
       return false;
@@ -52,7 +55,8 @@ bool HttpResponse::step() {
       if (!takeLine(&line)) return false;
       m_state = stateOfChunk(line);
       return true;
-    case State::Chunk: return takeCounted();
+    case State::Chunk:
+      return takeCounted();
     case State::ChunkEnd:
       if (!takeLine(&line)) return false;
       m_state = line.isEmpty() ? State::ChunkSize : State::Bad;
@@ -62,7 +66,8 @@ bool HttpResponse::step() {
       if (line.isEmpty()) m_state = State::Whole;
       return true;
     case State::Whole:
-    case State::Bad: break;
+    case State::Bad:
+      break;
   }
   return false;
 }

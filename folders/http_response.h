@@ -1,15 +1,16 @@
 // Reads one HTTP/1.x response from the bytes of a connection as they come.
 //
-// Qt's own HTTP client takes a chunked body that breaks off behind a chunk for a whole one, and sends a request anew
-// when the connection drops; an answer of the printer must be whole or count as failed, and is asked for once.
+// Qt's own HTTP client takes a chunked body that breaks off behind a chunk for a whole one, and sends a
+// request anew when the connection drops; an answer of the printer must be whole or count as failed, and is
+// asked for once.
 #pragma once
 
 #include <QtCore/QByteArray>
 
 namespace kesto {
 
-/// Takes the head (past any interim responses) and the body of a response, by its length, in chunks, or up to the end
-/// of the connection.
+/// Takes the head (past any interim responses) and the body of a response, by its length, in chunks, or up to
+/// the end of the connection.
 class HttpResponse {
  public:
   /// `largestBody` bounds the body; a longer one makes the response bad.

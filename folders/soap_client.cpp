@@ -30,22 +30,23 @@ std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> KestoPrintPdeVq250nJCSOAPClient
       new KestoPrintPdeVq250nJCSOAPClient(url, platform, context, limit));
 }
 
-KestoPrintPdeVq250nJCSOAPClient::KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platform& platform, SoapContext* context,
+KestoPrintPdeVq250nJCSOAPClient::KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platform& platform,
+                                                                 SoapContext* context,
                                                                  std::chrono::milliseconds limit)
     : m_url(std::move(url)), m_platform(platform), m_context(context), m_limit(limit) {}
 
 // The values keep their quotation marks; the printer's service compares them as they are.
 QByteArray KestoPrintPdeVq250nJCSOAPClient::requestFor(const QByteArray& body) const {
   const QUrl::FormattingOptions encoded = QUrl::FullyEncoded;
-  const QByteArray target = m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
-  const QByteArray host = m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveUserInfo | QUrl::RemovePath |
-                                          QUrl::RemoveQuery | QUrl::RemoveFragment);
-  return "POST " + target + " HTTP/1.1\r\n" +
-         "Host: " + host.mid(2) + "\r\n" +
+  const QByteArray target =
+      m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
+  const QByteArray host = m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveUserInfo |
+                                          QUrl::RemovePath | QUrl::RemoveQuery | QUrl::RemoveFragment);
+  return "POST " + target + " HTTP/1.1\r\n" + "Host: " + host.mid(2) + "\r\n" +
          "SOAPAction: \"SoapActionDummy\"\r\n"
          "Content-Type: application/soap; charset=\"utf-8\"\r\n"
-         "Content-Length: " + QByteArray::number(body.size()) + "\r\n" +
-         "Connection: close\r\n\r\n" + body;
+         "Content-Length: " +
+         QByteArray::number(body.size()) + "\r\n" + "Connection: close\r\n\r\n" + body;
 }
 
 void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
@@ -85,7 +86,9 @@ void KestoPrintPdeVq250nJCSOAPClient::waitUntilFinished() {
   }
 }
 
-void KestoPrintPdeVq250nJCSOAPClient::cancel() { finish(Finished::Cancelled); }
+void KestoPrintPdeVq250nJCSOAPClient::cancel() {
+  finish(Finished::Cancelled);
+}
 
 // The first event that ends the exchange decides.
 void KestoPrintPdeVq250nJCSOAPClient::finish(Finished state) {
@@ -118,10 +121,16 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(QTcpSocket& socket) {
   }
 }
 
-void KestoPrintPdeVq250nJCSOAPClient::connectionDidFinishLoading() { finish(Finished::Answered); }
+void KestoPrintPdeVq250nJCSOAPClient::connectionDidFinishLoading() {
+  finish(Finished::Answered);
+}
 
-void KestoPrintPdeVq250nJCSOAPClient::connectionDidFailWithError() { finish(Finished::Failed); }
+void KestoPrintPdeVq250nJCSOAPClient::connectionDidFailWithError() {
+  finish(Finished::Failed);
+}
 
-void KestoPrintPdeVq250nJCSOAPClient::firedByTimer() { finish(Finished::TimedOut); }
+void KestoPrintPdeVq250nJCSOAPClient::firedByTimer() {
+  finish(Finished::TimedOut);
+}
 
 }  // namespace kesto

@@ -22,22 +22,23 @@ class SoapContext {
   virtual void recieveEndCallback() = 0;
 };
 
-/// The path of the answer file: "vwxyz.xml" in the user's temporary directory, or in "/tmp/" when there is none.
+/// The path of the answer file: "vwxyz.xml" in the user's temporary directory, or in "/tmp/" when there is
+/// none.
 QString answerFilePath(Platform& platform);
 
 /// Most bytes of an answer; a longer one is a failed exchange.
 inline constexpr qsizetype largestAnswer = qsizetype{32} * 1024 * 1024;
 
-/// One exchange with one endpoint. The whole answer, whatever its HTTP status, replaces the answer file; a failure
-/// leaves it as it was. Redirects are not followed, and no proxy stands between panel and printer.
+/// One exchange with one endpoint. The whole answer, whatever its HTTP status, replaces the answer file; a
+/// failure leaves it as it was. Redirects are not followed, and no proxy stands between panel and printer.
 class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   Q_OBJECT
 
  public:
   static constexpr std::chrono::milliseconds timeLimit{20000};
 
-  /// A client for the URL `serverName`; null when that is no valid URL. `context` is not owned, and told of a failure
-  /// before `sendMessage` returns; `limit` bounds the wait.
+  /// A client for the URL `serverName`; null when that is no valid URL. `context` is not owned, and told of a
+  /// failure before `sendMessage` returns; `limit` bounds the wait.
   static std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> initWithServerName(
       const QString& serverName, Platform& platform, SoapContext* context,
       std::chrono::milliseconds limit = timeLimit);
@@ -53,7 +54,8 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
  private:
   enum class Finished { Running, Answered, TimedOut, Failed, Cancelled };
 
-  KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platform& platform, SoapContext* context, std::chrono::milliseconds limit);
+  KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platform& platform, SoapContext* context,
+                                  std::chrono::milliseconds limit);
   QByteArray requestFor(const QByteArray& body) const;
   void connectionDidReceiveResponse();
   void connectionDidReceiveData(QTcpSocket& socket);

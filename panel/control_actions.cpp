@@ -15,7 +15,8 @@ using E = EnablingRules;
 }  // namespace
 
 void ControlActions::runRules(std::initializer_list<Rules> rules) {
-  for (const Rules rule : rules) (m_rules.*rule)();
+  for (const Rules rule : rules)
+    (m_rules.*rule)();
 }
 
 void ControlActions::runIfPresent(const Button* button, Rules rule) {
@@ -58,8 +59,9 @@ void ControlActions::retentionCBoxProc(Control* /*sender*/) {
     clearUnlessHeld(Held::FolderName);
   }
   runRules({&E::suspendMatrixEnabled, &E::suspendKeyStaticTextEnabled, &E::suspendKeyEditTextEnabled,
-            &E::suspendKeyButtonEnabled, &E::folderSelectionStaticTextEnabled, &E::folderSelectionPopupEnabled,
-            &E::folderPasswordStaticTextEnabled, &E::folderPasswordEditTextEnabled, &E::folderPasswordButtonEnabled,
+            &E::suspendKeyButtonEnabled, &E::folderSelectionStaticTextEnabled,
+            &E::folderSelectionPopupEnabled, &E::folderPasswordStaticTextEnabled,
+            &E::folderPasswordEditTextEnabled, &E::folderPasswordButtonEnabled,
             &E::folderSelectionMatrixEnabled, &E::folderNameEditTextEnabled, &E::folderNameButtonEnabled});
 }
 
@@ -74,8 +76,8 @@ void ControlActions::folderSelectionPopUpButtonProc(Control* /*sender*/) {
   if (popUp == nullptr) return;
   if (popUp->selectedIndex() == quickFile) quickFileChosen();
   runRules({&E::suspendKeyStaticTextEnabled, &E::suspendKeyEditTextEnabled, &E::suspendKeyButtonEnabled,
-            &E::folderPasswordStaticTextEnabled, &E::folderPasswordEditTextEnabled, &E::folderPasswordButtonEnabled,
-            &E::folderNameButtonEnabled});
+            &E::folderPasswordStaticTextEnabled, &E::folderPasswordEditTextEnabled,
+            &E::folderPasswordButtonEnabled, &E::folderNameButtonEnabled});
 }
 
 void ControlActions::folderSelectionMatrixProc(Control* /*sender*/) {
@@ -87,8 +89,8 @@ void ControlActions::folderSelectionMatrixProc(Control* /*sender*/) {
     clearUnlessHeld(Held::FolderName);
   }
   runRules({&E::suspendKeyStaticTextEnabled, &E::suspendKeyEditTextEnabled, &E::suspendKeyButtonEnabled,
-            &E::folderPasswordStaticTextEnabled, &E::folderPasswordEditTextEnabled, &E::folderPasswordButtonEnabled,
-            &E::folderNameEditTextEnabled, &E::folderNameButtonEnabled});
+            &E::folderPasswordStaticTextEnabled, &E::folderPasswordEditTextEnabled,
+            &E::folderPasswordButtonEnabled, &E::folderNameEditTextEnabled, &E::folderNameButtonEnabled});
 }
 
 void ControlActions::authenticationMatrixProc(Control* /*sender*/) {

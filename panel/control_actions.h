@@ -5,9 +5,10 @@
 
 namespace kesto {
 
-/// The actions of the panel's controls. They keep the choices consistent, clear the fields whose value no longer
-/// applies unless they are held, and run the enabling rules that the change concerns. The sender is never looked at;
-/// absent controls are tolerated. The settings reader sends the same actions after it has set the controls.
+/// The actions of the panel's controls. They keep the choices consistent, clear the fields whose value no
+/// longer applies unless they are held, and run the enabling rules that the change concerns. The sender is
+/// never looked at; absent controls are tolerated. The settings reader sends the same actions after it has
+/// set the controls.
 class ControlActions {
  public:
   ControlActions(PanelState& state, EnablingRules& rules) : m_state(state), m_rules(rules) {}

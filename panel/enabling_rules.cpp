@@ -36,12 +36,12 @@ Conditions conditionsOf(const PanelState& state) {
   };
 }
 
-using Target = std::variant<std::monostate, TextField * Outlets::*, Button * Outlets::*, RadioMatrix * Outlets::*,
-                            PopUp * Outlets::*>;
+using Target = std::variant<std::monostate, TextField * Outlets::*, Button * Outlets::*,
+                            RadioMatrix * Outlets::*, PopUp * Outlets::*>;
 using Condition = bool (*)(const Conditions&);
 
-// A button, matrix or pop-up is enabled while its condition holds. A label or field is undimmed while its condition
-// holds and its hold button, when it has one, is not on.
+// A button, matrix or pop-up is enabled while its condition holds. A label or field is undimmed while its
+// condition holds and its hold button, when it has one, is not on.
 struct Row {
   const char* name;
   Target target;
@@ -49,12 +49,24 @@ struct Row {
   Button* Outlets::*hold = nullptr;
 };
 
-bool always(const Conditions&) { return true; }
-bool retention(const Conditions& c) { return c.retention; }
-bool passCode(const Conditions& c) { return c.retention && !c.quickFile; }
-bool folderPassCode(const Conditions& c) { return c.retention && (c.protectedFolder || c.customFolder); }
-bool folderName(const Conditions& c) { return c.retention && c.customFolder; }
-bool login(const Conditions& c) { return c.login; }
+bool always(const Conditions&) {
+  return true;
+}
+bool retention(const Conditions& c) {
+  return c.retention;
+}
+bool passCode(const Conditions& c) {
+  return c.retention && !c.quickFile;
+}
+bool folderPassCode(const Conditions& c) {
+  return c.retention && (c.protectedFolder || c.customFolder);
+}
+bool folderName(const Conditions& c) {
+  return c.retention && c.customFolder;
+}
+bool login(const Conditions& c) {
+  return c.login;
+}
 
 using O = Outlets;
 
@@ -67,7 +79,8 @@ constexpr std::array table{
     Row{"folderSelectionStaticTextEnabled", &O::folderSelectionStaticText, retention},
     Row{"folderSelectionPopupEnabled", &O::folderSelectionPopup, retention},
     Row{"folderPasswordStaticTextEnabled", &O::folderPasswordStaticText, folderPassCode},
-    Row{"folderPasswordEditTextEnabled", &O::folderPasswordEditText, folderPassCode, &O::folderPasswordButton},
+    Row{"folderPasswordEditTextEnabled", &O::folderPasswordEditText, folderPassCode,
+        &O::folderPasswordButton},
     Row{"folderPasswordButtonEnabled", &O::folderPasswordButton, folderPassCode},
     Row{"folderSelectionMatrixEnabled", &O::folderSelectionMatrix, retention},
     Row{"folderNameEditTextEnabled", &O::folderNameEditText, folderName, &O::folderNameButton},
@@ -130,6 +143,8 @@ bool EnablingRules::runByName(const QString& name) {
   return true;
 }
 
-bool EnablingRules::exists(const QString& name) { return rowNamed(name) != nullptr; }
+bool EnablingRules::exists(const QString& name) {
+  return rowNamed(name) != nullptr;
+}
 
 }  // namespace kesto

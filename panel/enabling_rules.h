@@ -7,40 +7,40 @@
 
 namespace kesto {
 
-/// Shows a label or text field as available or not. A label (tag 0) turns black or gray. A text field, dimmed, is
-/// neither editable nor selectable, gray, and no field of the window keeps keyboard focus; undimmed it is editable
-/// and selectable, black, and takes keyboard focus.
+/// Shows a label or text field as available or not. A label (tag 0) turns black or gray. A text field,
+/// dimmed, is neither editable nor selectable, gray, and no field of the window keeps keyboard focus;
+/// undimmed it is editable and selectable, black, and takes keyboard focus.
 void myVq250nJCHilite(TextField& field, bool dim);
 
 // The rules in the order of their declaration. Each is an operation of EnablingRules and a row of its table.
-#define KESTO_ENABLING_RULES(RULE)      \
-  RULE(suspendMatrixEnabled)            \
-  RULE(suspendKeyStaticTextEnabled)     \
-  RULE(suspendKeyEditTextEnabled)       \
-  RULE(suspendKeyButtonEnabled)         \
+#define KESTO_ENABLING_RULES(RULE)       \
+  RULE(suspendMatrixEnabled)             \
+  RULE(suspendKeyStaticTextEnabled)      \
+  RULE(suspendKeyEditTextEnabled)        \
+  RULE(suspendKeyButtonEnabled)          \
   RULE(folderSelectionStaticTextEnabled) \
-  RULE(folderSelectionPopupEnabled)     \
-  RULE(folderPasswordStaticTextEnabled) \
-  RULE(folderPasswordEditTextEnabled)   \
-  RULE(folderPasswordButtonEnabled)     \
-  RULE(folderSelectionMatrixEnabled)    \
-  RULE(folderNameEditTextEnabled)       \
-  RULE(folderNameButtonEnabled)         \
-  RULE(loginNameStaticTextEnabled)      \
-  RULE(loginNameEditTextEnabled)        \
-  RULE(loginNameButtonEnabled)          \
-  RULE(passwordStaticTextEnabled)       \
-  RULE(passwordEditTextEnabled)         \
-  RULE(passwordButtonEnabled)           \
-  RULE(userNumberEditTextEnabled)       \
-  RULE(userNumberButtonEnabled)         \
-  RULE(userNameEditTextEnabled)         \
-  RULE(jobNameEditTextEnabled)          \
-  RULE(accountNumberEditTextEnabled)    \
+  RULE(folderSelectionPopupEnabled)      \
+  RULE(folderPasswordStaticTextEnabled)  \
+  RULE(folderPasswordEditTextEnabled)    \
+  RULE(folderPasswordButtonEnabled)      \
+  RULE(folderSelectionMatrixEnabled)     \
+  RULE(folderNameEditTextEnabled)        \
+  RULE(folderNameButtonEnabled)          \
+  RULE(loginNameStaticTextEnabled)       \
+  RULE(loginNameEditTextEnabled)         \
+  RULE(loginNameButtonEnabled)           \
+  RULE(passwordStaticTextEnabled)        \
+  RULE(passwordEditTextEnabled)          \
+  RULE(passwordButtonEnabled)            \
+  RULE(userNumberEditTextEnabled)        \
+  RULE(userNumberButtonEnabled)          \
+  RULE(userNameEditTextEnabled)          \
+  RULE(jobNameEditTextEnabled)           \
+  RULE(accountNumberEditTextEnabled)     \
   RULE(accountNumberButtonEnabled)
 
-/// The enabling rules: each reads the controls' states and sets its one control. They keep no state; an absent
-/// control is skipped, and a condition on an absent control is false.
+/// The enabling rules: each reads the controls' states and sets its one control. They keep no state; an
+/// absent control is skipped, and a condition on an absent control is false.
 class EnablingRules {
  public:
   explicit EnablingRules(PanelState& state) : m_state(state) {}
@@ -52,7 +52,9 @@ class EnablingRules {
   };
 
 #define KESTO_RULE_OPERATION(name) \
-  void name() { run(name##Rule); }
+  void name() {                    \
+    run(name##Rule);               \
+  }
   KESTO_ENABLING_RULES(KESTO_RULE_OPERATION)
 #undef KESTO_RULE_OPERATION
 

@@ -23,7 +23,8 @@ void initializeTabs(const Bundle& bundle, TabView* tabView) {
   if (tabView == nullptr) return;
   QStringList labels = tabView->labels();
   const qsizetype translated = qMin(qsizetype{2}, labels.size());
-  for (qsizetype page = 0; page < translated; ++page) labels[page] = localizedStringValue(bundle, labels[page]);
+  for (qsizetype page = 0; page < translated; ++page)
+    labels[page] = localizedStringValue(bundle, labels[page]);
   tabView->setLabels(labels);
   tabView->selectTab(0);
 }
@@ -48,10 +49,11 @@ void initializeUI(PanelState& state) {
   const Outlets& o = state.outlets;
   initializeTabs(bundle, o.tabView);
   translate(bundle, o.retentionCheckBox);
-  for (Box* box : {o.suspendBox, o.filingBox, o.jobIDBox}) translate(bundle, box);
-  for (TextField* label : {o.suspendKeyStaticText, o.folderPasswordStaticText, o.userNumberStaticText,
-                           o.accountNumberStaticText, o.userNameStaticText, o.jobNameStaticText,
-                           o.printersAddressStaticText}) {
+  for (Box* box : {o.suspendBox, o.filingBox, o.jobIDBox})
+    translate(bundle, box);
+  for (TextField* label :
+       {o.suspendKeyStaticText, o.folderPasswordStaticText, o.userNumberStaticText, o.accountNumberStaticText,
+        o.userNameStaticText, o.jobNameStaticText, o.printersAddressStaticText}) {
     translate(bundle, label);
   }
   translate(bundle, o.userNumberRadioButton);

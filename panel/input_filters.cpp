@@ -25,7 +25,8 @@ bool LengthLimitedFilter::isPartialStringValid(QString& partialString, TextRange
   return mayBeginInsertion(inserted.front()) && static_cast<std::uint64_t>(originalString.size()) < limit;
 }
 
-bool LoginnameInputFilter::isPartialStringValid(QString& /*partialString*/, TextRange& /*proposedSelectedRange*/,
+bool LoginnameInputFilter::isPartialStringValid(QString& /*partialString*/,
+                                                TextRange& /*proposedSelectedRange*/,
                                                 const QString& /*originalString*/,
                                                 TextRange /*originalSelectedRange*/,
                                                 QString* /*errorDescription*/) const {

@@ -13,11 +13,12 @@ class LengthLimitedFilter : public Formatter {
   /// The length that typing can reach; 0 until it is set, which refuses every insertion.
   void SetmaxCharactersCount(std::int64_t count) { maxValue = count; }
 
-  /// An edit whose caret would pass the limit is cut to the limit, never within a surrogate pair, all selected, and
-  /// refused. A deletion is accepted. An insertion is accepted when the text before it was shorter than the limit
-  /// and its first character may begin one.
-  bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange, const QString& originalString,
-                            TextRange originalSelectedRange, QString* errorDescription) const override;
+  /// An edit whose caret would pass the limit is cut to the limit, never within a surrogate pair, all
+  /// selected, and refused. A deletion is accepted. An insertion is accepted when the text before it was
+  /// shorter than the limit and its first character may begin one.
+  bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,
+                            const QString& originalString, TextRange originalSelectedRange,
+                            QString* errorDescription) const override;
 
  protected:
   virtual bool mayBeginInsertion(QChar first) const = 0;
@@ -51,8 +52,9 @@ class LoginnameInputFilter : public Formatter {
   void setCallback(LoginnameInputFilterCallback* callback) { m_context = callback; }
   LoginnameInputFilterCallback* callback() const { return m_context; }
 
-  bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange, const QString& originalString,
-                            TextRange originalSelectedRange, QString* errorDescription) const override;
+  bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,
+                            const QString& originalString, TextRange originalSelectedRange,
+                            QString* errorDescription) const override;
 
  private:
   LoginnameInputFilterCallback* m_context = nullptr;

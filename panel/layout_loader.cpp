@@ -141,8 +141,8 @@ class FormReader {
     for (const QDomElement& child : children) {
       if (child.attribute(QStringLiteral("class")) != u"QRadioButton") continue;
       if (matrix == nullptr) matrix = new RadioMatrix(name, &m_view);
-      const RadioCell* cell = matrix->addCell(child.attribute(QStringLiteral("name")),
-                                              visibleText(child, QLatin1String("text")));
+      const RadioCell* cell =
+          matrix->addCell(child.attribute(QStringLiteral("name")), visibleText(child, QLatin1String("text")));
       if (property(child, QLatin1String("checked")) == u"true") matrix->selectRow(cell->row());
     }
     if (matrix == nullptr) return nullptr;  // a page or a mere container

@@ -68,10 +68,16 @@ struct Outlets {
 Outlets outletsOfView(const PanelView* view);
 
 /// The text of a field, empty when the field is absent.
-inline QString textOfField(const TextField* field) { return field == nullptr ? QString() : field->stringValue(); }
+inline QString textOfField(const TextField* field) {
+  return field == nullptr ? QString() : field->stringValue();
+}
 /// Whether a button's state is not 0; an absent button is off.
-inline bool isOn(const Button* button) { return button != nullptr && button->state() != 0; }
+inline bool isOn(const Button* button) {
+  return button != nullptr && button->state() != 0;
+}
 /// Whether a button's state is exactly 1; an absent button is off.
-inline bool isExactlyOn(const Button* button) { return button != nullptr && button->state() == 1; }
+inline bool isExactlyOn(const Button* button) {
+  return button != nullptr && button->state() == 1;
+}
 
 }  // namespace kesto

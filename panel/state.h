@@ -50,14 +50,15 @@ struct PanelState {
   bool callSaveValuesFunction = false;     ///< Save has run.
 
   // Values.
-  int presetHoldButtonFlag = 0;   ///< The hold-button mask of the job's print settings.
-  int prefHoldButtonFlag = 0;     ///< The hold-button mask of the preferences; a bit goes once its field is restored.
-  RememberedValues remembered;    ///< Of the preferences.
-  QString folderNameStringRef;    ///< The custom folder name last restored; null for none.
-  QString loginNameStringRef;     ///< The login name while its hold button is on; null for none.
-  bool loginNameLockFlag = false; ///< The login name is masked.
-  FolderList folderList;          ///< The printer's folders.
-  QString addressStringRef;       ///< The remembered printer address; null for none.
+  int presetHoldButtonFlag = 0;  ///< The hold-button mask of the job's print settings.
+  int prefHoldButtonFlag =
+      0;  ///< The hold-button mask of the preferences; a bit goes once its field is restored.
+  RememberedValues remembered;     ///< Of the preferences.
+  QString folderNameStringRef;     ///< The custom folder name last restored; null for none.
+  QString loginNameStringRef;      ///< The login name while its hold button is on; null for none.
+  bool loginNameLockFlag = false;  ///< The login name is masked.
+  FolderList folderList;           ///< The printer's folders.
+  QString addressStringRef;        ///< The remembered printer address; null for none.
 };
 
 }  // namespace kesto

@@ -12,8 +12,12 @@ Q_LOGGING_CATEGORY(pde, "kesto.pde", QtInfoMsg)
 
 }  // namespace
 
-QString textOf(const QString& text) { return text; }
-QString textOf(const char* text) { return QString::fromUtf8(text); }
+QString textOf(const QString& text) {
+  return text;
+}
+QString textOf(const char* text) {
+  return QString::fromUtf8(text);
+}
 QString textOf(const void* address) {
   return QStringLiteral("0x") + QString::number(reinterpret_cast<quintptr>(address), 16);
 }

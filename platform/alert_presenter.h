@@ -9,7 +9,8 @@ namespace kesto {
 class AlertPresenter {
  public:
   virtual ~AlertPresenter() = default;
-  /// Shows an informational alert with one button and returns when the user has dismissed it. Texts are localised.
+  /// Shows an informational alert with one button and returns when the user has dismissed it. Texts are
+  /// localised.
   virtual void runInformationalAlert(const QString& title, const QString& message, const QString& button) = 0;
 };
 

@@ -45,7 +45,8 @@ QString Bundle::localizedStringForKey(const QString& key) const {
 
 Outcome Bundle::loadPrincipalObject(PrintDialogPlugIn** plugIn) const {
   *plugIn = nullptr;
-  QPluginLoader loader(m_directory + u'/' + QFileInfo(m_directory).completeBaseName() + QStringLiteral(".so"));
+  QPluginLoader loader(m_directory + u'/' + QFileInfo(m_directory).completeBaseName() +
+                       QStringLiteral(".so"));
   auto* principal = qobject_cast<PrintDialogPlugIn*>(loader.instance());
   if (principal == nullptr) {
     return Outcome::failed(loader.isLoaded()

@@ -13,8 +13,8 @@ namespace kesto {
 
 class PrintDialogPlugIn;
 
-/// The bundle directory holds `<base name>.so` and `Resources/`, there the resources and the compiled translations
-/// `Localizable_<language>.qm`.
+/// The bundle directory holds `<base name>.so` and `Resources/`, there the resources and the compiled
+/// translations `Localizable_<language>.qm`.
 class Bundle {
  public:
   /// `directory` is the path of the bundle; texts are looked up in the languages of `locale`.

@@ -11,8 +11,8 @@ namespace kesto {
 QString accountShortName();
 /// The full name of the account, from the password file; null when it has none.
 QString accountFullName();
-/// `$TMPDIR` when set, else a private folder of mode 0700 below `$XDG_RUNTIME_DIR`; ends in "/". Null when neither
-/// can be had.
+/// `$TMPDIR` when set, else a private folder of mode 0700 below `$XDG_RUNTIME_DIR`; ends in "/". Null when
+/// neither can be had.
 QString userTemporaryDirectory();
 /// The system encoding of the user's language, taken from LC_ALL, LC_CTYPE or LANG, the first that is set.
 TextEncoding systemEncodingOfEnvironment();

@@ -1,4 +1,5 @@
-// The print settings of one job: the dictionary of text values that travels with the job to the driver's filter.
+// The print settings of one job: the dictionary of text values that travels with the job to the driver's
+// filter.
 #pragma once
 
 #include <QtCore/QMap>
@@ -7,8 +8,8 @@
 
 namespace kesto {
 
-/// Key to value, both text. The host owns it and lends it to the panel. An empty value is a value: "present" and
-/// "not empty" are different questions.
+/// Key to value, both text. The host owns it and lends it to the panel. An empty value is a value: "present"
+/// and "not empty" are different questions.
 class PrintSettings {
  public:
   /// Stores `value` under `key`, replacing any earlier value; none removes the key.

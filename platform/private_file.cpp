@@ -26,7 +26,9 @@ void syncFolder(const QString& path) {
 Outcome writePrivateFile(const QString& path, const QByteArray& bytes) {
   // A QTemporaryFile has mode 0600 from its creation on, and goes with its object unless it is renamed.
   QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
-  const auto failed = [&](const QString& reason) { return Outcome::failed(path + QStringLiteral(": ") + reason); };
+  const auto failed = [&](const QString& reason) {
+    return Outcome::failed(path + QStringLiteral(": ") + reason);
+  };
   if (!file.open()) return failed(file.errorString());
   const QByteArray temporary = QFile::encodeName(file.fileName());
   if (file.write(bytes) != bytes.size() || !file.flush()) return failed(file.errorString());
@@ -49,7 +51,8 @@ std::optional<QByteArray> readOwnFile(const QString& path, qsizetype limit) {
     return std::nullopt;
   }
   struct stat info {};
-  if (::fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode) || info.st_uid != getuid() || info.st_size > limit) {
+  if (::fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode) || info.st_uid != getuid() ||
+      info.st_size > limit) {
     return std::nullopt;
   }
   QByteArray bytes = file.read(limit);

@@ -19,8 +19,11 @@ struct EncodingRow {
 };
 
 constexpr int notASystemEncoding = -1;
-// The string encodings of most system encodings are their code with the top bit set, written as a signed number.
-constexpr int derived(int systemCode) { return static_cast<int>(0x80000000U + static_cast<unsigned>(systemCode)); }
+// The string encodings of most system encodings are their code with the top bit set, written as a signed
+// number.
+constexpr int derived(int systemCode) {
+  return static_cast<int>(0x80000000U + static_cast<unsigned>(systemCode));
+}
 
 // In the order of TextEncoding. ICU has no converters for the four East Asian ones of the platform; see
 // docs/decisions.md for those that stand in.
@@ -40,7 +43,9 @@ constexpr std::array rows{
     EncodingRow{"UTF-8", notASystemEncoding, 4},
 };
 
-const EncodingRow& rowOf(TextEncoding encoding) { return rows.at(static_cast<std::size_t>(encoding)); }
+const EncodingRow& rowOf(TextEncoding encoding) {
+  return rows.at(static_cast<std::size_t>(encoding));
+}
 
 struct CloseConverter {
   void operator()(UConverter* converter) const { ucnv_close(converter); }
@@ -78,8 +83,8 @@ QString decoded(UConverter* converter, const QByteArray& bytes) {
   // No byte of these encodings stands for more than two units.
   std::vector<UChar> units(static_cast<std::size_t>(bytes.size()) * 2 + 1);
   UErrorCode status = U_ZERO_ERROR;
-  const int32_t count = ucnv_toUChars(converter, units.data(), static_cast<int32_t>(units.size()), bytes.constData(),
-                                      static_cast<int32_t>(bytes.size()), &status);
+  const int32_t count = ucnv_toUChars(converter, units.data(), static_cast<int32_t>(units.size()),
+                                      bytes.constData(), static_cast<int32_t>(bytes.size()), &status);
   if (U_FAILURE(status)) return {};
   // A text of no characters is a text all the same.
   return count == 0 ? QString::fromLatin1("") : QString(reinterpret_cast<const QChar*>(units.data()), count);
@@ -95,9 +100,9 @@ QByteArray bytesOfCharacter(QStringView character, TextEncoding encoding) {
   if (converter == nullptr) return {};
   std::array<char, 16> bytes{};
   UErrorCode status = U_ZERO_ERROR;
-  const int32_t count =
-      ucnv_fromUChars(converter, bytes.data(), bytes.size(), reinterpret_cast<const UChar*>(character.utf16()),
-                      static_cast<int32_t>(character.size()), &status);
+  const int32_t count = ucnv_fromUChars(converter, bytes.data(), bytes.size(),
+                                        reinterpret_cast<const UChar*>(character.utf16()),
+                                        static_cast<int32_t>(character.size()), &status);
   return U_FAILURE(status) ? QByteArray() : QByteArray(bytes.data(), count);
 }
 
@@ -112,10 +117,17 @@ QStringView characterAt(QStringView text, qsizetype position) {
 QString withoutSwappedControls(QString text) {
   for (QChar& unit : text) {
     switch (unit.unicode()) {
-      case 0x1A: unit = QChar(0x7F); break;
-      case 0x1C: unit = QChar(0x1A); break;
-      case 0x7F: unit = QChar(0x1C); break;
-      default: break;
+      case 0x1A:
+        unit = QChar(0x7F);
+        break;
+      case 0x1C:
+        unit = QChar(0x1A);
+        break;
+      case 0x7F:
+        unit = QChar(0x1C);
+        break;
+      default:
+        break;
     }
   }
   return text;
@@ -123,7 +135,7 @@ QString withoutSwappedControls(QString text) {
 
 struct LanguageRow {
   QLatin1String language;
-  TextEncoding encoding;
+  TextEncoding encoding = TextEncoding::MacRoman;
 };
 
 constexpr std::array languages{
@@ -154,9 +166,13 @@ constexpr std::array languages{
 
 }  // namespace
 
-int systemEncodingCode(TextEncoding encoding) { return rowOf(encoding).systemCode; }
+int systemEncodingCode(TextEncoding encoding) {
+  return rowOf(encoding).systemCode;
+}
 
-int stringEncodingCode(TextEncoding encoding) { return rowOf(encoding).stringCode; }
+int stringEncodingCode(TextEncoding encoding) {
+  return rowOf(encoding).stringCode;
+}
 
 TextEncoding systemEncodingForLocale(const QString& locale) {
   // language[_TERRITORY][.codeset][@modifier]

@@ -24,8 +24,8 @@ enum class TextEncoding {
   Utf8,
 };
 
-/// The platform's number of a system encoding (0 Mac Roman, 1 Mac Japanese, ...); -1 for the encodings that are
-/// never the system's.
+/// The platform's number of a system encoding (0 Mac Roman, 1 Mac Japanese, ...); -1 for the encodings that
+/// are never the system's.
 int systemEncodingCode(TextEncoding encoding);
 /// The platform's number of a string encoding (30 Mac Roman, 5 ISO Latin-1, 4 UTF-8, ...).
 int stringEncodingCode(TextEncoding encoding);
@@ -33,14 +33,15 @@ int stringEncodingCode(TextEncoding encoding);
 /// The system encoding of a locale name such as "ja_JP.UTF-8"; Mac Roman for every language without its own.
 TextEncoding systemEncodingForLocale(const QString& locale);
 
-/// The bytes of the first `maxUnits` UTF-16 units of `text`, at most `maxBytes`. A character whose bytes would pass
-/// the limit ends the conversion before it. A character that does not convert gives `substitute` as one byte, or
-/// ends the conversion when there is no substitute. A surrogate pair counts as one character and is taken whole.
+/// The bytes of the first `maxUnits` UTF-16 units of `text`, at most `maxBytes`. A character whose bytes
+/// would pass the limit ends the conversion before it. A character that does not convert gives `substitute`
+/// as one byte, or ends the conversion when there is no substitute. A surrogate pair counts as one character
+/// and is taken whole.
 QByteArray bytesOfText(QStringView text, TextEncoding encoding, qsizetype maxUnits, qsizetype maxBytes,
                        std::optional<char> substitute = std::nullopt);
 
-/// The whole text as the bytes of a C string (without its NUL) that fits a buffer of `bufferSize` bytes with its
-/// NUL; none when a character does not convert or the bytes do not fit. A NUL in the text ends it.
+/// The whole text as the bytes of a C string (without its NUL) that fits a buffer of `bufferSize` bytes with
+/// its NUL; none when a character does not convert or the bytes do not fit. A NUL in the text ends it.
 std::optional<QByteArray> cStringOfText(QStringView text, TextEncoding encoding, qsizetype bufferSize);
 
 /// As `cStringOfText`, in ASCII.
@@ -49,8 +50,8 @@ std::optional<QByteArray> asciiOfText(QStringView text, qsizetype bufferSize);
 /// The text of the bytes up to the first NUL; a null string when they are not valid in the encoding.
 QString textOfBytes(const QByteArray& bytes, TextEncoding encoding);
 
-/// The text of all bytes in an encoding given by its common name, such as "Shift_JIS"; a null string when they are not
-/// valid in it or it is not known.
+/// The text of all bytes in an encoding given by its common name, such as "Shift_JIS"; a null string when
+/// they are not valid in it or it is not known.
 QString textOfBytesIn(const QByteArray& bytes, const QByteArray& encodingName);
 
 }  // namespace kesto

@@ -11,15 +11,15 @@ namespace kesto {
 
 /// What reading a domain gave.
 struct Domain {
-  /// False when the store cannot be read at the moment (no rights, no descriptors, not a file): nothing may be
-  /// concluded from `values`, and nothing may be written over what is there.
+  /// False when the store cannot be read at the moment (no rights, no descriptors, not a file): nothing may
+  /// be concluded from `values`, and nothing may be written over what is there.
   bool available = false;
   /// The domain's dictionary; none when there is no such domain.
   std::optional<QJsonObject> values;
 };
 
-/// The store behind the panel's memory. Every read sees what other processes wrote; every write is on disk when
-/// it returns.
+/// The store behind the panel's memory. Every read sees what other processes wrote; every write is on disk
+/// when it returns.
 class UserDefaults {
  public:
   virtual ~UserDefaults() = default;

@@ -16,8 +16,10 @@ struct ActionRow {
 };
 
 constexpr std::array table{
-#define ACTION(name) \
-  ActionRow { #name ":", [](const ActionGroups& groups, Control* sender) { groups.actions.name(sender); } }
+#define ACTION(name)                                                                            \
+  ActionRow {                                                                                   \
+#name ":", [](const ActionGroups& groups, Control* sender) { groups.actions.name(sender); } \
+  }
     ACTION(tabProc),
     ACTION(retentionCBoxProc),
     ACTION(suspendKeyMatrixProc),
@@ -43,7 +45,8 @@ constexpr std::array table{
     ACTION(accountNumberButtonProc),
     ACTION(printersAddressButtonProc),
 #undef ACTION
-    ActionRow{"getFolderNameButtonProc:", [](const ActionGroups& groups, Control* sender) {
+    ActionRow{"getFolderNameButtonProc:",
+              [](const ActionGroups& groups, Control* sender) {
                 groups.folderQuery.getFolderNameButtonProc(sender);
               }},
 };
@@ -58,11 +61,13 @@ Operation operationNamed(const QString& name) {
 void bindRules(RadioMatrix* matrix, EnablingRules& rules) {
   for (const QString& name : matrix->rules()) {
     if (!EnablingRules::exists(name)) {
-      qCWarning(layout, "%s asks for the unknown rule %s", qUtf8Printable(matrix->objectName()), qUtf8Printable(name));
+      qCWarning(layout, "%s asks for the unknown rule %s", qUtf8Printable(matrix->objectName()),
+                qUtf8Printable(name));
     }
   }
   QObject::connect(matrix, &RadioMatrix::selectedRowChanged, matrix, [&rules](RadioMatrix* changed) {
-    for (const QString& name : changed->rules()) rules.runByName(name);
+    for (const QString& name : changed->rules())
+      rules.runByName(name);
   });
 }
 

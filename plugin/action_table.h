@@ -14,8 +14,9 @@ struct ActionGroups {
   FolderQuery& folderQuery;
 };
 
-/// Connects every control of `view` to the action that its layout names, and every matrix to the rules that its
-/// layout asks for. A name without an operation is reported in the log, and the control then does nothing.
+/// Connects every control of `view` to the action that its layout names, and every matrix to the rules that
+/// its layout asks for. A name without an operation is reported in the log, and the control then does
+/// nothing.
 void bindActions(const PanelView& view, const ActionGroups& groups);
 
 }  // namespace kesto

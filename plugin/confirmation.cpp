@@ -7,8 +7,10 @@ namespace kesto {
 namespace {
 
 QString withoutColons(QStringView text) {
-  while (text.startsWith(u':')) text = text.sliced(1);
-  while (text.endsWith(u':')) text.chop(1);
+  while (text.startsWith(u':'))
+    text = text.sliced(1);
+  while (text.endsWith(u':'))
+    text.chop(1);
   return text.toString();
 }
 
@@ -21,12 +23,14 @@ void addRetention(QMap<QString, QString>* summary, const PanelState& state) {
   const Outlets& o = state.outlets;
   if (o.retentionCheckBox == nullptr) return;
   const bool isRetained = isOn(o.retentionCheckBox);
-  summary->insert(o.retentionCheckBox->title(), state.pdeBundle->localizedStringForKey(
-                                                    isRetained ? QStringLiteral("On") : QStringLiteral("Off")));
+  summary->insert(
+      o.retentionCheckBox->title(),
+      state.pdeBundle->localizedStringForKey(isRetained ? QStringLiteral("On") : QStringLiteral("Off")));
   if (!isRetained) return;
   if (o.folderSelectionPopup != nullptr && o.folderSelectionStaticText != nullptr) {
     const PopUpItem* folder = o.folderSelectionPopup->selectedItem();
-    if (folder != nullptr) summary->insert(withoutColons(o.folderSelectionStaticText->stringValue()), folder->title);
+    if (folder != nullptr)
+      summary->insert(withoutColons(o.folderSelectionStaticText->stringValue()), folder->title);
   }
   if (o.suspendMatrix != nullptr && o.suspendBox != nullptr) {
     const RadioCell* choice = o.suspendMatrix->selectedCell();

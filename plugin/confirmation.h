@@ -8,8 +8,8 @@
 
 namespace kesto {
 
-/// Whether the entry that the choice in force asks for is there: the login name, also while it is held, or the user
-/// number. A control that the layout leaves out is not asked for.
+/// Whether the entry that the choice in force asks for is there: the login name, also while it is held, or
+/// the user number. A control that the layout leaves out is not asked for.
 bool isAuthenticationEntered(const PanelState& state);
 
 /// Shows the alert that asks for the authentication entries.

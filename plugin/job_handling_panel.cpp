@@ -15,14 +15,20 @@ namespace {
 
 Q_LOGGING_CATEGORY(layout, "kesto.layout")
 
-QVariant orNull(const QString& text) { return text.isNull() ? QVariant::fromValue(nullptr) : QVariant(text); }
+QVariant orNull(const QString& text) {
+  return text.isNull() ? QVariant::fromValue(nullptr) : QVariant(text);
+}
 
 QString layoutOfMode(int mode) {
   switch (mode) {
-    case 4: return QStringLiteral("JobControl4");
-    case 5: return QStringLiteral("JobControl5");
-    case 6: return QStringLiteral("JobControl6");
-    default: return {};
+    case 4:
+      return QStringLiteral("JobControl4");
+    case 5:
+      return QStringLiteral("JobControl5");
+    case 6:
+      return QStringLiteral("JobControl6");
+    default:
+      return {};
   }
 }
 
@@ -59,8 +65,8 @@ void KestoPrintPdeVq250nJC::gatherPrinterFacts() {
   m_state.active_directory = declaresActiveDirectory(m_ppd);
 }
 
-// The host is copied as it is written, so it is cut from the text rather than asked of a URL class, which changes
-// its case.
+// The host is copied as it is written, so it is cut from the text rather than asked of a URL class, which
+// changes its case.
 void KestoPrintPdeVq250nJC::keepPrinterAddress(const QString& deviceUri) {
   const QString scheme = deviceUri.section(u':', 0, 0);
   if (scheme != u"ipp" && scheme != u"lpd" && scheme != u"socket") return;
@@ -82,7 +88,8 @@ void KestoPrintPdeVq250nJC::loadView() {
   const QString name = layoutOfMode(getUIMode());
   if (name.isNull()) return;
   const std::optional<QByteArray> form = m_state.pdeBundle->resource(name, QStringLiteral("ui"));
-  const Outcome loaded = form ? loadLayout(*form, *m_state.pdeBundle, &m_panelView) : Outcome::failed(QStringLiteral("no such resource"));
+  const Outcome loaded = form ? loadLayout(*form, *m_state.pdeBundle, &m_panelView)
+                              : Outcome::failed(QStringLiteral("no such resource"));
   if (!loaded) {
     qCWarning(layout, "%s.ui: %s", qUtf8Printable(name), qUtf8Printable(loaded.reason()));
     return;
@@ -101,7 +108,8 @@ PanelView* KestoPrintPdeVq250nJC::panelView() {
 
 QString KestoPrintPdeVq250nJC::panelName() {
   _PDEProlog(this, "panelName:");
-  if (m_thePDEName.isNull()) m_thePDEName = m_state.pdeBundle->localizedStringForKey(QStringLiteral("Job Handling"));
+  if (m_thePDEName.isNull())
+    m_thePDEName = m_state.pdeBundle->localizedStringForKey(QStringLiteral("Job Handling"));
   _PDEEpilog(this, "panelName:=NSString(%@)", m_thePDEName);
   return m_thePDEName;
 }
@@ -115,11 +123,12 @@ QString KestoPrintPdeVq250nJC::panelKind() {
 
 QStringList KestoPrintPdeVq250nJC::supportedPPDOptionKeys() {
   _PDEProlog(this, "supportedPPDOptionKeys:");
-  const QStringList keys{
-      QStringLiteral("ARPrintRelease"),     QStringLiteral("ARRetention"),       QStringLiteral("ARDocFiling"),
-      QStringLiteral("ARHoldKey"),          QStringLiteral("ARDocumentFiling"),  QStringLiteral("ARCustomFolderName"),
-      QStringLiteral("ARCustomFolderPIN"),  QStringLiteral("ARAccountLogin"),    QStringLiteral("ARAccountPassword"),
-      QStringLiteral("ARUserNumber"),       QStringLiteral("ARUserName"),        QStringLiteral("ARJobName")};
+  const QStringList keys{QStringLiteral("ARPrintRelease"),    QStringLiteral("ARRetention"),
+                         QStringLiteral("ARDocFiling"),       QStringLiteral("ARHoldKey"),
+                         QStringLiteral("ARDocumentFiling"),  QStringLiteral("ARCustomFolderName"),
+                         QStringLiteral("ARCustomFolderPIN"), QStringLiteral("ARAccountLogin"),
+                         QStringLiteral("ARAccountPassword"), QStringLiteral("ARUserNumber"),
+                         QStringLiteral("ARUserName"),        QStringLiteral("ARJobName")};
   _PDEEpilog(this, "supportedPPDOptionKeys:=NSArray(%@)", keys.join(u' '));
   return keys;
 }
@@ -197,13 +206,22 @@ QMap<QString, QString> KestoPrintPdeVq250nJC::summaryInfo() {
 }
 
 QVariant KestoPrintPdeVq250nJC::ppdEncoding() const {
-  return m_state.ppdEncoding ? QVariant(stringEncodingCode(*m_state.ppdEncoding)) : QVariant::fromValue(nullptr);
+  return m_state.ppdEncoding ? QVariant(stringEncodingCode(*m_state.ppdEncoding))
+                             : QVariant::fromValue(nullptr);
 }
 
-QVariant KestoPrintPdeVq250nJC::modelStringRef() const { return orNull(m_state.modelStringRef); }
-QVariant KestoPrintPdeVq250nJC::mfpURL() const { return orNull(m_state.mfpURL); }
-QVariant KestoPrintPdeVq250nJC::preferenceName() const { return orNull(m_state.preferenceName); }
-QVariant KestoPrintPdeVq250nJC::addressStringRef() const { return orNull(m_state.addressStringRef); }
+QVariant KestoPrintPdeVq250nJC::modelStringRef() const {
+  return orNull(m_state.modelStringRef);
+}
+QVariant KestoPrintPdeVq250nJC::mfpURL() const {
+  return orNull(m_state.mfpURL);
+}
+QVariant KestoPrintPdeVq250nJC::preferenceName() const {
+  return orNull(m_state.preferenceName);
+}
+QVariant KestoPrintPdeVq250nJC::addressStringRef() const {
+  return orNull(m_state.addressStringRef);
+}
 
 QVariant KestoPrintPdeVq250nJC::folderList() const {
   if (!m_state.folderList) return QVariant::fromValue(nullptr);

@@ -16,9 +16,10 @@
 
 namespace kesto {
 
-/// One panel of one print dialog. Construction gathers the facts about the current printer, which stay as they are;
-/// the controls are made when the host first wants them. Everything runs on the dialog's thread, and nothing is
-/// reported but by the two alerts. The properties are the panel's facts; encodings are numbers, none is null.
+/// One panel of one print dialog. Construction gathers the facts about the current printer, which stay as
+/// they are; the controls are made when the host first wants them. Everything runs on the dialog's thread,
+/// and nothing is reported but by the two alerts. The properties are the panel's facts; encodings are
+/// numbers, none is null.
 class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries {
   Q_OBJECT
   Q_PROPERTY(QVariant ppdEncoding READ ppdEncoding CONSTANT)

@@ -22,8 +22,10 @@ struct EncodingName {
 };
 
 constexpr std::array encodingNames{
-    EncodingName{"ISOLatin1", TextEncoding::IsoLatin1}, EncodingName{"WindowsANSI", TextEncoding::WindowsLatin1},
-    EncodingName{"JIS83-RKSJ", TextEncoding::ShiftJis}, EncodingName{"UTF-8", TextEncoding::Utf8},
+    EncodingName{"ISOLatin1", TextEncoding::IsoLatin1},
+    EncodingName{"WindowsANSI", TextEncoding::WindowsLatin1},
+    EncodingName{"JIS83-RKSJ", TextEncoding::ShiftJis},
+    EncodingName{"UTF-8", TextEncoding::Utf8},
     EncodingName{"UTF8", TextEncoding::Utf8},
 };
 

@@ -9,8 +9,8 @@ struct ppd_file_s;
 
 namespace kesto {
 
-/// The encoding of the PPD's strings by its declared language encoding, compared exactly; Mac OS Roman for every
-/// other name, without one, or without a PPD.
+/// The encoding of the PPD's strings by its declared language encoding, compared exactly; Mac OS Roman for
+/// every other name, without one, or without a PPD.
 TextEncoding getEncodingFromPPD(ppd_file_s* ppd);
 
 /// The PPD's model name decoded with `encoding`; null when it has none or it does not decode.

@@ -64,7 +64,10 @@ Mask maskOf(const QJsonValue& stored) {
 PreferenceStore::Access PreferenceStore::access() const {
   if (m_state.preferenceName.isNull()) return {};
   const Domain domain = m_state.platform->userDefaults().persistentDomainForName(m_state.preferenceName);
-  Access access{.available = domain.available, .exists = false, .domain = domain.values.value_or(QJsonObject()), .record = {}};
+  Access access{.available = domain.available,
+                .exists = false,
+                .domain = domain.values.value_or(QJsonObject()),
+                .record = {}};
   const QJsonValue record = access.domain.value(panelRecord);
   access.exists = record.isObject();
   access.record = record.toObject();
@@ -109,9 +112,11 @@ void PreferenceStore::GetUserPreference() {
 QString PreferenceStore::sealedEntry(const HeldField& row, const QString& text) const {
   QByteArray sealed;
   switch (row.form) {
-    case RememberedForm::Clear: return text;
+    case RememberedForm::Clear:
+      return text;
     case RememberedForm::SealedHex:
-      sealed = sealedHex(bytesOfText(text, m_state.systemEncoding, row.cipherBytes, row.cipherBytes), row.cipherBytes);
+      sealed = sealedHex(bytesOfText(text, m_state.systemEncoding, row.cipherBytes, row.cipherBytes),
+                         row.cipherBytes);
       break;
     case RememberedForm::SealedBase64:
       sealed = sealedBase64(bytesOfText(text, m_state.systemEncoding, loginNameUnits, loginNameUnits));
@@ -138,7 +143,8 @@ void PreferenceStore::storeEntry(const HeldField& row, QJsonObject* record) cons
 bool PreferenceStore::SaveUserPreference() {
   Access now = access();
   if (!now.available) return false;
-  for (const HeldField& row : heldFields) storeEntry(row, &now.record);
+  for (const HeldField& row : heldFields)
+    storeEntry(row, &now.record);
   const RadioCell* login = m_state.outlets.authenticationRadioButton;
   now.record.insert(authentication, login != nullptr && login->state() != 0);
   now.record.insert(holdButton, holdButtonMask(m_state.outlets));
@@ -165,7 +171,8 @@ bool PreferenceStore::SaveFolderPreference() {
   }
   if (m_state.folderList) {
     QJsonArray list;
-    for (const FolderEntry& folder : *m_state.folderList) list.append(jsonOf(folder));
+    for (const FolderEntry& folder : *m_state.folderList)
+      list.append(jsonOf(folder));
     now.record.insert(files, list);
   }
   return write(std::move(now));

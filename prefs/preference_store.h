@@ -8,17 +8,17 @@
 
 namespace kesto {
 
-/// Validates, loads and saves what the user let the panel remember for the printer. Every operation reads the domain
-/// afresh, and every write replaces it whole, so that other keys of the domain survive and the last writer's record
-/// wins. Without a preference domain there is nothing to load, and saving answers false.
+/// Validates, loads and saves what the user let the panel remember for the printer. Every operation reads the
+/// domain afresh, and every write replaces it whole, so that other keys of the domain survive and the last
+/// writer's record wins. Without a preference domain there is nothing to load, and saving answers false.
 class PreferenceStore : public FolderListStore {
  public:
   explicit PreferenceStore(PanelState& state) : m_state(state) {}
 
   /// Resets the record when it is of another printer model or release, and writes it either way.
   void CheckPreference();
-  /// Loads the hold-button mask and the values whose bits it has; all are cleared first. A mask that is no 32-bit
-  /// integer loads no value.
+  /// Loads the hold-button mask and the values whose bits it has; all are cleared first. A mask that is no
+  /// 32-bit integer loads no value.
   void GetUserPreference();
   /// Stores the controls' entries and the hold-button mask; false when nothing could be written.
   bool SaveUserPreference();

@@ -1,5 +1,5 @@
-// The print-settings keys of Job Handling that belong to no held field. docs/formats/print-settings.md tells every
-// key and form.
+// The print-settings keys of Job Handling that belong to no held field. docs/formats/print-settings.md tells
+// every key and form.
 #pragma once
 
 #include <QtCore/QString>

@@ -18,7 +18,8 @@ using A = ControlActions;
 // The leading decimal integer of a text, 0 when there is none; beyond 32 bits the nearest that fits.
 int leadingInteger(const QString& text) {
   qsizetype i = 0;
-  while (i < text.size() && text[i].isSpace()) ++i;
+  while (i < text.size() && text[i].isSpace())
+    ++i;
   const bool negative = i < text.size() && text[i] == u'-';
   if (i < text.size() && (text[i] == u'-' || text[i] == u'+')) ++i;
   std::int64_t number = 0;
@@ -94,10 +95,17 @@ void SettingsReader::readRetention() {
   // 0 off, else the row of the hold choice and one.
   int choice = 0;
   switch (firstCharacter(value(job_keys::jobSuspend)).unicode()) {
-    case u'1': choice = 2; break;
-    case u'2': choice = 1; break;
-    case u'3': choice = 3; break;
-    default: break;
+    case u'1':
+      choice = 2;
+      break;
+    case u'2':
+      choice = 1;
+      break;
+    case u'3':
+      choice = 3;
+      break;
+    default:
+      break;
   }
   if (m_state.active_directory) choice = 1;
   const Outlets& o = m_state.outlets;
@@ -178,7 +186,8 @@ void SettingsReader::readAuthentication() {
   if (matrix != nullptr) matrix->selectRow(isLogin ? 0 : 1);
 }
 
-// The sealed login name of the job; under directory operation the account's name stands in for an incomplete one.
+// The sealed login name of the job; under directory operation the account's name stands in for an incomplete
+// one.
 QByteArray SettingsReader::storedLoginName(bool* useAccountName) const {
   QByteArray first = asciiValue(job_keys::loginName11, loginNameBuffer);
   const QByteArray second = asciiValue(job_keys::loginName12, loginNameBuffer);
@@ -211,7 +220,8 @@ void SettingsReader::readLoginName() {
 
 std::optional<QString> SettingsReader::fallbackName(Held field) const {
   if (field == Held::JobName) return m_state.printSettings()->jobName().value_or(QString());
-  const QString name = m_state.active_directory ? m_state.platform->userName() : m_state.platform->fullUserName();
+  const QString name =
+      m_state.active_directory ? m_state.platform->userName() : m_state.platform->fullUserName();
   return name.isNull() ? std::nullopt : std::optional(name);
 }
 

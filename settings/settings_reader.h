@@ -6,16 +6,16 @@
 
 namespace kesto {
 
-/// Sets every control from the job's print settings and the remembered values, and sends the controls' actions, so
-/// that the enabling rules hold. A remembered value wins over the print settings once: its bit of
+/// Sets every control from the job's print settings and the remembered values, and sends the controls'
+/// actions, so that the enabling rules hold. A remembered value wins over the print settings once: its bit of
 /// `prefHoldButtonFlag` goes with it.
 class SettingsReader {
  public:
   SettingsReader(PanelState& state, ControlActions& actions, FolderPopup& folderPopup)
       : m_state(state), m_actions(actions), m_folderPopup(folderPopup) {}
 
-  /// Does nothing without print settings. Reports no error: a value that is absent, unreadable or too long gives an
-  /// empty field, or the default of a name.
+  /// Does nothing without print settings. Reports no error: a value that is absent, unreadable or too long
+  /// gives an empty field, or the default of a name.
   void getNonPPDSettingsFromPrintSettings();
 
  private:

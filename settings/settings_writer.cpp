@@ -114,7 +114,9 @@ std::optional<QString> SettingsWriter::chosenFolderName(bool* isStandard) const 
 
 void SettingsWriter::writeFolderName(const QString& name) {
   const auto convert = [&](TextEncoding encoding) { return cStringOfText(name, encoding, folderNameBuffer); };
-  const auto fits = [](const std::optional<QByteArray>& bytes) { return bytes && bytes->size() <= longestNameBytes; };
+  const auto fits = [](const std::optional<QByteArray>& bytes) {
+    return bytes && bytes->size() <= longestNameBytes;
+  };
   std::optional<QByteArray> bytes = convert(m_state.systemEncoding);
   if (!bytes) bytes = convert(TextEncoding::MacJapanese);
   if (fits(bytes)) store(job_keys::folderPath, hexText(*bytes));
@@ -140,7 +142,8 @@ bool SettingsWriter::writeRetention(int filingMode) {
 
 QByteArray SettingsWriter::digitsOf(Held field) const {
   const HeldField& row = rowOf(field);
-  return bytesOfText(textOfField(m_state.outlets.*row.edit), m_state.systemEncoding, digitsOffered, row.writtenBytes);
+  return bytesOfText(textOfField(m_state.outlets.*row.edit), m_state.systemEncoding, digitsOffered,
+                     row.writtenBytes);
 }
 
 void SettingsWriter::writeDigitsDigest(Held field, const char* digestKey, const QByteArray& spoolTime,

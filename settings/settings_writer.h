@@ -6,15 +6,15 @@
 
 namespace kesto {
 
-/// Turns the controls into the keys that the printer driver's filter reads. Every run rewrites all keys; only the
-/// spool time of the first run stays.
+/// Turns the controls into the keys that the printer driver's filter reads. Every run rewrites all keys; only
+/// the spool time of the first run stays.
 class SettingsWriter {
  public:
   SettingsWriter(PanelState& state, const CapabilityQueries& capabilities)
       : m_state(state), m_capabilities(capabilities) {}
 
-  /// Does nothing without print settings or before the controls are initialised. Changes nothing in the panel and
-  /// reports no error: what cannot be converted is stored as far as it goes, or its key is removed.
+  /// Does nothing without print settings or before the controls are initialised. Changes nothing in the panel
+  /// and reports no error: what cannot be converted is stored as far as it goes, or its key is removed.
   void writeNonPPDSettingsToPrintSettings();
 
  private:

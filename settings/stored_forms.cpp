@@ -35,7 +35,9 @@ QByteArray hexText(const QByteArray& bytes) {
   return text;
 }
 
-QByteArray textOfHex(const QByteArray& hex) { return QByteArray(bytesOfHex(hex).constData()); }
+QByteArray textOfHex(const QByteArray& hex) {
+  return QByteArray(bytesOfHex(hex).constData());
+}
 
 QByteArray paddedDigits(const QByteArray& digits) {
   return QByteArray(std::max<qsizetype>(0, 5 - digits.size()), '0') + digits.constData();

@@ -1,5 +1,5 @@
-// The stored forms of codes, numbers and names, built from the value helpers and the cipher. Both the print settings
-// and the preferences use them.
+// The stored forms of codes, numbers and names, built from the value helpers and the cipher. Both the print
+// settings and the preferences use them.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -23,8 +23,8 @@ QByteArray jobDigest(const QByteArray& first, const QByteArray& second);
 /// The first `cipherBytes` bytes of the enciphered text as hexadecimal text; empty for an empty text.
 QByteArray sealedHex(const QByteArray& plaintext, int cipherBytes);
 /// The plaintext of a sealed hexadecimal value, up to its first zero byte; empty when the value has less than
-/// `2 * cipherBytes` characters. A second block that is all "0" is no cipher text: a plaintext that filled the first
-/// block left it.
+/// `2 * cipherBytes` characters. A second block that is all "0" is no cipher text: a plaintext that filled
+/// the first block left it.
 QByteArray plaintextOfSealedHex(const QByteArray& hex, int cipherBytes);
 
 /// The enciphered text in Base64; empty for an empty text. At most 255 bytes.

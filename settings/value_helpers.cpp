@@ -50,10 +50,12 @@ std::size_t GetSpoolTime(std::span<char> destination, const QDateTime& now) {
     return 0;
   }
   const int minutes = now.offsetFromUtc() / 60;
-  const QString text =
-      QLocale(QLocale::English, QLocale::UnitedStates).toString(now, QStringLiteral("ddd, dd MMM yyyy HH:mm:ss ")) +
-      (minutes < 0 ? u'-' : u'+') +
-      QStringLiteral("%1%2").arg(qAbs(minutes) / 60, 2, 10, QLatin1Char('0')).arg(qAbs(minutes) % 60, 2, 10, QLatin1Char('0'));
+  const QString text = QLocale(QLocale::English, QLocale::UnitedStates)
+                           .toString(now, QStringLiteral("ddd, dd MMM yyyy HH:mm:ss ")) +
+                       (minutes < 0 ? u'-' : u'+') +
+                       QStringLiteral("%1%2")
+                           .arg(qAbs(minutes) / 60, 2, 10, QLatin1Char('0'))
+                           .arg(qAbs(minutes) % 60, 2, 10, QLatin1Char('0'));
   const QByteArray ascii = text.toLatin1().left(spoolTimeBuffer - 1);
   std::memcpy(destination.data(), ascii.constData(), static_cast<std::size_t>(ascii.size()) + 1);
   return static_cast<std::size_t>(ascii.size());
@@ -67,8 +69,9 @@ void ReplaceSpaceCode(std::span<std::uint8_t> buffer) {
 }
 
 bool encodingWindowsLatin1(TextEncoding systemEncoding) {
-  return systemEncoding != TextEncoding::MacJapanese && systemEncoding != TextEncoding::MacTraditionalChinese &&
-         systemEncoding != TextEncoding::MacKorean && systemEncoding != TextEncoding::MacSimplifiedChinese;
+  return systemEncoding != TextEncoding::MacJapanese &&
+         systemEncoding != TextEncoding::MacTraditionalChinese && systemEncoding != TextEncoding::MacKorean &&
+         systemEncoding != TextEncoding::MacSimplifiedChinese;
 }
 
 void MyPMPrintSetAsciiCStrValue(PrintSettings* settings, const QString& key, const char* value) {
@@ -76,7 +79,8 @@ void MyPMPrintSetAsciiCStrValue(PrintSettings* settings, const QString& key, con
   std::optional<QString> text;
   if (value != nullptr && *value != '\0') {
     const std::string_view bytes(value);
-    const bool ascii = std::ranges::all_of(bytes, [](char byte) { return static_cast<std::uint8_t>(byte) < 0x80; });
+    const bool ascii =
+        std::ranges::all_of(bytes, [](char byte) { return static_cast<std::uint8_t>(byte) < 0x80; });
     if (ascii) text = QString::fromLatin1(value);
   }
   settings->setValue(key, text);
@@ -98,7 +102,8 @@ void MyMultiPMPrintSetAsciiCStrValue(PrintSettings* settings, const char* baseKe
   }
 }
 
-void MyMultiPMPrintGetAsciiCStrValue(const PrintSettings* settings, const char* baseKey, std::span<char> destination) {
+void MyMultiPMPrintGetAsciiCStrValue(const PrintSettings* settings, const char* baseKey,
+                                     std::span<char> destination) {
   if (settings == nullptr || !isBaseKey(baseKey) || destination.empty()) return;
   std::size_t length = 0;
   destination[0] = '\0';

@@ -6,7 +6,8 @@ namespace kesto {
 
 Outcome PanelHost::openPanel(PrintDialogPlugIn& plugIn) {
   PanelList panels = plugIn.PDEPanelsForType(QLatin1String(printDialogTypeIdentifier), this);
-  if (!panels || panels->empty()) return Outcome::failed(QStringLiteral("the bundle gives no panel for the print dialog"));
+  if (!panels || panels->empty())
+    return Outcome::failed(QStringLiteral("the bundle gives no panel for the print dialog"));
   m_panel = std::move(panels->front());
   return Outcome::done();
 }
@@ -18,7 +19,8 @@ PanelView* PanelHost::loadedView() const {
 Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialogPlugIn** plugIn) {
   const QString directory = Bundle::find(QStringLiteral("JobHandling.pde"));
   if (directory.isNull()) {
-    return Outcome::failed(QStringLiteral("JobHandling.pde is neither beside the program nor in the library folder"));
+    return Outcome::failed(
+        QStringLiteral("JobHandling.pde is neither beside the program nor in the library folder"));
   }
   auto found = std::make_shared<const Bundle>(directory);
   if (Outcome loaded = found->loadPrincipalObject(plugIn); !loaded) return loaded;

@@ -15,15 +15,15 @@ namespace kesto {
 /// The type of dialog that the Job Handling panel belongs to.
 inline constexpr char printDialogTypeIdentifier[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
-/// One dialog on one queue: lends printer, PPD and print settings to the panel, and owns all of them. Members are set
-/// before `openPanel`.
+/// One dialog on one queue: lends printer, PPD and print settings to the panel, and owns all of them. Members
+/// are set before `openPanel`.
 class PanelHost : public HostCallback {
  public:
   explicit PanelHost(Platform& platform) : m_platform(platform) {}
 
-  PrintSession session;                         ///< With the current printer, if any.
-  std::optional<PrintSettings> settings;        ///< None for a host without print settings.
-  PpdFile ppd;                                  ///< Null without a PPD.
+  PrintSession session;                   ///< With the current printer, if any.
+  std::optional<PrintSettings> settings;  ///< None for a host without print settings.
+  PpdFile ppd;                            ///< Null without a PPD.
   bool handlesConstraints = true;
 
   /// Makes the Job Handling panel from the bundle's entry object. The outcome says why there is none.
@@ -44,8 +44,8 @@ class PanelHost : public HostCallback {
   std::unique_ptr<PrintDialogPanel> m_panel;
 };
 
-/// Finds and loads the bundle "JobHandling.pde". On failure the outcome says where it was looked for, or why it does
-/// not load.
+/// Finds and loads the bundle "JobHandling.pde". On failure the outcome says where it was looked for, or why
+/// it does not load.
 Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialogPlugIn** plugIn);
 
 }  // namespace kesto

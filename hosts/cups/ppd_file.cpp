@@ -5,14 +5,17 @@
 
 namespace kesto {
 
-void ClosePpd::operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
+void ClosePpd::operator()(ppd_file_t* ppd) const {
+  ppdClose(ppd);
+}
 
 Outcome openPpdFile(const QString& path, PpdFile* ppd) {
   ppd->reset();
   // libcups tells of a file that cannot be read only that it cannot.
   QFile file(path);
   if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": is a folder, not a PPD file"));
-  if (!file.open(QIODevice::ReadOnly)) return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
+  if (!file.open(QIODevice::ReadOnly))
+    return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
   file.close();
   ppd->reset(ppdOpenFile(QFile::encodeName(path).constData()));
   if (*ppd) return Outcome::done();
@@ -20,6 +23,30 @@ Outcome openPpdFile(const QString& path, PpdFile* ppd) {
   const ppd_status_t status = ppdLastError(&line);
   return Outcome::failed(
       QStringLiteral("%1: line %2: %3").arg(path).arg(line).arg(QString::fromUtf8(ppdErrorString(status))));
+}
+
+Outcome fetchPpdFile(http_t* http, const QString& queue, PpdFile* ppd) {
+  ppd->reset();
+  std::time_t modified = 0;
+  char path[1024] = "";
+  const http_status_t status = cupsGetPPD3(http, queue.toUtf8().constData(), &modified, path, sizeof path);
+  if (status == HTTP_STATUS_NOT_FOUND) return Outcome::done();
+  if (status != HTTP_STATUS_OK) {
+    return Outcome::failed(QStringLiteral("the PPD of %1 cannot be had: %2")
+                               .arg(queue, QString::fromUtf8(cupsLastErrorString())));
+  }
+  Outcome opened = openPpdFile(QFile::decodeName(path), ppd);
+  QFile::remove(QFile::decodeName(path));
+  return opened;
+}
+
+bool offersJobHandling(ppd_file_t& ppd) {
+  for (const ppd_attr_t* attribute = ppdFindAttr(&ppd, "APDialogExtension", nullptr); attribute != nullptr;
+       attribute = ppdFindNextAttr(&ppd, "APDialogExtension", nullptr)) {
+    if (attribute->value != nullptr && QByteArrayView(attribute->value).contains("JobHandling.pde"))
+      return true;
+  }
+  return false;
 }
 
 }  // namespace kesto

@@ -1,6 +1,7 @@
 // The PPD of a queue, opened through libcups.
 #pragma once
 
+#include <cups/cups.h>
 #include <cups/ppd.h>
 
 #include <QtCore/QString>
@@ -17,7 +18,15 @@ struct ClosePpd {
 /// An opened PPD, closed with its owner.
 using PpdFile = std::unique_ptr<ppd_file_t, ClosePpd>;
 
-/// Opens the PPD file `path`. On failure `*ppd` is null and the outcome names the file, the line and libcups's reason.
+/// Opens the PPD file `path`. On failure `*ppd` is null and the outcome names the file, the line and
+/// libcups's reason.
 Outcome openPpdFile(const QString& path, PpdFile* ppd);
+
+/// The PPD of a queue, fetched from a print server; null for a queue that has none. On failure the outcome
+/// carries libcups's reason.
+Outcome fetchPpdFile(http_t* http, const QString& queue, PpdFile* ppd);
+
+/// Whether the PPD names the bundle "JobHandling.pde" among the extensions of the print dialog.
+bool offersJobHandling(ppd_file_t& ppd);
 
 }  // namespace kesto

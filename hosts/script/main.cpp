@@ -25,13 +25,16 @@ struct Options {
 
 Outcome readSettings(const QString& path, kesto::PrintSettings* settings) {
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
+  if (!file.open(QIODevice::ReadOnly))
+    return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
   QJsonParseError fault;
   const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &fault);
-  if (!document.isObject()) return Outcome::failed(path + QStringLiteral(": not a JSON object of print settings"));
+  if (!document.isObject())
+    return Outcome::failed(path + QStringLiteral(": not a JSON object of print settings"));
   const QJsonObject values = document.object();
   for (auto it = values.begin(); it != values.end(); ++it) {
-    if (!it.value().isString()) return Outcome::failed(path + QStringLiteral(": the value of %1 is no text").arg(it.key()));
+    if (!it.value().isString())
+      return Outcome::failed(path + QStringLiteral(": the value of %1 is no text").arg(it.key()));
     settings->setValue(it.key(), it.value().toString());
   }
   return Outcome::done();
@@ -48,7 +51,8 @@ Outcome prepare(const CLI::App& app, const Options& options, kesto::PanelHost* h
     host->settings.emplace();
     if (app.count("--job-name") > 0) host->settings->setJobName(QString::fromStdString(options.jobName));
     if (app.count("--settings") > 0) {
-      if (Outcome read = readSettings(QString::fromStdString(options.settings), &*host->settings); !read) return read;
+      if (Outcome read = readSettings(QString::fromStdString(options.settings), &*host->settings); !read)
+        return read;
     }
   }
   if (app.count("--ppd") == 0) return Outcome::done();
@@ -67,15 +71,19 @@ int serve(kesto::ScriptSession& session) {
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
-  CLI::App app("Drives a Job Handling panel by commands in JSON, one object a line, on standard input.", "kesto-panel");
+  CLI::App app("Drives a Job Handling panel by commands in JSON, one object a line, on standard input.",
+               "kesto-panel");
   Options options;
   app.add_option("--ppd", options.ppd, "PPD file of the current printer")->type_name("FILE");
   app.add_option("--device-uri", options.deviceUri, "device URI of the current printer")->type_name("URI");
-  app.add_option("--queue", options.queue, "identifier of the current printer's queue; without it there is no printer")
+  app.add_option("--queue", options.queue,
+                 "identifier of the current printer's queue; without it there is no printer")
       ->type_name("ID");
-  app.add_option("--settings", options.settings, "JSON object of print settings to start from")->type_name("FILE");
+  app.add_option("--settings", options.settings, "JSON object of print settings to start from")
+      ->type_name("FILE");
   app.add_option("--job-name", options.jobName, "the job's own name")->type_name("NAME");
-  app.add_flag("--no-constraint-handling", options.noConstraintHandling, "be a host that handles no constraints");
+  app.add_flag("--no-constraint-handling", options.noConstraintHandling,
+               "be a host that handles no constraints");
   app.add_flag("--no-print-settings", options.noPrintSettings, "be a host without print settings");
   try {
     app.parse(argc, argv);

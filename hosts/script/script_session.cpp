@@ -14,11 +14,17 @@
 namespace kesto {
 namespace {
 
-QJsonObject error(const QString& reason) { return {{QStringLiteral("error"), reason}}; }
+QJsonObject error(const QString& reason) {
+  return {{QStringLiteral("error"), reason}};
+}
 
-QJsonObject answerOf(const Outcome& outcome) { return outcome ? QJsonObject() : error(outcome.reason()); }
+QJsonObject answerOf(const Outcome& outcome) {
+  return outcome ? QJsonObject() : error(outcome.reason());
+}
 
-QJsonObject single(const char* name, const QJsonValue& value) { return {{QLatin1String(name), value}}; }
+QJsonObject single(const char* name, const QJsonValue& value) {
+  return {{QLatin1String(name), value}};
+}
 
 // The properties that a class adds to QObject, as JSON.
 QJsonObject propertiesOf(const QObject& object) {
@@ -36,9 +42,12 @@ enum class Member : std::uint8_t { Text, TextOrNull, Whole };
 
 bool holds(const QJsonValue& value, Member member) {
   switch (member) {
-    case Member::Text: return value.isString();
-    case Member::TextOrNull: return value.isString() || value.isNull();
-    case Member::Whole: return value.isDouble() && value.toDouble() == std::trunc(value.toDouble());
+    case Member::Text:
+      return value.isString();
+    case Member::TextOrNull:
+      return value.isString() || value.isNull();
+    case Member::Whole:
+      return value.isDouble() && value.toDouble() == std::trunc(value.toDouble());
   }
   return false;
 }
@@ -49,13 +58,16 @@ int wholeOf(const QJsonValue& value) {
 
 }  // namespace
 
-void AlertRecorder::runInformationalAlert(const QString& title, const QString& message, const QString& button) {
+void AlertRecorder::runInformationalAlert(const QString& title, const QString& message,
+                                          const QString& button) {
   m_alerts.append(QJsonObject{{QStringLiteral("title"), title},
                               {QStringLiteral("message"), message},
                               {QStringLiteral("button"), button}});
 }
 
-QJsonArray AlertRecorder::take() { return std::exchange(m_alerts, QJsonArray()); }
+QJsonArray AlertRecorder::take() {
+  return std::exchange(m_alerts, QJsonArray());
+}
 
 struct ScriptSession::CommandRow {
   struct MemberRow {
@@ -100,7 +112,8 @@ QJsonObject ScriptSession::answer(const QByteArray& line) {
   QJsonParseError fault;
   const QJsonDocument document = QJsonDocument::fromJson(line, &fault);
   if (!document.isObject()) {
-    return error(fault.error == QJsonParseError::NoError ? QStringLiteral("not an object") : fault.errorString());
+    return error(fault.error == QJsonParseError::NoError ? QStringLiteral("not an object")
+                                                         : fault.errorString());
   }
   const QJsonObject command = document.object();
   const QJsonValue name = command.value(QStringLiteral("do"));
@@ -110,7 +123,8 @@ QJsonObject ScriptSession::answer(const QByteArray& line) {
     if (member.name == nullptr) break;
     const QLatin1String memberName(member.name);
     if (!command.contains(memberName)) return error(QStringLiteral("%1 is missing").arg(memberName));
-    if (!holds(command.value(memberName), member.member)) return error(QStringLiteral("%1 is not of its kind").arg(memberName));
+    if (!holds(command.value(memberName), member.member))
+      return error(QStringLiteral("%1 is not of its kind").arg(memberName));
   }
   QJsonObject result = (this->*row->run)(command);
   const QJsonArray alerts = m_alerts.take();
@@ -125,7 +139,8 @@ T* ScriptSession::controlOf(const QJsonObject& command) const {
 }
 
 QJsonObject ScriptSession::panels(const QJsonObject& command) {
-  const PanelList panels = m_plugIn.PDEPanelsForType(command.value(QStringLiteral("type")).toString(), &m_host);
+  const PanelList panels =
+      m_plugIn.PDEPanelsForType(command.value(QStringLiteral("type")).toString(), &m_host);
   return single("panels", panels ? QJsonValue(static_cast<qint64>(panels->size())) : QJsonValue());
 }
 
@@ -150,7 +165,8 @@ QJsonObject ScriptSession::shouldPrint(const QJsonObject& /*command*/) {
 QJsonObject ScriptSession::summary(const QJsonObject& /*command*/) {
   QJsonObject pairs;
   const QMap<QString, QString> summary = m_host.panel()->summaryInfo();
-  for (auto it = summary.begin(); it != summary.end(); ++it) pairs.insert(it.key(), it.value());
+  for (auto it = summary.begin(); it != summary.end(); ++it)
+    pairs.insert(it.key(), it.value());
   return single("summary", pairs);
 }
 
@@ -165,7 +181,8 @@ QJsonObject ScriptSession::select(const QJsonObject& command) {
   if (matrix == nullptr && popUp == nullptr) return error(QStringLiteral("no such matrix or pop-up"));
   const QString member = matrix != nullptr ? QStringLiteral("row") : QStringLiteral("index");
   const QJsonValue number = command.value(member);
-  if (!holds(number, Member::Whole)) return error(QStringLiteral("%1 is missing or no whole number").arg(member));
+  if (!holds(number, Member::Whole))
+    return error(QStringLiteral("%1 is missing or no whole number").arg(member));
   return answerOf(matrix != nullptr ? matrix->choose(wholeOf(number)) : popUp->choose(wholeOf(number)));
 }
 
@@ -197,7 +214,8 @@ QJsonObject ScriptSession::controls(const QJsonObject& /*command*/) {
   QJsonObject controls;
   QJsonValue responder;
   if (const PanelView* view = m_host.loadedView()) {
-    for (const Control* control : view->controls()) controls.insert(control->objectName(), propertiesOf(*control));
+    for (const Control* control : view->controls())
+      controls.insert(control->objectName(), propertiesOf(*control));
     if (view->firstResponder() != nullptr) responder = view->firstResponder()->objectName();
   }
   return {{QStringLiteral("controls"), controls}, {QStringLiteral("firstResponder"), responder}};
@@ -208,7 +226,8 @@ QJsonObject ScriptSession::facts(const QJsonObject& /*command*/) {
   QJsonObject facts = propertiesOf(panel);
   facts.insert(QStringLiteral("panelName"), panel.panelName());
   facts.insert(QStringLiteral("panelKind"), panel.panelKind());
-  facts.insert(QStringLiteral("supportedPPDOptionKeys"), QJsonArray::fromStringList(panel.supportedPPDOptionKeys()));
+  facts.insert(QStringLiteral("supportedPPDOptionKeys"),
+               QJsonArray::fromStringList(panel.supportedPPDOptionKeys()));
   facts.insert(QStringLiteral("shouldHide"), panel.shouldHide());
   facts.insert(QStringLiteral("shouldShowHelp"), panel.shouldShowHelp());
   return facts;
@@ -218,7 +237,8 @@ QJsonObject ScriptSession::settings(const QJsonObject& /*command*/) {
   QJsonObject values;
   if (m_host.settings) {
     const auto& all = m_host.settings->all();
-    for (auto it = all.begin(); it != all.end(); ++it) values.insert(it.key(), it.value());
+    for (auto it = all.begin(); it != all.end(); ++it)
+      values.insert(it.key(), it.value());
   }
   return single("settings", values);
 }

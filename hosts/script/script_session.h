@@ -28,7 +28,8 @@ class ScriptSession {
   ScriptSession(PanelHost& host, PrintDialogPlugIn& plugIn, AlertRecorder& alerts)
       : m_host(host), m_plugIn(plugIn), m_alerts(alerts) {}
 
-  /// Carries out one line and answers one object; `{"error":...}` for a line that is no command or cannot be done.
+  /// Carries out one line and answers one object; `{"error":...}` for a line that is no command or cannot be
+  /// done.
   QJsonObject answer(const QByteArray& line);
   /// Whether `quit` was asked for.
   bool isOver() const { return m_isOver; }

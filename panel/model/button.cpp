@@ -6,9 +6,12 @@ Button::Button(Type type, const QString& name, PanelView* view) : Control(name, 
 
 QString Button::kind() const {
   switch (m_type) {
-    case Type::CheckBox: return QStringLiteral("checkBox");
-    case Type::HoldButton: return QStringLiteral("holdButton");
-    case Type::PushButton: break;
+    case Type::CheckBox:
+      return QStringLiteral("checkBox");
+    case Type::HoldButton:
+      return QStringLiteral("holdButton");
+    case Type::PushButton:
+      break;
   }
   return QStringLiteral("pushButton");
 }
@@ -20,9 +23,13 @@ Outcome Button::click() {
   return Outcome::done();
 }
 
-QVariant Button::imageName() const { return nameOfImage(m_image); }
+QVariant Button::imageName() const {
+  return nameOfImage(m_image);
+}
 
-QVariant Button::alternateImageName() const { return nameOfImage(m_alternateImage); }
+QVariant Button::alternateImageName() const {
+  return nameOfImage(m_alternateImage);
+}
 
 QVariant nameOfImage(const std::optional<Image>& image) {
   return image ? QVariant(image->name) : QVariant::fromValue(nullptr);

@@ -8,8 +8,8 @@
 
 namespace kesto {
 
-/// A button with a title or an image. Check boxes and hold buttons have a state, 0 off and 1 on; a hold button shows
-/// `alternateImage` while it is on.
+/// A button with a title or an image. Check boxes and hold buttons have a state, 0 off and 1 on; a hold
+/// button shows `alternateImage` while it is on.
 class Button : public Control {
   Q_OBJECT
   Q_PROPERTY(QString title READ title NOTIFY changed)

@@ -4,6 +4,8 @@
 
 namespace kesto {
 
-Control::Control(const QString& name, PanelView* view) : QObject(view), m_view(view) { setObjectName(name); }
+Control::Control(const QString& name, PanelView* view) : QObject(view), m_view(view) {
+  setObjectName(name);
+}
 
 }  // namespace kesto

@@ -30,8 +30,8 @@ class Control : public QObject {
   /// `name` becomes the object name; the view owns the control.
   Control(const QString& name, PanelView* view);
 
-  /// What it is: "checkBox", "holdButton", "pushButton", "matrix", "radio", "popUp", "textField", "label", "box",
-  /// "tabView" or "progress".
+  /// What it is: "checkBox", "holdButton", "pushButton", "matrix", "radio", "popUp", "textField", "label",
+  /// "box", "tabView" or "progress".
   virtual QString kind() const = 0;
 
   bool isHidden() const { return m_hidden; }

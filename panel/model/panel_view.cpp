@@ -5,7 +5,9 @@
 
 namespace kesto {
 
-QList<Control*> PanelView::controls() const { return findChildren<Control*>(Qt::FindDirectChildrenOnly); }
+QList<Control*> PanelView::controls() const {
+  return findChildren<Control*>(Qt::FindDirectChildrenOnly);
+}
 
 void PanelView::makeFirstResponder(TextField* field) {
   if (m_firstResponder == field) return;

@@ -43,8 +43,8 @@ class PopUp : public Control {
   /// The selected item, null when none is.
   const PopUpItem* selectedItem() const;
 
-  /// The user's choice of an item, also of the one chosen before; sends the action. Fails when disabled, out of
-  /// range or a separator.
+  /// The user's choice of an item, also of the one chosen before; sends the action. Fails when disabled, out
+  /// of range or a separator.
   Outcome choose(int index);
 
  private:

@@ -7,9 +7,13 @@ RadioCell::RadioCell(const QString& name, RadioMatrix* matrix, int row)
   connect(matrix, &Control::changed, this, &Control::changed);
 }
 
-int RadioCell::state() const { return m_matrix->selectedRow() == m_row ? 1 : 0; }
+int RadioCell::state() const {
+  return m_matrix->selectedRow() == m_row ? 1 : 0;
+}
 
-bool RadioCell::isEnabled() const { return m_matrix->isEnabled(); }
+bool RadioCell::isEnabled() const {
+  return m_matrix->isEnabled();
+}
 
 RadioCell* RadioMatrix::addCell(const QString& name, const QString& title) {
   auto* cell = new RadioCell(name, this, static_cast<int>(m_cells.size()));  // owned by the view
@@ -22,7 +26,9 @@ const RadioCell* RadioMatrix::selectedCell() const {
   return m_selectedRow < 0 ? nullptr : m_cells[static_cast<std::size_t>(m_selectedRow)];
 }
 
-void RadioMatrix::setEnabled(bool enabled) { assign(m_enabled, enabled); }
+void RadioMatrix::setEnabled(bool enabled) {
+  assign(m_enabled, enabled);
+}
 
 void RadioMatrix::selectRow(int row) {
   if (row < 0 || row >= static_cast<int>(m_cells.size()) || row == m_selectedRow) return;

@@ -64,7 +64,8 @@ class RadioMatrix : public Control {
   const QStringList& rules() const { return m_rules; }
   void setRules(const QStringList& rules) { m_rules = rules; }
 
-  /// The user's choice of a row, also of the one chosen before; sends the action. Fails when disabled or out of range.
+  /// The user's choice of a row, also of the one chosen before; sends the action. Fails when disabled or out
+  /// of range.
   Outcome choose(int row);
 
  Q_SIGNALS:

@@ -4,9 +4,12 @@
 
 namespace kesto {
 
-QString Formatter::stringForObjectValue(const QVariant& value) const { return value.toString(); }
+QString Formatter::stringForObjectValue(const QVariant& value) const {
+  return value.toString();
+}
 
-bool Formatter::getObjectValue(QVariant* value, const QString& forString, QString* /*errorDescription*/) const {
+bool Formatter::getObjectValue(QVariant* value, const QString& forString,
+                               QString* /*errorDescription*/) const {
   *value = forString;
   return true;
 }
@@ -14,7 +17,9 @@ bool Formatter::getObjectValue(QVariant* value, const QString& forString, QStrin
 TextField::TextField(const QString& name, PanelView* view, int tag)
     : Control(name, view), m_tag(tag), m_editable(tag != 0), m_selectable(tag != 0) {}
 
-QString TextField::kind() const { return m_tag == 0 ? QStringLiteral("label") : QStringLiteral("textField"); }
+QString TextField::kind() const {
+  return m_tag == 0 ? QStringLiteral("label") : QStringLiteral("textField");
+}
 
 void TextField::setStringValue(const QString& text) {
   const TextRange end{text.size(), 0};
@@ -39,8 +44,8 @@ void TextField::insert(QStringView text) {
 Outcome TextField::type(const QString& text) {
   if (Outcome begun = beginEdit(); !begun) return begun;
   for (qsizetype position = 0; position < text.size();) {
-    const bool pair = text[position].isHighSurrogate() && position + 1 < text.size() &&
-                      text[position + 1].isLowSurrogate();
+    const bool pair =
+        text[position].isHighSurrogate() && position + 1 < text.size() && text[position + 1].isLowSurrogate();
     const qsizetype units = pair ? 2 : 1;
     insert(QStringView(text).sliced(position, units));
     position += units;
@@ -98,6 +103,8 @@ QString TextField::textColorName() const {
   return m_textColor == Color::Gray ? QStringLiteral("gray") : QStringLiteral("black");
 }
 
-QVariantList TextField::selectionList() const { return {m_selection.location, m_selection.length}; }
+QVariantList TextField::selectionList() const {
+  return {m_selection.location, m_selection.length};
+}
 
 }  // namespace kesto

@@ -25,15 +25,15 @@ class Formatter {
   virtual QString stringForObjectValue(const QVariant& value) const;
   /// The value of a text; `errorDescription` is never set. Succeeds for every text.
   virtual bool getObjectValue(QVariant* value, const QString& forString, QString* errorDescription) const;
-  /// Whether the field may become `partialString` with `proposedSelectedRange` selected. On refusal the two may have
-  /// been replaced by what the field is to show instead; otherwise it stays as it was.
+  /// Whether the field may become `partialString` with `proposedSelectedRange` selected. On refusal the two
+  /// may have been replaced by what the field is to show instead; otherwise it stays as it was.
   virtual bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,
                                     const QString& originalString, TextRange originalSelectedRange,
                                     QString* errorDescription) const = 0;
 };
 
-/// A line of text: a label (tag 0) or a field that the user can edit (any other tag). Positions and lengths count
-/// UTF-16 code units.
+/// A line of text: a label (tag 0) or a field that the user can edit (any other tag). Positions and lengths
+/// count UTF-16 code units.
 class TextField : public Control {
   Q_OBJECT
   Q_PROPERTY(QString stringValue READ stringValue NOTIFY changed)
@@ -76,8 +76,8 @@ class TextField : public Control {
   Outcome backspace();
   /// The user sets the selection, clamped to the text.
   Outcome placeCaret(TextRange range);
-  /// One edit of the user, already worked out by a toolkit: the text as it would become and the selection in it.
-  /// The formatter decides what the field then holds.
+  /// One edit of the user, already worked out by a toolkit: the text as it would become and the selection in
+  /// it. The formatter decides what the field then holds.
   void edit(QString proposed, TextRange proposedSelection);
 
  private:

@@ -1,0 +1,158 @@
+#include "hosts/cups/print_job.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <cstdio>
+
+namespace kesto {
+namespace {
+
+constexpr qsizetype blockSize = 65536;
+
+struct FreeDestInfo {
+  void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
+};
+using DestInfo = std::unique_ptr<cups_dinfo_t, FreeDestInfo>;
+
+// libcups's option array, freed with its owner.
+class Options {
+ public:
+  Options() = default;
+  ~Options() { cupsFreeOptions(m_count, m_options); }
+  Options(const Options&) = delete;
+  Options& operator=(const Options&) = delete;
+
+  void add(const char* name, const char* value) { m_count = cupsAddOption(name, value, m_count, &m_options); }
+  bool has(const char* name) const { return cupsGetOption(name, m_count, m_options) != nullptr; }
+  int count() const { return m_count; }
+  cups_option_t* data() const { return m_options; }
+
+ private:
+  int m_count = 0;
+  cups_option_t* m_options = nullptr;
+};
+
+// One document of a job, open for reading.
+struct Document {
+  std::unique_ptr<QFile> file;
+  QString name;
+  qint64 size = -1;
+};
+
+Outcome openDocuments(const QStringList& paths, std::vector<Document>* documents) {
+  if (paths.isEmpty()) {
+    auto input = std::make_unique<QFile>();
+    if (!input->open(stdin, QIODevice::ReadOnly))
+      return Outcome::failed(QStringLiteral("standard input cannot be read"));
+    documents->push_back({.file = std::move(input), .name = QStringLiteral("(stdin)")});
+  }
+  for (const QString& path : paths) {
+    auto file = std::make_unique<QFile>(path);
+    if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": is a folder"));
+    if (!file->open(QIODevice::ReadOnly))
+      return Outcome::failed(path + QStringLiteral(": ") + file->errorString());
+    const qint64 size = file->isSequential() ? -1 : file->size();
+    documents->push_back({.file = std::move(file), .name = QFileInfo(path).fileName(), .size = size});
+  }
+  return Outcome::done();
+}
+
+// A job that is created and not yet whole; cancelled unless it is kept.
+class OpenJob {
+ public:
+  OpenJob(PrintServer& server, cups_dest_t& destination, cups_dinfo_t* info)
+      : m_server(server), m_destination(destination), m_info(info) {}
+  ~OpenJob() {
+    if (m_id > 0 && !m_isKept) cupsCancelDestJob(m_server.http(), &m_destination, m_id);
+  }
+  OpenJob(const OpenJob&) = delete;
+  OpenJob& operator=(const OpenJob&) = delete;
+
+  Outcome create(const QString& title, const Options& options) {
+    const ipp_status_t status =
+        cupsCreateDestJob(m_server.http(), &m_destination, m_info, &m_id, title.toUtf8().constData(),
+                          options.count(), options.data());
+    if (status <= IPP_STATUS_OK_EVENTS_COMPLETE && m_id > 0) return Outcome::done();
+    return lastCupsError(QStringLiteral("the job is not taken"));
+  }
+
+  Outcome send(Document& document, const QByteArray& format, const Options& options, bool isLast,
+               const std::function<void(qint64)>& progress) {
+    const QString attempt = QStringLiteral("%1 is not taken").arg(document.name);
+    if (cupsStartDestDocument(m_server.http(), &m_destination, m_info, m_id,
+                              document.name.toUtf8().constData(), format.constData(), options.count(),
+                              options.data(), isLast ? 1 : 0) != HTTP_STATUS_CONTINUE) {
+      return lastCupsError(attempt);
+    }
+    qint64 sent = 0;
+    QByteArray block(blockSize, Qt::Uninitialized);
+    qint64 count = 0;
+    while ((count = document.file->read(block.data(), blockSize)) > 0) {
+      if (cupsWriteRequestData(m_server.http(), block.constData(), static_cast<std::size_t>(count)) !=
+          HTTP_STATUS_CONTINUE) {
+        return lastCupsError(attempt);
+      }
+      sent += count;
+      progress(sent);
+    }
+    if (count < 0)
+      return Outcome::failed(document.name + QStringLiteral(": ") + document.file->errorString());
+    if (cupsFinishDestDocument(m_server.http(), &m_destination, m_info) > IPP_STATUS_OK_EVENTS_COMPLETE) {
+      return lastCupsError(attempt);
+    }
+    return Outcome::done();
+  }
+
+  int keep() {
+    m_isKept = true;
+    return m_id;
+  }
+
+ private:
+  PrintServer& m_server;
+  cups_dest_t& m_destination;
+  cups_dinfo_t* m_info;
+  int m_id = 0;
+  bool m_isKept = false;
+};
+
+// The job's own options, then those that the user keeps for the queue.
+void gatherOptions(const PrintJob& job, const cups_dest_t& destination, Options* options) {
+  for (auto it = job.options.begin(); it != job.options.end(); ++it) {
+    options->add(it.key().toUtf8().constData(), it.value().toUtf8().constData());
+  }
+  for (int i = 0; i < destination.num_options; ++i) {
+    const cups_option_t& option = destination.options[i];
+    if (!options->has(option.name)) options->add(option.name, option.value);
+  }
+}
+
+}  // namespace
+
+Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& job,
+                const UploadProgress& progress, int* jobId) {
+  *jobId = 0;
+  std::vector<Document> documents;
+  if (Outcome opened = openDocuments(job.files, &documents); !opened) return opened;
+  const DestInfo info(cupsCopyDestInfo(server.http(), &destination));
+  if (!info)
+    return lastCupsError(
+        QStringLiteral("the queue %1 cannot be asked").arg(QString::fromUtf8(destination.name)));
+  Options options;
+  gatherOptions(job, destination, &options);
+  const QString format =
+      job.options.value(QStringLiteral("document-format"), QStringLiteral(CUPS_FORMAT_AUTO));
+
+  OpenJob open(server, destination, info.get());
+  if (Outcome created = open.create(job.title, options); !created) return created;
+  for (std::size_t i = 0; i < documents.size(); ++i) {
+    Document& document = documents[i];
+    const auto report = [&](qint64 sent) { progress(static_cast<int>(i) + 1, sent, document.size); };
+    Outcome sent = open.send(document, format.toUtf8(), options, i + 1 == documents.size(), report);
+    if (!sent) return sent;
+  }
+  *jobId = open.keep();
+  return Outcome::done();
+}
+
+}  // namespace kesto

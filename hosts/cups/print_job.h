@@ -1,0 +1,28 @@
+// Sends one job to a queue.
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtCore/QStringList>
+#include <functional>
+
+#include "hosts/cups/print_server.h"
+
+namespace kesto {
+
+/// A job as it is to be sent.
+struct PrintJob {
+  QString title;
+  QStringList files;               ///< Paths; empty for standard input.
+  QMap<QString, QString> options;  ///< Job options by name, the print settings among them.
+};
+
+/// Told of each part of a document that has gone out: its number from 1 on, the bytes so far and in all (-1
+/// when not known).
+using UploadProgress = std::function<void(int document, qint64 sent, qint64 total)>;
+
+/// Opens every file, creates the job, sends its documents; `*jobId` is its number. On failure nothing of the
+/// job stays with the server, and the outcome carries the reason.
+Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& job,
+                const UploadProgress& progress, int* jobId);
+
+}  // namespace kesto

@@ -1,0 +1,155 @@
+#include "hosts/cups/print_server.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace kesto {
+namespace {
+
+struct FreeIpp {
+  void operator()(ipp_t* ipp) const { ippDelete(ipp); }
+};
+using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
+
+// libcups asks whether to go on waiting: never.
+int giveUp(http_t* /*http*/, void* /*data*/) {
+  return 0;
+}
+
+// A reply that is already in memory, for the IPP reader.
+struct Reader {
+  const QByteArray& bytes;
+  qsizetype position = 0;
+};
+
+ssize_t readFromMemory(void* context, ipp_uchar_t* buffer, std::size_t size) {
+  auto* reader = static_cast<Reader*>(context);
+  const qsizetype count = std::min(static_cast<qsizetype>(size), reader->bytes.size() - reader->position);
+  std::memcpy(buffer, reader->bytes.constData() + reader->position, static_cast<std::size_t>(count));
+  reader->position += count;
+  return count;
+}
+
+QString nameOfState(int state) {
+  switch (state) {
+    case IPP_PSTATE_PROCESSING:
+      return QStringLiteral("processing");
+    case IPP_PSTATE_STOPPED:
+      return QStringLiteral("stopped");
+    default:
+      return QStringLiteral("idle");
+  }
+}
+
+void addAttribute(ipp_attribute_t* attribute, QueueSummary* queue) {
+  const QByteArrayView name(ippGetName(attribute));
+  const auto text = [&] { return QString::fromUtf8(ippGetString(attribute, 0, nullptr)); };
+  if (name == "printer-name") queue->name = text();
+  if (name == "printer-info") queue->info = text();
+  if (name == "device-uri") queue->deviceUri = text();
+  if (name == "printer-state") queue->state = nameOfState(ippGetInteger(attribute, 0));
+  if (name == "printer-is-accepting-jobs") queue->isAccepting = ippGetBoolean(attribute, 0) != 0;
+}
+
+// Each printer of a reply is a run of attributes in the printer group.
+std::vector<QueueSummary> queuesOf(ipp_t* reply) {
+  std::vector<QueueSummary> queues;
+  bool isInside = false;
+  for (ipp_attribute_t* each = ippFirstAttribute(reply); each != nullptr; each = ippNextAttribute(reply)) {
+    const bool isPrinter = ippGetGroupTag(each) == IPP_TAG_PRINTER && ippGetName(each) != nullptr;
+    if (isPrinter && !isInside) queues.emplace_back();
+    isInside = isPrinter;
+    if (isPrinter) addAttribute(each, &queues.back());
+  }
+  return queues;
+}
+
+}  // namespace
+
+void CloseHttp::operator()(http_t* http) const {
+  httpClose(http);
+}
+
+void FreeDest::operator()(cups_dest_t* dest) const {
+  cupsFreeDests(1, dest);
+}
+
+Outcome lastCupsError(const QString& attempt) {
+  return Outcome::failed(attempt + QStringLiteral(": ") + QString::fromUtf8(cupsLastErrorString()));
+}
+
+QString optionOf(const cups_dest_t& destination, const char* name) {
+  return QString::fromUtf8(cupsGetOption(name, destination.num_options, destination.options));
+}
+
+Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds limit,
+                             std::unique_ptr<PrintServer>* server) {
+  server->reset();
+  if (!address.isNull()) cupsSetServer(address.toUtf8().constData());
+  const QString name = QString::fromUtf8(cupsServer());
+  http_t* http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                              static_cast<int>(limit.count()), nullptr);
+  if (http == nullptr) return lastCupsError(QStringLiteral("the print server %1 does not answer").arg(name));
+  server->reset(new PrintServer(http));
+  httpSetTimeout(http, std::chrono::duration<double>(limit).count(), giveUp, nullptr);
+  return Outcome::done();
+}
+
+Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
+  // "queue/instance" names a user's own set of options for the queue.
+  const QByteArray queue = name.section(u'/', 0, 0).toUtf8();
+  const QByteArray instance = name.section(u'/', 1).toUtf8();
+  destination->reset(cupsGetNamedDest(http(), name.isNull() ? nullptr : queue.constData(),
+                                      instance.isEmpty() ? nullptr : instance.constData()));
+  if (*destination) return Outcome::done();
+  return name.isNull() ? Outcome::failed(QStringLiteral("there is no default queue; choose one with -d"))
+                       : lastCupsError(QStringLiteral("the queue %1 cannot be had").arg(name));
+}
+
+// The reply is read in blocks: libcups's own reading of it takes a system call for nearly every value.
+Outcome PrintServer::ask(ipp_t* request, QByteArray* reply) {
+  if (cupsSendRequest(http(), request, "/", ippLength(request)) != HTTP_STATUS_CONTINUE) {
+    return lastCupsError(QStringLiteral("the print server does not take the request"));
+  }
+  http_status_t status = HTTP_STATUS_CONTINUE;
+  while (status == HTTP_STATUS_CONTINUE)
+    status = httpUpdate(http());
+  if (status != HTTP_STATUS_OK) {
+    httpFlush(http());
+    const char* text = status == HTTP_STATUS_ERROR ? std::strerror(httpError(http())) : httpStatus(status);
+    return Outcome::failed(QStringLiteral("the print server does not answer: ") + QString::fromUtf8(text));
+  }
+  QByteArray block(65536, Qt::Uninitialized);
+  ssize_t count = 0;
+  while ((count = httpRead2(http(), block.data(), static_cast<std::size_t>(block.size()))) > 0) {
+    reply->append(block.constData(), count);
+  }
+  return count == 0 ? Outcome::done()
+                    : Outcome::failed(QStringLiteral("the print server's answer breaks off"));
+}
+
+Outcome PrintServer::listQueues(std::vector<QueueSummary>* queues) {
+  queues->clear();
+  static const char* const shown[] = {"printer-name", "printer-info", "device-uri", "printer-state",
+                                      "printer-is-accepting-jobs"};
+  const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+  ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", std::size(shown),
+                nullptr, shown);
+  QByteArray bytes;
+  if (Outcome asked = ask(request.get(), &bytes); !asked) return asked;
+  const Ipp reply(ippNew());
+  Reader reader{bytes};
+  if (ippReadIO(&reader, readFromMemory, 1, nullptr, reply.get()) != IPP_STATE_DATA) {
+    return Outcome::failed(QStringLiteral("the print server's answer is not readable"));
+  }
+  const ipp_status_t status = ippGetStatusCode(reply.get());
+  // A server without queues says that it found nothing.
+  if (status > IPP_STATUS_OK_CONFLICTING && status != IPP_STATUS_ERROR_NOT_FOUND) {
+    return Outcome::failed(QString::fromUtf8(ippErrorString(status)));
+  }
+  *queues = queuesOf(reply.get());
+  std::ranges::sort(*queues, {}, &QueueSummary::name);
+  return Outcome::done();
+}
+
+}  // namespace kesto
