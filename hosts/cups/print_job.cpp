@@ -1,8 +1,9 @@
 #include "hosts/cups/print_job.h"
 
+#include <unistd.h>
+
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <cstdio>
 
 namespace kesto {
 namespace {
@@ -39,20 +40,27 @@ struct Document {
   qint64 size = -1;
 };
 
-Outcome openDocuments(const QStringList& paths, std::vector<Document>* documents) {
-  if (paths.isEmpty()) {
-    auto input = std::make_unique<QFile>();
-    if (!input->open(stdin, QIODevice::ReadOnly))
-      return Outcome::failed(QStringLiteral("standard input cannot be read"));
-    documents->push_back({.file = std::move(input), .name = QStringLiteral("(stdin)")});
+Outcome openDocument(const QString& path, Document* document) {
+  document->file = std::make_unique<QFile>();
+  QFile& file = *document->file;
+  if (path == u"-") {
+    document->name = QStringLiteral("(stdin)");
+    // Unbuffered: what was read of it before ends where a line did.
+    if (file.open(STDIN_FILENO, QIODevice::ReadOnly)) return Outcome::done();
+    return Outcome::failed(QStringLiteral("standard input cannot be read"));
   }
-  for (const QString& path : paths) {
-    auto file = std::make_unique<QFile>(path);
-    if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": is a folder"));
-    if (!file->open(QIODevice::ReadOnly))
-      return Outcome::failed(path + QStringLiteral(": ") + file->errorString());
-    const qint64 size = file->isSequential() ? -1 : file->size();
-    documents->push_back({.file = std::move(file), .name = QFileInfo(path).fileName(), .size = size});
+  document->name = QFileInfo(path).fileName();
+  if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": is a folder"));
+  file.setFileName(path);
+  if (!file.open(QIODevice::ReadOnly))
+    return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
+  if (!file.isSequential()) document->size = file.size();
+  return Outcome::done();
+}
+
+Outcome openDocuments(const QStringList& paths, std::vector<Document>* documents) {
+  for (const QString& path : paths.isEmpty() ? QStringList{QStringLiteral("-")} : paths) {
+    if (Outcome opened = openDocument(path, &documents->emplace_back()); !opened) return opened;
   }
   return Outcome::done();
 }
@@ -128,6 +136,17 @@ void gatherOptions(const PrintJob& job, const cups_dest_t& destination, Options*
 }
 
 }  // namespace
+
+QMap<QString, QString> parseJobOptions(const QString& text) {
+  cups_option_t* parsed = nullptr;
+  const int count = cupsParseOptions(text.toUtf8().constData(), 0, &parsed);
+  QMap<QString, QString> options;
+  for (int i = 0; i < count; ++i) {
+    options.insert(QString::fromUtf8(parsed[i].name), QString::fromUtf8(parsed[i].value));
+  }
+  cupsFreeOptions(count, parsed);
+  return options;
+}
 
 Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& job,
                 const UploadProgress& progress, int* jobId) {

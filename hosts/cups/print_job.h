@@ -12,9 +12,12 @@ namespace kesto {
 /// A job as it is to be sent.
 struct PrintJob {
   QString title;
-  QStringList files;               ///< Paths; empty for standard input.
+  QStringList files;               ///< Paths, "-" for standard input; empty for standard input alone.
   QMap<QString, QString> options;  ///< Job options by name, the print settings among them.
 };
+
+/// The options of a text such as "sides=one-sided media=a4", by name.
+QMap<QString, QString> parseJobOptions(const QString& text);
 
 /// Told of each part of a document that has gone out: its number from 1 on, the bytes so far and in all (-1
 /// when not known).

@@ -86,7 +86,7 @@ Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds l
                              std::unique_ptr<PrintServer>* server) {
   server->reset();
   if (!address.isNull()) cupsSetServer(address.toUtf8().constData());
-  const QString name = QString::fromUtf8(cupsServer());
+  const QString name = QStringLiteral("%1:%2").arg(QString::fromUtf8(cupsServer())).arg(ippPort());
   http_t* http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                               static_cast<int>(limit.count()), nullptr);
   if (http == nullptr) return lastCupsError(QStringLiteral("the print server %1 does not answer").arg(name));

@@ -1,0 +1,97 @@
+#include "hosts/cli/listings.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <iostream>
+
+#include "hosts/cups/ppd_file.h"
+#include "panel/model/button.h"
+#include "panel/model/panel_view.h"
+#include "panel/model/text_field.h"
+
+namespace kesto {
+namespace {
+
+Outcome printArray(const QJsonArray& array) {
+  std::cout << QJsonDocument(array).toJson().constData() << std::flush;
+  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+}
+
+QJsonObject jsonOf(const QueueSummary& queue) {
+  return {{QStringLiteral("queue"), queue.name},
+          {QStringLiteral("state"), queue.state},
+          {QStringLiteral("accepting"), queue.isAccepting},
+          {QStringLiteral("address"), queue.deviceUri},
+          {QStringLiteral("info"), queue.info}};
+}
+
+std::string lineOf(const QueueSummary& queue) {
+  const QString state = queue.isAccepting ? queue.state : queue.state + QStringLiteral(", takes no jobs");
+  return QStringLiteral("%1\t%2\t%3\n").arg(queue.name, state, queue.deviceUri).toStdString();
+}
+
+// Keeps the queues whose PPD offers the panel.
+Outcome keepJobHandling(PrintServer& server, std::vector<QueueSummary>* queues) {
+  std::vector<QueueSummary> kept;
+  for (QueueSummary& queue : *queues) {
+    PpdFile ppd;
+    if (Outcome fetched = fetchPpdFile(server.http(), queue.name, &ppd); !fetched) return fetched;
+    if (ppd && offersJobHandling(*ppd)) kept.push_back(std::move(queue));
+  }
+  *queues = std::move(kept);
+  return Outcome::done();
+}
+
+Outcome fetchFolders(PanelView& view, const QString& address) {
+  auto* field = view.control<TextField>(QStringLiteral("printersAddressEditText"));
+  auto* button = view.control<Button>(QStringLiteral("getFolderNameButton"));
+  if (field == nullptr || button == nullptr) {
+    return Outcome::failed(QStringLiteral("the panel has no folder list"));
+  }
+  if (!address.isNull()) {
+    if (Outcome placed = field->placeCaret({0, field->stringValue().size()}); !placed) return placed;
+    if (Outcome emptied = field->backspace(); !emptied) return emptied;
+    if (Outcome typed = field->type(address); !typed) return typed;
+  }
+  if (field->stringValue().isEmpty()) {
+    return Outcome::failed(QStringLiteral("the printer's address is not known; give --address"));
+  }
+  return button->click();
+}
+
+}  // namespace
+
+Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
+  std::vector<QueueSummary> queues;
+  if (Outcome listed = server.listQueues(&queues); !listed) return listed;
+  if (jobHandlingOnly) {
+    if (Outcome kept = keepJobHandling(server, &queues); !kept) return kept;
+  }
+  if (json) {
+    QJsonArray array;
+    for (const QueueSummary& queue : queues)
+      array.append(jsonOf(queue));
+    return printArray(array);
+  }
+  for (const QueueSummary& queue : queues)
+    std::cout << lineOf(queue);
+  std::cout.flush();
+  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+}
+
+Outcome printFolders(PrintDialogPanel& panel, const QString& address, bool json) {
+  if (Outcome fetched = fetchFolders(*panel.panelView(), address); !fetched) return fetched;
+  const QVariantList folders = panel.property("folderList").toList();
+  if (json) return printArray(QJsonArray::fromVariantList(folders));
+  for (const QVariant& entry : folders) {
+    const QVariantMap folder = entry.toMap();
+    const bool isLocked = folder.value(QStringLiteral("password")).toBool();
+    std::cout << folder.value(QStringLiteral("name")).toString().toStdString()
+              << (isLocked ? "\tlocked\n" : "\n");
+  }
+  std::cout.flush();
+  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+}
+
+}  // namespace kesto

@@ -1,0 +1,19 @@
+// What kesto-lp lists: queues and folders.
+#pragma once
+
+#include <chrono>
+
+#include "hosts/cups/print_server.h"
+#include "platform/panel.h"
+
+namespace kesto {
+
+/// Prints the server's queues, a line each or as one JSON array; with `jobHandlingOnly` those alone whose PPD
+/// offers the panel, for which each queue's PPD is asked for.
+Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json);
+
+/// Fetches the printer's folders through the panel, from `address` when it is not null, and prints them, a
+/// line each or as one JSON array. A protected folder's line ends in a tab and "locked".
+Outcome printFolders(PrintDialogPanel& panel, const QString& address, bool json);
+
+}  // namespace kesto

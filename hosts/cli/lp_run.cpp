@@ -1,0 +1,258 @@
+#include "hosts/cli/lp_run.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <iostream>
+
+#include "hosts/cli/gated_platform.h"
+#include "hosts/cli/listings.h"
+#include "hosts/cli/preset_store.h"
+#include "hosts/cli/secret_input.h"
+#include "hosts/cli/submission.h"
+#include "hosts/cups/panel_host.h"
+#include "panel/model/panel_view.h"
+#include "platform/alert_presenter.h"
+#include "platform/json_user_defaults.h"
+
+namespace kesto {
+namespace {
+
+ExitCode ended(const Outcome& outcome, ExitCode onFailure = ExitFailed) {
+  if (outcome) return ExitDone;
+  std::cerr << "kesto-lp: " << outcome.reason().toStdString() << '\n';
+  return onFailure;
+}
+
+class StandardErrorAlerts : public AlertPresenter {
+ public:
+  void runInformationalAlert(const QString& /*title*/, const QString& message,
+                             const QString& /*button*/) override {
+    std::cerr << message.toStdString() << '\n';
+    wasShown = true;
+  }
+  bool wasShown = false;
+};
+
+// The queue that the job is for: its description, and the server that has it unless a PPD file stands for it.
+struct Queue {
+  QString id;
+  QString deviceUri;
+  PpdFile ppd;
+  std::unique_ptr<PrintServer> server;
+  Destination destination;
+};
+
+Outcome connectToServer(const Options& options, std::unique_ptr<PrintServer>* server) {
+  if (options.server.encrypt) cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
+  if (options.server.user) cupsSetUser(options.server.user->toUtf8().constData());
+  return PrintServer::connect(options.server.address.value_or(QString()), options.server.limit, server);
+}
+
+QString queueOfFiles(const Options& options) {
+  return options.queue.value_or(QFileInfo(options.ppd.value_or(QString())).completeBaseName());
+}
+
+Outcome findQueue(const Options& options, Queue* queue) {
+  if (options.ppd) {
+    queue->id = queueOfFiles(options);
+    queue->deviceUri = *options.deviceUri;
+    return openPpdFile(*options.ppd, &queue->ppd);
+  }
+  if (Outcome connected = connectToServer(options, &queue->server); !connected) return connected;
+  if (Outcome found = queue->server->findQueue(options.queue.value_or(QString()), &queue->destination);
+      !found) {
+    return found;
+  }
+  queue->id = QString::fromUtf8(queue->destination->name);
+  queue->deviceUri = optionOf(*queue->destination, "device-uri");
+  return fetchPpdFile(queue->server->http(), queue->id, &queue->ppd);
+}
+
+// Whether standard output has taken all that was printed.
+Outcome printed() {
+  std::cout.flush();
+  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+}
+
+Outcome print(const QMap<QString, QString>& pairs, const char* separator, bool json) {
+  if (json) {
+    QJsonObject object;
+    for (auto it = pairs.begin(); it != pairs.end(); ++it)
+      object.insert(it.key(), it.value());
+    std::cout << QJsonDocument(object).toJson().constData();
+  } else {
+    for (auto it = pairs.begin(); it != pairs.end(); ++it) {
+      std::cout << it.key().toStdString() << separator << it.value().toStdString() << '\n';
+    }
+  }
+  return printed();
+}
+
+Outcome listPresets(const PresetStore& store) {
+  QStringList names;
+  if (Outcome found = store.names(&names); !found) return found;
+  for (const QString& name : names)
+    std::cout << name.toStdString() << '\n';
+  return printed();
+}
+
+Outcome readSecrets(const Options& options, Entries* entries) {
+  for (std::size_t field = 0; field < fieldCount; ++field) {
+    const SecretSource& source = options.secrets.at(field);
+    if (!source.isGiven()) continue;
+    const FieldRow& row = fieldTable().at(field);
+    QString secret;
+    const Outcome read =
+        source.ask ? askSecret(QLatin1String(row.prompt), &secret) : readSecretLine(*source.file, &secret);
+    if (!read) {
+      const QString option = QLatin1String(source.ask ? "--ask-%1" : "--%1-file");
+      return Outcome::failed(option.arg(QLatin1String(row.name)) + QStringLiteral(": ") + read.reason());
+    }
+    entries->texts.at(field) = secret;
+  }
+  return Outcome::done();
+}
+
+// One job on one queue that offers the panel.
+class Job {
+ public:
+  Job(const Options& options, GatedPlatform& platform, Queue& queue)
+      : m_options(options),
+        m_platform(platform),
+        m_queue(queue),
+        m_host(platform),
+        m_presets(platform.userDefaults(), queue.id) {}
+
+  Outcome open(PrintDialogPlugIn& plugIn);
+  Outcome restore();
+  // Makes the entries and has the panel confirm the job.
+  Outcome enter(const Entries& entries);
+  Outcome savePreset();
+  // Prints the settings or sends the job; only then are the entries remembered.
+  Outcome finish();
+  PrintDialogPanel& panel() const { return *m_host.panel(); }
+
+ private:
+  QString model() const { return panel().property("modelStringRef").toString(); }
+
+  const Options& m_options;
+  GatedPlatform& m_platform;
+  Queue& m_queue;
+  PanelHost m_host;
+  PresetStore m_presets;
+};
+
+Outcome Job::open(PrintDialogPlugIn& plugIn) {
+  m_host.session.currentPrinter = Printer{.id = m_queue.id, .deviceUri = m_queue.deviceUri};
+  const bool isNamed = m_options.title || m_options.task == Task::Print;
+  m_host.settings.emplace().setJobName(isNamed ? std::optional(titleOf(m_options)) : std::nullopt);
+  m_host.ppd = std::move(m_queue.ppd);
+  if (Outcome opened = m_host.openPanel(plugIn); !opened) return opened;
+  if (panel().panelView() == nullptr) return Outcome::failed(QStringLiteral("the panel has no layout"));
+  panel().willShow();
+  return Outcome::done();
+}
+
+Outcome Job::restore() {
+  Preset preset;
+  if (m_options.preset) {
+    if (Outcome loaded = m_presets.load(*m_options.preset, model(), &preset); !loaded) return loaded;
+  }
+  const QMap<QString, QString>& values = preset.settings;
+  for (auto it = values.begin(); it != values.end(); ++it)
+    m_host.settings->setValue(it.key(), it.value());
+  m_host.panel()->restoreValuesAndReturnError(nullptr);
+  // The panel has taken the preset over and writes its own. What it would leave untouched, a code that the
+  // job no longer has or the end of a longer name, must not travel with the job.
+  for (auto it = values.begin(); it != values.end(); ++it)
+    m_host.settings->setValue(it.key(), std::nullopt);
+  return Outcome::done();
+}
+
+Outcome Job::enter(const Entries& entries) {
+  PanelView& view = *panel().panelView();
+  if (Outcome applied = applyEntries(view, entries); !applied) return applied;
+  panel().saveValuesAndReturnError(nullptr);
+  m_platform.setGateOpen(false);
+  const bool mayPrint = panel().shouldPrint();
+  m_platform.setGateOpen(true);
+  if (mayPrint) return Outcome::done();
+  return Outcome::failed(panel().panelName() + QStringLiteral(": ") + missingEntry(view));
+}
+
+Outcome Job::savePreset() {
+  if (!m_options.savePreset) return Outcome::done();
+  Preset preset{.model = model(), .settings = {}};
+  if (Outcome made = makePreset(*m_host.settings, *m_host.panel()->panelView(), m_options.withCodes, &preset);
+      !made) {
+    return made;
+  }
+  return m_presets.save(*m_options.savePreset, preset);
+}
+
+Outcome Job::finish() {
+  const bool isDry = m_options.task == Task::DryRun;
+  if (!isDry) {
+    Outcome sent = submit(*m_queue.server, *m_queue.destination, m_options, &*m_host.settings);
+    if (!sent) return sent;
+  }
+  if (!isDry || m_options.entries.asksForMemory()) panel().shouldPrint();
+  if (!isDry) return Outcome::done();
+  if (m_options.summary) return print(panel().summaryInfo(), ": ", m_options.json);
+  return print(m_host.settings->all(), "=", m_options.json);
+}
+
+ExitCode runJob(const Options& options, const Entries& entries, Queue& queue) {
+  StandardErrorAlerts alerts;
+  std::shared_ptr<const Bundle> bundle;
+  PrintDialogPlugIn* plugIn = nullptr;
+  if (Outcome loaded = loadJobHandlingBundle(&bundle, &plugIn); !loaded) return ended(loaded);
+  GatedPlatform platform(bundle, alerts);
+  Job job(options, platform, queue);
+  if (Outcome opened = job.open(*plugIn); !opened) return ended(opened);
+  if (Outcome restored = job.restore(); !restored) return ended(restored);
+  if (options.task == Task::ListFolders) {
+    const Outcome listed = printFolders(job.panel(), options.address.value_or(QString()), options.json);
+    return alerts.wasShown ? ExitFailed : ended(listed);
+  }
+  if (Outcome entered = job.enter(entries); !entered) return ended(entered, ExitRefused);
+  if (Outcome saved = job.savePreset(); !saved) return ended(saved);
+  return ended(job.finish());
+}
+
+// A queue without the panel prints as usual.
+ExitCode runPlainJob(const Options& options, Queue& queue) {
+  if (options.task == Task::ListFolders || options.wantsPanel()) {
+    return ended(Outcome::failed(QStringLiteral("the queue %1 does not offer Job Handling").arg(queue.id)));
+  }
+  if (options.task == Task::DryRun) return ended(print({}, "=", options.json));
+  return ended(submit(*queue.server, *queue.destination, options, nullptr));
+}
+
+ExitCode runPresets(const Options& options) {
+  JsonUserDefaults defaults(JsonUserDefaults::defaultDirectory());
+  PresetStore store(defaults, queueOfFiles(options));
+  return ended(options.deletedPreset ? store.remove(*options.deletedPreset) : listPresets(store));
+}
+
+ExitCode runQueueList(const Options& options) {
+  std::unique_ptr<PrintServer> server;
+  if (Outcome connected = connectToServer(options, &server); !connected) return ended(connected);
+  return ended(printQueues(*server, options.jobHandlingOnly, options.json));
+}
+
+}  // namespace
+
+ExitCode run(const Options& options) {
+  if (options.task == Task::ListPresets || options.task == Task::DeletePreset) return runPresets(options);
+  if (options.task == Task::ListQueues) return runQueueList(options);
+  Queue queue;
+  if (Outcome found = findQueue(options, &queue); !found) return ended(found);
+  if (!queue.ppd || !offersJobHandling(*queue.ppd)) return runPlainJob(options, queue);
+  Entries entries = options.entries;
+  if (Outcome read = readSecrets(options, &entries); !read) return ended(read);
+  return runJob(options, entries, queue);
+}
+
+}  // namespace kesto

@@ -1,0 +1,52 @@
+// Presets: print settings that the user keeps under a name, per queue.
+#pragma once
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include "platform/outcome.h"
+#include "platform/print_settings.h"
+#include "platform/user_defaults.h"
+
+namespace kesto {
+
+class PanelView;
+
+/// The settings of one preset, and the printer model that they are for.
+struct Preset {
+  QString model;
+  QMap<QString, QString> settings;  ///< Whole keys.
+};
+
+/// Makes a preset of a job's print settings and of the panel that wrote them. What belongs to this job alone
+/// stays out, and the pass codes too unless `withCodes`. Fails when the folder's name cannot be kept.
+Outcome makePreset(const PrintSettings& settings, const PanelView& view, bool withCodes, Preset* preset);
+
+/// The presets of one queue, in the domain "kesto.presets." + queue: under "Presets", by name, an object with
+/// the texts "model" and "settings" (an object of texts). What else the domain holds is kept.
+class PresetStore {
+ public:
+  /// `defaults` must outlive the store.
+  PresetStore(UserDefaults& defaults, const QString& queue);
+
+  /// The names, sorted.
+  Outcome names(QStringList* names) const;
+  /// Fails when there is no such preset (the reason lists those that there are), when it is damaged or made
+  /// for another model.
+  Outcome load(const QString& name, const QString& model, Preset* preset) const;
+  /// Keeps or replaces a preset. One that is damaged is not replaced.
+  Outcome save(const QString& name, const Preset& preset);
+  /// Fails when there is no such preset.
+  Outcome remove(const QString& name);
+
+ private:
+  Outcome read(QJsonObject* domain, QJsonObject* presets) const;
+  Outcome write(QJsonObject domain, const QJsonObject& presets);
+
+  UserDefaults& m_defaults;
+  QString m_domain;
+};
+
+}  // namespace kesto
