@@ -128,12 +128,12 @@ class Job {
   Outcome restore();
   // Makes the entries and has the panel confirm the job.
   Outcome enter(const Entries& entries);
-  Outcome savePreset();
-  // Prints the settings or sends the job; only then are the entries remembered.
+  // Prints the settings or sends the job; only then are entries and preset kept.
   Outcome finish();
   PrintDialogPanel& panel() const { return *m_host.panel(); }
 
  private:
+  Outcome savePreset();
   QString model() const { return panel().property("modelStringRef").toString(); }
 
   const Options& m_options;
@@ -198,6 +198,7 @@ Outcome Job::finish() {
     if (!sent) return sent;
   }
   if (!isDry || m_options.entries.asksForMemory()) panel().shouldPrint();
+  if (Outcome saved = savePreset(); !saved) return saved;
   if (!isDry) return Outcome::done();
   if (m_options.summary) return print(panel().summaryInfo(), ": ", m_options.json);
   return print(m_host.settings->all(), "=", m_options.json);
@@ -217,7 +218,6 @@ ExitCode runJob(const Options& options, const Entries& entries, Queue& queue) {
     return alerts.wasShown ? ExitFailed : ended(listed);
   }
   if (Outcome entered = job.enter(entries); !entered) return ended(entered, ExitRefused);
-  if (Outcome saved = job.savePreset(); !saved) return ended(saved);
   return ended(job.finish());
 }
 

@@ -16,10 +16,10 @@ constexpr char helpOfJob[] =
     R"(Usage: kesto-lp [OPTION]... [FILE]...
 Prints files, or standard input, with a printer's Job Handling.
 
-  -d QUEUE -h HOST[:PORT] -U USER -n COPIES -P PAGES -o NAME=VALUE -t TITLE -q PRIORITY -H WHEN
-  -m -s -c -E               as of the usual print command
+  -d QUEUE -h HOST[:PORT] -U USER -n COPIES -P PAGES -o NAME=VALUE -t TITLE
+  -q PRIORITY -H WHEN -m -s -c -E   as of the usual print command
   --ppd FILE --device-uri URI   stand for a queue in a dry run
-  --dry-run                 print the job's settings and send nothing; kept is only
+  --dry-run                 print the job's settings and send nothing; keep only
                             what --remember, --forget or --save-preset ask for
   --summary                 print the panel's summary, not the settings
   --list [--job-handling]   list the queues, or those that offer Job Handling
@@ -267,10 +267,10 @@ std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
 }
 
 QString CommandLine::faultOfAll() const {
-  if (const QString fault = faultOfUnknown(); !fault.isNull()) return fault;
+  if (QString fault = faultOfUnknown(); !fault.isNull()) return fault;
   if (!m_contradiction.isNull()) return m_contradiction;
-  if (const QString fault = faultOfTask(); !fault.isNull()) return fault;
-  if (const QString fault = faultOfQueue(); !fault.isNull()) return fault;
+  if (QString fault = faultOfTask(); !fault.isNull()) return fault;
+  if (QString fault = faultOfQueue(); !fault.isNull()) return fault;
   const auto fromInput = [](const SecretSource& source) { return source.file == QLatin1String("-"); };
   if (std::ranges::count_if(m_options.secrets, fromInput) < 2) return {};
   return QStringLiteral("only one entry can come from standard input");

@@ -1,0 +1,258 @@
+// The whole demo printer: the real scheduler, its queue, and the printer behind it.
+#include <cups/cups.h>
+#include <sys/socket.h>
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QEventLoop>
+#include <QtNetwork/QTcpSocket>
+
+#include "demo_process.h"
+#include "hosts/demo/printer.h"
+
+namespace kesto::test {
+namespace {
+
+// A job's pass code 2468 and its spool time, and the digest over "02468" and that time.
+constexpr char spoolTime[] = "5361742C203031204D617220323032352031303A30303A3030202B30313030";
+constexpr char digest[] = "d3ad484767c21bc2fb561b1ed44522e8";
+
+class DemoPrinterTest : public testing::Test {
+ protected:
+  DemoPrinterTest() {
+    for (int i = 0; i < 200'000; ++i)
+      m_document += static_cast<char>(i * i % 251);
+    m_folder.write(u"document"_s, m_document);
+    m_folder.write(u"pin"_s, "2468\n");
+  }
+
+  // A printed or held job of "anna", sent by the print system's own program. `settings`: "key=value ..." by
+  // the last components of the keys.
+  void send(const RunningPrinter& printer, const QString& settings) const {
+    QStringList arguments{u"-h"_s, printer.place(u"server"_s),
+                          u"-d"_s, printer.place(u"queue"_s),
+                          u"-U"_s, u"anna"_s,
+                          u"-t"_s, u"a title"_s};
+    for (const QString& setting : settings.split(u' ', Qt::SkipEmptyParts)) {
+      arguments << u"-o"_s << u"kesto.print.PrintSettings."_s + setting;
+    }
+    DemoProcess lp(m_folder, u"lp"_s, arguments << m_folder.path(u"document"_s));
+    EXPECT_EQ(lp.code(), 0) << lp.log().toStdString();
+  }
+  int release(const QStringList& arguments) const {
+    DemoProcess release(m_folder, builtProgram("kesto-demo-printer"),
+                        QStringList{u"release"_s, u"--dir"_s, m_folder.path(u"run"_s)} + arguments);
+    return release.code();
+  }
+  QByteArray jobs() const {
+    DemoProcess jobs(m_folder, builtProgram("kesto-demo-printer"),
+                     {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s), u"--json"_s});
+    EXPECT_EQ(jobs.code(), 0);
+    return jobs.readAllStandardOutput().trimmed();
+  }
+  static QStringList printouts(const RunningPrinter& printer) {
+    return QDir(printer.place(u"output"_s)).entryList(QDir::Files);
+  }
+  // The command lines of the processes that speak of the run folder, our own and those of the test left out.
+  QStringList strayProcesses() const {
+    QStringList lines;
+    for (const QString& process : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
+      QFile line(u"/proc/%1/cmdline"_s.arg(process));
+      if (!line.open(QIODevice::ReadOnly)) continue;
+      const QByteArray bytes = line.readAll();
+      if (bytes.contains(QFile::encodeName(m_folder.path(u"run"_s))))
+        lines.append(QString::fromLocal8Bit(bytes));
+    }
+    return lines;
+  }
+
+  DemoFolder m_folder;
+  QByteArray m_document = "%PDF-1.4\n";
+};
+
+TEST_F(DemoPrinterTest, HasAQueueWhosePpdNamesTheBundle) {
+  const RunningPrinter printer(m_folder);
+  EXPECT_EQ(printer.place(u"queue"_s), u"Office_MFP"_s);
+  const QStringList server = printer.place(u"server"_s).split(u':');
+  QTcpSocket socket;
+  socket.connectToHost(server.front(), server.back().toUShort());
+  socket.write("GET /printers/Office_MFP.ppd HTTP/1.0\r\nHost: localhost\r\n\r\n");
+  while (socket.waitForReadyRead()) {
+  }
+  EXPECT_TRUE(socket.readAll().contains("*APDialogExtension: \"JobHandling.pde\""));
+}
+
+TEST_F(DemoPrinterTest, HoldsAJobUntilItsPassCodeComes) {
+  RunningPrinter printer(m_folder);
+  send(printer,
+       u"jobSuspend=2 jobSuspendKey=%1 spoolTime=%2 accountNumber=00042 jobName31=5A77C3B66C66"_s.arg(
+           QLatin1String(digest), QLatin1String(spoolTime)));
+  printer.waitForLog("job 1 from anna: held (pass code)\n");
+  EXPECT_EQ(jobs(), R"([{"account":"00042","job":1,"name":"Zwölf","state":"held","user":"anna"}])");
+  EXPECT_EQ(release({u"1"_s}), 3);
+  EXPECT_EQ(release({u"1"_s, u"--pin"_s, u"12468"_s}), 3);
+  EXPECT_EQ(release({u"2"_s, u"--pin"_s, u"2468"_s}), 1) << "there is no such job";
+  EXPECT_EQ(printouts(printer), QStringList());
+
+  EXPECT_EQ(release({u"1"_s, u"--pin-file"_s, m_folder.path(u"pin"_s)}), 0);
+  ASSERT_EQ(printouts(printer), QStringList{u"job-1-1"_s});
+  EXPECT_EQ(bytesOf(printer.place(u"output"_s) + u"/job-1-1"_s), m_document);
+  EXPECT_TRUE(jobs().contains(R"("state":"printed")"));
+  EXPECT_EQ(release({u"1"_s, u"--pin"_s, u"2468"_s}), 1) << "it is held no longer";
+  EXPECT_FALSE(printer.log().contains("2468") || printer.log().contains(digest));
+}
+
+TEST_F(DemoPrinterTest, PrintsAndHoldsByTheRetention) {
+  RunningPrinter printer(m_folder, {u"--output"_s, m_folder.path(u"paper"_s)});
+  for (const char* settings : {"", "jobSuspend=0", "jobSuspend=1", "jobSuspend=2", "jobSuspend=3"}) {
+    send(printer, QLatin1String(settings));
+  }
+  printer.waitForLog("job 5 from anna: held\n");
+  EXPECT_EQ(printouts(printer), QStringList({u"job-1-1"_s, u"job-2-1"_s, u"job-3-1"_s, u"job-5-1"_s}));
+  EXPECT_EQ(jobs().count(R"("state":"held")"), 3);
+  EXPECT_EQ(jobs().count(R"({"account":null,"job":4,"name":"a title","state":"held","user":"anna"})"), 1);
+  EXPECT_EQ(release({u"5"_s}), 0) << "it has no pass code";
+  printer.signal(SIGTERM);
+  EXPECT_EQ(printer.code(), 0);
+  EXPECT_EQ(bytesOf(m_folder.path(u"paper/job-5-2"_s)), m_document) << "a folder of the caller's stays";
+}
+
+TEST_F(DemoPrinterTest, ShowsAJobsOptionsToItsOwnerAlone) {
+  RunningPrinter printer(m_folder);
+  send(printer, u"jobSuspend=2 jobSuspendKey=0123"_s);
+  printer.waitForLog("held");
+  const QByteArray port = printer.place(u"server"_s).section(u':', 1).toLatin1();
+  const auto seenBy = [&](const char* user) {
+    http_t* server =
+        httpConnect2("127.0.0.1", port.toInt(), nullptr, AF_INET, HTTP_ENCRYPTION_NEVER, 1, 5000, nullptr);
+    ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, "ipp://localhost/jobs/1");
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
+    ipp_t* answer = cupsDoRequest(server, request, "/");
+    QByteArray names;
+    for (ipp_attribute_t* each = ippFirstAttribute(answer); each != nullptr;
+         each = ippNextAttribute(answer)) {
+      names += QByteArray(ippGetName(each)) + ' ';
+    }
+    ippDelete(answer);
+    httpClose(server);
+    return names;
+  };
+  EXPECT_TRUE(seenBy("anna").contains("kesto.print.PrintSettings.jobSuspendKey "));
+  EXPECT_FALSE(seenBy("bert").contains("kesto") || seenBy("bert").contains("job-name"));
+}
+
+TEST_F(DemoPrinterTest, LeavesNothingBehind) {
+  RunningPrinter printer(m_folder);
+  EXPECT_GE(strayProcesses().size(), 2) << "the printer and its scheduler";
+  printer.signal(SIGINT);
+  EXPECT_EQ(printer.code(), 0);
+  EXPECT_EQ(strayProcesses(), QStringList());
+  EXPECT_FALSE(QDir(m_folder.path(u"run"_s)).exists());
+}
+
+TEST_F(DemoPrinterTest, StartsWhereOneWasEndedHard) {
+  RunningPrinter first(m_folder);
+  send(first, u"jobSuspend=2"_s);
+  first.waitForLog("held");
+  DemoProcess second(m_folder, builtProgram("kesto-demo-printer"), {u"--dir"_s, m_folder.path(u"run"_s)});
+  EXPECT_EQ(second.code(), 1);
+  EXPECT_TRUE(second.log().contains("a demo printer is running there"));
+
+  first.signal(SIGKILL);
+  EXPECT_EQ(first.code(), -1);
+  const QDeadlineTimer deadline(std::chrono::seconds(20));
+  while (!strayProcesses().isEmpty())
+    ASSERT_FALSE(deadline.hasExpired()) << "its scheduler does not follow";
+  const RunningPrinter third(m_folder);
+  EXPECT_EQ(jobs(), "[]");
+}
+
+TEST_F(DemoPrinterTest, TakesNoFolderOfOthers) {
+  DemoProcess printer(m_folder, builtProgram("kesto-demo-printer"), {u"--dir"_s, m_folder.path(u""_s)});
+  EXPECT_EQ(printer.code(), 1);
+  EXPECT_TRUE(printer.log().contains("holds other files"));
+  EXPECT_EQ(bytesOf(m_folder.path(u"document"_s)), m_document);
+}
+
+TEST_F(DemoPrinterTest, WorksForAnOrdinaryUser) {
+  if (getuid() != 0) GTEST_SKIP() << "every other test shows it";
+  const QStringList asNobody{u"--reuid=nobody"_s, u"--regid=nogroup"_s, u"--clear-groups"_s};
+  DemoProcess probe(m_folder, u"setpriv"_s,
+                    asNobody + QStringList{builtProgram("kesto-demo-printer"), u"--help"_s});
+  if (probe.code() != 0) GTEST_SKIP() << "the program cannot be reached by other users";
+  DemoProcess place(m_folder, u"install"_s, {u"-d"_s, u"-o"_s, u"nobody"_s, m_folder.path(u"nobody"_s)});
+  ASSERT_EQ(place.code(), 0);
+  DemoProcess printer(
+      m_folder, u"setpriv"_s,
+      asNobody + QStringList{builtProgram("kesto-demo-printer"), u"--dir"_s, m_folder.path(u"nobody/run"_s),
+                             u"--folder-port"_s, u"0"_s, u"--json"_s});
+  const QJsonObject places = QJsonDocument::fromJson(printer.readOutLine()).object();
+  DemoProcess lp(
+      m_folder, u"lp"_s,
+      {u"-h"_s, places[u"server"].toString(), u"-d"_s, u"Office_MFP"_s, m_folder.path(u"document"_s)});
+  EXPECT_EQ(lp.code(), 0) << lp.log().toStdString();
+  printer.waitForLog("printed\n");
+  EXPECT_EQ(bytesOf(places[u"output"].toString() + u"/job-1-1"_s), m_document);
+  printer.signal(SIGINT);
+  EXPECT_EQ(printer.code(), 0);
+  EXPECT_FALSE(QDir(m_folder.path(u"nobody/run"_s)).exists());
+}
+
+// Sends bytes to a printer without a scheduler; how many jobs it then has.
+qsizetype jobsAfter(const QByteArray& bytes) {
+  const DemoFolder folder;
+  JobStore store(folder.path(u""_s), folder.path(u""_s));
+  Printer printer(store);
+  EXPECT_TRUE(printer.listen());
+  QTcpSocket socket;
+  socket.connectToHost(u"127.0.0.1"_s, printer.port());
+  EXPECT_TRUE(socket.waitForConnected());
+  socket.write(bytes);
+  while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten()) {
+  }
+  ::shutdown(static_cast<int>(socket.socketDescriptor()), SHUT_WR);
+  QEventLoop loop;  // until the printer closes its end
+  QObject::connect(&socket, &QTcpSocket::disconnected, &loop, &QEventLoop::quit);
+  loop.exec();
+  return store.list().size();
+}
+
+TEST(PrinterTest, TakesNothingButWholeDocuments) {
+  const QByteArray ticket = "@KESTO job=7\n@KESTO user=anna\n\n";
+  EXPECT_EQ(jobsAfter(ticket + "3\nabc0\n"), 1);
+  EXPECT_EQ(jobsAfter(ticket + "3\nabc0\n" + ticket + "1\nd0\n"), 1) << "two documents of one job";
+  for (const char* end :
+       {"", "3\nab", "3\nabc", "-3\nabc0\n", "x\n", "9223372036854775807\nabc", "65537\nabc"}) {
+    EXPECT_EQ(jobsAfter(ticket + end), 0) << end;
+  }
+  for (const char* start : {"", "abc\n", "@KESTO job\n", "@KESTO user=anna\n\n0\n"})
+    EXPECT_EQ(jobsAfter(start), 0) << start;
+  EXPECT_EQ(jobsAfter(QByteArray(100'000, 'a')), 0);
+  EXPECT_EQ(jobsAfter(QByteArray("@KESTO a=b\n").repeated(1000) + ticket + "0\n"), 0);
+}
+
+JobTicket ticketOf(const QByteArrayList& settings) {
+  JobTicket ticket;
+  for (const QByteArray& setting : settings)
+    EXPECT_TRUE(ticket.addLine("kesto.print.PrintSettings." + setting));
+  ticket.addLine("title=from%20the%20host");
+  return ticket;
+}
+
+TEST(JobTicketTest, OpensWithThePassCodeItWasSentWith) {
+  const JobTicket ticket =
+      ticketOf({QByteArray("jobSuspendKey=") + digest, QByteArray("spoolTime=") + spoolTime});
+  EXPECT_TRUE(ticket.opensWith(u"2468"_s));
+  EXPECT_TRUE(ticket.opensWith(u"02468"_s));  // what it is padded to
+  EXPECT_FALSE(ticket.opensWith(u"002468"_s));
+  EXPECT_FALSE(ticket.opensWith(u""_s));
+}
+
+TEST(JobTicketTest, TakesTheNameFromThePanelBeforeTheHosts) {
+  EXPECT_EQ(ticketOf({}).name(), u"from the host"_s);
+  EXPECT_EQ(ticketOf({"jobName2=80756E64"}).name(), u"€und"_s);
+  EXPECT_EQ(ticketOf({"jobName2=41", "jobName31=E2", "jobName32=82AC42"}).name(), u"€B"_s);
+}
+
+}  // namespace
+}  // namespace kesto::test

@@ -1,0 +1,101 @@
+// How kesto-lp takes secrets: from files, standard input and the terminal, and where they must not be seen.
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include "lp_program.h"
+
+namespace kesto::test {
+namespace {
+
+const QString pin1234 = u"jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E"_s;
+
+class LpSecrets : public LpTest {
+ protected:
+  std::unique_ptr<QProcess> job(const QString& entries) const {
+    return process(u"--dry-run --device-uri lpd://x --hold only --ppd %1 %2"_s.arg(m_ppd.path(), entries));
+  }
+};
+
+TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
+  const QPair<QByteArray, QString> cases[] = {
+      {"1234\n", {}},
+      {"1234", {}},
+      {"1234\r\nmore\n", {}},
+      {"", u"kesto-lp: --pin-file: the line is empty\n"_s},
+      {"\n1234\n", u"kesto-lp: --pin-file: the line is empty\n"_s},
+      {"12\xFF", u"kesto-lp: --pin-file: the line is no UTF-8 text\n"_s},
+  };
+  const QString file = m_home.filePath(u"code"_s);
+  for (const auto& [bytes, fault] : cases) {
+    QFile code(file);
+    ASSERT_TRUE(code.open(QIODevice::WriteOnly) && code.write(bytes) == bytes.size());
+    code.close();
+    for (const QString& source : {u"-"_s, file}) {
+      const LpRun run = dryRun(u"--hold only --pin-file "_s + source, bytes);
+      EXPECT_EQ(run.code, fault.isNull() ? 0 : 1) << bytes.constData();
+      EXPECT_EQ(run.values(u"jobSuspend2Key"_s), fault.isNull() ? pin1234 : u"jobSuspend2Key"_s);
+      EXPECT_EQ(run.err, fault.isNull() ? u""_s : fault);
+    }
+  }
+  EXPECT_EQ(dryRun(u"--password-file /no/file"_s).err,
+            u"kesto-lp: --password-file: /no/file: No such file or directory\n"_s);
+}
+
+TEST_F(LpSecrets, NoMessageTellsThem) {
+  for (const auto& arguments :
+       {u"--pin-file -"_s, u"--hold only --folder X --folder-pin-file -"_s,
+        u"--hold after --pin-file - --folder quick"_s, u"--hold only --pin 471147114711"_s}) {
+    const LpRun run = dryRun(arguments, "471147114711\n");
+    EXPECT_EQ(run.code, 3) << arguments.toStdString();
+    EXPECT_FALSE((run.out + run.err).contains(u"4711"_s)) << arguments.toStdString();
+  }
+}
+
+TEST_F(LpSecrets, TheListOfProcessesDoesNotShowThem) {
+  const auto lp = job(u"--folder X --pin 4711 --folder-pin=4711 --password-file -"_s);
+  lp->start();
+  ASSERT_TRUE(lp->waitForStarted());
+  QByteArray shown = "4711";
+  // The program comes to wait for the password in a moment.
+  for (int tries = 0; tries < 500 && shown.contains("4711"); ++tries) {
+    ::usleep(10000);
+    QFile commandLine(u"/proc/%1/cmdline"_s.arg(lp->processId()));
+    ASSERT_TRUE(commandLine.open(QIODevice::ReadOnly));
+    shown = commandLine.readAll();
+  }
+  EXPECT_TRUE(shown.contains("--folder-pin="));
+  EXPECT_FALSE(shown.contains("4711"));
+  lp->write("x\n");
+  EXPECT_EQ(finish(*lp).code, 0);
+}
+
+TEST_F(LpSecrets, TheTerminalAsksWithoutShowingThem) {
+  const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
+  ASSERT_TRUE(master >= 0 && ::grantpt(master) == 0 && ::unlockpt(master) == 0);
+  const std::string terminal = ::ptsname(master);
+  const auto lp = job(u"--ask-pin"_s);
+  lp->setChildProcessModifier([&terminal] {
+    ::setsid();
+    ::ioctl(::open(terminal.c_str(), O_RDWR), TIOCSCTTY, 0);
+  });
+  lp->start();
+  ASSERT_TRUE(lp->waitForStarted());
+  std::array<char, 100> seen{};
+  const auto read = [&] { return QByteArray(seen.data(), ::read(master, seen.data(), seen.size())); };
+  EXPECT_EQ(read(), "Pass code: ");
+  ASSERT_EQ(::write(master, "1234\n", 5), 5);
+  EXPECT_EQ(finish(*lp).values(u"jobSuspend2Key"_s), pin1234);
+  EXPECT_EQ(read(), "\r\n");
+  ::close(master);
+}
+
+TEST_F(LpSecrets, WithoutATerminalNothingIsAsked) {
+  const auto lp = job(u"--ask-pin"_s);
+  lp->setChildProcessModifier([] { ::setsid(); });
+  lp->start();
+  EXPECT_EQ(finish(*lp).err, u"kesto-lp: --ask-pin: there is no terminal to ask at\n"_s);
+}
+
+}  // namespace
+}  // namespace kesto::test
