@@ -90,7 +90,7 @@ void exchangeThroughTheClient(benchmark::State& state) {
   BenchPlatform platform;
   Context context;
   const QString url = QStringLiteral("http://127.0.0.1:%1/kesto-mfp-srv").arg(printer.port());
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const auto client = kesto::KestoPrintPdeVq250nJCSOAPClient::initWithServerName(url, platform, &context);
     client->sendMessage("<request/>");
   }
@@ -100,7 +100,7 @@ void exchangeOverABareSocket(benchmark::State& state) {
   application();
   const Printer printer;
   const QByteArray request = "POST /kesto-mfp-srv HTTP/1.1\r\nContent-Length: 10\r\n\r\n<request/>";
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     QTcpSocket socket;
     socket.connectToHost(QHostAddress::LocalHost, printer.port());
     if (!socket.waitForConnected()) std::abort();

@@ -6,7 +6,7 @@
 namespace kesto {
 namespace {
 
-Q_LOGGING_CATEGORY(layout, "kesto.layout")
+Q_LOGGING_CATEGORY(actions, "kesto.layout")
 
 using Operation = void (*)(const ActionGroups&, Control*);
 
@@ -61,7 +61,7 @@ Operation operationNamed(const QString& name) {
 void bindRules(RadioMatrix* matrix, EnablingRules& rules) {
   for (const QString& name : matrix->rules()) {
     if (!EnablingRules::exists(name)) {
-      qCWarning(layout, "%s asks for the unknown rule %s", qUtf8Printable(matrix->objectName()),
+      qCWarning(actions, "%s asks for the unknown rule %s", qUtf8Printable(matrix->objectName()),
                 qUtf8Printable(name));
     }
   }
@@ -79,7 +79,7 @@ void bindActions(const PanelView& view, const ActionGroups& groups) {
     if (control->action().isEmpty()) continue;
     const Operation operation = operationNamed(control->action());
     if (operation == nullptr) {
-      qCWarning(layout, "%s names the unknown action %s", qUtf8Printable(control->objectName()),
+      qCWarning(actions, "%s names the unknown action %s", qUtf8Printable(control->objectName()),
                 qUtf8Printable(control->action()));
       continue;
     }

@@ -116,14 +116,14 @@ QString KestoPrintPdeVq250nJC::panelName() {
 
 QString KestoPrintPdeVq250nJC::panelKind() {
   _PDEProlog(this, "panelKind:");
-  const QString kind = QStringLiteral("kesto.print.pde.vq250n.JobControlKind");
+  QString kind = QStringLiteral("kesto.print.pde.vq250n.JobControlKind");
   _PDEEpilog(this, "panelKind:=NSString(%@)", kind);
   return kind;
 }
 
 QStringList KestoPrintPdeVq250nJC::supportedPPDOptionKeys() {
   _PDEProlog(this, "supportedPPDOptionKeys:");
-  const QStringList keys{QStringLiteral("ARPrintRelease"),    QStringLiteral("ARRetention"),
+  QStringList keys{QStringLiteral("ARPrintRelease"),    QStringLiteral("ARRetention"),
                          QStringLiteral("ARDocFiling"),       QStringLiteral("ARHoldKey"),
                          QStringLiteral("ARDocumentFiling"),  QStringLiteral("ARCustomFolderName"),
                          QStringLiteral("ARCustomFolderPIN"), QStringLiteral("ARAccountLogin"),

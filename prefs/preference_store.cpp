@@ -156,7 +156,8 @@ void PreferenceStore::GetFolderPreference() {
   if (!now.available || !now.exists) return;
   m_state.addressStringRef = stringOf(now.record, address);
   std::vector<FolderEntry> folders;
-  for (const QJsonValue& entry : now.record.value(files).toArray()) {
+  const QJsonArray list = now.record.value(files).toArray();
+  for (const auto& entry : list) {
     FolderEntry folder = folderOf(entry.toObject());
     if (!folder.name.isEmpty()) folders.push_back(std::move(folder));
   }

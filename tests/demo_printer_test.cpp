@@ -38,20 +38,6 @@ class DemoPrinterTest : public testing::Test {
     DemoProcess lp(m_folder, u"lp"_s, arguments << m_folder.path(u"document"_s));
     EXPECT_EQ(lp.code(), 0) << lp.log().toStdString();
   }
-  int release(const QStringList& arguments) const {
-    DemoProcess release(m_folder, builtProgram("kesto-demo-printer"),
-                        QStringList{u"release"_s, u"--dir"_s, m_folder.path(u"run"_s)} + arguments);
-    return release.code();
-  }
-  QByteArray jobs() const {
-    DemoProcess jobs(m_folder, builtProgram("kesto-demo-printer"),
-                     {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s), u"--json"_s});
-    EXPECT_EQ(jobs.code(), 0);
-    return jobs.readAllStandardOutput().trimmed();
-  }
-  static QStringList printouts(const RunningPrinter& printer) {
-    return QDir(printer.place(u"output"_s)).entryList(QDir::Files);
-  }
   // The command lines of the processes that speak of the run folder, our own and those of the test left out.
   QStringList strayProcesses() const {
     QStringList lines;
@@ -87,17 +73,17 @@ TEST_F(DemoPrinterTest, HoldsAJobUntilItsPassCodeComes) {
        u"jobSuspend=2 jobSuspendKey=%1 spoolTime=%2 accountNumber=00042 jobName31=5A77C3B66C66"_s.arg(
            QLatin1String(digest), QLatin1String(spoolTime)));
   printer.waitForLog("job 1 from anna: held (pass code)\n");
-  EXPECT_EQ(jobs(), R"([{"account":"00042","job":1,"name":"Zwölf","state":"held","user":"anna"}])");
-  EXPECT_EQ(release({u"1"_s}), 3);
-  EXPECT_EQ(release({u"1"_s, u"--pin"_s, u"12468"_s}), 3);
-  EXPECT_EQ(release({u"2"_s, u"--pin"_s, u"2468"_s}), 1) << "there is no such job";
-  EXPECT_EQ(printouts(printer), QStringList());
+  EXPECT_EQ(printer.jobs(), R"([{"account":"00042","job":1,"name":"Zwölf","state":"held","user":"anna"}])");
+  EXPECT_EQ(printer.release({u"1"_s}), 3);
+  EXPECT_EQ(printer.release({u"1"_s, u"--pin"_s, u"12468"_s}), 3);
+  EXPECT_EQ(printer.release({u"2"_s, u"--pin"_s, u"2468"_s}), 1) << "there is no such job";
+  EXPECT_EQ(printer.printouts(), QStringList());
 
-  EXPECT_EQ(release({u"1"_s, u"--pin-file"_s, m_folder.path(u"pin"_s)}), 0);
-  ASSERT_EQ(printouts(printer), QStringList{u"job-1-1"_s});
+  EXPECT_EQ(printer.release({u"1"_s, u"--pin-file"_s, m_folder.path(u"pin"_s)}), 0);
+  ASSERT_EQ(printer.printouts(), QStringList{u"job-1-1"_s});
   EXPECT_EQ(bytesOf(printer.place(u"output"_s) + u"/job-1-1"_s), m_document);
-  EXPECT_TRUE(jobs().contains(R"("state":"printed")"));
-  EXPECT_EQ(release({u"1"_s, u"--pin"_s, u"2468"_s}), 1) << "it is held no longer";
+  EXPECT_TRUE(printer.jobs().contains(R"("state":"printed")"));
+  EXPECT_EQ(printer.release({u"1"_s, u"--pin"_s, u"2468"_s}), 1) << "it is held no longer";
   EXPECT_FALSE(printer.log().contains("2468") || printer.log().contains(digest));
 }
 
@@ -107,10 +93,11 @@ TEST_F(DemoPrinterTest, PrintsAndHoldsByTheRetention) {
     send(printer, QLatin1String(settings));
   }
   printer.waitForLog("job 5 from anna: held\n");
-  EXPECT_EQ(printouts(printer), QStringList({u"job-1-1"_s, u"job-2-1"_s, u"job-3-1"_s, u"job-5-1"_s}));
-  EXPECT_EQ(jobs().count(R"("state":"held")"), 3);
-  EXPECT_EQ(jobs().count(R"({"account":null,"job":4,"name":"a title","state":"held","user":"anna"})"), 1);
-  EXPECT_EQ(release({u"5"_s}), 0) << "it has no pass code";
+  EXPECT_EQ(printer.printouts(), QStringList({u"job-1-1"_s, u"job-2-1"_s, u"job-3-1"_s, u"job-5-1"_s}));
+  EXPECT_EQ(printer.jobs().count(R"("state":"held")"), 3);
+  EXPECT_EQ(printer.jobs().count(R"({"account":null,"job":4,"name":"a title","state":"held","user":"anna"})"),
+            1);
+  EXPECT_EQ(printer.release({u"5"_s}), 0) << "it has no pass code";
   printer.signal(SIGTERM);
   EXPECT_EQ(printer.code(), 0);
   EXPECT_EQ(bytesOf(m_folder.path(u"paper/job-5-2"_s)), m_document) << "a folder of the caller's stays";
@@ -164,7 +151,7 @@ TEST_F(DemoPrinterTest, StartsWhereOneWasEndedHard) {
   while (!strayProcesses().isEmpty())
     ASSERT_FALSE(deadline.hasExpired()) << "its scheduler does not follow";
   const RunningPrinter third(m_folder);
-  EXPECT_EQ(jobs(), "[]");
+  EXPECT_EQ(third.jobs(), "[]");
 }
 
 TEST_F(DemoPrinterTest, TakesNoFolderOfOthers) {

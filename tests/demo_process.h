@@ -105,14 +105,30 @@ class RunningPrinter : public DemoProcess {
       : DemoProcess(folder, builtProgram("kesto-demo-printer"),
                     QStringList{u"--dir"_s, folder.path(u"run"_s), u"--folder-port"_s, u"0"_s, u"--json"_s} +
                         arguments),
+        m_folder(folder),
         m_places(QJsonDocument::fromJson(readOutLine()).object()) {
     EXPECT_FALSE(m_places.isEmpty()) << log().toStdString();
   }
 
   /// Where it says it is: "server", "folders" and so on.
   QString place(const QString& name) const { return m_places.value(name).toString(); }
+  QStringList printouts() const { return QDir(place(u"output"_s)).entryList(QDir::Files); }
+  /// Its jobs, as it lists them in JSON.
+  QByteArray jobs() const {
+    DemoProcess jobs(m_folder, builtProgram("kesto-demo-printer"),
+                     {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s), u"--json"_s});
+    EXPECT_EQ(jobs.code(), 0);
+    return jobs.readAllStandardOutput().trimmed();
+  }
+  /// How the program ends that is to release a job.
+  int release(const QStringList& arguments) const {
+    DemoProcess release(m_folder, builtProgram("kesto-demo-printer"),
+                        QStringList{u"release"_s, u"--dir"_s, m_folder.path(u"run"_s)} + arguments);
+    return release.code();
+  }
 
  private:
+  const DemoFolder& m_folder;
   QJsonObject m_places;
 };
 

@@ -11,7 +11,6 @@ namespace {
 
 // Rows of the folder matrix; the pop-up begins with the first two as well.
 enum FolderRow { QuickFile, MainFolder, CustomFolder };
-constexpr int firstStoredFolder = 3;
 
 enum AuthenticationRow { ByLogin, ByUserNumber };
 

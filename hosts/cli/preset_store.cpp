@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 
+#include "hosts/cli/entries.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/pop_up.h"
 #include "panel/model/radio_matrix.h"
@@ -28,7 +29,6 @@ constexpr std::array sealedCodes{QLatin1String("jobSuspend2Key"), QLatin1String(
 // A stored name of more bytes is not read back.
 constexpr qsizetype longestFolderName = 127;
 constexpr int customFolderRow = 2;
-constexpr int firstStoredFolder = 3;
 
 QString textOf(const PanelView& view, const char* field) {
   const auto* found = view.control<TextField>(QLatin1String(field));

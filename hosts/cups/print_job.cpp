@@ -5,10 +5,13 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include "platform/text_encoding.h"
+
 namespace kesto {
 namespace {
 
 constexpr qsizetype blockSize = 65536;
+constexpr qsizetype longestName = 255;
 
 struct FreeDestInfo {
   void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
@@ -32,6 +35,16 @@ class Options {
   int m_count = 0;
   cups_option_t* m_options = nullptr;
 };
+
+// A name as the scheduler takes it: it gives a job whose name is longer, or holds control characters, a name
+// of its own.
+QByteArray nameOf(const QString& text) {
+  QString name = text;
+  for (QChar& character : name) {
+    if (character.unicode() < 0x20 || character.unicode() == 0x7F) character = u' ';
+  }
+  return bytesOfText(name, TextEncoding::Utf8, name.size(), longestName, '?');
+}
 
 // One document of a job, open for reading.
 struct Document {
@@ -77,9 +90,8 @@ class OpenJob {
   OpenJob& operator=(const OpenJob&) = delete;
 
   Outcome create(const QString& title, const Options& options) {
-    const ipp_status_t status =
-        cupsCreateDestJob(m_server.http(), &m_destination, m_info, &m_id, title.toUtf8().constData(),
-                          options.count(), options.data());
+    const ipp_status_t status = cupsCreateDestJob(m_server.http(), &m_destination, m_info, &m_id,
+                                                  nameOf(title).constData(), options.count(), options.data());
     if (status <= IPP_STATUS_OK_EVENTS_COMPLETE && m_id > 0) return Outcome::done();
     return lastCupsError(QStringLiteral("the job is not taken"));
   }
@@ -88,7 +100,7 @@ class OpenJob {
                const std::function<void(qint64)>& progress) {
     const QString attempt = QStringLiteral("%1 is not taken").arg(document.name);
     if (cupsStartDestDocument(m_server.http(), &m_destination, m_info, m_id,
-                              document.name.toUtf8().constData(), format.constData(), options.count(),
+                              nameOf(document.name).constData(), format.constData(), options.count(),
                               options.data(), isLast ? 1 : 0) != HTTP_STATUS_CONTINUE) {
       return lastCupsError(attempt);
     }
@@ -105,7 +117,9 @@ class OpenJob {
     }
     if (count < 0)
       return Outcome::failed(document.name + QStringLiteral(": ") + document.file->errorString());
-    if (cupsFinishDestDocument(m_server.http(), &m_destination, m_info) > IPP_STATUS_OK_EVENTS_COMPLETE) {
+    const ipp_status_t status = cupsFinishDestDocument(m_server.http(), &m_destination, m_info);
+    // Without an answer libcups leaves the status of an earlier one.
+    if (status > IPP_STATUS_OK_EVENTS_COMPLETE || httpGetStatus(m_server.http()) != HTTP_STATUS_OK) {
       return lastCupsError(attempt);
     }
     return Outcome::done();

@@ -1,6 +1,7 @@
 #include "hosts/cups/print_server.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 
 namespace kesto {
@@ -75,7 +76,11 @@ void FreeDest::operator()(cups_dest_t* dest) const {
 }
 
 Outcome lastCupsError(const QString& attempt) {
-  return Outcome::failed(attempt + QStringLiteral(": ") + QString::fromUtf8(cupsLastErrorString()));
+  // A wait that was given up is no error to libcups.
+  const QString reason = cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE
+                             ? QString::fromUtf8(cupsLastErrorString())
+                             : QStringLiteral("the print server does not answer");
+  return Outcome::failed(attempt + QStringLiteral(": ") + reason);
 }
 
 QString optionOf(const cups_dest_t& destination, const char* name) {
@@ -96,6 +101,7 @@ Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds l
 }
 
 Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
+  if (Outcome answered = probe(); !answered) return answered;
   // "queue/instance" names a user's own set of options for the queue.
   const QByteArray queue = name.section(u'/', 0, 0).toUtf8();
   const QByteArray instance = name.section(u'/', 1).toUtf8();
@@ -104,6 +110,16 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
   if (*destination) return Outcome::done();
   return name.isNull() ? Outcome::failed(QStringLiteral("there is no default queue; choose one with -d"))
                        : lastCupsError(QStringLiteral("the queue %1 cannot be had").arg(name));
+}
+
+// libcups looks for a queue on connections of its own as well, which wait for a minute: a server that is
+// silent is to be known before.
+Outcome PrintServer::probe() {
+  QByteArray reply;
+  const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
+  Outcome answered = ask(request.get(), &reply);
+  // One that wants to know who asks has answered, too.
+  return httpGetStatus(http()) == HTTP_STATUS_ERROR ? answered : Outcome::done();
 }
 
 // The reply is read in blocks: libcups's own reading of it takes a system call for nearly every value.
@@ -116,7 +132,9 @@ Outcome PrintServer::ask(ipp_t* request, QByteArray* reply) {
     status = httpUpdate(http());
   if (status != HTTP_STATUS_OK) {
     httpFlush(http());
-    const char* text = status == HTTP_STATUS_ERROR ? std::strerror(httpError(http())) : httpStatus(status);
+    // A wait that was given up leaves no error behind.
+    const int error = httpError(http()) == 0 ? ETIMEDOUT : httpError(http());
+    const char* text = status == HTTP_STATUS_ERROR ? std::strerror(error) : httpStatus(status);
     return Outcome::failed(QStringLiteral("the print server does not answer: ") + QString::fromUtf8(text));
   }
   QByteArray block(65536, Qt::Uninitialized);

@@ -31,7 +31,6 @@ struct QueueSummary {
   QString deviceUri;  ///< Where it sends its jobs.
   QString state;      ///< "idle", "processing" or "stopped".
   bool isAccepting = true;
-  bool isDefault = false;
 };
 
 /// One print server. Every operation ends within the time limit of each of its waits; outcomes carry
@@ -53,6 +52,8 @@ class PrintServer {
 
  private:
   explicit PrintServer(http_t* http) : m_http(http) {}
+  // Whether the server answers at all.
+  Outcome probe();
   Outcome ask(ipp_t* request, QByteArray* reply);
 
   std::unique_ptr<http_t, CloseHttp> m_http;

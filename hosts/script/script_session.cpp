@@ -74,8 +74,8 @@ struct ScriptSession::CommandRow {
     const char* name = nullptr;
     Member member = Member::Text;
   };
-  const char* name;
-  QJsonObject (ScriptSession::*run)(const QJsonObject&);
+  const char* name = nullptr;
+  QJsonObject (ScriptSession::*run)(const QJsonObject&) = nullptr;
   std::array<MemberRow, 3> members{};
 };
 

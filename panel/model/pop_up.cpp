@@ -5,6 +5,7 @@
 namespace kesto {
 
 void PopUp::setItems(std::vector<PopUpItem> items) {
+  if (items == m_items) return;
   m_items = std::move(items);
   m_selectedIndex = std::min(m_selectedIndex, static_cast<int>(m_items.size()) - 1);
   Q_EMIT changed();

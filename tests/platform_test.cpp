@@ -1,0 +1,160 @@
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTemporaryDir>
+
+#include "hosts/cups/panel_host.h"
+#include "platform/environment.h"
+#include "support/test_host.h"
+
+namespace kesto {
+namespace {
+
+using namespace test;
+
+// Sets environment variables for one test; a null value unsets one.
+class Environment : public testing::Test {
+ protected:
+  void TearDown() override {
+    for (const auto& [name, value] : m_before)
+      put(name, value);
+  }
+  void set(const char* name, const QByteArray& value) {
+    m_before.insert(m_before.begin(), {name, qgetenv(name)});
+    put(name, value);
+  }
+
+ private:
+  static void put(const char* name, const QByteArray& value) {
+    value.isNull() ? qunsetenv(name) : qputenv(name, value);
+  }
+  std::vector<std::pair<const char*, QByteArray>> m_before;
+};
+
+TEST_F(Environment, TheFirstLocaleVariableThatIsSetDecides) {
+  using enum TextEncoding;
+  using Case = std::pair<std::array<const char*, 3>, TextEncoding>;
+  for (const auto& [values, encoding] :
+       {Case{{"ja_JP", "ko_KR", "ru_RU"}, MacJapanese}, Case{{nullptr, "ko_KR", "ru_RU"}, MacKorean},
+        Case{{"", "ko_KR", "ru_RU"}, MacKorean}, Case{{nullptr, "", "ru_RU"}, MacCyrillic},
+        Case{{"C", "ko_KR", "ru_RU"}, MacRoman}, Case{{nullptr, nullptr, nullptr}, MacRoman}}) {
+    set("LC_ALL", values[0]);
+    set("LC_CTYPE", values[1]);
+    set("LANG", values[2]);
+    EXPECT_EQ(systemEncodingOfEnvironment(), encoding);
+  }
+}
+
+TEST_F(Environment, TheTemporaryDirectoryIsNamedOrPrivate) {
+  const QTemporaryDir folder;
+  const QByteArray own = folder.path().toLatin1() + "/kesto";
+  for (const char* named : {"/named", "/named/"}) {
+    set("TMPDIR", named);
+    EXPECT_EQ(userTemporaryDirectory(), u"/named/"_s);
+  }
+  set("TMPDIR", {});
+  for (const QByteArray& runtime : {QByteArray(), QByteArray(), folder.path().toLatin1() + "/missing"}) {
+    set("XDG_RUNTIME_DIR", runtime);
+    EXPECT_TRUE(userTemporaryDirectory().isNull());
+  }
+  set("XDG_RUNTIME_DIR", folder.path().toLatin1());
+  EXPECT_EQ(userTemporaryDirectory().toLatin1(), own + '/');
+  set("TMPDIR", "");
+  EXPECT_EQ(userTemporaryDirectory().toLatin1(), own + '/');
+  struct stat info {};
+  ASSERT_EQ(::stat(own.constData(), &info), 0);
+  EXPECT_EQ(info.st_mode & 07777, 0700U);
+
+  ASSERT_EQ(::chmod(own.constData(), 0750), 0);
+  EXPECT_TRUE(userTemporaryDirectory().isNull()) << "others may enter";
+  ASSERT_EQ(::rmdir(own.constData()), 0);
+  ASSERT_EQ(::symlink("/tmp", own.constData()), 0);
+  EXPECT_TRUE(userTemporaryDirectory().isNull()) << "a link was followed";
+}
+
+TEST_F(Environment, NamesOfTheAccount) {
+  const passwd* entry = getpwuid(getuid());
+  EXPECT_EQ(accountShortName(), entry == nullptr ? QString() : QString::fromLocal8Bit(entry->pw_name));
+  const QString full =
+      entry == nullptr ? QString() : QString::fromLocal8Bit(entry->pw_gecos).section(u',', 0, 0);
+  const bool isPlain = !full.contains(u'&');  // which stands for the short name
+  EXPECT_TRUE(!isPlain || accountFullName() == (full.isEmpty() ? QString() : full));
+}
+
+TEST(PrintSettings, PresentAndEmptyAreDifferent) {
+  PrintSettings settings;
+  EXPECT_EQ(settings.value(u"b"_s), std::nullopt);
+  settings.setValue(u"b"_s, u"1"_s);
+  settings.setValue(u"b"_s, u""_s);
+  settings.setValue(u"a"_s, u"2"_s);
+  EXPECT_EQ(settings.value(u"b"_s), u""_s);
+  EXPECT_EQ(settings.all().keys(), (QStringList{u"a"_s, u"b"_s}));
+  for (int time = 0; time < 2; ++time)
+    settings.setValue(u"b"_s, std::nullopt);
+  EXPECT_EQ(settings.all().keys(), QStringList{u"a"_s});
+}
+
+const QString bundleName = u"JobHandling.pde"_s;
+
+TEST(Bundle, ResourcesByNameAndType) {
+  const QString path = Bundle::find(bundleName);
+  const Bundle bundle(path);
+  EXPECT_EQ(bundle.pathForResource(u"space"_s, u"png"_s), path + u"/Resources/space.png"_s);
+  EXPECT_TRUE(bundle.resource(u"listfiles2"_s, u"xml"_s).value_or("").contains("Envelope"));
+  EXPECT_TRUE(bundle.pathForResource(u"space"_s, u"gif"_s).isNull());
+  EXPECT_TRUE(bundle.pathForResource(u"../Resources/"_s, u""_s).isNull()) << "a folder is no resource";
+  EXPECT_EQ(bundle.resource(u"missing"_s, u"xml"_s), std::nullopt);
+  EXPECT_TRUE(Bundle::find(u"NoSuch.pde"_s).isNull());
+}
+
+TEST(Bundle, TextsInTheLanguageElseTheKey) {
+  using Case = std::pair<QLocale, Text>;
+  for (const auto& [locale, text] :
+       {Case{QLocale(QLocale::German), "Speichern"},
+        Case{QLocale(QLocale::German, QLocale::Switzerland), "Speichern"},
+        Case{QLocale(QLocale::English), "Retention"}, Case{QLocale(QLocale::Japanese), "Retention"},
+        Case{QLocale::c(), "Retention"}}) {
+    const Bundle bundle(Bundle::find(bundleName), locale);
+    EXPECT_EQ(bundle.localizedStringForKey(u"Retention"_s), text);
+    EXPECT_EQ(bundle.localizedStringForKey(u"No such text"_s), u"No such text"_s);
+    EXPECT_EQ(bundle.localizedStringForKey(u""_s), u""_s);
+  }
+}
+
+TEST(Bundle, LoadedThroughItsPrincipalObjectGivesAPanel) {
+  PrintDialogPlugIn* plugIn = nullptr;
+  std::shared_ptr<const Bundle> bundle;
+  const Outcome loaded = loadJobHandlingBundle(&bundle, &plugIn);
+  ASSERT_TRUE(loaded) << loaded.reason();
+  TestPlatform platform;
+  const PpdFixture ppd;
+  TestHost host(platform);
+  host.ppd = ppd.file();
+  PanelList panels = plugIn->PDEPanelsForType(QLatin1String(printDialogTypeIdentifier), &host);
+  ASSERT_TRUE(panels && panels->size() == 1);
+  EXPECT_EQ(panels->front()->panelName(), u"Job Handling"_s);
+  EXPECT_NE(panels->front()->panelView(), nullptr);
+  EXPECT_TRUE(panels->front()->shouldPrint());
+  host.expect("jobSuspend=0");
+}
+
+TEST(Bundle, CodeThatDoesNotLoadIsReported) {
+  const QTemporaryDir folder;
+  ASSERT_TRUE(QDir(folder.path()).mkdir(u"Damaged.pde"_s));
+  QFile code(folder.filePath(u"Damaged.pde/Damaged.so"_s));
+  ASSERT_TRUE(code.open(QIODevice::WriteOnly));
+  code.write("no code");
+  code.close();
+  for (const QString& name : {u"Missing.pde"_s, u"Damaged.pde"_s}) {
+    PrintDialogPlugIn* plugIn = nullptr;
+    const Outcome loaded = Bundle(folder.filePath(name)).loadPrincipalObject(&plugIn);
+    EXPECT_FALSE(loaded || loaded.reason().isEmpty());
+    EXPECT_EQ(plugIn, nullptr);
+  }
+}
+
+}  // namespace
+}  // namespace kesto

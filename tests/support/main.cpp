@@ -1,0 +1,10 @@
+#include <QtCore/QCoreApplication>
+
+#include "support/warnings.h"
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);  // for what is found beside the program
+  testing::InitGoogleMock(&argc, argv);
+  qInstallMessageHandler(kesto::test::ExpectedWarning::handleMessage);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,52 @@
+// How tests write the values of Qt, and how failures show them.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QString>
+#include <ostream>
+
+inline std::ostream& operator<<(std::ostream& out, const QString& text) {
+  return out << text.toStdString();
+}
+inline std::ostream& operator<<(std::ostream& out, const QByteArray& bytes) {
+  return out << bytes.toStdString();
+}
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << (text.isNull() ? "null" : '"' + text.toStdString() + '"');
+}
+inline void PrintTo(const QByteArray& bytes, std::ostream* out) {
+  *out << '"' << bytes.toStdString() << '"';
+}
+inline void PrintTo(const QJsonObject& object, std::ostream* out) {
+  *out << QJsonDocument(object).toJson().toStdString();
+}
+
+namespace kesto::test {
+
+using namespace Qt::StringLiterals;
+
+/// A text that tables may give as a plain literal, in UTF-8; null for a null pointer.
+struct Text : QString {
+  Text(const char* utf8) : QString(utf8 == nullptr ? QString() : QString::fromUtf8(utf8)) {}
+  Text(const QString& text) : QString(text) {}
+};
+
+inline void PrintTo(const Text& text, std::ostream* out) {
+  PrintTo(static_cast<const QString&>(text), out);
+}
+
+/// Pairs of what is given and what is expected.
+using Cases = std::initializer_list<std::pair<Text, Text>>;
+
+/// Calls `visit` with each key and value of "key=value key=value".
+template <class Visit>
+void forEachValue(const QString& notation, const Visit& visit) {
+  for (const QString& part : notation.split(u' ', Qt::SkipEmptyParts)) {
+    visit(part.section(u'=', 0, 0), part.section(u'=', 1));
+  }
+}
+
+}  // namespace kesto::test

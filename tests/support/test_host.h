@@ -1,0 +1,82 @@
+// A host's double, with a printer of its own, and the PPD that it lends.
+#pragma once
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+#include "hosts/cups/ppd_file.h"
+#include "platform/host_callback.h"
+#include "platform/print_settings.h"
+#include "support/test_platform.h"
+
+namespace kesto::test {
+
+/// Lines of a PPD that name encoding and model.
+inline const QByteArray ppdOfModel = "*LanguageEncoding: ISOLatin1\n*ModelName: \"KESTO VQ-250n\"\n";
+
+/// A small PPD in a folder of its own, opened.
+class PpdFixture {
+ public:
+  /// `lines` follow the first line of the file.
+  explicit PpdFixture(const QByteArray& lines = ppdOfModel) {
+    QFile file(path());
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("*PPD-Adobe: \"4.3\"\n" + lines);
+    file.close();
+    const Outcome opened = openPpdFile(path(), &m_ppd);
+    EXPECT_TRUE(opened) << opened.reason();
+  }
+  QString path() const { return m_folder.filePath(u"test.ppd"_s); }
+  ppd_file_s* file() const { return m_ppd.get(); }
+
+ private:
+  QTemporaryDir m_folder;
+  PpdFile m_ppd;
+};
+
+/// A host whose members the test sets. Print-settings keys are given by their last component.
+class TestHost : public HostCallback {
+ public:
+  explicit TestHost(Platform& platform) : m_platform(platform) {
+    session.currentPrinter = {.id = u"Office_MFP"_s, .deviceUri = u"socket://192.0.2.20:9100"_s};
+  }
+
+  const PrintSession& printSession() const override { return session; }
+  PrintSettings* printSettings() override { return settings ? &*settings : nullptr; }
+  ppd_file_s* ppdFile() override { return ppd; }
+  bool answersWillChangePPDOptionKeyValue() const override { return handlesConstraints; }
+  Platform& platform() override { return m_platform; }
+
+  /// The value under a key, null when it is absent.
+  QString value(const Text& key) const { return settings->value(prefix + key).value_or(QString()); }
+  void put(const Text& key, const std::optional<QString>& value) { settings->setValue(prefix + key, value); }
+  /// Puts "key=value key=value"; values hold no blanks.
+  void put(const Text& values) {
+    forEachValue(values, [&](const QString& key, const QString& value) { put(key, value); });
+  }
+  /// Expects "key=value key="; nothing behind "=" asks for an absent key.
+  void expect(const Text& values) const {
+    forEachValue(values, [&](const QString& key, const QString& wanted) {
+      EXPECT_EQ(value(key), wanted.isEmpty() ? QString() : wanted) << key;
+    });
+  }
+  /// All settings as "key=value key=value", sorted.
+  QString all() const {
+    QStringList lines;
+    const auto& map = settings->all();
+    for (auto it = map.begin(); it != map.end(); ++it)
+      lines.append(it.key().sliced(prefix.size()) + u'=' + it.value());
+    return lines.join(u' ');
+  }
+
+  PrintSession session;
+  std::optional<PrintSettings> settings{std::in_place};
+  ppd_file_s* ppd = nullptr;
+  bool handlesConstraints = true;
+
+ private:
+  static inline const QString prefix = u"kesto.print.PrintSettings."_s;
+  Platform& m_platform;
+};
+
+}  // namespace kesto::test

@@ -1,0 +1,84 @@
+// The platform's double: nothing of the machine but the bundle, and everything can fail.
+#pragma once
+
+#include <QtCore/QMap>
+#include <functional>
+#include <vector>
+
+#include "platform/alert_presenter.h"
+#include "platform/bundle.h"
+#include "platform/platform.h"
+#include "platform/user_defaults.h"
+#include "support/printing.h"
+
+namespace kesto::test {
+
+/// The preference domain of the printer that a test's host has.
+inline const QString printerDomain = u"kesto.mfp.Office_MFP"_s;
+
+/// User defaults in memory. `shallFail` is asked before every access with the accesses so far, this one
+/// included.
+class MemoryUserDefaults : public UserDefaults {
+ public:
+  Domain persistentDomainForName(const QString& name) override {
+    if (isFailing()) return {};
+    const auto found = domains.constFind(name);
+    return {.available = true, .values = found == domains.constEnd() ? std::nullopt : std::optional(*found)};
+  }
+  Outcome setPersistentDomain(const QJsonObject& values, const QString& name) override {
+    if (isFailing()) return Outcome::failed(u"the test lets it fail"_s);
+    domains.insert(name, values);
+    return Outcome::done();
+  }
+
+  QMap<QString, QJsonObject> domains;
+  int accesses = 0;
+  std::function<bool(int access)> shallFail;
+
+ private:
+  bool isFailing() {
+    ++accesses;
+    return shallFail && shallFail(accesses);
+  }
+};
+
+/// Texts and facts are members that the test sets; alerts are kept, and each counts as dismissed.
+class TestPlatform : public Platform, public AlertPresenter {
+ public:
+  explicit TestPlatform(QLocale::Language language = QLocale::English)
+      : bundleOfPanel(std::make_shared<const Bundle>(Bundle::find(u"JobHandling.pde"_s), QLocale(language))) {
+  }
+
+  std::shared_ptr<const Bundle> bundle() override { return bundleOfPanel; }
+  UserDefaults& userDefaults() override { return defaults; }
+  AlertPresenter& alertPresenter() override { return *this; }
+  QDateTime now() override { return clock; }
+  QString temporaryDirectory() override { return temporary; }
+  QString userName() override { return shortName; }
+  QString fullUserName() override { return fullName; }
+  TextEncoding systemEncoding() override { return encoding; }
+  /// The preferences' record of the test's printer and model, with `entries` of its own.
+  void remember(const QJsonObject& entries) {
+    QJsonObject record{{u"Model Name"_s, u"KESTO VQ-250n"_s}, {u"Release Number"_s, u"2.00"_s}};
+    for (auto it = entries.begin(); it != entries.end(); ++it)
+      record.insert(it.key(), it.value());
+    defaults.domains.insert(printerDomain, {{u"Job Handling"_s, record}});
+  }
+  QJsonObject remembered() const {
+    return defaults.domains.value(printerDomain).value(u"Job Handling"_s).toObject();
+  }
+  void runInformationalAlert(const QString& title, const QString& message, const QString& button) override {
+    alerts.push_back({title, message, button});
+  }
+
+  std::shared_ptr<const Bundle> bundleOfPanel;
+  MemoryUserDefaults defaults;
+  QDateTime clock{QDate(2024, 2, 29), QTime(7, 8, 9), Qt::OffsetFromUTC, -(3 * 60 + 30) * 60};
+  QString temporary;
+  QString shortName = u"jdoe"_s;
+  QString fullName = u"Jane Doe"_s;
+  TextEncoding encoding = TextEncoding::MacRoman;
+  std::vector<QStringList> alerts;  ///< Title, message and button of each.
+};
+
+}  // namespace kesto::test

@@ -1,0 +1,122 @@
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QSet>
+#include <QtCore/QTemporaryDir>
+
+#include "platform/json_user_defaults.h"
+#include "support/printing.h"
+#include "support/warnings.h"
+
+namespace kesto {
+namespace {
+
+using namespace test;
+
+const QString domain = u"kesto.mfp.Office_MFP"_s;
+const QJsonObject values{{u"a"_s, 1}, {u"b"_s, QJsonObject{{u"c"_s, true}}}};
+
+class JsonUserDefaultsTest : public testing::Test {
+ protected:
+  QString path(const QString& name) const { return m_folder.filePath(name); }
+  QSet<QString> files() const {
+    const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden);
+    return {names.begin(), names.end()};
+  }
+  static void write(const QString& path, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+  }
+  static unsigned modeOf(const QString& path) {
+    struct stat info {};
+    EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &info), 0);
+    return info.st_mode & 07777;
+  }
+
+  QTemporaryDir m_folder;
+  const QString folder = path(u"config/kesto"_s);
+  const QString file = folder + u'/' + domain + u".json"_s;
+  JsonUserDefaults defaults{folder};
+};
+
+TEST_F(JsonUserDefaultsTest, WrittenPrivatelyAndReadByAnother) {
+  EXPECT_TRUE(defaults.persistentDomainForName(domain).available);
+  EXPECT_EQ(defaults.persistentDomainForName(domain).values, std::nullopt);
+  for (int time = 0; time < 3; ++time)
+    ASSERT_TRUE(defaults.setPersistentDomain(values, domain));
+  EXPECT_EQ(JsonUserDefaults(folder).persistentDomainForName(domain).values, values);
+  EXPECT_EQ(modeOf(folder), 0700U);
+  EXPECT_EQ(modeOf(file), 0600U);
+  EXPECT_EQ(files(), QSet{domain + u".json"_s}) << "a temporary file is left";
+  ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0755), 0);
+  ASSERT_TRUE(defaults.setPersistentDomain(values, domain));
+  EXPECT_EQ(modeOf(folder), 0700U) << "a folder open to others";
+}
+
+TEST_F(JsonUserDefaultsTest, NamesArePercentEncoded) {
+  const QStringList names{u"Az09._-"_s, u"../up"_s, u"a b~c%"_s, u"Büro"_s, u"a/b"_s, u".."_s};
+  for (const QString& name : names)
+    ASSERT_TRUE(defaults.setPersistentDomain({{u"name"_s, name}}, name));
+  for (const QString& name : names) {
+    EXPECT_EQ(defaults.persistentDomainForName(name).values->value(u"name"_s).toString(), name);
+  }
+  EXPECT_EQ(files(), (QSet{u"...json"_s, u"..%2Fup.json"_s, u"Az09._-.json"_s, u"B%C3%BCro.json"_s,
+                           u"a%20b%7Ec%25.json"_s, u"a%2Fb.json"_s}));
+}
+
+TEST_F(JsonUserDefaultsTest, DamagedFilesAreKeptAside) {
+  int number = 0;
+  for (const QByteArray& damaged :
+       {QByteArray("{\"a\": 1"), QByteArray("[1, 2]"), QByteArray("\xFF\xFE"), QByteArray(3, '\0')}) {
+    write(file, damaged);
+    const ExpectedWarning warning("was not readable and is kept as");
+    const Domain read = defaults.persistentDomainForName(domain);
+    EXPECT_TRUE(read.available && !read.values);
+    EXPECT_FALSE(QFile::exists(file));
+    QFile aside(file + u".damaged-%1"_s.arg(++number));
+    ASSERT_TRUE(aside.open(QIODevice::ReadOnly));
+    EXPECT_EQ(aside.readAll(), damaged);
+  }
+  write(file, "");
+  EXPECT_TRUE(defaults.persistentDomainForName(domain).available) << "an empty file holds nothing to keep";
+  EXPECT_EQ(files().size(), 5);
+}
+
+TEST_F(JsonUserDefaultsTest, WhatIsNoFileIsUnavailableAndStays) {
+  ASSERT_TRUE(QDir().mkpath(file));
+  EXPECT_FALSE(defaults.persistentDomainForName(domain).available);
+  const Outcome written = defaults.setPersistentDomain(values, domain);
+  EXPECT_FALSE(written);
+  EXPECT_TRUE(written.reason().contains(domain)) << written.reason();
+  EXPECT_EQ(files(), QSet<QString>()) << "a temporary file is left";
+}
+
+TEST_F(JsonUserDefaultsTest, AFailedWriteLeavesTheOldDomain) {
+  EXPECT_FALSE(defaults.setPersistentDomain(values, QString(300, u'n'))) << "no file has such a long name";
+  EXPECT_EQ(files(), QSet<QString>());
+  ASSERT_TRUE(QDir(folder).removeRecursively());
+  write(folder, "a file where the folder would be");
+  EXPECT_TRUE(defaults.persistentDomainForName(domain).available);
+  const Outcome written = defaults.setPersistentDomain(values, domain);
+  EXPECT_FALSE(written);
+  EXPECT_TRUE(written.reason().contains(folder)) << written.reason();
+}
+
+TEST_F(JsonUserDefaultsTest, WithoutTheRights) {
+  if (::geteuid() == 0) GTEST_SKIP() << "root may do everything";
+  ASSERT_TRUE(defaults.setPersistentDomain(values, domain));
+  ASSERT_TRUE(QFile::setPermissions(file, QFile::WriteOwner));
+  EXPECT_FALSE(defaults.persistentDomainForName(domain).available);
+  ASSERT_TRUE(QFile::setPermissions(file, QFile::ReadOwner));
+  ASSERT_TRUE(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+  EXPECT_FALSE(defaults.setPersistentDomain({}, domain));
+  EXPECT_EQ(defaults.persistentDomainForName(domain).values, values);
+  QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+}  // namespace
+}  // namespace kesto
