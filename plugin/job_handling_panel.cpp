@@ -124,11 +124,11 @@ QString KestoPrintPdeVq250nJC::panelKind() {
 QStringList KestoPrintPdeVq250nJC::supportedPPDOptionKeys() {
   _PDEProlog(this, "supportedPPDOptionKeys:");
   QStringList keys{QStringLiteral("ARPrintRelease"),    QStringLiteral("ARRetention"),
-                         QStringLiteral("ARDocFiling"),       QStringLiteral("ARHoldKey"),
-                         QStringLiteral("ARDocumentFiling"),  QStringLiteral("ARCustomFolderName"),
-                         QStringLiteral("ARCustomFolderPIN"), QStringLiteral("ARAccountLogin"),
-                         QStringLiteral("ARAccountPassword"), QStringLiteral("ARUserNumber"),
-                         QStringLiteral("ARUserName"),        QStringLiteral("ARJobName")};
+                   QStringLiteral("ARDocFiling"),       QStringLiteral("ARHoldKey"),
+                   QStringLiteral("ARDocumentFiling"),  QStringLiteral("ARCustomFolderName"),
+                   QStringLiteral("ARCustomFolderPIN"), QStringLiteral("ARAccountLogin"),
+                   QStringLiteral("ARAccountPassword"), QStringLiteral("ARUserNumber"),
+                   QStringLiteral("ARUserName"),        QStringLiteral("ARJobName")};
   _PDEEpilog(this, "supportedPPDOptionKeys:=NSArray(%@)", keys.join(u' '));
   return keys;
 }

@@ -24,7 +24,7 @@ QMap<QString, QString> parseJobOptions(const QString& text);
 using UploadProgress = std::function<void(int document, qint64 sent, qint64 total)>;
 
 /// Opens every file, creates the job, sends its documents; `*jobId` is its number. On failure nothing of the
-/// job stays with the server, and the outcome carries the reason.
+/// job stays with a server that still answers, and the outcome carries the reason.
 Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& job,
                 const UploadProgress& progress, int* jobId);
 

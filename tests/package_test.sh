@@ -1,0 +1,95 @@
+#!/usr/bin/env bash
+# The Debian package of a build: read by lintian, used from a folder that it is unpacked in, installed and removed.
+# usage: tests/package_test.sh BUILD_FOLDER    (ends with 77 where the packaging tools are missing)
+# shellcheck disable=SC2317  # functions are called by their names
+set -euo pipefail
+
+build=$(realpath "${1:?usage: tests/package_test.sh BUILD_FOLDER}")
+for tool in lintian dpkg-deb; do
+  if command -v "$tool" >/dev/null; then continue; fi
+  echo "package_test: there is no $tool"
+  if [[ ${CI:-} == true ]]; then exit 1; fi
+  exit 77
+done
+
+scratch=$(mktemp -d)
+printer=
+cleanup() {
+  if [[ $printer ]]; then kill "$printer"; fi
+  rm -rf "$scratch"
+}
+trap cleanup EXIT
+chmod 711 "$scratch" # the account that the demo printer's jobs run as passes through
+unset LD_LIBRARY_PATH
+export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home TMPDIR=$scratch LC_ALL=C.UTF-8
+mkdir "$HOME"
+
+failures=0
+# expect WHAT PATTERN COMMAND...: the command succeeds, and the pattern is in what it prints.
+expect() {
+  local what=$1 pattern=$2 output
+  shift 2
+  if output=$("$@" 2>&1) && grep -qE -- "$pattern" <<<"$output"; then return; fi
+  printf 'package_test: %s: no %s in\n%s\n' "$what" "$pattern" "$output"
+  failures=$((failures + 1))
+}
+
+expect "the package is made" 'package: .* generated' cpack --config "$build/CPackConfig.cmake" -B "$scratch/made"
+package=$(echo "$scratch"/made/*.deb)
+expect "lintian finds no error" '' lintian --fail-on error "$package"
+
+root=$scratch/unpacked
+dpkg-deb -x "$package" "$root"
+bin=$root/usr/bin
+bundle=$(echo "$root"/usr/lib/*/kesto/pde/JobHandling.pde)
+queue=(--ppd "$root/usr/share/kesto/kesto-vq250n.ppd" --device-uri lpd://x)
+hold=(--dry-run "${queue[@]}" --hold only --pin-file -)
+expect "help" '^Usage: kesto-lp ' "$bin/kesto-lp" --help
+expect "the private library is the package's" "$root/usr/lib/.*/libkestopde" ldd "$bin/kesto-lp" "$bundle/JobHandling.so"
+expect "a dry run" 'jobSuspend2Key=911ED802F46F9D5E4D26EA8C8BFE070B' "$bin/kesto-lp" "${hold[@]}" <<<2468
+expect "a panel" '"queue" *: *"q"|retentionCheckBox' "$bin/kesto-panel" --queue q "${queue[@]}" \
+  <<<$'{"do":"show"}\n{"do":"controls"}'
+mv "$bundle" "$bundle.away"
+fails() { ! "$@"; }
+expect "the bundle is the package's" 'JobHandling.pde is neither' fails "$bin/kesto-lp" "${hold[@]}" <<<2468
+mv "$bundle.away" "$bundle"
+
+# The demo printer finds its programs and its queue's description beside it.
+exec {log}< <(exec "$bin/kesto-demo-printer" --dir "$scratch/run" --folder-port 0 --json 2>&1)
+printer=$!
+read -r -t 60 places <&"$log"
+server=$(sed -nE 's/.*"server":"([^"]+)".*/\1/p' <<<"$places")
+expect "a job" 'request id is Office_MFP-1' "$bin/kesto-lp" -h "$server" --hold only --pin-file - <<<$'2468\ntext'
+while read -r -t 60 line <&"$log" && [[ $line != *held* ]]; do :; done
+expect "its release" '' "$bin/kesto-demo-printer" release 1 --dir "$scratch/run" --pin-file - <<<2468
+expect "its printout" '^text$' cat "$scratch/run/output/job-1-1"
+
+# complete_word WORD...: what the completion offers for the last of them.
+complete_word() (
+  PATH=$bin:$PATH
+  # shellcheck disable=SC1091
+  source "$root/usr/share/bash-completion/completions/kesto-lp"
+  compopt() { echo "file names"; }
+  export CUPS_SERVER=$server
+  COMP_WORDS=(kesto-lp "$@")
+  COMP_CWORD=$#
+  _kesto_lp
+  echo "${COMPREPLY[*]-}"
+)
+expect "completion of queues" '^Office_MFP$' complete_word -d Off
+expect "completion of choices" '^only after sample$' complete_word --hold ''
+expect "completion of lists" '^pin,folder pin,folder-pin$' complete_word --remember pin,fol
+expect "completion of options" '^--pin --pin-file$' complete_word --pi
+expect "completion of files" '^file names' complete_word rep
+installed=$scratch/installed
+mkdir -p "$installed"/var/lib/dpkg/{info,updates}
+touch "$installed"/var/lib/dpkg/{status,available}
+dpkg_there() {
+  dpkg --root="$installed" --log=/dev/null --force-not-root --force-bad-path --force-depends "$@"
+}
+expect "installing" '' dpkg_there --install "$package"
+expect "an installed program" '^Usage: ' "$installed/usr/bin/kesto-lp" --help
+expect "removing" '' dpkg_there --purge kesto-job-handling
+expect "nothing is left" '^$' find "$installed" -mindepth 1 -not -path "$installed/var*"
+
+exit $((failures > 0))
