@@ -2,15 +2,13 @@
 // the same bytes over a bare socket, both with a printer that answers after a fixed delay.
 #include <benchmark/benchmark.h>
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
 
+#include "bench/bench_platform.h"
 #include "folders/soap_client.h"
-#include "platform/platform.h"
 
 namespace {
 
@@ -55,39 +53,15 @@ class Printer {
   QTcpServer m_server;
 };
 
-// Only the temporary directory is asked for.
-class BenchPlatform : public kesto::Platform {
- public:
-  std::shared_ptr<const kesto::Bundle> bundle() override { return nullptr; }
-  kesto::UserDefaults& userDefaults() override { std::abort(); }
-  kesto::AlertPresenter& alertPresenter() override { std::abort(); }
-  QDateTime now() override { return {}; }
-  QString temporaryDirectory() override { return m_folder.path() + QLatin1Char('/'); }
-  QString userName() override { return {}; }
-  QString fullUserName() override { return {}; }
-  kesto::TextEncoding systemEncoding() override { return kesto::TextEncoding::MacRoman; }
-
- private:
-  QTemporaryDir m_folder;
-};
-
 class Context : public kesto::SoapContext {
  public:
   void recieveEndCallback() override { std::abort(); }
 };
 
-QCoreApplication& application() {
-  static int argc = 1;
-  static char name[] = "kesto-bench";
-  static char* argv[] = {name, nullptr};
-  static QCoreApplication instance(argc, argv);
-  return instance;
-}
-
 void exchangeThroughTheClient(benchmark::State& state) {
-  application();
+  kesto::bench::application();
   const Printer printer;
-  BenchPlatform platform;
+  kesto::bench::BenchPlatform platform;
   Context context;
   const QString url = QStringLiteral("http://127.0.0.1:%1/kesto-mfp-srv").arg(printer.port());
   for ([[maybe_unused]] auto _ : state) {
@@ -97,7 +71,7 @@ void exchangeThroughTheClient(benchmark::State& state) {
 }
 
 void exchangeOverABareSocket(benchmark::State& state) {
-  application();
+  kesto::bench::application();
   const Printer printer;
   const QByteArray request = "POST /kesto-mfp-srv HTTP/1.1\r\nContent-Length: 10\r\n\r\n<request/>";
   for ([[maybe_unused]] auto _ : state) {

@@ -8,7 +8,7 @@ namespace {
 // kesto-panel on a queue, with its layout loaded.
 class PanelProcess : public DemoProcess {
  public:
-  explicit PanelProcess(const DemoFolder& folder)
+  explicit PanelProcess(const ScratchFolder& folder)
       : DemoProcess(
             folder, builtProgram("kesto-panel"),
             {u"--queue"_s, u"Office_MFP"_s, u"--ppd"_s, builtProgram("../share/kesto/kesto-vq250n.ppd")}) {
@@ -61,7 +61,7 @@ class FolderMisbehaviour : public testing::TestWithParam<Case> {
         m_folder, QStringList{u"--folders-only"_s, u"--folders"_s, m_folder.path(list)} + arguments);
   }
 
-  DemoFolder m_folder;
+  ScratchFolder m_folder;
 };
 
 TEST_P(FolderMisbehaviour, LeavesThePanelAlive) {
@@ -104,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return QString::fromLatin1(info.param.misbehaviour).remove(u'-').toStdString(); });
 
 TEST(DemoFolders, AreReadFromAFile) {
-  const DemoFolder folder;
+  const ScratchFolder folder;
   const auto faultOf = [&](const QByteArray& bytes) {
     folder.write(u"list"_s, bytes);
     DemoFolders folders;

@@ -51,7 +51,7 @@ class DemoPrinterTest : public testing::Test {
     return lines;
   }
 
-  DemoFolder m_folder;
+  ScratchFolder m_folder;
   QByteArray m_document = "%PDF-1.4\n";
 };
 
@@ -187,9 +187,9 @@ TEST_F(DemoPrinterTest, WorksForAnOrdinaryUser) {
 
 // Sends bytes to a printer without a scheduler; how many jobs it then has.
 qsizetype jobsAfter(const QByteArray& bytes) {
-  const DemoFolder folder;
+  const ScratchFolder folder;
   JobStore store(folder.path(u""_s), folder.path(u""_s));
-  Printer printer(store);
+  RawPrinter printer(store);
   EXPECT_TRUE(printer.listen());
   QTcpSocket socket;
   socket.connectToHost(u"127.0.0.1"_s, printer.port());

@@ -27,9 +27,9 @@ inline QByteArray bytesOf(const QString& path) {
 }
 
 /// A place of its own for everything that the programs write.
-class DemoFolder {
+class ScratchFolder {
  public:
-  DemoFolder() {
+  ScratchFolder() {
     // A scheduler that root starts runs its jobs as another account, which passes through here.
     QFile::setPermissions(m_folder.path(),
                           QFile::permissions(m_folder.path()) | QFile::ExeGroup | QFile::ExeOther);
@@ -47,7 +47,7 @@ class DemoFolder {
 /// A process that is waited for by what it prints, and ended with its object.
 class DemoProcess : public QProcess {
  public:
-  DemoProcess(const DemoFolder& folder, const QString& program, const QStringList& arguments) {
+  DemoProcess(const ScratchFolder& folder, const QString& program, const QStringList& arguments) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const auto* place : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"}) {
       environment.insert(QLatin1String(place), folder.path(u""_s));
@@ -101,7 +101,7 @@ inline QString builtProgram(const char* name) {
 /// A running demo printer.
 class RunningPrinter : public DemoProcess {
  public:
-  explicit RunningPrinter(const DemoFolder& folder, const QStringList& arguments = {})
+  explicit RunningPrinter(const ScratchFolder& folder, const QStringList& arguments = {})
       : DemoProcess(folder, builtProgram("kesto-demo-printer"),
                     QStringList{u"--dir"_s, folder.path(u"run"_s), u"--folder-port"_s, u"0"_s, u"--json"_s} +
                         arguments),
@@ -128,7 +128,7 @@ class RunningPrinter : public DemoProcess {
   }
 
  private:
-  const DemoFolder& m_folder;
+  const ScratchFolder& m_folder;
   QJsonObject m_places;
 };
 

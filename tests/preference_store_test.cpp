@@ -198,10 +198,10 @@ TEST_F(PreferenceStoreTest, AStoreThatFailsLeavesEverythingAsItWas) {
   panel.state.folderList.emplace();
   setControls(*panel.view, "userName=new userNameButton=1");
   for (const int failing : {1, 2}) {  // the read, then the write
-    for (const auto save : {&PreferenceStore::SaveUserPreference, &PreferenceStore::SaveFolderPreference}) {
+    for (const bool isOfFolders : {false, true}) {
       platform.defaults.accesses = 0;
       platform.defaults.shallFail = [failing](int access) { return access == failing; };
-      EXPECT_FALSE((store.*save)());
+      EXPECT_FALSE(isOfFolders ? store.SaveFolderPreference() : store.SaveUserPreference());
       EXPECT_EQ(platform.defaults.accesses, failing) << "went on after a failure";
     }
   }

@@ -114,7 +114,7 @@ class PrintTest : public LpTest {
       m_printer->waitForLog("job %1 from anna: "_ba.replace("%1", QByteArray::number(job)));
   }
 
-  DemoFolder m_folder;
+  ScratchFolder m_folder;
   QByteArray m_document = "%PDF-1.4\n";
   std::optional<RunningPrinter> m_printer;
 };

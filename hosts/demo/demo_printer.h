@@ -45,7 +45,7 @@ class DemoPrinter {
   FolderService m_folderService;
   RunFolder m_runFolder;
   std::optional<JobStore> m_store;
-  std::optional<Printer> m_printer;
+  std::optional<RawPrinter> m_printer;
   std::optional<ControlServer> m_control;
   std::optional<Scheduler> m_scheduler;
 };

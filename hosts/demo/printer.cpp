@@ -12,16 +12,16 @@ constexpr int mostTicketLines = 200;
 
 }  // namespace
 
-Printer::Printer(JobStore& store) : m_store(store) {
-  connect(&m_server, &QTcpServer::newConnection, this, &Printer::connectionArrived);
+RawPrinter::RawPrinter(JobStore& store) : m_store(store) {
+  connect(&m_server, &QTcpServer::newConnection, this, &RawPrinter::connectionArrived);
 }
 
-Outcome Printer::listen() {
+Outcome RawPrinter::listen() {
   if (m_server.listen(QHostAddress::LocalHost, 0)) return Outcome::done();
   return Outcome::failed(QStringLiteral("the printer has no port: ") + m_server.errorString());
 }
 
-void Printer::connectionArrived() {
+void RawPrinter::connectionArrived() {
   while (QTcpSocket* socket = m_server.nextPendingConnection()) {
     new PrinterConnection(socket, m_store);  // owned by the socket
   }

@@ -17,12 +17,12 @@ namespace kesto {
 
 /// Listens, and hands each whole document to the store. A document that breaks off, or has no lines in front,
 /// is thrown away.
-class Printer : public QObject {
+class RawPrinter : public QObject {
   Q_OBJECT
 
  public:
   /// `store` outlives the printer.
-  explicit Printer(JobStore& store);
+  explicit RawPrinter(JobStore& store);
 
   /// Listens on a free port of 127.0.0.1.
   Outcome listen();
