@@ -237,7 +237,7 @@ QString textOfBytes(const QByteArray& bytes, TextEncoding encoding) {
   const qsizetype nul = bytes.indexOf('\0');
   const QString text = decoded(converterOf(encoding), nul < 0 ? bytes : bytes.first(nul));
   const bool swapped = encoding == TextEncoding::MacJapanese || encoding == TextEncoding::ShiftJis;
-  return swapped ? withoutSwappedControls(text) : text;
+  return swapped && !text.isNull() ? withoutSwappedControls(text) : text;
 }
 
 QString textOfBytesIn(const QByteArray& bytes, const QByteArray& encodingName) {

@@ -100,7 +100,8 @@ TEST(TextEncoding, UndecodableBytesGiveNull) {
   using Bytes = std::pair<TextEncoding, const char*>;
   for (const auto& [encoding, bytes] :
        {Bytes{Utf8, "a\xFF"}, Bytes{Utf8, "\xE6\xBC"}, Bytes{Utf8, "\xED\xA0\x80"},
-        Bytes{MacJapanese, "\x8A"}, Bytes{MacKorean, "a\xC7"}, Bytes{MacSimplifiedChinese, "\xFF\xFF"}}) {
+        Bytes{MacJapanese, "\x8A"}, Bytes{ShiftJis, "a\xFF"}, Bytes{MacKorean, "a\xC7"},
+        Bytes{MacSimplifiedChinese, "\xFF\xFF"}}) {
     EXPECT_TRUE(textOfBytes(bytes, encoding).isNull()) << QByteArray(bytes).toHex().toStdString();
   }
   const QString empty = textOfBytes("", Utf8);
