@@ -19,8 +19,6 @@ constexpr char digest[] = "d3ad484767c21bc2fb561b1ed44522e8";
 class DemoPrinterTest : public testing::Test {
  protected:
   DemoPrinterTest() {
-    for (int i = 0; i < 200'000; ++i)
-      m_document += static_cast<char>(i * i % 251);
     m_folder.write(u"document"_s, m_document);
     m_folder.write(u"pin"_s, "2468\n");
   }
@@ -52,7 +50,7 @@ class DemoPrinterTest : public testing::Test {
   }
 
   ScratchFolder m_folder;
-  QByteArray m_document = "%PDF-1.4\n";
+  const QByteArray m_document = pdfDocument();
 };
 
 TEST_F(DemoPrinterTest, HasAQueueWhosePpdNamesTheBundle) {

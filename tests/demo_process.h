@@ -26,6 +26,14 @@ inline QByteArray bytesOf(const QString& path) {
   return file.readAll();
 }
 
+/// A document that begins as a PDF does and holds every byte.
+inline QByteArray pdfDocument() {
+  QByteArray document = "%PDF-1.4\n";
+  for (unsigned i = 0; i < 200'000; ++i)
+    document += static_cast<char>(i * i % 251);
+  return document;
+}
+
 /// A place of its own for everything that the programs write.
 class ScratchFolder {
  public:

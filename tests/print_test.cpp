@@ -27,8 +27,6 @@ QByteArray digest(const QByteArray& text) {
 class PrintTest : public LpTest {
  protected:
   PrintTest() {
-    for (int i = 0; i < 100'000; ++i)
-      m_document += static_cast<char>(i * i % 251);
     m_folder.write(u"document"_s, m_document);
     m_folder.write(u"second"_s, "another\n");
     m_folder.write(u"folders"_s, "Invoices\nPlans & <Papers>\tlocked\n");
@@ -115,7 +113,7 @@ class PrintTest : public LpTest {
   }
 
   ScratchFolder m_folder;
-  QByteArray m_document = "%PDF-1.4\n";
+  const QByteArray m_document = pdfDocument();
   std::optional<RunningPrinter> m_printer;
 };
 
@@ -175,7 +173,7 @@ TEST_F(PrintTest, DocumentsAndOptionsOfTheJobArrive) {
   recordFilter();
   const struct {
     Text arguments, title, options;
-    const char* documents;  // D for the large one, S for the second, I for standard input
+    const char* documents = "";  // D for the large one, S for the second, I for standard input
     const char* copies = "1";
   } cases[] = {
       {"DOCUMENT", "document", "number-up=1", "D"},
