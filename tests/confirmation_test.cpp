@@ -15,7 +15,8 @@ TEST(ShouldPrint, AsksForTheEntryOfTheChoiceInForce) {
        {Case{"", "", false}, Case{"userNumber=4", "", false}, Case{"loginName=jdoe", "", true},
         Case{"loginName=jdoe", "loginNameButton", true}, Case{"", "loginNameButton", false},
         Case{"loginName=jdoe", "authenticationMatrix=1", false},
-        Case{"userNumber=4", "authenticationMatrix=1", true}}) {
+        Case{"userNumber=4", "authenticationMatrix=1", true},
+        Case{"userNumber=4 loginNameButton=1", "authenticationMatrix=1", true}}) {
     SCOPED_TRACE(controls + u" "_s + operation);
     for (const bool isAsked : {true, false}) {
       TestPlatform platform;

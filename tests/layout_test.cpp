@@ -185,6 +185,10 @@ TEST(InitializeUI, TranslatesTheFirstTwoPages) {
 
 TEST(InitializeUI, AGermanPanel) {
   TestPlatform german(QLocale::German);
+  std::unique_ptr<PanelView> asLoaded;
+  ASSERT_TRUE(loadLayout(layoutForm(*german.bundle(), u"JobControl6"_s), *german.bundle(), &asLoaded));
+  expectControls(*asLoaded,
+                 "suspendBox=Hold_Mode userNameStaticText=User_Name: holdOnlyRadioButton=Nur_speichern");
   TestPanel panel(german);
   expectControls(
       panel.view(),

@@ -87,7 +87,7 @@ TEST_F(PanelProcess, BadOptionsAndBadFilesEndIt) {
   }
 }
 
-TEST_F(PanelProcess, BadLinesAreAnsweredAndTheSessionGoesOn) {
+TEST_F(PanelProcess, BadLinesAreAnsweredAndTheNextIsHeard) {
   const auto process = startPanel();
   EXPECT_EQ(ask(*process, R"({"do":"controls"})"),
             (QJsonObject{{u"controls"_s, QJsonObject()}, {u"firstResponder"_s, QJsonValue::Null}}));
