@@ -45,16 +45,16 @@ QString Bundle::localizedStringForKey(const QString& key) const {
 
 Outcome Bundle::loadPrincipalObject(PrintDialogPlugIn** plugIn) const {
   *plugIn = nullptr;
-  QPluginLoader loader(m_directory + u'/' + QFileInfo(m_directory).completeBaseName() +
-                       QStringLiteral(".so"));
+  const QString code = m_directory + u'/' + QFileInfo(m_directory).completeBaseName() + QStringLiteral(".so");
+  QPluginLoader loader(code);
   auto* principal = qobject_cast<PrintDialogPlugIn*>(loader.instance());
   if (principal == nullptr) {
-    return Outcome::failed(loader.isLoaded()
-                               ? QStringLiteral("%1 holds no print-dialog extension").arg(loader.fileName())
-                               : loader.errorString());
+    return Outcome::failed(
+        code + QStringLiteral(": ") +
+        (loader.isLoaded() ? QStringLiteral("holds no print-dialog extension") : loader.errorString()));
   }
   if (!principal->initWithBundle(*this)) {
-    return Outcome::failed(QStringLiteral("%1 refused its bundle").arg(loader.fileName()));
+    return Outcome::failed(code + QStringLiteral(": refused its bundle"));
   }
   *plugIn = principal;
   return Outcome::done();
