@@ -19,7 +19,7 @@ constexpr int quickFileMode = 1;
 constexpr int mainFolderMode = 2;
 constexpr int customFolderMode = 3;
 
-// The bytes of a name's form; none when it is longer than a stored form may be.
+// A name's bytes with blanks for control characters and double quotes.
 QByteArray scrubbed(QByteArray bytes) {
   ReplaceSpaceCode({reinterpret_cast<std::uint8_t*>(bytes.data()), static_cast<std::size_t>(bytes.size())});
   return bytes;

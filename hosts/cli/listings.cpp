@@ -14,8 +14,8 @@ namespace kesto {
 namespace {
 
 Outcome printArray(const QJsonArray& array) {
-  std::cout << QJsonDocument(array).toJson().constData() << std::flush;
-  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+  std::cout << QJsonDocument(array).toJson().constData();
+  return printed();
 }
 
 QJsonObject jsonOf(const QueueSummary& queue) {
@@ -62,6 +62,11 @@ Outcome fetchFolders(PanelView& view, const QString& address) {
 
 }  // namespace
 
+Outcome printed() {
+  std::cout.flush();
+  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+}
+
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
   std::vector<QueueSummary> queues;
   if (Outcome listed = server.listQueues(&queues); !listed) return listed;
@@ -76,8 +81,7 @@ Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
   }
   for (const QueueSummary& queue : queues)
     std::cout << lineOf(queue);
-  std::cout.flush();
-  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+  return printed();
 }
 
 Outcome printFolders(PrintDialogPanel& panel, const QString& address, bool json) {
@@ -90,8 +94,7 @@ Outcome printFolders(PrintDialogPanel& panel, const QString& address, bool json)
     std::cout << folder.value(QStringLiteral("name")).toString().toStdString()
               << (isLocked ? "\tlocked\n" : "\n");
   }
-  std::cout.flush();
-  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+  return printed();
 }
 
 }  // namespace kesto

@@ -8,6 +8,9 @@
 
 namespace kesto {
 
+/// Whether standard output has taken all that was printed.
+Outcome printed();
+
 /// Prints the server's queues, a line each or as one JSON array; with `jobHandlingOnly` those alone whose PPD
 /// offers the panel, for which each queue's PPD is asked for.
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json);

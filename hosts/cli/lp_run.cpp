@@ -69,12 +69,6 @@ Outcome findQueue(const Options& options, Queue* queue) {
   return fetchPpdFile(queue->server->http(), queue->id, &queue->ppd);
 }
 
-// Whether standard output has taken all that was printed.
-Outcome printed() {
-  std::cout.flush();
-  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
-}
-
 Outcome print(const QMap<QString, QString>& pairs, const char* separator, bool json) {
   if (json) {
     QJsonObject object;
