@@ -172,6 +172,7 @@ Outcome loadLayout(const QByteArray& ui, const Bundle& bundle, std::unique_ptr<P
   if (form.tagName() != u"ui" || root.isNull()) return Outcome::failed(QStringLiteral("not a form"));
   auto loaded = std::make_unique<PanelView>();
   if (Outcome outcome = FormReader(*loaded, bundle).read(root); !outcome) return outcome;
+  loaded->setForm(ui);
   *view = std::move(loaded);
   return Outcome::done();
 }

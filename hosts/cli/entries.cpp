@@ -1,5 +1,6 @@
 #include "hosts/cli/entries.h"
 
+#include "hosts/cups/panel_host.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/pop_up.h"

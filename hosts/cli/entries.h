@@ -52,9 +52,6 @@ inline constexpr std::array holdChoices{"only", "after", "sample"};
 /// Stands for retention off where a row of the hold choice could stand.
 inline constexpr int noHold = -1;
 
-/// The item of the folder pop-up where the printer's own folders begin.
-inline constexpr int firstStoredFolder = 3;
-
 /// What is asked of the panel. None leaves a control as it is.
 struct Entries {
   std::optional<int> hold;  ///< A position in `holdChoices`, or `noHold`.

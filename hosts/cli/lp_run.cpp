@@ -5,12 +5,13 @@
 #include <QtCore/QJsonObject>
 #include <iostream>
 
-#include "hosts/cli/gated_platform.h"
 #include "hosts/cli/listings.h"
-#include "hosts/cli/preset_store.h"
 #include "hosts/cli/secret_input.h"
 #include "hosts/cli/submission.h"
+#include "hosts/cups/gated_platform.h"
 #include "hosts/cups/panel_host.h"
+#include "hosts/cups/preset_store.h"
+#include "hosts/cups/queue.h"
 #include "panel/model/panel_view.h"
 #include "platform/alert_presenter.h"
 #include "platform/json_user_defaults.h"
@@ -34,13 +35,9 @@ class StandardErrorAlerts : public AlertPresenter {
   bool wasShown = false;
 };
 
-// The queue that the job is for: its description, and the server that has it unless a PPD file stands for it.
-struct Queue {
-  QString id;
-  QString deviceUri;
-  PpdFile ppd;
+// The queue that the job is for, and the server that has it unless a PPD file stands for it.
+struct JobQueue : Queue {
   std::unique_ptr<PrintServer> server;
-  Destination destination;
 };
 
 Outcome connectToServer(const Options& options, std::unique_ptr<PrintServer>* server) {
@@ -53,20 +50,14 @@ QString queueOfFiles(const Options& options) {
   return options.queue.value_or(QFileInfo(options.ppd.value_or(QString())).completeBaseName());
 }
 
-Outcome findQueue(const Options& options, Queue* queue) {
+Outcome findQueue(const Options& options, JobQueue* queue) {
   if (options.ppd) {
     queue->id = queueOfFiles(options);
     queue->deviceUri = *options.deviceUri;
     return openPpdFile(*options.ppd, &queue->ppd);
   }
   if (Outcome connected = connectToServer(options, &queue->server); !connected) return connected;
-  if (Outcome found = queue->server->findQueue(options.queue.value_or(QString()), &queue->destination);
-      !found) {
-    return found;
-  }
-  queue->id = QString::fromUtf8(queue->destination->name);
-  queue->deviceUri = optionOf(*queue->destination, "device-uri");
-  return fetchPpdFile(queue->server->http(), queue->id, &queue->ppd);
+  return openQueue(*queue->server, options.queue.value_or(QString()), queue);
 }
 
 Outcome print(const QMap<QString, QString>& pairs, const char* separator, bool json) {
@@ -111,7 +102,7 @@ Outcome readSecrets(const Options& options, Entries* entries) {
 // One job on one queue that offers the panel.
 class Job {
  public:
-  Job(const Options& options, GatedPlatform& platform, Queue& queue)
+  Job(const Options& options, GatedPlatform& platform, JobQueue& queue)
       : m_options(options),
         m_platform(platform),
         m_queue(queue),
@@ -132,7 +123,7 @@ class Job {
 
   const Options& m_options;
   GatedPlatform& m_platform;
-  Queue& m_queue;
+  JobQueue& m_queue;
   PanelHost m_host;
   PresetStore m_presets;
 };
@@ -153,14 +144,7 @@ Outcome Job::restore() {
   if (m_options.preset) {
     if (Outcome loaded = m_presets.load(*m_options.preset, model(), &preset); !loaded) return loaded;
   }
-  const QMap<QString, QString>& values = preset.settings;
-  for (auto it = values.begin(); it != values.end(); ++it)
-    m_host.settings->setValue(it.key(), it.value());
-  m_host.panel()->restoreValuesAndReturnError(nullptr);
-  // The panel has taken the preset over and writes its own. What it would leave untouched, a code that the
-  // job no longer has or the end of a longer name, must not travel with the job.
-  for (auto it = values.begin(); it != values.end(); ++it)
-    m_host.settings->setValue(it.key(), std::nullopt);
+  restorePanel(m_host, preset);
   return Outcome::done();
 }
 
@@ -198,7 +182,7 @@ Outcome Job::finish() {
   return print(m_host.settings->all(), "=", m_options.json);
 }
 
-ExitCode runJob(const Options& options, const Entries& entries, Queue& queue) {
+ExitCode runJob(const Options& options, const Entries& entries, JobQueue& queue) {
   StandardErrorAlerts alerts;
   std::shared_ptr<const Bundle> bundle;
   PrintDialogPlugIn* plugIn = nullptr;
@@ -216,7 +200,7 @@ ExitCode runJob(const Options& options, const Entries& entries, Queue& queue) {
 }
 
 // A queue without the panel prints as usual.
-ExitCode runPlainJob(const Options& options, Queue& queue) {
+ExitCode runPlainJob(const Options& options, JobQueue& queue) {
   if (options.task == Task::ListFolders || options.wantsPanel()) {
     return ended(Outcome::failed(QStringLiteral("the queue %1 does not offer Job Handling").arg(queue.id)));
   }
@@ -241,7 +225,7 @@ ExitCode runQueueList(const Options& options) {
 ExitCode run(const Options& options) {
   if (options.task == Task::ListPresets || options.task == Task::DeletePreset) return runPresets(options);
   if (options.task == Task::ListQueues) return runQueueList(options);
-  Queue queue;
+  JobQueue queue;
   if (Outcome found = findQueue(options, &queue); !found) return ended(found);
   if (!queue.ppd || !offersJobHandling(*queue.ppd)) return runPlainJob(options, queue);
   Entries entries = options.entries;

@@ -62,6 +62,7 @@ Outcome submit(PrintServer& server, cups_dest_t& destination, const Options& opt
     const bool isWatched = ::isatty(STDERR_FILENO) != 0 && !options.silent;
     const auto progress = [&](int document, qint64 sent, qint64 total) {
       if (isWatched) line.show(document, sent, total);
+      return true;
     };
     if (Outcome sent = sendJob(server, destination, job, progress, &id); !sent) return sent;
   }

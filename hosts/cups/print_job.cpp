@@ -97,7 +97,7 @@ class OpenJob {
   }
 
   Outcome send(Document& document, const QByteArray& format, const Options& options, bool isLast,
-               const std::function<void(qint64)>& progress) {
+               const std::function<bool(qint64)>& progress) {
     const QString attempt = QStringLiteral("%1 is not taken").arg(document.name);
     if (cupsStartDestDocument(m_server.http(), &m_destination, m_info, m_id,
                               nameOf(document.name).constData(), format.constData(), options.count(),
@@ -113,7 +113,7 @@ class OpenJob {
         return lastCupsError(attempt);
       }
       sent += count;
-      progress(sent);
+      if (!progress(sent)) return Outcome::failed(QStringLiteral("the job was stopped"));
     }
     if (count < 0)
       return Outcome::failed(document.name + QStringLiteral(": ") + document.file->errorString());
@@ -180,7 +180,7 @@ Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& j
   if (Outcome created = open.create(job.title, options); !created) return created;
   for (std::size_t i = 0; i < documents.size(); ++i) {
     Document& document = documents[i];
-    const auto report = [&](qint64 sent) { progress(static_cast<int>(i) + 1, sent, document.size); };
+    const auto report = [&](qint64 sent) { return progress(static_cast<int>(i) + 1, sent, document.size); };
     Outcome sent = open.send(document, format.toUtf8(), options, i + 1 == documents.size(), report);
     if (!sent) return sent;
   }

@@ -20,8 +20,8 @@ struct PrintJob {
 QMap<QString, QString> parseJobOptions(const QString& text);
 
 /// Told of each part of a document that has gone out: its number from 1 on, the bytes so far and in all (-1
-/// when not known).
-using UploadProgress = std::function<void(int document, qint64 sent, qint64 total)>;
+/// when not known). Answers whether to go on.
+using UploadProgress = std::function<bool(int document, qint64 sent, qint64 total)>;
 
 /// Opens every file, creates the job, sends its documents; `*jobId` is its number. On failure nothing of the
 /// job stays with a server that still answers, and the outcome carries the reason.

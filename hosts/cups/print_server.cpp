@@ -7,11 +7,6 @@
 namespace kesto {
 namespace {
 
-struct FreeIpp {
-  void operator()(ipp_t* ipp) const { ippDelete(ipp); }
-};
-using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
-
 // libcups asks whether to go on waiting: never.
 int giveUp(http_t* /*http*/, void* /*data*/) {
   return 0;
@@ -52,6 +47,13 @@ void addAttribute(ipp_attribute_t* attribute, QueueSummary* queue) {
   if (name == "printer-is-accepting-jobs") queue->isAccepting = ippGetBoolean(attribute, 0) != 0;
 }
 
+void askForSummary(ipp_t* request) {
+  static const char* const shown[] = {"printer-name", "printer-info", "device-uri", "printer-state",
+                                      "printer-is-accepting-jobs"};
+  ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", std::size(shown),
+                nullptr, shown);
+}
+
 // Each printer of a reply is a run of attributes in the printer group.
 std::vector<QueueSummary> queuesOf(ipp_t* reply) {
   std::vector<QueueSummary> queues;
@@ -69,6 +71,10 @@ std::vector<QueueSummary> queuesOf(ipp_t* reply) {
 
 void CloseHttp::operator()(http_t* http) const {
   httpClose(http);
+}
+
+void FreeIpp::operator()(ipp_t* ipp) const {
+  ippDelete(ipp);
 }
 
 void FreeDest::operator()(cups_dest_t* dest) const {
@@ -117,13 +123,13 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
 Outcome PrintServer::probe() {
   QByteArray reply;
   const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
-  Outcome answered = ask(request.get(), &reply);
+  Outcome answered = exchange(request.get(), &reply);
   // One that wants to know who asks has answered, too.
   return httpGetStatus(http()) == HTTP_STATUS_ERROR ? answered : Outcome::done();
 }
 
 // The reply is read in blocks: libcups's own reading of it takes a system call for nearly every value.
-Outcome PrintServer::ask(ipp_t* request, QByteArray* reply) {
+Outcome PrintServer::exchange(ipp_t* request, QByteArray* reply) {
   if (cupsSendRequest(http(), request, "/", ippLength(request)) != HTTP_STATUS_CONTINUE) {
     return lastCupsError(QStringLiteral("the print server does not take the request"));
   }
@@ -146,27 +152,43 @@ Outcome PrintServer::ask(ipp_t* request, QByteArray* reply) {
                     : Outcome::failed(QStringLiteral("the print server's answer breaks off"));
 }
 
-Outcome PrintServer::listQueues(std::vector<QueueSummary>* queues) {
-  queues->clear();
-  static const char* const shown[] = {"printer-name", "printer-info", "device-uri", "printer-state",
-                                      "printer-is-accepting-jobs"};
-  const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
-  ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", std::size(shown),
-                nullptr, shown);
+Outcome PrintServer::ask(ipp_t* request, Ipp* reply, ipp_status_t allowed) {
   QByteArray bytes;
-  if (Outcome asked = ask(request.get(), &bytes); !asked) return asked;
-  const Ipp reply(ippNew());
+  if (Outcome exchanged = exchange(request, &bytes); !exchanged) return exchanged;
+  reply->reset(ippNew());
   Reader reader{bytes};
-  if (ippReadIO(&reader, readFromMemory, 1, nullptr, reply.get()) != IPP_STATE_DATA) {
+  if (ippReadIO(&reader, readFromMemory, 1, nullptr, reply->get()) != IPP_STATE_DATA) {
     return Outcome::failed(QStringLiteral("the print server's answer is not readable"));
   }
-  const ipp_status_t status = ippGetStatusCode(reply.get());
+  const ipp_status_t status = ippGetStatusCode(reply->get());
+  if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == allowed) return Outcome::done();
+  return Outcome::failed(QString::fromUtf8(ippErrorString(status)));
+}
+
+Outcome PrintServer::listQueues(std::vector<QueueSummary>* queues) {
+  queues->clear();
+  const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+  askForSummary(request.get());
+  Ipp reply;
   // A server without queues says that it found nothing.
-  if (status > IPP_STATUS_OK_CONFLICTING && status != IPP_STATUS_ERROR_NOT_FOUND) {
-    return Outcome::failed(QString::fromUtf8(ippErrorString(status)));
-  }
+  if (Outcome asked = ask(request.get(), &reply, IPP_STATUS_ERROR_NOT_FOUND); !asked) return asked;
   *queues = queuesOf(reply.get());
   std::ranges::sort(*queues, {}, &QueueSummary::name);
+  return Outcome::done();
+}
+
+Outcome PrintServer::summarize(const QString& name, QueueSummary* queue) {
+  const Ipp request(ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES));
+  char uri[HTTP_MAX_URI];
+  httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0, "/printers/%s",
+                   name.toUtf8().constData());
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+  askForSummary(request.get());
+  Ipp reply;
+  if (Outcome asked = ask(request.get(), &reply); !asked) return asked;
+  const std::vector<QueueSummary> found = queuesOf(reply.get());
+  if (found.empty()) return Outcome::failed(QStringLiteral("the print server tells nothing of ") + name);
+  *queue = found.front();
   return Outcome::done();
 }
 

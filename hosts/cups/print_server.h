@@ -21,6 +21,13 @@ struct FreeDest {
   void operator()(cups_dest_t* dest) const;
 };
 
+struct FreeIpp {
+  void operator()(ipp_t* ipp) const;
+};
+
+/// A request or a reply.
+using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
+
 /// A queue with its options, as libcups gives it.
 using Destination = std::unique_ptr<cups_dest_t, FreeDest>;
 
@@ -46,6 +53,11 @@ class PrintServer {
   Outcome findQueue(const QString& name, Destination* destination);
   /// All queues by name, by one request for what a summary shows.
   Outcome listQueues(std::vector<QueueSummary>* queues);
+  /// What the list shows of one queue.
+  Outcome summarize(const QString& name, QueueSummary* queue);
+  /// Sends a request and reads its reply in blocks. Fails on a reply that tells of an error, unless that is
+  /// `allowed`.
+  Outcome ask(ipp_t* request, Ipp* reply, ipp_status_t allowed = IPP_STATUS_OK);
 
   /// For libcups's calls.
   http_t* http() const { return m_http.get(); }
@@ -54,7 +66,7 @@ class PrintServer {
   explicit PrintServer(http_t* http) : m_http(http) {}
   // Whether the server answers at all.
   Outcome probe();
-  Outcome ask(ipp_t* request, QByteArray* reply);
+  Outcome exchange(ipp_t* request, QByteArray* reply);
 
   std::unique_ptr<http_t, CloseHttp> m_http;
 };

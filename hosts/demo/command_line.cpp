@@ -77,6 +77,8 @@ void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
                  "let the folder service misbehave; \"list\" shows the ways")
       ->type_name("NAME")
       ->check(faultOfMisbehaviour);
+  app.add_option("--queues", command.setup.queues, "have this many queues, to try long lists")
+      ->check(CLI::Range(1, 9999));
   app.add_flag("--folders-only", command.setup.foldersOnly, "run nothing but the folder service");
 }
 

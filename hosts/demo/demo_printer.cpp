@@ -42,7 +42,7 @@ Outcome DemoPrinter::startPrinting() {
     logLine(QStringLiteral("the scheduler has ended"));
     QCoreApplication::exit(1);
   });
-  return m_scheduler->start(m_printer->port());
+  return m_scheduler->start(m_printer->port(), m_setup.queues);
 }
 
 QJsonObject DemoPrinter::whereabouts() const {

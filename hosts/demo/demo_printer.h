@@ -20,6 +20,7 @@ struct DemoSetup {
   DemoFolders folders = sampleFolders();
   Misbehaviour behaviour;
   std::optional<quint16> folderPort;  ///< As in `FolderService::listen`.
+  int queues = 1;                     ///< All of them the same printer's.
   bool foldersOnly = false;           ///< Neither scheduler nor printer, and no run folder.
 };
 

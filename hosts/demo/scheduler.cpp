@@ -105,6 +105,18 @@ OpPolicy demo
 </DefaultPrinter>
 )";
 
+// Queues beside the first are like it, but for their number.
+QByteArray moreQueues(int queues) {
+  QByteArray text;
+  for (int number = 2; number <= queues; ++number) {
+    QByteArray queue = QByteArray(queueConfiguration).replace("DefaultPrinter", "Printer");
+    queue.remove(0, queue.indexOf('\n') + 1);
+    queue.replace("@QUEUE@", demoQueueNumbered(number).toLatin1());
+    text += queue.replace("(demo)", "(demo " + QByteArray::number(number) + ')');
+  }
+  return text;
+}
+
 Outcome copyFile(const QString& from, const QString& to, QFile::Permissions permissions) {
   QFile source(from);
   if (!source.copy(to))
@@ -147,6 +159,11 @@ std::optional<Scheduler::Identity> Scheduler::Identity::ofProcess() {
   return Identity{getuid(), getgid(), own == nullptr ? "root" : own->gr_name};
 }
 
+QString demoQueueNumbered(int number) {
+  const QString name = QLatin1String(demoQueue);
+  return number == 1 ? name : QStringLiteral("%1_%2").arg(name).arg(number, 4, 10, QLatin1Char('0'));
+}
+
 Scheduler::Scheduler(const RunFolder& folder) : m_folder(folder) {
   m_server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   m_server.setChildProcessModifier(followParent);
@@ -169,7 +186,7 @@ QString Scheduler::address() const {
   return QStringLiteral("127.0.0.1:%1").arg(m_port);
 }
 
-Outcome Scheduler::start(quint16 printerPort) {
+Outcome Scheduler::start(quint16 printerPort, int queues) {
   const std::optional<Identity> identity = Identity::ofProcess();
   if (!identity) return Outcome::failed(QStringLiteral("there is no account \"lp\" to run jobs as"));
   // The kernel gives a port that is bound to nobody else, and lets cupsd share it as long as nobody listens.
@@ -179,8 +196,8 @@ Outcome Scheduler::start(quint16 printerPort) {
   }
   m_port = m_reservation.localPort();
   if (Outcome made = makeFolders(); !made) return made;
-  if (Outcome copied = copyPrograms(); !copied) return copied;
-  if (Outcome written = writeConfiguration(*identity, printerPort); !written) return written;
+  if (Outcome copied = copyPrograms(queues); !copied) return copied;
+  if (Outcome written = writeConfiguration(*identity, printerPort, queues); !written) return written;
   if (getuid() == 0) {
     if (Outcome admitted = m_folder.admitGroup(identity->group); !admitted) return admitted;
   }
@@ -200,7 +217,7 @@ Outcome Scheduler::makeFolders() const {
 }
 
 // Where the system confines its own cupsd by path, that one may not work in this folder: a copy may.
-Outcome Scheduler::copyPrograms() const {
+Outcome Scheduler::copyPrograms(int queues) const {
   constexpr QFile::Permissions program = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                          QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
                                          QFile::ExeOther;
@@ -219,11 +236,15 @@ Outcome Scheduler::copyPrograms() const {
     const QString from = besidePrograms(QStringLiteral("libexec/kesto/")) + QLatin1String(name);
     if (Outcome copied = copyFile(from, path("bin/") + QLatin1String(name), program); !copied) return copied;
   }
-  return copyFile(besidePrograms(QStringLiteral("share/kesto/kesto-vq250n.ppd")),
-                  path("ppd/") + QLatin1String(demoQueue) + QStringLiteral(".ppd"), data);
+  const QString description = besidePrograms(QStringLiteral("share/kesto/kesto-vq250n.ppd"));
+  for (int number = 1; number <= queues; ++number) {
+    const QString copy = path("ppd/") + demoQueueNumbered(number) + QStringLiteral(".ppd");
+    if (Outcome copied = copyFile(description, copy, data); !copied) return copied;
+  }
+  return Outcome::done();
 }
 
-Outcome Scheduler::writeConfiguration(const Identity& identity, quint16 printerPort) const {
+Outcome Scheduler::writeConfiguration(const Identity& identity, quint16 printerPort, int queues) const {
   const auto write = [&](const char* name, QByteArray text) {
     text.replace("@PORT@", QByteArray::number(m_port));
     text.replace("@PRINTER@", QByteArray::number(printerPort));
@@ -236,7 +257,7 @@ Outcome Scheduler::writeConfiguration(const Identity& identity, quint16 printerP
   };
   if (Outcome written = write("cupsd.conf", serverConfiguration); !written) return written;
   if (Outcome written = write("cups-files.conf", fileConfiguration); !written) return written;
-  return write("printers.conf", queueConfiguration);
+  return write("printers.conf", queueConfiguration + moreQueues(queues));
 }
 
 Outcome Scheduler::startServer() {

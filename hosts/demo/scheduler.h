@@ -10,8 +10,10 @@
 
 namespace kesto {
 
-/// The name of the scheduler's one queue.
+/// The name of the scheduler's first queue, its default one.
 inline constexpr char demoQueue[] = "Office_MFP";
+/// The names of its queues, counted from 1: "Office_MFP", "Office_MFP_0002" and so on.
+QString demoQueueNumbered(int number);
 
 /// Runs cupsd in a run folder, for root as root with its jobs as "lp", else as the user alone. It ends with
 /// its object, or with the process, however that ends.
@@ -23,9 +25,9 @@ class Scheduler : public QObject {
   explicit Scheduler(const RunFolder& folder);
   ~Scheduler() override;
 
-  /// Sets everything up in the folder and returns when cupsd answers. The queue prints to `printerPort` of
-  /// loopback.
-  Outcome start(quint16 printerPort);
+  /// Sets everything up in the folder and returns when cupsd answers. That many queues print to
+  /// `printerPort` of loopback.
+  Outcome start(quint16 printerPort, int queues);
   /// "127.0.0.1:PORT".
   QString address() const;
 
@@ -37,8 +39,8 @@ class Scheduler : public QObject {
   struct Identity;
 
   Outcome makeFolders() const;
-  Outcome copyPrograms() const;
-  Outcome writeConfiguration(const Identity& identity, quint16 printerPort) const;
+  Outcome copyPrograms(int queues) const;
+  Outcome writeConfiguration(const Identity& identity, quint16 printerPort, int queues) const;
   Outcome startServer();
   bool waitUntilItAnswers();
   QString lastFault() const;

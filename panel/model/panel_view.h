@@ -1,6 +1,7 @@
 // The root of a panel's controls, and the keyboard focus among them.
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QObject>
 
@@ -24,6 +25,11 @@ class PanelView : public QObject {
     return findChild<T*>(name, Qt::FindDirectChildrenOnly);
   }
 
+  /// The form that the controls were made from, a Qt Designer form in UTF-8: a host with a window shows it, each
+  /// widget bound to the control of its name.
+  const QByteArray& form() const { return m_form; }
+  void setForm(const QByteArray& form) { m_form = form; }
+
   /// The field that has keyboard focus, null for none.
   TextField* firstResponder() const { return m_firstResponder; }
   /// Gives keyboard focus to a field, or takes it from whichever has it (null).
@@ -33,6 +39,7 @@ class PanelView : public QObject {
   void firstResponderChanged();
 
  private:
+  QByteArray m_form;
   TextField* m_firstResponder = nullptr;
 };
 

@@ -12,6 +12,7 @@
 
 namespace kesto {
 
+class PanelHost;
 class PanelView;
 
 /// The settings of one preset, and the printer model that they are for.
@@ -23,6 +24,9 @@ struct Preset {
 /// Makes a preset of a job's print settings and of the panel that wrote them. What belongs to this job alone
 /// stays out, and the pass codes too unless `withCodes`. Fails when the folder's name cannot be kept.
 Outcome makePreset(const PrintSettings& settings, const PanelView& view, bool withCodes, Preset* preset);
+
+/// Restores an opened panel from its job's print settings, with those of a preset among them.
+void restorePanel(PanelHost& host, const Preset& preset);
 
 /// The presets of one queue, in the domain "kesto.presets." + queue: under "Presets", by name, an object with
 /// the texts "model" and "settings" (an object of texts). What else the domain holds is kept.

@@ -1,10 +1,10 @@
-#include "hosts/cli/preset_store.h"
+#include "hosts/cups/preset_store.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
 
-#include "hosts/cli/entries.h"
+#include "hosts/cups/panel_host.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/pop_up.h"
 #include "panel/model/radio_matrix.h"
@@ -90,6 +90,17 @@ Outcome makePreset(const PrintSettings& settings, const PanelView& view, bool wi
     preset->settings.insert(it.key(), it.value());
   }
   return addFolder(view, &preset->settings);
+}
+
+void restorePanel(PanelHost& host, const Preset& preset) {
+  const QMap<QString, QString>& values = preset.settings;
+  for (auto it = values.begin(); it != values.end(); ++it)
+    host.settings->setValue(it.key(), it.value());
+  host.panel()->restoreValuesAndReturnError(nullptr);
+  // The panel has taken the preset over and writes its own. What it would leave untouched, a code that the
+  // job no longer has or the end of a longer name, must not travel with the job.
+  for (auto it = values.begin(); it != values.end(); ++it)
+    host.settings->setValue(it.key(), std::nullopt);
 }
 
 PresetStore::PresetStore(UserDefaults& defaults, const QString& queue)

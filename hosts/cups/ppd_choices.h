@@ -1,0 +1,36 @@
+// The options of a PPD that a print dialog offers by itself.
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <vector>
+
+#include "hosts/cups/ppd_file.h"
+
+namespace kesto {
+
+/// One value of an option.
+struct PpdChoice {
+  QString keyword;
+  QString text;  ///< As the PPD names it for people.
+};
+
+/// One option with more than one value.
+struct PpdOption {
+  QString keyword;
+  QString text;  ///< As the PPD names it for people.
+  std::vector<PpdChoice> choices;
+  int marked = -1;  ///< The value in force.
+};
+
+/// Marks the PPD's defaults, and over them the options that the user keeps for the queue.
+void markDefaults(ppd_file_t& ppd, const cups_dest_t* destination);
+
+/// The usual few options that the PPD has, in the order in which a dialog shows them; without those that a
+/// panel handles.
+std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledByPanel);
+
+/// Marks one value. Answers the texts of the options that do not go together then; empty for none.
+QStringList markChoice(ppd_file_t& ppd, const QString& option, const QString& choice);
+
+}  // namespace kesto

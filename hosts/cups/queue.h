@@ -1,0 +1,20 @@
+// One queue, opened for a job.
+#pragma once
+
+#include "hosts/cups/ppd_file.h"
+#include "hosts/cups/print_server.h"
+
+namespace kesto {
+
+/// All that a host needs of a queue to print on it.
+struct Queue {
+  QString id;         ///< The queue's name.
+  QString deviceUri;  ///< Where it sends its jobs; null when the server does not tell.
+  PpdFile ppd;        ///< Null for a queue without a PPD.
+  Destination destination;
+};
+
+/// Fetches the queue `name`, or the user's default queue when it is null, and its PPD.
+Outcome openQueue(PrintServer& server, const QString& name, Queue* queue);
+
+}  // namespace kesto

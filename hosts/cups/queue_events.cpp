@@ -1,0 +1,63 @@
+#include "hosts/cups/queue_events.h"
+
+#include <chrono>
+
+namespace kesto {
+namespace {
+
+// Long enough for a dialog that is asked for news every few seconds, short for one that was killed.
+constexpr std::chrono::seconds lease = std::chrono::minutes(10);
+
+Ipp requestOf(ipp_op_t operation) {
+  Ipp request(ippNewRequest(operation));
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+  return request;
+}
+
+}  // namespace
+
+Outcome QueueEvents::subscribe() {
+  static const char* const events[] = {"printer-state-changed", "printer-added", "printer-deleted",
+                                       "printer-modified"};
+  const Ipp request = requestOf(IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS);
+  ippAddStrings(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_KEYWORD, "notify-events", std::size(events),
+                nullptr, events);
+  ippAddString(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_KEYWORD, "notify-pull-method", nullptr, "ippget");
+  ippAddInteger(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_INTEGER, "notify-lease-duration",
+                static_cast<int>(lease.count()));
+  Ipp reply;
+  if (Outcome asked = m_server.ask(request.get(), &reply); !asked) return asked;
+  ipp_attribute_t* id = ippFindAttribute(reply.get(), "notify-subscription-id", IPP_TAG_INTEGER);
+  if (id == nullptr) return Outcome::failed(QStringLiteral("the print server gives no subscription"));
+  m_id = ippGetInteger(id, 0);
+  m_sequence = 1;
+  return Outcome::done();
+}
+
+Outcome QueueEvents::changedQueues(QSet<QString>* queues) {
+  const Ipp request = requestOf(IPP_OP_GET_NOTIFICATIONS);
+  ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-subscription-ids", m_id);
+  ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-sequence-numbers", m_sequence);
+  Ipp reply;
+  if (Outcome asked = m_server.ask(request.get(), &reply); !asked) return asked;
+  for (ipp_attribute_t* each = ippFirstAttribute(reply.get()); each != nullptr;
+       each = ippNextAttribute(reply.get())) {
+    const QByteArrayView name(ippGetName(each));
+    if (name == "notify-sequence-number") m_sequence = qMax(m_sequence, ippGetInteger(each, 0) + 1);
+    if (name == "printer-name") queues->insert(QString::fromUtf8(ippGetString(each, 0, nullptr)));
+  }
+  return Outcome::done();
+}
+
+void QueueEvents::cancel() {
+  if (m_id == 0) return;
+  const Ipp request = requestOf(IPP_OP_CANCEL_SUBSCRIPTION);
+  ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-subscription-id", m_id);
+  Ipp reply;
+  // It would end by itself as well.
+  (void)m_server.ask(request.get(), &reply);
+  m_id = 0;
+}
+
+}  // namespace kesto

@@ -1,0 +1,70 @@
+// The pane of what every queue offers: copies, pages, and the usual few options of its PPD.
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtWidgets/QWidget>
+
+#include "hosts/cups/ppd_choices.h"
+
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+class QSpinBox;
+
+namespace kesto {
+
+/// Copies and pages stay when the queue changes; the options of a PPD come and go with it.
+class GeneralPane : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit GeneralPane(QWidget* parent);
+
+  void setCopies(int copies);
+  /// Asks for these pages; for all of them when the text is empty.
+  void setPages(const QString& pages);
+  /// Offers the options of a queue; the PPD must outlive them. Null takes them away.
+  void setPpd(ppd_file_t* ppd, const QStringList& handledByPanel);
+  /// Chooses a value of an offered option, if there is such a one.
+  void choose(const QString& option, const QString& choice);
+
+  /// The job options that differ from what the queue does by itself.
+  QMap<QString, QString> jobOptions() const;
+  /// Why the job cannot be printed like this; null when it can.
+  QString fault() const;
+  /// Puts the focus where the fault is.
+  void showFault();
+
+ Q_SIGNALS:
+  void changed();
+  /// The user has chosen another value of an option of the PPD.
+  void optionChosen(const QString& option, const QString& choice);
+
+ private:
+  struct Row {
+    QString keyword;
+    QComboBox* combo;
+    int initial;
+  };
+
+  QWidget* makePages();
+  void addOption(const PpdOption& option);
+  void takeChoice(const Row& row);
+  void update();
+
+  QSpinBox* m_copies;
+  QCheckBox* m_collate;
+  QRadioButton* m_allPages;
+  QRadioButton* m_somePages;
+  QLineEdit* m_pages;
+  QLabel* m_note;
+  QFormLayout* m_form;
+  ppd_file_t* m_ppd = nullptr;
+  std::vector<Row> m_rows;
+  QString m_conflict;
+};
+
+}  // namespace kesto

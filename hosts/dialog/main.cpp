@@ -1,0 +1,89 @@
+// kesto-print: the print dialog.
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QtGui/QIcon>
+#include <iostream>
+
+#include "hosts/dialog/options.h"
+#include "hosts/dialog/preview.h"
+#include "hosts/dialog/print_dialog.h"
+#include "hosts/dialog/start_times.h"
+#include "hosts/dialog/translations.h"
+
+namespace kesto {
+namespace {
+
+enum ExitCode { ExitDone = 0, ExitFailed = 1 };
+
+// Whether somebody hands a document over: a pipe or a file, not a terminal or nothing.
+bool hasStandardInput() {
+  struct stat status {};
+  return ::fstat(STDIN_FILENO, &status) == 0 && (S_ISFIFO(status.st_mode) || S_ISREG(status.st_mode));
+}
+
+void openDocument(const PrintOptions& options, Document& document) {
+  const bool isAsked = options.files == QStringList{QStringLiteral("-")};
+  const bool isOnlyLooking = options.timings || !options.screenshot.isNull();
+  if (isAsked || (options.files.isEmpty() && !isOnlyLooking && hasStandardInput())) {
+    document.readDescriptor(::dup(STDIN_FILENO), QStringLiteral("(stdin)"));
+  } else {
+    document.openFiles(options.files);
+  }
+}
+
+void timeStart(TimedApplication& application, PrintDialog& dialog) {
+  application.watch(dialog);
+  QObject::connect(&application, &TimedApplication::started, &dialog, [&dialog](const QString& line) {
+    std::cout << line.toStdString() << std::endl;
+    dialog.done(QDialog::Accepted);
+  });
+  QObject::connect(&application, &TimedApplication::failed, &dialog, [&dialog] {
+    std::cerr << "kesto-print: no queue can be had\n";
+    dialog.done(QDialog::Rejected);
+  });
+}
+
+void takeScreenshot(PrintDialog& dialog, const QString& path) {
+  const auto take = [&dialog, path] {
+    if (!dialog.isSettled() || !dialog.preview().isSettled()) return;
+    const bool isSaved = dialog.grab().save(path);
+    if (!isSaved) std::cerr << "kesto-print: " << path.toStdString() << " cannot be written\n";
+    dialog.done(isSaved ? QDialog::Accepted : QDialog::Rejected);
+  };
+  // What was laid out for the news is painted first.
+  QObject::connect(&dialog, &PrintDialog::settled, &dialog, take, Qt::QueuedConnection);
+  QObject::connect(&dialog.preview(), &Preview::shown, &dialog, take, Qt::QueuedConnection);
+}
+
+int run(TimedApplication& application, const PrintOptions& options) {
+  Document document;
+  openDocument(options, document);
+  if (document.state() == Document::State::Failed) {
+    std::cerr << "kesto-print: " << document.fault().toStdString() << '\n';
+    return ExitFailed;
+  }
+  PrintDialog dialog(options, document);
+  if (options.timings) timeStart(application, dialog);
+  if (!options.screenshot.isNull()) takeScreenshot(dialog, options.screenshot);
+  QMetaObject::invokeMethod(&dialog, &PrintDialog::start, Qt::QueuedConnection);
+  if (dialog.exec() != QDialog::Accepted) return ExitFailed;
+  if (dialog.job() > 0) {
+    std::cout << "request id is " << dialog.queueName().toStdString() << '-' << dialog.job() << std::endl;
+  }
+  return ExitDone;
+}
+
+}  // namespace
+}  // namespace kesto
+
+int main(int argc, char** argv) {
+  const auto begin = kesto::TimedApplication::Clock::now();
+  kesto::PrintOptions options;
+  if (const auto end = kesto::parsePrintOptions(argc, argv, &options)) return *end;
+  kesto::TimedApplication application(argc, argv, begin);
+  QApplication::setApplicationName(QStringLiteral("kesto-print"));
+  QApplication::setDesktopFileName(QStringLiteral("kesto-print"));
+  kesto::installTranslations();
+  return kesto::run(application, options);
+}

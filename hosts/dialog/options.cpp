@@ -1,0 +1,89 @@
+#include "hosts/dialog/options.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "hosts/cups/print_job.h"
+
+namespace kesto {
+namespace {
+
+constexpr int exitUsage = 2;
+
+constexpr char help[] = R"(usage: kesto-print [OPTION]... [FILE]...
+Shows the print dialog for the files, or for a document in standard input.
+
+  -d QUEUE                  the queue; without it the default queue
+  -t TITLE                  the job's title; without it the document's name
+  -n COPIES                 copies to start with
+  -o NAME=VALUE             an option of the job, again for more
+  -h HOST[:PORT]            the print server        -U NAME  the user to be
+  -E                        encrypt                 --timeout SECONDS  (5) wait no longer
+  --pane NAME               show general, job-handling or summary first
+  --screenshot FILE         write a picture of the dialog, and end
+  --timings                 print how long the start took, and end
+  --help                    this text
+
+Ends with 0 when the job was sent, 1 when it was not, 2 for a wrong command line.
+)";
+
+class CommandLine {
+ public:
+  explicit CommandLine(PrintOptions* options) : m_options(*options) {
+    m_app.set_help_flag("--help");
+    addText("-d", &m_options.queue);
+    addText("-t", &m_options.title);
+    addText("-h", &m_options.server.address);
+    addText("-U", &m_options.server.user);
+    addText("--screenshot", &m_options.screenshot);
+    addText("--pane", &m_options.pane)->check(CLI::IsMember({"general", "job-handling", "summary"}));
+    m_app.add_flag("-E", m_options.server.encrypt);
+    m_app.add_flag("--timings", m_options.timings);
+    m_app.add_option("-n", m_options.copies)->check(CLI::Range(1, 9999));
+    m_app.add_option("--portal", m_options.channel)->check(CLI::Range(3, 1 << 20));
+    const auto setLimit = [this](double seconds) {
+      m_options.server.limit = std::chrono::milliseconds(static_cast<int>(seconds * 1000));
+    };
+    m_app.add_option_function<double>("--timeout", setLimit)->check(CLI::Range(0.1, 3600.0));
+    const auto addOption = [this](const std::vector<std::string>& texts) {
+      for (const std::string& text : texts)
+        m_options.jobOptions.insert(parseJobOptions(QString::fromStdString(text)));
+    };
+    m_app.add_option_function<std::vector<std::string>>("-o", addOption)->allow_extra_args(false);
+    const auto addFiles = [this](const std::vector<std::string>& files) {
+      for (const std::string& file : files)
+        m_options.files.append(QString::fromStdString(file));
+    };
+    m_app.add_option_function<std::vector<std::string>>("files", addFiles);
+  }
+
+  std::optional<int> parse(int argc, char** argv) {
+    try {
+      m_app.parse(argc, argv);
+      return std::nullopt;
+    } catch (const CLI::CallForHelp&) {
+      std::cout << help;
+      return 0;
+    } catch (const CLI::ParseError& error) {
+      std::cerr << "kesto-print: " << error.what() << "\nkesto-print --help tells more.\n";
+      return exitUsage;
+    }
+  }
+
+ private:
+  CLI::Option* addText(const std::string& name, QString* value) {
+    return m_app.add_option_function<std::string>(
+        name, [value](const std::string& text) { *value = QString::fromStdString(text); });
+  }
+
+  PrintOptions& m_options;
+  CLI::App m_app;
+};
+
+}  // namespace
+
+std::optional<int> parsePrintOptions(int argc, char** argv, PrintOptions* options) {
+  return CommandLine(options).parse(argc, argv);
+}
+
+}  // namespace kesto

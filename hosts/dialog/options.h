@@ -1,0 +1,31 @@
+// The command line of kesto-print.
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <optional>
+
+#include "hosts/dialog/server_address.h"
+
+namespace kesto {
+
+/// What the program is to do.
+struct PrintOptions {
+  QString queue;  ///< Null for the user's default queue.
+  QString title;  ///< Null for the document's own name.
+  QStringList files;
+  int copies = 1;
+  QMap<QString, QString> jobOptions;  ///< Options of the job beside those of the dialog.
+  ServerAddress server;
+  bool timings = false;  ///< Measure the start, print it and end.
+  QString screenshot;    ///< Write a picture of the dialog here and end; null for no picture.
+  QString pane;      ///< The pane shown first: "general", "job-handling" or "summary"; null for the usual.
+  int channel = -1;  ///< The descriptor by which the portal service speaks to the dialog; -1 for none.
+};
+
+/// Reads the command line. None when there is something to do; otherwise the program ends with this code, the
+/// help or the fault having been printed.
+std::optional<int> parsePrintOptions(int argc, char** argv, PrintOptions* options);
+
+}  // namespace kesto

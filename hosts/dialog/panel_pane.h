@@ -1,0 +1,52 @@
+// The pane of a panel: its form as widgets, bound to its controls.
+#pragma once
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
+
+#include "platform/outcome.h"
+
+namespace kesto {
+
+class Bundle;
+class FolderChoice;
+class PanelView;
+class PrintDialogPanel;
+class TextField;
+
+/// Shows one panel. The panel belongs to the host and may be destroyed before the pane, which then does
+/// nothing more.
+class PanelPane : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// Loads the panel's form; images are looked for among the bundle's resources. On failure `*pane` is null.
+  static Outcome make(PanelView& view, const Bundle& bundle, std::unique_ptr<PanelPane>* pane);
+
+  /// Lets the labels of all groups on a page end at the same place, once they have their final texts.
+  void alignLabels();
+  /// Puts right, after a restore, what the form offers twice.
+  void alignChoices();
+  /// Shows the page of the entry that a refused job misses, and puts the focus there.
+  void showMissingEntry();
+
+ Q_SIGNALS:
+  /// Something in the panel has changed; once for all changes of one moment.
+  void panelChanged();
+
+ private:
+  explicit PanelPane(PanelView& view);
+  void bind();
+  void describe(QWidget& widget);
+  void describeHoldButton(QWidget& button, const QString& stem);
+  void followFirstResponder();
+  void refresh();
+  QWidget* widgetOf(const QString& name) const;
+
+  PanelView* m_view;
+  FolderChoice* m_folderChoice;
+  QWidget* m_responder = nullptr;  // the line of the panel's first responder
+  QTimer m_refresh;
+};
+
+}  // namespace kesto

@@ -1,0 +1,34 @@
+// The menu of presets.
+#pragma once
+
+#include <QtWidgets/QToolButton>
+
+namespace kesto {
+
+class JobSession;
+
+/// Loads, saves and deletes presets of the queue's panel. Disabled without a panel.
+class PresetMenu : public QToolButton {
+  Q_OBJECT
+
+ public:
+  /// `session` must outlive the menu.
+  PresetMenu(JobSession& session, QWidget* parent);
+  /// The queue has changed.
+  void update();
+
+ Q_SIGNALS:
+  /// A preset has been read into the panel.
+  void loaded();
+
+ private:
+  void fill();
+  void load(const QString& name);
+  void save();
+  void remove(const QString& name);
+
+  JobSession& m_session;
+  QMenu* m_menu;
+};
+
+}  // namespace kesto

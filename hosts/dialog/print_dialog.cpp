@@ -1,0 +1,369 @@
+#include "hosts/dialog/print_dialog.h"
+
+#include <QtGui/QAccessible>
+#include <QtGui/QShortcut>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QVBoxLayout>
+
+#include "hosts/dialog/general_pane.h"
+#include "hosts/dialog/help.h"
+#include "hosts/dialog/panel_pane.h"
+#include "hosts/dialog/plain_text.h"
+#include "hosts/dialog/preset_menu.h"
+#include "hosts/dialog/preview.h"
+#include "hosts/dialog/queue_chooser.h"
+#include "hosts/dialog/summary_pane.h"
+
+namespace kesto {
+namespace {
+
+constexpr std::chrono::milliseconds farewell(2500);  // the last message stays that long
+
+QLabel* labelFor(QWidget* field, const QString& text) {
+  auto* label = new QLabel;
+  label->setBuddy(field);
+  setPlainText(*label, text);
+  return label;
+}
+
+}  // namespace
+
+PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
+    : m_options(options),
+      m_document(document),
+      m_wanted(options.queue),
+      m_watch(options.server),
+      m_client(options.server) {
+  m_alerts.setWindow(this);
+  build();
+  connectParts();
+  m_general->setCopies(options.copies);
+  m_chooser->setCurrent(m_wanted);
+  showDocument();
+  updateControls();
+}
+
+PrintDialog::~PrintDialog() {
+  m_client.stopSending();
+  m_session.release();
+}
+
+void PrintDialog::build() {
+  setWindowTitle(tr("Print"));
+  m_preview = new Preview(this);
+  auto* side = new QVBoxLayout;
+  side->addWidget(makeHead());
+  side->addWidget(makePanes(), 1);
+  auto* body = new QHBoxLayout;
+  body->addWidget(m_preview, 1);
+  body->addLayout(side);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(body, 1);
+  column->addWidget(makeFoot());
+  // Room for the panel, so that the window need not grow when that comes.
+  resize(fontMetrics().averageCharWidth() * 120, fontMetrics().height() * 42);
+  auto* help = new QShortcut(QKeySequence::HelpContents, this);
+  connect(help, &QShortcut::activated, this, [this] { showHelp(*this); });
+}
+
+QWidget* PrintDialog::makeHead() {
+  auto* head = new QWidget(this);
+  m_presets = new PresetMenu(m_session, head);
+  m_chooser = new QueueChooser(head);
+  m_documentName = new QLabel(head);
+  m_documentName->setTextFormat(Qt::PlainText);
+  m_documentName->setWordWrap(true);
+  m_chooseDocument = new QPushButton(head);
+  setPlainText(*m_chooseDocument, tr("Choose…"));
+  m_chooseDocument->setAccessibleName(tr("Choose the document"));
+  m_chooseDocument->setAutoDefault(false);
+  auto* document = new QHBoxLayout;
+  document->addWidget(m_documentName, 1);
+  document->addWidget(m_chooseDocument);
+  auto* presets = new QHBoxLayout;
+  presets->addWidget(m_presets);
+  presets->addStretch();
+  auto* form = new QFormLayout(head);
+  form->setContentsMargins({});
+  form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+  form->addRow(QString(), presets);
+  form->addRow(labelFor(m_chooser->field(), tr("Printer:")), m_chooser);
+  form->addRow(new QLabel(tr("Document:")), document);
+  return head;
+}
+
+QWidget* PrintDialog::makePanes() {
+  m_panes = new QTabWidget(this);
+  m_general = new GeneralPane(m_panes);
+  setPlainText(*m_general, tr("General"));
+  m_panes->addTab(m_general, tr("General"));
+  return m_panes;
+}
+
+QWidget* PrintDialog::makeFoot() {
+  auto* foot = new QWidget(this);
+  m_message = new QLabel(foot);
+  m_message->setTextFormat(Qt::PlainText);
+  m_message->setWordWrap(true);
+  m_message->setObjectName(QStringLiteral("message"));
+  m_progress = new QProgressBar(foot);
+  m_progress->setAccessibleName(tr("Sending the job"));
+  m_progress->hide();
+  m_buttons = new QDialogButtonBox(QDialogButtonBox::Help | QDialogButtonBox::Cancel, foot);
+  m_print = m_buttons->addButton(QString(), QDialogButtonBox::AcceptRole);
+  m_print->setObjectName(QStringLiteral("print"));
+  m_print->setDefault(true);
+  setPlainText(*m_print, tr("Print"));
+  setPlainText(*m_buttons->button(QDialogButtonBox::Help), tr("Help"));
+  setPlainText(*m_buttons->button(QDialogButtonBox::Cancel), tr("Cancel"));
+  auto* column = new QVBoxLayout(foot);
+  column->setContentsMargins({});
+  column->addWidget(m_message);
+  column->addWidget(m_progress);
+  column->addWidget(m_buttons);
+  return foot;
+}
+
+void PrintDialog::connectParts() {
+  connect(m_buttons, &QDialogButtonBox::accepted, this, &PrintDialog::print);
+  connect(m_buttons, &QDialogButtonBox::rejected, this, &PrintDialog::reject);
+  connect(m_buttons, &QDialogButtonBox::helpRequested, this, [this] { showHelp(*this); });
+  connect(m_chooseDocument, &QPushButton::clicked, this, &PrintDialog::chooseDocument);
+  connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);
+  connect(m_chooser, &QueueChooser::retryAsked, this, &PrintDialog::retry);
+  connect(m_presets, &PresetMenu::loaded, this, [this] {
+    m_panelPane->alignChoices();
+    updateSummary();
+  });
+  connect(m_general, &GeneralPane::optionChosen, this, [this](const QString& option, const QString& choice) {
+    if (m_session.panel() != nullptr) m_session.panel()->PPDOptionKeyValueDidChange(option, choice);
+  });
+  connect(&m_document, &Document::changed, this, &PrintDialog::showDocument);
+  connect(&m_watch, &QueueWatch::listed, this, &PrintDialog::takeQueues);
+  connect(&m_watch, &QueueWatch::changed, this, [this](const QueueSummary& queue) {
+    m_chooser->model().setQueue(queue);
+    if (queue.name == m_wanted && m_session.queue()) m_chooser->showState();
+  });
+  connect(&m_watch, &QueueWatch::removed, this,
+          [this](const QString& name) { m_chooser->model().removeQueue(name); });
+  connect(&m_watch, &QueueWatch::failed, this, [this](const QString& reason) {
+    m_listFault = reason;
+    if (!m_session.queue()) m_chooser->showText(reason, true);
+  });
+  connect(&m_client, &QueueClient::opened, this, &PrintDialog::takeQueue);
+  connect(&m_client, &QueueClient::openFailed, this, &PrintDialog::takeNoQueue);
+  connect(&m_client, &QueueClient::progressed, this, [this](qint64 sent, qint64 total) {
+    m_progress->setRange(0, total > 0 ? 1000 : 0);
+    if (total > 0) m_progress->setValue(static_cast<int>(1000 * sent / total));
+  });
+  connect(&m_client, &QueueClient::sent, this, &PrintDialog::takeSent);
+  connect(&m_client, &QueueClient::sendFailed, this, &PrintDialog::takeSendFailure);
+}
+
+void PrintDialog::start() {
+  m_chooser->showText(tr("Asking the print server…"), false);
+  m_watch.start();
+  m_client.open(m_wanted);
+}
+
+const QueueListModel& PrintDialog::queues() const {
+  return m_chooser->model();
+}
+
+void PrintDialog::takeQueues(const std::vector<QueueSummary>& queues) {
+  m_listFault.clear();
+  m_chooser->setQueues(queues);
+  if (m_session.queue()) m_chooser->showState();
+  // Without a default queue the first one that takes jobs is as good as any.
+  if (m_isSettled && !m_session.queue() && m_wanted.isNull()) {
+    for (const QueueSummary& queue : queues) {
+      if (queue.isAccepting) {
+        chooseQueue(queue.name);
+        break;
+      }
+    }
+  }
+  Q_EMIT listed();
+}
+
+void PrintDialog::chooseQueue(const QString& name) {
+  if (m_phase != Phase::Choosing) return;
+  leaveQueue();
+  m_wanted = name;
+  m_chooser->setCurrent(name);
+  m_chooser->showText(tr("Asking the print server…"), false);
+  m_client.open(name);
+}
+
+void PrintDialog::leaveQueue() {
+  m_isSettled = false;
+  m_general->setPpd(nullptr, {});
+  for (QWidget* pane : {static_cast<QWidget*>(m_panelPane), static_cast<QWidget*>(m_summary)}) {
+    if (pane == nullptr) continue;
+    m_panes->removeTab(m_panes->indexOf(pane));
+    pane->deleteLater();  // it may be waiting inside one of its own events
+  }
+  m_panelPane = nullptr;
+  m_summary = nullptr;
+  m_session.release();
+  m_presets->update();
+  updateControls();
+}
+
+void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
+  m_wanted = queue->id;
+  const QString name = m_options.title.isNull() ? m_document.name() : m_options.title;
+  const Outcome taken = m_session.take(queue, name);
+  const PrintDialogPanel* panel = m_session.panel();
+  m_general->setPpd(m_session.ppd(),
+                    panel == nullptr ? QStringList() : m_session.panel()->supportedPPDOptionKeys());
+  if (m_session.view() != nullptr) showPanel();
+  m_chooser->setCurrent(m_wanted);
+  m_chooser->showState();
+  if (!taken) showMessage(taken.reason());
+  m_presets->update();
+  m_isSettled = true;
+  giveNames();
+  updateControls();
+  Q_EMIT settled();
+}
+
+void PrintDialog::takeNoQueue(const QString& reason) {
+  m_isSettled = true;
+  m_chooser->showText(reason, true);
+  if (m_wanted.isNull() && m_chooser->model().rowCount() > 0) takeQueues(m_chooser->model().queues());
+  if (!m_session.queue()) Q_EMIT settled();
+}
+
+void PrintDialog::showPanel() {
+  std::unique_ptr<PanelPane> pane;
+  if (Outcome made = PanelPane::make(*m_session.view(), m_session.bundle(), &pane); !made)
+    return showMessage(made.reason());
+  m_panelPane = pane.release();
+  m_summary = new SummaryPane(m_panes);
+  setPlainText(*m_panelPane, m_session.panel()->panelName());
+  setPlainText(*m_summary, tr("Summary"));
+  m_panes->addTab(m_panelPane, m_session.panel()->panelName());
+  m_panes->addTab(m_summary, tr("Summary"));
+  connect(m_panelPane, &PanelPane::panelChanged, this, &PrintDialog::updateSummary);
+  updateSummary();
+  if (m_options.pane != u"general") m_panes->setCurrentWidget(m_panelPane);
+  if (m_options.pane == u"summary") m_panes->setCurrentWidget(m_summary);
+}
+
+void PrintDialog::updateSummary() {
+  if (m_summary != nullptr && m_session.panel() != nullptr) m_summary->show(m_session.panel()->summaryInfo());
+}
+
+void PrintDialog::giveNames() {
+  assignMnemonics(*this);
+  if (m_panelPane != nullptr) m_panelPane->alignLabels();
+  // The layout sets the tab order of the parts; the panes lie between head and foot.
+  setTabOrder(m_chooseDocument, m_panes);
+}
+
+void PrintDialog::retry() {
+  if (!m_listFault.isNull()) m_watch.start();
+  m_chooser->showText(tr("Asking the print server…"), false);
+  if (!m_session.queue()) m_client.open(m_wanted);
+}
+
+void PrintDialog::showDocument() {
+  using State = Document::State;
+  const State state = m_document.state();
+  const QString file = state == State::Ready ? m_document.files().first() : QString();
+  QString text = m_document.name();
+  if (state == State::None) text = tr("none chosen");
+  if (state == State::Failed) text = m_document.fault();
+  m_documentName->setText(text);
+  m_preview->show(file, state == State::Reading ? tr("The document is being read…") : tr("No document"));
+  m_chooseDocument->setVisible(state == State::None || state == State::Failed);
+  if (m_options.title.isNull()) m_session.renameJob(m_document.name());
+  updateControls();
+}
+
+void PrintDialog::chooseDocument() {
+  const QStringList files = QFileDialog::getOpenFileNames(this, tr("Choose the document"));
+  if (!files.isEmpty()) m_document.openFiles(files);
+}
+
+void PrintDialog::print() {
+  if (!m_print->isEnabled()) return;
+  showMessage({});
+  if (!m_general->fault().isNull()) {
+    m_panes->setCurrentWidget(m_general);
+    m_general->showFault();
+    return showMessage(m_general->fault());
+  }
+  if (!m_session.confirm()) {
+    if (m_panelPane != nullptr) m_panelPane->showMissingEntry();
+    return;
+  }
+  PrintJob job{.title = m_options.title.isNull() ? m_document.name() : m_options.title,
+               .files = m_document.files(),
+               .options = m_options.jobOptions};
+  job.options.insert(m_general->jobOptions());
+  job.options.insert(m_session.settings());
+  setPhase(Phase::Sending);
+  m_client.send(m_session.queue(), job);
+}
+
+void PrintDialog::takeSent(int job) {
+  m_job = job;
+  m_session.remember();
+  showMessage(tr("Job %1 sent to %2").arg(job).arg(m_session.queue()->id));
+  setPhase(Phase::Sent);
+  QTimer::singleShot(farewell, this, &QDialog::accept);
+}
+
+void PrintDialog::takeSendFailure(const QString& reason) {
+  setPhase(Phase::Choosing);
+  showMessage(tr("Not printed: %1").arg(reason));
+}
+
+void PrintDialog::setPhase(Phase phase) {
+  m_phase = phase;
+  m_progress->setRange(0, 0);
+  m_progress->setVisible(phase == Phase::Sending);
+  if (phase == Phase::Sent) setPlainText(*m_buttons->button(QDialogButtonBox::Cancel), tr("Close"));
+  updateControls();
+}
+
+void PrintDialog::showMessage(const QString& text) {
+  m_message->setText(text);
+  m_message->setAccessibleName(text);
+  if (text.isEmpty()) return;
+  QAccessibleEvent event(m_message, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
+}
+
+void PrintDialog::updateControls() {
+  const bool isChoosing = m_phase == Phase::Choosing;
+  for (QWidget* part : {static_cast<QWidget*>(m_chooser), static_cast<QWidget*>(m_panes)})
+    part->setEnabled(isChoosing);
+  m_presets->setEnabled(isChoosing && m_session.presets() != nullptr);
+  m_chooseDocument->setEnabled(isChoosing);
+  const bool hasDocument = m_document.state() == Document::State::Ready;
+  m_print->setEnabled(isQueueReady() && hasDocument);
+  m_print->setToolTip(hasDocument ? QString() : tr("There is no document to print yet."));
+}
+
+void PrintDialog::reject() {
+  if (m_phase == Phase::Sending) {
+    m_client.stopSending();
+    return showMessage(tr("Stopping the job…"));
+  }
+  if (m_phase == Phase::Sent) return accept();
+  leaveQueue();
+  QDialog::reject();
+}
+
+}  // namespace kesto

@@ -1,0 +1,114 @@
+// The print dialog.
+#pragma once
+
+#include <QtWidgets/QDialog>
+#include <memory>
+
+#include "hosts/dialog/dialog_alerts.h"
+#include "hosts/dialog/document.h"
+#include "hosts/dialog/job_session.h"
+#include "hosts/dialog/options.h"
+#include "hosts/dialog/queue_client.h"
+#include "hosts/dialog/queue_watch.h"
+
+class QDialogButtonBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QTabWidget;
+
+namespace kesto {
+
+class GeneralPane;
+class PanelPane;
+class PresetMenu;
+class Preview;
+class QueueChooser;
+class QueueListModel;
+class SummaryPane;
+
+/// The dialog for one document: choose a queue, its options and the panel's entries, and print. Accepted when
+/// the job is sent.
+class PrintDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `document` must outlive the dialog.
+  PrintDialog(const PrintOptions& options, Document& document);
+  ~PrintDialog() override;
+
+  /// Starts to look for queues. Until then the dialog asks nobody.
+  void start();
+  /// Whether the chosen queue's options and panel are known, or known not to be had.
+  bool isSettled() const { return m_isSettled; }
+  /// Whether the Print button can be pressed, but for a document that is missing.
+  bool isQueueReady() const { return m_session.queue() != nullptr && m_phase == Phase::Choosing; }
+  const Preview& preview() const { return *m_preview; }
+  /// The job's number once it is sent, else 0.
+  int job() const { return m_job; }
+  const QueueListModel& queues() const;
+  /// The print settings that travel with the job, as the panel last wrote them.
+  QMap<QString, QString> jobSettings() const { return m_session.settings(); }
+  QString queueName() const { return m_wanted; }
+
+  void reject() override;
+
+ Q_SIGNALS:
+  /// The queues are listed.
+  void listed();
+  /// The chosen queue can be printed on, or cannot be had.
+  void settled();
+
+ private:
+  enum class Phase { Choosing, Sending, Sent };
+
+  void build();
+  QWidget* makeHead();
+  QWidget* makePanes();
+  QWidget* makeFoot();
+  void connectParts();
+  void takeQueues(const std::vector<QueueSummary>& queues);
+  void chooseQueue(const QString& name);
+  void takeQueue(const std::shared_ptr<Queue>& queue);
+  void takeNoQueue(const QString& reason);
+  void showPanel();
+  void leaveQueue();
+  void retry();
+  void showDocument();
+  void chooseDocument();
+  void print();
+  void takeSent(int job);
+  void takeSendFailure(const QString& reason);
+  void setPhase(Phase phase);
+  void showMessage(const QString& text);
+  void updateControls();
+  void updateSummary();
+  void giveNames();
+
+  PrintOptions m_options;
+  Document& m_document;
+  DialogAlerts m_alerts;
+  JobSession m_session{m_alerts};
+  QString m_wanted;  // the chosen queue, null for the default one
+  QString m_listFault;
+  bool m_isSettled = false;
+  Phase m_phase = Phase::Choosing;
+  int m_job = 0;
+  QueueChooser* m_chooser = nullptr;
+  PresetMenu* m_presets = nullptr;
+  QLabel* m_documentName = nullptr;
+  QPushButton* m_chooseDocument = nullptr;
+  Preview* m_preview = nullptr;
+  QTabWidget* m_panes = nullptr;
+  GeneralPane* m_general = nullptr;
+  PanelPane* m_panelPane = nullptr;
+  SummaryPane* m_summary = nullptr;
+  QLabel* m_message = nullptr;
+  QProgressBar* m_progress = nullptr;
+  QDialogButtonBox* m_buttons = nullptr;
+  QPushButton* m_print = nullptr;
+  QueueWatch m_watch;
+  QueueClient m_client;
+};
+
+}  // namespace kesto

@@ -1,0 +1,43 @@
+// The queues as the dialog lists them.
+#pragma once
+
+#include <QtCore/QAbstractListModel>
+#include <vector>
+
+#include "hosts/cups/print_server.h"
+
+namespace kesto {
+
+/// Queues by name; a row's text is the name with the description behind it, `NameRole` the name alone.
+class QueueListModel : public QAbstractListModel {
+  Q_OBJECT
+
+ public:
+  enum Role { NameRole = Qt::UserRole };
+
+  using QAbstractListModel::QAbstractListModel;
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+
+  /// Shows these queues, which are sorted by name.
+  void setQueues(const std::vector<QueueSummary>& queues);
+  /// Puts one queue in its place, or changes it there.
+  void setQueue(const QueueSummary& queue);
+  void removeQueue(const QString& name);
+  /// The row of a queue, -1 when it is not listed.
+  int rowOf(const QString& name) const;
+  /// What is known of a queue, null when it is not listed.
+  const QueueSummary* queue(const QString& name) const;
+  const std::vector<QueueSummary>& queues() const { return m_queues; }
+
+  /// The queue's state as people read it.
+  static QString stateText(const QueueSummary& queue);
+
+ private:
+  std::vector<QueueSummary>::const_iterator placeOf(const QString& name) const;
+
+  std::vector<QueueSummary> m_queues;
+};
+
+}  // namespace kesto

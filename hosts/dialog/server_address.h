@@ -1,0 +1,26 @@
+// The print server that a dialog speaks to, and the connections to it.
+#pragma once
+
+#include <chrono>
+#include <memory>
+
+#include "hosts/cups/print_server.h"
+
+namespace kesto {
+
+/// Where the print server is, and who asks it.
+struct ServerAddress {
+  QString address;  ///< "host" or "host:port"; null for the one of the environment.
+  QString user;     ///< Null for the account's name.
+  bool encrypt = false;
+  std::chrono::milliseconds limit = std::chrono::seconds(5);  ///< For each wait.
+
+  /// A new connection; for the thread that calls.
+  Outcome connect(std::unique_ptr<PrintServer>* server) const {
+    if (encrypt) cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
+    if (!user.isNull()) cupsSetUser(user.toUtf8().constData());
+    return PrintServer::connect(address, limit, server);
+  }
+};
+
+}  // namespace kesto

@@ -1,0 +1,63 @@
+#include "hosts/dialog/start_times.h"
+
+#include <QtCore/QEvent>
+
+#include "hosts/dialog/print_dialog.h"
+#include "hosts/dialog/queue_list_model.h"
+
+namespace kesto {
+
+TimedApplication::TimedApplication(int& argc, char** argv, Clock::time_point begin)
+    : QApplication(argc, argv), m_begin(begin) {}
+
+double TimedApplication::sinceBegin(Clock::time_point moment) const {
+  return std::chrono::duration<double, std::milli>(moment - m_begin).count();
+}
+
+bool TimedApplication::notify(QObject* receiver, QEvent* event) {
+  if (m_dialog == nullptr) return QApplication::notify(receiver, event);
+  if (receiver == m_dialog && event->type() == QEvent::Paint) m_hasPainted = true;
+  const Clock::time_point begin = Clock::now();
+  ++m_depth;
+  const bool handled = QApplication::notify(receiver, event);
+  if (--m_depth == 0) takeEnd(begin);
+  return handled;
+}
+
+// An event is over, and with it what it painted has reached the screen.
+void TimedApplication::takeEnd(Clock::time_point begin) {
+  const Clock::time_point end = Clock::now();
+  m_stall = std::max(m_stall, std::chrono::duration<double, std::milli>(end - begin).count());
+  if (m_hasPainted && !m_paint) m_paint = sinceBegin(end);
+  if (m_hasPainted && m_isListed && !m_list) m_list = sinceBegin(end);
+  if (m_isReady && !m_ready) m_ready = sinceBegin(end);
+  m_hasPainted = false;
+  report();
+}
+
+void TimedApplication::watch(PrintDialog& dialog) {
+  m_dialog = &dialog;
+  connect(&dialog, &PrintDialog::listed, this, [this] {
+    m_isListed = true;
+    m_dialog->update();
+  });
+  connect(&dialog, &PrintDialog::settled, this, [this] {
+    if (!m_dialog->isQueueReady()) {
+      Q_EMIT failed();
+    } else {
+      m_isReady = true;
+    }
+  });
+}
+
+void TimedApplication::report() {
+  if (!m_paint || !m_list || !m_ready) return;
+  const auto whole = [](double value) { return QString::number(qRound(value)); };
+  const int queues = m_dialog->queues().rowCount();
+  m_dialog = nullptr;
+  Q_EMIT started(QStringLiteral("paint_ms=%1 list_ms=%2 ready_ms=%3 stall_ms=%4 queues=%5")
+                     .arg(whole(*m_paint), whole(*m_list), whole(*m_ready), whole(m_stall))
+                     .arg(queues));
+}
+
+}  // namespace kesto

@@ -1,0 +1,20 @@
+#include <QtWidgets/QApplication>
+
+#include "support/warnings.h"
+
+namespace {
+
+// What the offscreen platform says of itself is nothing about the dialog.
+void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (message.contains(QLatin1String("propagateSizeHints"))) return;
+  kesto::test::ExpectedWarning::handleMessage(type, context, message);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  testing::InitGoogleMock(&argc, argv);
+  qInstallMessageHandler(handleMessage);
+  return RUN_ALL_TESTS();
+}
