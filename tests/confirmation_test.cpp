@@ -118,7 +118,7 @@ TEST(Summary, InGermanAndWithoutAPopUp) {
   panel.host.put("jobSuspend=1 userName=41");
   panel.restore();
   EXPECT_EQ(linesOf(panel.controller->summaryInfo()),
-            u"Auftragsname=/Benutzername=A/Speicherart=Nach_dem_Druck_speichern/Speichern=Ein"_s);
+            u"Auftragsname=/Benutzername=A/Haltemodus=Nach_dem_Druck_halten/Zurückhalten=Ein"_s);
 }
 
 TEST(Summary, WhatIsAbsentIsLeftOut) {

@@ -192,15 +192,15 @@ TEST(InitializeUI, AGermanPanel) {
   TestPanel panel(german);
   expectControls(
       panel.view(),
-      "suspendBox=Speicherart suspendKeyStaticText=Kennwort-Nr.: filingBox=Dokumentenablage "
-      "folderPasswordStaticText=Kennwort-Nr._des_Ordners: userNumberStaticText=Benutzernummer: "
+      "suspendBox=Haltemodus suspendKeyStaticText=PIN: filingBox=Dokumentenablage "
+      "folderPasswordStaticText=PIN_des_Ordners: userNumberStaticText=Benutzernummer: "
       "userNumberRadioButton=Benutzernummer accountNumberStaticText=Kontonummer: jobIDBox=Auftragskennung "
       "userNameStaticText=Benutzername: jobNameStaticText=Auftragsname: "
       "holdAfterRadioButton=Nach_dem_Druck_speichern printersAddressStaticText=Druckeradresse: "
       "customFolderRadioButton=Eigener_Ordner loginNameStaticText=Anmeldename: passwordStaticText=Passwort: "
       "folderSelectionStaticText=Ordner: samplePrintRadioButton=Probedruck");
-  EXPECT_EQ(button(panel.view(), "retentionCheckBox").title(), u"Speichern"_s);
-  EXPECT_EQ(button(panel.view(), "getFolderNameButton").title(), u"Ordnernamen holen"_s);
+  EXPECT_EQ(button(panel.view(), "retentionCheckBox").title(), u"Zurückhalten"_s);
+  EXPECT_EQ(button(panel.view(), "getFolderNameButton").title(), u"Ordnernamen abrufen"_s);
   EXPECT_EQ(popUp(panel.view(), "folderSelectionPopup").selectedItem()->title, u"Hauptordner"_s);
 }
 

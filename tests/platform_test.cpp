@@ -113,9 +113,9 @@ TEST(Bundle, ResourcesByNameAndType) {
 TEST(Bundle, TextsInTheLanguageElseTheKey) {
   using Case = std::pair<QLocale, Text>;
   for (const auto& [locale, text] :
-       {Case{QLocale(QLocale::German), "Speichern"},
-        Case{QLocale(QLocale::German, QLocale::Switzerland), "Speichern"},
-        Case{QLocale(QLocale::English), "Retention"}, Case{QLocale(QLocale::Japanese), "Retention"},
+       {Case{QLocale(QLocale::German), "Zurückhalten"},
+        Case{QLocale(QLocale::German, QLocale::Switzerland), "Zurückhalten"},
+        Case{QLocale(QLocale::English), "Retention"}, Case{QLocale(QLocale::Korean), "Retention"},
         Case{QLocale::c(), "Retention"}}) {
     const Bundle bundle(Bundle::find(bundleName), locale);
     EXPECT_EQ(bundle.localizedStringForKey(u"Retention"_s), text);

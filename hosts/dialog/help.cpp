@@ -67,7 +67,7 @@ void showHelp(QWidget& parent) {
     auto* column = new QVBoxLayout(dialog);
     column->addWidget(text);
     column->addWidget(buttons);
-    dialog->resize(parent.fontMetrics().averageCharWidth() * 60, parent.fontMetrics().height() * 22);
+    dialog->resize(parent.fontMetrics().horizontalAdvance(u'0') * 55, parent.fontMetrics().height() * 22);
   }
   dialog->show();
   dialog->raise();

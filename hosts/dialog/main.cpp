@@ -66,7 +66,6 @@ int run(TimedApplication& application, const PrintOptions& options) {
   PrintDialog dialog(options, document);
   if (options.timings) timeStart(application, dialog);
   if (!options.screenshot.isNull()) takeScreenshot(dialog, options.screenshot);
-  QMetaObject::invokeMethod(&dialog, &PrintDialog::start, Qt::QueuedConnection);
   if (dialog.exec() != QDialog::Accepted) return ExitFailed;
   if (dialog.job() > 0) {
     std::cout << "request id is " << dialog.queueName().toStdString() << '-' << dialog.job() << std::endl;

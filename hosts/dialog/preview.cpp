@@ -102,7 +102,7 @@ Preview::Preview(QWidget* parent)
   row->addWidget(m_forward);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
-  m_sheet->setMinimumSize(fontMetrics().averageCharWidth() * 24, fontMetrics().height() * 12);
+  m_sheet->setMinimumSize(fontMetrics().horizontalAdvance(u'0') * 24, fontMetrics().height() * 12);
   column->addWidget(m_sheet, 1);
   column->addLayout(row);
   m_redraw.setSingleShot(true);
@@ -118,7 +118,7 @@ Preview::~Preview() {
 }
 
 QSize Preview::sizeHint() const {
-  return {fontMetrics().averageCharWidth() * 40, fontMetrics().height() * 26};
+  return {fontMetrics().horizontalAdvance(u'0') * 40, fontMetrics().height() * 26};
 }
 
 void Preview::show(const QString& path, const QString& text) {

@@ -12,6 +12,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
+#include <utility>
 
 #include "hosts/dialog/general_pane.h"
 #include "hosts/dialog/help.h"
@@ -69,7 +70,7 @@ void PrintDialog::build() {
   column->addLayout(body, 1);
   column->addWidget(makeFoot());
   // Room for the panel, so that the window need not grow when that comes.
-  resize(fontMetrics().averageCharWidth() * 120, fontMetrics().height() * 42);
+  resize(fontMetrics().horizontalAdvance(u'0') * 110, fontMetrics().height() * 42);
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
   connect(help, &QShortcut::activated, this, [this] { showHelp(*this); });
 }
@@ -168,6 +169,13 @@ void PrintDialog::connectParts() {
   connect(&m_client, &QueueClient::sendFailed, this, &PrintDialog::takeSendFailure);
 }
 
+// What the servers answer is shown once the window is.
+void PrintDialog::paintEvent(QPaintEvent* event) {
+  QDialog::paintEvent(event);
+  if (std::exchange(m_isStarted, true)) return;
+  QMetaObject::invokeMethod(this, &PrintDialog::start, Qt::QueuedConnection);
+}
+
 void PrintDialog::start() {
   m_chooser->showText(tr("Asking the print server…"), false);
   m_watch.start();
@@ -225,10 +233,17 @@ void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
   const PrintDialogPanel* panel = m_session.panel();
   m_general->setPpd(m_session.ppd(),
                     panel == nullptr ? QStringList() : m_session.panel()->supportedPPDOptionKeys());
-  if (m_session.view() != nullptr) showPanel();
   m_chooser->setCurrent(m_wanted);
   m_chooser->showState();
   if (!taken) showMessage(taken.reason());
+  // The window handles what has come up before the panel is made visible.
+  QMetaObject::invokeMethod(
+      this, [this, queue] { showQueue(queue); }, Qt::QueuedConnection);
+}
+
+void PrintDialog::showQueue(const std::shared_ptr<Queue>& queue) {
+  if (m_session.queue() != queue) return;
+  if (m_session.view() != nullptr) showPanel();
   m_presets->update();
   m_isSettled = true;
   giveNames();

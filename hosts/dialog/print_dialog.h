@@ -27,8 +27,8 @@ class QueueChooser;
 class QueueListModel;
 class SummaryPane;
 
-/// The dialog for one document: choose a queue, its options and the panel's entries, and print. Accepted when
-/// the job is sent.
+/// The dialog for one document: choose a queue, its options and the panel's entries, and print. It asks the
+/// print server from its first painting on, and is accepted when the job is sent.
 class PrintDialog : public QDialog {
   Q_OBJECT
 
@@ -37,12 +37,12 @@ class PrintDialog : public QDialog {
   PrintDialog(const PrintOptions& options, Document& document);
   ~PrintDialog() override;
 
-  /// Starts to look for queues. Until then the dialog asks nobody.
-  void start();
   /// Whether the chosen queue's options and panel are known, or known not to be had.
   bool isSettled() const { return m_isSettled; }
   /// Whether the Print button can be pressed, but for a document that is missing.
-  bool isQueueReady() const { return m_session.queue() != nullptr && m_phase == Phase::Choosing; }
+  bool isQueueReady() const {
+    return m_isSettled && m_session.queue() != nullptr && m_phase == Phase::Choosing;
+  }
   const Preview& preview() const { return *m_preview; }
   /// The job's number once it is sent, else 0.
   int job() const { return m_job; }
@@ -51,6 +51,8 @@ class PrintDialog : public QDialog {
   QMap<QString, QString> jobSettings() const { return m_session.settings(); }
   QString queueName() const { return m_wanted; }
 
+  /// Goes over to a queue that is open.
+  void takeQueue(const std::shared_ptr<Queue>& queue);
   void reject() override;
 
  Q_SIGNALS:
@@ -59,9 +61,13 @@ class PrintDialog : public QDialog {
   /// The chosen queue can be printed on, or cannot be had.
   void settled();
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   enum class Phase { Choosing, Sending, Sent };
 
+  void start();
   void build();
   QWidget* makeHead();
   QWidget* makePanes();
@@ -69,7 +75,7 @@ class PrintDialog : public QDialog {
   void connectParts();
   void takeQueues(const std::vector<QueueSummary>& queues);
   void chooseQueue(const QString& name);
-  void takeQueue(const std::shared_ptr<Queue>& queue);
+  void showQueue(const std::shared_ptr<Queue>& queue);
   void takeNoQueue(const QString& reason);
   void showPanel();
   void leaveQueue();
@@ -91,6 +97,7 @@ class PrintDialog : public QDialog {
   JobSession m_session{m_alerts};
   QString m_wanted;  // the chosen queue, null for the default one
   QString m_listFault;
+  bool m_isStarted = false;
   bool m_isSettled = false;
   Phase m_phase = Phase::Choosing;
   int m_job = 0;

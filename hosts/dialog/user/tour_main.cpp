@@ -81,7 +81,6 @@ int run(const PrintOptions& options) {
   document.openFiles(options.files);
   PrintDialog dialog(options, document);
   dialog.show();
-  dialog.start();
   if (Outcome taken = takeTour(dialog, QString::fromStdString(passCode), QString::fromStdString(folders),
                                options.screenshot);
       !taken) {

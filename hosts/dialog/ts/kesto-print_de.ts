@@ -1,0 +1,402 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>DimmingReasons</name>
+    <message>
+        <source>The job is not held on the printer: turn that on first.</source>
+        <translation>Der Auftrag wird nicht auf dem Drucker zurückgehalten: Schalten Sie zuerst „Zurückhalten“ ein.</translation>
+    </message>
+    <message>
+        <source>A quick file has no pass code.</source>
+        <translation>Die Schnellablage hat keine PIN.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder has a name to type.</source>
+        <translation>Nur für einen eigenen Ordner lässt sich ein Name eingeben.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <translation>Nur ein eigener oder ein geschützter Ordner hat eine PIN.</translation>
+    </message>
+    <message>
+        <source>The user is told by the user number, not by the login name.</source>
+        <translation>Der Benutzer wird über die Benutzernummer angegeben, nicht über den Anmeldenamen.</translation>
+    </message>
+    <message>
+        <source>Locked and remembered for this printer: open the padlock to change it.</source>
+        <translation>Gesperrt und für diesen Drucker gemerkt: Öffnen Sie zum Ändern das Schloss.</translation>
+    </message>
+</context>
+<context>
+    <name>FieldBinder</name>
+    <message>
+        <source>Hide the digits</source>
+        <translation>Ziffern verbergen</translation>
+    </message>
+    <message>
+        <source>Show the digits</source>
+        <translation>Ziffern anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPane</name>
+    <message>
+        <source>Paper size:</source>
+        <translation>Papierformat:</translation>
+    </message>
+    <message>
+        <source>Paper source:</source>
+        <translation>Papierquelle:</translation>
+    </message>
+    <message>
+        <source>Paper type:</source>
+        <translation>Papiersorte:</translation>
+    </message>
+    <message>
+        <source>Two-sided:</source>
+        <translation>Beidseitig:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>Farbe:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Auflösung:</translation>
+    </message>
+    <message>
+        <source>Output tray:</source>
+        <translation>Ausgabefach:</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Heften:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Lange Kante</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Kurze Kante</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>Einen Auftrag auf dem Drucker speichern</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>Schalten Sie auf der Registerkarte „Auftragssteuerung“ die Option „Zurückhalten“ ein und geben Sie eine PIN mit bis zu 8 Ziffern an. Der Auftrag wartet im Drucker, bis Sie dort die PIN eingeben.</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>Angeben, wer Sie sind</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>Wenn der Drucker die Seiten zählt, geben Sie auf der Registerkarte „Benutzer und Konto“ Ihre Benutzernummer oder Ihren Anmeldenamen an.</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>Einen Eintrag merken lassen</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>Schließen Sie das Schloss neben einem Eintrag. Er wird dann für diesen Drucker wieder angeboten; zum Ändern öffnen Sie das Schloss.</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>Einen Ordner des Druckers wählen</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>„Ordnernamen abrufen“ fragt den Drucker unter der darüber angegebenen Adresse nach seinen Ordnern.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt und der unterstrichene Buchstabe führen zu einem Eintrag, mit Umschalt zu seinem Schloss. Eingabe druckt, Esc bricht ab, Strg+R zeigt eine PIN an, solange der Cursor darin steht.</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>Hilfe zum Drucken</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Document</name>
+    <message>
+        <source>%1 is a folder</source>
+        <translation>%1 ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>The document cannot be kept: %1</source>
+        <translation>Das Dokument kann nicht zwischengespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The document cannot be read: %1</source>
+        <translation>Das Dokument kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>The document is empty.</source>
+        <translation>Das Dokument ist leer.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weitere Datei</numerusform>
+            <numerusform>%1 und %n weitere Dateien</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kesto::GeneralPane</name>
+    <message>
+        <source>Collate</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>Exemplare:</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Seiten:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>These:</source>
+        <translation>Bereich:</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>Pages to print, such as 1-3, 5</source>
+        <translation>Zu druckende Seiten, etwa 1-3, 5</translation>
+    </message>
+    <message>
+        <source>The printer cannot do these together: %1.</source>
+        <translation>Diese Einstellungen kann der Drucker nicht kombinieren: %1.</translation>
+    </message>
+    <message>
+        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
+        <translation>Geben Sie die Seiten als Nummern und Bereiche an, etwa 1-3, 5.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PanelPane</name>
+    <message>
+        <source>Lock %1</source>
+        <translation>%1 sperren</translation>
+    </message>
+    <message>
+        <source>On: the entry is locked, and remembered for this printer.</source>
+        <translation>Ein: Der Eintrag ist gesperrt und wird für diesen Drucker gemerkt.</translation>
+    </message>
+    <message>
+        <source>Off: the entry is for this job alone.</source>
+        <translation>Aus: Der Eintrag gilt nur für diesen Auftrag.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PresetMenu</name>
+    <message>
+        <source>Presets</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>No presets for this printer</source>
+        <translation>Keine Voreinstellungen für diesen Drucker</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>Als Voreinstellung speichern&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Delete preset</source>
+        <translation>Voreinstellung löschen</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Als Voreinstellung speichern</translation>
+    </message>
+    <message>
+        <source>Keep the pass codes, too</source>
+        <translation>Auch die Kennwort-Nummern speichern</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Preview</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Vorschau der Seite</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorherige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>Für diese Art von Dokument gibt es keine Vorschau.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>Keine Vorschau: Das Programm pdftoppm aus poppler-utils fehlt.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>Keine Vorschau: Das Dokument lässt sich nicht als PDF lesen.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Auswählen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Choose the document</source>
+        <translation>Dokument auswählen</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>Drucker:</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>Dokument:</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Sending the job</source>
+        <translation>Auftrag wird gesendet</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>Druckserver wird abgefragt&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>none chosen</source>
+        <translation>keines ausgewählt</translation>
+    </message>
+    <message>
+        <source>The document is being read…</source>
+        <translation>Das Dokument wird gelesen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>Kein Dokument</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2</source>
+        <translation>Auftrag %1 an %2 gesendet</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Nicht gedruckt: %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>There is no document to print yet.</source>
+        <translation>Es gibt noch kein Dokument zum Drucken.</translation>
+    </message>
+    <message>
+        <source>Stopping the job…</source>
+        <translation>Auftrag wird abgebrochen&#xa0;…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueChooser</name>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>Drucker werden gesucht&#xa0;…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueListModel</name>
+    <message>
+        <source>takes no jobs</source>
+        <translation>nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SummaryPane</name>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,402 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="en">
+<context>
+    <name>DimmingReasons</name>
+    <message>
+        <source>The job is not held on the printer: turn that on first.</source>
+        <translation>El trabajo no se retiene en la impresora: active primero «Retener el trabajo».</translation>
+    </message>
+    <message>
+        <source>A quick file has no pass code.</source>
+        <translation>El archivado rápido no lleva código de acceso.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder has a name to type.</source>
+        <translation>Solo se escribe el nombre de una carpeta personalizada.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <translation>Solo tienen código de acceso las carpetas personalizadas o protegidas.</translation>
+    </message>
+    <message>
+        <source>The user is told by the user number, not by the login name.</source>
+        <translation>El usuario se indica con su número, no con el nombre de inicio de sesión.</translation>
+    </message>
+    <message>
+        <source>Locked and remembered for this printer: open the padlock to change it.</source>
+        <translation>Bloqueado y recordado para esta impresora: abra el candado para cambiarlo.</translation>
+    </message>
+</context>
+<context>
+    <name>FieldBinder</name>
+    <message>
+        <source>Hide the digits</source>
+        <translation>Ocultar los dígitos</translation>
+    </message>
+    <message>
+        <source>Show the digits</source>
+        <translation>Mostrar los dígitos</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPane</name>
+    <message>
+        <source>Paper size:</source>
+        <translation>Tamaño del papel:</translation>
+    </message>
+    <message>
+        <source>Paper source:</source>
+        <translation>Origen del papel:</translation>
+    </message>
+    <message>
+        <source>Paper type:</source>
+        <translation>Tipo de papel:</translation>
+    </message>
+    <message>
+        <source>Two-sided:</source>
+        <translation>Doble cara:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>Color:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Resolución:</translation>
+    </message>
+    <message>
+        <source>Output tray:</source>
+        <translation>Bandeja de salida:</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Grapado:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Borde largo</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Borde corto</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>Retener un trabajo en la impresora</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>En la pestaña «Gestión de trabajos», active «Retener el trabajo» e indique un código de acceso de hasta 8 dígitos. El trabajo espera en la impresora hasta que introduzca allí el código.</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>Indicar quién es usted</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>Si la impresora cuenta las páginas, indique su número de usuario o su nombre de inicio de sesión en la pestaña «Usuario y cuenta».</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>Recordar un dato</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>Cierre el candado que hay junto a un dato. Se volverá a ofrecer para esta impresora; abra el candado para cambiarlo.</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>Elegir una carpeta de la impresora</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>«Obtener nombres de carpetas» pide sus carpetas a la impresora cuya dirección figura encima.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt y la letra subrayada llevan a un dato; con Mayús, a su candado. Intro imprime, Esc cancela y Ctrl+R muestra un código de acceso mientras el cursor está en él.</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>Ayuda para imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Document</name>
+    <message>
+        <source>%1 is a folder</source>
+        <translation>%1 es una carpeta</translation>
+    </message>
+    <message>
+        <source>The document cannot be kept: %1</source>
+        <translation>No se puede guardar el documento: %1</translation>
+    </message>
+    <message>
+        <source>The document cannot be read: %1</source>
+        <translation>No se puede leer el documento: %1</translation>
+    </message>
+    <message>
+        <source>The document is empty.</source>
+        <translation>El documento está vacío.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kesto::GeneralPane</name>
+    <message>
+        <source>Collate</source>
+        <translation>Intercalar</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>Copias:</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Páginas:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>These:</source>
+        <translation>Intervalo:</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>Pages to print, such as 1-3, 5</source>
+        <translation>Páginas que imprimir, por ejemplo, 1-3, 5</translation>
+    </message>
+    <message>
+        <source>The printer cannot do these together: %1.</source>
+        <translation>La impresora no puede combinar estos ajustes: %1.</translation>
+    </message>
+    <message>
+        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
+        <translation>Indique las páginas con números e intervalos, por ejemplo, 1-3, 5.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PanelPane</name>
+    <message>
+        <source>Lock %1</source>
+        <translation>Bloquear %1</translation>
+    </message>
+    <message>
+        <source>On: the entry is locked, and remembered for this printer.</source>
+        <translation>Activado: el dato está bloqueado y se recuerda para esta impresora.</translation>
+    </message>
+    <message>
+        <source>Off: the entry is for this job alone.</source>
+        <translation>Desactivado: el dato vale solo para este trabajo.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PresetMenu</name>
+    <message>
+        <source>Presets</source>
+        <translation>Preajustes</translation>
+    </message>
+    <message>
+        <source>No presets for this printer</source>
+        <translation>No hay preajustes para esta impresora</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>Guardar como preajuste…</translation>
+    </message>
+    <message>
+        <source>Delete preset</source>
+        <translation>Eliminar preajuste</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Guardar como preajuste</translation>
+    </message>
+    <message>
+        <source>Keep the pass codes, too</source>
+        <translation>Guardar también los códigos de acceso</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nombre:</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Preview</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Vista previa de la página</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>No hay vista previa para este tipo de documento.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>Sin vista previa: falta el programa pdftoppm de poppler-utils.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>Sin vista previa: el documento no se puede leer como PDF.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>Choose the document</source>
+        <translation>Elegir el documento</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>Impresora:</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>Documento:</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Sending the job</source>
+        <translation>Envío del trabajo</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>Consultando el servidor de impresión…</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>none chosen</source>
+        <translation>ninguno elegido</translation>
+    </message>
+    <message>
+        <source>The document is being read…</source>
+        <translation>Leyendo el documento…</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>Ningún documento</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2</source>
+        <translation>Trabajo %1 enviado a %2</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>No se ha impreso: %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>There is no document to print yet.</source>
+        <translation>Aún no hay ningún documento que imprimir.</translation>
+    </message>
+    <message>
+        <source>Stopping the job…</source>
+        <translation>Deteniendo el trabajo…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueChooser</name>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>Buscando impresoras…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueListModel</name>
+    <message>
+        <source>takes no jobs</source>
+        <translation>no acepta trabajos</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>imprimiendo</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenida</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>lista</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SummaryPane</name>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,402 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>DimmingReasons</name>
+    <message>
+        <source>The job is not held on the printer: turn that on first.</source>
+        <translation>Le travail n’est pas conservé sur l’imprimante&#xa0;: activez d’abord «&#xa0;Conserver le travail&#xa0;».</translation>
+    </message>
+    <message>
+        <source>A quick file has no pass code.</source>
+        <translation>Le classement rapide n’a pas de code d’accès.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder has a name to type.</source>
+        <translation>Seul un dossier personnalisé a un nom à saisir.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <translation>Seul un dossier personnalisé ou protégé a un code d’accès.</translation>
+    </message>
+    <message>
+        <source>The user is told by the user number, not by the login name.</source>
+        <translation>L’utilisateur est identifié par son numéro, et non par son nom de connexion.</translation>
+    </message>
+    <message>
+        <source>Locked and remembered for this printer: open the padlock to change it.</source>
+        <translation>Verrouillé et mémorisé pour cette imprimante&#xa0;: ouvrez le cadenas pour modifier.</translation>
+    </message>
+</context>
+<context>
+    <name>FieldBinder</name>
+    <message>
+        <source>Hide the digits</source>
+        <translation>Masquer les chiffres</translation>
+    </message>
+    <message>
+        <source>Show the digits</source>
+        <translation>Afficher les chiffres</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPane</name>
+    <message>
+        <source>Paper size:</source>
+        <translation>Format du papier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Paper source:</source>
+        <translation>Source du papier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Paper type:</source>
+        <translation>Type de papier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Two-sided:</source>
+        <translation>Recto verso&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>Couleur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Résolution&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Output tray:</source>
+        <translation>Bac de sortie&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>Agrafage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Bord long</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Bord court</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>Conserver un travail sur l’imprimante</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>Dans l’onglet «&#xa0;Gestion des travaux&#xa0;», activez «&#xa0;Conserver le travail&#xa0;» et indiquez un code d’accès de 8 chiffres au plus. Le travail attend dans l’imprimante jusqu’à ce que vous y saisissiez ce code.</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>Indiquer qui vous êtes</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>Si l’imprimante compte les pages, indiquez votre numéro d’utilisateur ou votre nom de connexion dans l’onglet «&#xa0;Utilisateur et compte&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>Mémoriser une saisie</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>Fermez le cadenas à côté d’une saisie. Elle sera de nouveau proposée pour cette imprimante&#xa0;; ouvrez le cadenas pour la modifier.</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>Choisir un dossier de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>«&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante dont l’adresse figure au-dessus.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt et la lettre soulignée mènent à une saisie, avec Maj à son cadenas. Entrée imprime, Échap annule, Ctrl+R affiche un code d’accès tant que le curseur s’y trouve.</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>Aide à l’impression</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Document</name>
+    <message>
+        <source>%1 is a folder</source>
+        <translation>%1 est un dossier</translation>
+    </message>
+    <message>
+        <source>The document cannot be kept: %1</source>
+        <translation>Impossible de garder le document&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The document cannot be read: %1</source>
+        <translation>Impossible de lire le document&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The document is empty.</source>
+        <translation>Le document est vide.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kesto::GeneralPane</name>
+    <message>
+        <source>Collate</source>
+        <translation>Assembler</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>Copies&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>These:</source>
+        <translation>Plage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>Pages to print, such as 1-3, 5</source>
+        <translation>Pages à imprimer, par exemple 1-3, 5</translation>
+    </message>
+    <message>
+        <source>The printer cannot do these together: %1.</source>
+        <translation>L’imprimante ne peut pas combiner ces réglages&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
+        <translation>Indiquez les pages par numéros et plages, par exemple 1-3, 5.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PanelPane</name>
+    <message>
+        <source>Lock %1</source>
+        <translation>Verrouiller %1</translation>
+    </message>
+    <message>
+        <source>On: the entry is locked, and remembered for this printer.</source>
+        <translation>Activé&#xa0;: la saisie est verrouillée et mémorisée pour cette imprimante.</translation>
+    </message>
+    <message>
+        <source>Off: the entry is for this job alone.</source>
+        <translation>Désactivé&#xa0;: la saisie ne vaut que pour ce travail.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PresetMenu</name>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>No presets for this printer</source>
+        <translation>Aucun préréglage pour cette imprimante</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>Enregistrer comme préréglage…</translation>
+    </message>
+    <message>
+        <source>Delete preset</source>
+        <translation>Supprimer un préréglage</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Enregistrer comme préréglage</translation>
+    </message>
+    <message>
+        <source>Keep the pass codes, too</source>
+        <translation>Enregistrer aussi les codes d’accès</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Preview</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Aperçu de la page</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>Aucun aperçu pour ce type de document.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>Aucun aperçu&#xa0;: le programme pdftoppm de poppler-utils est absent.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>Aucun aperçu&#xa0;: le document n’est pas lisible comme PDF.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Choose the document</source>
+        <translation>Choisir le document</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>Imprimante&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>Document&#xa0;:</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Sending the job</source>
+        <translation>Envoi du travail</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>Interrogation du serveur d’impression…</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>none chosen</source>
+        <translation>aucun choisi</translation>
+    </message>
+    <message>
+        <source>The document is being read…</source>
+        <translation>Lecture du document…</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>Aucun document</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2</source>
+        <translation>Travail %1 envoyé à %2</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Non imprimé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>There is no document to print yet.</source>
+        <translation>Il n’y a pas encore de document à imprimer.</translation>
+    </message>
+    <message>
+        <source>Stopping the job…</source>
+        <translation>Annulation du travail…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueChooser</name>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>Recherche d’imprimantes…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueListModel</name>
+    <message>
+        <source>takes no jobs</source>
+        <translation>n’accepte pas de travaux</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>impression en cours</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêtée</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prête</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SummaryPane</name>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,401 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name>DimmingReasons</name>
+    <message>
+        <source>The job is not held on the printer: turn that on first.</source>
+        <translation>ジョブはプリンターに保留されません。先に「ジョブの保留」をオンにしてください。</translation>
+    </message>
+    <message>
+        <source>A quick file has no pass code.</source>
+        <translation>クイック保存には暗証番号はありません。</translation>
+    </message>
+    <message>
+        <source>Only a custom folder has a name to type.</source>
+        <translation>名前を入力できるのはカスタムフォルダーだけです。</translation>
+    </message>
+    <message>
+        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <translation>暗証番号があるのは、カスタムフォルダーと保護されたフォルダーだけです。</translation>
+    </message>
+    <message>
+        <source>The user is told by the user number, not by the login name.</source>
+        <translation>ユーザーはログイン名ではなく、ユーザー番号で指定されています。</translation>
+    </message>
+    <message>
+        <source>Locked and remembered for this printer: open the padlock to change it.</source>
+        <translation>ロックされ、このプリンター用に記憶されています。変更するには南京錠を開いてください。</translation>
+    </message>
+</context>
+<context>
+    <name>FieldBinder</name>
+    <message>
+        <source>Hide the digits</source>
+        <translation>数字を隠す</translation>
+    </message>
+    <message>
+        <source>Show the digits</source>
+        <translation>数字を表示</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPane</name>
+    <message>
+        <source>Paper size:</source>
+        <translation>用紙サイズ:</translation>
+    </message>
+    <message>
+        <source>Paper source:</source>
+        <translation>給紙方法:</translation>
+    </message>
+    <message>
+        <source>Paper type:</source>
+        <translation>用紙の種類:</translation>
+    </message>
+    <message>
+        <source>Two-sided:</source>
+        <translation>両面印刷:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>カラー:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>解像度:</translation>
+    </message>
+    <message>
+        <source>Output tray:</source>
+        <translation>排紙トレイ:</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>ステープル:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>長辺とじ</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>短辺とじ</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>ジョブをプリンターに保留する</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>「ジョブ管理」タブで「ジョブの保留」をオンにし、8 桁までの暗証番号を入力します。プリンターでその暗証番号を入力するまで、ジョブはプリンター内で待機します。</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>ユーザーを指定する</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>プリンターがページ数を集計している場合は、「ユーザーとアカウント」タブでユーザー番号またはログイン名を入力します。</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>入力内容を記憶させる</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>入力欄の横にある南京錠を閉じます。その内容はこのプリンターで次回も使われます。変更するには南京錠を開きます。</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>プリンターのフォルダーを選ぶ</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>「フォルダー名を取得」は、その上のアドレスにあるプリンターにフォルダーを問い合わせます。</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー操作</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt と下線付きの文字で入力欄に移動し、さらに Shift を押すとその南京錠に移動します。Enter で印刷、Esc でキャンセル、Ctrl+R でカーソルのある暗証番号を表示します。</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>印刷のヘルプ</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Document</name>
+    <message>
+        <source>%1 is a folder</source>
+        <translation>%1 はフォルダーです</translation>
+    </message>
+    <message>
+        <source>The document cannot be kept: %1</source>
+        <translation>文書を一時保存できません: %1</translation>
+    </message>
+    <message>
+        <source>The document cannot be read: %1</source>
+        <translation>文書を読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>The document is empty.</source>
+        <translation>文書が空です。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1、他 %n 件</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kesto::GeneralPane</name>
+    <message>
+        <source>Collate</source>
+        <translation>部単位で印刷</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>部数:</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>ページ:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>These:</source>
+        <translation>指定:</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>Pages to print, such as 1-3, 5</source>
+        <translation>印刷するページ (例: 1-3, 5)</translation>
+    </message>
+    <message>
+        <source>The printer cannot do these together: %1.</source>
+        <translation>プリンターは次の設定を同時に使えません: %1。</translation>
+    </message>
+    <message>
+        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
+        <translation>ページは 1-3, 5 のように、番号と範囲で指定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PanelPane</name>
+    <message>
+        <source>Lock %1</source>
+        <translation>%1をロック</translation>
+    </message>
+    <message>
+        <source>On: the entry is locked, and remembered for this printer.</source>
+        <translation>オン: 入力内容はロックされ、このプリンター用に記憶されます。</translation>
+    </message>
+    <message>
+        <source>Off: the entry is for this job alone.</source>
+        <translation>オフ: 入力内容はこのジョブだけに使われます。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PresetMenu</name>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>No presets for this printer</source>
+        <translation>このプリンターのプリセットはありません</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>プリセットとして保存…</translation>
+    </message>
+    <message>
+        <source>Delete preset</source>
+        <translation>プリセットを削除</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>プリセットとして保存</translation>
+    </message>
+    <message>
+        <source>Keep the pass codes, too</source>
+        <translation>暗証番号も保存する</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名前:</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Preview</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>ページのプレビュー</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>この種類の文書はプレビューできません。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>プレビューできません: poppler-utils のプログラム pdftoppm がありません。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>プレビューできません: 文書を PDF として読み取れません。</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%1 / %2 ページ</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>Choose the document</source>
+        <translation>文書を選択</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>プリンター:</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>文書:</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Sending the job</source>
+        <translation>ジョブを送信中</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>プリントサーバーに問い合わせています…</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>none chosen</source>
+        <translation>未選択</translation>
+    </message>
+    <message>
+        <source>The document is being read…</source>
+        <translation>文書を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>文書なし</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2</source>
+        <translation>ジョブ %1 を %2 に送信しました</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>印刷されませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>There is no document to print yet.</source>
+        <translation>印刷する文書がまだありません。</translation>
+    </message>
+    <message>
+        <source>Stopping the job…</source>
+        <translation>ジョブを中止しています…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueChooser</name>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>プリンターを探しています…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueListModel</name>
+    <message>
+        <source>takes no jobs</source>
+        <translation>ジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>準備完了</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SummaryPane</name>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+</context>
+</TS>

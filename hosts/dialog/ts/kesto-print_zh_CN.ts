@@ -1,0 +1,401 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>DimmingReasons</name>
+    <message>
+        <source>The job is not held on the printer: turn that on first.</source>
+        <translation>作业不会保留在打印机上，请先开启“保留作业”。</translation>
+    </message>
+    <message>
+        <source>A quick file has no pass code.</source>
+        <translation>快速归档没有 PIN 码。</translation>
+    </message>
+    <message>
+        <source>Only a custom folder has a name to type.</source>
+        <translation>只有自定义文件夹才能输入名称。</translation>
+    </message>
+    <message>
+        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <translation>只有自定义文件夹或受保护的文件夹才有 PIN 码。</translation>
+    </message>
+    <message>
+        <source>The user is told by the user number, not by the login name.</source>
+        <translation>当前用用户编号而非登录名来标识用户。</translation>
+    </message>
+    <message>
+        <source>Locked and remembered for this printer: open the padlock to change it.</source>
+        <translation>已锁定并为此打印机记住：要更改，请打开挂锁。</translation>
+    </message>
+</context>
+<context>
+    <name>FieldBinder</name>
+    <message>
+        <source>Hide the digits</source>
+        <translation>隐藏数字</translation>
+    </message>
+    <message>
+        <source>Show the digits</source>
+        <translation>显示数字</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPane</name>
+    <message>
+        <source>Paper size:</source>
+        <translation>纸张大小:</translation>
+    </message>
+    <message>
+        <source>Paper source:</source>
+        <translation>纸张来源:</translation>
+    </message>
+    <message>
+        <source>Paper type:</source>
+        <translation>纸张类型:</translation>
+    </message>
+    <message>
+        <source>Two-sided:</source>
+        <translation>双面打印:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>颜色:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>分辨率:</translation>
+    </message>
+    <message>
+        <source>Output tray:</source>
+        <translation>出纸盒:</translation>
+    </message>
+    <message>
+        <source>Staple:</source>
+        <translation>装订:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>长边</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>短边</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>将作业保留在打印机上</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>在“作业处理”选项卡上开启“保留作业”，并输入最多 8 位数字的 PIN 码。作业会在打印机中等待，直到您在打印机上输入该 PIN 码。</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>说明您的身份</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>如果打印机统计页数，请在“用户和账户”选项卡上输入用户编号或登录名。</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>记住输入的内容</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>锁上输入项旁的挂锁。下次使用此打印机时会再次提供该内容；要更改，请打开挂锁。</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>选择打印机上的文件夹</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>“获取文件夹名称”会向其上方地址处的打印机查询文件夹。</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt 加带下划线的字母跳到输入项，再加 Shift 则跳到其挂锁。Enter 打印，Esc 取消；光标位于 PIN 码中时，Ctrl+R 显示该 PIN 码。</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>打印帮助</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Document</name>
+    <message>
+        <source>%1 is a folder</source>
+        <translation>%1 是文件夹</translation>
+    </message>
+    <message>
+        <source>The document cannot be kept: %1</source>
+        <translation>无法暂存文档：%1</translation>
+    </message>
+    <message>
+        <source>The document cannot be read: %1</source>
+        <translation>无法读取文档：%1</translation>
+    </message>
+    <message>
+        <source>The document is empty.</source>
+        <translation>文档为空。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 及其他 %n 个文件</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kesto::GeneralPane</name>
+    <message>
+        <source>Collate</source>
+        <translation>逐份打印</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>份数:</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>份数</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>页面:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>These:</source>
+        <translation>指定:</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>Pages to print, such as 1-3, 5</source>
+        <translation>要打印的页面，例如 1-3, 5</translation>
+    </message>
+    <message>
+        <source>The printer cannot do these together: %1.</source>
+        <translation>打印机无法同时使用以下设置：%1。</translation>
+    </message>
+    <message>
+        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
+        <translation>请用页码和范围指定页面，例如 1-3, 5。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PanelPane</name>
+    <message>
+        <source>Lock %1</source>
+        <translation>锁定“%1”</translation>
+    </message>
+    <message>
+        <source>On: the entry is locked, and remembered for this printer.</source>
+        <translation>开：内容已锁定，并为此打印机记住。</translation>
+    </message>
+    <message>
+        <source>Off: the entry is for this job alone.</source>
+        <translation>关：内容仅用于此作业。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PresetMenu</name>
+    <message>
+        <source>Presets</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>No presets for this printer</source>
+        <translation>此打印机没有预设</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>另存为预设…</translation>
+    </message>
+    <message>
+        <source>Delete preset</source>
+        <translation>删除预设</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>另存为预设</translation>
+    </message>
+    <message>
+        <source>Keep the pass codes, too</source>
+        <translation>同时保存 PIN 码</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称:</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Preview</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>页面预览</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>此类文档无法预览。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>无法预览：缺少 poppler-utils 中的程序 pdftoppm。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>无法预览：文档无法作为 PDF 读取。</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>Choose the document</source>
+        <translation>选择文档</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>打印机:</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>文档:</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Sending the job</source>
+        <translation>正在发送作业</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>正在查询打印服务器…</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>摘要</translation>
+    </message>
+    <message>
+        <source>none chosen</source>
+        <translation>未选择</translation>
+    </message>
+    <message>
+        <source>The document is being read…</source>
+        <translation>正在读取文档…</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>无文档</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2</source>
+        <translation>作业 %1 已发送到 %2</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>未打印：%1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>There is no document to print yet.</source>
+        <translation>还没有要打印的文档。</translation>
+    </message>
+    <message>
+        <source>Stopping the job…</source>
+        <translation>正在停止作业…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueChooser</name>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>正在查找打印机…</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueListModel</name>
+    <message>
+        <source>takes no jobs</source>
+        <translation>不接受作业</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>就绪</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SummaryPane</name>
+    <message>
+        <source>Summary</source>
+        <translation>摘要</translation>
+    </message>
+</context>
+</TS>
