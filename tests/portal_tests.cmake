@@ -1,0 +1,1 @@
+kesto_test(portal_test SOURCES portal_channel_test.cpp portal_settings_test.cpp LINKS kesto_portal_channel)
