@@ -27,8 +27,8 @@ class ChannelTest : public testing::Test {
     QObject::connect(m_far.get(), &PrintChannel::received,
                      [this](const QJsonObject& message, Descriptor& attached) {
                        m_messages.append(message);
-                       if (m_takes) m_attached = std::move(attached);
                        m_lastNumber = attached.get();
+                       if (m_takes) m_attached = std::move(attached);
                      });
     QObject::connect(m_far.get(), &PrintChannel::closed, [this] { ++m_ends; });
   }
@@ -109,7 +109,7 @@ TEST_F(ChannelTest, EndsAtWhatIsNoMessage) {
                               "[]",
                               "7",
                               "null",
-                              "{\"a\":1}{\"b\":2}",
+                              R"({"a":1}{"b":2})",
                               "{\"\xff\":1}",
                               "no json",
                               QByteArray(PrintChannel::largestMessage, ' ') + "{}"};

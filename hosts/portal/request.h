@@ -1,0 +1,53 @@
+// One method call of the portal's front end that is answered later, and the object on the bus that withdraws
+// it.
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QVariantMap>
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
+#include <QtDBus/QDBusObjectPath>
+
+#include "platform/outcome.h"
+
+namespace kesto {
+
+/// How a request ends, as the interface counts.
+enum class Response : uint { Done = 0, Cancelled = 1, Failed = 2 };
+
+/// The bus name of the client in the path of a request, as in
+/// `/org/freedesktop/portal/desktop/request/1_42/t`; null when the path is none of a request.
+QString senderOf(const QDBusObjectPath& handle);
+
+/// On the bus at its handle from its export to its end. Unless it is answered before, its end answers the
+/// call as failed: no front end waits for an answer that never comes.
+class PortalRequest : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Request")
+
+ public:
+  /// Defers the answer to `call`.
+  PortalRequest(QDBusConnection bus, const QDBusMessage& call);
+  ~PortalRequest() override;
+
+  /// Puts it on the bus at `handle`. Fails when another one is there.
+  Outcome exportAt(const QDBusObjectPath& handle);
+  /// Answers the call, and leaves the bus. The first answer counts.
+  void answer(Response response, const QVariantMap& results = {});
+
+ public Q_SLOTS:
+  /// The front end withdraws the request; answers it as failed. For the bus.
+  void Close();
+
+ Q_SIGNALS:
+  /// `Close` was called; the object may be deleted later, not at once.
+  void closed();
+
+ private:
+  QDBusConnection m_bus;
+  QDBusMessage m_reply;  // without the call's descriptor, which would keep a pipe from breaking
+  QString m_path;
+  bool m_isAnswered = false;
+};
+
+}  // namespace kesto

@@ -1,0 +1,135 @@
+#include "hosts/portal/service.h"
+
+#include <sys/random.h>
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QLoggingCategory>
+#include <QtDBus/QDBusConnectionInterface>
+#include <QtDBus/QDBusError>
+
+#include "hosts/portal/portal_settings.h"
+
+namespace kesto {
+namespace {
+
+// Numbers stay numbers, everything else that is text or can be is text.
+QJsonObject toJson(const QVariantMap& map) {
+  QJsonObject object;
+  for (auto it = map.begin(); it != map.end(); ++it) {
+    if (it.value().typeId() == QMetaType::Double) {
+      object.insert(it.key(), it.value().toDouble());
+    } else if (it.value().canConvert<QString>()) {
+      object.insert(it.key(), it.value().toString());
+    }
+  }
+  return object;
+}
+
+QJsonObject openMessage(const QString& appId, const QString& parentWindow, const QString& title,
+                        const QVariantMap& options) {
+  return {{QStringLiteral("do"), QStringLiteral("open")},
+          {QStringLiteral("title"), title},
+          {QStringLiteral("parentWindow"), parentWindow},
+          {QStringLiteral("appId"), appId},
+          {QStringLiteral("modal"), options.value(QStringLiteral("modal"), true).toBool()}};
+}
+
+}  // namespace
+
+PortalService::PortalService(QDBusConnection bus, QString dialog, std::chrono::milliseconds lifetime)
+    : m_bus(std::move(bus)), m_dialog(std::move(dialog)), m_lifetime(lifetime) {
+  // A method is put on the bus only when the types of its parameters are known by their names.
+  qRegisterMetaType<QDBusObjectPath>();
+  qRegisterMetaType<QDBusUnixFileDescriptor>();
+  qRegisterMetaType<QDBusMessage>();
+}
+
+Outcome PortalService::start() {
+  const auto refused = [&](const char* what) {
+    return Outcome::failed(QLatin1String(what) + QStringLiteral(": ") + m_bus.lastError().message());
+  };
+  if (!m_bus.isConnected()) return refused("there is no session bus");
+  // The object comes first: whoever waits for the name calls it at once.
+  if (!m_bus.registerObject(QLatin1String(objectPath), this, QDBusConnection::ExportAllSlots))
+    return refused("the portal's object is taken");
+  if (!m_bus.registerService(QLatin1String(busName))) return refused("the portal's name is taken");
+  return Outcome::done();
+}
+
+void PortalService::PreparePrint(const QDBusObjectPath& handle, const QString& appId,
+                                 const QString& parentWindow, const QString& title,
+                                 const QVariantMap& settings, const QVariantMap& pageSetup,
+                                 const QVariantMap& options, const QDBusMessage& call, uint& /*response*/,
+                                 QVariantMap& /*results*/) {
+  std::unique_ptr<PortalRequest> request = accept(handle, call);
+  if (!request) return;
+  QJsonObject open = openMessage(appId, parentWindow, title, options);
+  open.insert(QStringLiteral("settings"), withoutPrivateKeys(toJson(settings)));
+  open.insert(QStringLiteral("pageSetup"), toJson(pageSetup));
+  open.insert(QStringLiteral("document"), false);
+  openDialog(senderOf(handle), open, std::move(request), -1);
+}
+
+void PortalService::Print(const QDBusObjectPath& handle, const QString& appId, const QString& parentWindow,
+                          const QString& title, const QDBusUnixFileDescriptor& document,
+                          const QVariantMap& options, const QDBusMessage& call, uint& /*response*/,
+                          QVariantMap& /*results*/) {
+  std::unique_ptr<PortalRequest> request = accept(handle, call);
+  if (!request) return;
+  const int descriptor = document.fileDescriptor();
+  const QString client = senderOf(handle);
+  const quint32 token = options.value(QStringLiteral("token")).toUInt();
+  DialogSession* session = sessionOf(token);
+  if (session != nullptr && session->waitsFor(token, client)) {
+    if (const Outcome printing = session->print(title, descriptor, &request)) return;
+    // That dialog is just ending: the user is asked anew.
+  }
+  QJsonObject open = openMessage(appId, parentWindow, title, options);
+  open.insert(QStringLiteral("settings"), QJsonObject());
+  open.insert(QStringLiteral("pageSetup"), QJsonObject());
+  open.insert(QStringLiteral("document"), true);
+  openDialog(client, open, std::move(request), descriptor);
+}
+
+// Defers the answer to a call of a client that is there; null when the request is answered as failed.
+std::unique_ptr<PortalRequest> PortalService::accept(const QDBusObjectPath& handle,
+                                                     const QDBusMessage& call) {
+  auto request = std::make_unique<PortalRequest>(m_bus, call);
+  if (senderOf(handle).isNull()) {
+    qWarning("a request's handle names no client");
+    return nullptr;
+  }
+  if (const Outcome exported = request->exportAt(handle); !exported) {
+    qWarning("a request is refused: %ls", qUtf16Printable(exported.reason()));
+    return nullptr;
+  }
+  return request;
+}
+
+void PortalService::openDialog(const QString& client, const QJsonObject& open,
+                               std::unique_ptr<PortalRequest> request, int document) {
+  // The session watches the client's end from its creation on; here it is seen whether that was before.
+  auto* session = new DialogSession(m_bus, Ticket{client, drawToken(), m_lifetime}, this);
+  if (!m_bus.interface()->isServiceRegistered(client)) return session->deleteLater();
+  if (const Outcome opened = session->open(m_dialog, open, std::move(request), document); !opened)
+    qWarning("the print dialog cannot be opened: %ls", qUtf16Printable(opened.reason()));
+}
+
+// The session of a token, whether its ticket is good or not; null when there is none.
+DialogSession* PortalService::sessionOf(quint32 token) const {
+  for (auto* session : findChildren<DialogSession*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (session->token() == token) return session;
+  }
+  return nullptr;
+}
+
+// A token that nobody can guess and no session has; never 0, which stands for none.
+quint32 PortalService::drawToken() const {
+  quint32 token = 0;
+  while (token == 0 || sessionOf(token) != nullptr) {
+    if (::getrandom(&token, sizeof token, 0) != sizeof token) token = 0;
+  }
+  return token;
+}
+
+}  // namespace kesto

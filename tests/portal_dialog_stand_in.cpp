@@ -1,0 +1,68 @@
+// Stands in for the dialog that kesto-portal starts: a test on the other end of a local socket plays the
+// user. It tells the test what comes from the service, one JSON object a line, and does what the test says in
+// return.
+#include <unistd.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QCryptographicHash>
+#include <QtCore/QFile>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtNetwork/QLocalSocket>
+#include <csignal>
+
+#include "hosts/portal/channel.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QJsonObject self() {
+  QJsonObject environment;
+  for (const char* name : {"GTK_USE_PORTAL", "QT_QPA_PLATFORMTHEME"}) {
+    if (qEnvironmentVariableIsSet(name)) environment.insert(QLatin1String(name), qEnvironmentVariable(name));
+  }
+  return {{u"arguments"_s, QJsonArray::fromStringList(QCoreApplication::arguments().mid(1))},
+          {u"environment"_s, environment}};
+}
+
+// Reads the document whole, keeps it where the test wants it, and gives its hash.
+QString readDocument(const kesto::Descriptor& document) {
+  QFile file;
+  if (!file.open(document.get(), QIODevice::ReadOnly)) return file.errorString();
+  const QByteArray bytes = file.readAll();
+  if (QFile kept(qEnvironmentVariable("KESTO_STAND_IN_DOCUMENT")); kept.open(QIODevice::WriteOnly))
+    kept.write(bytes);
+  return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  QLocalSocket test;
+  test.connectToServer(qEnvironmentVariable("KESTO_STAND_IN"));
+  if (!test.waitForConnected()) return 1;
+  const auto tell = [&](const QJsonObject& object) {
+    test.write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
+    test.flush();
+  };
+  tell(self());
+  kesto::PrintChannel channel(kesto::Descriptor(QCoreApplication::arguments().last().toInt()));
+  QObject::connect(&channel, &kesto::PrintChannel::received,
+                   [&](QJsonObject message, const kesto::Descriptor& document) {
+                     if (document) message.insert(u"document"_s, readDocument(document));
+                     tell(message);
+                   });
+  QObject::connect(&channel, &kesto::PrintChannel::closed, [&] { tell({{u"closed"_s, true}}); });
+  QObject::connect(&test, &QLocalSocket::readyRead, [&] {
+    while (test.canReadLine()) {
+      const QJsonObject line = QJsonDocument::fromJson(test.readLine()).object();
+      if (line.contains(u"exit"_s)) ::_exit(line.value(u"exit"_s).toInt());
+      if (line.contains(u"kill"_s)) std::raise(SIGKILL);
+      if (const kesto::Outcome sent = channel.send(line); !sent) tell({{u"unsent"_s, sent.reason()}});
+    }
+  });
+  QObject::connect(&test, &QLocalSocket::disconnected, [] { ::_exit(0); });
+  return QCoreApplication::exec();
+}
