@@ -1,0 +1,247 @@
+#!/usr/bin/python3
+"""Prints through the real front end of the desktop portal, with a real GTK client and a dialog that the test plays.
+
+usage: portal_end_to_end_test.py BUILD_FOLDER    (ends with 77 where a package is missing)
+"""
+import contextlib
+import json
+import os
+import pathlib
+import shutil
+import signal
+import socket
+import subprocess
+import sys
+import tempfile
+import unittest
+
+BUILD = pathlib.Path(sys.argv.pop(1) if len(sys.argv) > 1 else "build/dev").resolve()
+HERE = pathlib.Path(__file__).resolve().parent
+FRONT_END = pathlib.Path("/usr/libexec/xdg-desktop-portal")
+NAME = "org.freedesktop.impl.portal.desktop.kesto"
+A5_LANDSCAPE = {"PPDName": "A5", "DisplayName": "A5", "Width": 148, "Height": 210, "MarginTop": 5, "MarginBottom": 5,
+                "MarginLeft": 5, "MarginRight": 5, "Orientation": "landscape"}
+NEUTRAL = {"n-copies": "1", "number-up": "1", "reverse": "false", "page-set": "all", "scale": "100",
+           "collate": "true", "print-pages": "all", "output-file-format": "pdf"}
+# Longer than anything here takes, shorter than a start that hangs: the front end waits 25 s for a backend.
+PATIENCE = 20
+
+
+def missing():
+    """What the test needs and this system has not."""
+    programs = ["dbus-daemon", "Xvfb", "pdftotext", "pdfinfo", "gdbus"]
+    lacking = [name for name in programs if not shutil.which(name)] + [str(FRONT_END)] * (not FRONT_END.exists())
+    code = 'import gi; gi.require_version("Gtk", "3.0"); from gi.repository import Gtk; import gi._gi_cairo'
+    if subprocess.run(["/usr/bin/python3", "-c", code], stderr=subprocess.DEVNULL).returncode:
+        lacking.append("python3-gi-cairo or gir1.2-gtk-3.0")
+    return lacking
+
+
+class Dialog:
+    """A dialog that the service has started: the stand-in program's end of the conversation."""
+
+    def __init__(self, connection):
+        connection.settimeout(PATIENCE)
+        with connection:  # the file keeps it open
+            self.lines = connection.makefile("rw", encoding="utf-8")
+        self.next()
+
+    def next(self):
+        return json.loads(self.lines.readline())
+
+    def say(self, message):
+        print(json.dumps(message), file=self.lines, flush=True)
+
+    def choose(self, settings=None, page_setup=None):
+        self.say({"answer": "chosen", "settings": settings or NEUTRAL, "pageSetup": page_setup or A5_LANDSCAPE})
+
+
+class Session:
+    """A desktop session in a folder of its own: a bus, the front end and the service, and perhaps a display."""
+
+    def __init__(self, display):
+        self.stack = contextlib.ExitStack()
+        self.root = pathlib.Path(self.stack.enter_context(tempfile.TemporaryDirectory(ignore_cleanup_errors=True)))
+        self.environment = {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8"}
+        self.make_folders()
+        if display:
+            self.start_display()
+        self.start_bus()
+
+    def make_folders(self):
+        for variable in ["HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR", "TMPDIR"]:
+            folder = self.root / variable.lower()
+            folder.mkdir(mode=0o700)
+            self.environment[variable] = str(folder)
+        programs, portals, services = self.root / "bin", self.root / "portals", \
+            self.root / "xdg_data_home/dbus-1/services"
+        for folder in [programs, portals, services]:
+            folder.mkdir(parents=True)
+        shutil.copy(BUILD / "bin/kesto-portal", programs)
+        shutil.copy(BUILD / "bin/portal-dialog-stand-in", programs / "kesto-print")
+        (portals / "kesto.portal").write_text(
+            f"[portal]\nDBusName={NAME}\nInterfaces=org.freedesktop.impl.portal.Print;\nUseIn=printtest;\n")
+        (portals / "portals.conf").write_text(
+            "[preferred]\ndefault=none\norg.freedesktop.impl.portal.Print=kesto\n")
+        (services / f"{NAME}.service").write_text(f"[D-BUS Service]\nName={NAME}\nExec={programs}/kesto-portal\n")
+        self.dialogs = self.stack.enter_context(socket.socket(socket.AF_UNIX))
+        self.dialogs.bind(str(self.root / "dialogs"))
+        self.dialogs.listen()
+        self.dialogs.settimeout(PATIENCE)
+        self.document = self.root / "document"
+        self.environment |= {
+            "XDG_DESKTOP_PORTAL_DIR": str(portals), "XDG_CURRENT_DESKTOP": "printtest", "NO_AT_BRIDGE": "1",
+            "GSETTINGS_BACKEND": "memory", "GTK_USE_PORTAL": "1", "QT_QPA_PLATFORMTHEME": "xdgdesktopportal",
+            "CUPS_SERVER": str(self.root / "no-scheduler"), "KESTO_STAND_IN": str(self.root / "dialogs"),
+            "KESTO_STAND_IN_DOCUMENT": str(self.document)}
+
+    def start(self, command, **options):
+        return subprocess.Popen(command, env=self.environment, text=True, **options)
+
+    def end(self, process):
+        process.terminate()
+        process.wait()
+
+    def start_display(self):
+        reading, writing = os.pipe()
+        server = self.start(["Xvfb", "-displayfd", str(writing), "-nolisten", "tcp"], pass_fds=[writing],
+                            stderr=subprocess.DEVNULL)
+        self.stack.callback(self.end, server)
+        os.close(writing)
+        with open(reading, encoding="ascii") as number:
+            self.environment["DISPLAY"] = f":{number.readline().strip()}"
+
+    def start_bus(self):
+        self.log = self.stack.enter_context(open(self.root / "log", "w+", encoding="utf-8"))
+        bus = self.start(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE,
+                         stderr=self.log)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        self.stack.callback(self.wait_for_mount)
+        self.stack.callback(self.end, bus)
+        self.stack.callback(bus.stdout.close)
+
+    def wait_for_mount(self):
+        """Until the document portal's file system has ended with its bus."""
+        mount = self.root / "xdg_runtime_dir/doc"
+        while os.path.ismount(mount):
+            os.sched_yield()
+
+    def call(self, name, path, method, *arguments):
+        command = ["gdbus", "call", "--session", "--timeout", str(PATIENCE), "--dest", name, "--object-path", path,
+                   "--method", method, *arguments]
+        return subprocess.run(command, env=self.environment, text=True, check=True, stdout=subprocess.PIPE).stdout
+
+    def service_process(self):
+        """The service's process; 0 when it does not run."""
+        bus = ["org.freedesktop.DBus", "/org/freedesktop/DBus"]
+        if "true" not in self.call(*bus, "org.freedesktop.DBus.NameHasOwner", NAME):
+            return 0
+        return int(self.call(*bus, "org.freedesktop.DBus.GetConnectionUnixProcessID", NAME).strip("(,)\n").split()[-1])
+
+    def client(self, **wish):
+        return self.start([str(HERE / "portal_client.py"), json.dumps(wish)], stdout=subprocess.PIPE,
+                          stderr=self.log)
+
+    def dialog(self, test):
+        started = Dialog(self.dialogs.accept()[0])
+        test.addCleanup(started.lines.close)
+        return started
+
+
+class WithoutDisplay(unittest.TestCase):
+    def test_the_front_end_starts(self):
+        session = Session(display=False)
+        self.addCleanup(session.stack.close)
+        version = session.call("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                               "org.freedesktop.DBus.Properties.Get", "org.freedesktop.portal.Print", "version")
+        self.assertIn("uint32", version)
+        self.assertNotEqual(session.service_process(), 0)
+
+
+class Printing(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.session = Session(display=True)
+        cls.addClassCleanup(cls.session.stack.close)
+
+    def answer(self, client):
+        """What a client says at its end."""
+        output, _ = client.communicate(timeout=PATIENCE)
+        return json.loads(output)
+
+    def print_document(self, client, dialog):
+        self.assertEqual(dialog.next()["do"], "print")
+        dialog.say({"answer": "taken"})
+        answer = self.answer(client)
+        self.assertEqual(answer["result"], "apply")
+        return answer["saved"]
+
+    def pages(self):
+        text = subprocess.run(["pdftotext", self.session.document, "-"], text=True, check=True,
+                              stdout=subprocess.PIPE).stdout
+        return [int(line.split()[-1]) for line in text.split("\n") if "This is page" in line]
+
+    def test_each_page_once_on_the_chosen_paper(self):
+        client = self.session.client(pages=4, settings={"n-copies": "3", "number-up": "2", "my-key": "my value"})
+        dialog = self.session.dialog(self)
+        asked = dialog.next()
+        self.assertEqual(asked["settings"]["n-copies"], "3")
+        self.assertEqual(asked["settings"]["number-up"], "2")
+        self.assertEqual(asked["settings"]["my-key"], "my value")
+        self.assertRegex(asked["parentWindow"], "^x11:[0-9a-f]+$")
+        self.assertIsInstance(asked["pageSetup"]["Width"], (int, float))
+        dialog.choose(NEUTRAL | {"my-key": "my value", "orientation": "landscape",
+                                 "kesto.print.PrintSettings.userNumber": "31415"})
+        saved = self.print_document(client, dialog)
+        self.assertEqual(saved["my-key"], "my value")
+        self.assertNotIn("31415", json.dumps(saved))
+        self.assertEqual(self.pages(), [1, 2, 3, 4])
+        facts = subprocess.run(["pdfinfo", self.session.document], text=True, check=True, stdout=subprocess.PIPE)
+        self.assertRegex(facts.stdout, r"Page size: +(595\.\d+ x 419\.\d+|419\.\d+ x 595\.\d+)")
+
+    def test_the_chosen_ranges(self):
+        client = self.session.client(pages=9)
+        dialog = self.session.dialog(self)
+        dialog.next()
+        dialog.choose(NEUTRAL | {"print-pages": "ranges", "page-ranges": "1-2,7-2147483646"})
+        self.print_document(client, dialog)
+        self.assertEqual(self.pages(), [2, 3, 8, 9])
+
+    def test_cancel(self):
+        client = self.session.client()
+        dialog = self.session.dialog(self)
+        dialog.next()
+        dialog.say({"answer": "cancelled"})
+        self.assertEqual(self.answer(client)["result"], "cancel")
+
+    def test_the_clients_end(self):
+        client = self.session.client()
+        dialog = self.session.dialog(self)
+        self.assertEqual(dialog.next()["do"], "open")
+        client.kill()
+        client.communicate()
+        self.assertEqual(dialog.next()["do"], "close")
+
+    def test_after_the_services_death_the_next_print_works(self):
+        client = self.session.client()
+        dialog = self.session.dialog(self)
+        dialog.next()
+        os.kill(self.session.service_process(), signal.SIGKILL)
+        self.assertEqual(dialog.next(), {"closed": True})
+        self.assertNotEqual(self.answer(client)["result"], "apply")
+        for killed in (False, True):
+            if killed:
+                os.kill(self.session.service_process(), signal.SIGKILL)
+            client = self.session.client(pages=2)
+            dialog = self.session.dialog(self)
+            dialog.next()
+            dialog.choose()
+            self.print_document(client, dialog)
+            self.assertEqual(self.pages(), [1, 2])
+
+
+if __name__ == "__main__":
+    if lacking := missing():
+        print("portal_end_to_end_test: there is no", ", ".join(lacking))
+        sys.exit(1 if os.environ.get("CI") == "true" else 77)
+    unittest.main(verbosity=2)
