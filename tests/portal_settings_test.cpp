@@ -13,24 +13,23 @@ const QJsonObject a4{{u"PPDName"_s, u"A4"_s}, {u"DisplayName"_s, u"A4"_s}, {u"Wi
                      {u"Height"_s, 297.0},    {u"MarginTop"_s, 6.35},      {u"MarginBottom"_s, 14.224},
                      {u"MarginLeft"_s, 6.35}, {u"MarginRight"_s, 6.35},    {u"Orientation"_s, u"portrait"_s}};
 
+// An object of the texts of "key=value key=value".
+QJsonObject texts(const QString& notation) {
+  QJsonObject object;
+  forEachValue(notation, [&](const QString& key, const QString& value) { object.insert(key, value); });
+  return object;
+}
+
 PortalChoice asked(const QString& key, const QString& value) {
   return choiceAskedFor({{key, value}}, {});
 }
 
 TEST(PortalSettings, AChoiceIsPresetFromTheClientsSettings) {
-  const PortalChoice choice = choiceAskedFor({{u"n-copies"_s, u"3"_s},
-                                              {u"collate"_s, u"false"_s},
-                                              {u"reverse"_s, u"true"_s},
-                                              {u"number-up"_s, u"2"_s},
-                                              {u"number-up-layout"_s, u"rltb"_s},
-                                              {u"scale"_s, u"70.5"_s},
-                                              {u"page-set"_s, u"even"_s},
-                                              {u"print-pages"_s, u"ranges"_s},
-                                              {u"page-ranges"_s, u"0-2,4,6--1"_s},
-                                              {u"duplex"_s, u"vertical"_s},
-                                              {u"paper-format"_s, u"iso_a4"_s},
-                                              {u"printer"_s, u"Office"_s}},
-                                             a4);
+  const PortalChoice choice = choiceAskedFor(
+      texts(u"n-copies=3 collate=false reverse=true number-up=2 number-up-layout=rltb scale=70.5 "
+            "page-set=even print-pages=ranges page-ranges=0-2,4,6--1 duplex=vertical "
+            "paper-format=iso_a4 printer=Office"_s),
+      a4);
   EXPECT_EQ(choice.copies, 3);
   EXPECT_FALSE(choice.isCollated);
   EXPECT_TRUE(choice.isReversed);
@@ -54,8 +53,7 @@ TEST(PortalSettings, WhatIsNoSenseIsTheDefault) {
     EXPECT_EQ(asked(u"number-up"_s, value).numberUp, 1) << value;
   }
   for (const QString& value : {u""_s, u"x"_s, u"2-1"_s, u"-3--2"_s, u"1,x"_s}) {
-    const PortalChoice choice =
-        choiceAskedFor({{u"print-pages"_s, u"ranges"_s}, {u"page-ranges"_s, value}}, {});
+    const PortalChoice choice = choiceAskedFor(texts(u"print-pages=ranges page-ranges="_s + value), {});
     EXPECT_EQ(choice.pages, PortalPages::All) << value;
   }
   EXPECT_EQ(asked(u"scale"_s, u"0"_s).scale, 100);
@@ -73,31 +71,17 @@ TEST(PortalSettings, TheOrientationIsThePageSetupsThenTheSettings) {
 }
 
 TEST(PortalSettings, WhatThePrintSystemDoesIsNeutralForTheClient) {
-  const QJsonObject settings{{u"n-copies"_s, u"3"_s},         {u"reverse"_s, u"true"_s},
-                             {u"number-up"_s, u"2"_s},        {u"number-up-layout"_s, u"rltb"_s},
-                             {u"scale"_s, u"70"_s},           {u"page-set"_s, u"even"_s},
-                             {u"collate"_s, u"false"_s},      {u"output-file-format"_s, u"ps"_s},
-                             {u"quality"_s, u"high"_s},       {u"output-uri"_s, u"file:///etc/x"_s},
-                             {u"print-pages"_s, u"ranges"_s}, {u"page-ranges"_s, u"4"_s}};
+  const QJsonObject settings = texts(
+      u"n-copies=3 reverse=true number-up=2 number-up-layout=rltb scale=70 page-set=even collate=false "
+      "output-file-format=ps quality=high output-uri=file:///etc/x print-pages=ranges page-ranges=4"_s);
   PortalChoice choice = choiceAskedFor(settings, a4);
   choice.pages = PortalPages::All;
   choice.printer = u"Office"_s;
-  EXPECT_EQ(settingsToReturn(settings, choice), (QJsonObject{{u"n-copies"_s, u"1"_s},
-                                                             {u"reverse"_s, u"false"_s},
-                                                             {u"number-up"_s, u"1"_s},
-                                                             {u"number-up-layout"_s, u"lrtb"_s},
-                                                             {u"scale"_s, u"100"_s},
-                                                             {u"page-set"_s, u"all"_s},
-                                                             {u"collate"_s, u"true"_s},
-                                                             {u"output-file-format"_s, u"pdf"_s},
-                                                             {u"quality"_s, u"high"_s},
-                                                             {u"print-pages"_s, u"all"_s},
-                                                             {u"orientation"_s, u"portrait"_s},
-                                                             {u"duplex"_s, u"simplex"_s},
-                                                             {u"printer"_s, u"Office"_s},
-                                                             {u"paper-format"_s, u"A4"_s},
-                                                             {u"paper-width"_s, u"210.000000"_s},
-                                                             {u"paper-height"_s, u"297.000000"_s}}));
+  EXPECT_EQ(
+      settingsToReturn(settings, choice),
+      texts(u"n-copies=1 reverse=false number-up=1 number-up-layout=lrtb scale=100 page-set=all collate=true "
+            "output-file-format=pdf quality=high print-pages=all orientation=portrait duplex=simplex "
+            "printer=Office paper-format=A4 paper-width=210.000000 paper-height=297.000000"_s));
 }
 
 TEST(PortalSettings, TheClientDrawsTheChosenPages) {
