@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The Debian package of a build: read by lintian, used from a folder that it is unpacked in, installed and removed.
+# The Debian packages of a build: read by lintian, used from a folder they are unpacked in, installed and removed.
 # usage: tests/package_test.sh BUILD_FOLDER    (ends with 77 where the packaging tools are missing)
 # shellcheck disable=SC2317  # functions are called by their names
 set -euo pipefail
@@ -34,12 +34,12 @@ expect() {
   failures=$((failures + 1))
 }
 
-expect "the package is made" 'package: .* generated' cpack --config "$build/CPackConfig.cmake" -B "$scratch/made"
-package=$(echo "$scratch"/made/*.deb)
-expect "lintian finds no error" '' lintian --fail-on error "$package"
+expect "the packages are made" 'package: .* generated' cpack --config "$build/CPackConfig.cmake" -B "$scratch/made"
+packages=("$scratch"/made/kesto-job-handling_*.deb "$scratch"/made/kesto-job-handling-portal_*.deb)
+expect "lintian finds no error" '' lintian --fail-on error "${packages[@]}"
 
 root=$scratch/unpacked
-dpkg-deb -x "$package" "$root"
+for package in "${packages[@]}"; do dpkg-deb -x "$package" "$root"; done
 bin=$root/usr/bin
 bundle=$(echo "$root"/usr/lib/*/kesto/pde/JobHandling.pde)
 queue=(--ppd "$root/usr/share/kesto/kesto-vq250n.ppd" --device-uri lpd://x)
@@ -53,6 +53,15 @@ mv "$bundle" "$bundle.away"
 fails() { ! "$@"; }
 expect "the bundle is the package's" 'JobHandling.pde is neither' fails "$bin/kesto-lp" "${hold[@]}" <<<2468
 mv "$bundle.away" "$bundle"
+
+# What the portal's front end and D-Bus read leads to the service.
+share=$root/usr/share
+name=$(sed -n 's/^DBusName=//p' "$share/xdg-desktop-portal/portals/00-kesto.portal")
+expect "the bus knows the portal's name" "^Name=$name$" cat "$share/dbus-1/services/$name.service"
+for file in "$share/dbus-1/services/$name.service" "$root/usr/lib/systemd/user/kesto-portal.service"; do
+  expect "$file names the program" '' test -x "$root$(sed -nE 's/^Exec(Start)?=//p' "$file")"
+done
+expect "the dialog is beside the service" '' test -x "$bin/kesto-print"
 
 # The demo printer finds its programs and its queue's description beside it.
 exec {log}< <(exec "$bin/kesto-demo-printer" --dir "$scratch/run" --folder-port 0 --json 2>&1)
@@ -87,9 +96,9 @@ touch "$installed"/var/lib/dpkg/{status,available}
 dpkg_there() {
   dpkg --root="$installed" --log=/dev/null --force-not-root --force-bad-path --force-depends "$@"
 }
-expect "installing" '' dpkg_there --install "$package"
+expect "installing" '' dpkg_there --install "${packages[@]}"
 expect "an installed program" '^Usage: ' "$installed/usr/bin/kesto-lp" --help
-expect "removing" '' dpkg_there --purge kesto-job-handling
+expect "removing" '' dpkg_there --purge kesto-job-handling-portal kesto-job-handling
 expect "nothing is left" '^$' find "$installed" -mindepth 1 -not -path "$installed/var*"
 
 exit $((failures > 0))
