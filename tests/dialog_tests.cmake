@@ -7,5 +7,16 @@ function(kesto_dialog_test name)
   add_dependencies(${name} kesto_resources kesto-demo-printer kesto-print)
 endfunction()
 
-kesto_dialog_test(dialog_test SOURCES dialog_pane_test.cpp)
+kesto_dialog_test(dialog_test SOURCES dialog_pane_test.cpp dialog_print_test.cpp LINKS Qt6::Network)
 gtest_discover_tests(dialog_test DISCOVERY_MODE PRE_TEST PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+
+# The look, once for each language and scale: both are set before the program starts.
+kesto_dialog_test(dialog_look_test SOURCES dialog_look_test.cpp)
+foreach(locale en_US de_DE fr_FR es_ES ja_JP zh_CN)
+  foreach(percent 100 200)
+    set(name dialog_look_test.${locale}.${percent})
+    add_test(NAME ${name} COMMAND dialog_look_test)
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT
+      "QT_QPA_PLATFORM=offscreen;LC_ALL=${locale}.UTF-8;LANGUAGE=;KESTO_TEST_PERCENT=${percent}")
+  endforeach()
+endforeach()

@@ -1,7 +1,9 @@
 #include "hosts/dialog/control_binders.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QPointer>
 #include <QtGui/QIcon>
+#include <QtGui/QPainter>
 #include <QtGui/QStandardItemModel>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
@@ -36,9 +38,56 @@ QIcon iconOf(const std::optional<Image>& off, const std::optional<Image>& on) {
   return icon;
 }
 
+// Shows the shapes of an icon's images in the colour of the button's text, so that they are seen in every
+// theme.
+class IconTint : public QObject {
+ public:
+  IconTint(QAbstractButton& button, QIcon shapes)
+      : QObject(&button), m_button(button), m_shapes(std::move(shapes)) {
+    button.installEventFilter(this);
+    tint();
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::PaletteChange) tint();
+    return false;
+  }
+
+ private:
+  void tint() {
+    QIcon icon;
+    for (const QIcon::State state : {QIcon::Off, QIcon::On}) {
+      for (const qreal ratio : {1.0, 2.0, 3.0}) {
+        icon.addPixmap(tinted(state, ratio, QPalette::Active), QIcon::Normal, state);
+        icon.addPixmap(tinted(state, ratio, QPalette::Disabled), QIcon::Disabled, state);
+      }
+    }
+    m_button.setIcon(icon);
+  }
+
+  QPixmap tinted(QIcon::State state, qreal ratio, QPalette::ColorGroup group) const {
+    QPixmap pixmap = m_shapes.pixmap(m_button.iconSize(), ratio, QIcon::Normal, state);
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), m_button.palette().color(group, QPalette::ButtonText));
+    return pixmap;
+  }
+
+  QAbstractButton& m_button;
+  QIcon m_shapes;
+};
+
+void dressHoldButton(const Button& control, QAbstractButton& widget) {
+  widget.setFocusPolicy(Qt::StrongFocus);
+  const int points = control.image() ? control.image()->points : Image().points;
+  widget.setIconSize(QSize(points, points));
+  // Without images of its own a control keeps those of the form.
+  new IconTint(widget, control.image() ? iconOf(control.image(), control.alternateImage()) : widget.icon());
+}
+
 void bindButton(Button& control, QAbstractButton& widget) {
-  if (control.image()) widget.setIcon(iconOf(control.image(), control.alternateImage()));
-  if (control.type() == Button::Type::HoldButton) widget.setFocusPolicy(Qt::StrongFocus);
+  if (control.type() == Button::Type::HoldButton) dressHoldButton(control, widget);
   follow(control, widget, [&control, &widget] {
     if (control.type() != Button::Type::HoldButton) setPlainText(widget, control.title());
     widget.setEnabled(control.isEnabled());

@@ -25,8 +25,8 @@ class PanelView : public QObject {
     return findChild<T*>(name, Qt::FindDirectChildrenOnly);
   }
 
-  /// The form that the controls were made from, a Qt Designer form in UTF-8: a host with a window shows it, each
-  /// widget bound to the control of its name.
+  /// The form that the controls were made from, a Qt Designer form in UTF-8: a host with a window shows it,
+  /// each widget bound to the control of its name.
   const QByteArray& form() const { return m_form; }
   void setForm(const QByteArray& form) { m_form = form; }
 
