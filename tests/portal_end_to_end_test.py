@@ -1,15 +1,19 @@
 #!/usr/bin/python3
-"""Prints through the real front end of the desktop portal, with a real GTK client and a dialog that the test plays.
+"""Prints through the real front end of the desktop portal, with a real GTK client, and a dialog that the test plays or
+the real one on the demo printer.
 
 usage: portal_end_to_end_test.py BUILD_FOLDER    (ends with 77 where a package is missing)
 """
 import contextlib
+import http.client
 import json
 import os
 import pathlib
+import pwd
 import shutil
 import signal
 import socket
+import struct
 import subprocess
 import sys
 import tempfile
@@ -29,7 +33,7 @@ PATIENCE = 20
 
 def missing():
     """What the test needs and this system has not."""
-    programs = ["dbus-daemon", "Xvfb", "pdftotext", "pdfinfo", "gdbus"]
+    programs = ["dbus-daemon", "Xvfb", "pdftotext", "pdfinfo", "gdbus", "xdotool", "pgrep"]
     lacking = [name for name in programs if not shutil.which(name)] + [str(FRONT_END)] * (not FRONT_END.exists())
     code = 'import gi; gi.require_version("Gtk", "3.0"); from gi.repository import Gtk; import gi._gi_cairo'
     if subprocess.run(["/usr/bin/python3", "-c", code], stderr=subprocess.DEVNULL).returncode:
@@ -59,7 +63,8 @@ class Dialog:
 class Session:
     """A desktop session in a folder of its own: a bus, the front end and the service, and perhaps a display."""
 
-    def __init__(self, display):
+    def __init__(self, display, programs=None):
+        self.programs = programs
         self.stack = contextlib.ExitStack()
         self.root = pathlib.Path(self.stack.enter_context(tempfile.TemporaryDirectory(ignore_cleanup_errors=True)))
         self.environment = {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8"}
@@ -77,8 +82,11 @@ class Session:
             self.root / "xdg_data_home/dbus-1/services"
         for folder in [programs, portals, services]:
             folder.mkdir(parents=True)
-        shutil.copy(BUILD / "bin/kesto-portal", programs)
-        shutil.copy(BUILD / "bin/portal-dialog-stand-in", programs / "kesto-print")
+        if self.programs:
+            programs = self.programs
+        else:
+            shutil.copy(BUILD / "bin/kesto-portal", programs)
+            shutil.copy(BUILD / "bin/portal-dialog-stand-in", programs / "kesto-print")
         (portals / "kesto.portal").write_text(
             f"[portal]\nDBusName={NAME}\nInterfaces=org.freedesktop.impl.portal.Print;\nUseIn=printtest;\n")
         (portals / "portals.conf").write_text(
@@ -238,6 +246,117 @@ class Printing(unittest.TestCase):
             dialog.choose()
             self.print_document(client, dialog)
             self.assertEqual(self.pages(), [1, 2])
+
+
+class WithTheDialog(unittest.TestCase):
+    """The real dialog, worked by its keys."""
+    retention, pass_code = "alt+e", "alt+p"
+
+    def setUp(self):
+        self.session = Session(display=True, programs=BUILD / "bin")
+        self.addCleanup(self.session.stack.close)
+        self.root = self.session.root
+        os.chmod(self.root, 0o711)  # the scheduler's jobs may run as another user
+        self.printer = self.session.start(
+            [BUILD / "bin/kesto-demo-printer", "--dir", self.root / "printer", "--folder-port", "0", "--json"],
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        self.session.stack.callback(self.printer.stdout.close)
+        self.session.stack.callback(self.session.end, self.printer)
+        self.places = json.loads(self.printer.stdout.readline())
+        self.session.call("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                          "org.freedesktop.DBus.UpdateActivationEnvironment",
+                          "{'CUPS_SERVER': '%s'}" % self.places["server"])
+
+    def run_tool(self, *command):
+        return subprocess.run(command, env=self.session.environment, text=True, check=True, timeout=PATIENCE,
+                              stdout=subprocess.PIPE).stdout
+
+    def focus_dialog(self):
+        """Waits for the dialog to be ready for its queue, and gives it the keyboard."""
+        window = self.run_tool("xdotool", "search", "--sync", "--onlyvisible", "--name", "Print on Office_MFP").split()[0]
+        self.run_tool("xdotool", "windowfocus", "--sync", window)
+
+    def keys(self, *keys):
+        self.run_tool("xdotool", "key", "--delay", "40", *keys)
+
+    def jobs(self):
+        return json.loads(self.run_tool(BUILD / "bin/kesto-demo-printer", "jobs", "--dir", self.root / "printer",
+                                        "--json"))
+
+    def wait_for_job(self):
+        while not self.jobs():
+            self.assertIsNone(self.printer.poll())
+
+    def choose(self):
+        self.focus_dialog()
+        self.keys(self.retention)
+        self.keys(self.pass_code)
+        self.keys("2", "4", "6", "8")
+        self.keys("Return")
+
+    def end_of(self, client):
+        output, _ = client.communicate(timeout=PATIENCE)
+        return json.loads(output)
+
+    def job_attributes(self):
+        """What the scheduler tells of job 1, as the bytes of IPP."""
+        request = struct.pack(">HHIB", 0x0200, 0x0009, 1, 1)
+        for tag, name, value in [(0x47, "attributes-charset", "utf-8"), (0x48, "attributes-natural-language", "en"),
+                                 (0x45, "job-uri", "ipp://localhost/jobs/1"),
+                                 (0x42, "requesting-user-name", pwd.getpwuid(os.getuid()).pw_name)]:
+            request += struct.pack(f">BH{len(name)}sH{len(value)}s", tag, len(name), name.encode(), len(value),
+                                   value.encode())
+        connection = http.client.HTTPConnection(self.places["server"], timeout=PATIENCE)
+        self.addCleanup(connection.close)
+        connection.request("POST", "/jobs/", request + b"\3", {"Content-Type": "application/ipp"})
+        return connection.getresponse().read()
+
+    def release(self):
+        pin = self.root / "pin"
+        pin.write_text("2468\n")
+        self.run_tool(BUILD / "bin/kesto-demo-printer", "release", "1", "--dir", self.root / "printer", "--pin-file", pin)
+        document = next(pathlib.Path(self.places["output"]).iterdir())
+        return self.run_tool("pdftotext", document, "-")
+
+    def test_hold_with_a_pass_code(self):
+        client = self.session.client(pages=4, settings={"n-copies": "3", "number-up": "2", "my-key": "my value"})
+        self.choose()
+        answer = self.end_of(client)
+        self.assertEqual(answer["result"], "apply")
+        self.assertEqual(answer["saved"]["my-key"], "my value")
+        self.assertNotIn("kesto", json.dumps(answer))
+        self.wait_for_job()
+        self.assertEqual(self.jobs()[0]["state"], "held")
+        secrets = [json.dumps(answer).encode(), (self.root / "log").read_bytes()]
+        for place in secrets:
+            self.assertNotIn(b"2468", place)
+        attributes = self.job_attributes()
+        for name, number in [(b"copies", 3), (b"number-up", 2)]:
+            self.assertIn(name + struct.pack(">HI", 4, number), attributes)
+        text = self.release()
+        self.assertEqual([text.count(f"This is page {page}") for page in (1, 2, 3, 4, 5)], [1, 1, 1, 1, 0])
+
+    def test_escape(self):
+        client = self.session.client()
+        self.focus_dialog()
+        self.keys("Escape")
+        self.assertEqual(self.end_of(client)["result"], "cancel")
+        self.assertEqual(self.jobs(), [])
+
+    def test_a_queue_that_does_not_take_the_job(self):
+        client = self.session.client()
+        self.focus_dialog()
+        scheduler = int(self.run_tool("pgrep", "-f", str(self.root / "printer/cups/cupsd")).split()[0])
+        os.kill(scheduler, signal.SIGSTOP)
+        try:
+            self.choose()
+            self.assertEqual(self.end_of(client)["result"], "apply")  # the client is gone, its job is not lost
+            self.focus_dialog()  # it is back with its reason
+        finally:
+            os.kill(scheduler, signal.SIGCONT)
+        self.keys("Return")
+        self.wait_for_job()
+        self.assertIn("This is page 1", self.release())
 
 
 if __name__ == "__main__":

@@ -1,5 +1,7 @@
 #include "hosts/cups/ppd_choices.h"
 
+#include <cups/pwg.h>
+
 #include <array>
 
 namespace kesto {
@@ -45,6 +47,24 @@ QStringList markChoice(ppd_file_t& ppd, const QString& option, const QString& ch
     if (each->conflicted != 0) conflicts.append(QString::fromUtf8(each->text));
   }
   return conflicts;
+}
+
+std::optional<PpdPaper> markedPaper(ppd_file_t& ppd) {
+  const ppd_choice_t* choice = ppdFindMarkedChoice(&ppd, "PageSize");
+  const ppd_size_t* size = choice == nullptr ? nullptr : ppdPageSize(&ppd, choice->choice);
+  if (size == nullptr) return {};
+  constexpr double perPoint = 25.4 / 72;
+  const pwg_media_t* media = pwgMediaForPPD(size->name);
+  return PpdPaper{
+      .keyword = QString::fromUtf8(size->name),
+      .text = QString::fromUtf8(choice->text),
+      .standardName = media == nullptr ? QString() : QString::fromUtf8(media->pwg).section(u'_', 0, -2),
+      .width = size->width * perPoint,
+      .height = size->length * perPoint,
+      .left = size->left * perPoint,
+      .right = (size->width - size->right) * perPoint,
+      .top = (size->length - size->top) * perPoint,
+      .bottom = size->bottom * perPoint};
 }
 
 }  // namespace kesto

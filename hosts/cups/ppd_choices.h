@@ -3,6 +3,7 @@
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <optional>
 #include <vector>
 
 #include "hosts/cups/ppd_file.h"
@@ -32,5 +33,22 @@ std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledB
 
 /// Marks one value. Answers the texts of the options that do not go together then; empty for none.
 QStringList markChoice(ppd_file_t& ppd, const QString& option, const QString& choice);
+
+/// A paper size of a PPD; lengths in millimetres.
+struct PpdPaper {
+  QString keyword;       ///< The choice of PageSize.
+  QString text;          ///< As the PPD names it for people.
+  QString standardName;  ///< The self-describing name without its dimensions, as in "iso_a5"; null if it has
+                         ///< none.
+  double width = 0;
+  double height = 0;
+  double left = 0;  ///< From here on the margins that the printer cannot reach.
+  double right = 0;
+  double top = 0;
+  double bottom = 0;
+};
+
+/// The paper size that is marked, none when the PPD tells of none.
+std::optional<PpdPaper> markedPaper(ppd_file_t& ppd);
 
 }  // namespace kesto

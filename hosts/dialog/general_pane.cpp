@@ -157,14 +157,22 @@ void GeneralPane::choose(const QString& option, const QString& choice) {
   if (index >= 0) row->combo->setCurrentIndex(index);
 }
 
+QString GeneralPane::chosen(const QString& option) const {
+  const auto row = std::ranges::find(m_rows, option, &Row::keyword);
+  return row == m_rows.end() ? QString() : row->combo->currentData().toString();
+}
+
+QString GeneralPane::pages() const {
+  return m_somePages->isChecked() ? pageRangesOf(m_pages->text()).value_or(QString()) : QString();
+}
+
 QMap<QString, QString> GeneralPane::jobOptions() const {
   QMap<QString, QString> options;
   if (m_copies->value() > 1) {
     options.insert(QStringLiteral("copies"), QString::number(m_copies->value()));
     options.insert(QStringLiteral("collate"), QLatin1String(m_collate->isChecked() ? "true" : "false"));
   }
-  if (m_somePages->isChecked())
-    options.insert(QStringLiteral("page-ranges"), pageRangesOf(m_pages->text()).value_or(QString()));
+  if (!pages().isNull()) options.insert(QStringLiteral("page-ranges"), pages());
   for (const Row& row : m_rows) {
     if (row.combo->currentIndex() != row.initial)
       options.insert(row.keyword, row.combo->currentData().toString());

@@ -31,6 +31,10 @@ class GeneralPane : public QWidget {
   /// Chooses a value of an offered option, if there is such a one.
   void choose(const QString& option, const QString& choice);
 
+  /// The value of an offered option, null for one that is not offered.
+  QString chosen(const QString& option) const;
+  /// The pages asked for as the option "page-ranges" takes them, null for all.
+  QString pages() const;
   /// The job options that differ from what the queue does by itself.
   QMap<QString, QString> jobOptions() const;
   /// Why the job cannot be printed like this; null when it can.

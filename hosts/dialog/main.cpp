@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "hosts/dialog/options.h"
+#include "hosts/dialog/portal_print.h"
 #include "hosts/dialog/preview.h"
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/start_times.h"
@@ -56,6 +57,12 @@ void takeScreenshot(PrintDialog& dialog, const QString& path) {
   QObject::connect(&dialog.preview(), &Preview::shown, &dialog, take, Qt::QueuedConnection);
 }
 
+int runForPortal(const PrintOptions& options) {
+  QApplication::setQuitOnLastWindowClosed(false);
+  const PortalPrint print(options);
+  return QApplication::exec();
+}
+
 int run(TimedApplication& application, const PrintOptions& options) {
   Document document;
   openDocument(options, document);
@@ -84,5 +91,5 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("kesto-print"));
   QApplication::setDesktopFileName(QStringLiteral("kesto-print"));
   kesto::installTranslations();
-  return kesto::run(application, options);
+  return options.channel >= 0 ? kesto::runForPortal(options) : kesto::run(application, options);
 }

@@ -18,8 +18,9 @@ struct PrintOptions {
   int copies = 1;
   QMap<QString, QString> jobOptions;  ///< Options of the job beside those of the dialog.
   ServerAddress server;
-  bool timings = false;  ///< Measure the start, print it and end.
-  QString screenshot;    ///< Write a picture of the dialog here and end; null for no picture.
+  bool documentLater = false;  ///< The document comes only after the choice, drawn as was chosen.
+  bool timings = false;        ///< Measure the start, print it and end.
+  QString screenshot;          ///< Write a picture of the dialog here and end; null for no picture.
   QString pane;      ///< The pane shown first: "general", "job-handling" or "summary"; null for the usual.
   int channel = -1;  ///< The descriptor by which the portal service speaks to the dialog; -1 for none.
 };

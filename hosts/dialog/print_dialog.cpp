@@ -213,6 +213,7 @@ void PrintDialog::chooseQueue(const QString& name) {
 
 void PrintDialog::leaveQueue() {
   m_isSettled = false;
+  setWindowTitle(tr("Print"));
   m_general->setPpd(nullptr, {});
   for (QWidget* pane : {static_cast<QWidget*>(m_panelPane), static_cast<QWidget*>(m_summary)}) {
     if (pane == nullptr) continue;
@@ -244,6 +245,7 @@ void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
 void PrintDialog::showQueue(const std::shared_ptr<Queue>& queue) {
   if (m_session.queue() != queue) return;
   if (m_session.view() != nullptr) showPanel();
+  setWindowTitle(tr("Print on %1").arg(queue->id));
   m_presets->update();
   m_isSettled = true;
   giveNames();
@@ -252,6 +254,11 @@ void PrintDialog::showQueue(const std::shared_ptr<Queue>& queue) {
 }
 
 void PrintDialog::takeNoQueue(const QString& reason) {
+  if (m_options.documentLater && !m_wanted.isNull() && m_wanted == m_options.queue) {
+    // The application named a queue of another time.
+    m_options.queue.clear();
+    return chooseQueue({});
+  }
   m_isSettled = true;
   m_chooser->showText(reason, true);
   if (m_wanted.isNull() && m_chooser->model().rowCount() > 0) takeQueues(m_chooser->model().queues());
@@ -299,9 +306,14 @@ void PrintDialog::showDocument() {
   if (state == State::None) text = tr("none chosen");
   if (state == State::Failed) text = m_document.fault();
   m_documentName->setText(text);
-  m_preview->show(file, state == State::Reading ? tr("The document is being read…") : tr("No document"));
-  m_chooseDocument->setVisible(state == State::None || state == State::Failed);
+  m_preview->show(file, state == State::Reading   ? tr("The document is being read…")
+                        : m_options.documentLater ? tr("The application draws the pages after the choice.")
+                                                  : tr("No document"));
+  const bool isLater = m_options.documentLater && state == State::None;
+  m_chooseDocument->setVisible(!isLater && (state == State::None || state == State::Failed));
+  if (isLater) m_documentName->setText(m_options.title);
   if (m_options.title.isNull()) m_session.renameJob(m_document.name());
+  if (m_phase == Phase::Waiting && state == State::Ready) return send();
   updateControls();
 }
 
@@ -322,11 +334,24 @@ void PrintDialog::print() {
     if (m_panelPane != nullptr) m_panelPane->showMissingEntry();
     return;
   }
+  const bool hasDocument = m_document.state() == Document::State::Ready;
+  if (!hasDocument) {
+    setPhase(Phase::Waiting);
+    hide();
+  } else {
+    send();
+  }
+  Q_EMIT chosen();
+}
+
+void PrintDialog::send() {
   PrintJob job{.title = m_options.title.isNull() ? m_document.name() : m_options.title,
                .files = m_document.files(),
                .options = m_options.jobOptions};
   job.options.insert(m_general->jobOptions());
   job.options.insert(m_session.settings());
+  // Whoever drew the document has left out the other pages.
+  if (m_options.documentLater) job.options.remove(QStringLiteral("page-ranges"));
   setPhase(Phase::Sending);
   m_client.send(m_session.queue(), job);
 }
@@ -336,11 +361,15 @@ void PrintDialog::takeSent(int job) {
   m_session.remember();
   showMessage(tr("Job %1 sent to %2").arg(job).arg(m_session.queue()->id));
   setPhase(Phase::Sent);
+  if (!isVisible()) return accept();
   QTimer::singleShot(farewell, this, &QDialog::accept);
 }
 
 void PrintDialog::takeSendFailure(const QString& reason) {
   setPhase(Phase::Choosing);
+  show();  // the user may believe it printed
+  raise();
+  activateWindow();
   showMessage(tr("Not printed: %1").arg(reason));
 }
 
@@ -367,8 +396,8 @@ void PrintDialog::updateControls() {
   m_presets->setEnabled(isChoosing && m_session.presets() != nullptr);
   m_chooseDocument->setEnabled(isChoosing);
   const bool hasDocument = m_document.state() == Document::State::Ready;
-  m_print->setEnabled(isQueueReady() && hasDocument);
-  m_print->setToolTip(hasDocument ? QString() : tr("There is no document to print yet."));
+  m_print->setEnabled(isQueueReady() && (hasDocument || m_options.documentLater));
+  m_print->setToolTip(m_print->isEnabled() ? QString() : tr("There is no document to print yet."));
 }
 
 void PrintDialog::reject() {

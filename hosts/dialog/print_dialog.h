@@ -50,6 +50,10 @@ class PrintDialog : public QDialog {
   /// The print settings that travel with the job, as the panel last wrote them.
   QMap<QString, QString> jobSettings() const { return m_session.settings(); }
   QString queueName() const { return m_wanted; }
+  /// What is chosen of copies, pages and the queue's options.
+  GeneralPane& general() { return *m_general; }
+  /// The PPD of the chosen queue, null without one.
+  ppd_file_t* ppd() const { return m_session.ppd(); }
 
   /// Goes over to a queue that is open.
   void takeQueue(const std::shared_ptr<Queue>& queue);
@@ -60,12 +64,15 @@ class PrintDialog : public QDialog {
   void listed();
   /// The chosen queue can be printed on, or cannot be had.
   void settled();
+  /// The user has pressed Print and the panel agrees. With a document the job is on its way; without one the
+  /// dialog is hidden, and sends the job when the document is ready.
+  void chosen();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  enum class Phase { Choosing, Sending, Sent };
+  enum class Phase { Choosing, Waiting, Sending, Sent };
 
   void start();
   void build();
@@ -83,6 +90,7 @@ class PrintDialog : public QDialog {
   void showDocument();
   void chooseDocument();
   void print();
+  void send();
   void takeSent(int job);
   void takeSendFailure(const QString& reason);
   void setPhase(Phase phase);

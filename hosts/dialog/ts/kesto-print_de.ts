@@ -357,6 +357,14 @@
         <source>Stopping the job…</source>
         <translation>Auftrag wird abgebrochen&#xa0;…</translation>
     </message>
+    <message>
+        <source>Print on %1</source>
+        <translation>Drucken auf %1</translation>
+    </message>
+    <message>
+        <source>The application draws the pages after the choice.</source>
+        <translation>Die Anwendung zeichnet die Seiten nach der Auswahl.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>

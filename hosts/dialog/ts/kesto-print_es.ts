@@ -357,6 +357,14 @@
         <source>Stopping the job…</source>
         <translation>Deteniendo el trabajo…</translation>
     </message>
+    <message>
+        <source>Print on %1</source>
+        <translation>Imprimir en %1</translation>
+    </message>
+    <message>
+        <source>The application draws the pages after the choice.</source>
+        <translation>La aplicación dibuja las páginas después de la selección.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>

@@ -357,6 +357,14 @@
         <source>Stopping the job…</source>
         <translation>Annulation du travail…</translation>
     </message>
+    <message>
+        <source>Print on %1</source>
+        <translation>Imprimer sur %1</translation>
+    </message>
+    <message>
+        <source>The application draws the pages after the choice.</source>
+        <translation>L’application dessine les pages après le choix.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>

@@ -356,6 +356,14 @@
         <source>Stopping the job…</source>
         <translation>ジョブを中止しています…</translation>
     </message>
+    <message>
+        <source>Print on %1</source>
+        <translation>%1 で印刷</translation>
+    </message>
+    <message>
+        <source>The application draws the pages after the choice.</source>
+        <translation>ページは選択の後にアプリケーションが描画します。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>

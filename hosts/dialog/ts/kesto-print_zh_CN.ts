@@ -356,6 +356,14 @@
         <source>Stopping the job…</source>
         <translation>正在停止作业…</translation>
     </message>
+    <message>
+        <source>Print on %1</source>
+        <translation>在 %1 上打印</translation>
+    </message>
+    <message>
+        <source>The application draws the pages after the choice.</source>
+        <translation>应用程序在选择之后绘制页面。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>

@@ -1,0 +1,153 @@
+#include "hosts/dialog/portal_print.h"
+
+#include <QtGui/QWindow>
+#include <QtWidgets/QApplication>
+
+#include "hosts/cups/ppd_choices.h"
+#include "hosts/dialog/general_pane.h"
+
+namespace kesto {
+namespace {
+
+struct DuplexChoice {
+  PortalDuplex side;
+  QLatin1String keyword;  // of the PPD's Duplex
+};
+
+constexpr std::array duplexChoices{
+    DuplexChoice{PortalDuplex::Simplex, QLatin1String("None")},
+    DuplexChoice{PortalDuplex::LongEdge, QLatin1String("DuplexNoTumble")},
+    DuplexChoice{PortalDuplex::ShortEdge, QLatin1String("DuplexTumble")},
+};
+
+// What the client leaves to the print system, and the dialog has no control for.
+QMap<QString, QString> jobOptionsOf(const PortalChoice& asked) {
+  QMap<QString, QString> options;
+  if (asked.numberUp > 1) {
+    options.insert(QStringLiteral("number-up"), QString::number(asked.numberUp));
+    options.insert(QStringLiteral("number-up-layout"), asked.numberUpLayout);
+  }
+  if (asked.isReversed) options.insert(QStringLiteral("outputorder"), QStringLiteral("reverse"));
+  if (asked.scale != 100) options.insert(QStringLiteral("scaling"), QString::number(asked.scale));
+  if (asked.pageSet != PortalPageSet::All) {
+    const bool isEven = asked.pageSet == PortalPageSet::Even;
+    options.insert(QStringLiteral("page-set"), QLatin1String(isEven ? "even" : "odd"));
+  }
+  return options;
+}
+
+PortalPaper portalPaperOf(const PpdPaper& paper) {
+  return {.ppdName = paper.keyword,
+          .name = paper.standardName,
+          .displayName = paper.text,
+          .width = paper.width,
+          .height = paper.height,
+          .marginTop = paper.top,
+          .marginBottom = paper.bottom,
+          .marginLeft = paper.left,
+          .marginRight = paper.right};
+}
+
+}  // namespace
+
+PortalPrint::PortalPrint(const PrintOptions& options)
+    : m_options(options), m_channel(Descriptor(options.channel)) {
+  connect(&m_channel, &PrintChannel::received, this, &PortalPrint::take);
+  connect(&m_channel, &PrintChannel::closed, this, &PortalPrint::withdraw);
+  connect(&m_document, &Document::changed, this, &PortalPrint::takeDocument);
+}
+
+void PortalPrint::take(const QJsonObject& message, Descriptor& attached) {
+  const QString what = message.value(u"do").toString();
+  if (what == u"open" && !m_dialog) open(message);
+  if (what == u"close") withdraw();
+  if (what == u"print" && m_dialog && attached)
+    m_document.readDescriptor(attached.release(), message.value(u"title").toString());
+}
+
+void PortalPrint::open(const QJsonObject& message) {
+  m_settings = message.value(u"settings").toObject();
+  m_pageSetup = message.value(u"pageSetup").toObject();
+  m_choice = choiceAskedFor(m_settings, m_pageSetup);
+  m_options.documentLater = !message.value(u"document").toBool();
+  m_options.title = message.value(u"title").toString();
+  m_options.copies = m_choice.copies;
+  m_options.jobOptions.insert(jobOptionsOf(m_choice));
+  if (m_options.queue.isNull() && !m_choice.printer.isEmpty()) m_options.queue = m_choice.printer;
+  m_dialog = std::make_unique<PrintDialog>(m_options, m_document);
+  connect(m_dialog.get(), &PrintDialog::settled, this, &PortalPrint::preset);
+  connect(m_dialog.get(), &PrintDialog::chosen, this, &PortalPrint::takeChoice);
+  connect(m_dialog.get(), &QDialog::finished, this, &PortalPrint::finish);
+  if (m_choice.pages == PortalPages::Ranges) m_dialog->general().setPages(m_choice.pageRanges);
+  attachTo(message.value(u"parentWindow").toString());
+  m_dialog->show();
+}
+
+// What the client asks for of the queue's own options, once these are known.
+void PortalPrint::preset() {
+  if (!m_choice.paper.ppdName.isEmpty())
+    m_dialog->general().choose(QStringLiteral("PageSize"), m_choice.paper.ppdName);
+  for (const DuplexChoice& each : duplexChoices) {
+    if (each.side == m_choice.duplex && each.side != PortalDuplex::Simplex)
+      m_dialog->general().choose(QStringLiteral("Duplex"), each.keyword);
+  }
+}
+
+// Other platforms give no way to a window of another process.
+void PortalPrint::attachTo(const QString& parentWindow) {
+  const QString prefix = QStringLiteral("x11:");
+  if (QGuiApplication::platformName() != u"xcb" || !parentWindow.startsWith(prefix)) return;
+  bool isNumber = false;
+  const WId number = parentWindow.sliced(prefix.size()).toULongLong(&isNumber, 16);
+  if (!isNumber || number == 0) return;
+  QWindow* parent = QWindow::fromWinId(number);
+  if (parent == nullptr) return;
+  m_dialog->winId();  // now it has a window to speak of
+  m_dialog->windowHandle()->setTransientParent(parent);
+  connect(m_dialog.get(), &QObject::destroyed, parent, &QObject::deleteLater);
+}
+
+void PortalPrint::takeChoice() {
+  if (std::exchange(m_isChosen, true)) return;
+  if (!m_options.documentLater) return takeDocument();
+  GeneralPane& general = m_dialog->general();
+  m_choice.printer = m_dialog->queueName();
+  m_choice.pages = general.pages().isNull() ? PortalPages::All : PortalPages::Ranges;
+  m_choice.pageRanges = general.pages();
+  for (const DuplexChoice& each : duplexChoices) {
+    if (general.chosen(QStringLiteral("Duplex")) == each.keyword) m_choice.duplex = each.side;
+  }
+  const auto paper = m_dialog->ppd() == nullptr ? std::nullopt : markedPaper(*m_dialog->ppd());
+  if (paper) m_choice.paper = portalPaperOf(*paper);
+  answer(QStringLiteral("chosen"), {{QStringLiteral("settings"), settingsToReturn(m_settings, m_choice)},
+                                    {QStringLiteral("pageSetup"), pageSetupToReturn(m_pageSetup, m_choice)}});
+}
+
+void PortalPrint::takeDocument() {
+  if (m_document.state() == Document::State::Failed && !m_isTaken) {
+    answer(QStringLiteral("failed"));
+    return withdraw();
+  }
+  if (m_document.state() != Document::State::Ready || !m_isChosen || std::exchange(m_isTaken, true)) return;
+  answer(QStringLiteral("taken"));
+}
+
+void PortalPrint::answer(const QString& word, QJsonObject message) {
+  message.insert(QStringLiteral("answer"), word);
+  // A service that is gone needs no answer; a job that is taken is printed all the same.
+  (void)m_channel.send(message);
+}
+
+void PortalPrint::withdraw() {
+  // A document that is on its way after the choice is the user's wish already.
+  if (m_isTaken || (m_isChosen && m_document.state() == Document::State::Reading)) return;
+  if (m_dialog) m_dialog->disconnect(this);
+  QCoreApplication::quit();
+}
+
+void PortalPrint::finish(int result) {
+  if (result != QDialog::Accepted && !m_isTaken) answer(QStringLiteral("cancelled"));
+  QCoreApplication::quit();
+}
+
+}  // namespace kesto

@@ -1,0 +1,44 @@
+// One print for the desktop portal: the dialog as the service's other end.
+#pragma once
+
+#include <memory>
+
+#include "hosts/dialog/document.h"
+#include "hosts/dialog/print_dialog.h"
+#include "hosts/portal/channel.h"
+#include "hosts/portal/portal_settings.h"
+
+namespace kesto {
+
+/// Shows the dialog that the service asks for, answers with the choice and prints the document that comes, as
+/// docs/formats/print-channel.md tells. The application's event loop ends with the print.
+class PortalPrint : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `options` name the channel's descriptor, which this object closes.
+  explicit PortalPrint(const PrintOptions& options);
+
+ private:
+  void take(const QJsonObject& message, Descriptor& attached);
+  void open(const QJsonObject& message);
+  void preset();
+  void attachTo(const QString& parentWindow);
+  void takeChoice();
+  void takeDocument();
+  void answer(const QString& word, QJsonObject message = {});
+  void withdraw();
+  void finish(int result);
+
+  PrintOptions m_options;
+  PrintChannel m_channel;
+  Document m_document;
+  QJsonObject m_settings;
+  QJsonObject m_pageSetup;
+  PortalChoice m_choice;
+  bool m_isChosen = false;
+  bool m_isTaken = false;  // the document is here whole, and the user wants it printed
+  std::unique_ptr<PrintDialog> m_dialog;
+};
+
+}  // namespace kesto
