@@ -59,7 +59,8 @@ void SettingsWriter::writeNonPPDSettingsToPrintSettings() {
 // The spool time of the job's first write, as plain text.
 QByteArray SettingsWriter::writeSpoolTime() {
   const std::optional<QString> stored = m_state.printSettings()->value(job_keys::whole(job_keys::spoolTime));
-  if (stored && stored->size() % 2 == 0) {
+  // The length counts as it stands: a NUL hides nothing behind it.
+  if (stored && stored->size() % 2 == 0 && stored->size() <= longestSpoolTimeHex) {
     const std::optional<QByteArray> hex = asciiOfText(*stored, longestSpoolTimeHex + 1);
     if (hex) return textOfHex(*hex);
   }
