@@ -14,6 +14,7 @@
 #include "panel/model/panel_view.h"
 #include "platform/alert_presenter.h"
 #include "platform/json_user_defaults.h"
+#include "platform/secret.h"
 
 namespace kesto {
 namespace {
@@ -198,7 +199,7 @@ Outcome Job::finish() {
   return print(m_host.settings->all(), "=", m_options.json);
 }
 
-ExitCode runJob(const Options& options, const Entries& entries, Queue& queue) {
+ExitCode runJob(const Options& options, Entries entries, Queue& queue) {
   StandardErrorAlerts alerts;
   std::shared_ptr<const Bundle> bundle;
   PrintDialogPlugIn* plugIn = nullptr;
@@ -211,7 +212,12 @@ ExitCode runJob(const Options& options, const Entries& entries, Queue& queue) {
     const Outcome listed = printFolders(job.panel(), options.address.value_or(QString()), options.json);
     return alerts.wasShown ? ExitFailed : ended(listed);
   }
-  if (Outcome entered = job.enter(entries); !entered) return ended(entered, ExitRefused);
+  const Outcome entered = job.enter(entries);
+  // The panel has them now, in their stored forms; an upload can take long.
+  for (std::optional<QString>& text : entries.texts) {
+    if (text) wipe(*text);
+  }
+  if (!entered) return ended(entered, ExitRefused);
   return ended(job.finish());
 }
 
@@ -246,7 +252,7 @@ ExitCode run(const Options& options) {
   if (!queue.ppd || !offersJobHandling(*queue.ppd)) return runPlainJob(options, queue);
   Entries entries = options.entries;
   if (Outcome read = readSecrets(options, &entries); !read) return ended(read);
-  return runJob(options, entries, queue);
+  return runJob(options, std::move(entries), queue);
 }
 
 }  // namespace kesto
