@@ -242,11 +242,20 @@ ExitCode runQueueList(const Options& options) {
   return ended(printQueues(*server, options.jobHandlingOnly, options.json));
 }
 
+ExitCode runCheck(const Options& options) {
+  std::unique_ptr<PrintServer> server;
+  if (Outcome connected = connectToServer(options, &server); !connected) return ended(connected);
+  bool isOpen = false;
+  const ExitCode code = ended(printPrivacy(*server, *options.queue, options.json, &isOpen));
+  return code == ExitDone && isOpen ? ExitFailed : code;
+}
+
 }  // namespace
 
 ExitCode run(const Options& options) {
   if (options.task == Task::ListPresets || options.task == Task::DeletePreset) return runPresets(options);
   if (options.task == Task::ListQueues) return runQueueList(options);
+  if (options.task == Task::Check) return runCheck(options);
   Queue queue;
   if (Outcome found = findQueue(options, &queue); !found) return ended(found);
   if (!queue.ppd || !offersJobHandling(*queue.ppd)) return runPlainJob(options, queue);

@@ -7,11 +7,6 @@
 namespace kesto {
 namespace {
 
-struct FreeIpp {
-  void operator()(ipp_t* ipp) const { ippDelete(ipp); }
-};
-using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
-
 // libcups asks whether to go on waiting: never.
 int giveUp(http_t* /*http*/, void* /*data*/) {
   return 0;
@@ -66,6 +61,10 @@ std::vector<QueueSummary> queuesOf(ipp_t* reply) {
 }
 
 }  // namespace
+
+void FreeIpp::operator()(ipp_t* ipp) const {
+  ippDelete(ipp);
+}
 
 void CloseHttp::operator()(http_t* http) const {
   httpClose(http);
@@ -146,6 +145,15 @@ Outcome PrintServer::ask(ipp_t* request, QByteArray* reply) {
                     : Outcome::failed(QStringLiteral("the print server's answer breaks off"));
 }
 
+Outcome PrintServer::request(ipp_t* request, Ipp* reply) {
+  QByteArray bytes;
+  if (Outcome asked = ask(request, &bytes); !asked) return asked;
+  reply->reset(ippNew());
+  Reader reader{bytes};
+  if (ippReadIO(&reader, readFromMemory, 1, nullptr, reply->get()) == IPP_STATE_DATA) return Outcome::done();
+  return Outcome::failed(QStringLiteral("the print server's answer is not readable"));
+}
+
 Outcome PrintServer::listQueues(std::vector<QueueSummary>* queues) {
   queues->clear();
   static const char* const shown[] = {"printer-name", "printer-info", "device-uri", "printer-state",
@@ -153,13 +161,8 @@ Outcome PrintServer::listQueues(std::vector<QueueSummary>* queues) {
   const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
   ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", std::size(shown),
                 nullptr, shown);
-  QByteArray bytes;
-  if (Outcome asked = ask(request.get(), &bytes); !asked) return asked;
-  const Ipp reply(ippNew());
-  Reader reader{bytes};
-  if (ippReadIO(&reader, readFromMemory, 1, nullptr, reply.get()) != IPP_STATE_DATA) {
-    return Outcome::failed(QStringLiteral("the print server's answer is not readable"));
-  }
+  Ipp reply;
+  if (Outcome asked = this->request(request.get(), &reply); !asked) return asked;
   const ipp_status_t status = ippGetStatusCode(reply.get());
   // A server without queues says that it found nothing.
   if (status > IPP_STATUS_OK_CONFLICTING && status != IPP_STATUS_ERROR_NOT_FOUND) {

@@ -17,12 +17,18 @@ namespace kesto {
 struct CloseHttp {
   void operator()(http_t* http) const;
 };
+struct FreeIpp {
+  void operator()(ipp_t* ipp) const;
+};
 struct FreeDest {
   void operator()(cups_dest_t* dest) const;
 };
 
 /// A queue with its options, as libcups gives it.
 using Destination = std::unique_ptr<cups_dest_t, FreeDest>;
+
+/// An IPP message, deleted with its owner.
+using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
 
 /// What a list of queues shows of one.
 struct QueueSummary {
@@ -46,6 +52,10 @@ class PrintServer {
   Outcome findQueue(const QString& name, Destination* destination);
   /// All queues by name, by one request for what a summary shows.
   Outcome listQueues(std::vector<QueueSummary>* queues);
+
+  /// Sends one request, as whom it names, and reads the reply, whatever its status; never asks for a
+  /// password.
+  Outcome request(ipp_t* request, Ipp* reply);
 
   /// For libcups's calls.
   http_t* http() const { return m_http.get(); }
