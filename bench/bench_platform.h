@@ -1,4 +1,4 @@
-// The platform that the benchmarks run on: nothing of it takes time.
+// The platform that benchmarks and fuzz targets run on: nothing of it takes time.
 #pragma once
 
 #include <QtCore/QCoreApplication>
@@ -22,22 +22,27 @@ inline QCoreApplication& application() {
   return instance;
 }
 
-/// Has the real bundle, and preferences that are always empty.
+/// Has the real bundle, and preferences that are always empty; both can be replaced.
 class BenchPlatform : public Platform, private UserDefaults, private AlertPresenter {
  public:
   BenchPlatform() { application(); }
+
+  void setBundle(std::shared_ptr<const Bundle> bundle) { m_bundle = std::move(bundle); }
+  /// `defaults` outlives the platform.
+  void setUserDefaults(UserDefaults& defaults) { m_defaults = &defaults; }
+  void setSystemEncoding(TextEncoding encoding) { m_encoding = encoding; }
 
   std::shared_ptr<const Bundle> bundle() override {
     if (!m_bundle) m_bundle = std::make_shared<const Bundle>(Bundle::find(QStringLiteral("JobHandling.pde")));
     return m_bundle;
   }
-  UserDefaults& userDefaults() override { return *this; }
+  UserDefaults& userDefaults() override { return *m_defaults; }
   AlertPresenter& alertPresenter() override { return *this; }
   QDateTime now() override { return m_now; }
   QString temporaryDirectory() override { return m_folder.path() + QLatin1Char('/'); }
   QString userName() override { return QStringLiteral("anna"); }
   QString fullUserName() override { return QStringLiteral("Anna Berg"); }
-  TextEncoding systemEncoding() override { return TextEncoding::MacRoman; }
+  TextEncoding systemEncoding() override { return m_encoding; }
 
  private:
   Domain persistentDomainForName(const QString& /*name*/) override {
@@ -50,23 +55,26 @@ class BenchPlatform : public Platform, private UserDefaults, private AlertPresen
                              const QString& /*button*/) override {}
 
   std::shared_ptr<const Bundle> m_bundle;
+  UserDefaults* m_defaults = this;
+  TextEncoding m_encoding = TextEncoding::MacRoman;
   QTemporaryDir m_folder;
   QDateTime m_now = QDateTime::currentDateTime();
 };
 
-/// A host with print settings and no printer.
+/// A host with print settings, and with a printer and a PPD when they are set.
 class BenchHost : public HostCallback {
  public:
-  const PrintSession& printSession() const override { return m_session; }
+  const PrintSession& printSession() const override { return session; }
   PrintSettings* printSettings() override { return &settings; }
-  ppd_file_s* ppdFile() override { return nullptr; }
+  ppd_file_s* ppdFile() override { return ppd; }
   bool answersWillChangePPDOptionKeyValue() const override { return true; }
-  Platform& platform() override { return m_platform; }
+  BenchPlatform& platform() override { return m_platform; }
 
   PrintSettings settings;
+  PrintSession session;
+  ppd_file_s* ppd = nullptr;  ///< Not owned.
 
  private:
-  PrintSession m_session;
   BenchPlatform m_platform;
 };
 

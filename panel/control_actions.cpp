@@ -1,6 +1,7 @@
 #include "panel/control_actions.h"
 
 #include "panel/model/panel_view.h"
+#include "platform/secret.h"
 
 namespace kesto {
 namespace {
@@ -105,7 +106,7 @@ void ControlActions::loginNameButtonProc(Control* /*sender*/) {
   TextField* field = m_state.outlets.loginNameEditText;
   if (button->state() != 1) {
     if (field != nullptr) field->setStringValue(QStringLiteral(""));
-    m_state.loginNameStringRef = QString();
+    wipe(m_state.loginNameStringRef);
     m_state.loginNameLockFlag = false;
   } else if (!m_state.loginNameLockFlag) {
     const QString name = textOfField(field);

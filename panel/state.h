@@ -12,6 +12,7 @@
 #include "platform/host_callback.h"
 #include "platform/platform.h"
 #include "platform/print_settings.h"
+#include "platform/secret.h"
 #include "platform/text_encoding.h"
 
 namespace kesto {
@@ -23,6 +24,9 @@ struct PanelState {
         platform(&host.platform()),
         pdeBundle(platform->bundle()),
         systemEncoding(platform->systemEncoding()) {}
+  ~PanelState() { wipe(loginNameStringRef); }
+  PanelState(const PanelState&) = delete;
+  PanelState& operator=(const PanelState&) = delete;
 
   /// The job's print settings, null when the host has none.
   PrintSettings* printSettings() const { return pdePluginCallbackObject->printSettings(); }

@@ -5,7 +5,8 @@
 #include <QtCore/QLoggingCategory>
 #include <array>
 #include <memory>
-#include <vector>
+
+#include "platform/secret.h"
 
 namespace kesto {
 namespace {
@@ -78,32 +79,51 @@ UConverter* converterOf(TextEncoding encoding) {
 }
 
 // The text of all bytes; null when they are not valid.
-QString decoded(UConverter* converter, const QByteArray& bytes) {
+QString decoded(UConverter* converter, QByteArrayView bytes) {
   if (converter == nullptr) return {};
-  // No byte of these encodings stands for more than two units.
-  std::vector<UChar> units(static_cast<std::size_t>(bytes.size()) * 2 + 1);
+  // No byte of these encodings stands for more than two units. No second copy is made: the text can be
+  // secret.
+  QString text(bytes.size() * 2 + 1, Qt::Uninitialized);
   UErrorCode status = U_ZERO_ERROR;
-  const int32_t count = ucnv_toUChars(converter, units.data(), static_cast<int32_t>(units.size()),
-                                      bytes.constData(), static_cast<int32_t>(bytes.size()), &status);
-  if (U_FAILURE(status)) return {};
-  // A text of no characters is a text all the same.
-  return count == 0 ? QString::fromLatin1("") : QString(reinterpret_cast<const QChar*>(units.data()), count);
+  const int32_t count =
+      ucnv_toUChars(converter, reinterpret_cast<UChar*>(text.data()), static_cast<int32_t>(text.size()),
+                    bytes.data(), static_cast<int32_t>(bytes.size()), &status);
+  if (U_FAILURE(status)) {
+    wipe(text);
+    return {};
+  }
+  text.truncate(count);
+  return text;
 }
 
-// The bytes of one character (one unit, or a surrogate pair); empty when it does not convert.
-QByteArray bytesOfCharacter(QStringView character, TextEncoding encoding) {
+// One character in some encoding; of no bytes when it does not convert.
+struct CharacterBytes {
+  std::array<char, 16> bytes{};
+  qsizetype size = 0;
+};
+
+// `character` is one unit or a surrogate pair.
+CharacterBytes bytesOfCharacter(QStringView character, TextEncoding encoding) {
+  CharacterBytes result;
   // ASCII is the same in every one of them; ICU's Shift JIS swaps three control characters.
   if (character.size() == 1 && character.front().unicode() < 0x80) {
-    return QByteArray(1, static_cast<char>(character.front().unicode()));
+    result.bytes[0] = static_cast<char>(character.front().unicode());
+    result.size = 1;
+    return result;
   }
   UConverter* converter = converterOf(encoding);
-  if (converter == nullptr) return {};
-  std::array<char, 16> bytes{};
+  if (converter == nullptr) return result;
   UErrorCode status = U_ZERO_ERROR;
-  const int32_t count = ucnv_fromUChars(converter, bytes.data(), bytes.size(),
-                                        reinterpret_cast<const UChar*>(character.utf16()),
-                                        static_cast<int32_t>(character.size()), &status);
-  return U_FAILURE(status) ? QByteArray() : QByteArray(bytes.data(), count);
+  const int32_t count = ucnv_fromUChars(
+      converter, result.bytes.data(), static_cast<int32_t>(result.bytes.size()),
+      reinterpret_cast<const UChar*>(character.utf16()), static_cast<int32_t>(character.size()), &status);
+  if (U_SUCCESS(status)) result.size = count;
+  return result;
+}
+
+// Room for so many units in any of the encodings. Text that grows without room leaves copies behind.
+qsizetype mostBytesOf(qsizetype units) {
+  return 4 * units;
 }
 
 // The character that begins at `position`: a surrogate pair is one.
@@ -194,16 +214,18 @@ QByteArray bytesOfText(QStringView text, TextEncoding encoding, qsizetype maxUni
                        std::optional<char> substitute) {
   const qsizetype end = qMin(maxUnits, text.size());
   QByteArray bytes;
+  bytes.reserve(qMin(maxBytes, mostBytesOf(end)));
   for (qsizetype position = 0; position < end;) {
     const QStringView character = characterAt(text, position);
     if (position + character.size() > end) break;
-    QByteArray converted = bytesOfCharacter(character, encoding);
-    if (converted.isEmpty()) {
+    CharacterBytes converted = bytesOfCharacter(character, encoding);
+    if (converted.size == 0) {
       if (!substitute) break;
-      converted = QByteArray(1, *substitute);
+      converted.bytes[0] = *substitute;
+      converted.size = 1;
     }
-    if (bytes.size() + converted.size() > maxBytes) break;
-    bytes += converted;
+    if (bytes.size() + converted.size > maxBytes) break;
+    bytes.append(converted.bytes.data(), converted.size);
     position += character.size();
   }
   return bytes;
@@ -213,11 +235,12 @@ std::optional<QByteArray> cStringOfText(QStringView text, TextEncoding encoding,
   const qsizetype nul = text.indexOf(QChar(u'\0'));
   if (nul >= 0) text = text.first(nul);
   QByteArray bytes;
+  bytes.reserve(qMin(bufferSize, mostBytesOf(text.size())));
   for (qsizetype position = 0; position < text.size();) {
     const QStringView character = characterAt(text, position);
-    const QByteArray converted = bytesOfCharacter(character, encoding);
-    if (converted.isEmpty() || bytes.size() + converted.size() >= bufferSize) return std::nullopt;
-    bytes += converted;
+    const CharacterBytes converted = bytesOfCharacter(character, encoding);
+    if (converted.size == 0 || bytes.size() + converted.size >= bufferSize) return std::nullopt;
+    bytes.append(converted.bytes.data(), converted.size);
     position += character.size();
   }
   return bytes;
@@ -235,9 +258,9 @@ std::optional<QByteArray> asciiOfText(QStringView text, qsizetype bufferSize) {
 
 QString textOfBytes(const QByteArray& bytes, TextEncoding encoding) {
   const qsizetype nul = bytes.indexOf('\0');
-  const QString text = decoded(converterOf(encoding), nul < 0 ? bytes : bytes.first(nul));
+  QString text = decoded(converterOf(encoding), nul < 0 ? bytes : QByteArrayView(bytes).first(nul));
   const bool swapped = encoding == TextEncoding::MacJapanese || encoding == TextEncoding::ShiftJis;
-  return swapped && !text.isNull() ? withoutSwappedControls(text) : text;
+  return swapped && !text.isNull() ? withoutSwappedControls(std::move(text)) : text;
 }
 
 QString textOfBytesIn(const QByteArray& bytes, const QByteArray& encodingName) {

@@ -3,6 +3,7 @@
 #include <QtCore/QJsonArray>
 #include <cmath>
 
+#include "platform/secret.h"
 #include "platform/user_defaults.h"
 #include "settings/stored_forms.h"
 
@@ -110,19 +111,23 @@ void PreferenceStore::GetUserPreference() {
 }
 
 QString PreferenceStore::sealedEntry(const HeldField& row, const QString& text) const {
+  QByteArray plaintext;
+  const WipedAtEnd wiped(plaintext);
   QByteArray sealed;
   switch (row.form) {
     case RememberedForm::Clear:
       return text;
     case RememberedForm::SealedHex:
-      sealed = sealedHex(bytesOfText(text, m_state.systemEncoding, row.cipherBytes, row.cipherBytes),
-                         row.cipherBytes);
+      plaintext = bytesOfText(text, m_state.systemEncoding, row.cipherBytes, row.cipherBytes);
+      sealed = sealedHex(plaintext, row.cipherBytes);
       break;
     case RememberedForm::SealedBase64:
-      sealed = sealedBase64(bytesOfText(text, m_state.systemEncoding, loginNameUnits, loginNameUnits));
+      plaintext = bytesOfText(text, m_state.systemEncoding, loginNameUnits, loginNameUnits);
+      sealed = sealedBase64(plaintext);
       break;
     case RememberedForm::SealedAsciiHex:
-      sealed = sealedHex(asciiOfText(text, asciiBuffer).value_or(QByteArray()), row.cipherBytes);
+      plaintext = asciiOfText(text, asciiBuffer).value_or(QByteArray());
+      sealed = sealedHex(plaintext, row.cipherBytes);
       break;
   }
   return QString::fromLatin1(sealed);

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "panel/trace.h"
+#include "platform/secret.h"
 #include "settings/job_keys.h"
 #include "settings/stored_forms.h"
 
@@ -56,6 +57,14 @@ bool SettingsReader::takePreferenceBit(const HeldField& row) {
 void SettingsReader::setText(const HeldField& row, const QString& text) {
   TextField* field = m_state.outlets.*row.edit;
   if (field != nullptr) field->setStringValue(text.isNull() ? QStringLiteral("") : text);
+}
+
+void SettingsReader::setSealed(const HeldField& row, QByteArray plaintext) {
+  const WipedAtEnd wiped(plaintext);
+  const bool isTooLong = row.longestPlaintext > 0 && plaintext.size() > row.longestPlaintext;
+  QString text = isTooLong ? QString() : textOfBytes(plaintext, m_state.systemEncoding);
+  setText(row, text);
+  wipe(text);
 }
 
 void SettingsReader::setHold(const HeldField& row, bool hold, Action action) {
@@ -125,9 +134,7 @@ void SettingsReader::readSealed(Held field, Action action) {
     stored = asciiValue(row.key, textBuffer);
     hold = hold || isPresetHeld(row);
   }
-  const QByteArray plaintext = plaintextOfSealedHex(stored, row.cipherBytes);
-  const bool isTooLong = row.longestPlaintext > 0 && plaintext.size() > row.longestPlaintext;
-  setText(row, isTooLong ? QString() : textOfBytes(plaintext, m_state.systemEncoding));
+  setSealed(row, plaintextOfSealedHex(stored, row.cipherBytes));
   setHold(row, hold, action);
 }
 
@@ -211,9 +218,12 @@ void SettingsReader::readLoginName() {
     stored = storedLoginName(&useAccountName);
     hold = hold || isPresetHeld(row);
   }
-  setText(row, useAccountName ? m_state.platform->userName()
-                              : textOfBytes(plaintextOfSealedBase64(stored), m_state.systemEncoding));
-  m_state.loginNameStringRef = QString();
+  if (useAccountName) {
+    setText(row, m_state.platform->userName());
+  } else {
+    setSealed(row, plaintextOfSealedBase64(stored));
+  }
+  wipe(m_state.loginNameStringRef);
   m_state.loginNameLockFlag = false;
   if (hold || isOn(button)) setHold(row, hold, &A::loginNameButtonProc);
 }

@@ -38,6 +38,7 @@ class SettingsReader {
   bool takePreferenceBit(const HeldField& row);
   bool isPresetHeld(const HeldField& row) const { return (m_state.presetHoldButtonFlag & row.bit) != 0; }
   void setText(const HeldField& row, const QString& text);
+  void setSealed(const HeldField& row, QByteArray plaintext);
   void setHold(const HeldField& row, bool hold, Action action);
 
   PanelState& m_state;

@@ -1,6 +1,7 @@
 #include "settings/settings_writer.h"
 
 #include "panel/trace.h"
+#include "platform/secret.h"
 #include "settings/job_keys.h"
 #include "settings/stored_forms.h"
 #include "settings/value_helpers.h"
@@ -59,7 +60,8 @@ void SettingsWriter::writeNonPPDSettingsToPrintSettings() {
 // The spool time of the job's first write, as plain text.
 QByteArray SettingsWriter::writeSpoolTime() {
   const std::optional<QString> stored = m_state.printSettings()->value(job_keys::whole(job_keys::spoolTime));
-  if (stored && stored->size() % 2 == 0) {
+  // The length counts as it stands: a NUL hides nothing behind it.
+  if (stored && stored->size() % 2 == 0 && stored->size() <= longestSpoolTimeHex) {
     const std::optional<QByteArray> hex = asciiOfText(*stored, longestSpoolTimeHex + 1);
     if (hex) return textOfHex(*hex);
   }
@@ -149,10 +151,12 @@ QByteArray SettingsWriter::digitsOf(Held field) const {
 void SettingsWriter::writeDigitsDigest(Held field, const char* digestKey, const QByteArray& spoolTime,
                                        bool spoolTimeFirst) {
   const HeldField& row = rowOf(field);
-  const QByteArray digits = digitsOf(field);
+  QByteArray digits = digitsOf(field);
+  const WipedAtEnd wiped(digits);
   QByteArray digest;
   if (!digits.isEmpty()) {
-    const QByteArray padded = paddedDigits(digits);
+    QByteArray padded = paddedDigits(digits);
+    const WipedAtEnd wipedToo(padded);
     digest = spoolTimeFirst ? jobDigest(spoolTime, padded) : jobDigest(padded, spoolTime);
   }
   store(digestKey, digest);
@@ -161,7 +165,8 @@ void SettingsWriter::writeDigitsDigest(Held field, const char* digestKey, const 
 
 void SettingsWriter::writeNumber(Held field, const char* plainKey) {
   const HeldField& row = rowOf(field);
-  const QByteArray digits = digitsOf(field);
+  QByteArray digits = digitsOf(field);
+  const WipedAtEnd wiped(digits);
   store(plainKey, digits.isEmpty() ? QByteArray() : paddedDigits(digits));
   store(row.key, sealedHex(digits, row.cipherBytes));
 }

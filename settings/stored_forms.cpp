@@ -1,11 +1,13 @@
 #include "settings/stored_forms.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "crypto/base64.h"
 #include "crypto/credential_cipher.h"
 #include "crypto/md5_text.h"
 #include "crypto/secret_buffer.h"
+#include "platform/secret.h"
 #include "settings/value_helpers.h"
 
 namespace kesto {
@@ -45,7 +47,9 @@ QByteArray paddedDigits(const QByteArray& digits) {
 
 QByteArray jobDigest(const QByteArray& first, const QByteArray& second) {
   std::array<char, digestTextSize> digest{};
-  calcMD5(digest, (first + second).constData());
+  QByteArray both = first + second;
+  const WipedAtEnd wiped(both);
+  calcMD5(digest, both.constData());
   return digest.data();
 }
 
@@ -68,11 +72,10 @@ QByteArray plaintextOfSealedHex(const QByteArray& hex, int cipherBytes) {
 }
 
 QByteArray sealedBase64(const QByteArray& plaintext) {
-  const QByteArray text(plaintext.constData());
-  if (text.isEmpty()) return {};
+  const std::size_t length = std::strlen(plaintext.constData());
+  if (length == 0) return {};
   WorkBuffer cipherText;
-  my_aes_encrypt(text.constData(), cipherText);
-  const auto length = static_cast<std::size_t>(text.size());
+  my_aes_encrypt(plaintext.constData(), cipherText);
   const std::size_t whole = (length + cipherBlockSize - 1) / cipherBlockSize * cipherBlockSize;
   std::array<char, 1024> base64{};
   Base64encode(base64, std::span(cipherText).first(std::min(whole, cipherText.size())));

@@ -80,7 +80,8 @@ TEST_F(LpEntries, WrongUsageIsToldWithoutSecrets) {
       {u"--pin-file - --password-file -"_s, u"only one entry can come from standard input"_s},
       {u"--remember pin --forget login,pin"_s, u"--remember and --forget both name pin"_s},
       {u"--with-codes"_s, u"--with-codes requires --save-preset"_s},
-      {u"--list-presets"_s, u"only one of --dry-run, --list, --folders and the presets' two can be done"_s},
+      {u"--list-presets"_s,
+       u"only one of --dry-run, --list, --folders, --check and the presets' two can be done"_s},
   };
   for (const auto& [arguments, message] : cases)
     expectFailure(arguments, 2, message);

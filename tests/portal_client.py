@@ -25,6 +25,11 @@ settings = Gtk.PrintSettings()
 for key, value in wish.get("settings", {}).items():
     settings.set(key, value)
 operation = Gtk.PrintOperation(n_pages=wish.get("pages", 1), job_name="Numbered pages", print_settings=settings)
+if "paper" in wish:
+    setup = Gtk.PageSetup()
+    setup.set_paper_size_and_default_margins(Gtk.PaperSize.new(wish["paper"]))
+    setup.set_orientation(Gtk.PageOrientation.LANDSCAPE)
+    operation.set_default_page_setup(setup)
 operation.connect("draw-page", draw)
 window = Gtk.Window(title="Numbers")
 window.show()

@@ -336,6 +336,17 @@ class WithTheDialog(unittest.TestCase):
         text = self.release()
         self.assertEqual([text.count(f"This is page {page}") for page in (1, 2, 3, 4, 5)], [1, 1, 1, 1, 0])
 
+    def test_paper_and_pages_of_the_clients_own(self):
+        client = self.session.client(pages=9, paper="iso_a5", settings={"print-pages": "ranges", "page-ranges": "1-2"})
+        self.choose()
+        self.assertEqual(self.end_of(client)["result"], "apply")
+        self.wait_for_job()
+        text = self.release()
+        self.assertEqual([page for page in range(10) if f"This is page {page}" in text], [2, 3])
+        facts = self.run_tool("pdfinfo", next(pathlib.Path(self.places["output"]).iterdir()))
+        self.assertRegex(facts, r"Page size: +(595\.\d+ x 419\.\d+|419\.\d+ x 595\.\d+)")
+        self.assertIn(b"A5", self.job_attributes())
+
     def test_escape(self):
         client = self.session.client()
         self.focus_dialog()

@@ -30,16 +30,17 @@ class PrintTest : public LpTest {
     m_folder.write(u"document"_s, m_document);
     m_folder.write(u"second"_s, "another\n");
     m_folder.write(u"folders"_s, "Invoices\nPlans & <Papers>\tlocked\n");
-    letEverybodyAdminister();
+    changeConfiguration("/AuthType/d; /Require user @SYSTEM$/d");
     startPrinter();
   }
-  // Puts a scheduler before the system's that asks nobody who they are; an ordinary user's has no
-  // administrator.
-  void letEverybodyAdminister() const {
+  // Puts a scheduler before the system's that edits its configuration first: by default so that it asks
+  // nobody who they are, since an ordinary user's has no administrator.
+  void changeConfiguration(const QByteArray& edits) const {
     QDir().mkdir(m_folder.path(u"bin"_s));
-    m_folder.write(u"bin/cupsd"_s,
-                   "#!/bin/sh\nsed -i '/AuthType/d; /Require user @SYSTEM$/d' \"$3\"\n"
-                   "cp /usr/sbin/cupsd \"$0-copy\" && exec \"$0-copy\" \"$@\"\n");
+    QFile::remove(m_folder.path(u"bin/cupsd"_s));
+    m_folder.write(u"bin/cupsd"_s, "#!/bin/sh\nsed -i '" + edits +
+                                       "' \"$3\"\n"
+                                       "cp /usr/sbin/cupsd \"$0-copy\" && exec \"$0-copy\" \"$@\"\n");
     QFile::setPermissions(m_folder.path(u"bin/cupsd"_s), QFile::ReadOwner | QFile::ExeOwner);
     qputenv("PATH", QFile::encodeName(m_folder.path(u"bin:"_s)) + qgetenv("PATH"));
   }
@@ -318,6 +319,44 @@ TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
   EXPECT_EQ(kept(), nothing);
   expectPrinted(job);
   EXPECT_EQ(kept(), u"holdButton=1 jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E p"_s);
+}
+
+// The scheduler believes everybody's name: a user is whom the request names.
+TEST_F(PrintTest, WhatAnotherUserSeesOfAJob) {
+  const auto seenBy = [this](const char* user) {
+    std::unique_ptr<PrintServer> server;
+    EXPECT_TRUE(PrintServer::connect(m_printer->place(u"server"_s), std::chrono::seconds(5), &server));
+    const Ipp request(ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, "ipp://localhost/jobs/1");
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
+    Ipp reply;
+    EXPECT_TRUE(server->request(request.get(), &reply));
+    QStringList settings;
+    for (auto* each = ippFirstAttribute(reply.get()); each != nullptr; each = ippNextAttribute(reply.get()))
+      settings += QString::fromUtf8(ippGetName(each));
+    return settings.filter(prefix).size();
+  };
+  const QString sees = u"Office_MFP: other users see of a job the digest of the pass code, the pass code, "_s;
+  for (const bool isPrivate : {true, false}) {
+    if (!isPrivate) changeConfiguration("/AuthType/d; /Require user @SYSTEM$/d; /JobPrivate/d");
+    if (!isPrivate) startPrinter();
+    ofPrintSystem(u"/usr/sbin/cupsdisable Office_MFP"_s);
+    expectPrinted(u"--hold only --pin 1234 --user-number 42 DOCUMENT"_s);
+    EXPECT_GT(seenBy("anna"), 5);
+    EXPECT_EQ(seenBy("berta") > 0, !isPrivate);
+    const LpRun check = lp(u"--check Office_MFP"_s);
+    EXPECT_EQ(check.code, isPrivate ? 0 : 1) << check.err;
+    EXPECT_TRUE(
+        check.out.startsWith(isPrivate ? u"Office_MFP: other users see none of a job's options.\n"_s : sees))
+        << check.out;
+    EXPECT_EQ(check.out.contains(
+                  u"in <Policy demo>:\n  JobPrivateAccess @OWNER @SYSTEM\n  JobPrivateValues all\n"_s),
+              !isPrivate)
+        << check.out;
+    EXPECT_EQ(schedulersJobs().count(u"Office_MFP-"_s), 1) << "the job of the check stays";
+  }
+  expectRefused(u"--check Nowhere"_s, 1,
+                u"the queue Nowhere takes no job: The printer or class does not exist."_s);
 }
 
 TEST_F(PrintTest, ListsQueuesAndFolders) {

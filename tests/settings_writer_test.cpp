@@ -138,7 +138,8 @@ TEST_F(SettingsWriterTest, AStoredSpoolTimeIsKeptUnlessItCannotBeOne) {
        {Case{"4D6F6E2C203031204A616E20323032342030303A30303A3030202B30303030", true,
              "b5028734042a8f708f0b58725cfacd6f"},
         Case{"", true, "3354cbe0f7e1dbc43916af419085f9c4"}, Case{"4D6", false, ofClock},
-        Case{u"30"_s.repeated(64), false, ofClock}, Case{"é0", false, ofClock}}) {
+        Case{u"30"_s.repeated(64), false, ofClock}, Case{"é0", false, ofClock},
+        Case{u"30"_s + QString(126, QChar(0)), false, ofClock}}) {
     host.put("spoolTime", stored);
     setControls(*panel.view, "retentionCheckBox=1 suspendKey=7");
     write();

@@ -1,3 +1,4 @@
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -84,6 +85,20 @@ TEST_F(JsonUserDefaultsTest, DamagedFilesAreKeptAside) {
   write(file, "");
   EXPECT_TRUE(defaults.persistentDomainForName(domain).available) << "an empty file holds nothing to keep";
   EXPECT_EQ(files().size(), 5);
+}
+
+TEST_F(JsonUserDefaultsTest, WhatAKilledWriterLeftGoesWithTheNextWrite) {
+  const QString living = domain + u".json.abcDEF"_s;
+  const QString others[] = {living, domain + u".json.b.json"_s, domain + u".json.abcdefg"_s,
+                            u"other.json.abcdef"_s, domain + u".json.damaged-1"_s};
+  for (const QString& name : others)
+    write(folder + u'/' + name, "{}");
+  write(file + u".abandn"_s, "{}");
+  QFile writer(folder + u'/' + living);
+  ASSERT_TRUE(writer.open(QIODevice::ReadOnly) && ::flock(writer.handle(), LOCK_EX) == 0);
+  ASSERT_TRUE(defaults.setPersistentDomain(values, domain));
+  QSet<QString> expected(std::begin(others), std::end(others));
+  EXPECT_EQ(files(), expected << domain + u".json"_s);
 }
 
 TEST_F(JsonUserDefaultsTest, WhatIsNoFileIsUnavailableAndStays) {

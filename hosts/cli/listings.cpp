@@ -5,6 +5,7 @@
 #include <QtCore/QJsonObject>
 #include <iostream>
 
+#include "hosts/cups/job_privacy.h"
 #include "hosts/cups/ppd_file.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
@@ -81,6 +82,32 @@ Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
   }
   for (const QueueSummary& queue : queues)
     std::cout << lineOf(queue);
+  return printed();
+}
+
+Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool* isOpen) {
+  JobPrivacy privacy;
+  if (Outcome found = findJobPrivacy(server, queue, &privacy); !found) return found;
+  *isOpen = !privacy.shown.isEmpty();
+  const QStringList lines = QString::fromLatin1(privatePolicyLines).split(u'\n', Qt::SkipEmptyParts);
+  if (json) {
+    const QJsonObject object{{QStringLiteral("queue"), queue},
+                             {QStringLiteral("policy"), privacy.policy},
+                             {QStringLiteral("shown"), QJsonArray::fromStringList(privacy.shown)},
+                             {QStringLiteral("closedBy"), QJsonArray::fromStringList(lines)}};
+    std::cout << QJsonDocument(object).toJson().constData();
+    return printed();
+  }
+  if (!*isOpen) {
+    std::cout << queue.toStdString() << ": other users see none of a job's options.\n";
+    return printed();
+  }
+  std::cout << queue.toStdString() << ": other users see of a job "
+            << privacy.shown.join(QStringLiteral(", ")).toStdString() << ".\n"
+            << "An administrator closes this in cupsd.conf, in <Policy " << privacy.policy.toStdString()
+            << ">:\n";
+  for (const QString& line : lines)
+    std::cout << "  " << line.toStdString() << '\n';
   return printed();
 }
 

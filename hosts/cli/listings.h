@@ -15,6 +15,10 @@ Outcome printed();
 /// offers the panel, for which each queue's PPD is asked for.
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json);
 
+/// Prints what other users of the server see of a job on the queue, and the policy lines that close it.
+/// `*isOpen` tells whether they see anything.
+Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool* isOpen);
+
 /// Fetches the printer's folders through the panel, from `address` when it is not null, and prints them, a
 /// line each or as one JSON array. A protected folder's line ends in a tab and "locked".
 Outcome printFolders(PrintDialogPanel& panel, const QString& address, bool json);

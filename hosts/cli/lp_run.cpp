@@ -15,6 +15,7 @@
 #include "panel/model/panel_view.h"
 #include "platform/alert_presenter.h"
 #include "platform/json_user_defaults.h"
+#include "platform/secret.h"
 
 namespace kesto {
 namespace {
@@ -182,7 +183,7 @@ Outcome Job::finish() {
   return print(m_host.settings->all(), "=", m_options.json);
 }
 
-ExitCode runJob(const Options& options, const Entries& entries, JobQueue& queue) {
+ExitCode runJob(const Options& options, Entries entries, JobQueue& queue) {
   StandardErrorAlerts alerts;
   std::shared_ptr<const Bundle> bundle;
   PrintDialogPlugIn* plugIn = nullptr;
@@ -195,7 +196,12 @@ ExitCode runJob(const Options& options, const Entries& entries, JobQueue& queue)
     const Outcome listed = printFolders(job.panel(), options.address.value_or(QString()), options.json);
     return alerts.wasShown ? ExitFailed : ended(listed);
   }
-  if (Outcome entered = job.enter(entries); !entered) return ended(entered, ExitRefused);
+  const Outcome entered = job.enter(entries);
+  // The panel has them now, in their stored forms; an upload can take long.
+  for (std::optional<QString>& text : entries.texts) {
+    if (text) wipe(*text);
+  }
+  if (!entered) return ended(entered, ExitRefused);
   return ended(job.finish());
 }
 
@@ -220,17 +226,26 @@ ExitCode runQueueList(const Options& options) {
   return ended(printQueues(*server, options.jobHandlingOnly, options.json));
 }
 
+ExitCode runCheck(const Options& options) {
+  std::unique_ptr<PrintServer> server;
+  if (Outcome connected = connectToServer(options, &server); !connected) return ended(connected);
+  bool isOpen = false;
+  const ExitCode code = ended(printPrivacy(*server, *options.queue, options.json, &isOpen));
+  return code == ExitDone && isOpen ? ExitFailed : code;
+}
+
 }  // namespace
 
 ExitCode run(const Options& options) {
   if (options.task == Task::ListPresets || options.task == Task::DeletePreset) return runPresets(options);
   if (options.task == Task::ListQueues) return runQueueList(options);
+  if (options.task == Task::Check) return runCheck(options);
   JobQueue queue;
   if (Outcome found = findQueue(options, &queue); !found) return ended(found);
   if (!queue.ppd || !offersJobHandling(*queue.ppd)) return runPlainJob(options, queue);
   Entries entries = options.entries;
   if (Outcome read = readSecrets(options, &entries); !read) return ended(read);
-  return runJob(options, entries, queue);
+  return runJob(options, std::move(entries), queue);
 }
 
 }  // namespace kesto

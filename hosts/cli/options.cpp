@@ -24,6 +24,8 @@ Prints files, or standard input, with a printer's Job Handling.
   --summary                 print the panel's summary, not the settings
   --list [--job-handling]   list the queues, or those that offer Job Handling
   --folders [--address A]   fetch, keep and list the printer's folders
+  --check QUEUE             tell what other users of the server see of a job's
+                            options, and how to close it
   --json                    print JSON;  --timeout SECONDS  (5) wait no longer
 
   --hold only|after|sample  hold the job: unprinted, after printing it, or after
@@ -67,6 +69,7 @@ class CommandLine {
   CLI::Option* addText(const std::string& name, std::optional<QString>* value);
   CLI::Option* addName(const std::string& name, std::optional<QString>* value);
   void addTask(const std::string& name, Task task);
+  void addNamedTask(const std::string& name, Task task, std::optional<QString>* value);
   void addServer();
   void addJob();
   void addJobOption(const std::string& name, const char* jobOption);
@@ -129,6 +132,15 @@ void CommandLine::addTask(const std::string& name, Task task) {
   });
 }
 
+void CommandLine::addNamedTask(const std::string& name, Task task, std::optional<QString>* value) {
+  const auto choose = [this, task, value](const std::string& given) {
+    *value = QString::fromStdString(given);
+    m_options.task = task;
+    ++m_tasks;
+  };
+  m_app.add_option_function<std::string>(name, choose)->check(refuseEmpty);
+}
+
 void CommandLine::addServer() {
   addName("-h", &m_options.server.address);
   addName("-U", &m_options.server.user);
@@ -141,6 +153,7 @@ void CommandLine::addServer() {
   addName("--device-uri", &m_options.deviceUri);
   addName("-d", &m_options.queue);
   addTask("--list", Task::ListQueues);
+  addNamedTask("--check", Task::Check, &m_options.queue);
   m_app.add_flag("--job-handling", m_options.jobHandlingOnly);
 }
 
@@ -237,14 +250,7 @@ void CommandLine::addMemory(const char* name, bool remember) {
 
 void CommandLine::addPresets() {
   addTask("--list-presets", Task::ListPresets);
-  m_app
-      .add_option_function<std::string>("--delete-preset",
-                                        [this](const std::string& name) {
-                                          m_options.deletedPreset = QString::fromStdString(name);
-                                          m_options.task = Task::DeletePreset;
-                                          ++m_tasks;
-                                        })
-      ->check(refuseEmpty);
+  addNamedTask("--delete-preset", Task::DeletePreset, &m_options.deletedPreset);
   addName("--preset", &m_options.preset);
   CLI::Option* save = addName("--save-preset", &m_options.savePreset);
   m_app.add_flag("--with-codes", m_options.withCodes)->needs(save);
@@ -289,7 +295,8 @@ QString CommandLine::faultOfUnknown() const {
 QString CommandLine::faultOfTask() const {
   const Task task = m_options.task;
   if (m_tasks > 1)
-    return QStringLiteral("only one of --dry-run, --list, --folders and the presets' two can be done");
+    return QStringLiteral(
+        "only one of --dry-run, --list, --folders, --check and the presets' two can be done");
   if (m_options.jobHandlingOnly && task != Task::ListQueues)
     return QStringLiteral("--job-handling goes with --list");
   if (m_options.address && task != Task::ListFolders) return QStringLiteral("--address goes with --folders");

@@ -23,7 +23,7 @@ struct SecretSource {
 };
 
 /// What there is to do.
-enum class Task { Print, DryRun, ListQueues, ListFolders, ListPresets, DeletePreset };
+enum class Task { Print, DryRun, ListQueues, ListFolders, ListPresets, DeletePreset, Check };
 
 /// Where the job goes.
 struct ServerOptions {

@@ -11,8 +11,13 @@
 #include <csignal>
 #include <cstring>
 
+#include "platform/secret.h"
+
 namespace kesto {
 namespace {
+
+// A line that grows beyond this leaves copies of itself behind.
+constexpr qsizetype usualLine = 1024;
 
 volatile std::sig_atomic_t caughtSignal = 0;
 
@@ -72,6 +77,8 @@ void show(int terminal, const QByteArray& text) {
 // Reads byte by byte: what follows the line is not ours to take.
 Outcome readLine(int descriptor, QString* secret) {
   QByteArray line;
+  const WipedAtEnd wiped(line);
+  line.reserve(usualLine);
   for (char byte = 0; ::read(descriptor, &byte, 1) == 1 && byte != '\n';)
     line += byte;
   if (line.endsWith('\r')) line.chop(1);

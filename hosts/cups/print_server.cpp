@@ -152,14 +152,17 @@ Outcome PrintServer::exchange(ipp_t* request, QByteArray* reply) {
                     : Outcome::failed(QStringLiteral("the print server's answer breaks off"));
 }
 
-Outcome PrintServer::ask(ipp_t* request, Ipp* reply, ipp_status_t allowed) {
+Outcome PrintServer::request(ipp_t* request, Ipp* reply) {
   QByteArray bytes;
   if (Outcome exchanged = exchange(request, &bytes); !exchanged) return exchanged;
   reply->reset(ippNew());
   Reader reader{bytes};
-  if (ippReadIO(&reader, readFromMemory, 1, nullptr, reply->get()) != IPP_STATE_DATA) {
-    return Outcome::failed(QStringLiteral("the print server's answer is not readable"));
-  }
+  if (ippReadIO(&reader, readFromMemory, 1, nullptr, reply->get()) == IPP_STATE_DATA) return Outcome::done();
+  return Outcome::failed(QStringLiteral("the print server's answer is not readable"));
+}
+
+Outcome PrintServer::ask(ipp_t* request, Ipp* reply, ipp_status_t allowed) {
+  if (Outcome asked = this->request(request, reply); !asked) return asked;
   const ipp_status_t status = ippGetStatusCode(reply->get());
   if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == allowed) return Outcome::done();
   return Outcome::failed(QString::fromUtf8(ippErrorString(status)));

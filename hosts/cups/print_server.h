@@ -17,19 +17,18 @@ namespace kesto {
 struct CloseHttp {
   void operator()(http_t* http) const;
 };
+struct FreeIpp {
+  void operator()(ipp_t* ipp) const;
+};
 struct FreeDest {
   void operator()(cups_dest_t* dest) const;
 };
 
-struct FreeIpp {
-  void operator()(ipp_t* ipp) const;
-};
-
-/// A request or a reply.
-using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
-
 /// A queue with its options, as libcups gives it.
 using Destination = std::unique_ptr<cups_dest_t, FreeDest>;
+
+/// An IPP message, deleted with its owner.
+using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
 
 /// What a list of queues shows of one.
 struct QueueSummary {
@@ -55,8 +54,10 @@ class PrintServer {
   Outcome listQueues(std::vector<QueueSummary>* queues);
   /// What the list shows of one queue.
   Outcome summarize(const QString& name, QueueSummary* queue);
-  /// Sends a request and reads its reply in blocks. Fails on a reply that tells of an error, unless that is
-  /// `allowed`.
+  /// Sends one request, as whom it names, and reads the reply, whatever its status; never asks for a
+  /// password.
+  Outcome request(ipp_t* request, Ipp* reply);
+  /// As `request`, but fails on a reply that tells of an error, unless that is `allowed`.
   Outcome ask(ipp_t* request, Ipp* reply, ipp_status_t allowed = IPP_STATUS_OK);
 
   /// For libcups's calls.

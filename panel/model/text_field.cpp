@@ -1,6 +1,7 @@
 #include "panel/model/text_field.h"
 
 #include "panel/model/panel_view.h"
+#include "platform/secret.h"
 
 namespace kesto {
 
@@ -17,6 +18,10 @@ bool Formatter::getObjectValue(QVariant* value, const QString& forString,
 TextField::TextField(const QString& name, PanelView* view, int tag)
     : Control(name, view), m_tag(tag), m_editable(tag != 0), m_selectable(tag != 0) {}
 
+TextField::~TextField() {
+  wipe(m_stringValue);
+}
+
 QString TextField::kind() const {
   return m_tag == 0 ? QStringLiteral("label") : QStringLiteral("textField");
 }
@@ -24,9 +29,7 @@ QString TextField::kind() const {
 void TextField::setStringValue(const QString& text) {
   const TextRange end{text.size(), 0};
   if (m_stringValue == text && m_selection == end) return;
-  m_stringValue = text;
-  m_selection = end;
-  Q_EMIT changed();
+  replaceText(text, end);
 }
 
 Outcome TextField::beginEdit() {
@@ -86,7 +89,8 @@ Outcome TextField::placeCaret(TextRange range) {
 
 void TextField::edit(QString proposed, TextRange proposedSelection) {
   if (m_formatter) {
-    const QString before = proposed;
+    QString before = proposed;
+    const WipedAtEnd wiped(before);
     const TextRange selectionBefore = proposedSelection;
     const bool accepted =
         m_formatter->isPartialStringValid(proposed, proposedSelection, m_stringValue, m_selection, nullptr);
@@ -94,8 +98,13 @@ void TextField::edit(QString proposed, TextRange proposedSelection) {
     if (!accepted && !replaced) return;
   }
   if (proposed == m_stringValue && proposedSelection == m_selection) return;
-  m_stringValue = std::move(proposed);
-  m_selection = proposedSelection;
+  replaceText(proposed, proposedSelection);
+}
+
+void TextField::replaceText(const QString& text, TextRange selection) {
+  QString before = std::exchange(m_stringValue, text);
+  wipe(before);
+  m_selection = selection;
   Q_EMIT changed();
 }
 

@@ -33,7 +33,7 @@ class Formatter {
 };
 
 /// A line of text: a label (tag 0) or a field that the user can edit (any other tag). Positions and lengths
-/// count UTF-16 code units.
+/// count UTF-16 code units. A text that is replaced, or goes with its field, is wiped.
 class TextField : public Control {
   Q_OBJECT
   Q_PROPERTY(QString stringValue READ stringValue NOTIFY changed)
@@ -48,6 +48,7 @@ class TextField : public Control {
 
   /// A label is neither editable nor selectable; a field is both.
   TextField(const QString& name, PanelView* view, int tag);
+  ~TextField() override;
 
   QString kind() const override;
   int tag() const { return m_tag; }
@@ -85,6 +86,7 @@ class TextField : public Control {
   QVariantList selectionList() const;
   Outcome beginEdit();
   void insert(QStringView text);
+  void replaceText(const QString& text, TextRange selection);
 
   int m_tag;
   QString m_stringValue;

@@ -1,0 +1,30 @@
+// The input is what a connection brings before it ends.
+#include "folders/http_response.h"
+#include "fuzz/targets.h"
+
+namespace kesto::fuzz {
+namespace {
+
+constexpr qsizetype largestBody = 10'000;
+
+HttpResponse readInPieces(const QByteArray& input, qsizetype piece) {
+  HttpResponse response(largestBody);
+  for (qsizetype start = 0; start < input.size() && !response.isBad(); start += piece)
+    response.take(input.mid(start, piece));
+  response.end();
+  return response;
+}
+
+}  // namespace
+
+void runResponse(const QByteArray& input) {
+  const HttpResponse whole = readInPieces(input, qMax(qsizetype{1}, input.size()));
+  require(whole.isWhole() != whole.isBad(), "a response that has ended is whole or bad");
+  require(!whole.isWhole() || whole.body().size() <= largestBody, "a body is within its limit");
+  const HttpResponse pieces = readInPieces(input, 1);
+  require(pieces.isWhole() == whole.isWhole(), "pieces make no difference");
+  if (!whole.isWhole()) return;
+  require(pieces.body() == whole.body() && pieces.status() == whole.status(), "pieces make no difference");
+}
+
+}  // namespace kesto::fuzz

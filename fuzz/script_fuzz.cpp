@@ -1,0 +1,37 @@
+// The input is what kesto-panel reads on standard input.
+#include "hosts/script/script_session.h"
+
+#include <QtCore/QJsonDocument>
+
+#include "bench/bench_platform.h"
+#include "fuzz/targets.h"
+#include "plugin/entry.h"
+
+namespace kesto::fuzz {
+namespace {
+
+// A fuzzer asks no printer: the address could be anybody's.
+bool asksPrinter(const QByteArray& line) {
+  return QJsonDocument::fromJson(line).object().value(QStringLiteral("control")).toString() ==
+         u"getFolderNameButton";
+}
+
+}  // namespace
+
+void runScript(const QByteArray& input) {
+  bench::BenchPlatform platform;
+  KestoPrintPdeVq250nJCPDEPlugIn plugIn;
+  PanelHost host(platform);
+  host.settings.emplace();
+  require(static_cast<bool>(host.openPanel(plugIn)), "the panel opens");
+  AlertRecorder alerts;
+  ScriptSession session(host, plugIn, alerts);
+  for (const QByteArray& line : input.split('\n')) {
+    if (session.isOver()) break;
+    if (asksPrinter(line)) continue;
+    const QByteArray answer = QJsonDocument(session.answer(line)).toJson(QJsonDocument::Compact);
+    require(QJsonDocument::fromJson(answer).isObject(), "every line is answered by an object");
+  }
+}
+
+}  // namespace kesto::fuzz

@@ -1,0 +1,53 @@
+// Lines "key=value", the key by its last component, are the print settings; a first line "@CODE" chooses the
+// system encoding.
+#include "bench/bench_platform.h"
+#include "fuzz/targets.h"
+#include "plugin/job_handling_panel.h"
+#include "settings/job_keys.h"
+
+namespace kesto::fuzz {
+namespace {
+
+void put(const QByteArray& lines, PrintSettings* settings) {
+  for (const QByteArray& line : lines.split('\n')) {
+    const qsizetype sign = line.indexOf('=');
+    if (sign < 0) continue;
+    settings->setValue(job_keys::whole(line.left(sign).constData()), QString::fromUtf8(line.mid(sign + 1)));
+  }
+}
+
+// Sealed values have the length of whole cipher blocks in hexadecimal, or are not there. The suspend key of a
+// job that is not held stays as the host set it.
+void checkSealed(const PrintSettings& settings) {
+  std::vector<const char*> sealed{job_keys::userNumber2, job_keys::accountNumber2, job_keys::folderPassword2};
+  if (settings.value(job_keys::whole(job_keys::jobSuspend)) != u"0")
+    sealed.push_back(job_keys::jobSuspend2Key);
+  for (const char* key : sealed) {
+    const std::optional<QString> value = settings.value(job_keys::whole(key));
+    require(!value || value->size() == 32, "a sealed code is 32 digits");
+  }
+  const std::optional<QString> time = settings.value(job_keys::whole(job_keys::spoolTime));
+  require(time && time->size() % 2 == 0 && time->size() <= 126, "there is a spool time after a write");
+}
+
+}  // namespace
+
+void runSettings(const QByteArray& input) {
+  bench::BenchHost host;
+  if (input.startsWith('@') && input.size() > 1) {
+    constexpr int encodings = static_cast<int>(TextEncoding::Utf8) + 1;
+    host.platform().setSystemEncoding(
+        static_cast<TextEncoding>(static_cast<std::uint8_t>(input.at(1)) % encodings));
+  }
+  put(input, &host.settings);
+  KestoPrintPdeVq250nJC panel(host);
+  panel.restoreValuesAndReturnError(nullptr);
+  panel.saveValuesAndReturnError(nullptr);
+  checkSealed(host.settings);
+  const auto written = host.settings.all();
+  panel.saveValuesAndReturnError(nullptr);
+  require(host.settings.all() == written, "a second write changes nothing");
+  panel.summaryInfo();
+}
+
+}  // namespace kesto::fuzz

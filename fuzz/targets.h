@@ -1,0 +1,27 @@
+// The fuzz targets: each takes any bytes and must neither crash, leak nor break what it checks.
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <cstdio>
+#include <cstdlib>
+
+namespace kesto::fuzz {
+
+/// Ends the program when what must hold does not.
+inline void require(bool holds, const char* rule) {
+  if (holds) return;
+  std::fprintf(stderr, "broken: %s\n", rule);
+  std::abort();
+}
+
+void runAnswer(const QByteArray& input);       ///< A printer's answer into the folder list and the pop-up.
+void runLayout(const QByteArray& input);       ///< A form into the loader, then every control is used.
+void runPpd(const QByteArray& input);          ///< A PPD's attributes and a device URI into the facts.
+void runPreferences(const QByteArray& input);  ///< A preference file into construction, restore and save.
+void runResponse(const QByteArray& input);     ///< An HTTP response, whole and in pieces.
+void runScript(const QByteArray& input);       ///< The commands of kesto-panel.
+void runSettings(const QByteArray& input);     ///< Print settings into the reader, then the writer.
+void runTicket(const QByteArray& input);       ///< A job's options through the demo filter to the printer.
+void runValues(const QByteArray& input);       ///< Value helpers, encodings and the cipher on raw bytes.
+
+}  // namespace kesto::fuzz

@@ -1,0 +1,102 @@
+#include "hosts/cups/job_privacy.h"
+
+#include <array>
+
+namespace kesto {
+namespace {
+
+constexpr char stranger[] = "kesto-check";
+
+struct OptionRow {
+  const char* key;   // of the print settings, behind their common prefix; the whole name where it is none
+  const char* word;  // what it tells
+};
+
+// One option of each kind that tells something.
+constexpr std::array options{
+    OptionRow{"kesto.print.PrintSettings.jobSuspendKey", "the digest of the pass code"},
+    OptionRow{"kesto.print.PrintSettings.jobSuspend2Key", "the pass code"},
+    OptionRow{"kesto.print.PrintSettings.spoolTime", "the spool time"},
+    OptionRow{"kesto.print.PrintSettings.folderPassword2", "the folder's pass code"},
+    OptionRow{"kesto.print.PrintSettings.folderPath", "the folder"},
+    OptionRow{"kesto.print.PrintSettings.userNumber", "the user number"},
+    OptionRow{"kesto.print.PrintSettings.accountNumber", "the account number"},
+    OptionRow{"kesto.print.PrintSettings.userName", "the user name"},
+    OptionRow{"kesto.print.PrintSettings.jobName", "the job's name"},
+};
+
+QByteArray uriOfQueue(const QString& queue) {
+  std::array<char, HTTP_MAX_URI> uri{};
+  httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", 0,
+                   "/printers/%s", queue.toUtf8().constData());
+  return uri.data();
+}
+
+// A request about a queue, and about one of its jobs when that is not 0, as `user`.
+Ipp requestFor(ipp_op_t operation, const QString& queue, int job, const char* user) {
+  Ipp request(ippNewRequest(operation));
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+               uriOfQueue(queue).constData());
+  if (job != 0) ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
+  return request;
+}
+
+// Its owner may have to say who they are, which libcups then asks for.
+Outcome createJob(PrintServer& server, const QString& queue, int* job) {
+  Ipp request = requestFor(IPP_OP_CREATE_JOB, queue, 0, cupsUser());
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, stranger);
+  ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-hold-until", nullptr, "indefinite");
+  for (const OptionRow& row : options)
+    ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_NAME, row.key, nullptr, "0");
+  const Ipp reply(cupsDoRequest(server.http(), request.release(), "/"));
+  ipp_attribute_t* id = ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER);
+  if (id == nullptr) return lastCupsError(QStringLiteral("the queue %1 takes no job").arg(queue));
+  *job = ippGetInteger(id, 0);
+  return Outcome::done();
+}
+
+Outcome cancelJob(PrintServer& server, const QString& queue, int job) {
+  Ipp request = requestFor(IPP_OP_CANCEL_JOB, queue, job, cupsUser());
+  ippAddBoolean(request.get(), IPP_TAG_OPERATION, "purge-job", 1);
+  const Ipp reply(cupsDoRequest(server.http(), request.release(), "/"));
+  return cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE
+             ? Outcome::done()
+             : lastCupsError(QStringLiteral("the job %1-%2 cannot be cancelled").arg(queue).arg(job));
+}
+
+Outcome lookAtJob(PrintServer& server, const QString& queue, int job, QStringList* shown) {
+  const Ipp request = requestFor(IPP_OP_GET_JOB_ATTRIBUTES, queue, job, stranger);
+  Ipp reply;
+  if (Outcome asked = server.request(request.get(), &reply); !asked) return asked;
+  for (const OptionRow& row : options) {
+    if (ippFindAttribute(reply.get(), row.key, IPP_TAG_ZERO) != nullptr)
+      shown->append(QString::fromLatin1(row.word));
+  }
+  return Outcome::done();
+}
+
+Outcome askForPolicy(PrintServer& server, const QString& queue, QString* policy) {
+  const Ipp request = requestFor(IPP_OP_GET_PRINTER_ATTRIBUTES, queue, 0, cupsUser());
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-op-policy");
+  Ipp reply;
+  if (Outcome asked = server.request(request.get(), &reply); !asked) return asked;
+  ipp_attribute_t* name = ippFindAttribute(reply.get(), "printer-op-policy", IPP_TAG_NAME);
+  *policy = QString::fromUtf8(name == nullptr ? nullptr : ippGetString(name, 0, nullptr));
+  return Outcome::done();
+}
+
+}  // namespace
+
+Outcome findJobPrivacy(PrintServer& server, const QString& queue, JobPrivacy* privacy) {
+  *privacy = {};
+  if (Outcome asked = askForPolicy(server, queue, &privacy->policy); !asked) return asked;
+  int job = 0;
+  if (Outcome created = createJob(server, queue, &job); !created) return created;
+  Outcome looked = lookAtJob(server, queue, job, &privacy->shown);
+  Outcome cancelled = cancelJob(server, queue, job);
+  return looked ? cancelled : looked;
+}
+
+}  // namespace kesto

@@ -1,0 +1,24 @@
+// What a print server shows of a job to users whom it does not belong to.
+#pragma once
+
+#include <QtCore/QStringList>
+
+#include "hosts/cups/print_server.h"
+
+namespace kesto {
+
+/// What other users see of a job on one queue.
+struct JobPrivacy {
+  QString policy;     ///< The name of the queue's policy; null when the server does not tell.
+  QStringList shown;  ///< What of a job's options they see, in words; empty when nothing.
+};
+
+/// The lines of a CUPS policy that keep a job's options to its owner and to administrators.
+inline constexpr char privatePolicyLines[] = "JobPrivateAccess @OWNER @SYSTEM\nJobPrivateValues all\n";
+
+/// Finds out by trial, since no print server tells its policy: creates a job that is held and has no
+/// document, with settings that say nothing, asks for it as a user whom no account has, and cancels it. Fails
+/// when the queue takes no job, or when the server wants to know who asks.
+Outcome findJobPrivacy(PrintServer& server, const QString& queue, JobPrivacy* privacy);
+
+}  // namespace kesto

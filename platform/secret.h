@@ -1,0 +1,27 @@
+// Wiping of what held a pass code, a login name or a password.
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+namespace kesto {
+
+/// Overwrites the storage and empties the buffer. Storage that another buffer shares stays as it is: it is
+/// that one's to wipe.
+void wipe(QByteArray& bytes);
+void wipe(QString& text);
+
+/// Wipes a buffer at the end of its scope; the buffer outlives it.
+template <class Buffer>
+class WipedAtEnd {
+ public:
+  explicit WipedAtEnd(Buffer& buffer) : m_buffer(buffer) {}
+  ~WipedAtEnd() { wipe(m_buffer); }
+  WipedAtEnd(const WipedAtEnd&) = delete;
+  WipedAtEnd& operator=(const WipedAtEnd&) = delete;
+
+ private:
+  Buffer& m_buffer;
+};
+
+}  // namespace kesto

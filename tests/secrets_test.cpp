@@ -1,0 +1,86 @@
+// What a panel leaves in the memory of its process.
+#include <QtCore/QFile>
+
+#include "support/test_panel.h"
+
+namespace kesto::test {
+namespace {
+
+constexpr char mask = 0x5A;
+
+// Both ways: the search itself must not put what it looks for into the memory.
+QByteArray masked(QByteArray bytes) {
+  for (char& byte : bytes)
+    byte = static_cast<char>(byte ^ mask);
+  return bytes;
+}
+
+// Whether the heap holds the bytes, which are given masked.
+bool isInHeap(const QByteArray& wanted) {
+  QFile maps(u"/proc/self/maps"_s);
+  EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
+  const auto isWanted = [](char byte, char other) { return (byte ^ mask) == other; };
+  for (const QByteArray& line : maps.readAll().split('\n')) {
+    if (!line.contains("[heap]")) continue;
+    const QList<QByteArray> range = line.left(line.indexOf(' ')).split('-');
+    const auto* start = reinterpret_cast<const char*>(range[0].toULongLong(nullptr, 16));
+    const auto* end = reinterpret_cast<const char*>(range[1].toULongLong(nullptr, 16));
+    if (std::search(start, end, wanted.begin(), wanted.end(), isWanted) != end) return true;
+  }
+  return false;
+}
+
+QByteArray inUtf16(const QByteArray& text) {
+  QByteArray wide;
+  for (const char byte : text)
+    wide.append(byte).append(static_cast<char>(0 ^ mask));
+  return wide;
+}
+
+struct Secret {
+  const char* field;
+  QByteArray masked;
+};
+
+const Secret secrets[] = {
+    {"suspendKey", masked("83915027")},
+    {"folderPassword", masked("70264918")},
+    {"loginName", masked("Qj7vXw0rTz")},
+    {"password", masked("kW3#pLs9_vBn")},
+};
+
+// Types a secret without leaving it in the test's own memory.
+void type(TextField& field, const QByteArray& secret) {
+  for (const char byte : secret)
+    EXPECT_TRUE(field.type(QString(QChar(static_cast<char16_t>(byte ^ mask)))));
+}
+
+// The sanitizers and valgrind keep the heap elsewhere.
+TEST(Secrets, NothingStaysInTheHeapOfAPanelThatIsGone) {
+  const QByteArray probe = masked("a probe");
+  if (!isInHeap(masked(probe))) GTEST_SKIP() << "the heap is not where it usually is";
+  TestPlatform platform;
+  {
+    TestPanel panel(platform);
+    panel.restore();
+    setControls(panel.view(), "folderSelectionMatrix=2");
+    ASSERT_TRUE(operate(panel.view(), "retentionCheckBox"));
+    ASSERT_TRUE(operate(panel.view(), "folderSelectionMatrix=2"));
+    for (const Secret& secret : secrets) {
+      type(field(panel.view(), secret.field), secret.masked);
+      EXPECT_TRUE(isInHeap(inUtf16(secret.masked))) << secret.field << ": the search finds nothing";
+      ASSERT_TRUE(operate(panel.view(), QLatin1String(secret.field) + u"Button"_s));
+    }
+    panel.save();
+    EXPECT_TRUE(panel.controller->shouldPrint());
+    panel.restore();
+    panel.save();
+  }
+  for (const Secret& secret : secrets) {
+    EXPECT_FALSE(isInHeap(secret.masked)) << secret.field;
+    EXPECT_FALSE(isInHeap(inUtf16(secret.masked))) << secret.field;
+  }
+}
+
+}  // namespace
+}  // namespace kesto::test
