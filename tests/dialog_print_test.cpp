@@ -185,6 +185,45 @@ TEST_F(DialogPrint, AThousandQueuesAreListedAndFiltered) {
   EXPECT_EQ(m_dialog->job(), 0) << "Enter takes the name, it does not print";
 }
 
+TEST_F(DialogPrint, TabGoesThroughTheDialogAsItIsRead) {
+  startPrinter();
+  openReady();
+  click(u"retentionCheckBox"_s);
+  widget(u"printer"_s)->setFocus();
+  QStringList order;
+  for (int i = 0; i < 60 && !order.contains(u"print"_s); ++i) {
+    QTest::keyClick(m_dialog->focusWidget(), Qt::Key_Tab);
+    order.append(m_dialog->focusWidget()->objectName());
+  }
+  const QStringList expected{u"retentionCheckBox"_s,
+                             u"holdOnlyRadioButton"_s,
+                             u"suspendKeyEditText"_s,
+                             u"suspendKeyButton"_s,
+                             u"printersAddressEditText"_s,
+                             u"getFolderNameButton"_s,
+                             u"print"_s};
+  order.removeIf([&](const QString& name) { return !expected.contains(name); });
+  EXPECT_EQ(order, expected);
+}
+
+TEST_F(DialogPrint, AFailedFolderFetchIsAnAlert) {
+  startPrinter();
+  openReady();
+  QTcpServer gone;
+  ASSERT_TRUE(gone.listen(QHostAddress::LocalHost));
+  type(u"printersAddressEditText"_s, u"127.0.0.1:%1"_s.arg(gone.serverPort()));
+  gone.close();
+  QString alert;
+  whenModal([&](QWidget& window) {
+    alert = qobject_cast<QMessageBox*>(&window)->text();
+    pressEnter(window);
+  });
+  click(u"getFolderNameButton"_s);
+  EXPECT_EQ(alert, u"Could not retrieve Folder Names."_s);
+  EXPECT_TRUE(widget(u"getFolderNameButton"_s)->isEnabled());
+  EXPECT_TRUE(m_dialog->isVisible());
+}
+
 TEST_F(DialogPrint, CancelEndsAFolderFetch) {
   startPrinter();
   QTcpServer silent;
@@ -199,6 +238,14 @@ TEST_F(DialogPrint, CancelEndsAFolderFetch) {
   click(u"getFolderNameButton"_s);  // returns when the fetch has ended
   EXPECT_TRUE(wasAlive);
   EXPECT_FALSE(m_dialog->isVisible());
+}
+
+TEST_F(DialogPrint, TheSummaryTellsWhatOthersSee) {
+  startPrinter();
+  openReady();
+  click(u"privacy"_s);
+  await([this] { return widget(u"privacyText"_s)->isVisible(); }, u"what others see"_s);
+  EXPECT_TRUE(text(u"privacyText"_s).contains(u"no more"_s)) << text(u"privacyText"_s);
 }
 
 TEST_F(DialogPrint, APresetComesBack) {

@@ -188,7 +188,7 @@ TEST(InitializeUI, AGermanPanel) {
   std::unique_ptr<PanelView> asLoaded;
   ASSERT_TRUE(loadLayout(layoutForm(*german.bundle(), u"JobControl6"_s), *german.bundle(), &asLoaded));
   expectControls(*asLoaded,
-                 "suspendBox=Hold_Mode userNameStaticText=User_Name: holdOnlyRadioButton=Nur_speichern");
+                 "suspendBox=Hold_Mode userNameStaticText=User_Name: holdOnlyRadioButton=Nur_zurückhalten");
   TestPanel panel(german);
   expectControls(
       panel.view(),
@@ -196,7 +196,7 @@ TEST(InitializeUI, AGermanPanel) {
       "folderPasswordStaticText=PIN_des_Ordners: userNumberStaticText=Benutzernummer: "
       "userNumberRadioButton=Benutzernummer accountNumberStaticText=Kontonummer: jobIDBox=Auftragskennung "
       "userNameStaticText=Benutzername: jobNameStaticText=Auftragsname: "
-      "holdAfterRadioButton=Nach_dem_Druck_speichern printersAddressStaticText=Druckeradresse: "
+      "holdAfterRadioButton=Nach_dem_Druck_halten printersAddressStaticText=Druckeradresse: "
       "customFolderRadioButton=Eigener_Ordner loginNameStaticText=Anmeldename: passwordStaticText=Passwort: "
       "folderSelectionStaticText=Ordner: samplePrintRadioButton=Probedruck");
   EXPECT_EQ(button(panel.view(), "retentionCheckBox").title(), u"Zurückhalten"_s);

@@ -25,13 +25,6 @@ constexpr std::array options{
     OptionRow{"kesto.print.PrintSettings.jobName", "the job's name"},
 };
 
-QByteArray uriOfQueue(const QString& queue) {
-  std::array<char, HTTP_MAX_URI> uri{};
-  httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", 0,
-                   "/printers/%s", queue.toUtf8().constData());
-  return uri.data();
-}
-
 // A request about a queue, and about one of its jobs when that is not 0, as `user`.
 Ipp requestFor(ipp_op_t operation, const QString& queue, int job, const char* user) {
   Ipp request(ippNewRequest(operation));

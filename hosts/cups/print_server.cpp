@@ -1,6 +1,7 @@
 #include "hosts/cups/print_server.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 
@@ -93,6 +94,13 @@ QString optionOf(const cups_dest_t& destination, const char* name) {
   return QString::fromUtf8(cupsGetOption(name, destination.num_options, destination.options));
 }
 
+QByteArray uriOfQueue(const QString& queue) {
+  std::array<char, HTTP_MAX_URI> uri{};
+  httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", 0,
+                   "/printers/%s", queue.toUtf8().constData());
+  return uri.data();
+}
+
 Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds limit,
                              std::unique_ptr<PrintServer>* server) {
   server->reset();
@@ -182,10 +190,8 @@ Outcome PrintServer::listQueues(std::vector<QueueSummary>* queues) {
 
 Outcome PrintServer::summarize(const QString& name, QueueSummary* queue) {
   const Ipp request(ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES));
-  char uri[HTTP_MAX_URI];
-  httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0, "/printers/%s",
-                   name.toUtf8().constData());
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+               uriOfQueue(name).constData());
   askForSummary(request.get());
   Ipp reply;
   if (Outcome asked = ask(request.get(), &reply); !asked) return asked;

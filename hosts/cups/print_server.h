@@ -75,6 +75,9 @@ class PrintServer {
 /// The value of a queue's option or attribute; null when it has none.
 QString optionOf(const cups_dest_t& destination, const char* name);
 
+/// The URI by which requests name a queue.
+QByteArray uriOfQueue(const QString& queue);
+
 /// libcups's last error as an outcome, behind what was tried.
 Outcome lastCupsError(const QString& attempt);
 

@@ -276,6 +276,8 @@ void PrintDialog::showPanel() {
   m_panes->addTab(m_panelPane, m_session.panel()->panelName());
   m_panes->addTab(m_summary, tr("Summary"));
   connect(m_panelPane, &PanelPane::panelChanged, this, &PrintDialog::updateSummary);
+  connect(m_summary, &SummaryPane::privacyAsked, this, [this] { m_client.checkPrivacy(m_wanted); });
+  connect(&m_client, &QueueClient::privacyChecked, m_summary, &SummaryPane::showPrivacy);
   updateSummary();
   if (m_options.pane != u"general") m_panes->setCurrentWidget(m_panelPane);
   if (m_options.pane == u"summary") m_panes->setCurrentWidget(m_summary);
@@ -288,8 +290,19 @@ void PrintDialog::updateSummary() {
 void PrintDialog::giveNames() {
   assignMnemonics(*this);
   if (m_panelPane != nullptr) m_panelPane->alignLabels();
-  // The layout sets the tab order of the parts; the panes lie between head and foot.
-  setTabOrder(m_chooseDocument, m_panes);
+  // Panes that came later stand behind everything else by themselves.
+  QWidget* last = m_panes;
+  const auto append = [&last](QWidget* widget) {
+    if ((widget->focusPolicy() & Qt::TabFocus) == 0) return;
+    setTabOrder(last, widget);
+    last = widget;
+  };
+  for (int i = 0; i < m_panes->count(); ++i) {
+    for (auto* widget : m_panes->widget(i)->findChildren<QWidget*>())
+      append(widget);
+  }
+  for (auto* button : m_buttons->findChildren<QPushButton*>())
+    append(button);
 }
 
 void PrintDialog::retry() {

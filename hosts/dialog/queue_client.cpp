@@ -20,6 +20,16 @@ void QueueClient::open(const QString& name) {
   });
 }
 
+void QueueClient::checkPrivacy(const QString& name) {
+  m_thread.post([this, server = m_server, name] {
+    JobPrivacy privacy;
+    std::unique_ptr<PrintServer> connection;
+    Outcome found = server.connect(&connection);
+    if (found) found = findJobPrivacy(*connection, name, &privacy);
+    answer(this, [this, found, privacy] { Q_EMIT privacyChecked(found, privacy); });
+  });
+}
+
 void QueueClient::send(const std::shared_ptr<Queue>& queue, const PrintJob& job) {
   m_isStopped = false;
   m_thread.post([this, server = m_server, queue, job] {

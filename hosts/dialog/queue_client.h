@@ -5,6 +5,7 @@
 #include <atomic>
 #include <memory>
 
+#include "hosts/cups/job_privacy.h"
 #include "hosts/cups/print_job.h"
 #include "hosts/cups/queue.h"
 #include "hosts/dialog/server_address.h"
@@ -25,6 +26,8 @@ class QueueClient : public QObject {
   void open(const QString& name);
   /// Sends a job to `queue`.
   void send(const std::shared_ptr<Queue>& queue, const PrintJob& job);
+  /// Finds out what other users see of a job on the queue `name`.
+  void checkPrivacy(const QString& name);
   /// Stops the job that is being sent; it then fails.
   void stopSending() { m_isStopped = true; }
 
@@ -36,6 +39,8 @@ class QueueClient : public QObject {
   void progressed(qint64 sent, qint64 total);
   void sent(int job);
   void sendFailed(const QString& reason);
+  /// What other users see; the outcome says why it is not known.
+  void privacyChecked(const kesto::Outcome& outcome, const kesto::JobPrivacy& privacy);
 
  private:
   ServerAddress m_server;

@@ -2,13 +2,36 @@
 
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+#include "hosts/dialog/plain_text.h"
 
 namespace kesto {
 
 SummaryPane::SummaryPane(QWidget* parent) : QScrollArea(parent) {
   auto* page = new QWidget(this);
-  m_form = new QFormLayout(page);
+  m_form = new QFormLayout;
   m_form->setLabelAlignment(Qt::AlignTrailing);
+  m_ask = new QPushButton(page);
+  setPlainText(*m_ask, tr("Who sees this job?"));
+  m_ask->setAutoDefault(false);
+  m_ask->setObjectName(QStringLiteral("privacy"));
+  m_privacy = new QLabel(page);
+  m_privacy->setTextFormat(Qt::PlainText);
+  m_privacy->setWordWrap(true);
+  m_privacy->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  m_privacy->setObjectName(QStringLiteral("privacyText"));
+  m_privacy->hide();
+  auto* column = new QVBoxLayout(page);
+  column->addLayout(m_form);
+  column->addWidget(m_ask, 0, Qt::AlignLeading);
+  column->addWidget(m_privacy);
+  column->addStretch();
+  connect(m_ask, &QPushButton::clicked, this, [this] {
+    m_ask->setEnabled(false);
+    Q_EMIT privacyAsked();
+  });
   setWidget(page);
   setWidgetResizable(true);
   setFrameShape(QFrame::NoFrame);
@@ -29,6 +52,21 @@ void SummaryPane::show(const QMap<QString, QString>& summary) {
     value->setAccessibleDescription(it.value());
     m_form->addRow(it.key() + u':', value);
   }
+}
+
+void SummaryPane::showPrivacy(const Outcome& outcome, const JobPrivacy& privacy) {
+  QString text = outcome.reason();
+  if (outcome && privacy.shown.isEmpty()) {
+    text = tr("Other users of the print server see that there is a job, and no more of it.");
+  } else if (outcome) {
+    text = tr("Other users of the print server see: %1. These lines in its policy %2 hide it:")
+               .arg(privacy.shown.join(QStringLiteral(", ")), privacy.policy) +
+           QStringLiteral("\n\n") + QLatin1String(privatePolicyLines);
+  }
+  m_privacy->setText(text.trimmed());
+  m_privacy->setAccessibleName(text);
+  m_privacy->show();
+  m_ask->setEnabled(true);
 }
 
 }  // namespace kesto

@@ -4,21 +4,33 @@
 #include <QtCore/QMap>
 #include <QtWidgets/QScrollArea>
 
+#include "hosts/cups/job_privacy.h"
+
 class QFormLayout;
+class QLabel;
+class QPushButton;
 
 namespace kesto {
 
-/// Labels with their values, as the panel gives them.
+/// Labels with their values, as the panel gives them; below them, when it is asked for, what other users see
+/// of the job.
 class SummaryPane : public QScrollArea {
   Q_OBJECT
 
  public:
   explicit SummaryPane(QWidget* parent);
   void show(const QMap<QString, QString>& summary);
+  void showPrivacy(const Outcome& outcome, const JobPrivacy& privacy);
+
+ Q_SIGNALS:
+  /// The user wants to know what others see.
+  void privacyAsked();
 
  private:
   QFormLayout* m_form;
   QMap<QString, QString> m_summary;
+  QPushButton* m_ask;
+  QLabel* m_privacy;
 };
 
 }  // namespace kesto

@@ -406,5 +406,17 @@
         <source>Summary</source>
         <translation>Übersicht</translation>
     </message>
+    <message>
+        <source>Who sees this job?</source>
+        <translation>Wer sieht diesen Auftrag?</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see that there is a job, and no more of it.</source>
+        <translation>Andere Benutzer des Druckservers sehen, dass es einen Auftrag gibt, und sonst nichts davon.</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
+        <translation>Andere Benutzer des Druckservers sehen: %1. Diese Zeilen in seiner Richtlinie %2 verbergen es:</translation>
+    </message>
 </context>
 </TS>

@@ -406,5 +406,17 @@
         <source>Summary</source>
         <translation>Resumen</translation>
     </message>
+    <message>
+        <source>Who sees this job?</source>
+        <translation>¿Quién ve este trabajo?</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see that there is a job, and no more of it.</source>
+        <translation>Los demás usuarios del servidor de impresión ven que hay un trabajo, y nada más.</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
+        <translation>Los demás usuarios del servidor de impresión ven: %1. Estas líneas en su política %2 lo ocultan:</translation>
+    </message>
 </context>
 </TS>

@@ -406,5 +406,17 @@
         <source>Summary</source>
         <translation>Résumé</translation>
     </message>
+    <message>
+        <source>Who sees this job?</source>
+        <translation>Qui voit ce travail ?</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see that there is a job, and no more of it.</source>
+        <translation>Les autres utilisateurs du serveur d’impression voient qu’il y a un travail, rien de plus.</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
+        <translation>Les autres utilisateurs du serveur d’impression voient : %1. Ces lignes dans sa règle %2 le masquent :</translation>
+    </message>
 </context>
 </TS>

@@ -405,5 +405,17 @@
         <source>Summary</source>
         <translation>概要</translation>
     </message>
+    <message>
+        <source>Who sees this job?</source>
+        <translation>このジョブは誰に見えますか?</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see that there is a job, and no more of it.</source>
+        <translation>プリントサーバーの他のユーザーには、ジョブがあることだけが見えます。</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
+        <translation>プリントサーバーの他のユーザーに見えるもの: %1。ポリシー %2 に次の行を加えると隠れます:</translation>
+    </message>
 </context>
 </TS>

@@ -405,5 +405,17 @@
         <source>Summary</source>
         <translation>摘要</translation>
     </message>
+    <message>
+        <source>Who sees this job?</source>
+        <translation>谁能看到此作业?</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see that there is a job, and no more of it.</source>
+        <translation>打印服务器的其他用户只能看到有一个作业，看不到其他内容。</translation>
+    </message>
+    <message>
+        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
+        <translation>打印服务器的其他用户能看到: %1。在其策略 %2 中加入以下几行即可隐藏:</translation>
+    </message>
 </context>
 </TS>
