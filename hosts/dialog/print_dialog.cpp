@@ -10,6 +10,7 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
 #include <utility>
@@ -291,9 +292,12 @@ void PrintDialog::giveNames() {
   assignMnemonics(*this);
   if (m_panelPane != nullptr) m_panelPane->alignLabels();
   // Panes that came later stand behind everything else by themselves.
-  QWidget* last = m_panes;
-  const auto append = [&last](QWidget* widget) {
-    if ((widget->focusPolicy() & Qt::TabFocus) == 0) return;
+  QWidget* last = m_panes->tabBar();
+  const auto append = [this, &last](QWidget* widget) {
+    // The tabs come before their pages; a list that drops down is a window of its own.
+    if (qobject_cast<QTabBar*>(widget) != nullptr) return;
+    if (auto* tabs = qobject_cast<QTabWidget*>(widget)) widget = tabs->tabBar();
+    if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->window() != this) return;
     setTabOrder(last, widget);
     last = widget;
   };
