@@ -85,9 +85,9 @@ void erase(QLineEdit& line, const QString& /*text*/) {
 }
 
 struct Edit {
-  const char* what;
+  const char* what = nullptr;
   Text before;
-  void (*edit)(QLineEdit& line, const QString& text);
+  void (*edit)(QLineEdit& line, const QString& text) = nullptr;
   Text given;
   Text after;
   TextRange selection;

@@ -8,6 +8,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
 
 #include "demo_process.h"
@@ -220,7 +221,8 @@ TEST_F(DialogPrint, AFailedFolderFetchIsAnAlert) {
   });
   click(u"getFolderNameButton"_s);
   EXPECT_EQ(alert, u"Could not retrieve Folder Names."_s);
-  EXPECT_TRUE(widget(u"getFolderNameButton"_s)->isEnabled());
+  EXPECT_EQ(m_dialog->focusWidget(), widget(u"getFolderNameButton"_s));
+  EXPECT_TRUE(widget<QPushButton>(u"print"_s)->isDefault());
   EXPECT_TRUE(m_dialog->isVisible());
 }
 

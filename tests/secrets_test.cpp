@@ -2,6 +2,7 @@
 #include <malloc.h>
 
 #include <QtCore/QFile>
+#include <algorithm>
 #include <limits>
 
 #include "support/test_panel.h"
@@ -23,14 +24,13 @@ bool isInHeap(const QByteArray& wanted) {
   QFile maps(u"/proc/self/maps"_s);
   EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
   const auto isWanted = [](char byte, char other) { return (byte ^ mask) == other; };
-  for (const QByteArray& line : maps.readAll().split('\n')) {
-    if (!line.contains("[heap]")) continue;
+  return std::ranges::any_of(maps.readAll().split('\n'), [&](const QByteArray& line) {
+    if (!line.contains("[heap]")) return false;
     const QList<QByteArray> range = line.left(line.indexOf(' ')).split('-');
     const auto* start = reinterpret_cast<const char*>(range[0].toULongLong(nullptr, 16));
     const auto* end = reinterpret_cast<const char*>(range[1].toULongLong(nullptr, 16));
-    if (std::search(start, end, wanted.begin(), wanted.end(), isWanted) != end) return true;
-  }
-  return false;
+    return std::search(start, end, wanted.begin(), wanted.end(), isWanted) != end;
+  });
 }
 
 QByteArray inUtf16(const QByteArray& text) {

@@ -98,11 +98,13 @@ void bindButton(Button& control, QAbstractButton& widget) {
     const QPointer<Button> isAlive(&control);
     const QPointer<QAbstractButton> button(&widget);
     const bool runsLong = control.type() == Button::Type::PushButton;
+    const bool hadFocus = button->hasFocus();
     if (runsLong) button->setEnabled(false);
     (void)control.click();  // what is disabled cannot be clicked
     if (isAlive && button) {
       button->setEnabled(control.isEnabled());
       button->setChecked(control.state() != 0);
+      if (runsLong && hadFocus) button->setFocus(Qt::OtherFocusReason);
     }
   });
 }

@@ -61,9 +61,9 @@ class GeneralPane : public QWidget {
 
   QSpinBox* m_copies;
   QCheckBox* m_collate;
-  QRadioButton* m_allPages;
-  QRadioButton* m_somePages;
-  QLineEdit* m_pages;
+  QRadioButton* m_allPages = nullptr;
+  QRadioButton* m_somePages = nullptr;
+  QLineEdit* m_pages = nullptr;
   QLabel* m_note;
   QFormLayout* m_form;
   ppd_file_t* m_ppd = nullptr;

@@ -1,6 +1,7 @@
 #include "hosts/dialog/panel_pane.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtUiTools/QUiLoader>
 #include <QtWidgets/QAbstractButton>

@@ -10,7 +10,7 @@ namespace kesto {
 namespace {
 
 struct DuplexChoice {
-  PortalDuplex side;
+  PortalDuplex side = PortalDuplex::Simplex;
   QLatin1String keyword;  // of the PPD's Duplex
 };
 

@@ -290,6 +290,9 @@ void PrintDialog::updateSummary() {
 
 void PrintDialog::giveNames() {
   assignMnemonics(*this);
+  // Enter prints, wherever the focus is.
+  for (auto* button : findChildren<QPushButton*>())
+    button->setAutoDefault(button == m_print);
   if (m_panelPane != nullptr) m_panelPane->alignLabels();
   // Panes that came later stand behind everything else by themselves.
   QWidget* last = m_panes->tabBar();

@@ -9,15 +9,16 @@
 
 namespace kesto {
 
-SummaryPane::SummaryPane(QWidget* parent) : QScrollArea(parent) {
+SummaryPane::SummaryPane(QWidget* parent)
+    : QScrollArea(parent),
+      m_form(new QFormLayout),
+      m_ask(new QPushButton(this)),
+      m_privacy(new QLabel(this)) {
   auto* page = new QWidget(this);
-  m_form = new QFormLayout;
   m_form->setLabelAlignment(Qt::AlignTrailing);
-  m_ask = new QPushButton(page);
   setPlainText(*m_ask, tr("Who sees this job?"));
   m_ask->setAutoDefault(false);
   m_ask->setObjectName(QStringLiteral("privacy"));
-  m_privacy = new QLabel(page);
   m_privacy->setTextFormat(Qt::PlainText);
   m_privacy->setWordWrap(true);
   m_privacy->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -1,6 +1,5 @@
 // kesto-print-tour: goes through the print dialog as a person would, for who has no display to do it. The
 // pass code comes from the first line of standard input.
-#include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
 #include <iostream>
 #include <string>
@@ -27,7 +26,8 @@ bool isReady(const PrintDialog& dialog) {
 }
 
 Outcome saveScreenshot(PrintDialog& dialog, const QString& path) {
-  QTest::qWait(0);  // what is laid out is painted
+  const auto isDrawn = [&] { return dialog.preview().isSettled(); };
+  if (Outcome drawn = DialogUser::waitUntil(isDrawn, QStringLiteral("the preview")); !drawn) return drawn;
   return dialog.grab().save(path) ? Outcome::done()
                                   : Outcome::failed(path + QStringLiteral(" cannot be written"));
 }
@@ -40,7 +40,9 @@ Outcome takeTour(PrintDialog& dialog, const QString& passCode, const QString& fo
   };
   const std::array steps{
       Step{"opens the dialog",
-           [&] { return user.waitUntil([&] { return isReady(dialog); }, QStringLiteral("the queue")); }},
+           [&] {
+             return DialogUser::waitUntil([&] { return isReady(dialog); }, QStringLiteral("the queue"));
+           }},
       Step{"chooses User Number", [&] { return user.click(QStringLiteral("userNumberRadioButton")); }},
       Step{"types the user number 42",
            [&] { return user.type(QStringLiteral("userNumberEditText"), QStringLiteral("42")); }},
@@ -51,11 +53,12 @@ Outcome takeTour(PrintDialog& dialog, const QString& passCode, const QString& fo
            [&] { return user.replace(QStringLiteral("printersAddressEditText"), folders); }},
       Step{"gets the folder names", [&] { return user.click(QStringLiteral("getFolderNameButton")); }},
       Step{"sees the printer's folders",
-           [&] { return user.waitUntil(hasFolders, QStringLiteral("the folders")); }},
+           [&] { return DialogUser::waitUntil(hasFolders, QStringLiteral("the folders")); }},
       Step{"takes a screenshot", [&] { return saveScreenshot(dialog, screenshot); }},
       Step{"presses Print", [&] { return user.click(QStringLiteral("print")); }},
-      Step{"waits for the job",
-           [&] { return user.waitUntil([&] { return dialog.job() > 0; }, QStringLiteral("the job")); }},
+      Step{
+          "waits for the job",
+          [&] { return DialogUser::waitUntil([&] { return dialog.job() > 0; }, QStringLiteral("the job")); }},
   };
   for (const Step& step : steps) {
     std::cout << "  " << step.told << std::endl;
