@@ -90,7 +90,6 @@ void readAnAnswer(benchmark::State& state) {
   const QByteArray xml = answerOf(state.range(0));
   for ([[maybe_unused]] auto _ : state)
     benchmark::DoNotOptimize(readFolderAnswer(xml));
-  state.SetComplexityN(state.range(0));
 }
 
 void xmlReaderAlone(benchmark::State& state) {
@@ -101,7 +100,6 @@ void xmlReaderAlone(benchmark::State& state) {
       reader.readNext();
     benchmark::DoNotOptimize(reader.hasError());
   }
-  state.SetComplexityN(state.range(0));
 }
 
 // The groups that the pop-up needs, on a list of folders.
@@ -129,7 +127,6 @@ void rebuildThePopUp(benchmark::State& state) {
     panel.state.outlets.folderSelectionPopup->setItems({});
     panel.popup.makeFolderPopup();
   }
-  state.SetComplexityN(state.range(0));
 }
 
 void findTheLastFolder(benchmark::State& state) {
@@ -137,7 +134,6 @@ void findTheLastFolder(benchmark::State& state) {
   const QString name = QStringLiteral("FOLDER %1").arg(state.range(0) - 1);
   for ([[maybe_unused]] auto _ : state)
     benchmark::DoNotOptimize(panel.popup.SearchSameFolderName(name));
-  state.SetComplexityN(state.range(0));
 }
 
 void runTheStorageRules(benchmark::State& state) {
@@ -151,21 +147,9 @@ BENCHMARK(writeAllSettings);
 BENCHMARK(restoreAllSettings);
 BENCHMARK(runTheStorageRules);
 BENCHMARK(openAPanel)->Unit(benchmark::kMicrosecond);
-BENCHMARK(xmlReaderAlone)
-    ->RangeMultiplier(100)
-    ->Range(10, 100000)
-    ->Complexity()
-    ->Unit(benchmark::kMicrosecond);
-BENCHMARK(readAnAnswer)->RangeMultiplier(100)->Range(10, 100000)->Complexity()->Unit(benchmark::kMicrosecond);
-BENCHMARK(rebuildThePopUp)
-    ->RangeMultiplier(100)
-    ->Range(10, 100000)
-    ->Complexity()
-    ->Unit(benchmark::kMicrosecond);
-BENCHMARK(findTheLastFolder)
-    ->RangeMultiplier(100)
-    ->Range(10, 100000)
-    ->Complexity()
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(xmlReaderAlone)->Arg(10)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(readAnAnswer)->Arg(10)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(rebuildThePopUp)->Arg(10)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(findTheLastFolder)->Arg(10)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
