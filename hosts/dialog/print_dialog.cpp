@@ -1,22 +1,16 @@
 #include "hosts/dialog/print_dialog.h"
 
 #include <QtGui/QAccessible>
-#include <QtGui/QShortcut>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QFormLayout>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
-#include <QtWidgets/QVBoxLayout>
 #include <utility>
 
 #include "hosts/dialog/general_pane.h"
-#include "hosts/dialog/help.h"
 #include "hosts/dialog/panel_pane.h"
 #include "hosts/dialog/plain_text.h"
 #include "hosts/dialog/preset_menu.h"
@@ -28,13 +22,6 @@ namespace kesto {
 namespace {
 
 constexpr std::chrono::milliseconds farewell(2500);  // the last message stays that long
-
-QLabel* labelFor(QWidget* field, const QString& text) {
-  auto* label = new QLabel;
-  label->setBuddy(field);
-  setPlainText(*label, text);
-  return label;
-}
 
 }  // namespace
 
@@ -56,118 +43,6 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
 PrintDialog::~PrintDialog() {
   m_client.stopSending();
   m_session.release();
-}
-
-void PrintDialog::build() {
-  setWindowTitle(tr("Print"));
-  m_preview = new Preview(this);
-  auto* side = new QVBoxLayout;
-  side->addWidget(makeHead());
-  side->addWidget(makePanes(), 1);
-  auto* body = new QHBoxLayout;
-  body->addWidget(m_preview, 1);
-  body->addLayout(side);
-  auto* column = new QVBoxLayout(this);
-  column->addLayout(body, 1);
-  column->addWidget(makeFoot());
-  // Room for the panel, so that the window need not grow when that comes.
-  resize(fontMetrics().horizontalAdvance(u'0') * 110, fontMetrics().height() * 42);
-  auto* help = new QShortcut(QKeySequence::HelpContents, this);
-  connect(help, &QShortcut::activated, this, [this] { showHelp(*this); });
-}
-
-QWidget* PrintDialog::makeHead() {
-  auto* head = new QWidget(this);
-  m_presets = new PresetMenu(m_session, head);
-  m_chooser = new QueueChooser(head);
-  m_documentName = new QLabel(head);
-  m_documentName->setTextFormat(Qt::PlainText);
-  m_documentName->setWordWrap(true);
-  m_chooseDocument = new QPushButton(head);
-  setPlainText(*m_chooseDocument, tr("Choose…"));
-  m_chooseDocument->setAccessibleName(tr("Choose the document"));
-  m_chooseDocument->setAutoDefault(false);
-  auto* document = new QHBoxLayout;
-  document->addWidget(m_documentName, 1);
-  document->addWidget(m_chooseDocument);
-  auto* presets = new QHBoxLayout;
-  presets->addWidget(m_presets);
-  presets->addStretch();
-  auto* form = new QFormLayout(head);
-  form->setContentsMargins({});
-  form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-  form->addRow(QString(), presets);
-  form->addRow(labelFor(m_chooser->field(), tr("Printer:")), m_chooser);
-  form->addRow(new QLabel(tr("Document:")), document);
-  return head;
-}
-
-QWidget* PrintDialog::makePanes() {
-  m_panes = new QTabWidget(this);
-  m_general = new GeneralPane(m_panes);
-  setPlainText(*m_general, tr("General"));
-  m_panes->addTab(m_general, tr("General"));
-  return m_panes;
-}
-
-QWidget* PrintDialog::makeFoot() {
-  auto* foot = new QWidget(this);
-  m_message = new QLabel(foot);
-  m_message->setTextFormat(Qt::PlainText);
-  m_message->setWordWrap(true);
-  m_message->setObjectName(QStringLiteral("message"));
-  m_progress = new QProgressBar(foot);
-  m_progress->setAccessibleName(tr("Sending the job"));
-  m_progress->hide();
-  m_buttons = new QDialogButtonBox(QDialogButtonBox::Help | QDialogButtonBox::Cancel, foot);
-  m_print = m_buttons->addButton(QString(), QDialogButtonBox::AcceptRole);
-  m_print->setObjectName(QStringLiteral("print"));
-  m_print->setDefault(true);
-  setPlainText(*m_print, tr("Print"));
-  setPlainText(*m_buttons->button(QDialogButtonBox::Help), tr("Help"));
-  setPlainText(*m_buttons->button(QDialogButtonBox::Cancel), tr("Cancel"));
-  auto* column = new QVBoxLayout(foot);
-  column->setContentsMargins({});
-  column->addWidget(m_message);
-  column->addWidget(m_progress);
-  column->addWidget(m_buttons);
-  return foot;
-}
-
-void PrintDialog::connectParts() {
-  connect(m_buttons, &QDialogButtonBox::accepted, this, &PrintDialog::print);
-  connect(m_buttons, &QDialogButtonBox::rejected, this, &PrintDialog::reject);
-  connect(m_buttons, &QDialogButtonBox::helpRequested, this, [this] { showHelp(*this); });
-  connect(m_chooseDocument, &QPushButton::clicked, this, &PrintDialog::chooseDocument);
-  connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);
-  connect(m_chooser, &QueueChooser::retryAsked, this, &PrintDialog::retry);
-  connect(m_presets, &PresetMenu::loaded, this, [this] {
-    m_panelPane->alignChoices();
-    updateSummary();
-  });
-  connect(m_general, &GeneralPane::optionChosen, this, [this](const QString& option, const QString& choice) {
-    if (m_session.panel() != nullptr) m_session.panel()->PPDOptionKeyValueDidChange(option, choice);
-  });
-  connect(&m_document, &Document::changed, this, &PrintDialog::showDocument);
-  connect(&m_watch, &QueueWatch::listed, this, &PrintDialog::takeQueues);
-  connect(&m_watch, &QueueWatch::changed, this, [this](const QueueSummary& queue) {
-    m_chooser->model().setQueue(queue);
-    if (queue.name == m_wanted && m_session.queue()) m_chooser->showState();
-  });
-  connect(&m_watch, &QueueWatch::removed, this,
-          [this](const QString& name) { m_chooser->model().removeQueue(name); });
-  connect(&m_watch, &QueueWatch::failed, this, [this](const QString& reason) {
-    m_listFault = reason;
-    if (!m_session.queue()) m_chooser->showText(reason, true);
-  });
-  connect(&m_client, &QueueClient::opened, this, &PrintDialog::takeQueue);
-  connect(&m_client, &QueueClient::openFailed, this, &PrintDialog::takeNoQueue);
-  connect(&m_client, &QueueClient::progressed, this, [this](qint64 sent, qint64 total) {
-    m_progress->setRange(0, total > 0 ? 1000 : 0);
-    if (total > 0) m_progress->setValue(static_cast<int>(1000 * sent / total));
-  });
-  connect(&m_client, &QueueClient::sent, this, &PrintDialog::takeSent);
-  connect(&m_client, &QueueClient::sendFailed, this, &PrintDialog::takeSendFailure);
 }
 
 // What the servers answer is shown once the window is.
@@ -286,30 +161,6 @@ void PrintDialog::showPanel() {
 
 void PrintDialog::updateSummary() {
   if (m_summary != nullptr && m_session.panel() != nullptr) m_summary->show(m_session.panel()->summaryInfo());
-}
-
-void PrintDialog::giveNames() {
-  assignMnemonics(*this);
-  // Enter prints, wherever the focus is.
-  for (auto* button : findChildren<QPushButton*>())
-    button->setAutoDefault(button == m_print);
-  if (m_panelPane != nullptr) m_panelPane->alignLabels();
-  // Panes that came later stand behind everything else by themselves.
-  QWidget* last = m_panes->tabBar();
-  const auto append = [this, &last](QWidget* widget) {
-    // The tabs come before their pages; a list that drops down is a window of its own.
-    if (qobject_cast<QTabBar*>(widget) != nullptr) return;
-    if (auto* tabs = qobject_cast<QTabWidget*>(widget)) widget = tabs->tabBar();
-    if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->window() != this) return;
-    setTabOrder(last, widget);
-    last = widget;
-  };
-  for (int i = 0; i < m_panes->count(); ++i) {
-    for (auto* widget : m_panes->widget(i)->findChildren<QWidget*>())
-      append(widget);
-  }
-  for (auto* button : m_buttons->findChildren<QPushButton*>())
-    append(button);
 }
 
 void PrintDialog::retry() {

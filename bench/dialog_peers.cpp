@@ -1,0 +1,70 @@
+// kesto-bench-dialog: what the first painting of kesto-print is measured against. Shows an empty dialog of
+// the toolkit ("empty") or the toolkit's own print dialog ("print"), prints "paint_ms=N", milliseconds from
+// the beginning of main to the end of the first painting, and ends.
+#include <QtPrintSupport/QPrintDialog>
+#include <QtPrintSupport/QPrinter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QVBoxLayout>
+#include <chrono>
+#include <iostream>
+#include <memory>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+class PaintClock : public QApplication {
+ public:
+  PaintClock(int& argc, char** argv, Clock::time_point begin) : QApplication(argc, argv), m_begin(begin) {}
+
+  void watch(QWidget* window) { m_window = window; }
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    if (receiver == m_window && event->type() == QEvent::Paint) m_hasPainted = true;
+    ++m_depth;
+    const bool handled = QApplication::notify(receiver, event);
+    if (--m_depth == 0 && m_hasPainted) {
+      m_hasPainted = false;
+      std::cout << "paint_ms="
+                << std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_begin).count()
+                << '\n';
+      quit();
+    }
+    return handled;
+  }
+
+ private:
+  Clock::time_point m_begin;
+  QWidget* m_window = nullptr;
+  int m_depth = 0;
+  bool m_hasPainted = false;
+};
+
+std::unique_ptr<QDialog> makeEmpty() {
+  auto dialog = std::make_unique<QDialog>();
+  auto* layout = new QVBoxLayout(dialog.get());
+  layout->addStretch();
+  layout->addWidget(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel));
+  dialog->resize(800, 600);
+  return dialog;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto begin = Clock::now();
+  PaintClock application(argc, argv, begin);
+  const bool isPrint = QCoreApplication::arguments().value(1) == QLatin1String("print");
+  std::unique_ptr<QPrinter> printer;
+  std::unique_ptr<QDialog> dialog;
+  if (isPrint) {
+    printer = std::make_unique<QPrinter>();
+    dialog = std::make_unique<QPrintDialog>(printer.get());
+  } else {
+    dialog = makeEmpty();
+  }
+  application.watch(dialog.get());
+  dialog->show();
+  return QApplication::exec();
+}
