@@ -93,27 +93,44 @@ QIcon eyeIcon(const QWidget& widget, bool isOpen) {
   return pixmap;
 }
 
-void addRevealButton(QLineEdit& line) {
-  auto* reveal = line.addAction(eyeIcon(line, false), QLineEdit::TrailingPosition);
-  reveal->setCheckable(true);
-  reveal->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
-  reveal->setShortcutContext(Qt::WidgetShortcut);
-  const auto show = [reveal, &line](bool isRevealed) {
-    line.setEchoMode(isRevealed ? QLineEdit::Normal : QLineEdit::Password);
-    reveal->setIcon(eyeIcon(line, isRevealed));
-    reveal->setText(isRevealed ? QCoreApplication::translate("FieldBinder", "Hide the digits")
-                               : QCoreApplication::translate("FieldBinder", "Show the digits"));
-    reveal->setToolTip(
-        QStringLiteral("%1 (%2)").arg(reveal->text(), reveal->shortcut().toString(QKeySequence::NativeText)));
-  };
-  QObject::connect(reveal, &QAction::toggled, &line, show);
-  show(false);
-}
+// The button in a line that shows what the line hides, and hides it again.
+class RevealButton : public QObject {
+ public:
+  explicit RevealButton(QLineEdit& line)
+      : QObject(&line), m_line(line), m_action(line.addAction(QIcon(), QLineEdit::TrailingPosition)) {
+    m_action->setCheckable(true);
+    m_action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    m_action->setShortcutContext(Qt::WidgetShortcut);
+    connect(m_action, &QAction::toggled, this, &RevealButton::show);
+    line.installEventFilter(this);
+    show();
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::PaletteChange) show();
+    return false;
+  }
+
+ private:
+  void show() {
+    const bool isRevealed = m_action->isChecked();
+    m_line.setEchoMode(isRevealed ? QLineEdit::Normal : QLineEdit::Password);
+    m_action->setIcon(eyeIcon(m_line, isRevealed));
+    m_action->setText(isRevealed ? QCoreApplication::translate("FieldBinder", "Hide the digits")
+                                 : QCoreApplication::translate("FieldBinder", "Show the digits"));
+    m_action->setToolTip(QStringLiteral("%1 (%2)").arg(
+        m_action->text(), m_action->shortcut().toString(QKeySequence::NativeText)));
+  }
+
+  QLineEdit& m_line;
+  QAction* m_action;
+};
 
 }  // namespace
 
 void bindField(TextField& field, QLineEdit& line) {
-  if (line.property("revealable").toBool()) addRevealButton(line);
+  if (line.property("revealable").toBool()) new RevealButton(line);
   const int columns = line.property("columns").toInt();
   if (columns > 0) {
     // Room for the widest digits, the frame and a button inside.
