@@ -1,6 +1,7 @@
 // What a panel leaves in the memory of its process.
 #include <QtCore/QFile>
 
+#include "platform/secret.h"
 #include "support/test_panel.h"
 
 namespace kesto::test {
@@ -53,6 +54,27 @@ const Secret secrets[] = {
 void type(TextField& field, const QByteArray& secret) {
   for (const char byte : secret)
     EXPECT_TRUE(field.type(QString(QChar(static_cast<char16_t>(byte ^ mask)))));
+}
+
+// The sanitizers and valgrind see a byte too many.
+TEST(Secrets, ABufferIsWipedWithinItsStorage) {
+  const std::function<void(QString&)> edits[] = {
+      [](QString& text) { text.prepend(u'b'); }, [](QString& text) { text.remove(0, 1); },
+      [](QString& text) { text.truncate(3); }, [](QString& text) { text.insert(5, u"xy"_s); },
+      [](QString& text) { text.reserve(500); }};
+  for (const auto& first : edits) {
+    for (const auto& second : edits) {
+      QString text(40, u'a');
+      first(text);
+      second(text);
+      QString shared = text;
+      const QString expected = text + u'.';
+      wipe(text);
+      EXPECT_TRUE(text.isNull());
+      EXPECT_EQ(shared + u'.', expected) << "storage of another was wiped";
+      wipe(shared);
+    }
+  }
 }
 
 // The sanitizers and valgrind keep the heap elsewhere.
