@@ -1,4 +1,6 @@
 // What a panel leaves in the memory of its process.
+#include <unistd.h>
+
 #include <QtCore/QFile>
 
 #include "platform/secret.h"
@@ -21,14 +23,15 @@ bool isInHeap(const QByteArray& wanted) {
   QFile maps(u"/proc/self/maps"_s);
   EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
   const auto isWanted = [](char byte, char other) { return (byte ^ mask) == other; };
-  for (const QByteArray& line : maps.readAll().split('\n')) {
-    if (!line.contains("[heap]")) continue;
+  const QList<QByteArray> lines = maps.readAll().split('\n');
+  return std::ranges::any_of(lines, [&](const QByteArray& line) {
+    if (!line.contains("[heap]")) return false;
     const QList<QByteArray> range = line.left(line.indexOf(' ')).split('-');
     const auto* start = reinterpret_cast<const char*>(range[0].toULongLong(nullptr, 16));
-    const auto* end = reinterpret_cast<const char*>(range[1].toULongLong(nullptr, 16));
-    if (std::search(start, end, wanted.begin(), wanted.end(), isWanted) != end) return true;
-  }
-  return false;
+    // Not the end that was read: freeing what was read can have made the heap smaller.
+    const auto* end = static_cast<const char*>(::sbrk(0));
+    return std::search(start, end, wanted.begin(), wanted.end(), isWanted) != end;
+  });
 }
 
 QByteArray inUtf16(const QByteArray& text) {
