@@ -7,9 +7,13 @@ namespace {
 
 template <class Buffer>
 void wipeOwn(Buffer& buffer) {
-  // Beyond its size a buffer can hold the end of a longer text.
-  if (buffer.isDetached())
-    OPENSSL_cleanse(buffer.data(), static_cast<std::size_t>(buffer.capacity()) * sizeof *buffer.data());
+  if (buffer.isDetached()) {
+    // All that is allocated: around its text a buffer can hold parts of a longer one. Its text need not begin
+    // where the storage does, which its capacity counts from.
+    auto& storage = buffer.data_ptr();
+    OPENSSL_cleanse(storage.data() - storage.freeSpaceAtBegin(),
+                    static_cast<std::size_t>(storage.constAllocatedCapacity()) * sizeof *storage.data());
+  }
   buffer = Buffer();
 }
 
