@@ -21,12 +21,37 @@ PpdOption optionOfPpd(const ppd_option_t& option) {
   return made;
 }
 
+// The standard's values of "sides", and those of the PPD's Duplex.
+struct Sides {
+  const char* standard;
+  const char* duplex;
+};
+
+constexpr std::array allSides{Sides{"one-sided", "None"}, Sides{"two-sided-long-edge", "DuplexNoTumble"},
+                              Sides{"two-sided-short-edge", "DuplexTumble"}};
+
+// Marks an option that has a name of the PPD, or one of the two that have a standard's name as well.
+// libcups's own call for that loses memory each time.
+void mark(ppd_file_t& ppd, const char* option, const char* value) {
+  ppdMarkOption(&ppd, option, value);
+  const QByteArrayView name(option);
+  if (name == "sides") {
+    for (const Sides& sides : allSides) {
+      if (QByteArrayView(value) == sides.standard) ppdMarkOption(&ppd, "Duplex", sides.duplex);
+    }
+  }
+  const pwg_media_t* media = name == "media" ? pwgMediaForPWG(value) : nullptr;
+  if (media != nullptr && media->ppd != nullptr) ppdMarkOption(&ppd, "PageSize", media->ppd);
+}
+
 }  // namespace
 
 void markDefaults(ppd_file_t& ppd, const cups_dest_t* destination) {
   ppdLocalize(&ppd);
   ppdMarkDefaults(&ppd);
-  if (destination != nullptr) cupsMarkOptions(&ppd, destination->num_options, destination->options);
+  if (destination == nullptr) return;
+  for (int i = 0; i < destination->num_options; ++i)
+    mark(ppd, destination->options[i].name, destination->options[i].value);
 }
 
 std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledByPanel) {
