@@ -32,15 +32,15 @@ constexpr std::array allSides{Sides{"one-sided", "None"}, Sides{"two-sided-long-
 
 // Marks an option that has a name of the PPD, or one of the two that have a standard's name as well.
 // libcups's own call for that loses memory each time.
-void mark(ppd_file_t& ppd, const char* option, const char* value) {
-  ppdMarkOption(&ppd, option, value);
-  const QByteArrayView name(option);
+void mark(ppd_file_t& ppd, const char* keyword, const char* choice) {
+  ppdMarkOption(&ppd, keyword, choice);
+  const QByteArrayView name(keyword);
   if (name == "sides") {
     for (const Sides& sides : allSides) {
-      if (QByteArrayView(value) == sides.standard) ppdMarkOption(&ppd, "Duplex", sides.duplex);
+      if (QByteArrayView(choice) == sides.standard) ppdMarkOption(&ppd, "Duplex", sides.duplex);
     }
   }
-  const pwg_media_t* media = name == "media" ? pwgMediaForPWG(value) : nullptr;
+  const pwg_media_t* media = name == "media" ? pwgMediaForPWG(choice) : nullptr;
   if (media != nullptr && media->ppd != nullptr) ppdMarkOption(&ppd, "PageSize", media->ppd);
 }
 
