@@ -134,10 +134,7 @@ Outcome Job::open(PrintDialogPlugIn& plugIn) {
   const bool isNamed = m_options.title || m_options.task == Task::Print;
   m_host.settings.emplace().setJobName(isNamed ? std::optional(titleOf(m_options)) : std::nullopt);
   m_host.ppd = std::move(m_queue.ppd);
-  if (Outcome opened = m_host.openPanel(plugIn); !opened) return opened;
-  if (panel().panelView() == nullptr) return Outcome::failed(QStringLiteral("the panel has no layout"));
-  panel().willShow();
-  return Outcome::done();
+  return m_host.openShownPanel(plugIn);
 }
 
 Outcome Job::restore() {
@@ -152,11 +149,7 @@ Outcome Job::restore() {
 Outcome Job::enter(const Entries& entries) {
   PanelView& view = *panel().panelView();
   if (Outcome applied = applyEntries(view, entries); !applied) return applied;
-  panel().saveValuesAndReturnError(nullptr);
-  m_platform.setGateOpen(false);
-  const bool mayPrint = panel().shouldPrint();
-  m_platform.setGateOpen(true);
-  if (mayPrint) return Outcome::done();
+  if (m_platform.confirmJob(panel())) return Outcome::done();
   return Outcome::failed(panel().panelName() + QStringLiteral(": ") + missingEntry(view));
 }
 

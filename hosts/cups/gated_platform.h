@@ -1,6 +1,7 @@
 // A platform whose preferences can be kept from changing.
 #pragma once
 
+#include "platform/panel.h"
 #include "platform/system_platform.h"
 #include "platform/user_defaults.h"
 
@@ -13,7 +14,15 @@ class GatedPlatform : public SystemPlatform {
  public:
   using SystemPlatform::SystemPlatform;
 
-  void setGateOpen(bool isOpen) { m_gate.isOpen = isOpen; }
+  /// Has a panel write the job's print settings and say whether the job may go out. Nothing is remembered:
+  /// the gate is closed meanwhile.
+  bool confirmJob(PrintDialogPanel& panel) {
+    panel.saveValuesAndReturnError(nullptr);
+    m_gate.isOpen = false;
+    const bool mayPrint = panel.shouldPrint();
+    m_gate.isOpen = true;
+    return mayPrint;
+  }
   UserDefaults& userDefaults() override { return m_gate; }
 
  private:

@@ -12,6 +12,13 @@ Outcome PanelHost::openPanel(PrintDialogPlugIn& plugIn) {
   return Outcome::done();
 }
 
+Outcome PanelHost::openShownPanel(PrintDialogPlugIn& plugIn) {
+  if (Outcome opened = openPanel(plugIn); !opened) return opened;
+  if (m_panel->panelView() == nullptr) return Outcome::failed(QStringLiteral("the panel has no layout"));
+  m_panel->willShow();
+  return Outcome::done();
+}
+
 PanelView* PanelHost::loadedView() const {
   return m_panel && m_panel->property("hasInited").toBool() ? m_panel->panelView() : nullptr;
 }

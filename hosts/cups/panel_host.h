@@ -31,6 +31,8 @@ class PanelHost : public HostCallback {
 
   /// Makes the Job Handling panel from the bundle's entry object. The outcome says why there is none.
   Outcome openPanel(PrintDialogPlugIn& plugIn);
+  /// As `openPanel`, and has the panel ready to be shown and restored. Fails too when it has no layout.
+  Outcome openShownPanel(PrintDialogPlugIn& plugIn);
   /// Null until the panel is opened.
   PrintDialogPanel* panel() const { return m_panel.get(); }
   /// The panel's controls once the panel has made them, else null: looking never loads the layout.

@@ -28,9 +28,7 @@ Outcome JobSession::openPanel(const QString& jobName) {
   m_host->ppd = std::move(m_queue->ppd);
   m_host->session.currentPrinter = Printer{.id = m_queue->id, .deviceUri = m_queue->deviceUri};
   m_host->settings.emplace().setJobName(jobName);
-  if (Outcome opened = m_host->openPanel(*m_plugIn); !opened) return opened;
-  if (panel()->panelView() == nullptr) return Outcome::failed(QStringLiteral("the panel has no layout"));
-  panel()->willShow();
+  if (Outcome opened = m_host->openShownPanel(*m_plugIn); !opened) return opened;
   restorePanel(*m_host, {});
   m_presets.emplace(m_platform->userDefaults(), m_queue->id);
   return Outcome::done();
@@ -57,12 +55,7 @@ void JobSession::renameJob(const QString& jobName) {
 }
 
 bool JobSession::confirm() {
-  if (panel() == nullptr) return true;
-  panel()->saveValuesAndReturnError(nullptr);
-  m_platform->setGateOpen(false);
-  const bool mayPrint = panel()->shouldPrint();
-  m_platform->setGateOpen(true);
-  return mayPrint;
+  return panel() == nullptr || m_platform->confirmJob(*panel());
 }
 
 void JobSession::remember() {

@@ -31,11 +31,6 @@ PresetMenu::PresetMenu(JobSession& session, QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   setMenu(m_menu);
   connect(m_menu, &QMenu::aboutToShow, this, &PresetMenu::fill);
-  update();
-}
-
-void PresetMenu::update() {
-  setEnabled(m_session.presets() != nullptr);
 }
 
 void PresetMenu::fill() {

@@ -7,15 +7,13 @@ namespace kesto {
 
 class JobSession;
 
-/// Loads, saves and deletes presets of the queue's panel. Disabled without a panel.
+/// Loads, saves and deletes presets of the queue's panel; of use only while there is one.
 class PresetMenu : public QToolButton {
   Q_OBJECT
 
  public:
   /// `session` must outlive the menu.
   PresetMenu(JobSession& session, QWidget* parent);
-  /// The queue has changed.
-  void update();
 
  Q_SIGNALS:
   /// A preset has been read into the panel.

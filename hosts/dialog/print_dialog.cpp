@@ -98,17 +98,18 @@ void PrintDialog::leaveQueue() {
   m_panelPane = nullptr;
   m_summary = nullptr;
   m_session.release();
-  m_presets->update();
   updateControls();
+}
+
+QString PrintDialog::jobName() const {
+  return m_options.title.isNull() ? m_document.name() : m_options.title;
 }
 
 void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
   m_wanted = queue->id;
-  const QString name = m_options.title.isNull() ? m_document.name() : m_options.title;
-  const Outcome taken = m_session.take(queue, name);
-  const PrintDialogPanel* panel = m_session.panel();
-  m_general->setPpd(m_session.ppd(),
-                    panel == nullptr ? QStringList() : m_session.panel()->supportedPPDOptionKeys());
+  const Outcome taken = m_session.take(queue, jobName());
+  PrintDialogPanel* panel = m_session.panel();
+  m_general->setPpd(m_session.ppd(), panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys());
   m_chooser->setCurrent(m_wanted);
   m_chooser->showState();
   if (!taken) showMessage(taken.reason());
@@ -121,7 +122,6 @@ void PrintDialog::showQueue(const std::shared_ptr<Queue>& queue) {
   if (m_session.queue() != queue) return;
   if (m_session.view() != nullptr) showPanel();
   setWindowTitle(tr("Print on %1").arg(queue->id));
-  m_presets->update();
   m_isSettled = true;
   giveNames();
   updateControls();
@@ -173,15 +173,13 @@ void PrintDialog::showDocument() {
   const State state = m_document.state();
   const QString file = state == State::Ready ? m_document.files().first() : QString();
   QString text = m_document.name();
-  if (state == State::None) text = tr("none chosen");
+  if (state == State::None) text = m_options.documentLater ? m_options.title : tr("none chosen");
   if (state == State::Failed) text = m_document.fault();
   m_documentName->setText(text);
   m_preview->show(file, state == State::Reading   ? tr("The document is being read…")
                         : m_options.documentLater ? tr("The application draws the pages after the choice.")
                                                   : tr("No document"));
-  const bool isLater = m_options.documentLater && state == State::None;
-  m_chooseDocument->setVisible(!isLater && (state == State::None || state == State::Failed));
-  if (isLater) m_documentName->setText(m_options.title);
+  m_chooseDocument->setVisible(state == State::Failed || (state == State::None && !m_options.documentLater));
   if (m_options.title.isNull()) m_session.renameJob(m_document.name());
   if (m_phase == Phase::Waiting && state == State::Ready) return send();
   updateControls();
@@ -215,9 +213,7 @@ void PrintDialog::print() {
 }
 
 void PrintDialog::send() {
-  PrintJob job{.title = m_options.title.isNull() ? m_document.name() : m_options.title,
-               .files = m_document.files(),
-               .options = m_options.jobOptions};
+  PrintJob job{.title = jobName(), .files = m_document.files(), .options = m_options.jobOptions};
   job.options.insert(m_general->jobOptions());
   job.options.insert(m_session.settings());
   // Whoever drew the document has left out the other pages.

@@ -82,6 +82,7 @@ class PrintDialog : public QDialog {
   void connectParts();
   void takeQueues(const std::vector<QueueSummary>& queues);
   void chooseQueue(const QString& name);
+  QString jobName() const;
   void showQueue(const std::shared_ptr<Queue>& queue);
   void takeNoQueue(const QString& reason);
   void showPanel();
