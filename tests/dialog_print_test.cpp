@@ -226,6 +226,17 @@ TEST_F(DialogPrint, AFailedFolderFetchIsAnAlert) {
   EXPECT_TRUE(m_dialog->isVisible());
 }
 
+TEST_F(DialogPrint, WhatHappensToAQueueIsFollowed) {
+  startPrinter();
+  openReady();
+  bool hasChanged = false;
+  QObject::connect(&m_dialog->queues(), &QAbstractItemModel::dataChanged, qApp, [&] { hasChanged = true; });
+  DemoProcess job(m_folder, builtProgram("kesto-lp"),
+                  {u"-h"_s, m_printer->place(u"server"_s), m_folder.path(u"report.pdf"_s)});
+  EXPECT_EQ(job.code(), 0) << job.log();
+  await([&] { return hasChanged; }, u"news of the queue"_s);
+}
+
 TEST_F(DialogPrint, CancelEndsAFolderFetch) {
   startPrinter();
   QTcpServer silent;

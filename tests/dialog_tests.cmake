@@ -4,7 +4,7 @@ function(kesto_dialog_test name)
   add_executable(${name} dialog_main.cpp ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE kesto_dialog_user kesto_test_support ${arg_LINKS})
   target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <QtWidgets/QWidget>)
-  add_dependencies(${name} kesto_resources kesto-demo-printer kesto-print)
+  add_dependencies(${name} kesto_resources kesto-demo-printer kesto-lp kesto-print)
 endfunction()
 
 kesto_dialog_test(dialog_test SOURCES dialog_pane_test.cpp dialog_print_test.cpp LINKS Qt6::Network)
