@@ -1,7 +1,9 @@
 #include "panel/layout_loader.h"
 
 #include <QtCore/QSet>
-#include <QtXml/QDomDocument>
+#include <QtCore/QXmlStreamReader>
+#include <algorithm>
+#include <vector>
 
 #include "panel/localized.h"
 #include "panel/outlets.h"
@@ -9,145 +11,209 @@
 namespace kesto {
 namespace {
 
-// Forms nest a dozen levels; far more is no form.
-constexpr int deepestWidget = 100;
+// Forms nest two dozen elements; far more is no form.
+constexpr int deepestElement = 100;
 
-// Reads one form; the first fault ends the reading.
+// The value of a property or attribute of a widget.
+struct FormValue {
+  QString name;
+  QString text;
+  bool isLeftToPanel = false;  // the panel's initialisation translates it
+};
+
+// A widget of the form with what stands in it; also an item of a pop-up, which has properties alone.
+struct FormWidget {
+  QString type;
+  QString name;
+  qint64 line = 0;
+  std::vector<FormValue> properties;
+  std::vector<FormValue> attributes;
+  std::vector<FormWidget> children;  // directly in it, whatever layouts stand between
+  std::vector<FormWidget> items;
+};
+
+// Reads the elements of a form; the first fault ends the reading.
 class FormReader {
  public:
-  FormReader(PanelView& view, const Bundle& bundle) : m_view(view), m_bundle(bundle) {}
+  explicit FormReader(const QByteArray& ui) : m_xml(ui) {}
 
-  Outcome read(const QDomElement& widget) {
-    readWidget(widget, 0);
+  Outcome read(FormWidget* root) {
+    const bool isForm = m_xml.readNextStartElement() && m_xml.name() == u"ui";
+    bool hasRoot = false;
+    while (isForm && m_xml.readNextStartElement()) {
+      if (m_xml.name() == u"widget" && !hasRoot) {
+        readWidget(*root, 0);
+        hasRoot = true;
+      } else {
+        m_xml.skipCurrentElement();
+      }
+    }
+    // What follows the form must be well-formed, too.
+    while (!m_xml.atEnd())
+      m_xml.readNext();
+    if (m_xml.hasError()) {
+      return Outcome::failed(QStringLiteral("line %1: %2").arg(m_xml.lineNumber()).arg(m_xml.errorString()));
+    }
+    return hasRoot ? Outcome::done() : Outcome::failed(QStringLiteral("not a form"));
+  }
+
+ private:
+  void readWidget(FormWidget& widget, int depth) {
+    widget.type = m_xml.attributes().value(QLatin1String("class")).toString();
+    widget.name = m_xml.attributes().value(QLatin1String("name")).toString();
+    widget.line = m_xml.lineNumber();
+    readContents(widget, depth, true);
+  }
+
+  // `isDirect`: the elements stand in the widget itself rather than in a layout of it.
+  void readContents(FormWidget& widget, int depth, bool isDirect) {
+    if (depth > deepestElement) return m_xml.raiseError(QStringLiteral("elements nested too deep"));
+    while (m_xml.readNextStartElement()) {
+      const QStringView element = m_xml.name();
+      if (element == u"widget") {
+        readWidget(widget.children.emplace_back(), depth + 1);
+      } else if (element == u"layout" || (element == u"item" && !isDirect)) {
+        readContents(widget, depth + 1, false);
+      } else if (element == u"item") {
+        readContents(widget.items.emplace_back(), depth + 1, true);
+      } else if (element == u"property" && isDirect) {
+        widget.properties.push_back(readValue());
+      } else if (element == u"attribute" && isDirect) {
+        widget.attributes.push_back(readValue());
+      } else {
+        m_xml.skipCurrentElement();
+      }
+    }
+  }
+
+  FormValue readValue() {
+    FormValue value{.name = m_xml.attributes().value(QLatin1String("name")).toString(), .text = {}};
+    while (m_xml.readNextStartElement()) {
+      value.isLeftToPanel = m_xml.attributes().value(QLatin1String("notr")) == u"true";
+      value.text = m_xml.readElementText(QXmlStreamReader::IncludeChildElements);
+    }
+    return value;
+  }
+
+  QXmlStreamReader m_xml;
+};
+
+// The value of that name; one without a text when there is none.
+const FormValue& valueOf(const std::vector<FormValue>& values, QStringView name) {
+  static const FormValue none;
+  const auto found = std::ranges::find_if(values, [&](const FormValue& value) { return value.name == name; });
+  return found == values.end() ? none : *found;
+}
+
+const QString& property(const FormWidget& widget, QStringView name) {
+  return valueOf(widget.properties, name).text;
+}
+
+// Makes the controls of a form's widgets; the first fault ends the making.
+class ControlMaker {
+ public:
+  ControlMaker(PanelView& view, const Bundle& bundle) : m_view(view), m_bundle(bundle) {}
+
+  Outcome make(const FormWidget& root) {
+    makeControls(root);
     return m_fault.isNull() ? Outcome::done() : Outcome::failed(m_fault);
   }
 
  private:
-  void fail(const QDomElement& element, const QString& fault) {
-    if (m_fault.isNull()) m_fault = QStringLiteral("line %1: %2").arg(element.lineNumber()).arg(fault);
-  }
-
-  // The value of a property or attribute; null when the widget has none of that name.
-  static QDomElement valueOf(const QDomElement& widget, QLatin1String name, QLatin1String element) {
-    for (QDomElement each = widget.firstChildElement(element); !each.isNull();
-         each = each.nextSiblingElement(element)) {
-      if (each.attribute(QStringLiteral("name")) == name) return each.firstChildElement();
-    }
-    return {};
-  }
-
-  static QString property(const QDomElement& widget, QLatin1String name) {
-    return valueOf(widget, name, QLatin1String("property")).text();
+  void fail(const FormWidget& widget, const QString& fault) {
+    if (m_fault.isNull()) m_fault = QStringLiteral("line %1: %2").arg(widget.line).arg(fault);
   }
 
   // A text that the user sees.
-  QString visibleText(const QDomElement& widget, QLatin1String name,
-                      QLatin1String element = QLatin1String("property")) const {
-    const QDomElement value = valueOf(widget, name, element);
-    const bool isLeftToPanel = value.attribute(QStringLiteral("notr")) == u"true";
-    return isLeftToPanel ? value.text() : localizedStringValue(m_bundle, value.text());
+  QString visibleText(const FormValue& value) const {
+    return value.isLeftToPanel ? value.text : localizedStringValue(m_bundle, value.text);
+  }
+  QString visibleText(const FormWidget& widget, QStringView name) const {
+    return visibleText(valueOf(widget.properties, name));
   }
 
-  // The widgets directly in this one, whatever layouts stand between.
-  static QList<QDomElement> childWidgets(const QDomElement& parent) {
-    QList<QDomElement> children;
-    for (QDomElement each = parent.firstChildElement(); !each.isNull(); each = each.nextSiblingElement()) {
-      if (each.tagName() == u"widget") {
-        children.append(each);
-      } else if (each.tagName() == u"layout" || each.tagName() == u"item") {
-        children.append(childWidgets(each));
-      }
-    }
-    return children;
-  }
-
-  void readWidget(const QDomElement& widget, int depth) {
-    if (depth > deepestWidget) return fail(widget, QStringLiteral("widgets nested too deep"));
-    const QList<QDomElement> children = childWidgets(widget);
-    Control* control = makeControl(widget, children);
+  void makeControls(const FormWidget& widget) {
+    Control* control = makeControl(widget);
     if (control != nullptr) {
       if (m_names.contains(control->objectName())) {
         return fail(widget, QStringLiteral("a second control is called %1").arg(control->objectName()));
       }
       m_names.insert(control->objectName());
-      control->setAction(property(widget, QLatin1String("action")));
+      control->setAction(property(widget, u"action"));
     }
-    for (const QDomElement& child : children) {
+    for (const FormWidget& child : widget.children) {
       if (!m_fault.isNull()) return;
-      readWidget(child, depth + 1);
+      makeControls(child);
     }
   }
 
-  Control* makeControl(const QDomElement& widget, const QList<QDomElement>& children) {
-    const QString type = widget.attribute(QStringLiteral("class"));
-    const QString name = widget.attribute(QStringLiteral("name"));
-    if (type == u"QCheckBox") return makeButton(widget, name, Button::Type::CheckBox);
-    if (type == u"QToolButton") return makeButton(widget, name, Button::Type::HoldButton);
-    if (type == u"QPushButton") return makeButton(widget, name, Button::Type::PushButton);
-    if (type == u"QLabel" || type == u"QLineEdit") return makeText(widget, name, type == u"QLabel");
-    if (type == u"QComboBox") return makePopUp(widget, name);
-    if (type == u"QTabWidget") return makeTabView(name, children);
-    if (type == u"QProgressBar") return new ProgressIndicator(name, &m_view);
+  Control* makeControl(const FormWidget& widget) {
+    const QString& type = widget.type;
+    if (type == u"QCheckBox") return makeButton(widget, Button::Type::CheckBox);
+    if (type == u"QToolButton") return makeButton(widget, Button::Type::HoldButton);
+    if (type == u"QPushButton") return makeButton(widget, Button::Type::PushButton);
+    if (type == u"QLabel" || type == u"QLineEdit") return makeText(widget, type == u"QLabel");
+    if (type == u"QComboBox") return makePopUp(widget);
+    if (type == u"QTabWidget") return makeTabView(widget);
+    if (type == u"QProgressBar") return new ProgressIndicator(widget.name, &m_view);
     if (type == u"QGroupBox") {
-      auto* box = new Box(name, &m_view);
-      box->setTitle(visibleText(widget, QLatin1String("title")));
+      auto* box = new Box(widget.name, &m_view);
+      box->setTitle(visibleText(widget, u"title"));
       return box;
     }
-    if (type == u"QWidget") return makeMatrix(widget, name, children);
+    if (type == u"QWidget") return makeMatrix(widget);
     return nullptr;  // the cells of a matrix are made with it
   }
 
-  Control* makeButton(const QDomElement& widget, const QString& name, Button::Type type) {
-    auto* button = new Button(type, name, &m_view);
-    if (type != Button::Type::HoldButton) button->setTitle(visibleText(widget, QLatin1String("text")));
-    button->setState(property(widget, QLatin1String("checked")) == u"true" ? 1 : 0);
+  Control* makeButton(const FormWidget& widget, Button::Type type) {
+    auto* button = new Button(type, widget.name, &m_view);
+    if (type != Button::Type::HoldButton) button->setTitle(visibleText(widget, u"text"));
+    button->setState(property(widget, u"checked") == u"true" ? 1 : 0);
     return button;
   }
 
-  Control* makeText(const QDomElement& widget, const QString& name, bool isLabel) {
-    const int tag = property(widget, QLatin1String("tag")).toInt();
+  Control* makeText(const FormWidget& widget, bool isLabel) {
+    const int tag = property(widget, u"tag").toInt();
     if (isLabel != (tag == 0)) {
-      fail(widget, QStringLiteral("%1: labels have tag 0, text fields another").arg(name));
+      fail(widget, QStringLiteral("%1: labels have tag 0, text fields another").arg(widget.name));
     }
-    auto* field = new TextField(name, &m_view, tag);
-    field->setStringValue(visibleText(widget, QLatin1String("text")));
+    auto* field = new TextField(widget.name, &m_view, tag);
+    field->setStringValue(visibleText(widget, u"text"));
     return field;
   }
 
-  Control* makePopUp(const QDomElement& widget, const QString& name) {
-    auto* popUp = new PopUp(name, &m_view);
+  Control* makePopUp(const FormWidget& widget) {
+    auto* popUp = new PopUp(widget.name, &m_view);
     std::vector<PopUpItem> items;
-    for (QDomElement item = widget.firstChildElement(QStringLiteral("item")); !item.isNull();
-         item = item.nextSiblingElement(QStringLiteral("item"))) {
-      items.push_back({.title = visibleText(item, QLatin1String("text")), .image = {}});
+    for (const FormWidget& item : widget.items) {
+      items.push_back({.title = visibleText(item, u"text"), .image = {}});
     }
     popUp->setItems(std::move(items));
-    popUp->selectItemAtIndex(property(widget, QLatin1String("currentIndex")).toInt());
+    popUp->selectItemAtIndex(property(widget, u"currentIndex").toInt());
     return popUp;
   }
 
-  Control* makeTabView(const QString& name, const QList<QDomElement>& pages) {
+  Control* makeTabView(const FormWidget& widget) {
     QStringList labels;
-    for (const QDomElement& page : pages) {
-      labels.append(visibleText(page, QLatin1String("title"), QLatin1String("attribute")));
+    for (const FormWidget& page : widget.children) {
+      labels.append(visibleText(valueOf(page.attributes, u"title")));
     }
-    auto* tabView = new TabView(name, &m_view);
+    auto* tabView = new TabView(widget.name, &m_view);
     tabView->setLabels(labels);
     return tabView;
   }
 
-  Control* makeMatrix(const QDomElement& widget, const QString& name, const QList<QDomElement>& children) {
+  Control* makeMatrix(const FormWidget& widget) {
     RadioMatrix* matrix = nullptr;
-    for (const QDomElement& child : children) {
-      if (child.attribute(QStringLiteral("class")) != u"QRadioButton") continue;
-      if (matrix == nullptr) matrix = new RadioMatrix(name, &m_view);
-      const RadioCell* cell =
-          matrix->addCell(child.attribute(QStringLiteral("name")), visibleText(child, QLatin1String("text")));
-      if (property(child, QLatin1String("checked")) == u"true") matrix->selectRow(cell->row());
+    for (const FormWidget& child : widget.children) {
+      if (child.type != u"QRadioButton") continue;
+      if (matrix == nullptr) matrix = new RadioMatrix(widget.name, &m_view);
+      const RadioCell* cell = matrix->addCell(child.name, visibleText(child, u"text"));
+      if (property(child, u"checked") == u"true") matrix->selectRow(cell->row());
     }
     if (matrix == nullptr) return nullptr;  // a page or a mere container
-    if (matrix->selectedRow() < 0) fail(widget, QStringLiteral("no row of %1 is chosen").arg(name));
-    matrix->setRules(property(widget, QLatin1String("rules")).split(u' ', Qt::SkipEmptyParts));
+    if (matrix->selectedRow() < 0) fail(widget, QStringLiteral("no row of %1 is chosen").arg(widget.name));
+    matrix->setRules(property(widget, u"rules").split(u' ', Qt::SkipEmptyParts));
     return matrix;
   }
 
@@ -161,17 +227,10 @@ class FormReader {
 
 Outcome loadLayout(const QByteArray& ui, const Bundle& bundle, std::unique_ptr<PanelView>* view) {
   view->reset();
-  QDomDocument document;
-  QString message;
-  int line = 0;
-  if (!document.setContent(ui, &message, &line)) {
-    return Outcome::failed(QStringLiteral("line %1: %2").arg(line).arg(message));
-  }
-  const QDomElement form = document.documentElement();
-  const QDomElement root = form.firstChildElement(QStringLiteral("widget"));
-  if (form.tagName() != u"ui" || root.isNull()) return Outcome::failed(QStringLiteral("not a form"));
+  FormWidget root;
+  if (Outcome read = FormReader(ui).read(&root); !read) return read;
   auto loaded = std::make_unique<PanelView>();
-  if (Outcome outcome = FormReader(*loaded, bundle).read(root); !outcome) return outcome;
+  if (Outcome made = ControlMaker(*loaded, bundle).make(root); !made) return made;
   loaded->setForm(ui);
   *view = std::move(loaded);
   return Outcome::done();

@@ -84,13 +84,14 @@ TEST(Layouts, MalformedOnesAreReportedWithTheirLine) {
              {"field-without-tag.ui", "line 4: userNameEditText: labels have tag 0, text fields another"},
              {"label-with-tag.ui", "line 4: userNameStaticText: labels have tag 0, text fields another"},
              {"no-row-chosen.ui", "line 4: no row of suspendMatrix is chosen"}}) {
+    SCOPED_TRACE(name);
     QFile file(QStringLiteral(KESTO_TEST_DATA "/") + name);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name;
     expectFault(file.readAll(), fault);
   }
   expectFault("<ui>" + QByteArray("<widget class=\"QFrame\">").repeated(200) +
                   QByteArray("</widget>").repeated(200) + "</ui>",
-              "line 1: widgets nested too deep");
+              "line 1: elements nested too deep");
 }
 
 TEST(LocalizedStringValue, KeyUpToTheColon) {
