@@ -1,4 +1,6 @@
 // The folder service of the demo printer, seen by the real panel.
+#include <QtNetwork/QTcpSocket>
+
 #include "demo_process.h"
 #include "hosts/demo/folder_list.h"
 
@@ -102,6 +104,30 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"failed-result", false, ""}, Case{"not-xml", false, "kept"},
                     Case{"empty", false, "kept"}),
     [](const auto& info) { return QString::fromLatin1(info.param.misbehaviour).remove(u'-').toStdString(); });
+
+TEST(DemoFolders, AreGivenToTheirOwnRequestAlone) {
+  const ScratchFolder folder;
+  DemoProcess service(folder, builtProgram("kesto-demo-printer"),
+                      {u"--folders-only"_s, u"--folder-port"_s, u"0"_s});
+  const QString address = QString::fromLatin1(service.readOutLine().trimmed());
+  const auto answerTo = [&](const QByteArray& request) {
+    QTcpSocket socket;
+    socket.connectToHost(address.section(u':', 0, 0), address.section(u':', 1).toUShort());
+    socket.write(request);
+    while (socket.waitForReadyRead()) {
+    }
+    return socket.readAll();
+  };
+  const auto post = [&](const QByteArray& body) {
+    return answerTo("POST /kesto-mfp-srv HTTP/1.1\r\nContent-Length: " + QByteArray::number(body.size()) +
+                    "\r\n\r\n" + body);
+  };
+  EXPECT_TRUE(answerTo("GET /kesto-mfp-srv HTTP/1.1\r\n\r\n").startsWith("HTTP/1.1 405 "));
+  EXPECT_TRUE(answerTo("POST / HTTP/1.1\r\n\r\n").startsWith("HTTP/1.1 404 "));
+  EXPECT_TRUE(answerTo(QByteArray(64 * 1024 + 1, 'x')).startsWith("HTTP/1.1 413 "));
+  EXPECT_TRUE(post("<a><other/></a>").contains("unsupported-operation"));
+  EXPECT_TRUE(post("<a><list-files/></a>").contains("<name>Invoices</name>"));
+}
 
 TEST(DemoFolders, AreReadFromAFile) {
   const ScratchFolder folder;

@@ -65,6 +65,62 @@ TEST_F(DemoPrinterTest, HasAQueueWhosePpdNamesTheBundle) {
   EXPECT_TRUE(socket.readAll().contains("*APDialogExtension: \"JobHandling.pde\""));
 }
 
+TEST_F(DemoPrinterTest, TellsWhatItCannotDo) {
+  m_folder.write(u"bad-pin"_s, "4711x\n");
+  ASSERT_TRUE(QFile::link(u"/tmp"_s, m_folder.path(u"link"_s)));
+  struct Case {
+    QString arguments;
+    int code;
+    QByteArray message;
+  };
+  const QString noPrinter = u" --dir "_s + m_folder.path(u"none"_s);
+  for (const Case& row :
+       {Case{u"--misbehave nonsense"_s, 2, "there is no misbehaviour nonsense"},
+        Case{u"--folder-port 70000"_s, 2, "--folder-port"}, Case{u"--queues 0"_s, 2, "--queues"},
+        Case{u"--folders-only --folders /no/such"_s, 1, "/no/such: No such file or directory"},
+        Case{u"--dir "_s + m_folder.path(QString(90, u'x')), 1, "the path is too long"},
+        Case{u"--dir "_s + m_folder.path(u"a#b"_s), 1, "holds special characters"},
+        Case{u"--dir "_s + m_folder.path(u"link"_s), 1, "is not a folder of this user"},
+        Case{u"--dir /no/such/folder"_s, 1, "No such file or directory"},
+        Case{u"--output %1/paper --dir "_s.arg(m_folder.path(u"document"_s)) + m_folder.path(u"run"_s), 1,
+             "cannot be made"},
+        Case{u"jobs"_s + noPrinter, 1, "no demo printer is running at "},
+        Case{u"release 1 --pin 12"_s + noPrinter, 1, "no demo printer is running at "},
+        Case{u"release 1 --pin 4711x"_s, 2, "is not 1 to 8 digits"},
+        Case{u"release 1 --pin-file "_s + m_folder.path(u"bad-pin"_s), 1,
+             "the first line is not 1 to 8 digits"},
+        Case{u"release 1 --pin-file /no/such"_s, 1, "/no/such: No such file or directory"},
+        Case{u"release"_s, 2, "JOB"}}) {
+    DemoProcess program(m_folder, builtProgram("kesto-demo-printer"), row.arguments.split(u' '));
+    EXPECT_EQ(program.code(), row.code) << row.arguments;
+    EXPECT_TRUE(program.log().contains(row.message)) << row.arguments << '\n' << program.log();
+    EXPECT_FALSE(program.log().contains("4711x"));
+    EXPECT_EQ(program.readAllStandardOutput(), "") << row.arguments;
+  }
+  DemoProcess list(m_folder, builtProgram("kesto-demo-printer"), {u"--misbehave"_s, u"list"_s});
+  EXPECT_EQ(list.code(), 0);
+  EXPECT_TRUE(
+      list.readAllStandardOutput().contains("\ntrickle           the answer comes at one byte a second\n"));
+}
+
+TEST_F(DemoPrinterTest, SpeaksToAPersonAsWell) {
+  DemoProcess printer(m_folder, builtProgram("kesto-demo-printer"),
+                      {u"--dir"_s, m_folder.path(u"run"_s), u"--folder-port"_s, u"0"_s});
+  const QByteArray server = printer.readOutLine();
+  EXPECT_TRUE(server.startsWith("server   127.0.0.1:")) << server;
+  EXPECT_EQ(printer.readOutLine(), "queue    Office_MFP\n");
+  EXPECT_TRUE(printer.readOutLine().startsWith("folders  127.0.0.1:"));
+  DemoProcess lp(m_folder, u"lp"_s,
+                 {u"-h"_s, QString::fromLatin1(server.mid(9).trimmed()), u"-d"_s, u"Office_MFP"_s, u"-U"_s,
+                  u"anna"_s, u"-t"_s, u"plan"_s, m_folder.path(u"document"_s)});
+  EXPECT_EQ(lp.code(), 0) << lp.log();
+  printer.waitForLog("printed\n");
+  DemoProcess jobs(m_folder, builtProgram("kesto-demo-printer"),
+                   {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s)});
+  EXPECT_EQ(jobs.code(), 0);
+  EXPECT_EQ(jobs.readAllStandardOutput(), "   1  printed  anna          plan\n");
+}
+
 TEST_F(DemoPrinterTest, HoldsAJobUntilItsPassCodeComes) {
   RunningPrinter printer(m_folder);
   send(printer,

@@ -80,6 +80,10 @@ TEST_F(LpEntries, WrongUsageIsToldWithoutSecrets) {
       {u"--pin-file - --password-file -"_s, u"only one entry can come from standard input"_s},
       {u"--remember pin --forget login,pin"_s, u"--remember and --forget both name pin"_s},
       {u"--with-codes"_s, u"--with-codes requires --save-preset"_s},
+      {u"--job-handling"_s, u"--job-handling goes with --list"_s},
+      {u"--address x"_s, u"--address goes with --folders"_s},
+      {u"-n 0"_s, u"-n: Value 0 not in range 1 to 9999"_s},
+      {u"-q 101"_s, u"-q: Value 101 not in range 1 to 100"_s},
       {u"--list-presets"_s,
        u"only one of --dry-run, --list, --folders, --check and the presets' two can be done"_s},
   };
@@ -88,6 +92,10 @@ TEST_F(LpEntries, WrongUsageIsToldWithoutSecrets) {
   EXPECT_TRUE(run(u"--list-presets"_s).err.contains(u"the queue is missing; give -d or --ppd"_s));
   EXPECT_TRUE(run(u"-d q --list-presets --hold only"_s).err.contains(u"a list takes no options of a job"_s));
   EXPECT_TRUE(run(u"--ppd x.ppd --dry-run"_s).err.contains(u"--device-uri is missing"_s));
+  EXPECT_TRUE(run(u"--ppd x.ppd --device-uri lpd://x"_s)
+                  .err.contains(u"--ppd stands for a queue only with --dry-run or --folders"_s));
+  EXPECT_EQ(run(u"--folders --device-uri usb://x --ppd "_s + m_ppd.path()).err,
+            u"kesto-lp: the printer's address is not known; give --address\n"_s);
   const LpRun noFile = run(u"--ppd x.ppd --device-uri lpd://x --dry-run"_s);
   EXPECT_EQ(noFile.code, 1);
   EXPECT_EQ(noFile.err, u"kesto-lp: x.ppd: No such file or directory\n"_s);

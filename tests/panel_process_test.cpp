@@ -27,9 +27,15 @@ class PanelProcess : public testing::Test {
     EXPECT_TRUE(process->waitForStarted());
     return process;
   }
-  std::unique_ptr<QProcess> startPanel() const {
-    return start(
-        {u"--queue"_s, u"Office"_s, u"--ppd"_s, ppd.path(), u"--device-uri"_s, u"ipp://printer.example"_s});
+  std::unique_ptr<QProcess> startPanel(const QStringList& more = {}) const {
+    return start(QStringList{u"--queue"_s, u"Office"_s, u"--ppd"_s, ppd.path(), u"--device-uri"_s,
+                             u"ipp://printer.example"_s} +
+                 more);
+  }
+  QString write(const QString& name, const QByteArray& bytes) const {
+    QFile file(m_home.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    return file.fileName();
   }
   static QJsonObject readAnswer(QProcess& process) {
     while (!process.canReadLine()) {
@@ -61,11 +67,9 @@ class PanelProcess : public testing::Test {
 };
 
 TEST_F(PanelProcess, BadOptionsAndBadFilesEndIt) {
-  const QString damaged = m_home.filePath(u"damaged.ppd"_s);
-  QFile file(damaged);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("*PPD-Adobe: \"4.3\"\n*OpenUI *PageSize: PickOne\nno keyword\n*ModelName \"x\n");
-  file.close();
+  const QString damaged = write(
+      u"damaged.ppd"_s, "*PPD-Adobe: \"4.3\"\n*OpenUI *PageSize: PickOne\nno keyword\n*ModelName \"x\n");
+  const QString numbers = write(u"numbers.json"_s, R"({"a":"1","b":2})");
   struct Case {
     QStringList arguments;
     int exitCode;
@@ -77,6 +81,7 @@ TEST_F(PanelProcess, BadOptionsAndBadFilesEndIt) {
         Case{{u"--ppd"_s, m_home.path()}, 1, m_home.path() + u": is a folder"_s},
         Case{{u"--ppd"_s, u"/no/such.ppd"_s}, 1, u"/no/such.ppd: "_s},
         Case{{u"--settings"_s, damaged}, 1, damaged + u": not a JSON object"_s},
+        Case{{u"--settings"_s, numbers}, 1, numbers + u": the value of b is no text"_s},
         Case{{u"--settings"_s, u"/no/such"_s}, 1, u"/no/such: "_s}}) {
     SCOPED_TRACE(row.arguments.join(u' ').toStdString());
     const auto process = start(row.arguments);
@@ -111,6 +116,45 @@ TEST_F(PanelProcess, BadLinesAreAnsweredAndTheNextIsHeard) {
   EXPECT_EQ(ask(*process, R"({"do":"quit"})"), QJsonObject());
   EXPECT_EQ(exitCodeOf(*process), 0);
 }
+
+TEST_F(PanelProcess, StartsFromTheSettingsOfAFile) {
+  const QString settings =
+      write(u"settings.json"_s, R"({"kesto.print.PrintSettings.jobSuspend":"3","of.another":""})");
+  const auto process = startPanel({u"--settings"_s, settings});
+  ask(*process, R"({"do":"restore"})");
+  const QJsonObject controls = ask(*process, R"({"do":"controls"})").value(u"controls"_s).toObject();
+  EXPECT_EQ(controls.value(u"suspendMatrix"_s).toObject().value(u"selectedRow"_s), 2);
+  ask(*process, R"({"do":"save"})");
+  const QJsonObject saved = ask(*process, R"({"do":"settings"})").value(u"settings"_s).toObject();
+  EXPECT_EQ(saved.value(u"of.another"_s), QString(u""_s));
+  EXPECT_EQ(saved.value(u"kesto.print.PrintSettings.jobSuspend"_s), u"3"_s);
+  process->closeWriteChannel();
+  EXPECT_EQ(exitCodeOf(*process), 0);
+}
+
+#ifndef NDEBUG
+TEST_F(PanelProcess, ItsTraceTellsTheCallsAndNoSecret) {
+  qputenv("QT_LOGGING_RULES", "kesto.pde.debug=true");
+  const auto process = startPanel();
+  qunsetenv("QT_LOGGING_RULES");
+  for (const char* command : {R"({"do":"restore"})", R"({"do":"click","control":"retentionCheckBox"})",
+                              R"({"do":"type","control":"suspendKeyEditText","text":"47114711"})",
+                              R"({"do":"type","control":"loginNameEditText","text":"jdoe-of-accounts"})",
+                              R"({"do":"type","control":"passwordEditText","text":"open-sesame"})",
+                              R"({"do":"click","control":"loginNameButton"})", R"({"do":"save"})",
+                              R"({"do":"shouldPrint"})", R"({"do":"summary"})", R"({"do":"quit"})"}) {
+    EXPECT_FALSE(ask(*process, command).contains(u"error")) << command;
+  }
+  EXPECT_EQ(exitCodeOf(*process), 0);
+  const QString trace = QString::fromUtf8(process->readAllStandardError());
+  for (const auto& line :
+       {u"enter initWithCallback:(HostCallback, 0x"_s, u"note Constraint Handling Available: YES"_s,
+        u"leave initWithCallback:=id(self)"_s})
+    EXPECT_TRUE(trace.contains(line)) << line << " is not in\n" << trace;
+  for (const auto& secret : {u"47114711"_s, u"jdoe-of"_s, u"open-sesame"_s})
+    EXPECT_FALSE(trace.contains(secret)) << trace;
+}
+#endif
 
 TEST_F(PanelProcess, TheLastWritersRecordWinsWhole) {
   const auto first = startPanel();

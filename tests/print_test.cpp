@@ -85,6 +85,18 @@ class PrintTest : public LpTest {
     ofPrintSystem(u"/usr/sbin/lpadmin -p %1 -E -v socket://127.0.0.1:9"_s.arg(name) + ppd);
   }
 
+  // What the scheduler answers about its first job; it believes everybody's name.
+  Ipp attributesOfFirstJob(const char* user) const {
+    std::unique_ptr<PrintServer> server;
+    EXPECT_TRUE(PrintServer::connect(m_printer->place(u"server"_s), std::chrono::seconds(5), &server));
+    const Ipp request(ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, "ipp://localhost/jobs/1");
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
+    Ipp reply;
+    EXPECT_TRUE(server->request(request.get(), &reply));
+    return reply;
+  }
+
   // Has the queue's filter write its arguments down before it does its work.
   void recordFilter() const {
     const QString filter = m_folder.path(u"run/cups/bin/filter/kesto-demo-filter"_s);
@@ -273,7 +285,9 @@ TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
 
 TEST_F(PrintTest, AStoppedQueueTakesJobsAndLetsThemWait) {
   ofPrintSystem(u"/usr/sbin/cupsdisable Office_MFP"_s);
-  EXPECT_EQ(lp(u"--json DOCUMENT"_s).out, u"{\"job\":1}\n"_s);
+  EXPECT_EQ(lp(u"--json -q 71 DOCUMENT"_s).out, u"{\"job\":1}\n"_s);
+  const Ipp job = attributesOfFirstJob("anna");
+  EXPECT_EQ(ippGetInteger(ippFindAttribute(job.get(), "job-priority", IPP_TAG_INTEGER), 0), 71);
   EXPECT_EQ(lp(u"-s DOCUMENT"_s).out, QString());
   EXPECT_TRUE(lp(u"--list"_s).out.startsWith(u"Office_MFP\tstopped\tsocket://127.0.0.1:"_s));
   EXPECT_EQ(schedulersJobs().count(u"anna"_s), 2);
@@ -321,16 +335,9 @@ TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
   EXPECT_EQ(kept(), u"holdButton=1 jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E p"_s);
 }
 
-// The scheduler believes everybody's name: a user is whom the request names.
 TEST_F(PrintTest, WhatAnotherUserSeesOfAJob) {
   const auto seenBy = [this](const char* user) {
-    std::unique_ptr<PrintServer> server;
-    EXPECT_TRUE(PrintServer::connect(m_printer->place(u"server"_s), std::chrono::seconds(5), &server));
-    const Ipp request(ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES));
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, "ipp://localhost/jobs/1");
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
-    Ipp reply;
-    EXPECT_TRUE(server->request(request.get(), &reply));
+    const Ipp reply = attributesOfFirstJob(user);
     QStringList settings;
     for (auto* each = ippFirstAttribute(reply.get()); each != nullptr; each = ippNextAttribute(reply.get()))
       settings += QString::fromUtf8(ippGetName(each));
@@ -353,6 +360,11 @@ TEST_F(PrintTest, WhatAnotherUserSeesOfAJob) {
                   u"in <Policy demo>:\n  JobPrivateAccess @OWNER @SYSTEM\n  JobPrivateValues all\n"_s),
               !isPrivate)
         << check.out;
+    const QJsonObject json =
+        QJsonDocument::fromJson(lp(u"--check Office_MFP --json"_s).out.toUtf8()).object();
+    EXPECT_EQ(json[u"shown"].toArray().isEmpty(), isPrivate);
+    EXPECT_EQ(json[u"policy"], u"demo"_s);
+    EXPECT_EQ(json[u"closedBy"].toArray().size(), 2);
     EXPECT_EQ(schedulersJobs().count(u"Office_MFP-"_s), 1) << "the job of the check stays";
   }
   expectRefused(u"--check Nowhere"_s, 1,

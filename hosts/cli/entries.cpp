@@ -56,11 +56,9 @@ Outcome PanelUser::refusal(const QString& option, const FieldRow& row) const {
 
 Outcome PanelUser::chooseHold(int choice) {
   auto* retention = control<Button>(QStringLiteral("retentionCheckBox"));
-  const bool wantsClick = isRetained() != (choice != noHold);
-  if (wantsClick && (retention == nullptr || !retention->click())) {
-    return Outcome::failed(QStringLiteral("this queue does not hold jobs"));
-  }
-  if (choice == noHold || choosesRow(QStringLiteral("suspendMatrix"), choice)) return Outcome::done();
+  const bool isSet = isRetained() == (choice != noHold) || (retention != nullptr && retention->click());
+  if (isSet && (choice == noHold || choosesRow(QStringLiteral("suspendMatrix"), choice)))
+    return Outcome::done();
   return Outcome::failed(QStringLiteral("--hold %1 is not offered")
                              .arg(QLatin1String(holdChoices.at(static_cast<std::size_t>(choice)))));
 }
