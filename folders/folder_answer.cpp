@@ -3,6 +3,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStringDecoder>
 #include <QtCore/QXmlStreamReader>
+#include <algorithm>
 
 #include "platform/text_encoding.h"
 
@@ -10,6 +11,10 @@ namespace kesto {
 namespace {
 
 enum Level : int { Envelope = 1, Body, Response, Item, Folder, FolderValue };
+
+bool isBlank(QChar c) {
+  return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
+}
 
 // Follows the document in one pass. Which child of a node is the last is known only at the node's end, so
 // each new child of the envelope and of the body starts afresh what was read below its elder sibling.
@@ -100,7 +105,8 @@ class AnswerReader {
 
   void characters() {
     if (m_isValue) m_text += m_xml.text();
-    if (m_xml.isCDATA() || !m_xml.isWhitespace()) node(m_depth + 1);
+    // The reader's own word on blanks does not hold for those that are written as references.
+    if (m_xml.isCDATA() || !std::ranges::all_of(m_xml.text(), isBlank)) node(m_depth + 1);
   }
 
   QXmlStreamReader& m_xml;

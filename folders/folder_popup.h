@@ -12,7 +12,8 @@ class FolderPopup {
   FolderPopup(PanelState& state, ControlActions& actions) : m_state(state), m_actions(actions) {}
 
   /// Rebuilds the items from the list. The choice stays: the first two items by their place, a folder by its
-  /// name (else the main folder), and then the pop-up's action is sent, so that the rules hold.
+  /// name as `SearchSameFolderName` finds it (else the main folder), and then the pop-up's action is sent, so
+  /// that the rules hold.
   void makeFolderPopup();
   /// The item of the first folder of that name, letter case aside; 1, the main folder, when there is none.
   int SearchSameFolderName(const QString& name) const;

@@ -1,30 +1,37 @@
 #include "folders/http_response.h"
 
-#include <QtCore/QList>
 #include <algorithm>
+#include <optional>
 
 namespace kesto {
 namespace {
 
-// A head or a line longer than these is no printer's.
+// A head or a line longer than this is no printer's.
 constexpr qsizetype longestHead = 65536;
-constexpr qsizetype longestLine = 4096;
 
 constexpr int noContent = 204;
 constexpr int notModified = 304;
 
-// The value of a header; null when it is missing.
-QByteArray headerOf(const QList<QByteArray>& lines, const QByteArray& name) {
+// The elements of a header's lists, of all its lines; in lower case.
+QByteArrayList headerOf(const QByteArrayList& lines, const QByteArray& name) {
+  QByteArrayList elements;
   for (const QByteArray& line : lines) {
     const qsizetype colon = line.indexOf(':');
-    if (colon > 0 && line.left(colon).trimmed().toLower() == name) return line.mid(colon + 1).trimmed();
+    if (colon <= 0 || line.left(colon).trimmed().toLower() != name) continue;
+    for (const QByteArray& element : line.mid(colon + 1).toLower().split(','))
+      elements.append(element.trimmed());
   }
-  return {};
+  return elements;
 }
 
-bool isNumber(const QByteArray& text) {
-  return !text.isEmpty() &&
-         std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+// A length in bytes as one number; none when it is no number, too large for one, or told in several ways.
+std::optional<qsizetype> lengthOf(const QByteArrayList& elements) {
+  const QByteArray& text = elements.first();
+  const bool isOne = elements.count(text) == elements.size() &&
+                     std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+  bool fits = false;
+  const qsizetype length = text.toLongLong(&fits);
+  return isOne && fits ? std::optional(length) : std::nullopt;
 }
 
 }  // namespace
@@ -45,7 +52,8 @@ bool HttpResponse::step() {
   QByteArray line;
   switch (m_state) {
     case State::Head:
-      return takeHead();
+      if (!takeLine(&line)) return false;
+      return takeHeadLine(line);
     case State::Counted:
       return takeCounted();
     case State::UntilEnd:
@@ -74,8 +82,8 @@ bool HttpResponse::step() {
 
 bool HttpResponse::takeLine(QByteArray* line) {
   const qsizetype end = m_pending.indexOf('\n');
-  if (end < 0 || end > longestLine) {
-    if (end > longestLine || m_pending.size() > longestLine) m_state = State::Bad;
+  if (end < 0 || end > longestHead) {
+    if (m_pending.size() > longestHead) m_state = State::Bad;
     return false;
   }
   *line = m_pending.left(end);
@@ -84,15 +92,15 @@ bool HttpResponse::takeLine(QByteArray* line) {
   return true;
 }
 
-bool HttpResponse::takeHead() {
-  const qsizetype end = m_pending.indexOf("\r\n\r\n");
-  if (end < 0 || end > longestHead) {
-    if (m_pending.size() > longestHead) m_state = State::Bad;
-    return false;
+bool HttpResponse::takeHeadLine(const QByteArray& line) {
+  m_headSize += line.size();
+  if (m_headSize > longestHead) m_state = State::Bad;
+  if (!line.isEmpty()) {
+    m_headLines.append(line);
+    return m_state == State::Head;
   }
-  QList<QByteArray> lines = m_pending.left(end).split('\n');
-  m_pending.remove(0, end + 4);
-  const QList<QByteArray> first = lines.takeFirst().simplified().split(' ');
+  const QByteArrayList lines = std::exchange(m_headLines, {});
+  const QByteArrayList first = lines.value(0).simplified().split(' ');
   m_status = first.value(1).toInt();
   if (!first.value(0).startsWith("HTTP/1.") || m_status < 100 || m_status > 999) {
     m_state = State::Bad;
@@ -103,13 +111,13 @@ bool HttpResponse::takeHead() {
   return true;
 }
 
-HttpResponse::State HttpResponse::stateBehindHead(const QList<QByteArray>& lines) {
+HttpResponse::State HttpResponse::stateBehindHead(const QByteArrayList& lines) {
   if (m_status == noContent || m_status == notModified) return State::Whole;
-  const QByteArray coding = headerOf(lines, "transfer-encoding").toLower();
-  if (coding.endsWith("chunked")) return State::ChunkSize;
-  const QByteArray length = headerOf(lines, "content-length");
-  if (length.isNull()) return State::UntilEnd;
-  m_remaining = isNumber(length) ? length.toLongLong() : -1;
+  const QByteArrayList codings = headerOf(lines, "transfer-encoding");
+  if (codings.endsWith("chunked")) return State::ChunkSize;
+  const QByteArrayList lengths = headerOf(lines, "content-length");
+  if (lengths.isEmpty()) return State::UntilEnd;
+  m_remaining = lengthOf(lengths).value_or(-1);
   if (m_remaining < 0 || m_remaining > m_largestBody) return State::Bad;
   return m_remaining == 0 ? State::Whole : State::Counted;
 }

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QByteArrayList>
 
 namespace kesto {
 
@@ -34,14 +35,16 @@ class HttpResponse {
   enum class State { Head, Counted, UntilEnd, ChunkSize, Chunk, ChunkEnd, Trailer, Whole, Bad };
 
   bool step();
-  bool takeHead();
+  bool takeHeadLine(const QByteArray& line);
   bool takeCounted();
   bool takeLine(QByteArray* line);
-  State stateBehindHead(const QList<QByteArray>& lines);
+  State stateBehindHead(const QByteArrayList& lines);
   State stateOfChunk(const QByteArray& line);
 
   qsizetype m_largestBody;
   State m_state = State::Head;
+  QByteArrayList m_headLines;
+  qsizetype m_headSize = 0;  // of all heads
   int m_status = 0;
   qsizetype m_remaining = 0;  // bytes of the body or chunk to come
   QByteArray m_pending;       // received, not yet taken

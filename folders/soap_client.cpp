@@ -38,8 +38,9 @@ KestoPrintPdeVq250nJCSOAPClient::KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platf
 // The values keep their quotation marks; the printer's service compares them as they are.
 QByteArray KestoPrintPdeVq250nJCSOAPClient::requestFor(const QByteArray& body) const {
   const QUrl::FormattingOptions encoded = QUrl::FullyEncoded;
-  const QByteArray target =
+  QByteArray target =
       m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
+  if (!target.startsWith('/')) target.prepend('/');
   const QByteArray host = m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveUserInfo |
                                           QUrl::RemovePath | QUrl::RemoveQuery | QUrl::RemoveFragment);
   return "POST " + target + " HTTP/1.1\r\n" + "Host: " + host.mid(2) + "\r\n" +
@@ -61,6 +62,7 @@ void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   socket.connectToHost(m_url.host(QUrl::FullyEncoded), static_cast<quint16>(m_url.port(httpPort)));
   QTimer timer;
   timer.setSingleShot(true);
+  timer.setTimerType(Qt::PreciseTimer);  // any other may come half a second early
   connect(&timer, &QTimer::timeout, this, &KestoPrintPdeVq250nJCSOAPClient::firedByTimer);
   timer.start(m_limit);
 
@@ -82,7 +84,7 @@ void KestoPrintPdeVq250nJCSOAPClient::waitUntilFinished() {
     QEventLoop loop;
     connect(this, &KestoPrintPdeVq250nJCSOAPClient::finishedChanged, &loop, &QEventLoop::quit);
     QTimer::singleShot(slice, &loop, &QEventLoop::quit);
-    loop.exec();
+    if (loop.exec() < 0) cancel();  // the application ends
   }
 }
 

@@ -40,7 +40,8 @@ void myVq250nJCHilite(TextField& field, bool dim);
   RULE(accountNumberButtonEnabled)
 
 /// The enabling rules: each reads the controls' states and sets its one control. They keep no state; an
-/// absent control is skipped, and a condition on an absent control is false.
+/// absent control is skipped, and a condition on an absent control is false; an absent authentication matrix
+/// reads as its first row.
 class EnablingRules {
  public:
   explicit EnablingRules(PanelState& state) : m_state(state) {}

@@ -12,7 +12,7 @@ struct FolderEntry {
   QString name;           ///< As the printer gives it.
   bool password = false;  ///< Protected by a pass code.
   bool dir = false;       ///< Marked as a directory.
-  bool add = false;       ///< Always false; kept since the stored form has it.
+  bool add = false;       ///< False; a stored list keeps its own.
 
   bool operator==(const FolderEntry&) const = default;
 };

@@ -124,6 +124,13 @@ class ControlMaker {
     if (m_fault.isNull()) m_fault = QStringLiteral("line %1: %2").arg(widget.line).arg(fault);
   }
 
+  void takeName(const FormWidget& widget) {
+    if (m_names.contains(widget.name)) {
+      fail(widget, QStringLiteral("a second control is called %1").arg(widget.name));
+    }
+    m_names.insert(widget.name);
+  }
+
   // A text that the user sees.
   QString visibleText(const FormValue& value) const {
     return value.isLeftToPanel ? value.text : localizedStringValue(m_bundle, value.text);
@@ -135,10 +142,7 @@ class ControlMaker {
   void makeControls(const FormWidget& widget) {
     Control* control = makeControl(widget);
     if (control != nullptr) {
-      if (m_names.contains(control->objectName())) {
-        return fail(widget, QStringLiteral("a second control is called %1").arg(control->objectName()));
-      }
-      m_names.insert(control->objectName());
+      takeName(widget);
       control->setAction(property(widget, u"action"));
     }
     for (const FormWidget& child : widget.children) {
@@ -208,6 +212,7 @@ class ControlMaker {
     for (const FormWidget& child : widget.children) {
       if (child.type != u"QRadioButton") continue;
       if (matrix == nullptr) matrix = new RadioMatrix(widget.name, &m_view);
+      takeName(child);
       const RadioCell* cell = matrix->addCell(child.name, visibleText(child, u"text"));
       if (property(child, u"checked") == u"true") matrix->selectRow(cell->row());
     }

@@ -97,6 +97,7 @@ TEST(FolderAnswer, TheLastChildIsBodyAndResponse) {
       {"text after", around("", "tail"), u"-"_s},
       {"CDATA after", around("", "<![CDATA[ ]]>"), u"-"_s},
       {"blank text after", around("", " \n\t"), u"A"_s},
+      {"blank text after, as references", around("", "&#32;&#9;&#xA;"), u"A"_s},
       {"comment within the body, after", "<e><b><r>" + filesA + "</r><!-- c --></b></e>", u"-"_s},
       {"two responses", "<e><b><r><files><f><name>X</name></f></files></r><r>" + filesA + "</r></b></e>",
        u"A"_s},

@@ -1,5 +1,6 @@
 #include <sys/stat.h>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
@@ -85,6 +86,17 @@ TEST(SoapClient, TheEventThatEndsTheExchangeDecides) {
        End::Close, true, "no"},
       {"chunks", chunked + "3\r\nabc\r\n4\r\ndefg\r\n0\r\n\r\n", End::Close, true, "abcdefg"},
       {"until the connection ends", "HTTP/1.0 200 OK\r\n\r\nlast", End::Close, true, "last"},
+      {"lines that end in a mere line feed",
+       "HTTP/1.1 100 Continue\n\nHTTP/1.1 200 OK\nContent-Length: 4\n\ngood", End::StayOpen, true, "good"},
+      {"one length twice", httpAnswer("good", "200 OK", "Content-Length: 4\r\n"), End::Close, true, "good"},
+      {"two lengths", httpAnswer("good", "200 OK", "Content-Length: 2\r\n"), End::Close, false, "old"},
+      {"two codings",
+       "HTTP/1.1 200 OK\r\nTransfer-Encoding: identity\r\n" + chunked.mid(17) + "2\r\nab\r\n0\r\n\r\n",
+       End::Close, true, "ab"},
+      {"a length beyond all numbers", "HTTP/1.1 200 OK\r\nContent-Length: 99999999999999999999\r\n\r\nlong",
+       End::Close, false, "old"},
+      {"a head without end", "HTTP/1.1 200 OK\r\n" + QByteArray("X: y\r\n").repeated(20000), End::StayOpen,
+       false, "old"},
       {"no answer", "", End::Close, false, "old"},
       {"reset", "", End::Reset, false, "old"},
       {"cut short", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nshort", End::Close, false, "old"},
@@ -104,7 +116,7 @@ TEST(SoapClient, TheEventThatEndsTheExchangeDecides) {
     server.end = row.end;
     Exchange exchange;
     exchange.putOld();
-    const bool isSlow = !row.isAnswered && row.end == End::StayOpen;
+    const bool isSlow = !row.isAnswered && row.end == End::StayOpen && row.answer.size() < 100;
     ASSERT_TRUE(exchange.run(server.url(), isSlow ? 50ms : 10000ms));
     EXPECT_EQ(exchange.failures, row.isAnswered ? 0 : 1);
     EXPECT_EQ(exchange.answer(), row.body);
@@ -125,6 +137,29 @@ TEST(SoapClient, ASlowTrickleEndsAtTheLimit) {
   ASSERT_TRUE(exchange.run(server.url(), 100ms));
   EXPECT_EQ(exchange.failures, 1);
   EXPECT_TRUE(exchange.answer().isNull());
+}
+
+TEST(SoapClient, EndsWithTheApplication) {
+  FolderServer server;
+  server.answer.clear();
+  server.end = End::StayOpen;
+  server.onRequest = [] { QCoreApplication::exit(7); };
+  Exchange exchange;
+  exchange.putOld();
+  QTimer::singleShot(0, &server, [&] { EXPECT_TRUE(exchange.run(server.url(), 10min)); });
+  EXPECT_EQ(QCoreApplication::exec(), 7);
+  EXPECT_EQ(exchange.failures, 0);
+  EXPECT_EQ(exchange.answer(), "old");
+}
+
+TEST(SoapClient, AnAddressWithAQueryStillMakesARequest) {
+  for (const auto& [suffix, target] :
+       Cases{{"", "/"}, {"?x/kesto-mfp-srv", "/?x/kesto-mfp-srv"}, {"#x/kesto-mfp-srv", "/"}}) {
+    FolderServer server;
+    Exchange exchange;
+    ASSERT_TRUE(exchange.run(u"http://"_s + server.address() + suffix));
+    EXPECT_TRUE(server.requests.value(0).startsWith("POST " + target.toLatin1() + " HTTP/1.1\r\n")) << suffix;
+  }
 }
 
 TEST(SoapClient, PortThatRefuses) {

@@ -81,6 +81,7 @@ TEST(Layouts, MalformedOnesAreReportedWithTheirLine) {
              {"other-document.ui", "not a form"},
              {"no-widget.ui", "not a form"},
              {"two-of-one-name.ui", "line 6: a second control is called userNameEditText"},
+             {"two-cells-of-one-name.ui", "line 6: a second control is called userNameEditText"},
              {"field-without-tag.ui", "line 4: userNameEditText: labels have tag 0, text fields another"},
              {"label-with-tag.ui", "line 4: userNameStaticText: labels have tag 0, text fields another"},
              {"no-row-chosen.ui", "line 4: no row of suspendMatrix is chosen"}}) {
