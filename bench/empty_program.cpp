@@ -1,5 +1,5 @@
-// A program that loads what every program of ours on a print server loads, and does nothing: what is below its
-// time cannot be had.
+// A program that loads what each of ours on a print server loads, and does nothing: no change of ours can
+// save that time.
 #include <cups/cups.h>
 
 #include <QtCore/QCoreApplication>
