@@ -13,6 +13,7 @@ std::size_t Base64encode(std::span<char> output, std::span<const std::uint8_t> i
 /// Decodes `text` up to its first character outside the alphabet (padding, NUL or any other) and writes the
 /// bytes and a NUL; answers the number of bytes without the NUL. The output needs ((n + 3) / 4) * 3 + 1 bytes
 /// for n characters; when it has fewer, only the bytes that fit are written.
+/// Writes nothing and answers 0 when `text` is null or `output` empty.
 std::size_t Base64decode(std::span<std::uint8_t> output, const char* text);
 
 }  // namespace kesto

@@ -19,11 +19,10 @@ void put(const QByteArray& lines, PrintSettings* settings) {
 // Sealed values have the length of whole cipher blocks in hexadecimal, or are not there. The suspend key of a
 // job that is not held stays as the host set it.
 void checkSealed(const PrintSettings& settings) {
-  std::vector<const char*> sealed{job_keys::userNumber2, job_keys::accountNumber2, job_keys::folderPassword2};
-  if (settings.value(job_keys::whole(job_keys::jobSuspend)) != u"0")
-    sealed.push_back(job_keys::jobSuspend2Key);
-  for (const char* key : sealed) {
-    const std::optional<QString> value = settings.value(job_keys::whole(key));
+  std::vector<Held> sealed{Held::UserNumber, Held::AccountNumber, Held::FolderPassword};
+  if (settings.value(job_keys::whole(job_keys::jobSuspend)) != u"0") sealed.push_back(Held::SuspendKey);
+  for (const Held field : sealed) {
+    const std::optional<QString> value = settings.value(job_keys::whole(rowOf(field).key));
     require(!value || value->size() == 32, "a sealed code is 32 digits");
   }
   const std::optional<QString> time = settings.value(job_keys::whole(job_keys::spoolTime));

@@ -1,5 +1,7 @@
 #include "panel/input_filters.h"
 
+#include "platform/surrogates.h"
+
 namespace kesto {
 
 bool LengthLimitedFilter::isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,
@@ -10,8 +12,7 @@ bool LengthLimitedFilter::isPartialStringValid(QString& partialString, TextRange
   const auto caret = static_cast<std::uint64_t>(proposedSelectedRange.location);
   if (caret > limit) {
     qsizetype length = qMin(static_cast<qsizetype>(limit), partialString.size());
-    if (length > 0 && length < partialString.size() && partialString[length - 1].isHighSurrogate() &&
-        partialString[length].isLowSurrogate()) {
+    if (isWithinPair(partialString, length)) {
       --length;
     }
     partialString.truncate(length);

@@ -8,7 +8,7 @@ namespace kesto {
 /// One file `<domain name>.json` per domain in `directory`: mode 0600 in a folder of mode 0700, written whole
 /// to a temporary file, synced and renamed. Characters of the name other than ASCII letters, digits, ".", "_"
 /// and "-" are percent-encoded. A file that does not hold a JSON object is renamed aside and counts as
-/// missing.
+/// missing; an empty file counts as missing, too, and is replaced.
 class JsonUserDefaults : public UserDefaults {
  public:
   /// `directory` need not exist; the first write makes it.

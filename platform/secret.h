@@ -6,7 +6,7 @@
 
 namespace kesto {
 
-/// Overwrites the storage and empties the buffer. Storage that another buffer shares stays as it is: it is
+/// Overwrites the storage and makes the buffer null. Storage that another buffer shares stays as it is: it is
 /// that one's to wipe.
 void wipe(QByteArray& bytes);
 void wipe(QString& text);

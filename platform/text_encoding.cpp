@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/secret.h"
+#include "platform/surrogates.h"
 
 namespace kesto {
 namespace {
@@ -19,29 +20,24 @@ struct EncodingRow {
   int stringCode;
 };
 
-constexpr int notASystemEncoding = -1;
-// The string encodings of most system encodings are their code with the top bit set, written as a signed
-// number.
-constexpr int derived(int systemCode) {
-  return static_cast<int>(0x80000000U + static_cast<unsigned>(systemCode));
-}
+constexpr int none = -1;
 
 // In the order of TextEncoding. ICU has no converters for the four East Asian ones of the platform; see
 // docs/decisions.md for those that stand in.
 constexpr std::array rows{
     EncodingRow{"macos-0_2-10.2", 0, 30},
-    EncodingRow{"ibm-943_P15A-2003", 1, derived(1)},
-    EncodingRow{"windows-950-2000", 2, derived(2)},
-    EncodingRow{"ibm-970_P110_P110-2006_U2", 3, derived(3)},
-    EncodingRow{"macos-6_2-10.4", 6, derived(6)},
-    EncodingRow{"macos-7_3-10.2", 7, derived(7)},
-    EncodingRow{"ibm-1383_P110-1999", 25, derived(25)},
-    EncodingRow{"macos-29-10.2", 29, derived(29)},
-    EncodingRow{"macos-35-10.2", 35, derived(35)},
-    EncodingRow{"ISO-8859-1", notASystemEncoding, 5},
-    EncodingRow{"ibm-5348_P100-1997", notASystemEncoding, 12},
-    EncodingRow{"ibm-943_P15A-2003", notASystemEncoding, 8},
-    EncodingRow{"UTF-8", notASystemEncoding, 4},
+    EncodingRow{"ibm-943_P15A-2003", 1, none},
+    EncodingRow{"windows-950-2000", 2, none},
+    EncodingRow{"ibm-970_P110_P110-2006_U2", 3, none},
+    EncodingRow{"macos-6_2-10.4", 6, none},
+    EncodingRow{"macos-7_3-10.2", 7, none},
+    EncodingRow{"ibm-1383_P110-1999", 25, none},
+    EncodingRow{"macos-29-10.2", 29, none},
+    EncodingRow{"macos-35-10.2", 35, none},
+    EncodingRow{"ISO-8859-1", none, 5},
+    EncodingRow{"ibm-5348_P100-1997", none, 12},
+    EncodingRow{"ibm-943_P15A-2003", none, 8},
+    EncodingRow{"UTF-8", none, 4},
 };
 
 const EncodingRow& rowOf(TextEncoding encoding) {
@@ -128,8 +124,7 @@ qsizetype mostBytesOf(qsizetype units) {
 
 // The character that begins at `position`: a surrogate pair is one.
 QStringView characterAt(QStringView text, qsizetype position) {
-  const bool pair = text.at(position).isHighSurrogate() && position + 1 < text.size() &&
-                    text.at(position + 1).isLowSurrogate();
+  const bool pair = isWithinPair(text, position + 1);
   return text.sliced(position, pair ? 2 : 1);
 }
 

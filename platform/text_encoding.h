@@ -27,7 +27,8 @@ enum class TextEncoding {
 /// The platform's number of a system encoding (0 Mac Roman, 1 Mac Japanese, ...); -1 for the encodings that
 /// are never the system's.
 int systemEncodingCode(TextEncoding encoding);
-/// The platform's number of a string encoding (30 Mac Roman, 5 ISO Latin-1, 4 UTF-8, ...).
+/// The platform's number of an encoding that a PPD can declare (30 Mac Roman, 5 ISO Latin-1, 4 UTF-8, ...);
+/// -1 for the others.
 int stringEncodingCode(TextEncoding encoding);
 
 /// The system encoding of a locale name such as "ja_JP.UTF-8"; Mac Roman for every language without its own.

@@ -16,7 +16,8 @@ bool isAuthenticationEntered(const PanelState& state);
 void alertAuthenticationMissing(PanelState& state);
 
 /// Label and value of retention, folder, hold choice, user name and job name; empty before the controls are
-/// initialised. Labels lose their colons. An entry without label or value is left out.
+/// initialised. A label's text loses the colons at its ends; a title stays as it is. An entry without label
+/// or value is left out.
 QMap<QString, QString> summaryOf(const PanelState& state);
 
 }  // namespace kesto

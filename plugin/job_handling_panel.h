@@ -31,7 +31,6 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   Q_PROPERTY(bool active_directory READ isActiveDirectory CONSTANT)
   Q_PROPERTY(bool useConstraintHandling READ usesConstraintHandling CONSTANT)
   Q_PROPERTY(bool hasInited READ hasInited)
-  Q_PROPERTY(bool isPanelViewRetain READ isPanelViewRetained)
   Q_PROPERTY(int prefHoldButtonFlag READ prefHoldButtonFlag)
   Q_PROPERTY(int presetHoldButtonFlag READ presetHoldButtonFlag)
   Q_PROPERTY(QVariant folderList READ folderList)

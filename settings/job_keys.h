@@ -1,5 +1,5 @@
-// The print-settings keys of Job Handling that belong to no held field. docs/formats/print-settings.md tells
-// every key and form.
+// The print-settings keys of Job Handling besides those of the held fields (panel/held_fields.cpp), which
+// share `folderPath`. docs/formats/print-settings.md tells every key and form.
 #pragma once
 
 #include <QtCore/QString>
@@ -15,22 +15,16 @@ inline constexpr char folderPath2[] = "folderPath2";
 inline constexpr char folderPath3[] = "folderPath3";
 inline constexpr char jobSuspend[] = "jobSuspend";
 inline constexpr char jobSuspendKey[] = "jobSuspendKey";
-inline constexpr char jobSuspend2Key[] = "jobSuspend2Key";
 inline constexpr char authentication[] = "Authentication";
 inline constexpr char loginName11[] = "loginName11";
 inline constexpr char loginName12[] = "loginName12";
 inline constexpr char userNumber[] = "userNumber";
-inline constexpr char userNumber2[] = "userNumber2";
 inline constexpr char accountNumber[] = "accountNumber";
-inline constexpr char accountNumber2[] = "accountNumber2";
-inline constexpr char userName[] = "userName";
 inline constexpr char userName2[] = "userName2";
 inline constexpr char userName3[] = "userName3";
-inline constexpr char jobName[] = "jobName";
 inline constexpr char jobName2[] = "jobName2";
 inline constexpr char jobName3[] = "jobName3";
 inline constexpr char folderPassword[] = "folderPassword";
-inline constexpr char folderPassword2[] = "folderPassword2";
 inline constexpr char holdButton[] = "holdButton";
 
 /// The whole key of a last component.

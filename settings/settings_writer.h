@@ -6,8 +6,9 @@
 
 namespace kesto {
 
-/// Turns the controls into the keys that the printer driver's filter reads. Every run rewrites all keys; only
-/// the spool time of the first run stays.
+/// Turns the controls into the keys that the printer driver's filter reads. Every run rewrites the keys
+/// from the controls; the spool time stays, the pass code's keys without retention, and `folderPath` without
+/// filing.
 class SettingsWriter {
  public:
   SettingsWriter(PanelState& state, const CapabilityQueries& capabilities)

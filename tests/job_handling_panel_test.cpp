@@ -173,7 +173,7 @@ TEST(PanelProtocol, TheViewIsMadeAndPreparedOnce) {
   TestPanel restored(platform);
   restored.restore();
   EXPECT_EQ(restored.fact("hasInited"), true);
-  EXPECT_EQ(restored.fact("isPanelViewRetain"), true);
+  EXPECT_TRUE(restored.controller->isPanelViewRetained());
   PanelView* view = restored.controller->panelView();
   button(*view, "retentionCheckBox").setTitle(u"Changed"_s);
   restored.controller->willShow();
@@ -185,7 +185,7 @@ TEST(PanelProtocol, TheViewIsMadeAndPreparedOnce) {
   EXPECT_EQ(viewed.fact("hasInited"), false);
   ASSERT_NE(viewed.controller->panelView(), nullptr);
   viewed.restore();
-  EXPECT_EQ(viewed.fact("isPanelViewRetain"), false);
+  EXPECT_FALSE(viewed.controller->isPanelViewRetained());
 }
 
 TEST(PanelProtocol, TheLayoutFollowsTheMode) {

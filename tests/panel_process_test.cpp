@@ -117,6 +117,28 @@ TEST_F(PanelProcess, BadLinesAreAnsweredAndTheNextIsHeard) {
   EXPECT_EQ(exitCodeOf(*process), 0);
 }
 
+TEST_F(PanelProcess, AnswersTheMembersOfItsProtocolAlone) {
+  const auto process = startPanel();
+  ask(*process, R"({"do":"show"})");
+  EXPECT_EQ(
+      ask(*process, R"({"do":"facts"})").keys().join(u' '),
+      u"active_directory addressStringRef folderList hasInited kesto_print_system mfpURL modelStringRef "
+      "panelKind panelName ppdEncoding prefHoldButtonFlag preferenceName presetHoldButtonFlag shouldHide "
+      "shouldShowHelp supportedPPDOptionKeys systemEncoding useConstraintHandling"_s);
+  QJsonObject members;
+  const QJsonObject controls = ask(*process, R"({"do":"controls"})").value(u"controls"_s).toObject();
+  for (const QJsonValue control : controls) {
+    const QStringList names = control.toObject().keys();
+    for (const QString& name : names)
+      members.insert(name, true);
+  }
+  EXPECT_EQ(members.keys().join(u' '),
+            u"alternateImage editable enabled hidden image items kind selectable selectedIndex selectedRow "
+            "selectedTab selection state stringValue tabs tag textColor title"_s);
+  process->closeWriteChannel();
+  EXPECT_EQ(exitCodeOf(*process), 0);
+}
+
 TEST_F(PanelProcess, StartsFromTheSettingsOfAFile) {
   const QString settings =
       write(u"settings.json"_s, R"({"kesto.print.PrintSettings.jobSuspend":"3","of.another":""})");

@@ -60,7 +60,10 @@ TEST_F(FieldTest, EditsHappenAtTheSelection) {
         EditCase{"a[bc]d", Type, "x", "ax|d"}, EditCase{"a[bc]d", Paste, "x😀", "ax😀|d"},
         EditCase{"a[bc]d", Paste, "", "a|d"}, EditCase{"abc|", Backspace, "", "ab|"},
         EditCase{"|abc", Backspace, "", "|abc"}, EditCase{"a[bc]d", Backspace, "", "a|d"},
-        EditCase{"a😀|b", Backspace, "", "a|b"}, EditCase{u"a"_s + half + u"|b"_s, Backspace, "", "a|b"}}) {
+        EditCase{"a😀|b", Backspace, "", "a|b"},
+        EditCase{u"a"_s + smile[0] + u'|' + half + u'b', Type, "x", "ax|😀b"},
+        EditCase{u"[a"_s + smile[0] + u']' + half + u'b', Backspace, "", "|b"},
+        EditCase{u"a"_s + half + u"|b"_s, Backspace, "", "a|b"}}) {
     expectEdit(row);
   }
   put(u"[ab]c"_s);

@@ -42,7 +42,6 @@ class TabView : public Control {
 /// A spinning indicator of work that has no known end.
 class ProgressIndicator : public Control {
   Q_OBJECT
-  Q_PROPERTY(bool animating READ isAnimating NOTIFY changed)
 
  public:
   using Control::Control;

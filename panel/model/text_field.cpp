@@ -2,6 +2,7 @@
 
 #include "panel/model/panel_view.h"
 #include "platform/secret.h"
+#include "platform/surrogates.h"
 
 namespace kesto {
 
@@ -47,9 +48,7 @@ void TextField::insert(QStringView text) {
 Outcome TextField::type(const QString& text) {
   if (Outcome begun = beginEdit(); !begun) return begun;
   for (qsizetype position = 0; position < text.size();) {
-    const bool pair =
-        text[position].isHighSurrogate() && position + 1 < text.size() && text[position + 1].isLowSurrogate();
-    const qsizetype units = pair ? 2 : 1;
+    const qsizetype units = isWithinPair(text, position + 1) ? 2 : 1;
     insert(QStringView(text).sliced(position, units));
     position += units;
   }
@@ -67,9 +66,7 @@ Outcome TextField::backspace() {
   TextRange cut = m_selection;
   if (cut.length == 0) {
     if (cut.location == 0) return Outcome::done();
-    const bool pair = cut.location > 1 && m_stringValue[cut.location - 1].isLowSurrogate() &&
-                      m_stringValue[cut.location - 2].isHighSurrogate();
-    cut.length = pair ? 2 : 1;
+    cut.length = isWithinPair(m_stringValue, cut.location - 1) ? 2 : 1;
     cut.location -= cut.length;
   }
   QString proposed = m_stringValue;
@@ -81,9 +78,16 @@ Outcome TextField::backspace() {
 Outcome TextField::placeCaret(TextRange range) {
   if (!m_selectable) return Outcome::failed(objectName() + QStringLiteral(" is not selectable"));
   view()->makeFirstResponder(this);
-  const qsizetype location = qBound(qsizetype{0}, range.location, m_stringValue.size());
-  const qsizetype length = qBound(qsizetype{0}, range.length, m_stringValue.size() - location);
-  assign(m_selection, TextRange{location, length});
+  qsizetype begin = qBound(qsizetype{0}, range.location, m_stringValue.size());
+  qsizetype end = begin + qBound(qsizetype{0}, range.length, m_stringValue.size() - begin);
+  const bool isCaret = begin == end;
+  if (isWithinPair(m_stringValue, begin)) --begin;
+  if (isCaret) {
+    end = begin;
+  } else if (isWithinPair(m_stringValue, end)) {
+    ++end;
+  }
+  assign(m_selection, TextRange{begin, end - begin});
   return Outcome::done();
 }
 

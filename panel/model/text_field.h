@@ -75,7 +75,7 @@ class TextField : public Control {
   Outcome paste(const QString& text);
   /// The user deletes the selection, or the character before it.
   Outcome backspace();
-  /// The user sets the selection, clamped to the text.
+  /// The user sets the selection, clamped to the text. It takes a surrogate pair whole.
   Outcome placeCaret(TextRange range);
   /// One edit of the user, already worked out by a toolkit: the text as it would become and the selection in
   /// it. The formatter decides what the field then holds.
