@@ -4,6 +4,7 @@
 #include <QtGui/QClipboard>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -269,6 +270,13 @@ TEST_F(DialogPane, ATipSaysWhyAControlIsDimmed) {
   expectTips({{"suspendKeyEditText", "quick file"}, {"userNumberEditText", "Locked"}});
 }
 
+TEST_F(DialogPane, TheTestsUserFailsWhereAPersonWould) {
+  EXPECT_FALSE(m_user.click(u"noSuchButton"_s));
+  EXPECT_FALSE(m_user.click(u"holdOnlyRadioButton"_s)) << "it is dimmed";
+  EXPECT_FALSE(m_user.type(u"jobNameStaticText"_s, u"x"_s)) << "a label takes no keys";
+  EXPECT_FALSE(m_user.choose(u"jobNameEditText"_s, 0)) << "a line has no items";
+}
+
 TEST_F(DialogPane, OutlivesItsPanel) {
   turnRetentionOn();
   m_window.host.reset();
@@ -276,6 +284,20 @@ TEST_F(DialogPane, OutlivesItsPanel) {
   QTest::keyClicks(m_window.widget(u"suspendKeyEditText"_s), u"12"_s);
   QTest::qWait(1);
   EXPECT_TRUE(m_window.isVisible());
+}
+
+TEST(PlainText, TextsForWhichNoLetterIsLeftStayAsTheyAre) {
+  QWidget window;
+  for (int i = 0; i < 30; ++i)
+    setPlainText(*new QCheckBox(&window), u"用&户"_s);
+  assignMnemonics(window);
+  QSet<QString> keys;
+  for (const auto* button : window.findChildren<QCheckBox*>()) {
+    const QString key = QKeySequence::mnemonic(button->text()).toString();
+    EXPECT_EQ(button->text(), key.isEmpty() ? u"用&&户"_s : u"用&&户(&%1)"_s.arg(key.right(1)));
+    keys.insert(key);
+  }
+  EXPECT_EQ(keys.size(), 27) << "the letters, and none";
 }
 
 }  // namespace

@@ -1,87 +1,18 @@
 // The dialog on the demo printer's scheduler, and on servers that are none.
 #include <QtNetwork/QTcpServer>
-#include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
+#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QToolButton>
 
-#include "demo_process.h"
-#include "hosts/dialog/preview.h"
-#include "hosts/dialog/print_dialog.h"
-#include "hosts/dialog/queue_list_model.h"
-#include "hosts/dialog/user/dialog_user.h"
+#include "dialog_printer.h"
 
 namespace kesto::test {
 namespace {
-
-// Answers the next modal window as a user would.
-void whenModal(const std::function<void(QWidget&)>& act) {
-  QTimer::singleShot(20, qApp, [act] {
-    QWidget* modal = QApplication::activeModalWidget();
-    modal == nullptr ? whenModal(act) : act(*modal);
-  });
-}
-
-void pressEnter(QWidget& window) {
-  QTest::keyClick(&window, Qt::Key_Return);
-}
-
-class DialogPrint : public testing::Test {
- protected:
-  DialogPrint() {
-    qputenv("XDG_CONFIG_HOME", m_folder.path(u"config"_s).toUtf8());
-    qputenv("TMPDIR", m_folder.path(u""_s).toUtf8());
-    m_folder.write(u"report.pdf"_s, pdfDocument());
-    m_folder.write(u"pin"_s, "2468\n");
-    m_options.server.limit = std::chrono::seconds(20);
-  }
-
-  void startPrinter(const QStringList& arguments = {}) {
-    m_printer.emplace(m_folder, arguments);
-    m_options.server.address = m_printer->place(u"server"_s);
-  }
-  PrintDialog& open() {
-    m_document.openFiles({m_folder.path(u"report.pdf"_s)});
-    m_dialog.emplace(m_options, m_document);
-    m_dialog->show();
-    return *m_dialog;
-  }
-  void openReady() {
-    open();
-    await([this] { return m_dialog->isQueueReady() && m_dialog->queues().rowCount() > 0; }, u"the queue"_s);
-  }
-  static void await(const std::function<bool()>& isSo, const QString& what) {
-    const Outcome waited = DialogUser::waitUntil(isSo, what);
-    ASSERT_TRUE(waited) << waited.reason();
-  }
-  void click(const QString& name) {
-    const Outcome clicked = DialogUser(*m_dialog).click(name);
-    ASSERT_TRUE(clicked) << clicked.reason();
-  }
-  void type(const QString& name, const QString& text) {
-    const Outcome typed = DialogUser(*m_dialog).replace(name, text);
-    ASSERT_TRUE(typed) << typed.reason();
-  }
-  template <class T = QWidget>
-  T* widget(const QString& name) const {
-    T* found = m_dialog->findChild<T*>(name);
-    EXPECT_NE(found, nullptr) << name;
-    return found;
-  }
-  QString text(const QString& label) const { return widget<QLabel>(label)->text(); }
-
-  ScratchFolder m_folder;
-  std::optional<RunningPrinter> m_printer;
-  PrintOptions m_options;
-  Document m_document;
-  std::optional<PrintDialog> m_dialog;
-};
 
 TEST_F(DialogPrint, AHeldJobIsReleasedWithItsPassCodeAndItsEntriesAreRemembered) {
   startPrinter();
@@ -109,20 +40,10 @@ TEST_F(DialogPrint, AHeldJobIsReleasedWithItsPassCodeAndItsEntriesAreRemembered)
 
 TEST_F(DialogPrint, ARefusedJobLeadsToTheMissingEntry) {
   startPrinter();
-  const QString ppd = m_folder.path(u"run/cups/ppd/Office_MFP.ppd"_s);
-  const QByteArray description =
-      bytesOf(ppd).replace(R"(*ARKestoPrintSystem: "False")", R"(*ARKestoPrintSystem: "True")");
-  QFile file(ppd);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(description) > 0);
-  file.close();
+  changePpd(u"Office_MFP"_s, R"(*ARKestoPrintSystem: "False")", R"(*ARKestoPrintSystem: "True")");
   openReady();
   click(u"userNumberRadioButton"_s);
-  QString alert;
-  whenModal([&](QWidget& window) {
-    alert = qobject_cast<QMessageBox*>(&window)->text();
-    pressEnter(window);
-  });
-  click(u"print"_s);
+  const QString alert = alertOn([this] { click(u"print"_s); });
   EXPECT_TRUE(alert.contains(u"User Number"_s)) << alert;
   EXPECT_EQ(m_dialog->focusWidget()->objectName(), u"userNumberEditText"_s);
   EXPECT_TRUE(m_dialog->focusWidget()->isVisible());
@@ -145,6 +66,20 @@ TEST_F(DialogPrint, AJobThatCannotBeSentKeepsTheEntries) {
   EXPECT_TRUE(m_dialog->isVisible());
   EXPECT_TRUE(widget(u"print"_s)->isEnabled());
   EXPECT_EQ(widget<QLineEdit>(u"userNumberEditText"_s)->text(), u"42"_s);
+}
+
+TEST_F(DialogPrint, CancelStopsAJobThatIsGoingOut) {
+  startPrinter();
+  openReady();
+  signalScheduler(SIGSTOP);
+  click(u"print"_s);
+  QTest::keyClick(&*m_dialog, Qt::Key_Escape);
+  EXPECT_EQ(text(u"message"_s), u"Stopping the job…"_s);
+  EXPECT_TRUE(m_dialog->isVisible());
+  signalScheduler(SIGCONT);
+  await([this] { return text(u"message"_s) == u"Not printed: the job was stopped"_s; }, u"the end"_s);
+  EXPECT_TRUE(widget(u"print"_s)->isEnabled());
+  EXPECT_EQ(m_printer->jobs(), "[]");
 }
 
 TEST_F(DialogPrint, ASilentServerIsToldAndAskedAgain) {
@@ -186,6 +121,66 @@ TEST_F(DialogPrint, AThousandQueuesAreListedAndFiltered) {
   EXPECT_EQ(m_dialog->job(), 0) << "Enter takes the name, it does not print";
 }
 
+TEST_F(DialogPrint, AQueueWithoutThePanelPrintsByItsOwnOptions) {
+  startPrinter({u"--queues"_s, u"2"_s});
+  changePpd(u"Office_MFP_0002"_s, "*APDialogExtension", "*% none");
+  openReady();
+  EXPECT_TRUE(DialogUser(*m_dialog).choose(u"printer"_s, 1));
+  await([this] { return m_dialog->isQueueReady(); }, u"the other queue"_s);
+  EXPECT_FALSE(widgetNamed(*m_dialog, u"Presets"_s)->isEnabled());
+  EXPECT_TRUE(DialogUser(*m_dialog).choose(u"Duplex"_s, 1));
+  click(u"print"_s);
+  await([this] { return m_dialog->job() > 0; }, u"the job"_s);
+  EXPECT_EQ(text(u"message"_s), u"Job 1 sent to Office_MFP_0002"_s);
+  EXPECT_TRUE(m_dialog->jobSettings().isEmpty()) << "of the panel of the queue before";
+  m_printer->waitForLog("job 1");
+}
+
+TEST_F(DialogPrint, TheFirstQueueThatTakesJobsStandsInForOneThatIsMissing) {
+  changeScheduler("s/DefaultPrinter/Printer/; 0,/Accepting Yes/s//Accepting No/");
+  startPrinter({u"--queues"_s, u"2"_s});
+  for (const QString& asked : {QString(), u"Gone"_s}) {
+    m_options.queue = asked;
+    m_options.documentLater = !asked.isNull();  // an application may remember a queue that is gone
+    openReady();
+    EXPECT_EQ(m_dialog->queueName(), u"Office_MFP_0002"_s) << asked;
+    const auto tip = [&](int row) { return m_dialog->queues().index(row).data(Qt::ToolTipRole); };
+    EXPECT_EQ(tip(0), u"takes no jobs"_s);
+    EXPECT_EQ(tip(1), u"ready"_s);
+  }
+}
+
+TEST_F(DialogPrint, ADocumentIsChosenInTheDialog) {
+  startPrinter();
+  openReady({});
+  auto* button = widgetNamed<QPushButton>(*m_dialog, u"Choose the document"_s);
+  whenModal([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
+  button->click();
+  EXPECT_FALSE(widget(u"print"_s)->isEnabled());
+  whenModal([this](QWidget& window) {
+    window.findChild<QLineEdit*>()->setText(m_folder.path(u"report.pdf"_s));
+    pressEnter(*window.findChild<QLineEdit*>());
+  });
+  button->click();
+  EXPECT_EQ(m_document.files(), QStringList{m_folder.path(u"report.pdf"_s)});
+  EXPECT_EQ(widget<QLineEdit>(u"jobNameEditText"_s)->text(), u"report.pdf"_s);
+  EXPECT_TRUE(widget(u"print"_s)->isEnabled());
+}
+
+TEST_F(DialogPrint, HelpStandsBesideTheDialog) {
+  open();
+  await([this] { return m_dialog->isActiveWindow(); }, u"the window"_s);
+  QTest::keyClick(&*m_dialog, Qt::Key_F1);
+  auto* help = widget<QDialog>(u"help"_s);
+  EXPECT_TRUE(help->isVisible() && !help->isModal());
+  EXPECT_TRUE(help->findChild<QTextBrowser*>()->toPlainText().contains(u"pass code of up to 8 digits"_s));
+  QTest::keyClick(help, Qt::Key_Escape);
+  EXPECT_FALSE(help->isVisible());
+  EXPECT_TRUE(m_dialog->isVisible()) << "Escape closes the help alone";
+  m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help)->click();
+  EXPECT_TRUE(help->isVisible()) << "the same one";
+}
+
 TEST_F(DialogPrint, TabGoesThroughTheDialogAsItIsRead) {
   startPrinter();
   openReady();
@@ -214,27 +209,11 @@ TEST_F(DialogPrint, AFailedFolderFetchIsAnAlert) {
   ASSERT_TRUE(gone.listen(QHostAddress::LocalHost));
   type(u"printersAddressEditText"_s, u"127.0.0.1:%1"_s.arg(gone.serverPort()));
   gone.close();
-  QString alert;
-  whenModal([&](QWidget& window) {
-    alert = qobject_cast<QMessageBox*>(&window)->text();
-    pressEnter(window);
-  });
-  click(u"getFolderNameButton"_s);
+  const QString alert = alertOn([this] { click(u"getFolderNameButton"_s); });
   EXPECT_EQ(alert, u"Could not retrieve Folder Names."_s);
   EXPECT_EQ(m_dialog->focusWidget(), widget(u"getFolderNameButton"_s));
   EXPECT_TRUE(widget<QPushButton>(u"print"_s)->isDefault());
   EXPECT_TRUE(m_dialog->isVisible());
-}
-
-TEST_F(DialogPrint, WhatHappensToAQueueIsFollowed) {
-  startPrinter();
-  openReady();
-  bool hasChanged = false;
-  QObject::connect(&m_dialog->queues(), &QAbstractItemModel::dataChanged, qApp, [&] { hasChanged = true; });
-  DemoProcess job(m_folder, builtProgram("kesto-lp"),
-                  {u"-h"_s, m_printer->place(u"server"_s), m_folder.path(u"report.pdf"_s)});
-  EXPECT_EQ(job.code(), 0) << job.log();
-  await([&] { return hasChanged; }, u"news of the queue"_s);
 }
 
 TEST_F(DialogPrint, CancelEndsAFolderFetch) {
@@ -253,46 +232,98 @@ TEST_F(DialogPrint, CancelEndsAFolderFetch) {
   EXPECT_FALSE(m_dialog->isVisible());
 }
 
-TEST_F(DialogPrint, TheSummaryTellsWhatOthersSee) {
+TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) {
+  changeScheduler("/AuthType/d; /Require user @SYSTEM$/d");  // anybody may change queues
   startPrinter();
   openReady();
-  click(u"privacy"_s);
-  await([this] { return widget(u"privacyText"_s)->isVisible(); }, u"what others see"_s);
-  EXPECT_TRUE(text(u"privacyText"_s).contains(u"no more"_s)) << text(u"privacyText"_s);
+  const auto change = [this](const QStringList& arguments) {
+    DemoProcess lpadmin(m_folder, u"/usr/sbin/lpadmin"_s,
+                        QStringList{u"-h"_s, m_printer->place(u"server"_s)} + arguments);
+    EXPECT_EQ(lpadmin.code(), 0) << lpadmin.log();
+  };
+  const auto ask = [this](ipp_op_t operation, int subscription) {
+    const Ipp request(ippNewRequest(operation));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-subscription-id", subscription);
+    std::unique_ptr<PrintServer> server;
+    Ipp reply;
+    return m_options.server.connect(&server) && server->ask(request.get(), &reply);
+  };
+  const QueueListModel& queues = m_dialog->queues();
+  const auto* printer = widget<QComboBox>(u"printer"_s);
+  await([&] { return ask(IPP_OP_GET_SUBSCRIPTION_ATTRIBUTES, 1); }, u"the subscription"_s);
+  change({u"-p"_s, u"Annex"_s, u"-E"_s, u"-v"_s, u"socket://127.0.0.1:9"_s});
+  await([&] { return queues.rowOf(u"Annex"_s) == 0; }, u"the new queue"_s);
+  EXPECT_EQ(printer->currentText(), u"Office_MFP — Kesto VQ-250n (demo)"_s);
+  EXPECT_TRUE(ask(IPP_OP_CANCEL_SUBSCRIPTION, 1));
+  await([&] { return ask(IPP_OP_GET_SUBSCRIPTION_ATTRIBUTES, 2); }, u"the next subscription"_s);
+  change({u"-p"_s, u"Annex"_s, u"-D"_s, u"Moved"_s});
+  change({u"-x"_s, u"Office_MFP"_s});
+  await([&] { return queues.rowCount() == 1 && printer->itemText(0) == u"Annex — Moved"_s; }, u"the news"_s);
+  EXPECT_EQ(printer->currentIndex(), -1) << "nobody has chosen another";
+  EXPECT_EQ(printer->placeholderText(), u"Office_MFP"_s);
+  EXPECT_EQ(text(u"printerState"_s), u""_s);
 }
 
-TEST_F(DialogPrint, APresetComesBack) {
+TEST_F(DialogPrint, TheSummaryTellsWhatOthersSee) {
+  for (const auto& [edits, part] : Cases{
+           {"", "and no more of it."}, {"/JobPrivate/d", "These lines in its policy demo hide it:\n\nJob"}}) {
+    m_printer.reset();
+    changeScheduler(edits.toLatin1());
+    startPrinter();
+    openReady();
+    click(u"privacy"_s);
+    await([this] { return widget(u"privacyText"_s)->isVisible(); }, u"what others see"_s);
+    EXPECT_TRUE(text(u"privacyText"_s).contains(part)) << text(u"privacyText"_s);
+    EXPECT_NE(text(u"privacyText"_s).contains(u"the pass code, "_s), edits.isEmpty());
+  }
+}
+
+TEST_F(DialogPrint, PresetsComeBackAndGo) {
   startPrinter();
   openReady();
-  auto* presets = m_dialog->findChild<QToolButton*>(QString(), Qt::FindChildrenRecursively);
-  for (auto* each : m_dialog->findChildren<QToolButton*>()) {
-    if (each->menu() != nullptr) presets = each;
-  }
-  const auto trigger = [&](const QString& part) {
-    QMetaObject::invokeMethod(presets->menu(), "aboutToShow");
-    for (QAction* action : presets->menu()->actions()) {
-      if (action->text().contains(part)) return action->trigger();
-    }
-    FAIL() << "no entry " << part;
+  QMenu* menu = widgetNamed<QToolButton>(*m_dialog, u"Presets"_s)->menu();
+  const auto entryOf = [](const QMenu* menu, const QString& part) {
+    const QList<QAction*> entries = menu->actions();
+    const auto found = std::ranges::find_if(entries, [&](auto* each) { return each->text().contains(part); });
+    return found == entries.end() ? nullptr : *found;
+  };
+  const auto entry = [&](const QString& part) {
+    QMetaObject::invokeMethod(menu, "aboutToShow");
+    return entryOf(menu, part);
+  };
+  const auto save = [&] {
+    whenModal([](QWidget& window) {
+      QTest::keyClicks(window.findChild<QLineEdit*>(), u"Held & fast"_s);
+      pressEnter(window);
+    });
+    entry(u"Save"_s)->trigger();
   };
   click(u"retentionCheckBox"_s);
   click(u"holdAfterRadioButton"_s);
-  whenModal([](QWidget& window) {
-    QTest::keyClicks(window.findChild<QLineEdit*>(), u"Held & fast"_s);
-    pressEnter(window);
-  });
-  trigger(u"Save"_s);
+  save();
   click(u"retentionCheckBox"_s);
-  trigger(u"Held"_s);
+  entry(u"Held && fast"_s)->trigger();
   EXPECT_TRUE(widget<QAbstractButton>(u"retentionCheckBox"_s)->isChecked());
   EXPECT_TRUE(widget<QAbstractButton>(u"holdAfterRadioButton"_s)->isChecked());
+  entryOf(entry(u"Delete"_s)->menu(), u"Held"_s)->trigger();
+  EXPECT_EQ(entry(u"Held"_s), nullptr);
+  EXPECT_FALSE(entry(u"Delete"_s)->isEnabled());
+  // Another dialog may delete it while the menu is open.
+  for (const bool deletes : {false, true}) {
+    save();
+    QAction* stale = deletes ? entryOf(entry(u"Delete"_s)->menu(), u"Held"_s) : entry(u"Held"_s);
+    EXPECT_TRUE(QFile::remove(m_folder.path(u"config/kesto/kesto.presets.Office_MFP.json"_s)));
+    const QString alert = alertOn([&] { stale->trigger(); });
+    EXPECT_TRUE(alert.contains(u"there is no preset \"Held & fast\""_s)) << alert;
+  }
 }
 
 // The program itself.
 struct ProgramRun {
   const char* what;
   QStringList arguments;
-  QByteArray input;
   int code;
   const char* output;
   const char* error;
@@ -303,16 +334,13 @@ TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
   const QString server = m_printer->place(u"server"_s);
   const QString picture = m_folder.path(u"picture.png"_s);
   const ProgramRun runs[] = {
-      {"timings", {u"-h"_s, server, u"--timings"_s}, {}, 0, "queues=1", ""},
-      {"a picture",
-       {u"-h"_s, server, u"--screenshot"_s, picture, m_folder.path(u"report.pdf"_s)},
-       {},
-       0,
-       "",
-       ""},
-      {"no such option", {u"--nonsense"_s}, {}, 2, "", "--nonsense"},
-      {"no such file", {u"-h"_s, server, u"/no/such.pdf"_s}, {}, 1, "", "/no/such.pdf"},
-      {"no such queue", {u"-h"_s, server, u"-d"_s, u"None"_s, u"--timings"_s}, {}, 1, "", "no queue"},
+      {"timings", {u"-h"_s, server, u"--timings"_s}, 0, "queues=1", ""},
+      {"a picture", {u"-h"_s, server, u"--screenshot"_s, picture, m_folder.path(u"report.pdf"_s)}, 0, "", ""},
+      {"help", {u"--help"_s}, 0, "usage: kesto-print", ""},
+      {"no such option", {u"--nonsense"_s}, 2, "", "--nonsense"},
+      {"no time at all", {u"--timeout"_s, u"0"_s}, 2, "", "--timeout"},
+      {"no such file", {u"-h"_s, server, u"/no/such.pdf"_s}, 1, "", "/no/such.pdf"},
+      {"no such queue", {u"-h"_s, server, u"-d"_s, u"None"_s, u"--timings"_s}, 1, "", "no queue"},
   };
   for (const ProgramRun& run : runs) {
     SCOPED_TRACE(run.what);
@@ -325,19 +353,16 @@ TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
   EXPECT_FALSE(QImage(picture).isNull());
 }
 
-TEST_F(DialogPrint, StandardInputIsADocument) {
-  QFile pipe;
-  int ends[2] = {};
-  ASSERT_EQ(::pipe(ends), 0);
-  m_document.readDescriptor(ends[0], u"(stdin)"_s);
-  ASSERT_TRUE(pipe.open(ends[1], QIODevice::WriteOnly, QFile::AutoCloseHandle));
-  EXPECT_EQ(m_document.state(), Document::State::Reading);
-  pipe.write(bytesOf(m_folder.path(u"report.pdf"_s)).first(50'000));
-  pipe.close();
-  await([this] { return m_document.state() == Document::State::Ready; }, u"the document"_s);
-  EXPECT_EQ(bytesOf(m_document.files().first()), pdfDocument().first(50'000));
-  EXPECT_EQ(QFile::permissions(m_document.files().first()) & (QFile::ReadGroup | QFile::ReadOther),
-            QFile::Permissions());
+TEST(DialogOptions, AreReadAsTheManualSays) {
+  const char* arguments[] = {"kesto-print", "-o",        "sides=one-sided number-up=2",
+                             "a.pdf",       "--timeout", "0.5",
+                             "b.ps",        "-o",        "number-up=4"};
+  PrintOptions options;
+  ASSERT_EQ(parsePrintOptions(std::size(arguments), const_cast<char**>(arguments), &options), std::nullopt);
+  EXPECT_EQ(options.files, (QStringList{u"a.pdf"_s, u"b.ps"_s}));
+  EXPECT_EQ(options.jobOptions,
+            (QMap<QString, QString>{{u"sides"_s, u"one-sided"_s}, {u"number-up"_s, u"4"_s}}));
+  EXPECT_EQ(options.server.limit, std::chrono::milliseconds(500));
 }
 
 }  // namespace

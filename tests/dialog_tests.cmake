@@ -7,7 +7,9 @@ function(kesto_dialog_test name)
   add_dependencies(${name} kesto_resources kesto-demo-printer kesto-lp kesto-print)
 endfunction()
 
-kesto_dialog_test(dialog_test SOURCES dialog_pane_test.cpp dialog_print_test.cpp LINKS Qt6::Network)
+kesto_dialog_test(dialog_test
+  SOURCES dialog_document_test.cpp dialog_pane_test.cpp dialog_print_test.cpp portal_dialog_test.cpp
+  LINKS Qt6::Network)
 gtest_discover_tests(dialog_test DISCOVERY_MODE PRE_TEST PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 
 # The look, once for each language and scale: both are set before the program starts.

@@ -1,5 +1,6 @@
 // The channel between the portal's service and its dialog: what it carries, and what ends it.
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 
 #include <QtCore/QCoreApplication>
@@ -92,6 +93,19 @@ TEST_F(ChannelTest, RefusesInsteadOfWaiting) {
   EXPECT_TRUE(m_near->send(message));
   m_far.reset();
   EXPECT_FALSE(m_near->send(message));
+}
+
+TEST_F(ChannelTest, IsNotMadeWhenThereAreTooManyFiles) {
+  rlimit limit{};
+  ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
+  const rlimit none{.rlim_cur = 0, .rlim_max = limit.rlim_max};
+  Descriptor one;
+  Descriptor other;
+  ::setrlimit(RLIMIT_NOFILE, &none);
+  const Outcome made = PrintChannel::makePair(&one, &other);
+  ::setrlimit(RLIMIT_NOFILE, &limit);
+  EXPECT_FALSE(made);
+  EXPECT_EQ(made.reason(), u"no channel to the dialog can be made: Too many open files"_s);
 }
 
 TEST_F(ChannelTest, EndsOnceAfterTheLastMessage) {

@@ -48,19 +48,26 @@ int main(int argc, char** argv) {
     test.flush();
   };
   tell(self());
-  kesto::PrintChannel channel(kesto::Descriptor(QCoreApplication::arguments().last().toInt()));
-  QObject::connect(&channel, &kesto::PrintChannel::received,
+  auto channel =
+      std::make_unique<kesto::PrintChannel>(kesto::Descriptor(QCoreApplication::arguments().last().toInt()));
+  const auto tellEnd = [&] { tell({{u"closed"_s, true}}); };
+  QObject::connect(channel.get(), &kesto::PrintChannel::received,
                    [&](QJsonObject message, const kesto::Descriptor& document) {
                      if (document) message.insert(u"document"_s, readDocument(document));
                      tell(message);
                    });
-  QObject::connect(&channel, &kesto::PrintChannel::closed, [&] { tell({{u"closed"_s, true}}); });
+  QObject::connect(channel.get(), &kesto::PrintChannel::closed, tellEnd);
   QObject::connect(&test, &QLocalSocket::readyRead, [&] {
     while (test.canReadLine()) {
       const QJsonObject line = QJsonDocument::fromJson(test.readLine()).object();
       if (line.contains(u"exit"_s)) ::_exit(line.value(u"exit"_s).toInt());
       if (line.contains(u"kill"_s)) std::raise(SIGKILL);
-      if (const kesto::Outcome sent = channel.send(line); !sent) tell({{u"unsent"_s, sent.reason()}});
+      if (line.contains(u"leave"_s)) {
+        channel.reset();
+        tellEnd();
+      } else if (const kesto::Outcome sent = channel->send(line); !sent) {
+        tell({{u"unsent"_s, sent.reason()}});
+      }
     }
   });
   QObject::connect(&test, &QLocalSocket::disconnected, [] { ::_exit(0); });

@@ -327,11 +327,13 @@ class WithTheDialog(unittest.TestCase):
         return self.run_tool("pdftotext", document, "-")
 
     def test_hold_with_a_pass_code(self):
-        client = self.session.client(pages=4, settings={"n-copies": "3", "number-up": "2", "my-key": "my value"})
+        client = self.session.client(pages=4, settings={"n-copies": "3", "number-up": "2", "page-set": "even",
+                                                        "duplex": "vertical", "my-key": "my value"})
         self.choose()
         answer = self.end_of(client)
         self.assertEqual(answer["result"], "apply")
-        self.assertEqual(answer["saved"]["my-key"], "my value")
+        saved = answer["saved"]
+        self.assertEqual([saved["my-key"], saved["duplex"], saved["page-set"]], ["my value", "vertical", "all"])
         self.assertNotIn("kesto", json.dumps(answer))
         self.wait_for_job()
         self.assertEqual(self.jobs()[0]["state"], "held")
@@ -339,8 +341,9 @@ class WithTheDialog(unittest.TestCase):
         for place in [json.dumps(answer).encode(), (self.root / "log").read_bytes(), lines]:
             self.assertNotIn(CODE.encode(), place)
         attributes = self.job_attributes()
-        for name, number in [(b"copies", 3), (b"number-up", 2)]:
-            self.assertIn(name + struct.pack(">HI", 4, number), attributes)
+        for name, value in [(b"copies", b"\0\0\0\3"), (b"number-up", b"\0\0\0\2"), (b"page-set", b"even"),
+                            (b"Duplex", b"DuplexTumble")]:
+            self.assertIn(name + struct.pack(">H", len(value)) + value, attributes)
         text = self.release()
         self.assertEqual([text.count(f"This is page {page}") for page in (1, 2, 3, 4, 5)], [1, 1, 1, 1, 0])
 
@@ -354,6 +357,22 @@ class WithTheDialog(unittest.TestCase):
         facts = self.run_tool("pdfinfo", next(pathlib.Path(self.places["output"]).iterdir()))
         self.assertRegex(facts, r"Page size: +(595\.\d+ x 419\.\d+|419\.\d+ x 595\.\d+)")
         self.assertIn(b"A5", self.job_attributes())
+
+    def test_standard_input(self):
+        """As the print command of an application, without the portal."""
+        report = HERE.parent / "hosts/demo/quarterly-report.pdf"
+        with open(report, "rb") as document:
+            dialog = self.session.start([BUILD / "bin/kesto-print", "-h", self.places["server"], "-o", "number-up=2"],
+                                        stdin=document, stdout=subprocess.PIPE)
+        self.addCleanup(self.session.end, dialog)
+        self.focus_dialog()
+        self.keys("Return")
+        output, _ = dialog.communicate(timeout=PATIENCE)
+        self.assertEqual((dialog.returncode, output), (0, "request id is Office_MFP-1\n"))
+        self.wait_for_job()
+        self.assertIn(b"number-up\0\4\0\0\0\2", self.job_attributes())
+        printed = next(pathlib.Path(self.places["output"]).iterdir()).read_bytes()
+        self.assertIn(report.read_bytes(), printed)
 
     def test_escape(self):
         client = self.session.client()

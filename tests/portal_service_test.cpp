@@ -234,6 +234,27 @@ TEST_F(PortalServiceTest, ATokenEndsWithItsDialogAndWithItsTime) {
   expectDocumentDialog(startedDialog(), afterTime);
 }
 
+TEST_F(PortalServiceTest, ATokenWhoseDialogIsAboutToEndOpensAnother) {
+  uint token = 0;
+  Dialog ending = chosenDialog(&token);
+  ending.say(R"({"leave":1})");
+  EXPECT_EQ(ending.next(), (QJsonObject{{u"closed"_s, true}}));
+  Answer answer(print(handle(), token));
+  expectDocumentDialog(startedDialog(), answer);
+}
+
+TEST_F(PortalServiceTest, ARequestIsAnsweredOnceAndByWhatWasAsked) {
+  const ExpectedWarning twice("there is a request of this handle");
+  const ExpectedWarning unasked("answers what it was not asked");
+  const QString path = handle();
+  Answer asked(prepare(path));
+  Dialog dialog = startedDialog();
+  EXPECT_EQ(Answer(prepare(path)).response(), 2U);
+  dialog.say(R"({"answer":"taken"})");
+  dialog.say(R"({"answer":"chosen"})");
+  EXPECT_TRUE(asked.results().contains(u"token"_s));
+}
+
 TEST_F(PortalServiceTest, WhatEndsADialogAnswersTheRequest) {
   struct Case {
     QByteArray line;
@@ -348,6 +369,22 @@ TEST_F(PortalServiceTest, ARequestThatCannotBeServedFails) {
   m_program = u"/no/such/kesto-print"_s;
   startService();
   EXPECT_EQ(Answer(prepare(handle())).response(), 2U);
+}
+
+TEST_F(PortalServiceTest, AServiceThatCannotStartSaysWhy) {
+  for (const auto& [name, reason] :
+       Cases{{"service", "the portal's object is taken"}, {"client", "the portal's name is taken"}}) {
+    PortalService second(connection(name.toLatin1().constData()), m_program);
+    EXPECT_EQ(second.start().reason(), reason);
+  }
+  qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/such/bus");
+  const auto expectEnd = [this](const QStringList& arguments, int code, const char* error) {
+    DemoProcess program(m_folder, builtProgram("kesto-portal"), arguments);
+    EXPECT_EQ(program.code(), code);
+    EXPECT_TRUE(program.log().startsWith(error)) << program.log();
+  };
+  expectEnd({u"--help"_s}, 2, "Usage: kesto-portal\n");
+  expectEnd({}, 1, "kesto-portal: there is no session bus: ");
 }
 
 TEST(PortalDialog, ItsEnvironmentLeadsNotBackToThePortal) {

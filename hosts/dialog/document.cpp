@@ -40,6 +40,7 @@ void Document::stopReading() {
   m_isStopped = true;
   if (m_reader.joinable()) m_reader.join();
   m_isStopped = false;
+  ++m_reading;
 }
 
 void Document::set(State state, const QString& fault) {
@@ -75,14 +76,15 @@ void Document::readDescriptor(int descriptor, const QString& name) {
     return set(State::Failed, tr("The document cannot be kept: %1").arg(m_copy->errorString()));
   }
   set(State::Reading);
-  m_reader = std::thread([this, descriptor] { copy(descriptor); });
+  m_reader = std::thread([this, descriptor, reading = m_reading] { copy(descriptor, reading); });
 }
 
-void Document::copy(int descriptor) {
+void Document::copy(int descriptor, int reading) {
   const std::optional<int> fault = copyAll(descriptor, *m_copy, m_isStopped);
   ::close(descriptor);
   if (!fault) return;
-  const auto finish = [this, fault = *fault] {
+  const auto finish = [this, reading, fault = *fault] {
+    if (reading != m_reading) return;  // another document has come in the meantime
     if (fault != 0)
       return set(State::Failed, tr("The document cannot be read: %1").arg(qt_error_string(fault)));
     if (m_copy->size() == 0) return set(State::Failed, tr("The document is empty."));

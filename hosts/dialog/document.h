@@ -39,7 +39,7 @@ class Document : public QObject {
 
  private:
   void set(State state, const QString& fault = {});
-  void copy(int descriptor);
+  void copy(int descriptor, int reading);
   void stopReading();
 
   State m_state = State::None;
@@ -48,6 +48,7 @@ class Document : public QObject {
   QStringList m_files;
   std::unique_ptr<QTemporaryFile> m_copy;
   std::atomic<bool> m_isStopped = false;
+  int m_reading = 0;  // tells one reading from the next
   std::thread m_reader;
 };
 

@@ -127,8 +127,12 @@ void PrintDialog::connectParts() {
     m_chooser->model().setQueue(queue);
     if (queue.name == m_wanted && m_session.queue()) m_chooser->showState();
   });
-  connect(&m_watch, &QueueWatch::removed, this,
-          [this](const QString& name) { m_chooser->model().removeQueue(name); });
+  connect(&m_watch, &QueueWatch::removed, this, [this](const QString& name) {
+    m_chooser->model().removeQueue(name);
+    if (name != m_wanted) return;
+    m_chooser->setCurrent(name);  // the list would go on to its neighbour, which nobody has chosen
+    if (m_session.queue()) m_chooser->showState();
+  });
   connect(&m_watch, &QueueWatch::failed, this, [this](const QString& reason) {
     m_listFault = reason;
     if (!m_session.queue()) m_chooser->showText(reason, true);

@@ -46,7 +46,9 @@ PortalService::PortalService(QDBusConnection bus, QString dialog, std::chrono::m
 
 Outcome PortalService::start() {
   const auto refused = [&](const char* what) {
-    return Outcome::failed(QLatin1String(what) + QStringLiteral(": ") + m_bus.lastError().message());
+    // That somebody else was first is no error to the bus.
+    const QString reason = m_bus.lastError().message();
+    return Outcome::failed(QLatin1String(what) + (reason.isEmpty() ? reason : QStringLiteral(": ") + reason));
   };
   if (!m_bus.isConnected()) return refused("there is no session bus");
   // The object comes first: whoever waits for the name calls it at once.
