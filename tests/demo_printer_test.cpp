@@ -76,7 +76,10 @@ TEST_F(DemoPrinterTest, TellsWhatItCannotDo) {
   const QString noPrinter = u" --dir "_s + m_folder.path(u"none"_s);
   for (const Case& row :
        {Case{u"--misbehave nonsense"_s, 2, "there is no misbehaviour nonsense"},
-        Case{u"--folder-port 70000"_s, 2, "--folder-port"}, Case{u"--queues 0"_s, 2, "--queues"},
+        Case{u"--folder-port 70000"_s, 2, "--folder-port"}, Case{u"--queues 0x1"_s, 2, "--queues"},
+        Case{u"--folders-only=no"_s, 2, "folders-only was given a disallowed flag override"},
+        Case{u"--output %1/run/paper --dir %1/run"_s.arg(m_folder.path(u"."_s)), 1,
+             "goes with the run folder"},
         Case{u"--folders-only --folders /no/such"_s, 1, "/no/such: No such file or directory"},
         Case{u"--dir "_s + m_folder.path(QString(90, u'x')), 1, "the path is too long"},
         Case{u"--dir "_s + m_folder.path(u"a#b"_s), 1, "holds special characters"},
@@ -90,10 +93,13 @@ TEST_F(DemoPrinterTest, TellsWhatItCannotDo) {
         Case{u"release 1 --pin-file "_s + m_folder.path(u"bad-pin"_s), 1,
              "the first line is not 1 to 8 digits"},
         Case{u"release 1 --pin-file /no/such"_s, 1, "/no/such: No such file or directory"},
-        Case{u"release"_s, 2, "JOB"}}) {
+        Case{u"release 31 4711x"_s, 2, "there is an argument too many"},
+        Case{u"release 4711x"_s, 2, "JOB: is no number"}, Case{u"release"_s, 2, "JOB"}}) {
     DemoProcess program(m_folder, builtProgram("kesto-demo-printer"), row.arguments.split(u' '));
     EXPECT_EQ(program.code(), row.code) << row.arguments;
-    EXPECT_TRUE(program.log().contains(row.message)) << row.arguments << '\n' << program.log();
+    EXPECT_TRUE(program.log().startsWith("kesto-demo-printer: ") && program.log().contains(row.message))
+        << row.arguments << '\n'
+        << program.log();
     EXPECT_FALSE(program.log().contains("4711x"));
     EXPECT_EQ(program.readAllStandardOutput(), "") << row.arguments;
   }
@@ -119,6 +125,10 @@ TEST_F(DemoPrinterTest, SpeaksToAPersonAsWell) {
                    {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s)});
   EXPECT_EQ(jobs.code(), 0);
   EXPECT_EQ(jobs.readAllStandardOutput(), "   1  printed  anna          plan\n");
+  DemoProcess unread(m_folder, u"sh"_s,
+                     {u"-c"_s, u"\"$0\" jobs --dir \"$1\" >/dev/full"_s, builtProgram("kesto-demo-printer"),
+                      m_folder.path(u"run"_s)});
+  EXPECT_EQ(unread.code(), 1);
 }
 
 TEST_F(DemoPrinterTest, HoldsAJobUntilItsPassCodeComes) {
@@ -195,9 +205,11 @@ TEST_F(DemoPrinterTest, StartsWhereOneWasEndedHard) {
   RunningPrinter first(m_folder);
   send(first, u"jobSuspend=2"_s);
   first.waitForLog("held");
+  const QFile::Permissions mode = QFile::permissions(m_folder.path(u"run"_s));
   DemoProcess second(m_folder, builtProgram("kesto-demo-printer"), {u"--dir"_s, m_folder.path(u"run"_s)});
   EXPECT_EQ(second.code(), 1);
   EXPECT_TRUE(second.log().contains("a demo printer is running there"));
+  EXPECT_EQ(QFile::permissions(m_folder.path(u"run"_s)), mode) << "its jobs' account is kept out";
 
   first.signal(SIGKILL);
   EXPECT_EQ(first.code(), -1);

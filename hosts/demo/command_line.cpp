@@ -1,12 +1,14 @@
 #include "hosts/demo/command_line.h"
 
-#include <CLI/CLI.hpp>
 #include <QtCore/QFile>
 #include <algorithm>
 #include <cstring>
 #include <iostream>
+#include <limits>
 #include <string>
 #include <string_view>
+
+#include "hosts/cli/arguments.h"
 
 namespace kesto {
 namespace {
@@ -55,14 +57,18 @@ void hidePassCode(int argc, char** argv) {
   }
 }
 
-void addPlace(CLI::App& app, Arguments& arguments, DemoCommand& command) {
+void addPlace(CLI::App& app, Arguments& arguments) {
   app.add_option("--dir", arguments.directory, "run folder of the printer, made and removed by it")
       ->type_name("FOLDER");
+}
+
+void addJson(CLI::App& app, DemoCommand& command) {
   app.add_flag("--json", command.json, "print one line of JSON");
 }
 
 void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
-  addPlace(app, arguments, command);
+  addPlace(app, arguments);
+  addJson(app, command);
   app.add_option("--output", arguments.output,
                  "where printed documents go and stay; else into the run folder")
       ->type_name("FOLDER");
@@ -72,25 +78,28 @@ void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
   app.add_option("--folder-port", arguments.folderPort,
                  "port of the folder service, 0 for any; else 80 when it may be had, or any")
       ->type_name("PORT")
-      ->check(CLI::Range(0, 65535));
+      ->transform(wholeNumber(0, 65535));
   app.add_option("--misbehave", arguments.misbehave,
                  "let the folder service misbehave; \"list\" shows the ways")
       ->type_name("NAME")
       ->check(faultOfMisbehaviour);
   app.add_option("--queues", command.setup.queues, "have this many queues, to try long lists")
-      ->check(CLI::Range(1, 9999));
+      ->transform(wholeNumber(1, 9999));
   app.add_flag("--folders-only", command.setup.foldersOnly, "run nothing but the folder service");
 }
 
 void addCommands(CLI::App& app, Arguments& arguments, DemoCommand& command) {
   app.require_subcommand(0, 1);
   CLI::App* jobs = app.add_subcommand("jobs", "lists what the running printer holds and has printed");
-  addPlace(*jobs, arguments, command);
+  addPlace(*jobs, arguments);
+  addJson(*jobs, command);
   jobs->callback([&command] { command.kind = DemoCommand::Kind::Jobs; });
   CLI::App* release =
       app.add_subcommand("release", "prints a held job; ends with 3 when the pass code is wrong");
-  addPlace(*release, arguments, command);
-  release->add_option("JOB", command.job, "the job's number")->required();
+  addPlace(*release, arguments);
+  release->add_option("JOB", command.job, "the job's number")
+      ->required()
+      ->transform(wholeNumber(1, std::numeric_limits<int>::max()));
   CLI::Option* pin =
       release->add_option("--pin", arguments.passCode, "the job's pass code; other users may see it")
           ->type_name("N")
@@ -112,6 +121,23 @@ Outcome readPassCode(const QString& path, QString* passCode) {
     return Outcome::failed(path + QStringLiteral(": the first line is not 1 to 8 digits"));
   *passCode = QString::fromLatin1(line);
   return Outcome::done();
+}
+
+// The program's end when there is nothing to do, the help or the fault having been printed.
+std::optional<int> parse(CLI::App& app, int argc, char** argv) {
+  std::string fault;
+  try {
+    app.parse(argc, argv);
+    return std::nullopt;
+  } catch (const CLI::Success& help) {
+    return app.exit(help);
+  } catch (const CLI::ExtrasError&) {
+    fault = faultOfUnknown(app);
+  } catch (const CLI::ParseError& error) {
+    fault = error.what();
+  }
+  std::cerr << "kesto-demo-printer: " << fault << "\nkesto-demo-printer --help tells more.\n";
+  return exitUsage;
 }
 
 // Turns the arguments into what they stand for.
@@ -138,12 +164,10 @@ std::optional<int> parseDemoCommand(int argc, char** argv, DemoCommand* command)
                "kesto-demo-printer");
   addRun(app, arguments, *command);
   addCommands(app, arguments, *command);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? 0 : exitUsage;
-  }
+  refuseFlagValues(app);
+  const std::optional<int> ended = parse(app, argc, argv);
   hidePassCode(argc, argv);
+  if (ended) return ended;
   if (app.count("--folder-port") > 0) command->setup.folderPort = static_cast<quint16>(arguments.folderPort);
   const Outcome completed = complete(arguments, command);
   if (completed) return std::nullopt;

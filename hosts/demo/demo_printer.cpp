@@ -2,11 +2,18 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 
 #include "hosts/demo/log.h"
 
 namespace kesto {
+
+namespace {
+
+QString absolute(const QString& path) {
+  return QDir::cleanPath(QDir(path).absolutePath());
+}
+
+}  // namespace
 
 QString controlPath(const QString& directory) {
   return QDir(directory).absoluteFilePath(QStringLiteral("control"));
@@ -21,6 +28,13 @@ Outcome DemoPrinter::start() {
 }
 
 Outcome DemoPrinter::startPrinting() {
+  if (!m_setup.output.isNull()) {
+    m_setup.output = absolute(m_setup.output);
+    if ((m_setup.output + u'/').startsWith(absolute(m_setup.directory) + u'/')) {
+      return Outcome::failed(m_setup.output +
+                             QStringLiteral(": goes with the run folder; name another folder"));
+    }
+  }
   if (Outcome taken = m_runFolder.take(m_setup.directory); !taken) return taken;
   constexpr unsigned int ownerOnly = 0700;
   if (Outcome made = m_runFolder.makeFolder(QStringLiteral("held"), ownerOnly); !made) return made;
@@ -28,7 +42,6 @@ Outcome DemoPrinter::startPrinting() {
     m_setup.output = m_runFolder.path(QStringLiteral("output"));
     if (Outcome made = m_runFolder.makeFolder(QStringLiteral("output"), ownerOnly); !made) return made;
   }
-  m_setup.output = QFileInfo(m_setup.output).absoluteFilePath();
   if (!QDir().mkpath(m_setup.output))
     return Outcome::failed(m_setup.output + QStringLiteral(": cannot be made"));
 

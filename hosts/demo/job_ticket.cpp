@@ -2,12 +2,12 @@
 
 #include <QtCore/QCryptographicHash>
 
+#include "platform/print_settings.h"
 #include "platform/text_encoding.h"
 
 namespace kesto {
 namespace {
 
-constexpr char settingPrefix[] = "kesto.print.PrintSettings.";
 constexpr int mostPieces = 10;
 constexpr qsizetype shortestPassCode = 5;
 
@@ -30,7 +30,7 @@ bool JobTicket::addLine(const QByteArray& line) {
 }
 
 QByteArray JobTicket::setting(const char* key) const {
-  return m_settings.value(QByteArray(settingPrefix) + key);
+  return m_settings.value(QByteArray(printSettingsPrefix) + key);
 }
 
 Retention JobTicket::retention() const {

@@ -88,12 +88,7 @@ int release(const DemoCommand& command) {
   return word == kesto::wordOf(kesto::Release::Refused) ? exitRefused : exitFailed;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  DemoCommand command;
-  if (const std::optional<int> ended = kesto::parseDemoCommand(argc, argv, &command)) return *ended;
+int perform(const DemoCommand& command) {
   switch (command.kind) {
     case DemoCommand::Kind::Run:
       return run(command);
@@ -105,4 +100,14 @@ int main(int argc, char** argv) {
       break;
   }
   return release(command);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  DemoCommand command;
+  if (const std::optional<int> ended = kesto::parseDemoCommand(argc, argv, &command)) return *ended;
+  const int code = perform(command);
+  return std::ferror(stdout) == 0 ? code : fail(QStringLiteral("standard output cannot be written"));
 }

@@ -82,7 +82,7 @@ Outcome RunFolder::make() const {
       !QDir(m_path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
     return Outcome::failed(m_path + QStringLiteral(": holds other files; name an empty folder or a new one"));
   }
-  return ::chmod(name.constData(), 0700) == 0 ? Outcome::done() : failedAt(m_path);
+  return Outcome::done();
 }
 
 Outcome RunFolder::lock() {
@@ -94,6 +94,8 @@ Outcome RunFolder::lock() {
     m_lock.close();
     return Outcome::failed(m_path + QStringLiteral(": a demo printer is running there"));
   }
+  // Only now: the printer that runs there may have opened it to the account of its jobs.
+  if (::chmod(encoded(m_path).constData(), 0700) != 0) return failedAt(m_path);
   removeAll(QDir(m_path), QString::fromLatin1(lockName));
   return Outcome::done();
 }

@@ -7,6 +7,7 @@
 namespace kesto {
 namespace {
 
+// As in platform/print_settings.h: a filter knows nothing of Qt.
 constexpr std::string_view settingPrefix = "kesto.print.PrintSettings.";
 constexpr std::string_view hexDigits = "0123456789ABCDEF";
 
