@@ -8,6 +8,9 @@
 
 namespace kesto {
 
+/// What every key of Job Handling begins with.
+inline constexpr char printSettingsPrefix[] = "kesto.print.PrintSettings.";
+
 /// Key to value, both text. The host owns it and lends it to the panel. An empty value is a value: "present"
 /// and "not empty" are different questions.
 class PrintSettings {

@@ -4,9 +4,9 @@
 
 #include <QtCore/QString>
 
-namespace kesto::job_keys {
+#include "platform/print_settings.h"
 
-inline constexpr char prefix[] = "kesto.print.PrintSettings.";
+namespace kesto::job_keys {
 
 inline constexpr char spoolTime[] = "spoolTime";
 inline constexpr char filing[] = "filing";
@@ -29,7 +29,7 @@ inline constexpr char holdButton[] = "holdButton";
 
 /// The whole key of a last component.
 inline QString whole(const char* lastComponent) {
-  return QLatin1String(prefix) + QLatin1String(lastComponent);
+  return QLatin1String(printSettingsPrefix) + QLatin1String(lastComponent);
 }
 
 }  // namespace kesto::job_keys

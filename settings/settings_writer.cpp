@@ -33,7 +33,7 @@ void SettingsWriter::store(const char* key, const QByteArray& value) {
 }
 
 void SettingsWriter::storeInPieces(const char* key, const QByteArray& value) {
-  const QByteArray whole = QByteArray(job_keys::prefix) + key;
+  const QByteArray whole = QByteArray(printSettingsPrefix) + key;
   MyMultiPMPrintSetAsciiCStrValue(m_state.printSettings(), whole.constData(), value.constData());
 }
 

@@ -26,6 +26,8 @@ TEST_F(LpEntries, EveryEntryMakesItsKeys) {
       {u"--job-name Offer -t letter.txt"_s, u"jobName=4F66666572"_s},
       {u"-t letter --job-name {}"_s, u"jobName"_s},
       {u"-t letter"_s, u"jobName=6C6574746572"_s},
+      {u"to/letter"_s, u"jobName=6C6574746572"_s},
+      {u"-- --pin"_s, u"jobName=2D2D70696E"_s},
       {u"--remember job-name,user-name --remember account-number"_s, u"holdButton=152"_s},
       {u"--hold only --folder X --remember pin,folder,folder-pin,login,password"_s, u"holdButton=295"_s},
       {u"--user-number 7 --remember user-number"_s, u"holdButton=64"_s},
@@ -82,8 +84,11 @@ TEST_F(LpEntries, WrongUsageIsToldWithoutSecrets) {
       {u"--with-codes"_s, u"--with-codes requires --save-preset"_s},
       {u"--job-handling"_s, u"--job-handling goes with --list"_s},
       {u"--address x"_s, u"--address goes with --folders"_s},
-      {u"-n 0"_s, u"-n: Value 0 not in range 1 to 9999"_s},
-      {u"-q 101"_s, u"-q: Value 101 not in range 1 to 100"_s},
+      {u"-n 0"_s, u"-n: is no number from 1 to 9999"_s},
+      {u"-n 0x10"_s, u"-n: is no number from 1 to 9999"_s},
+      {u"-q 101"_s, u"-q: is no number from 1 to 100"_s},
+      {u"--timeout nan"_s, u"--timeout: is no number"_s},
+      {u"--json=no"_s, u"json was given a disallowed flag override"_s},
       {u"--list-presets"_s,
        u"only one of --dry-run, --list, --folders, --check and the presets' two can be done"_s},
   };
@@ -94,8 +99,9 @@ TEST_F(LpEntries, WrongUsageIsToldWithoutSecrets) {
   EXPECT_TRUE(run(u"--ppd x.ppd --dry-run"_s).err.contains(u"--device-uri is missing"_s));
   EXPECT_TRUE(run(u"--ppd x.ppd --device-uri lpd://x"_s)
                   .err.contains(u"--ppd stands for a queue only with --dry-run or --folders"_s));
-  EXPECT_EQ(run(u"--folders --device-uri usb://x --ppd "_s + m_ppd.path()).err,
-            u"kesto-lp: the printer's address is not known; give --address\n"_s);
+  const QString folders = u"--folders --device-uri usb://x --ppd "_s + m_ppd.path();
+  EXPECT_EQ(run(folders).err, u"kesto-lp: the printer's address is not known; give --address\n"_s);
+  EXPECT_EQ(run(folders + u" --address \"a b:c\""_s).err, u"kesto-lp: \"a b:c\" is no address\n"_s);
   const LpRun noFile = run(u"--ppd x.ppd --device-uri lpd://x --dry-run"_s);
   EXPECT_EQ(noFile.code, 1);
   EXPECT_EQ(noFile.err, u"kesto-lp: x.ppd: No such file or directory\n"_s);

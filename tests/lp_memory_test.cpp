@@ -1,4 +1,6 @@
 // What kesto-lp keeps between jobs: remembered entries and presets.
+#include <QtCore/QJsonArray>
+
 #include "lp_program.h"
 
 namespace kesto::test {
@@ -46,6 +48,31 @@ TEST_F(LpMemory, RememberedOnceOfferedUntilForgotten) {
   }
 }
 
+TEST_F(LpMemory, ADryRunKeepsWhatItIsAskedForAndNothingElse) {
+  const QString domain = u"kesto.mfp.office"_s;
+  dryRun(u"--hold only --pin 1234 letter"_s);
+  EXPECT_FALSE(QFile::exists(m_home.filePath(u"kesto"_s)));
+  const QJsonObject record{{u"Model Name"_s, u"KESTO VQ-900"_s}, {u"folder name"_s, u"x"_s}};
+  const QJsonObject another{{u"Job Handling"_s, record}, {u"note"_s, 1}};
+  ASSERT_TRUE(preferences().setPersistentDomain(another, domain));
+  dryRun(u"--hold only --pin 1234 --save-preset p"_s);
+  EXPECT_EQ(kept(domain), another) << "of a queue that had another model";
+  EXPECT_EQ(listed(), u"p\n"_s);
+  dryRun(u"--user-number 7 --remember user-number"_s);
+  EXPECT_EQ(kept(domain)[u"note"_s], 1);
+  const QJsonObject replaced = kept(domain)[u"Job Handling"_s].toObject();
+  EXPECT_EQ(replaced[u"Model Name"_s], u"KESTO VQ-250n"_s);
+  EXPECT_EQ(replaced[u"folder name"_s], u""_s);
+}
+
+TEST_F(LpMemory, WhatCannotBeKeptIsTold) {
+  ASSERT_TRUE(QFile::link(u"/dev/null"_s, m_home.filePath(u"kesto"_s)));
+  const LpRun run = dryRun(u"--job-name x --remember job-name"_s);
+  EXPECT_EQ(run.code, 1);
+  EXPECT_TRUE(run.err.startsWith(u"kesto-lp: the entries are not remembered: the folder "_s)) << run.err;
+  EXPECT_EQ(dryRun(u"--job-name x"_s).err, u""_s);
+}
+
 TEST_F(LpMemory, TheLoginIsKeptAndReplaced) {
   const auto record = [this] { return kept(u"kesto.mfp.office"_s)[u"Job Handling"_s].toObject(); };
   dryRun(u"--login ann --password-file - --remember login,password"_s, "4711\n");
@@ -86,6 +113,9 @@ TEST_F(LpMemory, PresetsAreListedReplacedAndDeleted) {
   for (const auto& name : {u"b"_s, u"a"_s, u"b"_s})
     dryRun(u"--hold after --save-preset "_s + name);
   EXPECT_EQ(listed(), u"a\nb\n"_s);
+  EXPECT_EQ(run(u"-d office/instance --list-presets"_s).out, u"a\nb\n"_s);
+  const auto json = QJsonDocument::fromJson(run(u"-d office --list-presets --json"_s).out.toUtf8());
+  EXPECT_EQ(json.array(), (QJsonArray{u"a"_s, u"b"_s}));
   EXPECT_EQ(run(u"-d elsewhere --list-presets"_s).out, u""_s);
   expectFailure(u"--preset c"_s, 1, u"there is no preset \"c\"; there are: a, b"_s);
   EXPECT_EQ(run(u"-d office --delete-preset a"_s).code, 0);

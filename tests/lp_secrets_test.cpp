@@ -24,6 +24,7 @@ TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
       {"1234\r\nmore\n", {}},
       {"", u"kesto-lp: --pin-file: the line is empty\n"_s},
       {"\n1234\n", u"kesto-lp: --pin-file: the line is empty\n"_s},
+      {QByteArray(1024, 'x') + 'y', u"kesto-lp: --pin-file: the line is too long\n"_s},
       {"12\xFF", u"kesto-lp: --pin-file: the line is no UTF-8 text\n"_s},
   };
   const QString file = m_home.filePath(u"code"_s);
@@ -40,6 +41,7 @@ TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
   }
   EXPECT_EQ(dryRun(u"--password-file /no/file"_s).err,
             u"kesto-lp: --password-file: /no/file: No such file or directory\n"_s);
+  EXPECT_EQ(dryRun(u"--password-file /"_s).err, u"kesto-lp: --password-file: Is a directory\n"_s);
 }
 
 TEST_F(LpSecrets, NoMessageTellsThem) {

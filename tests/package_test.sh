@@ -89,6 +89,9 @@ expect "completion of queues" '^Office_MFP$' complete_word -d Off
 expect "completion of choices" '^only after sample$' complete_word --hold ''
 expect "completion of lists" '^pin,folder pin,folder-pin$' complete_word --remember pin,fol
 expect "completion of options" '^--pin --pin-file$' complete_word --pi
+expect "no option is half a word" '^--ask-pin --ask-folder-pin --ask-password$' complete_word --ask
+expect "nor is the program's name" '^$' complete_word -l
+expect "completion of the help" '^--help$' complete_word --he
 expect "completion of files" '^file names' complete_word rep
 installed=$scratch/installed
 mkdir -p "$installed"/var/lib/dpkg/{info,updates}

@@ -1,8 +1,8 @@
 #include "hosts/cli/listings.h"
 
-#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtCore/QUrl>
 #include <iostream>
 
 #include "hosts/cups/job_privacy.h"
@@ -13,11 +13,6 @@
 
 namespace kesto {
 namespace {
-
-Outcome printArray(const QJsonArray& array) {
-  std::cout << QJsonDocument(array).toJson().constData();
-  return printed();
-}
 
 QJsonObject jsonOf(const QueueSummary& queue) {
   return {{QStringLiteral("queue"), queue.name},
@@ -44,7 +39,15 @@ Outcome keepJobHandling(PrintServer& server, std::vector<QueueSummary>* queues) 
   return Outcome::done();
 }
 
-Outcome fetchFolders(PanelView& view, const QString& address) {
+bool isAddress(const QString& text) {
+  const QUrl url(QStringLiteral("http://%1/").arg(text), QUrl::StrictMode);
+  return url.isValid() && !url.host().isEmpty();
+}
+
+}  // namespace
+
+Outcome fetchFolders(PrintDialogPanel& panel, const QString& address) {
+  PanelView& view = *panel.panelView();
   auto* field = view.control<TextField>(QStringLiteral("printersAddressEditText"));
   auto* button = view.control<Button>(QStringLiteral("getFolderNameButton"));
   if (field == nullptr || button == nullptr) {
@@ -55,17 +58,22 @@ Outcome fetchFolders(PanelView& view, const QString& address) {
     if (Outcome emptied = field->backspace(); !emptied) return emptied;
     if (Outcome typed = field->type(address); !typed) return typed;
   }
-  if (field->stringValue().isEmpty()) {
+  const QString known = field->stringValue();
+  if (known.isEmpty()) {
     return Outcome::failed(QStringLiteral("the printer's address is not known; give --address"));
   }
-  return button->click();
+  return isAddress(known) ? button->click()
+                          : Outcome::failed(QStringLiteral("\"%1\" is no address").arg(known));
 }
-
-}  // namespace
 
 Outcome printed() {
   std::cout.flush();
   return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+}
+
+Outcome printArray(const QJsonArray& array) {
+  std::cout << QJsonDocument(array).toJson().constData();
+  return printed();
 }
 
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
@@ -104,15 +112,16 @@ Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool*
   }
   std::cout << queue.toStdString() << ": other users see of a job "
             << privacy.shown.join(QStringLiteral(", ")).toStdString() << ".\n"
-            << "An administrator closes this in cupsd.conf, in <Policy " << privacy.policy.toStdString()
-            << ">:\n";
+            << "An administrator closes this in cupsd.conf, in "
+            << (privacy.policy.isNull() ? "the queue's policy"
+                                        : "<Policy " + privacy.policy.toStdString() + '>')
+            << ":\n";
   for (const QString& line : lines)
     std::cout << "  " << line.toStdString() << '\n';
   return printed();
 }
 
-Outcome printFolders(PrintDialogPanel& panel, const QString& address, bool json) {
-  if (Outcome fetched = fetchFolders(*panel.panelView(), address); !fetched) return fetched;
+Outcome printFolders(const PrintDialogPanel& panel, bool json) {
   const QVariantList folders = panel.property("folderList").toList();
   if (json) return printArray(QJsonArray::fromVariantList(folders));
   for (const QVariant& entry : folders) {

@@ -1,7 +1,7 @@
 // What kesto-lp lists: queues and folders.
 #pragma once
 
-#include <chrono>
+#include <QtCore/QJsonArray>
 
 #include "hosts/cups/print_server.h"
 #include "platform/panel.h"
@@ -11,6 +11,9 @@ namespace kesto {
 /// Whether standard output has taken all that was printed.
 Outcome printed();
 
+/// Prints a list as JSON.
+Outcome printArray(const QJsonArray& array);
+
 /// Prints the server's queues, a line each or as one JSON array; with `jobHandlingOnly` those alone whose PPD
 /// offers the panel, for which each queue's PPD is asked for.
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json);
@@ -19,8 +22,12 @@ Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json);
 /// `*isOpen` tells whether they see anything.
 Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool* isOpen);
 
-/// Fetches the printer's folders through the panel, from `address` when it is not null, and prints them, a
-/// line each or as one JSON array. A protected folder's line ends in a tab and "locked".
-Outcome printFolders(PrintDialogPanel& panel, const QString& address, bool json);
+/// Fetches the printer's folders through the panel, from `address` when it is not null. Fails on an address
+/// that cannot be one, which the panel passes over; a printer that does not answer is told by its alert.
+Outcome fetchFolders(PrintDialogPanel& panel, const QString& address);
+
+/// Prints the folders that the panel has, a line each or as one JSON array. A protected folder's line ends in
+/// a tab and "locked".
+Outcome printFolders(const PrintDialogPanel& panel, bool json);
 
 }  // namespace kesto

@@ -1,6 +1,7 @@
 #include "hosts/cli/lp_run.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <iostream>
@@ -47,8 +48,10 @@ Outcome connectToServer(const Options& options, std::unique_ptr<PrintServer>* se
   return PrintServer::connect(options.server.address.value_or(QString()), options.server.limit, server);
 }
 
+// The queue's name without asking a server: as it was written, but for the instance of "queue/instance".
 QString queueOfFiles(const Options& options) {
-  return options.queue.value_or(QFileInfo(options.ppd.value_or(QString())).completeBaseName());
+  const QString file = QFileInfo(options.ppd.value_or(QString())).completeBaseName();
+  return options.queue.value_or(file).section(u'/', 0, 0);
 }
 
 Outcome findQueue(const Options& options, JobQueue* queue) {
@@ -75,9 +78,10 @@ Outcome print(const QMap<QString, QString>& pairs, const char* separator, bool j
   return printed();
 }
 
-Outcome listPresets(const PresetStore& store) {
+Outcome listPresets(const PresetStore& store, bool json) {
   QStringList names;
   if (Outcome found = store.names(&names); !found) return found;
+  if (json) return printArray(QJsonArray::fromStringList(names));
   for (const QString& name : names)
     std::cout << name.toStdString() << '\n';
   return printed();
@@ -114,12 +118,14 @@ class Job {
   Outcome restore();
   // Makes the entries and has the panel confirm the job.
   Outcome enter(const Entries& entries);
-  // Prints the settings or sends the job; only then are entries and preset kept.
+  // Prints the settings or sends the job; only then are entries and preset kept. What cannot be kept of them
+  // is found before, as far as it can be.
   Outcome finish();
   PrintDialogPanel& panel() const { return *m_host.panel(); }
 
  private:
-  Outcome savePreset();
+  Outcome makePresetToSave(Preset* preset) const;
+  Outcome keep(const Preset& preset);
   QString model() const { return panel().property("modelStringRef").toString(); }
 
   const Options& m_options;
@@ -131,9 +137,10 @@ class Job {
 
 Outcome Job::open(PrintDialogPlugIn& plugIn) {
   m_host.session.currentPrinter = Printer{.id = m_queue.id, .deviceUri = m_queue.deviceUri};
-  const bool isNamed = m_options.title || m_options.task == Task::Print;
+  const bool isNamed = m_options.title || !m_options.files.isEmpty() || m_options.task == Task::Print;
   m_host.settings.emplace().setJobName(isNamed ? std::optional(titleOf(m_options)) : std::nullopt);
   m_host.ppd = std::move(m_queue.ppd);
+  if (m_options.task == Task::DryRun) m_platform.close();
   return m_host.openShownPanel(plugIn);
 }
 
@@ -153,25 +160,39 @@ Outcome Job::enter(const Entries& entries) {
   return Outcome::failed(panel().panelName() + QStringLiteral(": ") + missingEntry(view));
 }
 
-Outcome Job::savePreset() {
+Outcome Job::makePresetToSave(Preset* preset) const {
   if (!m_options.savePreset) return Outcome::done();
-  Preset preset{.model = model(), .settings = {}};
-  if (Outcome made = makePreset(*m_host.settings, *m_host.panel()->panelView(), m_options.withCodes, &preset);
-      !made) {
-    return made;
+  if (Outcome fits = m_presets.check(*m_options.savePreset); !fits) return fits;
+  preset->model = model();
+  return makePreset(*m_host.settings, *panel().panelView(), m_options.withCodes, preset);
+}
+
+// Remembers the entries, in a dry run only when that is asked for, and saves the preset.
+Outcome Job::keep(const Preset& preset) {
+  const bool isAsked = m_options.entries.asksForMemory();
+  Outcome kept = Outcome::done();
+  m_platform.open();
+  if (isAsked || m_options.task == Task::Print) {
+    Outcome remembered = m_platform.rememberEntries(panel());
+    if (!remembered)
+      kept = Outcome::failed(QStringLiteral("the entries are not remembered: ") + remembered.reason());
   }
-  return m_presets.save(*m_options.savePreset, preset);
+  Outcome saved = m_options.savePreset ? m_presets.save(*m_options.savePreset, preset) : Outcome::done();
+  if (isAsked && !kept) return kept;
+  if (!kept) std::cerr << "kesto-lp: " << kept.reason().toStdString() << '\n';
+  return saved;
 }
 
 Outcome Job::finish() {
-  const bool isDry = m_options.task == Task::DryRun;
-  if (!isDry) {
+  Preset preset;
+  if (Outcome made = makePresetToSave(&preset); !made) return made;
+  if (m_options.task == Task::Print) {
     Outcome sent = submit(*m_queue.server, *m_queue.destination, m_options, &*m_host.settings);
     if (!sent) return sent;
+    Outcome kept = keep(preset);
+    return kept ? kept : Outcome::failed(QStringLiteral("the job is sent; ") + kept.reason());
   }
-  if (!isDry || m_options.entries.asksForMemory()) panel().shouldPrint();
-  if (Outcome saved = savePreset(); !saved) return saved;
-  if (!isDry) return Outcome::done();
+  if (Outcome kept = keep(preset); !kept) return kept;
   if (m_options.summary) return print(panel().summaryInfo(), ": ", m_options.json);
   return print(m_host.settings->all(), "=", m_options.json);
 }
@@ -186,8 +207,9 @@ ExitCode runJob(const Options& options, Entries entries, JobQueue& queue) {
   if (Outcome opened = job.open(*plugIn); !opened) return ended(opened);
   if (Outcome restored = job.restore(); !restored) return ended(restored);
   if (options.task == Task::ListFolders) {
-    const Outcome listed = printFolders(job.panel(), options.address.value_or(QString()), options.json);
-    return alerts.wasShown ? ExitFailed : ended(listed);
+    const Outcome fetched = fetchFolders(job.panel(), options.address.value_or(QString()));
+    if (alerts.wasShown) return ExitFailed;
+    return ended(fetched ? printFolders(job.panel(), options.json) : fetched);
   }
   const Outcome entered = job.enter(entries);
   // The panel has them now, in their stored forms; an upload can take long.
@@ -210,7 +232,8 @@ ExitCode runPlainJob(const Options& options, JobQueue& queue) {
 ExitCode runPresets(const Options& options) {
   JsonUserDefaults defaults(JsonUserDefaults::defaultDirectory());
   PresetStore store(defaults, queueOfFiles(options));
-  return ended(options.deletedPreset ? store.remove(*options.deletedPreset) : listPresets(store));
+  return ended(options.deletedPreset ? store.remove(*options.deletedPreset)
+                                     : listPresets(store, options.json));
 }
 
 ExitCode runQueueList(const Options& options) {

@@ -1,12 +1,13 @@
 #include "hosts/cli/options.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <iostream>
 #include <string>
 #include <vector>
 
+#include "hosts/cli/arguments.h"
 #include "hosts/cups/print_job.h"
 
 namespace kesto {
@@ -18,7 +19,7 @@ Prints files, or standard input, with a printer's Job Handling.
 
   -d QUEUE -h HOST[:PORT] -U USER -n COPIES -P PAGES -o NAME=VALUE -t TITLE
   -q PRIORITY -H WHEN -m -s -c -E   as of the usual print command
-  --ppd FILE --device-uri URI   stand for a queue in a dry run
+  --ppd FILE --device-uri URI   stand for a queue where no job is sent
   --dry-run                 print the job's settings and send nothing; keep only
                             what --remember, --forget or --save-preset ask for
   --summary                 print the panel's summary, not the settings
@@ -43,6 +44,7 @@ constexpr char helpOfMemory[] =
   --save-preset NAME        keep the settings as a preset; the pass codes only
                             together with --with-codes
   --list-presets, --delete-preset NAME   do this alone, for -d or --ppd
+  --help                    print this text
 Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel.
 )";
 
@@ -72,14 +74,13 @@ class CommandLine {
   void addNamedTask(const std::string& name, Task task, std::optional<QString>* value);
   void addServer();
   void addJob();
-  void addJobOption(const std::string& name, const char* jobOption);
+  CLI::Option* addJobOption(const std::string& name, const char* jobOption);
   void addHold();
   void addField(std::size_t field);
   void addMemory(const char* name, bool remember);
   void addPresets();
   // What is wrong with the arguments, null for nothing.
   QString faultOfAll() const;
-  QString faultOfUnknown() const;
   QString faultOfTask() const;
   QString faultOfQueue() const;
 
@@ -113,6 +114,7 @@ CommandLine::CommandLine(Options& options) : m_options(options) {
   addMemory("--remember", true);
   addMemory("--forget", false);
   addPresets();
+  refuseFlagValues(m_app);
 }
 
 CLI::Option* CommandLine::addText(const std::string& name, std::optional<QString>* value) {
@@ -146,6 +148,7 @@ void CommandLine::addServer() {
   addName("-U", &m_options.server.user);
   m_app.add_flag("-E", m_options.server.encrypt);
   const auto setLimit = [this](double seconds) {
+    if (std::isnan(seconds)) throw CLI::ValidationError("--timeout", "is no number");
     m_options.server.limit = std::chrono::milliseconds(static_cast<int>(seconds * 1000));
   };
   m_app.add_option_function<double>("--timeout", setLimit)->check(CLI::Range(0.1, 3600.0));
@@ -157,8 +160,8 @@ void CommandLine::addServer() {
   m_app.add_flag("--job-handling", m_options.jobHandlingOnly);
 }
 
-void CommandLine::addJobOption(const std::string& name, const char* jobOption) {
-  m_app.add_option_function<std::string>(name, [this, jobOption](const std::string& value) {
+CLI::Option* CommandLine::addJobOption(const std::string& name, const char* jobOption) {
+  return m_app.add_option_function<std::string>(name, [this, jobOption](const std::string& value) {
     m_options.jobOptions.insert(QLatin1String(jobOption), QString::fromStdString(value));
   });
 }
@@ -171,20 +174,8 @@ void CommandLine::addJob() {
   m_app.add_option_function<std::vector<std::string>>("-o", addOptions)->allow_extra_args(false);
   addJobOption("-P", "page-ranges");
   addJobOption("-H", "job-hold-until");
-  m_app
-      .add_option_function<int>("-n",
-                                [this](int copies) {
-                                  m_options.jobOptions.insert(QStringLiteral("copies"),
-                                                              QString::number(copies));
-                                })
-      ->check(CLI::Range(1, 9999));
-  m_app
-      .add_option_function<int>("-q",
-                                [this](int priority) {
-                                  m_options.jobOptions.insert(QStringLiteral("job-priority"),
-                                                              QString::number(priority));
-                                })
-      ->check(CLI::Range(1, 100));
+  addJobOption("-n", "copies")->transform(wholeNumber(1, 9999));
+  addJobOption("-q", "job-priority")->transform(wholeNumber(1, 100));
   m_app.add_flag("-m", m_options.mail);
   // Files are always sent as they are now, which is what -c asks for.
   m_app.add_flag("-c");
@@ -221,7 +212,7 @@ void CommandLine::addField(std::size_t field) {
   if (!row.isSecret()) return;
   SecretSource* secret = &m_options.secrets.at(field);
   ways.push_back(addName("--" + name + "-file", &secret->file));
-  ways.push_back(m_app.add_flag("--ask-" + name, secret->ask)->disable_flag_override());
+  ways.push_back(m_app.add_flag("--ask-" + name, secret->ask));
   for (auto way = ways.begin(); way != ways.end(); ++way) {
     std::for_each(ways.begin(), way, [&](CLI::Option* other) { (*way)->excludes(other); });
   }
@@ -273,23 +264,13 @@ std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
 }
 
 QString CommandLine::faultOfAll() const {
-  if (QString fault = faultOfUnknown(); !fault.isNull()) return fault;
+  if (const std::string fault = faultOfUnknown(m_app); !fault.empty()) return QString::fromStdString(fault);
   if (!m_contradiction.isNull()) return m_contradiction;
   if (QString fault = faultOfTask(); !fault.isNull()) return fault;
   if (QString fault = faultOfQueue(); !fault.isNull()) return fault;
   const auto fromInput = [](const SecretSource& source) { return source.file == QLatin1String("-"); };
   if (std::ranges::count_if(m_options.secrets, fromInput) < 2) return {};
   return QStringLiteral("only one entry can come from standard input");
-}
-
-// An option that is not known by name, an argument too many not at all: what stands there may be a secret.
-QString CommandLine::faultOfUnknown() const {
-  const std::vector<std::string> unknown = m_app.remaining();
-  if (unknown.empty()) return {};
-  const std::string& option = unknown.front();
-  const std::string name =
-      option.starts_with("--") ? option.substr(0, option.find('=')) : option.substr(0, 2);
-  return QStringLiteral("%1 is no option").arg(QString::fromStdString(name));
 }
 
 QString CommandLine::faultOfTask() const {

@@ -6,54 +6,37 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QStringDecoder>
-#include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 
+#include "hosts/cli/held_signals.h"
 #include "platform/secret.h"
 
 namespace kesto {
 namespace {
 
-// A line that grows beyond this leaves copies of itself behind.
-constexpr qsizetype usualLine = 1024;
-
-volatile std::sig_atomic_t caughtSignal = 0;
-
-void rememberSignal(int signal) {
-  caughtSignal = signal;
-}
+// More than any entry takes. A line that grew beyond what is reserved for it would leave copies behind.
+constexpr qsizetype longestLine = 1024;
 
 // While it lives, the terminal does not show what is typed. A signal that would end the program ends the
 // reading, and is sent again once the terminal is as it was.
 class Unseen {
  public:
   explicit Unseen(int terminal) : m_terminal(terminal) {
-    caughtSignal = 0;
-    struct sigaction action {};
-    action.sa_handler = rememberSignal;
-    for (std::size_t i = 0; i < signals.size(); ++i)
-      ::sigaction(signals.at(i), &action, &m_before.at(i));
     ::tcgetattr(m_terminal, &m_shown);
     termios hidden = m_shown;
     hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
     ::tcsetattr(m_terminal, TCSAFLUSH, &hidden);
   }
-  ~Unseen() {
-    ::tcsetattr(m_terminal, TCSAFLUSH, &m_shown);
-    for (std::size_t i = 0; i < signals.size(); ++i)
-      ::sigaction(signals.at(i), &m_before.at(i), nullptr);
-    if (caughtSignal != 0) ::raise(caughtSignal);
-  }
+  ~Unseen() { ::tcsetattr(m_terminal, TCSAFLUSH, &m_shown); }
   Unseen(const Unseen&) = delete;
   Unseen& operator=(const Unseen&) = delete;
+  bool isInterrupted() const { return m_signals.hasCome(); }
 
  private:
-  static constexpr std::array signals{SIGINT, SIGTERM, SIGHUP, SIGQUIT};
+  HeldSignals m_signals;
   int m_terminal;
   termios m_shown{};
-  std::array<struct sigaction, signals.size()> m_before{};
 };
 
 class Descriptor {
@@ -78,9 +61,14 @@ void show(int terminal, const QByteArray& text) {
 Outcome readLine(int descriptor, QString* secret) {
   QByteArray line;
   const WipedAtEnd wiped(line);
-  line.reserve(usualLine);
-  for (char byte = 0; ::read(descriptor, &byte, 1) == 1 && byte != '\n';)
+  line.reserve(longestLine);
+  char byte = 0;
+  ssize_t count = 0;
+  while ((count = ::read(descriptor, &byte, 1)) == 1 && byte != '\n') {
+    if (line.size() == longestLine) return Outcome::failed(QStringLiteral("the line is too long"));
     line += byte;
+  }
+  if (count < 0) return Outcome::failed(QString::fromLocal8Bit(std::strerror(errno)));
   if (line.endsWith('\r')) line.chop(1);
   QStringDecoder decoder(QStringDecoder::Utf8);
   *secret = decoder.decode(line);
@@ -105,7 +93,7 @@ Outcome askSecret(const QString& prompt, QString* secret) {
   show(terminal.number(), prompt.toLocal8Bit() + ": ");
   Outcome read = readLine(terminal.number(), secret);
   show(terminal.number(), "\n");
-  return caughtSignal == 0 ? read : Outcome::failed(QStringLiteral("interrupted"));
+  return unseen.isInterrupted() ? Outcome::failed(QStringLiteral("interrupted")) : read;
 }
 
 }  // namespace kesto

@@ -6,6 +6,8 @@
 #include <QtCore/QSysInfo>
 #include <iostream>
 
+#include "hosts/cli/held_signals.h"
+
 namespace kesto {
 namespace {
 
@@ -58,13 +60,16 @@ Outcome submit(PrintServer& server, cups_dest_t& destination, const Options& opt
   const PrintJob job = jobOf(options, settings);
   int id = 0;
   {
+    // Ctrl-C cancels a job that is not whole; a second one does not wait for that.
+    HeldSignals signals(SA_RESETHAND);
     ProgressLine line;
     const bool isWatched = ::isatty(STDERR_FILENO) != 0 && !options.silent;
     const auto progress = [&](int document, qint64 sent, qint64 total) {
       if (isWatched) line.show(document, sent, total);
-      return true;
+      return !signals.hasCome();
     };
     if (Outcome sent = sendJob(server, destination, job, progress, &id); !sent) return sent;
+    signals.drop();
   }
   if (options.silent) return Outcome::done();
   if (options.json) {

@@ -1,41 +1,47 @@
 // A platform whose preferences can be kept from changing.
 #pragma once
 
+#include <map>
+
 #include "platform/panel.h"
 #include "platform/system_platform.h"
 #include "platform/user_defaults.h"
 
 namespace kesto {
 
-/// The operating system's services, but for a gate before the preferences: while it is closed, writing
-/// succeeds and changes nothing. A panel can so be asked whether a job may go out before it is known that it
-/// does.
+/// The operating system's services, but for a gate before the preferences. While it is closed, writing
+/// succeeds and changes nothing outside; what was written is read back. A panel can so be asked whether a job
+/// may go out before it is known that it does.
 class GatedPlatform : public SystemPlatform {
  public:
   using SystemPlatform::SystemPlatform;
 
-  /// Has a panel write the job's print settings and say whether the job may go out. Nothing is remembered:
-  /// the gate is closed meanwhile.
-  bool confirmJob(PrintDialogPanel& panel) {
-    panel.saveValuesAndReturnError(nullptr);
-    m_gate.isOpen = false;
-    const bool mayPrint = panel.shouldPrint();
-    m_gate.isOpen = true;
-    return mayPrint;
-  }
+  /// It is open at first.
+  void close() { m_gate.writes = Writes::KeptAside; }
+  /// What was kept aside is not written by this, but goes on being read until its domain is written.
+  void open() { m_gate.writes = Writes::Through; }
+
+  /// Has a panel write the job's print settings and say whether the job may go out. Nothing is remembered,
+  /// not even aside.
+  bool confirmJob(PrintDialogPanel& panel);
+  /// Has a panel remember the entries of a job that it has confirmed. Fails when the open gate could not be
+  /// passed.
+  Outcome rememberEntries(PrintDialogPanel& panel);
+
   UserDefaults& userDefaults() override { return m_gate; }
 
  private:
+  enum class Writes { Through, KeptAside, Dropped };
+
   struct Gate : UserDefaults {
     explicit Gate(UserDefaults& gated) : defaults(gated) {}
-    Domain persistentDomainForName(const QString& name) override {
-      return defaults.persistentDomainForName(name);
-    }
-    Outcome setPersistentDomain(const QJsonObject& values, const QString& name) override {
-      return isOpen ? defaults.setPersistentDomain(values, name) : Outcome::done();
-    }
+    Domain persistentDomainForName(const QString& name) override;
+    Outcome setPersistentDomain(const QJsonObject& values, const QString& name) override;
+
     UserDefaults& defaults;
-    bool isOpen = true;
+    Writes writes = Writes::Through;
+    std::map<QString, QJsonObject> aside;
+    Outcome lastFault = Outcome::done();  // of reading and writing
   };
   Gate m_gate{SystemPlatform::userDefaults()};
 };

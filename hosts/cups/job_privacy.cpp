@@ -2,27 +2,31 @@
 
 #include <array>
 
+#include "platform/print_settings.h"
+
 namespace kesto {
 namespace {
 
 constexpr char stranger[] = "kesto-check";
 
 struct OptionRow {
-  const char* key;   // of the print settings, behind their common prefix; the whole name where it is none
+  const char* key;   // of the print settings, behind their common prefix
   const char* word;  // what it tells
+
+  QByteArray name() const { return QByteArray(printSettingsPrefix) + key; }
 };
 
 // One option of each kind that tells something.
 constexpr std::array options{
-    OptionRow{"kesto.print.PrintSettings.jobSuspendKey", "the digest of the pass code"},
-    OptionRow{"kesto.print.PrintSettings.jobSuspend2Key", "the pass code"},
-    OptionRow{"kesto.print.PrintSettings.spoolTime", "the spool time"},
-    OptionRow{"kesto.print.PrintSettings.folderPassword2", "the folder's pass code"},
-    OptionRow{"kesto.print.PrintSettings.folderPath", "the folder"},
-    OptionRow{"kesto.print.PrintSettings.userNumber", "the user number"},
-    OptionRow{"kesto.print.PrintSettings.accountNumber", "the account number"},
-    OptionRow{"kesto.print.PrintSettings.userName", "the user name"},
-    OptionRow{"kesto.print.PrintSettings.jobName", "the job's name"},
+    OptionRow{"jobSuspendKey", "the digest of the pass code"},
+    OptionRow{"jobSuspend2Key", "the pass code"},
+    OptionRow{"spoolTime", "the spool time"},
+    OptionRow{"folderPassword2", "the folder's pass code"},
+    OptionRow{"folderPath", "the folder"},
+    OptionRow{"userNumber", "the user number"},
+    OptionRow{"accountNumber", "the account number"},
+    OptionRow{"userName", "the user name"},
+    OptionRow{"jobName", "the job's name"},
 };
 
 // A request about a queue, and about one of its jobs when that is not 0, as `user`.
@@ -41,7 +45,7 @@ Outcome createJob(PrintServer& server, const QString& queue, int* job) {
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, stranger);
   ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-hold-until", nullptr, "indefinite");
   for (const OptionRow& row : options)
-    ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_NAME, row.key, nullptr, "0");
+    ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_NAME, row.name().constData(), nullptr, "0");
   const Ipp reply(cupsDoRequest(server.http(), request.release(), "/"));
   ipp_attribute_t* id = ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER);
   if (id == nullptr) return lastCupsError(QStringLiteral("the queue %1 takes no job").arg(queue));
@@ -61,9 +65,11 @@ Outcome cancelJob(PrintServer& server, const QString& queue, int job) {
 Outcome lookAtJob(PrintServer& server, const QString& queue, int job, QStringList* shown) {
   const Ipp request = requestFor(IPP_OP_GET_JOB_ATTRIBUTES, queue, job, stranger);
   Ipp reply;
-  if (Outcome asked = server.request(request.get(), &reply); !asked) return asked;
+  // Only a server that forbids it has shown nothing; one that could not answer would have.
+  Outcome asked = server.ask(request.get(), &reply, IPP_STATUS_ERROR_FORBIDDEN);
+  if (!asked) return Outcome::failed(QStringLiteral("what other users see is not told: ") + asked.reason());
   for (const OptionRow& row : options) {
-    if (ippFindAttribute(reply.get(), row.key, IPP_TAG_ZERO) != nullptr)
+    if (ippFindAttribute(reply.get(), row.name().constData(), IPP_TAG_ZERO) != nullptr)
       shown->append(QString::fromLatin1(row.word));
   }
   return Outcome::done();

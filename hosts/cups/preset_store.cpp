@@ -15,7 +15,7 @@
 namespace kesto {
 namespace {
 
-constexpr QLatin1String prefix("kesto.print.PrintSettings.");
+constexpr QLatin1String prefix(printSettingsPrefix);
 constexpr QLatin1String presetsKey("Presets");
 constexpr QLatin1String modelKey("model");
 constexpr QLatin1String settingsKey("settings");
@@ -146,11 +146,22 @@ Outcome PresetStore::load(const QString& name, const QString& model, Preset* pre
   return Outcome::done();
 }
 
+// Reads them to write this one.
+Outcome PresetStore::readFor(const QString& name, QJsonObject* domain, QJsonObject* presets) const {
+  if (Outcome found = read(domain, presets); !found) return found;
+  return presets->contains(name) && !presetOf(presets->value(name)) ? damagedPreset(name) : Outcome::done();
+}
+
+Outcome PresetStore::check(const QString& name) const {
+  QJsonObject domain;
+  QJsonObject presets;
+  return readFor(name, &domain, &presets);
+}
+
 Outcome PresetStore::save(const QString& name, const Preset& preset) {
   QJsonObject domain;
   QJsonObject presets;
-  if (Outcome found = read(&domain, &presets); !found) return found;
-  if (presets.contains(name) && !presetOf(presets.value(name))) return damagedPreset(name);
+  if (Outcome found = readFor(name, &domain, &presets); !found) return found;
   QJsonObject settings;
   for (auto it = preset.settings.begin(); it != preset.settings.end(); ++it)
     settings.insert(it.key(), it.value());

@@ -40,13 +40,16 @@ class PresetStore {
   /// Fails when there is no such preset (the reason lists those that there are), when it is damaged or made
   /// for another model.
   Outcome load(const QString& name, const QString& model, Preset* preset) const;
-  /// Keeps or replaces a preset. One that is damaged is not replaced.
+  /// Whether a preset of this name can be kept, as things are: one that is damaged is not replaced.
+  Outcome check(const QString& name) const;
+  /// Keeps or replaces a preset.
   Outcome save(const QString& name, const Preset& preset);
   /// Fails when there is no such preset.
   Outcome remove(const QString& name);
 
  private:
   Outcome read(QJsonObject* domain, QJsonObject* presets) const;
+  Outcome readFor(const QString& name, QJsonObject* domain, QJsonObject* presets) const;
   Outcome write(QJsonObject domain, const QJsonObject& presets);
 
   UserDefaults& m_defaults;

@@ -1,9 +1,12 @@
 #include "hosts/cups/print_job.h"
 
+#include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <cerrno>
 
 #include "platform/text_encoding.h"
 
@@ -12,6 +15,8 @@ namespace {
 
 constexpr qsizetype blockSize = 65536;
 constexpr qsizetype longestName = 255;
+// How often it is asked whether to go on while nobody writes the document.
+constexpr int questionMs = 200;
 
 struct FreeDestInfo {
   void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
@@ -53,29 +58,49 @@ struct Document {
   qint64 size = -1;
 };
 
-Outcome openDocument(const QString& path, Document* document) {
+// Waits for a writer where the file is a pipe with a name; a signal ends the wait when it is to be given up.
+int openForReading(const QString& path, const std::function<bool()>& goesOn) {
+  int descriptor = -1;
+  do
+    descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+  while (descriptor < 0 && errno == EINTR && goesOn());
+  return descriptor;
+}
+
+Outcome openDocument(const QString& path, const std::function<bool()>& goesOn, Document* document) {
   document->file = std::make_unique<QFile>();
   QFile& file = *document->file;
   if (path == u"-") {
     document->name = QStringLiteral("(stdin)");
-    // Unbuffered: what was read of it before ends where a line did.
+    // What was read of it before ends where a line did.
     if (file.open(STDIN_FILENO, QIODevice::ReadOnly)) return Outcome::done();
     return Outcome::failed(QStringLiteral("standard input cannot be read"));
   }
   document->name = QFileInfo(path).fileName();
   if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": is a folder"));
-  file.setFileName(path);
-  if (!file.open(QIODevice::ReadOnly))
-    return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
+  const int descriptor = openForReading(path, goesOn);
+  if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle))
+    return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
   if (!file.isSequential()) document->size = file.size();
   return Outcome::done();
 }
 
-Outcome openDocuments(const QStringList& paths, std::vector<Document>* documents) {
+Outcome openDocuments(const QStringList& paths, const std::function<bool()>& goesOn,
+                      std::vector<Document>* documents) {
   for (const QString& path : paths.isEmpty() ? QStringList{QStringLiteral("-")} : paths) {
-    if (Outcome opened = openDocument(path, &documents->emplace_back()); !opened) return opened;
+    if (Outcome opened = openDocument(path, goesOn, &documents->emplace_back()); !opened) return opened;
   }
   return Outcome::done();
+}
+
+// Reads what there is, past Qt, whose reading waits until the block is full. Negative with EINTR while there
+// is nothing yet.
+ssize_t readSome(int descriptor, QByteArray* block) {
+  pollfd input{.fd = descriptor, .events = POLLIN, .revents = 0};
+  if (::poll(&input, 1, questionMs) > 0)
+    return ::read(descriptor, block->data(), static_cast<std::size_t>(block->size()));
+  errno = EINTR;
+  return -1;
 }
 
 // A job that is created and not yet whole; cancelled unless it is kept.
@@ -106,17 +131,18 @@ class OpenJob {
     }
     qint64 sent = 0;
     QByteArray block(blockSize, Qt::Uninitialized);
-    qint64 count = 0;
-    while ((count = document.file->read(block.data(), blockSize)) > 0) {
+    for (;;) {
+      if (!progress(sent)) return Outcome::failed(QStringLiteral("the job was stopped"));
+      const ssize_t count = readSome(document.file->handle(), &block);
+      if (count < 0 && errno == EINTR) continue;
+      if (count < 0) return Outcome::failed(document.name + QStringLiteral(": ") + qt_error_string(errno));
+      if (count == 0) break;
       if (cupsWriteRequestData(m_server.http(), block.constData(), static_cast<std::size_t>(count)) !=
           HTTP_STATUS_CONTINUE) {
         return lastCupsError(attempt);
       }
       sent += count;
-      if (!progress(sent)) return Outcome::failed(QStringLiteral("the job was stopped"));
     }
-    if (count < 0)
-      return Outcome::failed(document.name + QStringLiteral(": ") + document.file->errorString());
     const ipp_status_t status = cupsFinishDestDocument(m_server.http(), &m_destination, m_info);
     // Without an answer libcups leaves the status of an earlier one.
     if (status > IPP_STATUS_OK_EVENTS_COMPLETE || httpGetStatus(m_server.http()) != HTTP_STATUS_OK) {
@@ -166,7 +192,8 @@ Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& j
                 const UploadProgress& progress, int* jobId) {
   *jobId = 0;
   std::vector<Document> documents;
-  if (Outcome opened = openDocuments(job.files, &documents); !opened) return opened;
+  const auto goesOn = [&] { return progress(1, 0, -1); };
+  if (Outcome opened = openDocuments(job.files, goesOn, &documents); !opened) return opened;
   const DestInfo info(cupsCopyDestInfo(server.http(), &destination));
   if (!info)
     return lastCupsError(

@@ -20,11 +20,12 @@ struct PrintJob {
 QMap<QString, QString> parseJobOptions(const QString& text);
 
 /// Told of each part of a document that has gone out: its number from 1 on, the bytes so far and in all (-1
-/// when not known). Answers whether to go on.
+/// when not known), and asked again while nobody writes the document. Answers whether to go on.
 using UploadProgress = std::function<bool(int document, qint64 sent, qint64 total)>;
 
-/// Opens every file, creates the job, sends its documents; `*jobId` is its number. On failure nothing of the
-/// job stays with a server that still answers, and the outcome carries the reason.
+/// Opens every file, creates the job, sends its documents; `*jobId` is its number. On failure the outcome
+/// carries the reason, and nothing of the job stays with a server that still answers: but for an empty job
+/// where the server made one and yet told of an error, since libcups then gives no number to cancel it by.
 Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& job,
                 const UploadProgress& progress, int* jobId);
 

@@ -122,8 +122,10 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
   destination->reset(cupsGetNamedDest(http(), name.isNull() ? nullptr : queue.constData(),
                                       instance.isEmpty() ? nullptr : instance.constData()));
   if (*destination) return Outcome::done();
-  return name.isNull() ? Outcome::failed(QStringLiteral("there is no default queue; choose one with -d"))
-                       : lastCupsError(QStringLiteral("the queue %1 cannot be had").arg(name));
+  return name.isNull()
+             ? Outcome::failed(QStringLiteral("there is no default queue, or LPDEST or PRINTER names none; "
+                                              "choose one with -d"))
+             : lastCupsError(QStringLiteral("the queue %1 cannot be had").arg(name));
 }
 
 // libcups looks for a queue on connections of its own as well, which wait for a minute: a server that is

@@ -1,4 +1,4 @@
-// A connection to a print server, on which no wait is longer than its limit.
+// A connection to a print server, on which no wait is longer than its limit and a second.
 #pragma once
 
 #include <cups/cups.h>
@@ -39,8 +39,8 @@ struct QueueSummary {
   bool isAccepting = true;
 };
 
-/// One print server. Every operation ends within the time limit of each of its waits; outcomes carry
-/// libcups's text.
+/// One print server. Every operation ends within the time limit of each of its waits, and a second more, by
+/// which libcups counts; outcomes carry libcups's text.
 class PrintServer {
  public:
   /// Connects to `address` ("host" or "host:port"), or to the server that CUPS_SERVER and the configuration

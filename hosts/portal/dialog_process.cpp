@@ -98,7 +98,12 @@ Outcome DialogProcess::start(const QString& program) {
     return Outcome::failed(program + QStringLiteral(": ") + qt_error_string(error));
   // The process is not waited for before its descriptor is there, so that the number is still its own.
   m_processDescriptor.reset(::pidfd_open(process, 0));
-  if (!m_processDescriptor) return Outcome::failed(program + QStringLiteral(": ") + qt_error_string(errno));
+  if (!m_processDescriptor) {
+    Outcome failed = Outcome::failed(program + QStringLiteral(": ") + qt_error_string(errno));
+    ::kill(process, SIGTERM);
+    ::waitpid(process, nullptr, 0);
+    return failed;
+  }
   m_channel = std::make_unique<PrintChannel>(std::move(ours));
   connect(m_channel.get(), &PrintChannel::received, this,
           [this](const QJsonObject& message) { Q_EMIT received(message); });

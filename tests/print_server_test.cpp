@@ -1,0 +1,253 @@
+// kesto-lp and its print server: what is refused, broken off, kept, checked and listed.
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QEventLoop>
+#include <QtNetwork/QTcpServer>
+#include <QtNetwork/QTcpSocket>
+
+#include "print_program.h"
+
+namespace kesto::test {
+namespace {
+
+TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
+  addQueue(u"Print_System"_s, "*ARKestoPrintSystem: \"False\"", "*ARKestoPrintSystem: \"True\"");
+  addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
+  addQueue(u"Raw"_s, {}, {});
+  ofPrintSystem(u"/usr/sbin/cupsreject Raw"_s);
+  const QString missing = u"The printer or class does not exist."_s;
+  const std::tuple<QString, int, QString> cases[] = {
+      {u"-d Print_System"_s, 3, u"Job Handling: the login name is missing; give --login"_s},
+      {u"-d Print_System --user-number {}"_s, 3,
+       u"Job Handling: the user number is missing; give --user-number"_s},
+      {u"--pin 1"_s, 3, u"--pin needs --hold"_s},
+      {u"--hold only --pin 123456789"_s, 3, u"--pin takes at most 8 digits"_s},
+      {u"--hold only --folder-pin 1"_s, 3,
+       u"--folder-pin needs --folder NAME of a folder with a pass code, or a custom folder"_s},
+      {u"--preset none"_s, 1, u"there is no preset \"none\"; this queue has none"_s},
+      {u"/no/file"_s, 1, u"/no/file: No such file or directory"_s},
+      {u"/dev"_s, 1, u"/dev: is a folder"_s},
+      {u"-d Nowhere"_s, 1, u"the queue Nowhere cannot be had: "_s + missing},
+      {u"-d \"No where\" --hold only"_s, 1, u"the queue No where cannot be had: "_s + missing},
+      {u"-d Plain --hold only"_s, 1, u"the queue Plain does not offer Job Handling"_s},
+      {u"-d Raw --pin-file -"_s, 1, u"the queue Raw does not offer Job Handling"_s},
+  };
+  for (const auto& [arguments, code, message] : cases) {
+    const QString memory = u" DOCUMENT --job-name x --remember job-name --save-preset p"_s;
+    expectRefused(arguments + memory, code, message);
+  }
+  expectRefused(u"-d Raw DOCUMENT"_s, 1,
+                u"the job is not taken: Destination \"Raw\" is not accepting jobs."_s);
+  EXPECT_EQ(schedulersJobs(), QString());
+  for (const auto& queue : {u"-d Office_MFP "_s, u"-d Print_System --login x "_s}) {
+    EXPECT_EQ(lp(queue + u"--dry-run"_s).values(u"holdButton=0"_s), u"holdButton=0"_s);
+    EXPECT_EQ(lp(queue.section(u"--"_s, 0, 0) + u"--list-presets"_s).out, QString());
+  }
+
+  EXPECT_EQ(lp(u"-d Plain -t letter DOCUMENT"_s).out, u"request id is Plain-1 (1 file(s))\n"_s);
+  ofPrintSystem(u"/usr/sbin/lpadmin -x Office_MFP"_s);
+  expectRefused(u"DOCUMENT"_s, 1,
+                u"there is no default queue, or LPDEST or PRINTER names none; choose one with -d"_s);
+}
+
+TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
+  const QString job = u"--hold only --pin 1234 --remember pin --save-preset p DOCUMENT -"_s;
+  const auto kept = [this] {
+    return lp(u"--dry-run --hold only"_s).values(u"holdButton jobSuspend2Key"_s) + u' ' +
+           lp(u"-d Office_MFP --list-presets"_s).out.trimmed();
+  };
+  const QString nothing = u"holdButton=0 jobSuspend2Key "_s;
+  const int scheduler = bytesOf(m_folder.path(u"run/cups/state/cupsd.pid"_s)).trimmed().toInt();
+  for (const bool isSilent : {true, false}) {  // or it is gone
+    const auto unfinished = process(command(u"--timeout 0.5 "_s + job));
+    unfinished->start();
+    waitUntilListed(isSilent ? 1 : 2);
+    EXPECT_EQ(kept(), nothing);
+    if (isSilent) {
+      ::kill(scheduler, SIGSTOP);
+    } else {
+      m_printer->signal(SIGTERM);
+      EXPECT_EQ(m_printer->code(), 0);
+    }
+    unfinished->write("too late");
+    unfinished->closeWriteChannel();
+    const LpRun broken = finish(*unfinished);
+    EXPECT_EQ(broken.code, 1) << isSilent;
+    EXPECT_TRUE(broken.err.startsWith(u"kesto-lp: (stdin) is not taken: "_s)) << broken.err;
+    EXPECT_EQ(broken.out, QString()) << isSilent;
+    if (isSilent) ::kill(scheduler, SIGCONT);
+  }
+
+  const QString server = m_printer->place(u"server"_s);
+  expectRefused(job, 1, u"the print server %1 does not answer: Host is down"_s.arg(server));
+  startPrinter();
+  EXPECT_EQ(kept(), nothing);
+  expectPrinted(job);
+  EXPECT_EQ(kept(), u"holdButton=1 jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E p"_s);
+}
+
+TEST_F(PrintTest, WhatCannotBeKeptOfAJobIsTold) {
+  ASSERT_TRUE(preferences().setPersistentDomain({{u"Presets"_s, u"x"_s}}, u"kesto.presets.Office_MFP"_s));
+  expectRefused(u"DOCUMENT --save-preset p"_s, 1,
+                u"the presets of this queue are damaged and left as they are"_s);
+  EXPECT_EQ(schedulersJobs(), QString());
+  forgetAll();
+  ASSERT_TRUE(QFile::link(u"/dev/null"_s, m_home.filePath(u"kesto"_s)));
+  const QString why = u"the folder %1/kesto cannot be made private\n"_s.arg(m_home.path());
+  const std::tuple<QString, int, QString> cases[] = {
+      {u""_s, 0, u"the entries are not remembered: "_s},
+      {u"--remember job-name"_s, 1, u"the job is sent; the entries are not remembered: "_s},
+  };
+  for (const auto& [arguments, code, message] : cases) {
+    const LpRun sent = lp(u"DOCUMENT "_s + arguments);
+    EXPECT_EQ(sent.code, code) << arguments;
+    EXPECT_EQ(sent.err, u"kesto-lp: "_s + message + why);
+    EXPECT_TRUE(sent.out.startsWith(u"request id is "_s)) << sent.out;
+  }
+}
+
+TEST_F(PrintTest, ASignalCancelsAJobThatIsNotWhole) {
+  const std::pair<int, bool> cases[] = {{SIGINT, false}, {SIGTERM, false}, {SIGHUP, true}};
+  int job = 0;
+  for (const auto& [signal, isIgnored] : cases) {
+    const auto unfinished = process(command(u"DOCUMENT -"_s));
+    unfinished->setChildProcessModifier(
+        [signal = signal, isIgnored = isIgnored] { ::signal(signal, isIgnored ? SIG_IGN : SIG_DFL); });
+    unfinished->start();
+    waitUntilListed(++job);
+    ::kill(static_cast<pid_t>(unfinished->processId()), signal);
+    unfinished->write("the end");
+    if (isIgnored) unfinished->closeWriteChannel();
+    ASSERT_TRUE(unfinished->waitForFinished());
+    EXPECT_EQ(unfinished->exitStatus(), isIgnored ? QProcess::NormalExit : QProcess::CrashExit) << signal;
+    EXPECT_TRUE(isIgnored || ofPrintSystem(u"lpstat -o"_s).isEmpty()) << signal;
+  }
+  waitForJob(job, 2);
+  EXPECT_EQ(m_printer->printouts(), QStringList({u"job-3-1"_s, u"job-3-2"_s}));
+}
+
+TEST_F(PrintTest, WhatAnotherUserSeesOfAJob) {
+  const auto seenBy = [this](const char* user) {
+    const Ipp reply = attributesOfFirstJob(user);
+    QStringList settings;
+    for (auto* each = ippFirstAttribute(reply.get()); each != nullptr; each = ippNextAttribute(reply.get()))
+      settings += QString::fromUtf8(ippGetName(each));
+    return settings.filter(QLatin1String(printSettingsPrefix)).size();
+  };
+  const QString sees = u"Office_MFP: other users see of a job the digest of the pass code, the pass code, "_s;
+  for (const bool isPrivate : {true, false}) {
+    if (!isPrivate) changeConfiguration("/AuthType/d; /Require user @SYSTEM$/d; /JobPrivate/d");
+    if (!isPrivate) startPrinter();
+    ofPrintSystem(u"/usr/sbin/cupsdisable Office_MFP"_s);
+    expectPrinted(u"--hold only --pin 1234 --user-number 42 DOCUMENT"_s);
+    EXPECT_GT(seenBy("anna"), 5);
+    EXPECT_EQ(seenBy("berta") > 0, !isPrivate);
+    const LpRun check = lp(u"--check Office_MFP"_s);
+    EXPECT_EQ(check.code, isPrivate ? 0 : 1) << check.err;
+    EXPECT_TRUE(
+        check.out.startsWith(isPrivate ? u"Office_MFP: other users see none of a job's options.\n"_s : sees))
+        << check.out;
+    EXPECT_EQ(check.out.contains(
+                  u"in <Policy demo>:\n  JobPrivateAccess @OWNER @SYSTEM\n  JobPrivateValues all\n"_s),
+              !isPrivate)
+        << check.out;
+    const QJsonObject json =
+        QJsonDocument::fromJson(lp(u"--check Office_MFP --json"_s).out.toUtf8()).object();
+    EXPECT_EQ(json[u"shown"].toArray().isEmpty(), isPrivate);
+    EXPECT_EQ(json[u"policy"], u"demo"_s);
+    EXPECT_EQ(json[u"closedBy"].toArray().size(), 2);
+    EXPECT_EQ(schedulersJobs().count(u"Office_MFP-"_s), 1) << "the job of the check stays";
+  }
+  expectRefused(u"--check Nowhere"_s, 1,
+                u"the queue Nowhere takes no job: The printer or class does not exist."_s);
+}
+
+TEST_F(PrintTest, ListsQueuesAndFolders) {
+  addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
+  addQueue(u"A_Raw"_s, {}, {});
+  ofPrintSystem(u"/usr/sbin/cupsreject Plain"_s);
+  const QString address = ofPrintSystem(u"lpstat -v Office_MFP"_s).trimmed().section(u' ', -1);
+  const QString office = u"Office_MFP\tidle\t%1\n"_s.arg(address);
+  EXPECT_EQ(lp(u"--list"_s).out, u"A_Raw\tidle\tsocket://127.0.0.1:9\n"_s + office +
+                                     u"Plain\tidle, takes no jobs\tsocket://127.0.0.1:9\n"_s);
+  EXPECT_EQ(lp(u"--list --job-handling"_s).out, office);
+  const auto json = [this](const QString& arguments) {
+    return QJsonDocument::fromJson(lp(arguments).out.toUtf8()).array();
+  };
+  EXPECT_EQ(json(u"--list --json"_s).size(), 3);
+  EXPECT_EQ(json(u"--list --json"_s)[2][u"accepting"], false);
+  const char described[] = R"~([{"accepting":true,"address":"%1","info":"Kesto VQ-250n (demo)",)~"
+                           R"("queue":"Office_MFP","state":"idle"}])";
+  EXPECT_EQ(QJsonDocument(json(u"--list --json --job-handling"_s)).toJson(QJsonDocument::Compact),
+            QString::fromLatin1(described).arg(address).toUtf8());
+
+  const auto folderOf = [this](const QString& name) {
+    return lp(u"--dry-run --summary --hold only --folder "_s + name).out.section(u'\n', 0, 0);
+  };
+  EXPECT_EQ(folderOf(u"invoices"_s), u"Folder: Main Folder"_s) << "it is not known yet";
+  const QString folders = u"--folders --address "_s + m_printer->place(u"folders"_s);
+  EXPECT_EQ(lp(folders).out, u"Invoices\nPlans & <Papers>\tlocked\n"_s);
+  EXPECT_EQ(folderOf(u"invoices"_s), u"Folder: Invoices"_s);
+  EXPECT_EQ(json(folders + u" --json"_s)[1][u"name"], u"Plans & <Papers>"_s);
+  EXPECT_EQ(json(folders + u" --json"_s)[1][u"password"], true);
+  const LpRun unreached = lp(u"--folders --address 127.0.0.1:1"_s);
+  EXPECT_EQ(unreached.code, 1);
+  EXPECT_EQ(unreached.err, u"Could not retrieve Folder Names.\n"_s);
+  EXPECT_EQ(unreached.out, QString()) << "the earlier list";
+  expectRefused(u"--folders -d Plain"_s, 1, u"the queue Plain does not offer Job Handling"_s);
+}
+
+// A server that takes connections and never answers, then an address where there is none.
+TEST_F(LpTest, GivesUpOnASilentServer) {
+  QTcpServer server;
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  const QString address = u"127.0.0.1:%1"_s.arg(server.serverPort());
+  for (const QString& reason : {u" does not answer: Connection timed out\n"_s,
+                                u" %1 does not answer: Host is down\n"_s.arg(address)}) {
+    for (const auto& arguments :
+         {u"--list"_s, u"-d q -"_s, u"-"_s, u"-d q --dry-run"_s, u"-d q --folders"_s}) {
+      QElapsedTimer clock;
+      clock.start();
+      const LpRun ended = run(u"--timeout 0.3 -h %1 "_s.arg(address) + arguments);
+      EXPECT_LT(clock.elapsed(), 10'000) << arguments;
+      EXPECT_EQ(ended.code, 1) << arguments;
+      EXPECT_EQ(ended.err, u"kesto-lp: the print server"_s + reason) << arguments;
+      EXPECT_EQ(ended.out, QString()) << arguments;
+    }
+    server.close();
+  }
+}
+
+// A server that takes jobs and is too busy to say what is in them.
+TEST_F(LpTest, ACheckWithoutAnAnswerIsNone) {
+  QTcpServer server;
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  const auto check = process(u"-h 127.0.0.1:%1 --check q"_s.arg(server.serverPort()));
+  QEventLoop loop;
+  QObject::connect(check.get(), &QProcess::finished, &loop, &QEventLoop::quit);
+  QObject::connect(&server, &QTcpServer::newConnection, [&server] {
+    QTcpSocket* socket = server.nextPendingConnection();
+    QObject::connect(socket, &QTcpSocket::readyRead, [socket, bytes = QByteArray()]() mutable {
+      bytes += socket->readAll();
+      const qsizetype ipp = bytes.indexOf("\r\n\r\n") + 4;
+      // The end of a message's attributes; what is shorter has only begun.
+      if (ipp < 4 || bytes.size() < ipp + 9 || !bytes.endsWith('\3')) return;
+      const bool isLook = bytes[ipp + 3] == IPP_OP_GET_JOB_ATTRIBUTES;
+      const QByteArray status = isLook ? "\x05\x07"_ba : QByteArray(2, '\0');
+      const QByteArray job = "\x02\x21\0\x06job-id\0\x04\0\0\0\x01"_ba;
+      const QByteArray reply = "\x02\0"_ba + status + bytes.mid(ipp + 4, 4) + job + '\3';
+      socket->write(
+          "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\nContent-Type: "
+          "application/ipp\r\nContent-Length: " +
+          QByteArray::number(reply.size()) + "\r\n\r\n" + reply);
+      bytes.clear();
+    });
+  });
+  check->start();
+  loop.exec();
+  EXPECT_EQ(check->exitCode(), 1);
+  EXPECT_EQ(check->readAllStandardError(), "kesto-lp: what other users see is not told: server-error-busy\n");
+  EXPECT_EQ(check->readAllStandardOutput(), "");
+}
+
+}  // namespace
+}  // namespace kesto::test
