@@ -2,6 +2,7 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QTemporaryFile>
 
 namespace kesto {
 
@@ -27,17 +28,18 @@ Outcome openPpdFile(const QString& path, PpdFile* ppd) {
 
 Outcome fetchPpdFile(http_t* http, const QString& queue, PpdFile* ppd) {
   ppd->reset();
-  std::time_t modified = 0;
-  char path[1024] = "";
-  const http_status_t status = cupsGetPPD3(http, queue.toUtf8().constData(), &modified, path, sizeof path);
+  QTemporaryFile file;
+  if (!file.open()) return Outcome::failed(QStringLiteral("the PPD cannot be kept: ") + file.errorString());
+  // libcups's own call for it asks the host that the queue names, on another connection: through a tunnel
+  // that is another server, and else it takes its time.
+  const QByteArray resource = "/printers/" + queue.toUtf8() + ".ppd";
+  const http_status_t status = cupsGetFd(http, resource.constData(), file.handle());
   if (status == HTTP_STATUS_NOT_FOUND) return Outcome::done();
   if (status != HTTP_STATUS_OK) {
     return Outcome::failed(QStringLiteral("the PPD of %1 cannot be had: %2")
                                .arg(queue, QString::fromUtf8(cupsLastErrorString())));
   }
-  Outcome opened = openPpdFile(QFile::decodeName(path), ppd);
-  QFile::remove(QFile::decodeName(path));
-  return opened;
+  return openPpdFile(file.fileName(), ppd);
 }
 
 bool offersJobHandling(ppd_file_t& ppd) {
