@@ -15,7 +15,7 @@
 namespace kesto {
 namespace {
 
-constexpr QLatin1String prefix(printSettingsPrefix);
+const QLatin1String prefix(printSettingsPrefix);
 constexpr QLatin1String presetsKey("Presets");
 constexpr QLatin1String modelKey("model");
 constexpr QLatin1String settingsKey("settings");
