@@ -8,7 +8,8 @@ function(kesto_dialog_test name)
 endfunction()
 
 kesto_dialog_test(dialog_test
-  SOURCES dialog_document_test.cpp dialog_pane_test.cpp dialog_print_test.cpp portal_dialog_test.cpp
+  SOURCES dialog_document_test.cpp dialog_options_test.cpp dialog_pane_test.cpp dialog_print_test.cpp
+          portal_dialog_test.cpp
   LINKS Qt6::Network)
 gtest_discover_tests(dialog_test DISCOVERY_MODE PRE_TEST PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 

@@ -30,28 +30,31 @@ struct Sides {
 constexpr std::array allSides{Sides{"one-sided", "None"}, Sides{"two-sided-long-edge", "DuplexNoTumble"},
                               Sides{"two-sided-short-edge", "DuplexTumble"}};
 
-// Marks an option that has a name of the PPD, or one of the two that have a standard's name as well.
-// libcups's own call for that loses memory each time.
-void mark(ppd_file_t& ppd, const char* keyword, const char* choice) {
-  ppdMarkOption(&ppd, keyword, choice);
-  const QByteArrayView name(keyword);
-  if (name == "sides") {
-    for (const Sides& sides : allSides) {
-      if (QByteArrayView(choice) == sides.standard) ppdMarkOption(&ppd, "Duplex", sides.duplex);
-    }
-  }
-  const pwg_media_t* media = name == "media" ? pwgMediaForPWG(choice) : nullptr;
-  if (media != nullptr && media->ppd != nullptr) ppdMarkOption(&ppd, "PageSize", media->ppd);
-}
-
 }  // namespace
 
+PpdChoiceName ppdNameOf(const QString& option, const QString& choice) {
+  if (option == u"sides") {
+    for (const Sides& sides : allSides) {
+      if (choice == QLatin1String(sides.standard))
+        return {QStringLiteral("Duplex"), QLatin1String(sides.duplex)};
+    }
+  }
+  const pwg_media_t* media = option == u"media" ? pwgMediaForPWG(choice.toUtf8().constData()) : nullptr;
+  if (media != nullptr && media->ppd != nullptr)
+    return {QStringLiteral("PageSize"), QString::fromUtf8(media->ppd)};
+  return {option, choice};
+}
+
+// libcups's own call for a destination's options loses memory each time.
 void markDefaults(ppd_file_t& ppd, const cups_dest_t* destination) {
   ppdLocalize(&ppd);
   ppdMarkDefaults(&ppd);
   if (destination == nullptr) return;
-  for (int i = 0; i < destination->num_options; ++i)
-    mark(ppd, destination->options[i].name, destination->options[i].value);
+  for (int i = 0; i < destination->num_options; ++i) {
+    const cups_option_t& kept = destination->options[i];
+    const PpdChoiceName name = ppdNameOf(QString::fromUtf8(kept.name), QString::fromUtf8(kept.value));
+    ppdMarkOption(&ppd, name.option.toUtf8().constData(), name.choice.toUtf8().constData());
+  }
 }
 
 std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledByPanel) {

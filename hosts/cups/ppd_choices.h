@@ -31,6 +31,16 @@ void markDefaults(ppd_file_t& ppd, const cups_dest_t* destination);
 /// panel handles.
 std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledByPanel);
 
+/// A value of an option by the names of PPDs.
+struct PpdChoiceName {
+  QString option;
+  QString choice;
+};
+
+/// The PPD's names for a job option: "sides" and "media" have standard ones as well, all others stay as they
+/// are.
+PpdChoiceName ppdNameOf(const QString& option, const QString& choice);
+
 /// Marks one value. Answers the texts of the options that do not go together then; empty for none.
 QStringList markChoice(ppd_file_t& ppd, const QString& option, const QString& choice);
 

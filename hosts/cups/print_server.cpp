@@ -190,16 +190,16 @@ Outcome PrintServer::listQueues(std::vector<QueueSummary>* queues) {
   return Outcome::done();
 }
 
-Outcome PrintServer::summarize(const QString& name, QueueSummary* queue) {
+Outcome PrintServer::summarize(const QString& name, std::optional<QueueSummary>* queue) {
+  queue->reset();
   const Ipp request(ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
                uriOfQueue(name).constData());
   askForSummary(request.get());
   Ipp reply;
-  if (Outcome asked = ask(request.get(), &reply); !asked) return asked;
+  if (Outcome asked = ask(request.get(), &reply, IPP_STATUS_ERROR_NOT_FOUND); !asked) return asked;
   const std::vector<QueueSummary> found = queuesOf(reply.get());
-  if (found.empty()) return Outcome::failed(QStringLiteral("the print server tells nothing of ") + name);
-  *queue = found.front();
+  if (!found.empty()) *queue = found.front();
   return Outcome::done();
 }
 

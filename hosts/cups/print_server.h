@@ -52,8 +52,8 @@ class PrintServer {
   Outcome findQueue(const QString& name, Destination* destination);
   /// All queues by name, by one request for what a summary shows.
   Outcome listQueues(std::vector<QueueSummary>* queues);
-  /// What the list shows of one queue.
-  Outcome summarize(const QString& name, QueueSummary* queue);
+  /// What the list shows of one queue; none when the server has no such queue.
+  Outcome summarize(const QString& name, std::optional<QueueSummary>* queue);
   /// Sends one request, as whom it names, and reads the reply, whatever its status; never asks for a
   /// password.
   Outcome request(ipp_t* request, Ipp* reply);

@@ -150,11 +150,20 @@ void GeneralPane::takeChoice(const Row& row) {
   Q_EMIT optionChosen(row.keyword, choice);
 }
 
-void GeneralPane::choose(const QString& option, const QString& choice) {
-  const auto row = std::ranges::find(m_rows, option, &Row::keyword);
-  if (row == m_rows.end()) return;
-  const int index = row->combo->findData(choice);
-  if (index >= 0) row->combo->setCurrentIndex(index);
+bool GeneralPane::choose(const QString& option, const QString& choice) {
+  if (option == u"copies") {
+    setCopies(choice.toInt());
+  } else if (option == u"collate") {
+    m_collate->setChecked(choice == u"true");
+  } else if (option == u"page-ranges") {
+    setPages(choice);
+  } else {
+    const auto row = std::ranges::find(m_rows, option, &Row::keyword);
+    const int index = row == m_rows.end() ? -1 : row->combo->findData(choice);
+    if (index < 0) return false;
+    row->combo->setCurrentIndex(index);
+  }
+  return true;
 }
 
 QString GeneralPane::chosen(const QString& option) const {

@@ -28,8 +28,9 @@ class GeneralPane : public QWidget {
   void setPages(const QString& pages);
   /// Offers the options of a queue; the PPD must outlive them. Null takes them away.
   void setPpd(ppd_file_t* ppd, const QStringList& handledByPanel);
-  /// Chooses a value of an offered option, if there is such a one.
-  void choose(const QString& option, const QString& choice);
+  /// Chooses a value of an offered option of the PPD, or of "copies", "collate" or "page-ranges". Answers
+  /// whether there is such a one: the pane then has it, and `jobOptions` speaks for it.
+  bool choose(const QString& option, const QString& choice);
 
   /// The value of an offered option, null for one that is not offered.
   QString chosen(const QString& option) const;

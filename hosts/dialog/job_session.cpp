@@ -58,8 +58,8 @@ bool JobSession::confirm() {
   return panel() == nullptr || m_platform->confirmJob(*panel());
 }
 
-void JobSession::remember() {
-  if (panel() != nullptr) panel()->shouldPrint();
+Outcome JobSession::remember() {
+  return panel() == nullptr ? Outcome::done() : m_platform->rememberEntries(*panel());
 }
 
 QMap<QString, QString> JobSession::settings() const {

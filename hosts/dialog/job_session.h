@@ -38,8 +38,8 @@ class JobSession {
   void renameJob(const QString& jobName);
   /// Writes the panel's entries into the job. Whether the job may go out; if not, the user has been told.
   bool confirm();
-  /// The job has gone out: its entries become the user's for this queue.
-  void remember();
+  /// The job has gone out: its entries become the user's for this queue. Fails when they cannot be kept.
+  Outcome remember();
   /// The job's print settings, as they travel with it.
   QMap<QString, QString> settings() const;
 

@@ -1,8 +1,11 @@
 #include "hosts/dialog/options.h"
 
-#include <CLI/CLI.hpp>
+#include <fcntl.h>
+
+#include <cmath>
 #include <iostream>
 
+#include "hosts/cli/arguments.h"
 #include "hosts/cups/print_job.h"
 
 namespace kesto {
@@ -27,6 +30,10 @@ Shows the print dialog for the files, or for a document in standard input.
 Ends with 0 when the job was sent, 1 when it was not, 2 for a wrong command line.
 )";
 
+std::string faultOfDescriptor(const std::string& number) {
+  return ::fcntl(std::stoi(number), F_GETFD) < 0 ? "is no open descriptor" : "";
+}
+
 class CommandLine {
  public:
   explicit CommandLine(PrintOptions* options) : m_options(*options) {
@@ -39,9 +46,12 @@ class CommandLine {
     addText("--pane", &m_options.pane)->check(CLI::IsMember({"general", "job-handling", "summary"}));
     m_app.add_flag("-E", m_options.server.encrypt);
     m_app.add_flag("--timings", m_options.timings);
-    m_app.add_option("-n", m_options.copies)->check(CLI::Range(1, 9999));
-    m_app.add_option("--portal", m_options.channel)->check(CLI::Range(3, 1 << 20));
+    m_app.add_option("-n", m_options.copies)->transform(wholeNumber(1, 9999));
+    m_app.add_option("--portal", m_options.channel)
+        ->transform(wholeNumber(3, 1 << 20))
+        ->check(faultOfDescriptor);
     const auto setLimit = [this](double seconds) {
+      if (std::isnan(seconds)) throw CLI::ValidationError("--timeout", "is no number");
       m_options.server.limit = std::chrono::milliseconds(static_cast<int>(seconds * 1000));
     };
     m_app.add_option_function<double>("--timeout", setLimit)->check(CLI::Range(0.1, 3600.0));
@@ -55,6 +65,7 @@ class CommandLine {
         m_options.files.append(QString::fromStdString(file));
     };
     m_app.add_option_function<std::vector<std::string>>("files", addFiles);
+    refuseFlagValues(m_app);
   }
 
   std::optional<int> parse(int argc, char** argv) {

@@ -78,6 +78,8 @@ void PortalPrint::open(const QJsonObject& message) {
   connect(m_dialog.get(), &PrintDialog::settled, this, &PortalPrint::preset);
   connect(m_dialog.get(), &PrintDialog::chosen, this, &PortalPrint::takeChoice);
   connect(m_dialog.get(), &QDialog::finished, this, &PortalPrint::finish);
+  m_dialog->general().choose(QStringLiteral("collate"),
+                             QLatin1String(m_choice.isCollated ? "true" : "false"));
   if (m_choice.pages == PortalPages::Ranges) m_dialog->general().setPages(m_choice.pageRanges);
   attachTo(message.value(u"parentWindow").toString());
   m_dialog->show();

@@ -23,7 +23,9 @@ QImage readImage(const QString& path) {
   QImageReader reader(path);
   reader.setAutoTransform(true);
   const QSize size = reader.size();
-  if (size.width() > largestImage || size.height() > largestImage)
+  const bool isLarge = size.width() > largestImage || size.height() > largestImage;
+  // Images of two colours lose these when they are read smaller.
+  if (isLarge && reader.imageFormat() != QImage::Format_Mono)
     reader.setScaledSize(size.scaled(largestImage, largestImage, Qt::KeepAspectRatio));
   return reader.read();
 }
@@ -161,6 +163,10 @@ void Preview::drawPage() {
     if (error == QProcess::FailedToStart)
       settle({}, tr("There is no preview: the program pdftoppm of poppler-utils is missing."));
   });
+  // In some languages the page's own fonts would be replaced by ones without its letters.
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+  m_drawing->setProcessEnvironment(environment);
   const QString page = QString::number(m_page);
   const int pixels = qRound(qMax(m_sheet->width(), m_sheet->height()) * devicePixelRatioF());
   m_drawing->start(QStringLiteral("pdftoppm"),
@@ -176,8 +182,8 @@ void Preview::takePage() {
 
 void Preview::settle(const QImage& image, const QString& text) {
   m_sheet->show(image, text);
-  m_isSettled = true;
-  Q_EMIT shown();
+  m_isSettled = !m_redraw.isActive();
+  if (m_isSettled) Q_EMIT shown();
 }
 
 void Preview::showPage(int page) {

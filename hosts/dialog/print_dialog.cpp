@@ -34,6 +34,7 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
   build();
   connectParts();
   m_general->setCopies(options.copies);
+  m_options.jobOptions = takeGeneral(m_options.jobOptions);
   m_chooser->setCurrent(m_wanted);
   showDocument();
   updateControls();
@@ -62,18 +63,11 @@ const QueueListModel& PrintDialog::queues() const {
 }
 
 void PrintDialog::takeQueues(const std::vector<QueueSummary>& queues) {
-  m_listFault.clear();
+  m_listFault = QString();
+  m_isListed = true;
   m_chooser->setQueues(queues);
   if (m_session.queue()) m_chooser->showState();
-  // Without a default queue the first one that takes jobs is as good as any.
-  if (m_isSettled && !m_session.queue() && m_wanted.isNull()) {
-    for (const QueueSummary& queue : queues) {
-      if (queue.isAccepting) {
-        chooseQueue(queue.name);
-        break;
-      }
-    }
-  }
+  if (m_wanted.isNull()) settleWithout();
   Q_EMIT listed();
 }
 
@@ -101,8 +95,31 @@ void PrintDialog::leaveQueue() {
   updateControls();
 }
 
+// What the portal's client calls the document when it comes is the last word.
 QString PrintDialog::jobName() const {
-  return m_options.title.isNull() ? m_document.name() : m_options.title;
+  const bool isLast = m_options.channel >= 0 && !m_document.name().isEmpty();
+  return m_options.title.isNull() || isLast ? m_document.name() : m_options.title;
+}
+
+// Has the pane choose the options that it has a control for; the others are left.
+QMap<QString, QString> PrintDialog::takeGeneral(const QMap<QString, QString>& options) {
+  QMap<QString, QString> others;
+  for (auto it = options.begin(); it != options.end(); ++it) {
+    const PpdChoiceName name = ppdNameOf(it.key(), it.value());
+    if (!m_general->choose(name.option, name.choice)) others.insert(it.key(), it.value());
+  }
+  return others;
+}
+
+// What the user keeps for the queue is shown, and travels only as it is shown.
+void PrintDialog::takeKeptOptions(cups_dest_t& destination) {
+  const QMap<QString, QString> chosen = m_general->jobOptions();
+  for (const char* name : {"copies", "collate", "page-ranges"}) {
+    const QString kept = optionOf(destination, name);
+    if (!kept.isEmpty() && !chosen.contains(QLatin1String(name)))
+      m_general->choose(QLatin1String(name), kept);
+    destination.num_options = cupsRemoveOption(name, destination.num_options, &destination.options);
+  }
 }
 
 void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
@@ -110,6 +127,8 @@ void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
   const Outcome taken = m_session.take(queue, jobName());
   PrintDialogPanel* panel = m_session.panel();
   m_general->setPpd(m_session.ppd(), panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys());
+  takeKeptOptions(*queue->destination);
+  m_otherOptions = takeGeneral(m_options.jobOptions);
   m_chooser->setCurrent(m_wanted);
   m_chooser->showState();
   if (!taken) showMessage(taken.reason());
@@ -136,8 +155,20 @@ void PrintDialog::takeNoQueue(const QString& reason) {
   }
   m_isSettled = true;
   m_chooser->showText(reason, true);
-  if (m_wanted.isNull() && m_chooser->model().rowCount() > 0) takeQueues(m_chooser->model().queues());
-  if (!m_session.queue()) Q_EMIT settled();
+  if (m_isListed || !m_wanted.isNull()) settleWithout();
+}
+
+// The queue that was asked for is not there. Without a default queue the first one that takes jobs is as good
+// as any, once the list is there.
+void PrintDialog::settleWithout() {
+  if (!m_isSettled || m_session.queue()) return;
+  if (m_wanted.isNull() && m_listFault.isNull()) {
+    for (const QueueSummary& queue : m_chooser->model().queues()) {
+      if (queue.isAccepting) return chooseQueue(queue.name);
+    }
+    m_chooser->showText(tr("There is no printer that takes jobs."), true);
+  }
+  Q_EMIT settled();
 }
 
 void PrintDialog::showPanel() {
@@ -180,7 +211,7 @@ void PrintDialog::showDocument() {
                         : m_options.documentLater ? tr("The application draws the pages after the choice.")
                                                   : tr("No document"));
   m_chooseDocument->setVisible(state == State::Failed || (state == State::None && !m_options.documentLater));
-  if (m_options.title.isNull()) m_session.renameJob(m_document.name());
+  m_session.renameJob(jobName());
   if (m_phase == Phase::Waiting && state == State::Ready) return send();
   updateControls();
 }
@@ -213,7 +244,7 @@ void PrintDialog::print() {
 }
 
 void PrintDialog::send() {
-  PrintJob job{.title = jobName(), .files = m_document.files(), .options = m_options.jobOptions};
+  PrintJob job{.title = jobName(), .files = m_document.files(), .options = m_otherOptions};
   job.options.insert(m_general->jobOptions());
   job.options.insert(m_session.settings());
   // Whoever drew the document has left out the other pages.
@@ -224,8 +255,10 @@ void PrintDialog::send() {
 
 void PrintDialog::takeSent(int job) {
   m_job = job;
-  m_session.remember();
-  showMessage(tr("Job %1 sent to %2").arg(job).arg(m_session.queue()->id));
+  const bool isRemembered = bool(m_session.remember());
+  const QString text =
+      isRemembered ? tr("Job %1 sent to %2") : tr("Job %1 sent to %2; its entries cannot be remembered");
+  showMessage(text.arg(job).arg(m_session.queue()->id));
   setPhase(Phase::Sent);
   if (!isVisible()) return accept();
   QTimer::singleShot(farewell, this, &QDialog::accept);
@@ -263,7 +296,8 @@ void PrintDialog::updateControls() {
   m_chooseDocument->setEnabled(isChoosing);
   const bool hasDocument = m_document.state() == Document::State::Ready;
   m_print->setEnabled(isQueueReady() && (hasDocument || m_options.documentLater));
-  m_print->setToolTip(m_print->isEnabled() ? QString() : tr("There is no document to print yet."));
+  const bool isMissing = !hasDocument && !m_options.documentLater;
+  m_print->setToolTip(isMissing ? tr("There is no document to print yet.") : QString());
 }
 
 void PrintDialog::reject() {

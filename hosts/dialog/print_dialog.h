@@ -83,6 +83,9 @@ class PrintDialog : public QDialog {
   void takeQueues(const std::vector<QueueSummary>& queues);
   void chooseQueue(const QString& name);
   QString jobName() const;
+  QMap<QString, QString> takeGeneral(const QMap<QString, QString>& options);
+  void takeKeptOptions(cups_dest_t& destination);
+  void settleWithout();
   void showQueue(const std::shared_ptr<Queue>& queue);
   void takeNoQueue(const QString& reason);
   void showPanel();
@@ -104,8 +107,10 @@ class PrintDialog : public QDialog {
   Document& m_document;
   DialogAlerts m_alerts;
   JobSession m_session{m_alerts};
-  QString m_wanted;  // the chosen queue, null for the default one
+  QString m_wanted;                       // the chosen queue, null for the default one
+  QMap<QString, QString> m_otherOptions;  // of the job, beside what the panes have
   QString m_listFault;
+  bool m_isListed = false;  // or known not to be
   bool m_isStarted = false;
   bool m_isSettled = false;
   Phase m_phase = Phase::Choosing;

@@ -115,7 +115,7 @@ void PrintDialog::connectParts() {
   connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);
   connect(m_chooser, &QueueChooser::retryAsked, this, &PrintDialog::retry);
   connect(m_presets, &PresetMenu::loaded, this, [this] {
-    m_panelPane->alignChoices();
+    if (m_panelPane != nullptr) m_panelPane->alignChoices();
     updateSummary();
   });
   connect(m_general, &GeneralPane::optionChosen, this, [this](const QString& option, const QString& choice) {
@@ -135,7 +135,10 @@ void PrintDialog::connectParts() {
   });
   connect(&m_watch, &QueueWatch::failed, this, [this](const QString& reason) {
     m_listFault = reason;
-    if (!m_session.queue()) m_chooser->showText(reason, true);
+    m_isListed = true;
+    if (m_session.queue()) return;
+    m_chooser->showText(reason, true);
+    if (m_wanted.isNull()) settleWithout();
   });
   connect(&m_client, &QueueClient::opened, this, &PrintDialog::takeQueue);
   connect(&m_client, &QueueClient::openFailed, this, &PrintDialog::takeNoQueue);

@@ -115,6 +115,8 @@ void QueueChooser::showState() {
 void QueueChooser::showText(const QString& text, bool isFault) {
   m_state->setText(text);
   m_retry->setVisible(isFault);
+  if (m_current.isNull())
+    m_combo->setPlaceholderText(isFault ? tr("No printer") : tr("Looking for printers…"));
 }
 
 }  // namespace kesto

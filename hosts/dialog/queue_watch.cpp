@@ -21,12 +21,15 @@ class QueueWatch::Follower {
     if (listed) listed = m_server->listQueues(&queues);
     if (!listed) return report(listed);
     answer(m_watch, [watch = m_watch, queues] { Q_EMIT watch->listed(queues); });
+    m_hasListed = true;
+    m_isLost = false;
     // A server that gives no subscription to this user is shown as it was.
     m_events.emplace(*m_server);
     if (!m_events->subscribe()) m_events.reset();
   }
 
   void follow() {
+    if (m_isLost) return list();
     if (!m_events) return;
     QSet<QString> names;
     Outcome asked = m_events->changedQueues(&names);
@@ -47,13 +50,16 @@ class QueueWatch::Follower {
  private:
   void report(const Outcome& failure) {
     stop();
+    m_isLost = m_hasListed;
     answer(m_watch, [watch = m_watch, reason = failure.reason()] { Q_EMIT watch->failed(reason); });
   }
 
   void tell(const QString& name) {
-    QueueSummary queue;
-    if (m_server->summarize(name, &queue)) {
-      answer(m_watch, [watch = m_watch, queue] { Q_EMIT watch->changed(queue); });
+    std::optional<QueueSummary> queue;
+    // What is not told now is told with the list, when the server is asked again.
+    if (!m_server->summarize(name, &queue)) return;
+    if (queue) {
+      answer(m_watch, [watch = m_watch, queue = *queue] { Q_EMIT watch->changed(queue); });
     } else {
       answer(m_watch, [watch = m_watch, name] { Q_EMIT watch->removed(name); });
     }
@@ -63,6 +69,8 @@ class QueueWatch::Follower {
   ServerAddress m_address;
   std::unique_ptr<PrintServer> m_server;
   std::optional<QueueEvents> m_events;  // none while nothing is followed
+  bool m_hasListed = false;
+  bool m_isLost = false;  // there was a list, and the server does not answer any more
 };
 
 QueueWatch::QueueWatch(const ServerAddress& server) : m_follower(std::make_shared<Follower>(this, server)) {

@@ -365,6 +365,14 @@
         <source>The application draws the pages after the choice.</source>
         <translation>Die Anwendung zeichnet die Seiten nach der Auswahl.</translation>
     </message>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>Es gibt keinen Drucker, der Aufträge annimmt.</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2; its entries cannot be remembered</source>
+        <translation>Auftrag %1 an %2 gesendet; die Einträge können nicht gemerkt werden</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -379,6 +387,10 @@
     <message>
         <source>Looking for printers…</source>
         <translation>Drucker werden gesucht&#xa0;…</translation>
+    </message>
+    <message>
+        <source>No printer</source>
+        <translation>Kein Drucker</translation>
     </message>
 </context>
 <context>

@@ -365,6 +365,14 @@
         <source>The application draws the pages after the choice.</source>
         <translation>La aplicación dibuja las páginas después de la selección.</translation>
     </message>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>No hay ninguna impresora que acepte trabajos.</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2; its entries cannot be remembered</source>
+        <translation>Trabajo %1 enviado a %2; sus datos no se pueden recordar</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -379,6 +387,10 @@
     <message>
         <source>Looking for printers…</source>
         <translation>Buscando impresoras…</translation>
+    </message>
+    <message>
+        <source>No printer</source>
+        <translation>Ninguna impresora</translation>
     </message>
 </context>
 <context>

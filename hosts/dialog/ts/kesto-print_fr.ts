@@ -365,6 +365,14 @@
         <source>The application draws the pages after the choice.</source>
         <translation>L’application dessine les pages après le choix.</translation>
     </message>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>Aucune imprimante n’accepte de travaux.</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2; its entries cannot be remembered</source>
+        <translation>Travail %1 envoyé à %2 ; ses entrées ne peuvent pas être mémorisées</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -379,6 +387,10 @@
     <message>
         <source>Looking for printers…</source>
         <translation>Recherche d’imprimantes…</translation>
+    </message>
+    <message>
+        <source>No printer</source>
+        <translation>Aucune imprimante</translation>
     </message>
 </context>
 <context>

@@ -364,6 +364,14 @@
         <source>The application draws the pages after the choice.</source>
         <translation>ページは選択の後にアプリケーションが描画します。</translation>
     </message>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>ジョブを受け付けるプリンターがありません。</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2; its entries cannot be remembered</source>
+        <translation>ジョブ %1 を %2 に送信しましたが、入力内容は記憶できません</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -378,6 +386,10 @@
     <message>
         <source>Looking for printers…</source>
         <translation>プリンターを探しています…</translation>
+    </message>
+    <message>
+        <source>No printer</source>
+        <translation>プリンターなし</translation>
     </message>
 </context>
 <context>

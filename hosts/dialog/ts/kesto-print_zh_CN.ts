@@ -364,6 +364,14 @@
         <source>The application draws the pages after the choice.</source>
         <translation>应用程序在选择之后绘制页面。</translation>
     </message>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>没有可接受作业的打印机。</translation>
+    </message>
+    <message>
+        <source>Job %1 sent to %2; its entries cannot be remembered</source>
+        <translation>作业 %1 已发送到 %2；无法记住其条目</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -378,6 +386,10 @@
     <message>
         <source>Looking for printers…</source>
         <translation>正在查找打印机…</translation>
+    </message>
+    <message>
+        <source>No printer</source>
+        <translation>没有打印机</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,9 @@
 // kesto-print-tour: goes through the print dialog as a person would, for who has no display to do it. The
-// pass code comes from the first line of standard input.
+// pass code comes from the first line of standard input, the address of the printer's folders from the
+// second.
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
+#include <array>
 #include <iostream>
 #include <string>
 
@@ -8,7 +11,6 @@
 #include "hosts/dialog/preview.h"
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/queue_list_model.h"
-#include "hosts/dialog/start_times.h"
 #include "hosts/dialog/translations.h"
 #include "hosts/dialog/user/dialog_user.h"
 
