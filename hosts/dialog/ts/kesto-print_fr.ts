@@ -371,7 +371,7 @@
     </message>
     <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
-        <translation>Travail %1 envoyé à %2 ; ses entrées ne peuvent pas être mémorisées</translation>
+        <translation>Travail %1 envoyé à %2&#xa0;; ses entrées ne peuvent pas être mémorisées</translation>
     </message>
 </context>
 <context>
