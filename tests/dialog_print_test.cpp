@@ -322,11 +322,11 @@ TEST_F(DialogPrint, PresetsComeBackAndGo) {
 
 // The program itself.
 struct ProgramRun {
-  const char* what;
+  const char* what = "";
   QStringList arguments;
-  int code;
-  const char* output;
-  const char* error;
+  int code = 0;
+  const char* output = "";
+  const char* error = "";
 };
 
 TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
@@ -339,6 +339,9 @@ TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
       {"help", {u"--help"_s}, 0, "usage: kesto-print", ""},
       {"no such option", {u"--nonsense"_s}, 2, "", "--nonsense"},
       {"no time at all", {u"--timeout"_s, u"0"_s}, 2, "", "--timeout"},
+      {"no number of seconds", {u"--timeout"_s, u"nan"_s}, 2, "", "--timeout"},
+      {"a number as C has it", {u"-n"_s, u"0x10"_s}, 2, "", "-n"},
+      {"no open descriptor", {u"--portal"_s, u"77"_s}, 2, "", "is no open descriptor"},
       {"no such file", {u"-h"_s, server, u"/no/such.pdf"_s}, 1, "", "/no/such.pdf"},
       {"no such queue", {u"-h"_s, server, u"-d"_s, u"None"_s, u"--timings"_s}, 1, "", "no queue"},
   };
@@ -354,11 +357,14 @@ TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
 }
 
 TEST(DialogOptions, AreReadAsTheManualSays) {
-  const char* arguments[] = {"kesto-print", "-o",        "sides=one-sided number-up=2",
-                             "a.pdf",       "--timeout", "0.5",
-                             "b.ps",        "-o",        "number-up=4"};
+  std::vector<std::string> words{"kesto-print", "-o",        "sides=one-sided number-up=2",
+                                 "a.pdf",       "--timeout", "0.5",
+                                 "b.ps",        "-o",        "number-up=4"};
+  std::vector<char*> arguments;
+  for (std::string& word : words)
+    arguments.push_back(word.data());
   PrintOptions options;
-  ASSERT_EQ(parsePrintOptions(std::size(arguments), const_cast<char**>(arguments), &options), std::nullopt);
+  ASSERT_EQ(parsePrintOptions(static_cast<int>(arguments.size()), arguments.data(), &options), std::nullopt);
   EXPECT_EQ(options.files, (QStringList{u"a.pdf"_s, u"b.ps"_s}));
   EXPECT_EQ(options.jobOptions,
             (QMap<QString, QString>{{u"sides"_s, u"one-sided"_s}, {u"number-up"_s, u"4"_s}}));
