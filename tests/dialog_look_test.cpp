@@ -173,7 +173,7 @@ class DialogLook : public testing::Test {
          {std::tuple(0, 0, "general"), {1, 0, "storage"}, {1, 1, "account"}, {2, 0, "summary"}}) {
       outer->setCurrentIndex(pane);
       inner->setCurrentIndex(page);
-      QTest::qWait(10);
+      QCoreApplication::processEvents();
       expectPage(theme, QLatin1String(name));
     }
   }

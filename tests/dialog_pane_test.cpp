@@ -248,7 +248,7 @@ TEST_F(DialogPane, ATipSaysWhyAControlIsDimmed) {
     const char* part;
   };
   const auto expectTips = [&](const std::vector<Tip>& tips) {
-    QTest::qWait(1);  // tips follow once a moment is over
+    QCoreApplication::processEvents();  // tips follow once a moment is over
     for (const Tip& tip : tips) {
       const QString text = m_window.widget(QLatin1String(tip.widget))->toolTip();
       EXPECT_TRUE(tip.part == nullptr ? text.isEmpty() : text.contains(QLatin1String(tip.part)))
@@ -282,7 +282,7 @@ TEST_F(DialogPane, OutlivesItsPanel) {
   m_window.host.reset();
   QTest::mouseClick(m_window.widget(u"retentionCheckBox"_s), Qt::LeftButton);
   QTest::keyClicks(m_window.widget(u"suspendKeyEditText"_s), u"12"_s);
-  QTest::qWait(1);
+  QCoreApplication::processEvents();
   EXPECT_TRUE(m_window.isVisible());
 }
 

@@ -92,8 +92,6 @@ TEST_F(DialogPrint, ASilentServerIsToldAndAskedAgain) {
   EXPECT_TRUE(text(u"printerState"_s).contains(u"does not answer"_s)) << text(u"printerState"_s);
   EXPECT_FALSE(widget(u"print"_s)->isEnabled());
   type(u"copies"_s, u"3"_s);
-  startPrinter();
-  m_options.server.address = u"127.0.0.1:%1"_s.arg(silent.serverPort());
   click(u"retry"_s);
   EXPECT_FALSE(widget(u"retry"_s)->isVisible());
   await([this] { return widget(u"retry"_s)->isVisible(); }, u"the fault again"_s);
@@ -361,6 +359,7 @@ TEST(DialogOptions, AreReadAsTheManualSays) {
                                  "a.pdf",       "--timeout", "0.5",
                                  "b.ps",        "-o",        "number-up=4"};
   std::vector<char*> arguments;
+  arguments.reserve(words.size());
   for (std::string& word : words)
     arguments.push_back(word.data());
   PrintOptions options;

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "hosts/cups/faults.h"
 #include "platform/print_settings.h"
 
 namespace kesto {
@@ -18,15 +19,15 @@ struct OptionRow {
 
 // One option of each kind that tells something.
 constexpr std::array options{
-    OptionRow{"jobSuspendKey", "the digest of the pass code"},
-    OptionRow{"jobSuspend2Key", "the pass code"},
-    OptionRow{"spoolTime", "the spool time"},
-    OptionRow{"folderPassword2", "the folder's pass code"},
-    OptionRow{"folderPath", "the folder"},
-    OptionRow{"userNumber", "the user number"},
-    OptionRow{"accountNumber", "the account number"},
-    OptionRow{"userName", "the user name"},
-    OptionRow{"jobName", "the job's name"},
+    OptionRow{"jobSuspendKey", QT_TRANSLATE_NOOP("kesto::Faults", "the digest of the pass code")},
+    OptionRow{"jobSuspend2Key", QT_TRANSLATE_NOOP("kesto::Faults", "the pass code")},
+    OptionRow{"spoolTime", QT_TRANSLATE_NOOP("kesto::Faults", "the spool time")},
+    OptionRow{"folderPassword2", QT_TRANSLATE_NOOP("kesto::Faults", "the folder's pass code")},
+    OptionRow{"folderPath", QT_TRANSLATE_NOOP("kesto::Faults", "the folder")},
+    OptionRow{"userNumber", QT_TRANSLATE_NOOP("kesto::Faults", "the user number")},
+    OptionRow{"accountNumber", QT_TRANSLATE_NOOP("kesto::Faults", "the account number")},
+    OptionRow{"userName", QT_TRANSLATE_NOOP("kesto::Faults", "the user name")},
+    OptionRow{"jobName", QT_TRANSLATE_NOOP("kesto::Faults", "the job's name")},
 };
 
 // A request about a queue, and about one of its jobs when that is not 0, as `user`.
@@ -48,7 +49,7 @@ Outcome createJob(PrintServer& server, const QString& queue, int* job) {
     ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_NAME, row.name().constData(), nullptr, "0");
   const Ipp reply(cupsDoRequest(server.http(), request.release(), "/"));
   ipp_attribute_t* id = ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER);
-  if (id == nullptr) return lastCupsError(QStringLiteral("the queue %1 takes no job").arg(queue));
+  if (id == nullptr) return lastCupsError(Faults::tr("the queue %1 takes no job").arg(queue));
   *job = ippGetInteger(id, 0);
   return Outcome::done();
 }
@@ -59,7 +60,7 @@ Outcome cancelJob(PrintServer& server, const QString& queue, int job) {
   const Ipp reply(cupsDoRequest(server.http(), request.release(), "/"));
   return cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE
              ? Outcome::done()
-             : lastCupsError(QStringLiteral("the job %1-%2 cannot be cancelled").arg(queue).arg(job));
+             : lastCupsError(Faults::tr("the job %1-%2 cannot be cancelled").arg(queue).arg(job));
 }
 
 Outcome lookAtJob(PrintServer& server, const QString& queue, int job, QStringList* shown) {
@@ -67,10 +68,10 @@ Outcome lookAtJob(PrintServer& server, const QString& queue, int job, QStringLis
   Ipp reply;
   // Only a server that forbids it has shown nothing; one that could not answer would have.
   Outcome asked = server.ask(request.get(), &reply, IPP_STATUS_ERROR_FORBIDDEN);
-  if (!asked) return Outcome::failed(QStringLiteral("what other users see is not told: ") + asked.reason());
+  if (!asked) return Outcome::failed(Faults::tr("what other users see is not told: %1").arg(asked.reason()));
   for (const OptionRow& row : options) {
     if (ippFindAttribute(reply.get(), row.name().constData(), IPP_TAG_ZERO) != nullptr)
-      shown->append(QString::fromLatin1(row.word));
+      shown->append(Faults::tr(row.word));
   }
   return Outcome::done();
 }

@@ -1,5 +1,6 @@
 #include "hosts/cups/panel_host.h"
 
+#include "hosts/cups/faults.h"
 #include "platform/bundle.h"
 
 namespace kesto {
@@ -7,14 +8,14 @@ namespace kesto {
 Outcome PanelHost::openPanel(PrintDialogPlugIn& plugIn) {
   PanelList panels = plugIn.PDEPanelsForType(QLatin1String(printDialogTypeIdentifier), this);
   if (!panels || panels->empty())
-    return Outcome::failed(QStringLiteral("the bundle gives no panel for the print dialog"));
+    return Outcome::failed(Faults::tr("the bundle gives no panel for the print dialog"));
   m_panel = std::move(panels->front());
   return Outcome::done();
 }
 
 Outcome PanelHost::openShownPanel(PrintDialogPlugIn& plugIn) {
   if (Outcome opened = openPanel(plugIn); !opened) return opened;
-  if (m_panel->panelView() == nullptr) return Outcome::failed(QStringLiteral("the panel has no layout"));
+  if (m_panel->panelView() == nullptr) return Outcome::failed(Faults::tr("the panel has no layout"));
   m_panel->willShow();
   return Outcome::done();
 }
@@ -27,7 +28,7 @@ Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialog
   const QString directory = Bundle::find(QStringLiteral("JobHandling.pde"));
   if (directory.isNull()) {
     return Outcome::failed(
-        QStringLiteral("JobHandling.pde is neither beside the program nor in the library folder"));
+        Faults::tr("JobHandling.pde is neither beside the program nor in the library folder"));
   }
   auto found = std::make_shared<const Bundle>(directory);
   if (Outcome loaded = found->loadPrincipalObject(plugIn); !loaded) return loaded;

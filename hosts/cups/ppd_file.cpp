@@ -4,6 +4,8 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryFile>
 
+#include "hosts/cups/faults.h"
+
 namespace kesto {
 
 void ClosePpd::operator()(ppd_file_t* ppd) const {
@@ -23,21 +25,21 @@ Outcome openPpdFile(const QString& path, PpdFile* ppd) {
   int line = 0;
   const ppd_status_t status = ppdLastError(&line);
   return Outcome::failed(
-      QStringLiteral("%1: line %2: %3").arg(path).arg(line).arg(QString::fromUtf8(ppdErrorString(status))));
+      Faults::tr("%1: line %2: %3").arg(path).arg(line).arg(QString::fromUtf8(ppdErrorString(status))));
 }
 
 Outcome fetchPpdFile(http_t* http, const QString& queue, PpdFile* ppd) {
   ppd->reset();
   QTemporaryFile file;
-  if (!file.open()) return Outcome::failed(QStringLiteral("the PPD cannot be kept: ") + file.errorString());
+  if (!file.open()) return Outcome::failed(Faults::tr("the PPD cannot be kept: %1").arg(file.errorString()));
   // libcups's own call for it asks the host that the queue names, on another connection: through a tunnel
   // that is another server, and else it takes its time.
   const QByteArray resource = "/printers/" + queue.toUtf8() + ".ppd";
   const http_status_t status = cupsGetFd(http, resource.constData(), file.handle());
   if (status == HTTP_STATUS_NOT_FOUND) return Outcome::done();
   if (status != HTTP_STATUS_OK) {
-    return Outcome::failed(QStringLiteral("the PPD of %1 cannot be had: %2")
-                               .arg(queue, QString::fromUtf8(cupsLastErrorString())));
+    return Outcome::failed(
+        Faults::tr("the PPD of %1 cannot be had: %2").arg(queue, QString::fromUtf8(cupsLastErrorString())));
   }
   return openPpdFile(file.fileName(), ppd);
 }

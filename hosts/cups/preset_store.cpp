@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 
+#include "hosts/cups/faults.h"
 #include "hosts/cups/panel_host.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/pop_up.h"
@@ -46,7 +47,7 @@ Outcome addFolder(const PanelView& view, QMap<QString, QString>* settings) {
   const bool isStored = popUp != nullptr && popUp->selectedIndex() >= firstStoredFolder;
   const QString name = isStored ? popUp->selectedItem()->title : textOf(view, "folderNameEditText");
   const auto bytes = cStringOfText(name, systemEncodingOfEnvironment(), longestFolderName + 1);
-  if (!bytes) return Outcome::failed(QStringLiteral("a preset cannot keep the name of this folder"));
+  if (!bytes) return Outcome::failed(Faults::tr("a preset cannot keep the name of this folder"));
   settings->insert(prefix + QStringLiteral("folderPath"), QString::fromLatin1(bytes->toHex().toUpper()));
   return Outcome::done();
 }
@@ -65,14 +66,14 @@ std::optional<Preset> presetOf(const QJsonValue& value) {
 }
 
 Outcome noSuchPreset(const QString& name, const QJsonObject& presets) {
-  const QString known = presets.isEmpty()
-                            ? QStringLiteral("this queue has none")
-                            : QStringLiteral("there are: ") + presets.keys().join(QStringLiteral(", "));
-  return Outcome::failed(QStringLiteral("there is no preset \"%1\"; %2").arg(name, known));
+  const QString known = presets.keys().join(QStringLiteral(", "));
+  return Outcome::failed(presets.isEmpty()
+                             ? Faults::tr("there is no preset \"%1\"; this queue has none").arg(name)
+                             : Faults::tr("there is no preset \"%1\"; there are: %2").arg(name, known));
 }
 
 Outcome damagedPreset(const QString& name) {
-  return Outcome::failed(QStringLiteral("the preset \"%1\" is damaged and left as it is").arg(name));
+  return Outcome::failed(Faults::tr("the preset \"%1\" is damaged and left as it is").arg(name));
 }
 
 }  // namespace
@@ -108,11 +109,11 @@ PresetStore::PresetStore(UserDefaults& defaults, const QString& queue)
 
 Outcome PresetStore::read(QJsonObject* domain, QJsonObject* presets) const {
   const Domain stored = m_defaults.persistentDomainForName(m_domain);
-  if (!stored.available) return Outcome::failed(QStringLiteral("the presets of this queue cannot be read"));
+  if (!stored.available) return Outcome::failed(Faults::tr("the presets of this queue cannot be read"));
   *domain = stored.values.value_or(QJsonObject());
   const QJsonValue value = domain->value(presetsKey);
   if (!value.isUndefined() && !value.isObject()) {
-    return Outcome::failed(QStringLiteral("the presets of this queue are damaged and left as they are"));
+    return Outcome::failed(Faults::tr("the presets of this queue are damaged and left as they are"));
   }
   *presets = value.toObject();
   return Outcome::done();
@@ -140,7 +141,7 @@ Outcome PresetStore::load(const QString& name, const QString& model, Preset* pre
   if (!stored) return damagedPreset(name);
   if (stored->model != model) {
     return Outcome::failed(
-        QStringLiteral("the preset \"%1\" is for another printer model, %2").arg(name, stored->model));
+        Faults::tr("the preset \"%1\" is for another printer model, %2").arg(name, stored->model));
   }
   *preset = *stored;
   return Outcome::done();

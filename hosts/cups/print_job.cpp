@@ -8,6 +8,7 @@
 #include <QtCore/QFileInfo>
 #include <cerrno>
 
+#include "hosts/cups/faults.h"
 #include "platform/text_encoding.h"
 
 namespace kesto {
@@ -74,10 +75,10 @@ Outcome openDocument(const QString& path, const std::function<bool()>& goesOn, D
     document->name = QStringLiteral("(stdin)");
     // What was read of it before ends where a line did.
     if (file.open(STDIN_FILENO, QIODevice::ReadOnly)) return Outcome::done();
-    return Outcome::failed(QStringLiteral("standard input cannot be read"));
+    return Outcome::failed(Faults::tr("standard input cannot be read"));
   }
   document->name = QFileInfo(path).fileName();
-  if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": is a folder"));
+  if (QFileInfo(path).isDir()) return Outcome::failed(Faults::tr("%1: is a folder").arg(path));
   const int descriptor = openForReading(path, goesOn);
   if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle))
     return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
@@ -118,12 +119,12 @@ class OpenJob {
     const ipp_status_t status = cupsCreateDestJob(m_server.http(), &m_destination, m_info, &m_id,
                                                   nameOf(title).constData(), options.count(), options.data());
     if (status <= IPP_STATUS_OK_EVENTS_COMPLETE && m_id > 0) return Outcome::done();
-    return lastCupsError(QStringLiteral("the job is not taken"));
+    return lastCupsError(Faults::tr("the job is not taken"));
   }
 
   Outcome send(Document& document, const QByteArray& format, const Options& options, bool isLast,
                const std::function<bool(qint64)>& progress) {
-    const QString attempt = QStringLiteral("%1 is not taken").arg(document.name);
+    const QString attempt = Faults::tr("%1 is not taken").arg(document.name);
     if (cupsStartDestDocument(m_server.http(), &m_destination, m_info, m_id,
                               nameOf(document.name).constData(), format.constData(), options.count(),
                               options.data(), isLast ? 1 : 0) != HTTP_STATUS_CONTINUE) {
@@ -132,7 +133,7 @@ class OpenJob {
     qint64 sent = 0;
     QByteArray block(blockSize, Qt::Uninitialized);
     for (;;) {
-      if (!progress(sent)) return Outcome::failed(QStringLiteral("the job was stopped"));
+      if (!progress(sent)) return Outcome::failed(Faults::tr("the job was stopped"));
       const ssize_t count = readSome(document.file->handle(), &block);
       if (count < 0 && errno == EINTR) continue;
       if (count < 0) return Outcome::failed(document.name + QStringLiteral(": ") + qt_error_string(errno));
@@ -196,8 +197,7 @@ Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& j
   if (Outcome opened = openDocuments(job.files, goesOn, &documents); !opened) return opened;
   const DestInfo info(cupsCopyDestInfo(server.http(), &destination));
   if (!info)
-    return lastCupsError(
-        QStringLiteral("the queue %1 cannot be asked").arg(QString::fromUtf8(destination.name)));
+    return lastCupsError(Faults::tr("the queue %1 cannot be asked").arg(QString::fromUtf8(destination.name)));
   Options options;
   gatherOptions(job, destination, &options);
   const QString format =

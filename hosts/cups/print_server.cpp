@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include "hosts/cups/faults.h"
+
 namespace kesto {
 namespace {
 
@@ -86,7 +88,7 @@ Outcome lastCupsError(const QString& attempt) {
   // A wait that was given up is no error to libcups.
   const QString reason = cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE
                              ? QString::fromUtf8(cupsLastErrorString())
-                             : QStringLiteral("the print server does not answer");
+                             : Faults::tr("the print server does not answer");
   return Outcome::failed(attempt + QStringLiteral(": ") + reason);
 }
 
@@ -108,7 +110,7 @@ Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds l
   const QString name = QStringLiteral("%1:%2").arg(QString::fromUtf8(cupsServer())).arg(ippPort());
   http_t* http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                               static_cast<int>(limit.count()), nullptr);
-  if (http == nullptr) return lastCupsError(QStringLiteral("the print server %1 does not answer").arg(name));
+  if (http == nullptr) return lastCupsError(Faults::tr("the print server %1 does not answer").arg(name));
   server->reset(new PrintServer(http));
   httpSetTimeout(http, std::chrono::duration<double>(limit).count(), giveUp, nullptr);
   return Outcome::done();
@@ -125,7 +127,7 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
   return name.isNull()
              ? Outcome::failed(QStringLiteral("there is no default queue, or LPDEST or PRINTER names none; "
                                               "choose one with -d"))
-             : lastCupsError(QStringLiteral("the queue %1 cannot be had").arg(name));
+             : lastCupsError(Faults::tr("the queue %1 cannot be had").arg(name));
 }
 
 // libcups looks for a queue on connections of its own as well, which wait for a minute: a server that is
@@ -141,7 +143,7 @@ Outcome PrintServer::probe() {
 // The reply is read in blocks: libcups's own reading of it takes a system call for nearly every value.
 Outcome PrintServer::exchange(ipp_t* request, QByteArray* reply) {
   if (cupsSendRequest(http(), request, "/", ippLength(request)) != HTTP_STATUS_CONTINUE) {
-    return lastCupsError(QStringLiteral("the print server does not take the request"));
+    return lastCupsError(Faults::tr("the print server does not take the request"));
   }
   http_status_t status = HTTP_STATUS_CONTINUE;
   while (status == HTTP_STATUS_CONTINUE)
@@ -151,15 +153,15 @@ Outcome PrintServer::exchange(ipp_t* request, QByteArray* reply) {
     // A wait that was given up leaves no error behind.
     const int error = httpError(http()) == 0 ? ETIMEDOUT : httpError(http());
     const char* text = status == HTTP_STATUS_ERROR ? std::strerror(error) : httpStatus(status);
-    return Outcome::failed(QStringLiteral("the print server does not answer: ") + QString::fromUtf8(text));
+    return Outcome::failed(Faults::tr("the print server does not answer") + QStringLiteral(": ") +
+                           QString::fromUtf8(text));
   }
   QByteArray block(65536, Qt::Uninitialized);
   ssize_t count = 0;
   while ((count = httpRead2(http(), block.data(), static_cast<std::size_t>(block.size()))) > 0) {
     reply->append(block.constData(), count);
   }
-  return count == 0 ? Outcome::done()
-                    : Outcome::failed(QStringLiteral("the print server's answer breaks off"));
+  return count == 0 ? Outcome::done() : Outcome::failed(Faults::tr("the print server's answer breaks off"));
 }
 
 Outcome PrintServer::request(ipp_t* request, Ipp* reply) {
@@ -168,7 +170,7 @@ Outcome PrintServer::request(ipp_t* request, Ipp* reply) {
   reply->reset(ippNew());
   Reader reader{bytes};
   if (ippReadIO(&reader, readFromMemory, 1, nullptr, reply->get()) == IPP_STATE_DATA) return Outcome::done();
-  return Outcome::failed(QStringLiteral("the print server's answer is not readable"));
+  return Outcome::failed(Faults::tr("the print server's answer is not readable"));
 }
 
 Outcome PrintServer::ask(ipp_t* request, Ipp* reply, ipp_status_t allowed) {

@@ -101,10 +101,6 @@ QWidget* GeneralPane::makePages() {
   return row;
 }
 
-void GeneralPane::setCopies(int copies) {
-  m_copies->setValue(copies);
-}
-
 void GeneralPane::setPages(const QString& pages) {
   m_pages->setText(pages);
   (pages.isEmpty() ? m_allPages : m_somePages)->setChecked(true);
@@ -132,8 +128,8 @@ void GeneralPane::addOption(const PpdOption& option) {
   combo->setObjectName(option.keyword);
   auto* label = new QLabel(this);
   label->setBuddy(combo);
-  setPlainText(*label, termFor(option.keyword, option.text + u':'));
-  combo->setAccessibleName(plainText(*label).chopped(1));
+  setPlainText(*label, termFor(option.keyword, withColon(option.text)));
+  combo->setAccessibleName(withoutColon(plainText(*label)));
   m_form->addRow(label, combo);
   const Row row{option.keyword, combo, option.marked};
   m_rows.push_back(row);
@@ -152,7 +148,7 @@ void GeneralPane::takeChoice(const Row& row) {
 
 bool GeneralPane::choose(const QString& option, const QString& choice) {
   if (option == u"copies") {
-    setCopies(choice.toInt());
+    m_copies->setValue(choice.toInt());
   } else if (option == u"collate") {
     m_collate->setChecked(choice == u"true");
   } else if (option == u"page-ranges") {

@@ -23,7 +23,6 @@ class GeneralPane : public QWidget {
  public:
   explicit GeneralPane(QWidget* parent);
 
-  void setCopies(int copies);
   /// Asks for these pages; for all of them when the text is empty.
   void setPages(const QString& pages);
   /// Offers the options of a queue; the PPD must outlive them. Null takes them away.

@@ -50,8 +50,10 @@ void JobSession::renameJob(const QString& jobName) {
   const QString before = m_host->settings->jobName().value_or(QString());
   m_host->settings->setJobName(jobName);
   auto* field = view() == nullptr ? nullptr : view()->control<TextField>(QStringLiteral("jobNameEditText"));
-  if (field != nullptr && field->isEditable() && field->stringValue() == before)
-    field->setStringValue(jobName);
+  if (field == nullptr || !field->isEditable() || field->stringValue() != before) return;
+  field->setStringValue(jobName);
+  // A job that is confirmed already travels under its new name.
+  panel()->saveValuesAndReturnError(nullptr);
 }
 
 bool JobSession::confirm() {

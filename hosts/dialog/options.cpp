@@ -46,7 +46,10 @@ class CommandLine {
     addText("--pane", &m_options.pane)->check(CLI::IsMember({"general", "job-handling", "summary"}));
     m_app.add_flag("-E", m_options.server.encrypt);
     m_app.add_flag("--timings", m_options.timings);
-    m_app.add_option("-n", m_options.copies)->transform(wholeNumber(1, 9999));
+    const auto setCopies = [this](const std::string& copies) {
+      m_options.jobOptions.insert(QStringLiteral("copies"), QString::fromStdString(copies));
+    };
+    m_app.add_option_function<std::string>("-n", setCopies)->transform(wholeNumber(1, 9999));
     m_app.add_option("--portal", m_options.channel)
         ->transform(wholeNumber(3, 1 << 20))
         ->check(faultOfDescriptor);

@@ -15,8 +15,7 @@ struct PrintOptions {
   QString queue;  ///< Null for the user's default queue.
   QString title;  ///< Null for the document's own name.
   QStringList files;
-  int copies = 1;
-  QMap<QString, QString> jobOptions;  ///< Options of the job beside those of the dialog.
+  QMap<QString, QString> jobOptions;  ///< Those that the dialog has a control for it starts with.
   ServerAddress server;
   bool documentLater = false;  ///< The document comes only after the choice, drawn as was chosen.
   bool timings = false;        ///< Measure the start, print it and end.

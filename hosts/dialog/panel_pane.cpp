@@ -33,10 +33,10 @@ QString stemOf(const QString& name) {
   return name;
 }
 
-QString withoutColon(QString text) {
-  while (text.endsWith(u':'))
-    text.chop(1);
-  return text;
+// Where the labels of a grid begin on the page.
+int leftOf(const QGridLayout& grid, const QWidget& page) {
+  const QWidget* parent = grid.parentWidget();
+  return parent->mapTo(&page, parent->contentsRect().topLeft()).x() + grid.contentsMargins().left();
 }
 
 }  // namespace
@@ -119,11 +119,16 @@ void PanelPane::describeHoldButton(QWidget& button, const QString& stem) {
 void PanelPane::alignLabels() {
   for (const auto* tabs : findChildren<QTabWidget*>()) {
     for (int i = 0; i < tabs->count(); ++i) {
+      const QWidget& page = *tabs->widget(i);
+      const QList<QGridLayout*> grids = page.findChildren<QGridLayout*>();
       int widest = 0;
-      for (const auto* label : tabs->widget(i)->findChildren<QLabel*>())
+      for (const auto* label : page.findChildren<QLabel*>())
         widest = qMax(widest, label->sizeHint().width());
-      for (auto* grid : tabs->widget(i)->findChildren<QGridLayout*>())
-        grid->setColumnMinimumWidth(0, widest);
+      int inmost = 0;
+      for (const auto* grid : grids)
+        inmost = qMax(inmost, leftOf(*grid, page));
+      for (auto* grid : grids)
+        grid->setColumnMinimumWidth(0, widest + inmost - leftOf(*grid, page));
     }
   }
 }

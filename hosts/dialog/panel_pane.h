@@ -23,7 +23,7 @@ class PanelPane : public QWidget {
   /// Loads the panel's form; images are looked for among the bundle's resources. On failure `*pane` is null.
   static Outcome make(PanelView& view, const Bundle& bundle, std::unique_ptr<PanelPane>* pane);
 
-  /// Gives the labels of all groups on a page one width, once they have their final texts.
+  /// Lets the labels of all groups on a page end at the same place, once they have their final texts.
   void alignLabels();
   /// Puts right, after a restore, what the form offers twice.
   void alignChoices();

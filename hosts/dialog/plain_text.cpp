@@ -1,5 +1,6 @@
 #include "hosts/dialog/plain_text.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QHash>
 #include <QtCore/QSet>
 #include <QtCore/QStringList>
@@ -101,9 +102,8 @@ QString withMnemonic(const QString& text, QChar letter) {
     if (beginsWord) break;
   }
   if (place >= 0) return escaped(text.first(place)) + u'&' + text[place] + escaped(text.sliced(place + 1));
-  const bool hasColon = text.endsWith(u':');
-  const QString stem = hasColon ? text.chopped(1) : text;
-  return escaped(stem) + QStringLiteral("(&%1)").arg(letter) + QLatin1String(hasColon ? ":" : "");
+  const QString stem = withoutColon(text);
+  return escaped(stem) + QStringLiteral("(&%1)").arg(letter) + text.sliced(stem.size());
 }
 
 // Pages of tab widgets are seen apart from each other; everything else of a scope is seen together.
@@ -205,6 +205,17 @@ void setPlainText(QWidget& widget, const QString& text) {
 
 QString plainText(const QWidget& widget) {
   return widget.property(plainTextProperty).toString();
+}
+
+QString withColon(const QString& text) {
+  return QCoreApplication::translate("PlainText", "%1:", "a label").arg(text);
+}
+
+QString withoutColon(const QString& text) {
+  qsizetype end = text.size();
+  while (end > 0 && (text[end - 1] == u':' || text[end - 1].isSpace()))
+    --end;
+  return text.first(end);
 }
 
 void assignMnemonics(QWidget& window) {

@@ -71,15 +71,18 @@ void PortalPrint::open(const QJsonObject& message) {
   m_choice = choiceAskedFor(m_settings, m_pageSetup);
   m_options.documentLater = !message.value(u"document").toBool();
   m_options.title = message.value(u"title").toString();
-  m_options.copies = m_choice.copies;
   m_options.jobOptions.insert(jobOptionsOf(m_choice));
+  // Of what the client leaves out, what the user keeps for the queue counts.
+  if (m_settings.contains(u"n-copies"))
+    m_options.jobOptions.insert(QStringLiteral("copies"), QString::number(m_choice.copies));
+  if (m_settings.contains(u"collate"))
+    m_options.jobOptions.insert(QStringLiteral("collate"),
+                                QLatin1String(m_choice.isCollated ? "true" : "false"));
   if (m_options.queue.isNull() && !m_choice.printer.isEmpty()) m_options.queue = m_choice.printer;
   m_dialog = std::make_unique<PrintDialog>(m_options, m_document);
   connect(m_dialog.get(), &PrintDialog::settled, this, &PortalPrint::preset);
   connect(m_dialog.get(), &PrintDialog::chosen, this, &PortalPrint::takeChoice);
   connect(m_dialog.get(), &QDialog::finished, this, &PortalPrint::finish);
-  m_dialog->general().choose(QStringLiteral("collate"),
-                             QLatin1String(m_choice.isCollated ? "true" : "false"));
   if (m_choice.pages == PortalPages::Ranges) m_dialog->general().setPages(m_choice.pageRanges);
   attachTo(message.value(u"parentWindow").toString());
   m_dialog->show();

@@ -131,16 +131,26 @@ void Preview::show(const QString& path, const QString& text) {
   m_pageCount = 0;
   m_isPdf = !path.isNull() && isPdfFile(path);
   m_isSettled = false;
-  if (m_isPdf) {
-    m_sheet->show({}, {});
-    countPages();
-    drawPage();
-  } else {
-    const QImage image = path.isNull() ? QImage() : readImage(path);
-    m_pageCount = image.isNull() ? 0 : 1;
-    settle(image, path.isNull() ? text : tr("There is no preview of this kind of document."));
-  }
+  ++m_request;
   updateButtons();
+  if (path.isNull()) return settle({}, text);
+  m_sheet->show({}, {});
+  if (!m_isPdf) return readAsImage();
+  countPages();
+  drawPage();
+}
+
+// A large image takes a while.
+void Preview::readAsImage() {
+  m_reader.post([this, path = m_path, request = m_request] {
+    const QImage image = readImage(path);
+    answer(this, [this, image, request] {
+      if (request != m_request) return;
+      m_pageCount = image.isNull() ? 0 : 1;
+      updateButtons();
+      settle(image, tr("There is no preview of this kind of document."));
+    });
+  });
 }
 
 void Preview::countPages() {

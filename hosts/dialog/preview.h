@@ -7,6 +7,8 @@
 #include <QtWidgets/QWidget>
 #include <memory>
 
+#include "hosts/dialog/worker_thread.h"
+
 class QLabel;
 class QToolButton;
 
@@ -23,9 +25,6 @@ class Preview : public QWidget {
 
   /// Shows the first page of a file; nothing with `text` in its place for a null path.
   void show(const QString& path, const QString& text = {});
-  int page() const { return m_page; }
-  /// 0 while it is not known.
-  int pageCount() const { return m_pageCount; }
   /// Whether what there is to show is shown.
   bool isSettled() const { return m_isSettled; }
   QSize sizeHint() const override;
@@ -41,6 +40,7 @@ class Preview : public QWidget {
   class Sheet;
 
   void showPage(int page);
+  void readAsImage();
   void countPages();
   void drawPage();
   void takePage();
@@ -49,7 +49,8 @@ class Preview : public QWidget {
 
   QString m_path;
   int m_page = 1;
-  int m_pageCount = 0;
+  int m_pageCount = 0;  // 0 while it is not known
+  int m_request = 0;
   bool m_isPdf = false;
   bool m_isSettled = true;
   Sheet* m_sheet;
@@ -59,6 +60,7 @@ class Preview : public QWidget {
   QTimer m_redraw;
   std::unique_ptr<QProcess> m_counting;
   std::unique_ptr<QProcess> m_drawing;
+  WorkerThread m_reader;
 };
 
 }  // namespace kesto

@@ -28,13 +28,13 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
     : m_options(options),
       m_document(document),
       m_wanted(options.queue),
+      m_given(options.jobOptions.keys()),
       m_watch(options.server),
       m_client(options.server) {
   m_alerts.setWindow(this);
   build();
   connectParts();
-  m_general->setCopies(options.copies);
-  m_options.jobOptions = takeGeneral(m_options.jobOptions);
+  m_options.jobOptions = takeGeneral(options.jobOptions);
   m_chooser->setCurrent(m_wanted);
   showDocument();
   updateControls();
@@ -82,6 +82,7 @@ void PrintDialog::chooseQueue(const QString& name) {
 
 void PrintDialog::leaveQueue() {
   m_isSettled = false;
+  m_openFault = QString();
   setWindowTitle(tr("Print"));
   m_general->setPpd(nullptr, {});
   for (QWidget* pane : {static_cast<QWidget*>(m_panelPane), static_cast<QWidget*>(m_summary)}) {
@@ -113,12 +114,24 @@ QMap<QString, QString> PrintDialog::takeGeneral(const QMap<QString, QString>& op
 
 // What the user keeps for the queue is shown, and travels only as it is shown.
 void PrintDialog::takeKeptOptions(cups_dest_t& destination) {
-  const QMap<QString, QString> chosen = m_general->jobOptions();
+  const auto drop = [&](const char* name) {
+    destination.num_options = cupsRemoveOption(name, destination.num_options, &destination.options);
+  };
+  const QStringList chosen = m_given + m_general->jobOptions().keys();
   for (const char* name : {"copies", "collate", "page-ranges"}) {
     const QString kept = optionOf(destination, name);
     if (!kept.isEmpty() && !chosen.contains(QLatin1String(name)))
       m_general->choose(QLatin1String(name), kept);
-    destination.num_options = cupsRemoveOption(name, destination.num_options, &destination.options);
+    drop(name);
+  }
+  // Under the PPD's name another choice takes their place.
+  for (const char* name : {"sides", "media"}) {
+    const auto [option, choice] = ppdNameOf(QLatin1String(name), optionOf(destination, name));
+    if (m_general->chosen(option).isNull()) continue;
+    drop(name);
+    if (m_general->chosen(option) == choice)
+      destination.num_options = cupsAddOption(option.toUtf8().constData(), choice.toUtf8().constData(),
+                                              destination.num_options, &destination.options);
   }
 }
 
@@ -127,7 +140,7 @@ void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
   const Outcome taken = m_session.take(queue, jobName());
   PrintDialogPanel* panel = m_session.panel();
   m_general->setPpd(m_session.ppd(), panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys());
-  takeKeptOptions(*queue->destination);
+  if (queue->destination) takeKeptOptions(*queue->destination);
   m_otherOptions = takeGeneral(m_options.jobOptions);
   m_chooser->setCurrent(m_wanted);
   m_chooser->showState();
@@ -153,22 +166,26 @@ void PrintDialog::takeNoQueue(const QString& reason) {
     m_options.queue.clear();
     return chooseQueue({});
   }
-  m_isSettled = true;
-  m_chooser->showText(reason, true);
-  if (m_isListed || !m_wanted.isNull()) settleWithout();
+  m_openFault = reason;
+  settleWithout();
 }
 
 // The queue that was asked for is not there. Without a default queue the first one that takes jobs is as good
 // as any, once the list is there.
 void PrintDialog::settleWithout() {
-  if (!m_isSettled || m_session.queue()) return;
-  if (m_wanted.isNull() && m_listFault.isNull()) {
+  if (m_openFault.isNull()) return;
+  QString fault = m_openFault;
+  if (m_wanted.isNull() && !m_listFault.isNull()) {
+    fault = m_listFault;
+  } else if (m_wanted.isNull()) {
+    if (!m_isListed) return;
     for (const QueueSummary& queue : m_chooser->model().queues()) {
       if (queue.isAccepting) return chooseQueue(queue.name);
     }
-    m_chooser->showText(tr("There is no printer that takes jobs."), true);
+    fault = tr("There is no printer that takes jobs.");
   }
-  Q_EMIT settled();
+  m_chooser->showText(fault, true);
+  if (!std::exchange(m_isSettled, true)) Q_EMIT settled();
 }
 
 void PrintDialog::showPanel() {
@@ -194,9 +211,17 @@ void PrintDialog::updateSummary() {
 }
 
 void PrintDialog::retry() {
-  if (!m_listFault.isNull()) m_watch.start();
+  if (!m_listFault.isNull()) {
+    m_listFault = QString();
+    m_isListed = false;
+    m_watch.start();
+  }
   m_chooser->showText(tr("Asking the print server…"), false);
-  if (!m_session.queue()) m_client.open(m_wanted);
+  if (m_session.queue()) return;
+  // The default queue may be there by now: the list is no answer before that is known.
+  m_openFault = QString();
+  m_isSettled = false;
+  m_client.open(m_wanted);
 }
 
 void PrintDialog::showDocument() {

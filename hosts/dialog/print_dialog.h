@@ -108,9 +108,11 @@ class PrintDialog : public QDialog {
   DialogAlerts m_alerts;
   JobSession m_session{m_alerts};
   QString m_wanted;                       // the chosen queue, null for the default one
+  QStringList m_given;                    // names of options that count more than those kept for the queue
   QMap<QString, QString> m_otherOptions;  // of the job, beside what the panes have
+  QString m_openFault;                    // why the wanted queue is not there, null while it may be
   QString m_listFault;
-  bool m_isListed = false;  // or known not to be
+  bool m_isListed = false;
   bool m_isStarted = false;
   bool m_isSettled = false;
   Phase m_phase = Phase::Choosing;

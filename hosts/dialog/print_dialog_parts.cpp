@@ -135,10 +135,9 @@ void PrintDialog::connectParts() {
   });
   connect(&m_watch, &QueueWatch::failed, this, [this](const QString& reason) {
     m_listFault = reason;
-    m_isListed = true;
     if (m_session.queue()) return;
     m_chooser->showText(reason, true);
-    if (m_wanted.isNull()) settleWithout();
+    settleWithout();
   });
   connect(&m_client, &QueueClient::opened, this, &PrintDialog::takeQueue);
   connect(&m_client, &QueueClient::openFailed, this, &PrintDialog::takeNoQueue);

@@ -51,7 +51,7 @@ void SummaryPane::show(const QMap<QString, QString>& summary) {
     value->setWordWrap(true);
     value->setAccessibleName(it.key());
     value->setAccessibleDescription(it.value());
-    m_form->addRow(it.key() + u':', value);
+    m_form->addRow(withColon(it.key()), value);
   }
 }
 

@@ -134,6 +134,14 @@
     </message>
 </context>
 <context>
+    <name>PlainText</name>
+    <message>
+        <source>%1:</source>
+        <comment>a label</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kesto::Document</name>
     <message>
         <source>%1 is a folder</source>
@@ -157,6 +165,157 @@
             <numerusform>%1 und %n weitere Datei</numerusform>
             <numerusform>%1 und %n weitere Dateien</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>kesto::Faults</name>
+    <message>
+        <source>the digest of the pass code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the pass code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the spool time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder&apos;s pass code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the user number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the account number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the user name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the job&apos;s name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the queue %1 takes no job</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the job %1-%2 cannot be cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what other users see is not told: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bundle gives no panel for the print dialog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the panel has no layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JobHandling.pde is neither beside the program nor in the library folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: line %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the PPD cannot be kept: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the PPD of %1 cannot be had: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a preset cannot keep the name of this folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no preset &quot;%1&quot;; this queue has none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no preset &quot;%1&quot;; there are: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the preset &quot;%1&quot; is damaged and left as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the presets of this queue cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the presets of this queue are damaged and left as they are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the preset &quot;%1&quot; is for another printer model, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: is a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the job is not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the job was stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the queue %1 cannot be asked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the print server does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the print server %1 does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the queue %1 cannot be had</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the print server does not take the request</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the print server&apos;s answer breaks off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the print server&apos;s answer is not readable</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
