@@ -138,7 +138,7 @@
     <message>
         <source>%1:</source>
         <comment>a label</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
@@ -171,151 +171,151 @@
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>die Prüfsumme der PIN</translation>
     </message>
     <message>
         <source>the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>die PIN</translation>
     </message>
     <message>
         <source>the spool time</source>
-        <translation type="unfinished"></translation>
+        <translation>der Zeitpunkt des Auftrags</translation>
     </message>
     <message>
         <source>the folder&apos;s pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>die PIN des Ordners</translation>
     </message>
     <message>
         <source>the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ordner</translation>
     </message>
     <message>
         <source>the user number</source>
-        <translation type="unfinished"></translation>
+        <translation>die Benutzernummer</translation>
     </message>
     <message>
         <source>the account number</source>
-        <translation type="unfinished"></translation>
+        <translation>die Kontonummer</translation>
     </message>
     <message>
         <source>the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>der Benutzername</translation>
     </message>
     <message>
         <source>the job&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>der Auftragsname</translation>
     </message>
     <message>
         <source>the queue %1 takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>die Warteschlange %1 nimmt keinen Auftrag an</translation>
     </message>
     <message>
         <source>the job %1-%2 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>der Auftrag %1-%2 lässt sich nicht abbrechen</translation>
     </message>
     <message>
         <source>what other users see is not told: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>was andere Benutzer sehen, ist nicht zu erfahren: %1</translation>
     </message>
     <message>
         <source>the bundle gives no panel for the print dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>das Bündel liefert kein Feld für den Druckdialog</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
-        <translation type="unfinished"></translation>
+        <translation>das Feld hat kein Layout</translation>
     </message>
     <message>
         <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation type="unfinished"></translation>
+        <translation>JobHandling.pde liegt weder neben dem Programm noch im Bibliotheksordner</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Zeile %2: %3</translation>
     </message>
     <message>
         <source>the PPD cannot be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die PPD kann nicht abgelegt werden: %1</translation>
     </message>
     <message>
         <source>the PPD of %1 cannot be had: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>die PPD von %1 ist nicht zu bekommen: %2</translation>
     </message>
     <message>
         <source>a preset cannot keep the name of this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Voreinstellung kann den Namen dieses Ordners nicht aufnehmen</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Voreinstellung „%1“; diese Warteschlange hat keine</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Voreinstellung „%1“; es gibt: %2</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is damaged and left as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>die Voreinstellung „%1“ ist beschädigt und bleibt, wie sie ist</translation>
     </message>
     <message>
         <source>the presets of this queue cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>die Voreinstellungen dieser Warteschlange lassen sich nicht lesen</translation>
     </message>
     <message>
         <source>the presets of this queue are damaged and left as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>die Voreinstellungen dieser Warteschlange sind beschädigt und bleiben, wie sie sind</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>die Voreinstellung „%1“ gehört zu einem anderen Druckermodell, %2</translation>
     </message>
     <message>
         <source>standard input cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>die Standardeingabe lässt sich nicht lesen</translation>
     </message>
     <message>
         <source>%1: is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ist ein Ordner</translation>
     </message>
     <message>
         <source>the job is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>der Auftrag wird nicht angenommen</translation>
     </message>
     <message>
         <source>%1 is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird nicht angenommen</translation>
     </message>
     <message>
         <source>the job was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>der Auftrag wurde abgebrochen</translation>
     </message>
     <message>
         <source>the queue %1 cannot be asked</source>
-        <translation type="unfinished"></translation>
+        <translation>die Warteschlange %1 lässt sich nicht abfragen</translation>
     </message>
     <message>
         <source>the print server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>der Druckserver antwortet nicht</translation>
     </message>
     <message>
         <source>the print server %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>der Druckserver %1 antwortet nicht</translation>
     </message>
     <message>
         <source>the queue %1 cannot be had</source>
-        <translation type="unfinished"></translation>
+        <translation>die Warteschlange %1 ist nicht zu bekommen</translation>
     </message>
     <message>
         <source>the print server does not take the request</source>
-        <translation type="unfinished"></translation>
+        <translation>der Druckserver nimmt die Anfrage nicht an</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
-        <translation type="unfinished"></translation>
+        <translation>die Antwort des Druckservers bricht ab</translation>
     </message>
     <message>
         <source>the print server&apos;s answer is not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>die Antwort des Druckservers ist nicht lesbar</translation>
     </message>
 </context>
 <context>

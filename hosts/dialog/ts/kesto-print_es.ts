@@ -138,7 +138,7 @@
     <message>
         <source>%1:</source>
         <comment>a label</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
@@ -171,151 +171,151 @@
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>el resumen del código de acceso</translation>
     </message>
     <message>
         <source>the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>el código de acceso</translation>
     </message>
     <message>
         <source>the spool time</source>
-        <translation type="unfinished"></translation>
+        <translation>la hora del trabajo</translation>
     </message>
     <message>
         <source>the folder&apos;s pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>el código de la carpeta</translation>
     </message>
     <message>
         <source>the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta</translation>
     </message>
     <message>
         <source>the user number</source>
-        <translation type="unfinished"></translation>
+        <translation>el número de usuario</translation>
     </message>
     <message>
         <source>the account number</source>
-        <translation type="unfinished"></translation>
+        <translation>el número de cuenta</translation>
     </message>
     <message>
         <source>the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre de usuario</translation>
     </message>
     <message>
         <source>the job&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre del trabajo</translation>
     </message>
     <message>
         <source>the queue %1 takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>la cola %1 no acepta trabajos</translation>
     </message>
     <message>
         <source>the job %1-%2 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>el trabajo %1-%2 no se puede cancelar</translation>
     </message>
     <message>
         <source>what other users see is not told: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no se sabe qué ven otros usuarios: %1</translation>
     </message>
     <message>
         <source>the bundle gives no panel for the print dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>el módulo no ofrece ningún panel para el diálogo de impresión</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
-        <translation type="unfinished"></translation>
+        <translation>el panel no tiene disposición</translation>
     </message>
     <message>
         <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation type="unfinished"></translation>
+        <translation>JobHandling.pde no está ni junto al programa ni en la carpeta de bibliotecas</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: línea %2: %3</translation>
     </message>
     <message>
         <source>the PPD cannot be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede guardar el PPD: %1</translation>
     </message>
     <message>
         <source>the PPD of %1 cannot be had: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede obtener el PPD de %1: %2</translation>
     </message>
     <message>
         <source>a preset cannot keep the name of this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>un preajuste no puede guardar el nombre de esta carpeta</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe el preajuste «%1»; esta cola no tiene ninguno</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe el preajuste «%1»; existen: %2</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is damaged and left as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>el preajuste «%1» está dañado y se deja como está</translation>
     </message>
     <message>
         <source>the presets of this queue cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pueden leer los preajustes de esta cola</translation>
     </message>
     <message>
         <source>the presets of this queue are damaged and left as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>los preajustes de esta cola están dañados y se dejan como están</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>el preajuste «%1» es de otro modelo de impresora, %2</translation>
     </message>
     <message>
         <source>standard input cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede leer la entrada estándar</translation>
     </message>
     <message>
         <source>%1: is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: es una carpeta</translation>
     </message>
     <message>
         <source>the job is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>no se acepta el trabajo</translation>
     </message>
     <message>
         <source>%1 is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>no se acepta %1</translation>
     </message>
     <message>
         <source>the job was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>el trabajo se ha detenido</translation>
     </message>
     <message>
         <source>the queue %1 cannot be asked</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede consultar la cola %1</translation>
     </message>
     <message>
         <source>the print server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el servidor de impresión no responde</translation>
     </message>
     <message>
         <source>the print server %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el servidor de impresión %1 no responde</translation>
     </message>
     <message>
         <source>the queue %1 cannot be had</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede obtener la cola %1</translation>
     </message>
     <message>
         <source>the print server does not take the request</source>
-        <translation type="unfinished"></translation>
+        <translation>el servidor de impresión no acepta la petición</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
-        <translation type="unfinished"></translation>
+        <translation>la respuesta del servidor de impresión se interrumpe</translation>
     </message>
     <message>
         <source>the print server&apos;s answer is not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>la respuesta del servidor de impresión no se puede leer</translation>
     </message>
 </context>
 <context>

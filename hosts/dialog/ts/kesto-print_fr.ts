@@ -138,7 +138,7 @@
     <message>
         <source>%1:</source>
         <comment>a label</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -171,151 +171,151 @@
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>l’empreinte du code d’accès</translation>
     </message>
     <message>
         <source>the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>le code d’accès</translation>
     </message>
     <message>
         <source>the spool time</source>
-        <translation type="unfinished"></translation>
+        <translation>l’heure du travail</translation>
     </message>
     <message>
         <source>the folder&apos;s pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>le code d’accès du dossier</translation>
     </message>
     <message>
         <source>the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier</translation>
     </message>
     <message>
         <source>the user number</source>
-        <translation type="unfinished"></translation>
+        <translation>le numéro d’utilisateur</translation>
     </message>
     <message>
         <source>the account number</source>
-        <translation type="unfinished"></translation>
+        <translation>le numéro de compte</translation>
     </message>
     <message>
         <source>the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom d’utilisateur</translation>
     </message>
     <message>
         <source>the job&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom du travail</translation>
     </message>
     <message>
         <source>the queue %1 takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>la file %1 n’accepte pas de travail</translation>
     </message>
     <message>
         <source>the job %1-%2 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>le travail %1-%2 ne peut pas être annulé</translation>
     </message>
     <message>
         <source>what other users see is not told: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de savoir ce que voient les autres utilisateurs&#xa0;: %1</translation>
     </message>
     <message>
         <source>the bundle gives no panel for the print dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>le module ne fournit aucun panneau pour la boîte d’impression</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
-        <translation type="unfinished"></translation>
+        <translation>le panneau n’a pas de mise en page</translation>
     </message>
     <message>
         <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation type="unfinished"></translation>
+        <translation>JobHandling.pde n’est ni à côté du programme ni dans le dossier des bibliothèques</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: ligne %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>the PPD cannot be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le PPD ne peut pas être conservé&#xa0;: %1</translation>
     </message>
     <message>
         <source>the PPD of %1 cannot be had: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le PPD de %1 n’a pas pu être obtenu&#xa0;: %2</translation>
     </message>
     <message>
         <source>a preset cannot keep the name of this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>un préréglage ne peut pas garder le nom de ce dossier</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de préréglage «&#xa0;%1&#xa0;»&#xa0;; cette file n’en a aucun</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de préréglage «&#xa0;%1&#xa0;»&#xa0;; il y a&#xa0;: %2</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is damaged and left as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>le préréglage «&#xa0;%1&#xa0;» est endommagé et reste tel quel</translation>
     </message>
     <message>
         <source>the presets of this queue cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>les préréglages de cette file ne peuvent pas être lus</translation>
     </message>
     <message>
         <source>the presets of this queue are damaged and left as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>les préréglages de cette file sont endommagés et restent tels quels</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le préréglage «&#xa0;%1&#xa0;» est pour un autre modèle d’imprimante, %2</translation>
     </message>
     <message>
         <source>standard input cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>l’entrée standard ne peut pas être lue</translation>
     </message>
     <message>
         <source>%1: is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: est un dossier</translation>
     </message>
     <message>
         <source>the job is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>le travail n’est pas accepté</translation>
     </message>
     <message>
         <source>%1 is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas accepté</translation>
     </message>
     <message>
         <source>the job was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>le travail a été interrompu</translation>
     </message>
     <message>
         <source>the queue %1 cannot be asked</source>
-        <translation type="unfinished"></translation>
+        <translation>la file %1 ne peut pas être interrogée</translation>
     </message>
     <message>
         <source>the print server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur d’impression ne répond pas</translation>
     </message>
     <message>
         <source>the print server %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur d’impression %1 ne répond pas</translation>
     </message>
     <message>
         <source>the queue %1 cannot be had</source>
-        <translation type="unfinished"></translation>
+        <translation>la file %1 n’a pas pu être obtenue</translation>
     </message>
     <message>
         <source>the print server does not take the request</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur d’impression n’accepte pas la requête</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
-        <translation type="unfinished"></translation>
+        <translation>la réponse du serveur d’impression s’interrompt</translation>
     </message>
     <message>
         <source>the print server&apos;s answer is not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>la réponse du serveur d’impression est illisible</translation>
     </message>
 </context>
 <context>

@@ -138,7 +138,7 @@
     <message>
         <source>%1:</source>
         <comment>a label</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
@@ -170,151 +170,151 @@
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>暗証番号のダイジェスト</translation>
     </message>
     <message>
         <source>the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>暗証番号</translation>
     </message>
     <message>
         <source>the spool time</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの時刻</translation>
     </message>
     <message>
         <source>the folder&apos;s pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーの暗証番号</translation>
     </message>
     <message>
         <source>the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー</translation>
     </message>
     <message>
         <source>the user number</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー番号</translation>
     </message>
     <message>
         <source>the account number</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウント番号</translation>
     </message>
     <message>
         <source>the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー名</translation>
     </message>
     <message>
         <source>the job&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ名</translation>
     </message>
     <message>
         <source>the queue %1 takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>キュー %1 はジョブを受け付けません</translation>
     </message>
     <message>
         <source>the job %1-%2 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1-%2 を取り消せません</translation>
     </message>
     <message>
         <source>what other users see is not told: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ほかのユーザーに見える内容がわかりません: %1</translation>
     </message>
     <message>
         <source>the bundle gives no panel for the print dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>バンドルに印刷ダイアログ用のパネルがありません</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
-        <translation type="unfinished"></translation>
+        <translation>パネルのレイアウトがありません</translation>
     </message>
     <message>
         <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation type="unfinished"></translation>
+        <translation>JobHandling.pde がプログラムの隣にもライブラリのフォルダーにもありません</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 行目: %3</translation>
     </message>
     <message>
         <source>the PPD cannot be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD を保存できません: %1</translation>
     </message>
     <message>
         <source>the PPD of %1 cannot be had: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の PPD を取得できません: %2</translation>
     </message>
     <message>
         <source>a preset cannot keep the name of this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットにこのフォルダー名を保存できません</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット「%1」はありません。このキューにはプリセットがありません</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット「%1」はありません。あるのは: %2</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is damaged and left as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット「%1」は壊れているため、そのまま残します</translation>
     </message>
     <message>
         <source>the presets of this queue cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>このキューのプリセットを読み取れません</translation>
     </message>
     <message>
         <source>the presets of this queue are damaged and left as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>このキューのプリセットは壊れているため、そのまま残します</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット「%1」は別の機種 %2 用です</translation>
     </message>
     <message>
         <source>standard input cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力を読み取れません</translation>
     </message>
     <message>
         <source>%1: is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: フォルダーです</translation>
     </message>
     <message>
         <source>the job is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブが受け付けられません</translation>
     </message>
     <message>
         <source>%1 is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 が受け付けられません</translation>
     </message>
     <message>
         <source>the job was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブは中止されました</translation>
     </message>
     <message>
         <source>the queue %1 cannot be asked</source>
-        <translation type="unfinished"></translation>
+        <translation>キュー %1 に問い合わせできません</translation>
     </message>
     <message>
         <source>the print server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーが応答しません</translation>
     </message>
     <message>
         <source>the print server %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー %1 が応答しません</translation>
     </message>
     <message>
         <source>the queue %1 cannot be had</source>
-        <translation type="unfinished"></translation>
+        <translation>キュー %1 を取得できません</translation>
     </message>
     <message>
         <source>the print server does not take the request</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーが要求を受け付けません</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーの応答が途切れました</translation>
     </message>
     <message>
         <source>the print server&apos;s answer is not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーの応答を読み取れません</translation>
     </message>
 </context>
 <context>

@@ -138,7 +138,7 @@
     <message>
         <source>%1:</source>
         <comment>a label</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
@@ -170,151 +170,151 @@
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN 码的摘要</translation>
     </message>
     <message>
         <source>the pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN 码</translation>
     </message>
     <message>
         <source>the spool time</source>
-        <translation type="unfinished"></translation>
+        <translation>作业时间</translation>
     </message>
     <message>
         <source>the folder&apos;s pass code</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹 PIN 码</translation>
     </message>
     <message>
         <source>the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹</translation>
     </message>
     <message>
         <source>the user number</source>
-        <translation type="unfinished"></translation>
+        <translation>用户编号</translation>
     </message>
     <message>
         <source>the account number</source>
-        <translation type="unfinished"></translation>
+        <translation>账户编号</translation>
     </message>
     <message>
         <source>the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>用户名</translation>
     </message>
     <message>
         <source>the job&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>作业名</translation>
     </message>
     <message>
         <source>the queue %1 takes no job</source>
-        <translation type="unfinished"></translation>
+        <translation>队列 %1 不接受作业</translation>
     </message>
     <message>
         <source>the job %1-%2 cannot be cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>无法取消作业 %1-%2</translation>
     </message>
     <message>
         <source>what other users see is not told: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法得知其他用户看到的内容：%1</translation>
     </message>
     <message>
         <source>the bundle gives no panel for the print dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>插件包没有提供打印对话框面板</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
-        <translation type="unfinished"></translation>
+        <translation>面板没有布局</translation>
     </message>
     <message>
         <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation type="unfinished"></translation>
+        <translation>JobHandling.pde 既不在程序旁边，也不在库文件夹中</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：第 %2 行：%3</translation>
     </message>
     <message>
         <source>the PPD cannot be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法保存 PPD：%1</translation>
     </message>
     <message>
         <source>the PPD of %1 cannot be had: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法取得 %1 的 PPD：%2</translation>
     </message>
     <message>
         <source>a preset cannot keep the name of this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>预设无法保存此文件夹的名称</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation type="unfinished"></translation>
+        <translation>没有预设“%1”；此队列没有预设</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有预设“%1”；现有：%2</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is damaged and left as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>预设“%1”已损坏，保持原样</translation>
     </message>
     <message>
         <source>the presets of this queue cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取此队列的预设</translation>
     </message>
     <message>
         <source>the presets of this queue are damaged and left as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>此队列的预设已损坏，保持原样</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>预设“%1”用于另一打印机型号 %2</translation>
     </message>
     <message>
         <source>standard input cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取标准输入</translation>
     </message>
     <message>
         <source>%1: is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：是文件夹</translation>
     </message>
     <message>
         <source>the job is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>作业未被接受</translation>
     </message>
     <message>
         <source>%1 is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 未被接受</translation>
     </message>
     <message>
         <source>the job was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>作业已停止</translation>
     </message>
     <message>
         <source>the queue %1 cannot be asked</source>
-        <translation type="unfinished"></translation>
+        <translation>无法查询队列 %1</translation>
     </message>
     <message>
         <source>the print server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器没有响应</translation>
     </message>
     <message>
         <source>the print server %1 does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器 %1 没有响应</translation>
     </message>
     <message>
         <source>the queue %1 cannot be had</source>
-        <translation type="unfinished"></translation>
+        <translation>无法取得队列 %1</translation>
     </message>
     <message>
         <source>the print server does not take the request</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器不接受请求</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
-        <translation type="unfinished"></translation>
+        <translation>打印服务器的响应中断</translation>
     </message>
     <message>
         <source>the print server&apos;s answer is not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取打印服务器的响应</translation>
     </message>
 </context>
 <context>
