@@ -154,7 +154,7 @@ void bindPopUp(PopUp& control, QComboBox& widget) {
 
 void bindLabel(TextField& control, QLabel& widget) {
   follow(control, widget, [&control, &widget] {
-    const QString text = control.stringValue();
+    const QString& text = control.stringValue();
     setPlainText(widget, text.endsWith(u':') ? withColon(withoutColon(text)) : text);
     // The disabled colours of the theme are its gray.
     widget.setEnabled(control.textColor() != TextField::Color::Gray);
