@@ -110,6 +110,18 @@ void expectMnemonics(const QWidget& window) {
   }
 }
 
+// The labels before the fields of a pane: how they end, and where.
+void expectAligned(const QWidget& pane) {
+  QSet<int> ends;
+  for (const auto* label : pane.findChildren<QLabel*>()) {
+    if (!label->isVisible() || label->buddy() == nullptr) continue;
+    ends.insert(label->mapTo(&pane, QPoint(label->width(), 0)).x());
+    const bool hasColon = label->text().endsWith(QLocale().language() == QLocale::French ? u"\u00A0:" : u":");
+    EXPECT_TRUE(hasColon) << label->text();
+  }
+  EXPECT_LE(ends.size(), 1);
+}
+
 QPalette darkPalette() {
   QPalette palette(QColor(50, 50, 52), QColor(43, 43, 45));
   palette.setColor(QPalette::Base, QColor(32, 32, 34));
@@ -158,6 +170,7 @@ class DialogLook : public testing::Test {
     expectInPlace(*m_dialog);
     expectNamed(*m_dialog);
     expectMnemonics(*m_dialog);
+    expectAligned(*m_dialog->findChild<PanelPane*>());
     const QString file = u"%1/%2-%3-%4-%5.png"_s.arg(m_pictures, QLocale().name())
                              .arg(m_percent)
                              .arg(QLatin1String(theme), page);
@@ -190,6 +203,7 @@ class DialogLook : public testing::Test {
 TEST_F(DialogLook, IsWholeInLightAndDark) {
   if (QLocale().language() != QLocale::English) {
     EXPECT_NE(m_dialog->windowTitle(), u"Print"_s) << "not translated";
+    EXPECT_FALSE(m_dialog->findChild<QLabel*>(u"printerState"_s)->text().contains(u"does not answer"));
   }
   expectPages("light");
   QApplication::setPalette(darkPalette());

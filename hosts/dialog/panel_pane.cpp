@@ -33,6 +33,21 @@ QString stemOf(const QString& name) {
   return name;
 }
 
+// The width that the first column of a grid needs by itself, with what is hidden now.
+int firstColumnOf(const QGridLayout& grid) {
+  int widest = 0;
+  for (int i = 0; i < grid.count(); ++i) {
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid.getItemPosition(i, &row, &column, &rows, &columns);
+    const QWidget* widget = grid.itemAt(i)->widget();
+    if (column == 0 && columns == 1 && widget != nullptr) widest = qMax(widest, widget->sizeHint().width());
+  }
+  return widest;
+}
+
 // Where the labels of a grid begin on the page.
 int leftOf(const QGridLayout& grid, const QWidget& page) {
   const QWidget* parent = grid.parentWidget();
@@ -122,11 +137,11 @@ void PanelPane::alignLabels() {
       const QWidget& page = *tabs->widget(i);
       const QList<QGridLayout*> grids = page.findChildren<QGridLayout*>();
       int widest = 0;
-      for (const auto* label : page.findChildren<QLabel*>())
-        widest = qMax(widest, label->sizeHint().width());
       int inmost = 0;
-      for (const auto* grid : grids)
+      for (const auto* grid : grids) {
+        widest = qMax(widest, firstColumnOf(*grid));
         inmost = qMax(inmost, leftOf(*grid, page));
+      }
       for (auto* grid : grids)
         grid->setColumnMinimumWidth(0, widest + inmost - leftOf(*grid, page));
     }
