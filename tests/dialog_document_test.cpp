@@ -99,6 +99,7 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
   auto* forward = widgetNamed<QToolButton>(m_preview, u"Next page"_s);
   const auto* position = m_preview.findChild<QLabel*>();
   m_preview.show(report);
+  m_preview.resize(2 * m_preview.size());  // while the page is drawn for the size before
   const QImage first = sheet();
   EXPECT_TRUE(DialogUser::waitUntil([&] { return position->text() == u"Page 1 of 3"_s; }, u"the number"_s));
   EXPECT_FALSE(back->isEnabled());
@@ -108,8 +109,10 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
   forward->click();
   EXPECT_FALSE(forward->isEnabled());
   back->click();
+  qputenv("LC_ALL", "ja_JP.UTF-8");  // where other fonts are preferred
   back->click();
   EXPECT_EQ(sheet(), first);
+  qunsetenv("LC_ALL");
   const QByteArray path = qgetenv("PATH");
   qputenv("PATH", "/nowhere");
   m_preview.show(report);
@@ -118,9 +121,11 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
 }
 
 TEST_F(DialogPreview, AnImageIsAPageOfItsShape) {
-  for (const QSize& size : {QSize(40, 20), QSize(5000, 2500)}) {
-    QImage image(size, QImage::Format_Indexed8);
-    image.setColorTable({qRgb(0, 0, 255)});
+  for (const auto& [width, format] : {std::pair(40, QImage::Format_Indexed8),
+                                      {5000, QImage::Format_Indexed8},
+                                      {5000, QImage::Format_Mono}}) {
+    QImage image(width, width / 2, format);
+    image.setColorTable({qRgb(0, 0, 255), qRgb(255, 0, 0)});
     image.fill(0);
     ASSERT_TRUE(image.save(m_folder.path(u"image.png"_s)));
     m_preview.show(m_folder.path(u"image.png"_s));

@@ -1,4 +1,6 @@
 // What the dialog shows of a job's options, and what travels.
+#include <fcntl.h>
+
 #include <QtWidgets/QSpinBox>
 #include <array>
 
@@ -24,7 +26,7 @@ QString attributeOfFirstJob(const ServerAddress& address, const char* name) {
 }
 
 TEST_F(DialogPrint, WhatIsShownIsWhatTravels) {
-  m_folder.write(u"lpoptions"_s, "Default Office_MFP copies=4 page-ranges=3\n");
+  m_folder.write(u"lpoptions"_s, "Default Office_MFP copies=4 page-ranges=3 sides=two-sided-short-edge\n");
   qputenv("HOME", m_folder.path(u""_s).toUtf8());
   QDir().mkdir(m_folder.path(u".cups"_s));
   QFile::rename(m_folder.path(u"lpoptions"_s), m_folder.path(u".cups/lpoptions"_s));
@@ -44,13 +46,29 @@ TEST_F(DialogPrint, WhatIsShownIsWhatTravels) {
   click(u"print"_s);
   await([this] { return m_dialog->job() > 0; }, u"the job"_s);
   m_printer->waitForLog("job 1");
-  const std::pair<const char*, QString> expected[] = {{"copies", u""_s},
-                                                      {"page-ranges", u"2-2"_s},
-                                                      {"sides", u""_s},
-                                                      {"media", u"Custom.10x10cm"_s},
-                                                      {"PageSize", u"A5"_s}};
+  const std::pair<const char*, QString> expected[] = {
+      {"copies", u""_s},     {"page-ranges", u"2-2"_s},      {"sides", u""_s},
+      {"Duplex", u"None"_s}, {"media", u"Custom.10x10cm"_s}, {"PageSize", u"A5"_s}};
   for (const auto& [name, value] : expected)
     EXPECT_EQ(attributeOfFirstJob(m_options.server, name), value) << name;
+  m_options.jobOptions = {{u"copies"_s, u"1"_s}};
+  openReady();
+  EXPECT_EQ(widget<QSpinBox>(u"copies"_s)->value(), 1) << "given for the job";
+}
+
+TEST_F(DialogPrint, ADocumentThatComesAfterTheChoiceBringsItsName) {
+  startPrinter();
+  m_options.title = u"Window"_s;
+  m_options.documentLater = true;
+  m_options.channel = 0;
+  openReady({});
+  click(u"print"_s);
+  EXPECT_FALSE(m_dialog->isVisible());
+  m_document.readDescriptor(::open(qPrintable(m_folder.path(u"report.pdf"_s)), O_RDONLY), u"Plan"_s);
+  await([this] { return m_dialog->job() > 0; }, u"the job"_s);
+  EXPECT_EQ(attributeOfFirstJob(m_options.server, "job-name"), u"Plan"_s);
+  EXPECT_EQ(m_dialog->jobSettings().value(u"kesto.print.PrintSettings.jobName"_s),
+            QString::fromLatin1(QByteArray("Plan").toHex().toUpper()));
 }
 
 }  // namespace

@@ -91,6 +91,8 @@ TEST_F(DialogPrint, ASilentServerIsToldAndAskedAgain) {
   await([this] { return widget(u"retry"_s)->isVisible(); }, u"the fault"_s);
   EXPECT_TRUE(text(u"printerState"_s).contains(u"does not answer"_s)) << text(u"printerState"_s);
   EXPECT_FALSE(widget(u"print"_s)->isEnabled());
+  EXPECT_EQ(widget(u"print"_s)->toolTip(), u""_s) << "the document is there";
+  EXPECT_EQ(widget<QComboBox>(u"printer"_s)->placeholderText(), u"No printer"_s);
   type(u"copies"_s, u"3"_s);
   click(u"retry"_s);
   EXPECT_FALSE(widget(u"retry"_s)->isVisible());
@@ -146,6 +148,9 @@ TEST_F(DialogPrint, TheFirstQueueThatTakesJobsStandsInForOneThatIsMissing) {
     EXPECT_EQ(tip(0), u"takes no jobs"_s);
     EXPECT_EQ(tip(1), u"ready"_s);
   }
+  DemoProcess program(m_folder, builtProgram("kesto-print"),
+                      {u"-h"_s, m_options.server.address, u"--timings"_s});
+  EXPECT_EQ(program.code(), 0) << program.log();
 }
 
 TEST_F(DialogPrint, ADocumentIsChosenInTheDialog) {

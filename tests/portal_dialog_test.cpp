@@ -3,6 +3,7 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 
+#include "hosts/dialog/general_pane.h"
 #include "hosts/dialog/portal_print.h"
 #include "support/printing.h"
 
@@ -25,7 +26,8 @@ TEST(PortalDialog, EndsWithItsServiceOrItsDocument) {
     QString answers;
     QObject::connect(service.get(), &PrintChannel::received,
                      [&](const QJsonObject& message) { answers += message.value(u"answer"_s).toString(); });
-    ASSERT_TRUE(service->send({{u"do"_s, u"open"_s}, {u"document"_s, true}}));
+    const QJsonObject settings{{u"n-copies"_s, u"2"_s}, {u"collate"_s, u"false"_s}};
+    ASSERT_TRUE(service->send({{u"do"_s, u"open"_s}, {u"document"_s, true}, {u"settings"_s, settings}}));
     if (command.isNull()) {
       service.reset();
     } else {
@@ -35,6 +37,12 @@ TEST(PortalDialog, EndsWithItsServiceOrItsDocument) {
     EXPECT_EQ(QApplication::exec(), 0) << command;
     QCoreApplication::processEvents();
     EXPECT_EQ(answers, told) << command;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      auto* dialog = qobject_cast<PrintDialog*>(window);
+      if (dialog == nullptr) continue;
+      EXPECT_EQ(dialog->general().jobOptions(),
+                (QMap<QString, QString>{{u"copies"_s, u"2"_s}, {u"collate"_s, u"false"_s}}));
+    }
   }
 }
 
