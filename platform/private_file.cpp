@@ -49,9 +49,17 @@ void removeAbandoned(const QString& path) {
   }
 }
 
+// A file that is as it is to become needs no sync of the disk, which costs more than all the rest.
+bool isAlready(const QString& path, const QByteArray& bytes) {
+  constexpr QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                        QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+  return (QFile::permissions(path) & others) == 0 && readOwnFile(path, bytes.size()) == bytes;
+}
+
 }  // namespace
 
 Outcome writePrivateFile(const QString& path, const QByteArray& bytes) {
+  if (isAlready(path, bytes)) return Outcome::done();
   removeAbandoned(path);
   // A QTemporaryFile has mode 0600 from its creation on, and goes with its object unless it is renamed. Where
   // the file system can, it has no name before it is asked for: a writer that is killed then leaves nothing.

@@ -10,7 +10,8 @@
 namespace kesto {
 
 /// Writes the whole file with mode 0600 or leaves what is there: into a temporary file beside it, synced,
-/// renamed. A link in the file's place is replaced, not followed.
+/// renamed. A link in the file's place is replaced, not followed. A private file that holds the bytes already
+/// stays untouched.
 Outcome writePrivateFile(const QString& path, const QByteArray& bytes);
 
 /// The bytes of a regular file of this user's, at most `limit` of them; none for a link, a pipe, a folder,

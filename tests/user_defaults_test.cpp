@@ -58,6 +58,24 @@ TEST_F(JsonUserDefaultsTest, WrittenPrivatelyAndReadByAnother) {
   EXPECT_EQ(modeOf(folder), 0700U) << "a folder open to others";
 }
 
+TEST_F(JsonUserDefaultsTest, WhatIsThereAlreadyIsNotWrittenAgain) {
+  const auto writeInode = [&](const QJsonObject& written) {
+    EXPECT_TRUE(defaults.setPersistentDomain(written, domain));
+    struct stat info {};
+    EXPECT_EQ(::lstat(QFile::encodeName(file).constData(), &info), 0);
+    EXPECT_TRUE(S_ISREG(info.st_mode) && (info.st_mode & 077) == 0);
+    return info.st_ino;
+  };
+  const ino_t first = writeInode(values);
+  EXPECT_EQ(writeInode(values), first);
+  EXPECT_NE(writeInode({{u"a"_s, 2}}), first) << "the same size, other bytes";
+  const ino_t last = writeInode(values);
+  ASSERT_EQ(::chmod(QFile::encodeName(file).constData(), 0640), 0);
+  EXPECT_NE(writeInode(values), last) << "others could read it";
+  ASSERT_TRUE(QFile::rename(file, path(u"elsewhere"_s)) && QFile::link(path(u"elsewhere"_s), file));
+  writeInode(values);
+}
+
 TEST_F(JsonUserDefaultsTest, NamesArePercentEncoded) {
   const QStringList names{u"Az09._-"_s, u"../up"_s, u"a b~c%"_s, u"Büro"_s, u"a/b"_s, u".."_s};
   for (const QString& name : names)
