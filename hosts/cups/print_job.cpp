@@ -7,6 +7,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <cerrno>
+#include <initializer_list>
 
 #include "hosts/cups/faults.h"
 #include "platform/text_encoding.h"
@@ -19,11 +20,6 @@ constexpr qsizetype longestName = 255;
 // How often it is asked whether to go on while nobody writes the document.
 constexpr int questionMs = 200;
 
-struct FreeDestInfo {
-  void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
-};
-using DestInfo = std::unique_ptr<cups_dinfo_t, FreeDestInfo>;
-
 // libcups's option array, freed with its owner.
 class Options {
  public:
@@ -34,8 +30,11 @@ class Options {
 
   void add(const char* name, const char* value) { m_count = cupsAddOption(name, value, m_count, &m_options); }
   bool has(const char* name) const { return cupsGetOption(name, m_count, m_options) != nullptr; }
-  int count() const { return m_count; }
-  cups_option_t* data() const { return m_options; }
+  // Adds those that libcups knows to belong into the groups of a request.
+  void encode(ipp_t* request, std::initializer_list<ipp_tag_t> groups) const {
+    for (const ipp_tag_t group : groups)
+      cupsEncodeOptions2(request, m_count, m_options, group);
+  }
 
  private:
   int m_count = 0;
@@ -104,32 +103,32 @@ ssize_t readSome(int descriptor, QByteArray* block) {
   return -1;
 }
 
-// A job that is created and not yet whole; cancelled unless it is kept.
+// A job that is created and not yet whole; cancelled unless it is kept. Made of libcups's requests, since its
+// calls for a job first ask the printer for every attribute, value by value.
 class OpenJob {
  public:
-  OpenJob(PrintServer& server, cups_dest_t& destination, cups_dinfo_t* info)
-      : m_server(server), m_destination(destination), m_info(info) {}
+  OpenJob(PrintServer& server, const cups_dest_t& destination)
+      : m_server(server), m_queue(destination.name), m_resource("/printers/" + m_queue) {}
   ~OpenJob() {
-    if (m_id > 0 && !m_isKept) cupsCancelDestJob(m_server.http(), &m_destination, m_id);
+    if (m_id > 0 && !m_isKept) cupsCancelJob2(m_server.http(), m_queue.constData(), m_id, 0);
   }
   OpenJob(const OpenJob&) = delete;
   OpenJob& operator=(const OpenJob&) = delete;
 
   Outcome create(const QString& title, const Options& options) {
-    const ipp_status_t status = cupsCreateDestJob(m_server.http(), &m_destination, m_info, &m_id,
-                                                  nameOf(title).constData(), options.count(), options.data());
-    if (status <= IPP_STATUS_OK_EVENTS_COMPLETE && m_id > 0) return Outcome::done();
+    Ipp request = requestFor(IPP_OP_CREATE_JOB);
+    addName(request.get(), "job-name", title);
+    options.encode(request.get(), {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION});
+    const Ipp reply(cupsDoRequest(m_server.http(), request.release(), m_resource.constData()));
+    m_id = ippGetInteger(ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER), 0);
+    if (cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE && m_id > 0) return Outcome::done();
     return lastCupsError(Faults::tr("the job is not taken"));
   }
 
   Outcome send(Document& document, const QByteArray& format, const Options& options, bool isLast,
                const std::function<bool(qint64)>& progress) {
     const QString attempt = Faults::tr("%1 is not taken").arg(document.name);
-    if (cupsStartDestDocument(m_server.http(), &m_destination, m_info, m_id,
-                              nameOf(document.name).constData(), format.constData(), options.count(),
-                              options.data(), isLast ? 1 : 0) != HTTP_STATUS_CONTINUE) {
-      return lastCupsError(attempt);
-    }
+    if (!start(document, format, options, isLast)) return lastCupsError(attempt);
     qint64 sent = 0;
     QByteArray block(blockSize, Qt::Uninitialized);
     for (;;) {
@@ -144,9 +143,9 @@ class OpenJob {
       }
       sent += count;
     }
-    const ipp_status_t status = cupsFinishDestDocument(m_server.http(), &m_destination, m_info);
+    const Ipp reply(cupsGetResponse(m_server.http(), m_resource.constData()));
     // Without an answer libcups leaves the status of an earlier one.
-    if (status > IPP_STATUS_OK_EVENTS_COMPLETE || httpGetStatus(m_server.http()) != HTTP_STATUS_OK) {
+    if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE || httpGetStatus(m_server.http()) != HTTP_STATUS_OK) {
       return lastCupsError(attempt);
     }
     return Outcome::done();
@@ -158,9 +157,33 @@ class OpenJob {
   }
 
  private:
+  Ipp requestFor(ipp_op_t operation) const {
+    Ipp request(ippNewRequest(operation));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+                 uriOfQueue(QString::fromUtf8(m_queue)).constData());
+    if (m_id > 0) ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", m_id);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    return request;
+  }
+
+  static void addName(ipp_t* request, const char* attribute, const QString& name) {
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, attribute, nullptr, nameOf(name).constData());
+  }
+
+  bool start(const Document& document, const QByteArray& format, const Options& options, bool isLast) {
+    const Ipp request = requestFor(IPP_OP_SEND_DOCUMENT);
+    addName(request.get(), "document-name", document.name);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                 format.constData());
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
+    options.encode(request.get(), {IPP_TAG_OPERATION, IPP_TAG_DOCUMENT});
+    return cupsSendRequest(m_server.http(), request.get(), m_resource.constData(), CUPS_LENGTH_VARIABLE) ==
+           HTTP_STATUS_CONTINUE;
+  }
+
   PrintServer& m_server;
-  cups_dest_t& m_destination;
-  cups_dinfo_t* m_info;
+  QByteArray m_queue;
+  QByteArray m_resource;
   int m_id = 0;
   bool m_isKept = false;
 };
@@ -189,21 +212,20 @@ QMap<QString, QString> parseJobOptions(const QString& text) {
   return options;
 }
 
-Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& job,
+Outcome sendJob(PrintServer& server, const cups_dest_t& destination, const PrintJob& job,
                 const UploadProgress& progress, int* jobId) {
   *jobId = 0;
   std::vector<Document> documents;
   const auto goesOn = [&] { return progress(1, 0, -1); };
   if (Outcome opened = openDocuments(job.files, goesOn, &documents); !opened) return opened;
-  const DestInfo info(cupsCopyDestInfo(server.http(), &destination));
-  if (!info)
-    return lastCupsError(Faults::tr("the queue %1 cannot be asked").arg(QString::fromUtf8(destination.name)));
+  // A server that is silent now could make an empty job of the request later.
+  if (Outcome answered = server.probe(); !answered) return answered;
   Options options;
   gatherOptions(job, destination, &options);
   const QString format =
       job.options.value(QStringLiteral("document-format"), QStringLiteral(CUPS_FORMAT_AUTO));
 
-  OpenJob open(server, destination, info.get());
+  OpenJob open(server, destination);
   if (Outcome created = open.create(job.title, options); !created) return created;
   for (std::size_t i = 0; i < documents.size(); ++i) {
     Document& document = documents[i];

@@ -25,8 +25,8 @@ using UploadProgress = std::function<bool(int document, qint64 sent, qint64 tota
 
 /// Opens every file, creates the job, sends its documents; `*jobId` is its number. On failure the outcome
 /// carries the reason, and nothing of the job stays with a server that still answers: but for an empty job
-/// where the server made one and yet told of an error, since libcups then gives no number to cancel it by.
-Outcome sendJob(PrintServer& server, cups_dest_t& destination, const PrintJob& job,
+/// where the server made one and told of an error in a reply that libcups cannot read.
+Outcome sendJob(PrintServer& server, const cups_dest_t& destination, const PrintJob& job,
                 const UploadProgress& progress, int* jobId);
 
 }  // namespace kesto

@@ -117,6 +117,8 @@ Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds l
 }
 
 Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
+  // libcups looks for a queue on connections of its own as well, which wait for a minute: a server that is
+  // silent is to be known before.
   if (Outcome answered = probe(); !answered) return answered;
   // "queue/instance" names a user's own set of options for the queue.
   const QByteArray queue = name.section(u'/', 0, 0).toUtf8();
@@ -130,11 +132,11 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
              : lastCupsError(Faults::tr("the queue %1 cannot be had").arg(name));
 }
 
-// libcups looks for a queue on connections of its own as well, which wait for a minute: a server that is
-// silent is to be known before.
 Outcome PrintServer::probe() {
   QByteArray reply;
   const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-name");
   Outcome answered = exchange(request.get(), &reply);
   // One that wants to know who asks has answered, too.
   return httpGetStatus(http()) == HTTP_STATUS_ERROR ? answered : Outcome::done();

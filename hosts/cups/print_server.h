@@ -48,6 +48,8 @@ class PrintServer {
   static Outcome connect(const QString& address, std::chrono::milliseconds limit,
                          std::unique_ptr<PrintServer>* server);
 
+  /// Whether the server answers at all.
+  Outcome probe();
   /// The queue `name`, or the user's default queue when it is null.
   Outcome findQueue(const QString& name, Destination* destination);
   /// All queues by name, by one request for what a summary shows.
@@ -65,8 +67,6 @@ class PrintServer {
 
  private:
   explicit PrintServer(http_t* http) : m_http(http) {}
-  // Whether the server answers at all.
-  Outcome probe();
   Outcome exchange(ipp_t* request, QByteArray* reply);
 
   std::unique_ptr<http_t, CloseHttp> m_http;

@@ -290,10 +290,6 @@
         <translation>der Auftrag wurde abgebrochen</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be asked</source>
-        <translation>die Warteschlange %1 lässt sich nicht abfragen</translation>
-    </message>
-    <message>
         <source>the print server does not answer</source>
         <translation>der Druckserver antwortet nicht</translation>
     </message>

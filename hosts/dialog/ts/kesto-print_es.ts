@@ -290,10 +290,6 @@
         <translation>el trabajo se ha detenido</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be asked</source>
-        <translation>no se puede consultar la cola %1</translation>
-    </message>
-    <message>
         <source>the print server does not answer</source>
         <translation>el servidor de impresión no responde</translation>
     </message>

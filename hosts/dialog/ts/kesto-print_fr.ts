@@ -290,10 +290,6 @@
         <translation>le travail a été interrompu</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be asked</source>
-        <translation>la file %1 ne peut pas être interrogée</translation>
-    </message>
-    <message>
         <source>the print server does not answer</source>
         <translation>le serveur d’impression ne répond pas</translation>
     </message>

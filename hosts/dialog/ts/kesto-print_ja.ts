@@ -289,10 +289,6 @@
         <translation>ジョブは中止されました</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be asked</source>
-        <translation>キュー %1 に問い合わせできません</translation>
-    </message>
-    <message>
         <source>the print server does not answer</source>
         <translation>プリントサーバーが応答しません</translation>
     </message>

@@ -289,10 +289,6 @@
         <translation>作业已停止</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be asked</source>
-        <translation>无法查询队列 %1</translation>
-    </message>
-    <message>
         <source>the print server does not answer</source>
         <translation>打印服务器没有响应</translation>
     </message>
