@@ -49,6 +49,12 @@ expect "the private library is the package's" "$root/usr/lib/.*/libkestopde" ldd
 expect "a dry run" 'jobSuspend2Key=911ED802F46F9D5E4D26EA8C8BFE070B' "$bin/kesto-lp" "${hold[@]}" <<<2468
 expect "a panel" '"queue" *: *"q"|retentionCheckBox' "$bin/kesto-panel" --queue q "${queue[@]}" \
   <<<$'{"do":"show"}\n{"do":"controls"}'
+mkdir "$scratch/planted"
+touch "$scratch/planted/libQt6Core.so.6" "$scratch/planted/libQt6Network.so.6"
+in_planted() (cd "$scratch/planted" && "$@")
+for each in "$bin" "$build/bin"; do
+  expect "no library is taken from the current folder" 'jobSuspend=' in_planted "$each/kesto-lp" "${hold[@]}" <<<2468
+done
 mv "$bundle" "$bundle.away"
 fails() { ! "$@"; }
 expect "the bundle is the package's" 'JobHandling.pde is neither' fails "$bin/kesto-lp" "${hold[@]}" <<<2468
