@@ -21,11 +21,7 @@ constexpr QFile::Permissions ownerFolder = ownerFile | QFile::ExeOwner;
 // Makes the folder and what is missing above it, for the owner alone.
 bool makePrivateFolder(const QString& path) {
   const QFileInfo info(path);
-  if (info.isDir()) {
-    return (info.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
-                                  QFile::WriteOther | QFile::ExeOther)) == 0 ||
-           QFile::setPermissions(path, ownerFolder);
-  }
+  if (info.isDir()) return isPrivate(path) || QFile::setPermissions(path, ownerFolder);
   const QString parent = info.absolutePath();
   if (!QFileInfo(parent).isDir() && parent != path && !makePrivateFolder(parent)) return false;
   // Another process may have made it meanwhile.

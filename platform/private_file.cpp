@@ -51,12 +51,16 @@ void removeAbandoned(const QString& path) {
 
 // A file that is as it is to become needs no sync of the disk, which costs more than all the rest.
 bool isAlready(const QString& path, const QByteArray& bytes) {
-  constexpr QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
-                                        QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
-  return (QFile::permissions(path) & others) == 0 && readOwnFile(path, bytes.size()) == bytes;
+  return isPrivate(path) && readOwnFile(path, bytes.size()) == bytes;
 }
 
 }  // namespace
+
+bool isPrivate(const QString& path) {
+  constexpr QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                        QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+  return (QFile::permissions(path) & others) == 0;
+}
 
 Outcome writePrivateFile(const QString& path, const QByteArray& bytes) {
   if (isAlready(path, bytes)) return Outcome::done();

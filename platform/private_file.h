@@ -9,6 +9,9 @@
 
 namespace kesto {
 
+/// Whether the file or folder, or what a link there leads to, is closed to all but its owner.
+bool isPrivate(const QString& path);
+
 /// Writes the whole file with mode 0600 or leaves what is there: into a temporary file beside it, synced,
 /// renamed. A link in the file's place is replaced, not followed. A private file that holds the bytes already
 /// stays untouched.
