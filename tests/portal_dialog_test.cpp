@@ -37,12 +37,15 @@ TEST(PortalDialog, EndsWithItsServiceOrItsDocument) {
     EXPECT_EQ(QApplication::exec(), 0) << command;
     QCoreApplication::processEvents();
     EXPECT_EQ(answers, told) << command;
+    int dialogs = 0;
     for (QWidget* window : QApplication::topLevelWidgets()) {
       auto* dialog = qobject_cast<PrintDialog*>(window);
       if (dialog == nullptr) continue;
+      ++dialogs;
       EXPECT_EQ(dialog->general().jobOptions(),
                 (QMap<QString, QString>{{u"copies"_s, u"2"_s}, {u"collate"_s, u"false"_s}}));
     }
+    EXPECT_EQ(dialogs, 1) << command;
   }
 }
 

@@ -55,7 +55,7 @@ QString titleOf(const Options& options) {
   return first == u"-" ? QStringLiteral("(stdin)") : QFileInfo(first).fileName();
 }
 
-Outcome submit(PrintServer& server, cups_dest_t& destination, const Options& options,
+Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
                const PrintSettings* settings) {
   const PrintJob job = jobOf(options, settings);
   int id = 0;

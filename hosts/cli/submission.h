@@ -12,7 +12,7 @@ QString titleOf(const Options& options);
 
 /// Sends the job that the options describe with the panel's settings, tells of a long upload at a terminal,
 /// and prints the job's number unless it is to be silent.
-Outcome submit(PrintServer& server, cups_dest_t& destination, const Options& options,
+Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
                const PrintSettings* settings);
 
 }  // namespace kesto

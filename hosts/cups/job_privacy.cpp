@@ -30,19 +30,9 @@ constexpr std::array options{
     OptionRow{"jobName", QT_TRANSLATE_NOOP("kesto::Faults", "the job's name")},
 };
 
-// A request about a queue, and about one of its jobs when that is not 0, as `user`.
-Ipp requestFor(ipp_op_t operation, const QString& queue, int job, const char* user) {
-  Ipp request(ippNewRequest(operation));
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
-               uriOfQueue(queue).constData());
-  if (job != 0) ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
-  return request;
-}
-
 // Its owner may have to say who they are, which libcups then asks for.
 Outcome createJob(PrintServer& server, const QString& queue, int* job) {
-  Ipp request = requestFor(IPP_OP_CREATE_JOB, queue, 0, cupsUser());
+  Ipp request = requestTo(IPP_OP_CREATE_JOB, uriOfQueue(queue));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, stranger);
   ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-hold-until", nullptr, "indefinite");
   for (const OptionRow& row : options)
@@ -55,7 +45,7 @@ Outcome createJob(PrintServer& server, const QString& queue, int* job) {
 }
 
 Outcome cancelJob(PrintServer& server, const QString& queue, int job) {
-  Ipp request = requestFor(IPP_OP_CANCEL_JOB, queue, job, cupsUser());
+  Ipp request = requestTo(IPP_OP_CANCEL_JOB, uriOfQueue(queue), job);
   ippAddBoolean(request.get(), IPP_TAG_OPERATION, "purge-job", 1);
   const Ipp reply(cupsDoRequest(server.http(), request.release(), "/"));
   return cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE
@@ -64,7 +54,7 @@ Outcome cancelJob(PrintServer& server, const QString& queue, int job) {
 }
 
 Outcome lookAtJob(PrintServer& server, const QString& queue, int job, QStringList* shown) {
-  const Ipp request = requestFor(IPP_OP_GET_JOB_ATTRIBUTES, queue, job, stranger);
+  const Ipp request = requestTo(IPP_OP_GET_JOB_ATTRIBUTES, uriOfQueue(queue), job, stranger);
   Ipp reply;
   // Only a server that forbids it has shown nothing; one that could not answer would have.
   Outcome asked = server.ask(request.get(), &reply, IPP_STATUS_ERROR_FORBIDDEN);
@@ -77,7 +67,7 @@ Outcome lookAtJob(PrintServer& server, const QString& queue, int job, QStringLis
 }
 
 Outcome askForPolicy(PrintServer& server, const QString& queue, QString* policy) {
-  const Ipp request = requestFor(IPP_OP_GET_PRINTER_ATTRIBUTES, queue, 0, cupsUser());
+  const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uriOfQueue(queue));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                "printer-op-policy");
   Ipp reply;

@@ -108,7 +108,10 @@ ssize_t readSome(int descriptor, QByteArray* block) {
 class OpenJob {
  public:
   OpenJob(PrintServer& server, const cups_dest_t& destination)
-      : m_server(server), m_queue(destination.name), m_resource("/printers/" + m_queue) {}
+      : m_server(server),
+        m_queue(destination.name),
+        m_uri(uriOfQueue(QString::fromUtf8(m_queue))),
+        m_resource("/printers/" + m_queue) {}
   ~OpenJob() {
     if (m_id > 0 && !m_isKept) cupsCancelJob2(m_server.http(), m_queue.constData(), m_id, 0);
   }
@@ -116,7 +119,7 @@ class OpenJob {
   OpenJob& operator=(const OpenJob&) = delete;
 
   Outcome create(const QString& title, const Options& options) {
-    Ipp request = requestFor(IPP_OP_CREATE_JOB);
+    Ipp request = requestTo(IPP_OP_CREATE_JOB, m_uri);
     addName(request.get(), "job-name", title);
     options.encode(request.get(), {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION});
     const Ipp reply(cupsDoRequest(m_server.http(), request.release(), m_resource.constData()));
@@ -157,21 +160,12 @@ class OpenJob {
   }
 
  private:
-  Ipp requestFor(ipp_op_t operation) const {
-    Ipp request(ippNewRequest(operation));
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
-                 uriOfQueue(QString::fromUtf8(m_queue)).constData());
-    if (m_id > 0) ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", m_id);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    return request;
-  }
-
   static void addName(ipp_t* request, const char* attribute, const QString& name) {
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, attribute, nullptr, nameOf(name).constData());
   }
 
   bool start(const Document& document, const QByteArray& format, const Options& options, bool isLast) {
-    const Ipp request = requestFor(IPP_OP_SEND_DOCUMENT);
+    const Ipp request = requestTo(IPP_OP_SEND_DOCUMENT, m_uri, m_id);
     addName(request.get(), "document-name", document.name);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                  format.constData());
@@ -183,6 +177,7 @@ class OpenJob {
 
   PrintServer& m_server;
   QByteArray m_queue;
+  QByteArray m_uri;
   QByteArray m_resource;
   int m_id = 0;
   bool m_isKept = false;

@@ -103,6 +103,14 @@ QByteArray uriOfQueue(const QString& queue) {
   return uri.data();
 }
 
+Ipp requestTo(ipp_op_t operation, const QByteArray& printerUri, int job, const char* user) {
+  Ipp request(ippNewRequest(operation));
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, printerUri.constData());
+  if (job != 0) ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
+  return request;
+}
+
 Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds limit,
                              std::unique_ptr<PrintServer>* server) {
   server->reset();

@@ -78,6 +78,9 @@ QString optionOf(const cups_dest_t& destination, const char* name);
 /// The URI by which requests name a queue.
 QByteArray uriOfQueue(const QString& queue);
 
+/// A request to the printer with this URI, about one of its jobs when `job` is not 0, as `user`.
+Ipp requestTo(ipp_op_t operation, const QByteArray& printerUri, int job = 0, const char* user = cupsUser());
+
 /// libcups's last error as an outcome, behind what was tried.
 Outcome lastCupsError(const QString& attempt);
 

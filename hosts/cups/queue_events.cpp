@@ -9,10 +9,7 @@ namespace {
 constexpr std::chrono::seconds lease = std::chrono::minutes(10);
 
 Ipp requestOf(ipp_op_t operation) {
-  Ipp request(ippNewRequest(operation));
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-  return request;
+  return requestTo(operation, "ipp://localhost/");
 }
 
 }  // namespace
