@@ -12,7 +12,7 @@
 
 #include "bench/bench_platform.h"
 #include "fuzz/panel_user.h"
-#include "hosts/cups/panel_host.h"
+#include "hosts/session/panel_host.h"
 #include "platform/json_user_defaults.h"
 #include "plugin/entry.h"
 #include "settings/value_helpers.h"

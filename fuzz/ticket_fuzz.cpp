@@ -1,9 +1,9 @@
 // The first line is the job's title, the rest its options as a filter gets them.
 #include <cstring>
 
+#include "demo/job_ticket.h"
+#include "demo/ticket_lines.h"
 #include "fuzz/targets.h"
-#include "hosts/demo/job_ticket.h"
-#include "hosts/demo/ticket_lines.h"
 
 namespace kesto::fuzz {
 

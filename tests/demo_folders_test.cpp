@@ -1,8 +1,8 @@
 // The folder service of the demo printer, seen by the real panel.
 #include <QtNetwork/QTcpSocket>
 
+#include "demo/folder_list.h"
 #include "demo_process.h"
-#include "hosts/demo/folder_list.h"
 
 namespace kesto::test {
 namespace {

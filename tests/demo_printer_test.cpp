@@ -6,8 +6,8 @@
 #include <QtCore/QEventLoop>
 #include <QtNetwork/QTcpSocket>
 
+#include "demo/printer.h"
 #include "demo_process.h"
-#include "hosts/demo/printer.h"
 
 namespace kesto::test {
 namespace {

@@ -1,2 +1,2 @@
-kesto_test(demo_test SOURCES demo_folders_test.cpp demo_printer_test.cpp LINKS kesto_host_demo Cups::Cups)
+kesto_test(demo_test SOURCES demo_folders_test.cpp demo_printer_test.cpp LINKS kesto_demo Cups::Cups)
 add_dependencies(demo_test kesto-demo-printer kesto-panel)

@@ -6,8 +6,8 @@
 #include <QtWidgets/QToolButton>
 
 #include "dialog_printer.h"
-#include "hosts/dialog/page_range.h"
-#include "hosts/dialog/preview.h"
+#include "hosts/dialog/preview/preview.h"
+#include "hosts/session/page_range.h"
 
 namespace kesto::test {
 namespace {
@@ -94,7 +94,7 @@ class DialogPreview : public DialogDocument {
 };
 
 TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
-  const QString report = QLatin1String(KESTO_TEST_DATA "/../../hosts/demo/quarterly-report.pdf");
+  const QString report = QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf");
   auto* back = widgetNamed<QToolButton>(m_preview, u"Previous page"_s);
   auto* forward = widgetNamed<QToolButton>(m_preview, u"Next page"_s);
   const auto* position = m_preview.findChild<QLabel*>();

@@ -5,7 +5,7 @@
 #include <array>
 
 #include "dialog_printer.h"
-#include "hosts/dialog/general_pane.h"
+#include "hosts/dialog/panes/general_pane.h"
 
 namespace kesto::test {
 namespace {

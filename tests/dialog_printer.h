@@ -9,8 +9,8 @@
 
 #include "demo_process.h"
 #include "hosts/dialog/print_dialog.h"
-#include "hosts/dialog/queue_list_model.h"
 #include "hosts/dialog/user/dialog_user.h"
+#include "hosts/dialog/widgets/queue_list_model.h"
 
 namespace kesto::test {
 

@@ -5,11 +5,11 @@
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QVBoxLayout>
 
-#include "hosts/cups/panel_host.h"
-#include "hosts/cups/preset_store.h"
-#include "hosts/dialog/panel_pane.h"
-#include "hosts/dialog/plain_text.h"
+#include "hosts/dialog/panel/panel_pane.h"
 #include "hosts/dialog/user/dialog_user.h"
+#include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/session/panel_host.h"
+#include "hosts/session/preset_store.h"
 #include "panel/model/panel_view.h"
 #include "platform/alert_presenter.h"
 #include "platform/bundle.h"

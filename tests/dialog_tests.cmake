@@ -2,7 +2,7 @@
 function(kesto_dialog_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
   add_executable(${name} dialog_main.cpp ${arg_SOURCES})
-  target_link_libraries(${name} PRIVATE kesto_dialog_user kesto_test_support ${arg_LINKS})
+  target_link_libraries(${name} PRIVATE kesto_host_dialog kesto_dialog_user kesto_test_support ${arg_LINKS})
   target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <QtWidgets/QWidget>)
   add_dependencies(${name} kesto_resources kesto-demo-printer kesto-lp kesto-print)
 endfunction()

@@ -6,7 +6,7 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
 
-#include "hosts/cups/panel_host.h"
+#include "hosts/session/panel_host.h"
 #include "platform/environment.h"
 #include "support/test_host.h"
 

@@ -7,7 +7,7 @@
 #include <QtCore/QEventLoop>
 #include <QtCore/QTemporaryFile>
 
-#include "hosts/portal/channel.h"
+#include "hosts/channel/channel.h"
 #include "support/printing.h"
 
 namespace kesto::test {

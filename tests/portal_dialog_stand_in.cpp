@@ -11,7 +11,7 @@
 #include <QtNetwork/QLocalSocket>
 #include <csignal>
 
-#include "hosts/portal/channel.h"
+#include "hosts/channel/channel.h"
 
 namespace {
 

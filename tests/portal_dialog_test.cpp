@@ -3,7 +3,7 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 
-#include "hosts/dialog/general_pane.h"
+#include "hosts/dialog/panes/general_pane.h"
 #include "hosts/dialog/portal_print.h"
 #include "support/printing.h"
 

@@ -360,7 +360,7 @@ class WithTheDialog(unittest.TestCase):
 
     def test_standard_input(self):
         """As the print command of an application, without the portal."""
-        report = HERE.parent / "hosts/demo/quarterly-report.pdf"
+        report = HERE.parent / "demo/quarterly-report.pdf"
         with open(report, "rb") as document:
             dialog = self.session.start([BUILD / "bin/kesto-print", "-h", self.places["server"], "-o", "number-up=2"],
                                         stdin=document, stdout=subprocess.PIPE)

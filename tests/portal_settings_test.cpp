@@ -1,7 +1,7 @@
 // What the dialog starts from, and what a client of the portal gets back for a choice.
 #include <QtCore/QJsonObject>
 
-#include "hosts/portal/portal_settings.h"
+#include "hosts/channel/portal_settings.h"
 #include "support/printing.h"
 
 namespace kesto::test {

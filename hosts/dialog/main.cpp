@@ -7,7 +7,7 @@
 
 #include "hosts/dialog/options.h"
 #include "hosts/dialog/portal_print.h"
-#include "hosts/dialog/preview.h"
+#include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/start_times.h"
 #include "hosts/dialog/translations.h"

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <iostream>
 
-#include "hosts/cli/arguments.h"
+#include "hosts/command/arguments.h"
 #include "hosts/cups/print_job.h"
 
 namespace kesto {

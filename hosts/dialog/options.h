@@ -6,7 +6,7 @@
 #include <QtCore/QStringList>
 #include <optional>
 
-#include "hosts/dialog/server_address.h"
+#include "hosts/cups/server_address.h"
 
 namespace kesto {
 

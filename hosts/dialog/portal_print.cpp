@@ -4,7 +4,7 @@
 #include <QtWidgets/QApplication>
 
 #include "hosts/cups/ppd_choices.h"
-#include "hosts/dialog/general_pane.h"
+#include "hosts/dialog/panes/general_pane.h"
 
 namespace kesto {
 namespace {

@@ -3,10 +3,10 @@
 
 #include <memory>
 
+#include "hosts/channel/channel.h"
+#include "hosts/channel/portal_settings.h"
 #include "hosts/dialog/document.h"
 #include "hosts/dialog/print_dialog.h"
-#include "hosts/portal/channel.h"
-#include "hosts/portal/portal_settings.h"
 
 namespace kesto {
 

@@ -9,13 +9,13 @@
 #include <QtWidgets/QTabWidget>
 #include <utility>
 
-#include "hosts/dialog/general_pane.h"
-#include "hosts/dialog/panel_pane.h"
-#include "hosts/dialog/plain_text.h"
-#include "hosts/dialog/preset_menu.h"
-#include "hosts/dialog/preview.h"
-#include "hosts/dialog/queue_chooser.h"
-#include "hosts/dialog/summary_pane.h"
+#include "hosts/dialog/panel/panel_pane.h"
+#include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/panes/summary_pane.h"
+#include "hosts/dialog/preview/preview.h"
+#include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/dialog/widgets/preset_menu.h"
+#include "hosts/dialog/widgets/queue_chooser.h"
 
 namespace kesto {
 namespace {

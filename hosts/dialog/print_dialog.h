@@ -4,12 +4,12 @@
 #include <QtWidgets/QDialog>
 #include <memory>
 
-#include "hosts/dialog/dialog_alerts.h"
+#include "hosts/cups/queue_client.h"
+#include "hosts/cups/queue_watch.h"
 #include "hosts/dialog/document.h"
-#include "hosts/dialog/job_session.h"
 #include "hosts/dialog/options.h"
-#include "hosts/dialog/queue_client.h"
-#include "hosts/dialog/queue_watch.h"
+#include "hosts/dialog/widgets/dialog_alerts.h"
+#include "hosts/session/job_session.h"
 
 class QDialogButtonBox;
 class QLabel;

@@ -10,14 +10,14 @@
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
 
-#include "hosts/dialog/general_pane.h"
-#include "hosts/dialog/help.h"
-#include "hosts/dialog/panel_pane.h"
-#include "hosts/dialog/plain_text.h"
-#include "hosts/dialog/preset_menu.h"
-#include "hosts/dialog/preview.h"
+#include "hosts/dialog/panel/panel_pane.h"
+#include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
-#include "hosts/dialog/queue_chooser.h"
+#include "hosts/dialog/widgets/help.h"
+#include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/dialog/widgets/preset_menu.h"
+#include "hosts/dialog/widgets/queue_chooser.h"
 
 namespace kesto {
 namespace {

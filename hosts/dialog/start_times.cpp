@@ -3,7 +3,7 @@
 #include <QtCore/QEvent>
 
 #include "hosts/dialog/print_dialog.h"
-#include "hosts/dialog/queue_list_model.h"
+#include "hosts/dialog/widgets/queue_list_model.h"
 
 namespace kesto {
 

@@ -7,8 +7,8 @@
 #include <QtCore/QSocketNotifier>
 #include <memory>
 
-#include "hosts/portal/channel.h"
-#include "hosts/portal/descriptor.h"
+#include "hosts/channel/channel.h"
+#include "hosts/channel/descriptor.h"
 #include "platform/outcome.h"
 
 namespace kesto {

@@ -2,7 +2,7 @@
 
 #include <QtCore/QLoggingCategory>
 
-#include "hosts/portal/portal_settings.h"
+#include "hosts/channel/portal_settings.h"
 
 namespace kesto {
 namespace {

@@ -7,7 +7,7 @@
 #include <QtDBus/QDBusConnectionInterface>
 #include <QtDBus/QDBusError>
 
-#include "hosts/portal/portal_settings.h"
+#include "hosts/channel/portal_settings.h"
 
 namespace kesto {
 namespace {

@@ -4,7 +4,7 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 
-#include "hosts/cups/panel_host.h"
+#include "hosts/session/panel_host.h"
 #include "panel/model/control.h"
 #include "platform/alert_presenter.h"
 

@@ -8,11 +8,11 @@
 #include <string>
 
 #include "hosts/dialog/options.h"
-#include "hosts/dialog/preview.h"
+#include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
-#include "hosts/dialog/queue_list_model.h"
 #include "hosts/dialog/translations.h"
 #include "hosts/dialog/user/dialog_user.h"
+#include "hosts/dialog/widgets/queue_list_model.h"
 
 namespace kesto {
 namespace {

@@ -1,0 +1,178 @@
+#include "demo/command_line.h"
+
+#include <QtCore/QFile>
+#include <algorithm>
+#include <cstring>
+#include <iostream>
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include "hosts/command/arguments.h"
+
+namespace kesto {
+namespace {
+
+constexpr int exitFailed = 1;
+constexpr int exitUsage = 2;
+constexpr qsizetype longestPassCode = 8;
+
+struct Arguments {
+  std::string directory;
+  std::string output;
+  std::string folders;
+  std::string misbehave;
+  int folderPort = 0;
+  std::string passCode;
+  std::string passCodeFile;
+};
+
+QString textOf(const std::string& argument) {
+  return QFile::decodeName(argument.c_str());
+}
+
+bool isPassCode(const std::string& text) {
+  const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+  return !text.empty() && text.size() <= longestPassCode && std::all_of(text.begin(), text.end(), isDigit);
+}
+
+// What a person sees when the text is none; without the text.
+std::string faultOfPassCode(const std::string& text) {
+  return isPassCode(text) ? "" : "is not 1 to 8 digits";
+}
+
+std::string faultOfMisbehaviour(const std::string& name) {
+  if (name == "list" || misbehaviourNamed(QString::fromStdString(name)) != nullptr) return "";
+  return "there is no misbehaviour " + name + "; --misbehave list shows them";
+}
+
+// Every user of the machine can read a command line.
+void hidePassCode(int argc, char** argv) {
+  constexpr std::string_view option = "--pin";
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view argument = argv[i];
+    if (argv[i - 1] == option) std::memset(argv[i], '*', argument.size());
+    if (argument.starts_with("--pin="))
+      std::memset(argv[i] + option.size(), '*', argument.size() - option.size());
+  }
+}
+
+void addPlace(CLI::App& app, Arguments& arguments) {
+  app.add_option("--dir", arguments.directory, "run folder of the printer, made and removed by it")
+      ->type_name("FOLDER");
+}
+
+void addJson(CLI::App& app, DemoCommand& command) {
+  app.add_flag("--json", command.json, "print one line of JSON");
+}
+
+void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
+  addPlace(app, arguments);
+  addJson(app, command);
+  app.add_option("--output", arguments.output,
+                 "where printed documents go and stay; else into the run folder")
+      ->type_name("FOLDER");
+  app.add_option("--folders", arguments.folders,
+                 "the printer's folders: one a line, its name, and for a locked one a tab and \"locked\"")
+      ->type_name("FILE");
+  app.add_option("--folder-port", arguments.folderPort,
+                 "port of the folder service, 0 for any; else 80 when it may be had, or any")
+      ->type_name("PORT")
+      ->transform(wholeNumber(0, 65535));
+  app.add_option("--misbehave", arguments.misbehave,
+                 "let the folder service misbehave; \"list\" shows the ways")
+      ->type_name("NAME")
+      ->check(faultOfMisbehaviour);
+  app.add_option("--queues", command.setup.queues, "have this many queues, to try long lists")
+      ->transform(wholeNumber(1, 9999));
+  app.add_flag("--folders-only", command.setup.foldersOnly, "run nothing but the folder service");
+}
+
+void addCommands(CLI::App& app, Arguments& arguments, DemoCommand& command) {
+  app.require_subcommand(0, 1);
+  CLI::App* jobs = app.add_subcommand("jobs", "lists what the running printer holds and has printed");
+  addPlace(*jobs, arguments);
+  addJson(*jobs, command);
+  jobs->callback([&command] { command.kind = DemoCommand::Kind::Jobs; });
+  CLI::App* release =
+      app.add_subcommand("release", "prints a held job; ends with 3 when the pass code is wrong");
+  addPlace(*release, arguments);
+  release->add_option("JOB", command.job, "the job's number")
+      ->required()
+      ->transform(wholeNumber(1, std::numeric_limits<int>::max()));
+  CLI::Option* pin =
+      release->add_option("--pin", arguments.passCode, "the job's pass code; other users may see it")
+          ->type_name("N")
+          ->check(faultOfPassCode);
+  release
+      ->add_option("--pin-file", arguments.passCodeFile,
+                   "file whose first line is the pass code, \"-\" for standard input")
+      ->type_name("FILE")
+      ->excludes(pin);
+  release->callback([&command] { command.kind = DemoCommand::Kind::Release; });
+}
+
+Outcome readPassCode(const QString& path, QString* passCode) {
+  QFile file(path);
+  const bool isOpen = path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+  if (!isOpen) return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
+  const QByteArray line = file.readLine().trimmed();
+  if (!isPassCode(line.toStdString()))
+    return Outcome::failed(path + QStringLiteral(": the first line is not 1 to 8 digits"));
+  *passCode = QString::fromLatin1(line);
+  return Outcome::done();
+}
+
+// The program's end when there is nothing to do, the help or the fault having been printed.
+std::optional<int> parse(CLI::App& app, int argc, char** argv) {
+  std::string fault;
+  try {
+    app.parse(argc, argv);
+    return std::nullopt;
+  } catch (const CLI::Success& help) {
+    return app.exit(help);
+  } catch (const CLI::ExtrasError&) {
+    fault = faultOfUnknown(app);
+  } catch (const CLI::ParseError& error) {
+    fault = error.what();
+  }
+  std::cerr << "kesto-demo-printer: " << fault << "\nkesto-demo-printer --help tells more.\n";
+  return exitUsage;
+}
+
+// Turns the arguments into what they stand for.
+Outcome complete(const Arguments& arguments, DemoCommand* command) {
+  DemoSetup& setup = command->setup;
+  setup.directory = arguments.directory.empty() ? RunFolder::standardPath() : textOf(arguments.directory);
+  if (!arguments.output.empty()) setup.output = textOf(arguments.output);
+  if (arguments.misbehave == "list") {
+    command->kind = DemoCommand::Kind::ListMisbehaviours;
+  } else if (!arguments.misbehave.empty()) {
+    setup.behaviour = *misbehaviourNamed(QString::fromStdString(arguments.misbehave));
+  }
+  command->passCode = QString::fromStdString(arguments.passCode);
+  if (!arguments.passCodeFile.empty())
+    return readPassCode(textOf(arguments.passCodeFile), &command->passCode);
+  return arguments.folders.empty() ? Outcome::done() : readFolders(textOf(arguments.folders), &setup.folders);
+}
+
+}  // namespace
+
+std::optional<int> parseDemoCommand(int argc, char** argv, DemoCommand* command) {
+  Arguments arguments;
+  CLI::App app("A Kesto VQ-250n of this machine's own, with a private print scheduler, until Ctrl-C.",
+               "kesto-demo-printer");
+  addRun(app, arguments, *command);
+  addCommands(app, arguments, *command);
+  refuseFlagValues(app);
+  const std::optional<int> ended = parse(app, argc, argv);
+  hidePassCode(argc, argv);
+  if (ended) return ended;
+  if (app.count("--folder-port") > 0) command->setup.folderPort = static_cast<quint16>(arguments.folderPort);
+  const Outcome completed = complete(arguments, command);
+  if (completed) return std::nullopt;
+  std::cerr << "kesto-demo-printer: " << completed.reason().toStdString() << '\n';
+  return exitFailed;
+}
+
+}  // namespace kesto

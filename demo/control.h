@@ -1,0 +1,40 @@
+// How the other commands speak with the running printer: through a socket in its run folder, one JSON object
+// a line each way. {"do":"jobs"} is answered by {"jobs":[...]}, {"do":"release","job":N,"passCode":"..."} by
+// {"release":WORD}.
+#pragma once
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QObject>
+#include <QtNetwork/QLocalServer>
+
+#include "demo/job_store.h"
+#include "platform/outcome.h"
+
+namespace kesto {
+
+/// The running printer's end.
+class ControlServer : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `store` outlives the server.
+  explicit ControlServer(JobStore& store);
+
+  /// Listens at `path`.
+  Outcome listen(const QString& path);
+
+ private:
+  void connectionArrived();
+  QJsonObject answer(const QJsonObject& request);
+
+  JobStore& m_store;
+  QLocalServer m_server;
+};
+
+/// Asks the printer that listens at `path`, and waits for its answer.
+Outcome askPrinter(const QString& path, const QJsonObject& request, QJsonObject* answer);
+
+/// The word for what came of a release, as it is in the answer.
+QString wordOf(Release release);
+
+}  // namespace kesto

@@ -1,0 +1,54 @@
+// The whole demo printer: scheduler, printer and folder service together.
+#pragma once
+
+#include <QtCore/QJsonObject>
+#include <memory>
+#include <optional>
+
+#include "demo/control.h"
+#include "demo/folder_service.h"
+#include "demo/printer.h"
+#include "demo/run_folder.h"
+#include "demo/scheduler.h"
+
+namespace kesto {
+
+/// How a demo printer is to be.
+struct DemoSetup {
+  QString directory;  ///< Its run folder.
+  QString output;     ///< Where printed documents go; null for a folder in the run folder.
+  DemoFolders folders = sampleFolders();
+  Misbehaviour behaviour;
+  std::optional<quint16> folderPort;  ///< As in `FolderService::listen`.
+  int queues = 1;                     ///< All of them the same printer's.
+  bool foldersOnly = false;           ///< Neither scheduler nor printer, and no run folder.
+};
+
+/// Name of the control socket in the run folder.
+QString controlPath(const QString& directory);
+
+/// Runs from `start` to its end, and then leaves nothing behind but printed documents in a folder of the
+/// caller's.
+class DemoPrinter {
+ public:
+  explicit DemoPrinter(const DemoSetup& setup);
+
+  /// Starts all parts. They work while the event loop runs; when the scheduler dies, the loop ends with
+  /// code 1.
+  Outcome start();
+  /// Where it is: "server", "queue", "folders" and "output", or "folders" alone.
+  QJsonObject whereabouts() const;
+
+ private:
+  Outcome startPrinting();
+
+  DemoSetup m_setup;
+  FolderService m_folderService;
+  RunFolder m_runFolder;
+  std::optional<JobStore> m_store;
+  std::optional<RawPrinter> m_printer;
+  std::optional<ControlServer> m_control;
+  std::optional<Scheduler> m_scheduler;
+};
+
+}  // namespace kesto

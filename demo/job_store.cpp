@@ -1,0 +1,96 @@
+#include "demo/job_store.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QJsonObject>
+#include <algorithm>
+
+#include "demo/log.h"
+
+namespace kesto {
+namespace {
+
+QString labelOf(const JobTicket& ticket) {
+  return QStringLiteral("job %1 from %2").arg(ticket.job).arg(ticket.user);
+}
+
+void logJob(const JobTicket& ticket, const QString& event) {
+  logLine(labelOf(ticket) + QStringLiteral(": ") + event);
+}
+
+}  // namespace
+
+QString JobStore::newDocumentPath() {
+  return QStringLiteral("%1/document-%2").arg(m_heldFolder).arg(++m_documentCount);
+}
+
+JobStore::Job* JobStore::jobNumbered(int number) {
+  const auto job =
+      std::find_if(m_jobs.begin(), m_jobs.end(), [&](const Job& each) { return each.ticket.job == number; });
+  return job == m_jobs.end() ? nullptr : &*job;
+}
+
+void JobStore::accept(const JobTicket& ticket, const QString& path) {
+  Job* job = jobNumbered(ticket.job);
+  if (job == nullptr) {
+    job = &m_jobs.emplace_back();
+    job->ticket = ticket;
+  } else if (job->ticket != ticket) {
+    logJob(ticket, QStringLiteral("thrown away: another job has its number"));
+    QFile::remove(path);
+    return;
+  }
+  const Retention retention = ticket.retention();
+  if (retention != Retention::HoldOnly && print(*job, path)) {
+    logJob(ticket, retention == Retention::PrintSampleAndHold ? QStringLiteral("printed a sample")
+                                                              : QStringLiteral("printed"));
+  }
+  if (retention == Retention::PrintAtOnce) {
+    QFile::remove(path);
+    return;
+  }
+  job->documents.append(path);
+  logJob(ticket, ticket.hasPassCode() ? QStringLiteral("held (pass code)") : QStringLiteral("held"));
+}
+
+bool JobStore::print(Job& job, const QString& document) {
+  // The folder may hold the printouts of an earlier printer.
+  QString printout;
+  do {
+    printout = QStringLiteral("%1/job-%2-%3").arg(m_outputFolder).arg(job.ticket.job).arg(++job.printouts);
+  } while (QFile::exists(printout));
+  if (QFile::copy(document, printout)) return true;
+  logJob(job.ticket, QStringLiteral("%1 cannot be written").arg(printout));
+  return false;
+}
+
+Release JobStore::release(int number, const QString& passCode) {
+  Job* job = jobNumbered(number);
+  if (job == nullptr) return Release::NoSuchJob;
+  if (job->documents.isEmpty()) return Release::NotHeld;
+  if (job->ticket.hasPassCode() && !job->ticket.opensWith(passCode)) {
+    logJob(job->ticket, QStringLiteral("not released: wrong pass code"));
+    return Release::Refused;
+  }
+  while (!job->documents.isEmpty()) {
+    if (!print(*job, job->documents.front())) return Release::Failed;
+    QFile::remove(job->documents.takeFirst());
+  }
+  logJob(job->ticket, QStringLiteral("released and printed"));
+  return Release::Printed;
+}
+
+QJsonArray JobStore::list() const {
+  QJsonArray list;
+  for (const Job& job : m_jobs) {
+    const std::optional<QString> account = job.ticket.account();
+    list.append(QJsonObject{{QStringLiteral("job"), job.ticket.job},
+                            {QStringLiteral("user"), job.ticket.user},
+                            {QStringLiteral("name"), job.ticket.name()},
+                            {QStringLiteral("account"), account ? QJsonValue(*account) : QJsonValue()},
+                            {QStringLiteral("state"),
+                             job.documents.isEmpty() ? QStringLiteral("printed") : QStringLiteral("held")}});
+  }
+  return list;
+}
+
+}  // namespace kesto

@@ -1,0 +1,127 @@
+#include "demo/run_folder.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QRegularExpression>
+#include <cerrno>
+
+namespace kesto {
+namespace {
+
+// Nobody keeps a file of this name: by it a folder is known as one that may be emptied.
+constexpr char lockName[] = "kesto-demo-printer.lock";
+// A socket's path has 107 bytes at most, and the folder holds one.
+constexpr qsizetype longestPath = 90;
+
+QByteArray encoded(const QString& path) {
+  return QFile::encodeName(path);
+}
+
+Outcome failedAt(const QString& path) {
+  return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
+}
+
+void removeAll(const QDir& folder, const QString& besides) {
+  for (const QFileInfo& entry :
+       folder.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
+    if (entry.fileName() == besides) continue;
+    if (entry.isDir() && !entry.isSymLink()) {
+      QDir(entry.filePath()).removeRecursively();
+    } else {
+      QFile::remove(entry.filePath());
+    }
+  }
+}
+
+}  // namespace
+
+QString RunFolder::standardPath() {
+  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  // Root's jobs run as another account, which that folder keeps out.
+  if (!runtime.isEmpty() && getuid() != 0) return runtime + QStringLiteral("/kesto-demo");
+  const QString temporary = qEnvironmentVariable("TMPDIR", QStringLiteral("/tmp"));
+  return temporary + QStringLiteral("/kesto-demo-%1").arg(getuid());
+}
+
+RunFolder::~RunFolder() {
+  if (!m_lock.isOpen()) return;
+  removeAll(QDir(m_path), QString::fromLatin1(lockName));
+  m_lock.remove();
+  ::rmdir(encoded(m_path).constData());
+}
+
+QString RunFolder::path(const QString& name) const {
+  return m_path + QLatin1Char('/') + name;
+}
+
+Outcome RunFolder::take(const QString& path) {
+  m_path = QDir::cleanPath(QDir(path).absolutePath());
+  // What the scheduler's configuration has its own meaning for.
+  static const QRegularExpression special(QStringLiteral("[#\\\\\"<>\\x00-\\x1f]"));
+  if (encoded(m_path).size() > longestPath || m_path.contains(special)) {
+    return Outcome::failed(
+        m_path + QStringLiteral(": the path is too long or holds special characters; name another folder"));
+  }
+  if (Outcome made = make(); !made) return made;
+  return lock();
+}
+
+Outcome RunFolder::make() const {
+  const QByteArray name = encoded(m_path);
+  if (::mkdir(name.constData(), 0700) != 0 && errno != EEXIST) return failedAt(m_path);
+  struct stat info {};
+  if (::lstat(name.constData(), &info) != 0) return failedAt(m_path);
+  if (!S_ISDIR(info.st_mode) || info.st_uid != geteuid()) {
+    return Outcome::failed(m_path + QStringLiteral(": is not a folder of this user; name another folder"));
+  }
+  if (!QFile::exists(path(QString::fromLatin1(lockName))) &&
+      !QDir(m_path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
+    return Outcome::failed(m_path + QStringLiteral(": holds other files; name an empty folder or a new one"));
+  }
+  return Outcome::done();
+}
+
+Outcome RunFolder::lock() {
+  m_lock.setFileName(path(QString::fromLatin1(lockName)));
+  // The kernel lets go of the lock however the process ends.
+  if (!m_lock.open(QIODevice::ReadWrite))
+    return Outcome::failed(m_lock.fileName() + QStringLiteral(": ") + m_lock.errorString());
+  if (::flock(m_lock.handle(), LOCK_EX | LOCK_NB) != 0) {
+    m_lock.close();
+    return Outcome::failed(m_path + QStringLiteral(": a demo printer is running there"));
+  }
+  // Only now: the printer that runs there may have opened it to the account of its jobs.
+  if (::chmod(encoded(m_path).constData(), 0700) != 0) return failedAt(m_path);
+  removeAll(QDir(m_path), QString::fromLatin1(lockName));
+  return Outcome::done();
+}
+
+Outcome RunFolder::makeFolder(const QString& name, unsigned int mode) const {
+  const QByteArray folder = encoded(path(name));
+  const bool isMade = ::mkdir(folder.constData(), mode) == 0 && ::chmod(folder.constData(), mode) == 0;
+  return isMade ? Outcome::done() : failedAt(path(name));
+}
+
+Outcome RunFolder::admitGroup(unsigned int group) const {
+  const QByteArray name = encoded(m_path);
+  if (::chown(name.constData(), static_cast<uid_t>(-1), group) != 0 || ::chmod(name.constData(), 0710) != 0) {
+    return failedAt(m_path);
+  }
+  for (QDir above(m_path); above.cdUp();) {
+    struct stat info {};
+    if (::stat(encoded(above.path()).constData(), &info) != 0) return failedAt(above.path());
+    const bool isOpen =
+        (info.st_mode & S_IXOTH) != 0 || ((info.st_mode & S_IXGRP) != 0 && info.st_gid == group);
+    if (!isOpen) {
+      return Outcome::failed(above.path() +
+                             QStringLiteral(": keeps out the account that jobs run as; name another folder"));
+    }
+  }
+  return Outcome::done();
+}
+
+}  // namespace kesto

@@ -1,0 +1,99 @@
+#include "hosts/command/secret_input.h"
+
+#include <fcntl.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <QtCore/QFile>
+#include <QtCore/QStringDecoder>
+#include <cerrno>
+#include <cstring>
+
+#include "hosts/command/held_signals.h"
+#include "platform/secret.h"
+
+namespace kesto {
+namespace {
+
+// More than any entry takes. A line that grew beyond what is reserved for it would leave copies behind.
+constexpr qsizetype longestLine = 1024;
+
+// While it lives, the terminal does not show what is typed. A signal that would end the program ends the
+// reading, and is sent again once the terminal is as it was.
+class Unseen {
+ public:
+  explicit Unseen(int terminal) : m_terminal(terminal) {
+    ::tcgetattr(m_terminal, &m_shown);
+    termios hidden = m_shown;
+    hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    ::tcsetattr(m_terminal, TCSAFLUSH, &hidden);
+  }
+  ~Unseen() { ::tcsetattr(m_terminal, TCSAFLUSH, &m_shown); }
+  Unseen(const Unseen&) = delete;
+  Unseen& operator=(const Unseen&) = delete;
+  bool isInterrupted() const { return m_signals.hasCome(); }
+
+ private:
+  HeldSignals m_signals;
+  int m_terminal;
+  termios m_shown{};
+};
+
+class Descriptor {
+ public:
+  Descriptor(const char* path, int flags) : m_number(::open(path, flags | O_CLOEXEC)) {}
+  ~Descriptor() { ::close(m_number); }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  int number() const { return m_number; }
+
+ private:
+  int m_number;
+};
+
+void show(int terminal, const QByteArray& text) {
+  // A terminal that shows nothing is answered all the same.
+  [[maybe_unused]] const ssize_t written =
+      ::write(terminal, text.constData(), static_cast<std::size_t>(text.size()));
+}
+
+// Reads byte by byte: what follows the line is not ours to take.
+Outcome readLine(int descriptor, QString* secret) {
+  QByteArray line;
+  const WipedAtEnd wiped(line);
+  line.reserve(longestLine);
+  char byte = 0;
+  ssize_t count = 0;
+  while ((count = ::read(descriptor, &byte, 1)) == 1 && byte != '\n') {
+    if (line.size() == longestLine) return Outcome::failed(QStringLiteral("the line is too long"));
+    line += byte;
+  }
+  if (count < 0) return Outcome::failed(QString::fromLocal8Bit(std::strerror(errno)));
+  if (line.endsWith('\r')) line.chop(1);
+  QStringDecoder decoder(QStringDecoder::Utf8);
+  *secret = decoder.decode(line);
+  if (decoder.hasError()) return Outcome::failed(QStringLiteral("the line is no UTF-8 text"));
+  // No code at all would print what was to be guarded by one.
+  return secret->isEmpty() ? Outcome::failed(QStringLiteral("the line is empty")) : Outcome::done();
+}
+
+}  // namespace
+
+Outcome readSecretLine(const QString& path, QString* secret) {
+  if (path == QLatin1String("-")) return readLine(STDIN_FILENO, secret);
+  const Descriptor file(QFile::encodeName(path).constData(), O_RDONLY);
+  if (file.number() >= 0) return readLine(file.number(), secret);
+  return Outcome::failed(path + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+Outcome askSecret(const QString& prompt, QString* secret) {
+  const Descriptor terminal("/dev/tty", O_RDWR | O_NOCTTY);
+  if (terminal.number() < 0) return Outcome::failed(QStringLiteral("there is no terminal to ask at"));
+  const Unseen unseen(terminal.number());
+  show(terminal.number(), prompt.toLocal8Bit() + ": ");
+  Outcome read = readLine(terminal.number(), secret);
+  show(terminal.number(), "\n");
+  return unseen.isInterrupted() ? Outcome::failed(QStringLiteral("interrupted")) : read;
+}
+
+}  // namespace kesto

@@ -1,0 +1,54 @@
+#include "hosts/cups/queue_client.h"
+
+namespace kesto {
+
+void QueueClient::open(const QString& name) {
+  const int request = ++m_request;
+  m_thread.post([this, server = m_server, name, request] {
+    auto queue = std::make_shared<Queue>();
+    std::unique_ptr<PrintServer> connection;
+    Outcome opened = server.connect(&connection);
+    if (opened) opened = openQueue(*connection, name, queue.get());
+    answer(this, [this, request, queue, opened] {
+      if (request != m_request) return;
+      if (opened) {
+        Q_EMIT this->opened(queue);
+      } else {
+        Q_EMIT openFailed(opened.reason());
+      }
+    });
+  });
+}
+
+void QueueClient::checkPrivacy(const QString& name) {
+  m_thread.post([this, server = m_server, name] {
+    JobPrivacy privacy;
+    std::unique_ptr<PrintServer> connection;
+    Outcome found = server.connect(&connection);
+    if (found) found = findJobPrivacy(*connection, name, &privacy);
+    answer(this, [this, found, privacy] { Q_EMIT privacyChecked(found, privacy); });
+  });
+}
+
+void QueueClient::send(const std::shared_ptr<Queue>& queue, const PrintJob& job) {
+  m_isStopped = false;
+  m_thread.post([this, server = m_server, queue, job] {
+    int id = 0;
+    const auto progress = [this](int /*document*/, qint64 sent, qint64 total) {
+      answer(this, [this, sent, total] { Q_EMIT progressed(sent, total); });
+      return !m_isStopped;
+    };
+    std::unique_ptr<PrintServer> connection;
+    Outcome sent = server.connect(&connection);
+    if (sent) sent = sendJob(*connection, *queue->destination, job, progress, &id);
+    answer(this, [this, id, sent] {
+      if (sent) {
+        Q_EMIT this->sent(id);
+      } else {
+        Q_EMIT sendFailed(sent.reason());
+      }
+    });
+  });
+}
+
+}  // namespace kesto

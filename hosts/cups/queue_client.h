@@ -1,0 +1,52 @@
+// One queue of a print server, opened and printed on without holding up the window.
+#pragma once
+
+#include <QtCore/QObject>
+#include <atomic>
+#include <memory>
+
+#include "hosts/cups/job_privacy.h"
+#include "hosts/cups/print_job.h"
+#include "hosts/cups/queue.h"
+#include "hosts/cups/server_address.h"
+#include "hosts/cups/worker_thread.h"
+
+namespace kesto {
+
+/// Opens one queue after the other, and sends jobs to the one that is open. Signals come in the thread of
+/// this object.
+class QueueClient : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit QueueClient(ServerAddress server) : m_server(std::move(server)) {}
+
+  /// Opens a queue, the user's default one when `name` is null. What an earlier call is still waiting for is
+  /// not told any more.
+  void open(const QString& name);
+  /// Sends a job to `queue`.
+  void send(const std::shared_ptr<Queue>& queue, const PrintJob& job);
+  /// Finds out what other users see of a job on the queue `name`.
+  void checkPrivacy(const QString& name);
+  /// Stops the job that is being sent; it then fails.
+  void stopSending() { m_isStopped = true; }
+
+ Q_SIGNALS:
+  /// The queue is open. Its PPD is the receiver's; its destination is used by this object alone.
+  void opened(const std::shared_ptr<kesto::Queue>& queue);
+  void openFailed(const QString& reason);
+  /// Bytes of the document that have gone out, and all of them (-1 when not known).
+  void progressed(qint64 sent, qint64 total);
+  void sent(int job);
+  void sendFailed(const QString& reason);
+  /// What other users see; the outcome says why it is not known.
+  void privacyChecked(const kesto::Outcome& outcome, const kesto::JobPrivacy& privacy);
+
+ private:
+  ServerAddress m_server;
+  int m_request = 0;
+  std::atomic<bool> m_isStopped = false;
+  WorkerThread m_thread;
+};
+
+}  // namespace kesto

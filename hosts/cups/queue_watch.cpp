@@ -1,0 +1,92 @@
+#include "hosts/cups/queue_watch.h"
+
+#include "hosts/cups/queue_events.h"
+
+namespace kesto {
+namespace {
+
+constexpr std::chrono::seconds pollInterval(3);
+
+}  // namespace
+
+// What the thread does; its results go out as signals of the watch.
+class QueueWatch::Follower {
+ public:
+  Follower(QueueWatch* watch, ServerAddress server) : m_watch(watch), m_address(std::move(server)) {}
+
+  void list() {
+    stop();
+    std::vector<QueueSummary> queues;
+    Outcome listed = m_address.connect(&m_server);
+    if (listed) listed = m_server->listQueues(&queues);
+    if (!listed) return report(listed);
+    answer(m_watch, [watch = m_watch, queues] { Q_EMIT watch->listed(queues); });
+    m_hasListed = true;
+    m_isLost = false;
+    // A server that gives no subscription to this user is shown as it was.
+    m_events.emplace(*m_server);
+    if (!m_events->subscribe()) m_events.reset();
+  }
+
+  void follow() {
+    if (m_isLost) return list();
+    if (!m_events) return;
+    QSet<QString> names;
+    Outcome asked = m_events->changedQueues(&names);
+    if (!asked) {
+      // The scheduler closes connections that are idle for long, and forgets subscriptions when it restarts.
+      return list();
+    }
+    for (const QString& name : std::as_const(names))
+      tell(name);
+  }
+
+  void stop() {
+    if (m_events) m_events->cancel();
+    m_events.reset();
+    m_server.reset();
+  }
+
+ private:
+  void report(const Outcome& failure) {
+    stop();
+    m_isLost = m_hasListed;
+    answer(m_watch, [watch = m_watch, reason = failure.reason()] { Q_EMIT watch->failed(reason); });
+  }
+
+  void tell(const QString& name) {
+    std::optional<QueueSummary> queue;
+    // What is not told now is told with the list, when the server is asked again.
+    if (!m_server->summarize(name, &queue)) return;
+    if (queue) {
+      answer(m_watch, [watch = m_watch, queue = *queue] { Q_EMIT watch->changed(queue); });
+    } else {
+      answer(m_watch, [watch = m_watch, name] { Q_EMIT watch->removed(name); });
+    }
+  }
+
+  QueueWatch* m_watch;
+  ServerAddress m_address;
+  std::unique_ptr<PrintServer> m_server;
+  std::optional<QueueEvents> m_events;  // none while nothing is followed
+  bool m_hasListed = false;
+  bool m_isLost = false;  // there was a list, and the server does not answer any more
+};
+
+QueueWatch::QueueWatch(const ServerAddress& server) : m_follower(std::make_shared<Follower>(this, server)) {
+  m_poll.setInterval(pollInterval);
+  m_poll.setTimerType(Qt::VeryCoarseTimer);
+  connect(&m_poll, &QTimer::timeout, this,
+          [this] { m_thread.post([follower = m_follower] { follower->follow(); }); });
+}
+
+QueueWatch::~QueueWatch() {
+  m_thread.post([follower = m_follower] { follower->stop(); });
+}
+
+void QueueWatch::start() {
+  m_thread.post([follower = m_follower] { follower->list(); });
+  m_poll.start();
+}
+
+}  // namespace kesto

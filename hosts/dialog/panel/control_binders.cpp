@@ -1,0 +1,212 @@
+#include "hosts/dialog/panel/control_binders.h"
+
+#include <QtCore/QEvent>
+#include <QtCore/QPointer>
+#include <QtGui/QIcon>
+#include <QtGui/QPainter>
+#include <QtGui/QStandardItemModel>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QTabWidget>
+
+#include "hosts/dialog/panel/field_binder.h"
+#include "hosts/dialog/widgets/plain_text.h"
+#include "panel/model/button.h"
+#include "panel/model/pop_up.h"
+#include "panel/model/radio_matrix.h"
+#include "panel/model/simple_controls.h"
+#include "panel/model/text_field.h"
+
+namespace kesto {
+namespace {
+
+// Shows the control on the widget now and after each of its changes.
+template <class Show>
+void follow(Control& control, QWidget& widget, Show show) {
+  QObject::connect(&control, &Control::changed, &widget, show);
+  show();
+}
+
+QIcon iconOf(const std::optional<Image>& off, const std::optional<Image>& on) {
+  QIcon icon;
+  if (off) icon.addFile(off->path, {}, QIcon::Normal, QIcon::Off);
+  if (on) icon.addFile(on->path, {}, QIcon::Normal, QIcon::On);
+  return icon;
+}
+
+// Shows the shapes of an icon's images in the colour of the button's text, so that they are seen in every
+// theme.
+class IconTint : public QObject {
+ public:
+  IconTint(QAbstractButton& button, QIcon shapes)
+      : QObject(&button), m_button(button), m_shapes(std::move(shapes)) {
+    button.installEventFilter(this);
+    tint();
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::PaletteChange) tint();
+    return false;
+  }
+
+ private:
+  void tint() {
+    QIcon icon;
+    for (const QIcon::State state : {QIcon::Off, QIcon::On}) {
+      for (const qreal ratio : {1.0, 2.0, 3.0}) {
+        icon.addPixmap(tinted(state, ratio, QPalette::Active), QIcon::Normal, state);
+        icon.addPixmap(tinted(state, ratio, QPalette::Disabled), QIcon::Disabled, state);
+      }
+    }
+    m_button.setIcon(icon);
+  }
+
+  QPixmap tinted(QIcon::State state, qreal ratio, QPalette::ColorGroup group) const {
+    QPixmap pixmap = m_shapes.pixmap(m_button.iconSize(), ratio, QIcon::Normal, state);
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), m_button.palette().color(group, QPalette::ButtonText));
+    return pixmap;
+  }
+
+  QAbstractButton& m_button;
+  QIcon m_shapes;
+};
+
+void dressHoldButton(const Button& control, QAbstractButton& widget) {
+  widget.setFocusPolicy(Qt::StrongFocus);
+  const int points = control.image() ? control.image()->points : Image().points;
+  widget.setIconSize(QSize(points, points));
+  // Without images of its own a control keeps those of the form.
+  new IconTint(widget, control.image() ? iconOf(control.image(), control.alternateImage()) : widget.icon());
+}
+
+void bindButton(Button& control, QAbstractButton& widget) {
+  if (control.type() == Button::Type::HoldButton) dressHoldButton(control, widget);
+  follow(control, widget, [&control, &widget] {
+    if (control.type() != Button::Type::HoldButton) setPlainText(widget, control.title());
+    widget.setEnabled(control.isEnabled());
+    widget.setChecked(control.state() != 0);
+  });
+  QObject::connect(&widget, &QAbstractButton::clicked, &control, [&control, &widget] {
+    // An action can run the event loop, in which the user may press again or close the panel.
+    const QPointer<Button> isAlive(&control);
+    const QPointer<QAbstractButton> button(&widget);
+    const bool runsLong = control.type() == Button::Type::PushButton;
+    const bool hadFocus = button->hasFocus();
+    if (runsLong) button->setEnabled(false);
+    (void)control.click();  // what is disabled cannot be clicked
+    if (isAlive && button) {
+      button->setEnabled(control.isEnabled());
+      button->setChecked(control.state() != 0);
+      if (runsLong && hadFocus) button->setFocus(Qt::OtherFocusReason);
+    }
+  });
+}
+
+void bindCell(RadioCell& cell, QAbstractButton& widget) {
+  follow(cell, widget, [&cell, &widget] {
+    setPlainText(widget, cell.title());
+    widget.setEnabled(cell.isEnabled());
+    if (cell.state() != 0) widget.setChecked(true);
+  });
+  QObject::connect(&widget, &QAbstractButton::clicked, &cell, [&cell] {
+    (void)cell.matrix()->choose(cell.row());  // as above
+  });
+}
+
+void fillItems(QComboBox& widget, const std::vector<PopUpItem>& items) {
+  auto model = std::make_unique<QStandardItemModel>(0, 1);
+  for (const PopUpItem& item : items) {
+    auto row = std::make_unique<QStandardItem>(item.title);
+    if (item.image) row->setIcon(QIcon(item.image->path));
+    if (item.separator) {
+      row->setData(QStringLiteral("separator"), Qt::AccessibleDescriptionRole);
+      row->setFlags({});
+    }
+    model->appendRow(row.release());
+  }
+  model->setParent(&widget);
+  widget.setModel(model.release());  // the widget deletes the one before
+}
+
+void bindPopUp(PopUp& control, QComboBox& widget) {
+  // Measuring a list of thousands of names again and again would cost more than a fixed width gains.
+  widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  widget.setMinimumContentsLength(16);
+  follow(control, widget, [&control, &widget, shown = std::vector<PopUpItem>()]() mutable {
+    if (shown != control.items()) {
+      shown = control.items();
+      fillItems(widget, shown);
+    }
+    widget.setCurrentIndex(control.selectedIndex());
+    widget.setEnabled(control.isEnabled());
+  });
+  QObject::connect(&widget, &QComboBox::activated, &control, [&control, &widget](int index) {
+    if (!control.choose(index)) widget.setCurrentIndex(control.selectedIndex());
+  });
+}
+
+void bindLabel(TextField& control, QLabel& widget) {
+  follow(control, widget, [&control, &widget] {
+    const QString& text = control.stringValue();
+    setPlainText(widget, text.endsWith(u':') ? withColon(withoutColon(text)) : text);
+    // The disabled colours of the theme are its gray.
+    widget.setEnabled(control.textColor() != TextField::Color::Gray);
+  });
+}
+
+void bindTabs(TabView& control, QTabWidget& widget) {
+  follow(control, widget, [&control, &widget] {
+    for (int i = 0; i < qMin(widget.count(), static_cast<int>(control.labels().size())); ++i) {
+      if (plainText(*widget.widget(i)) == control.labels().at(i)) continue;
+      setPlainText(*widget.widget(i), control.labels().at(i));
+      widget.setTabText(i, control.labels().at(i));
+    }
+    widget.setCurrentIndex(control.selectedTab());
+  });
+  QObject::connect(&widget, &QTabWidget::currentChanged, &control,
+                   [&control](int index) { control.selectTab(index); });
+}
+
+void bindProgress(ProgressIndicator& control, QProgressBar& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
+  follow(control, widget, [&control, &widget] { widget.setVisible(!control.isHidden()); });
+}
+
+void bindBox(Box& control, QGroupBox& widget) {
+  follow(control, widget, [&control, &widget] { setPlainText(widget, control.title()); });
+}
+
+void bindText(TextField& control, QWidget& widget) {
+  if (auto* label = qobject_cast<QLabel*>(&widget)) bindLabel(control, *label);
+  if (auto* line = qobject_cast<QLineEdit*>(&widget)) bindField(control, *line);
+}
+
+// Tries one pair of a control's and a widget's class.
+template <class ControlClass, class WidgetClass>
+bool tryBind(Control& control, QWidget& widget, void (*bind)(ControlClass&, WidgetClass&)) {
+  auto* suitedControl = qobject_cast<ControlClass*>(&control);
+  auto* suitedWidget = qobject_cast<WidgetClass*>(&widget);
+  if (suitedControl == nullptr || suitedWidget == nullptr) return false;
+  bind(*suitedControl, *suitedWidget);
+  return true;
+}
+
+}  // namespace
+
+bool bindControl(Control& control, QWidget& widget) {
+  return tryBind(control, widget, bindButton) || tryBind(control, widget, bindCell) ||
+         tryBind(control, widget, bindPopUp) || tryBind(control, widget, bindTabs) ||
+         tryBind(control, widget, bindProgress) || tryBind(control, widget, bindBox) ||
+         tryBind(control, widget, bindText) || qobject_cast<RadioMatrix*>(&control) != nullptr;
+}
+
+}  // namespace kesto

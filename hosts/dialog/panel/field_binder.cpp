@@ -1,0 +1,144 @@
+#include "hosts/dialog/panel/field_binder.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QAction>
+#include <QtGui/QFocusEvent>
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+#include <QtWidgets/QLineEdit>
+
+#include "panel/model/panel_view.h"
+#include "panel/model/text_field.h"
+
+namespace kesto {
+namespace {
+
+TextRange selectionOf(const QLineEdit& line) {
+  if (line.hasSelectedText()) return {line.selectionStart(), line.selectionLength()};
+  return {line.cursorPosition(), 0};
+}
+
+class FieldBinder : public QObject {
+ public:
+  FieldBinder(TextField& field, QLineEdit& line) : QObject(&line), m_field(field), m_line(line) {
+    connect(&field, &Control::changed, this, &FieldBinder::show);
+    connect(&line, &QLineEdit::textEdited, &field, [this] { takeEdit(); });
+    connect(&line, &QLineEdit::selectionChanged, &field, [this] { takeSelection(); });
+    connect(&line, &QLineEdit::cursorPositionChanged, &field, [this] { takeSelection(); });
+    connect(&field, &QObject::destroyed, &line, [this] { m_line.removeEventFilter(this); });
+    line.installEventFilter(this);
+    show();
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    PanelView* view = m_field.view();
+    if (event->type() == QEvent::FocusIn) view->makeFirstResponder(&m_field);
+    if (event->type() == QEvent::FocusOut && view->firstResponder() == &m_field) {
+      // A window that is put aside, and a menu, give the focus back.
+      const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+      if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        view->makeFirstResponder(nullptr);
+    }
+    return false;
+  }
+
+ private:
+  void show() {
+    m_isShowing = true;
+    if (m_line.text() != m_field.stringValue()) m_line.setText(m_field.stringValue());
+    const TextRange selection = m_field.selection();
+    if (selectionOf(m_line) != selection) {
+      m_line.setCursorPosition(static_cast<int>(selection.location));
+      if (selection.length > 0)
+        m_line.setSelection(static_cast<int>(selection.location), static_cast<int>(selection.length));
+    }
+    m_line.setReadOnly(!m_field.isEditable());
+    m_line.setEnabled(m_field.isEditable() || m_field.isSelectable());
+    m_isShowing = false;
+  }
+
+  // The line has changed, its selection is not told yet: the field still holds both as they were before.
+  void takeEdit() {
+    m_field.edit(m_line.text(), selectionOf(m_line));
+    show();
+  }
+
+  void takeSelection() {
+    if (m_isShowing || m_line.text() != m_field.stringValue()) return;
+    if (m_line.hasFocus()) (void)m_field.placeCaret(selectionOf(m_line));  // a disabled line has no focus
+  }
+
+  TextField& m_field;
+  QLineEdit& m_line;
+  bool m_isShowing = false;
+};
+
+// An eye, open or crossed out, in the colour of the text.
+QIcon eyeIcon(const QWidget& widget, bool isOpen) {
+  constexpr int points = 16;
+  const qreal ratio = widget.devicePixelRatioF();
+  QPixmap pixmap(QSize(points, points) * ratio);
+  pixmap.setDevicePixelRatio(ratio);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(widget.palette().color(QPalette::Text), 1.3));
+  QPainterPath lids(QPointF(1.5, 8));
+  lids.quadTo(8, 1, 14.5, 8);
+  lids.quadTo(8, 15, 1.5, 8);
+  painter.drawPath(lids);
+  painter.drawEllipse(QPointF(8, 8), 2, 2);
+  if (!isOpen) painter.drawLine(QPointF(3, 13.5), QPointF(13, 2.5));
+  return pixmap;
+}
+
+// The button in a line that shows what the line hides, and hides it again.
+class RevealButton : public QObject {
+ public:
+  explicit RevealButton(QLineEdit& line)
+      : QObject(&line), m_line(line), m_action(line.addAction(QIcon(), QLineEdit::TrailingPosition)) {
+    m_action->setCheckable(true);
+    m_action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    m_action->setShortcutContext(Qt::WidgetShortcut);
+    connect(m_action, &QAction::toggled, this, &RevealButton::show);
+    line.installEventFilter(this);
+    show();
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::PaletteChange) show();
+    return false;
+  }
+
+ private:
+  void show() {
+    const bool isRevealed = m_action->isChecked();
+    m_line.setEchoMode(isRevealed ? QLineEdit::Normal : QLineEdit::Password);
+    m_action->setIcon(eyeIcon(m_line, isRevealed));
+    m_action->setText(isRevealed ? QCoreApplication::translate("FieldBinder", "Hide the digits")
+                                 : QCoreApplication::translate("FieldBinder", "Show the digits"));
+    m_action->setToolTip(QStringLiteral("%1 (%2)").arg(
+        m_action->text(), m_action->shortcut().toString(QKeySequence::NativeText)));
+  }
+
+  QLineEdit& m_line;
+  QAction* m_action;
+};
+
+}  // namespace
+
+void bindField(TextField& field, QLineEdit& line) {
+  if (line.property("revealable").toBool()) new RevealButton(line);
+  const int columns = line.property("columns").toInt();
+  if (columns > 0) {
+    // Room for the widest digits, the frame and a button inside.
+    const int width = line.fontMetrics().horizontalAdvance(QString(columns + 6, u'0'));
+    line.setMaximumWidth(width);
+    line.setMinimumWidth(width);
+  }
+  new FieldBinder(field, line);
+}
+
+}  // namespace kesto

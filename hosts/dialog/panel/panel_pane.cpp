@@ -1,0 +1,207 @@
+#include "hosts/dialog/panel/panel_pane.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtUiTools/QUiLoader>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QVBoxLayout>
+#include <utility>
+
+#include "hosts/dialog/panel/control_binders.h"
+#include "hosts/dialog/panel/dimming_reasons.h"
+#include "hosts/dialog/panel/folder_choice.h"
+#include "hosts/dialog/widgets/plain_text.h"
+#include "panel/model/button.h"
+#include "panel/model/panel_view.h"
+#include "panel/model/radio_matrix.h"
+#include "panel/model/text_field.h"
+#include "platform/bundle.h"
+
+namespace kesto {
+namespace {
+
+QString stemOf(const QString& name) {
+  for (const QLatin1String suffix : {QLatin1String("StaticText"), QLatin1String("EditText"),
+                                     QLatin1String("Popup"), QLatin1String("Button")}) {
+    if (name.endsWith(suffix)) return name.chopped(suffix.size());
+  }
+  return name;
+}
+
+// The width that the first column of a grid needs by itself, with what is hidden now.
+int firstColumnOf(const QGridLayout& grid) {
+  int widest = 0;
+  for (int i = 0; i < grid.count(); ++i) {
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid.getItemPosition(i, &row, &column, &rows, &columns);
+    const QWidget* widget = grid.itemAt(i)->widget();
+    if (column == 0 && columns == 1 && widget != nullptr) widest = qMax(widest, widget->sizeHint().width());
+  }
+  return widest;
+}
+
+// Where the labels of a grid begin on the page.
+int leftOf(const QGridLayout& grid, const QWidget& page) {
+  const QWidget* parent = grid.parentWidget();
+  return parent->mapTo(&page, parent->contentsRect().topLeft()).x() + grid.contentsMargins().left();
+}
+
+}  // namespace
+
+PanelPane::PanelPane(PanelView& view) : m_view(&view), m_folderChoice(new FolderChoice(view)) {
+  m_refresh.setSingleShot(true);
+  connect(&m_refresh, &QTimer::timeout, this, &PanelPane::refresh);
+  connect(&view, &PanelView::firstResponderChanged, this, &PanelPane::followFirstResponder);
+  connect(&view, &QObject::destroyed, this, [this] {
+    m_refresh.stop();
+    m_view = nullptr;
+  });
+}
+
+Outcome PanelPane::make(PanelView& view, const Bundle& bundle, std::unique_ptr<PanelPane>* pane) {
+  pane->reset();
+  std::unique_ptr<PanelPane> made(new PanelPane(view));
+  QUiLoader loader;
+  loader.setTranslationEnabled(false);  // the controls have the texts, in the user's language
+  loader.setWorkingDirectory(
+      QFileInfo(bundle.pathForResource(QStringLiteral("ulck"), QStringLiteral("png"))).dir());
+  QByteArray form = view.form();
+  QBuffer buffer(&form);
+  QWidget* root = loader.load(&buffer, made.get());
+  if (root == nullptr) return Outcome::failed(loader.errorString());
+  auto* layout = new QVBoxLayout(made.get());
+  layout->setContentsMargins({});
+  layout->addWidget(root);
+  made->bind();
+  *pane = std::move(made);
+  return Outcome::done();
+}
+
+QWidget* PanelPane::widgetOf(const QString& name) const {
+  return findChild<QWidget*>(name);
+}
+
+void PanelPane::bind() {
+  for (Control* control : m_view->controls()) {
+    QWidget* widget = widgetOf(control->objectName());
+    if (widget == nullptr || !bindControl(*control, *widget)) continue;
+    connect(control, &Control::changed, this, [this] { m_refresh.start(0); });
+  }
+  for (auto* label : findChildren<QLabel*>()) {
+    QWidget* field = widgetOf(stemOf(label->objectName()) + QStringLiteral("EditText"));
+    if (field == nullptr) field = widgetOf(stemOf(label->objectName()) + QStringLiteral("Popup"));
+    label->setBuddy(field);
+    label->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+  }
+  for (Control* control : m_view->controls()) {
+    if (QWidget* widget = widgetOf(control->objectName())) describe(*widget);
+  }
+  alignChoices();
+  refresh();
+}
+
+// Names the widget for those who do not see it.
+void PanelPane::describe(QWidget& widget) {
+  const QString stem = stemOf(widget.objectName());
+  const auto* label = findChild<QLabel*>(stem + QStringLiteral("StaticText"));
+  const QWidget* text = label;
+  if (text == nullptr) text = widgetOf(widget.property("labelledBy").toString());
+  const auto* control = m_view->control<Button>(widget.objectName());
+  if (control != nullptr && control->type() == Button::Type::HoldButton)
+    return describeHoldButton(widget, stem);
+  const bool namesItself = text == nullptr || &widget == text;
+  widget.setAccessibleName(namesItself ? plainText(widget) : withoutColon(plainText(*text)));
+}
+
+void PanelPane::describeHoldButton(QWidget& button, const QString& stem) {
+  const QWidget* field = widgetOf(stem + QStringLiteral("EditText"));
+  const QWidget* text = widgetOf(stem + QStringLiteral("StaticText"));
+  if (field == nullptr) return;
+  if (text == nullptr) text = widgetOf(field->property("labelledBy").toString());
+  const QString label = text == nullptr ? stem : withoutColon(plainText(*text));
+  button.setAccessibleName(tr("Lock %1").arg(label));
+  button.setProperty("companionOf", field->objectName());
+}
+
+void PanelPane::alignLabels() {
+  for (const auto* tabs : findChildren<QTabWidget*>()) {
+    for (int i = 0; i < tabs->count(); ++i) {
+      const QWidget& page = *tabs->widget(i);
+      const QList<QGridLayout*> grids = page.findChildren<QGridLayout*>();
+      int widest = 0;
+      int inmost = 0;
+      for (const auto* grid : grids) {
+        widest = qMax(widest, firstColumnOf(*grid));
+        inmost = qMax(inmost, leftOf(*grid, page));
+      }
+      for (auto* grid : grids)
+        grid->setColumnMinimumWidth(0, widest + inmost - leftOf(*grid, page));
+    }
+  }
+}
+
+void PanelPane::alignChoices() {
+  if (m_view != nullptr) m_folderChoice->align();
+}
+
+void PanelPane::followFirstResponder() {
+  const TextField* field = m_view->firstResponder();
+  QWidget* before = std::exchange(m_responder, field == nullptr ? nullptr : widgetOf(field->objectName()));
+  if (field == nullptr) {
+    // When the user has moved on, the focus is elsewhere already.
+    if (before != nullptr && before->hasFocus()) before->clearFocus();
+    return;
+  }
+  QWidget* widget = m_responder;
+  if (widget != nullptr && widget->isVisible()) {
+    widget->setFocus(Qt::OtherFocusReason);
+  } else {
+    // What is not seen has no keyboard focus.
+    m_view->makeFirstResponder(nullptr);
+  }
+}
+
+void PanelPane::refresh() {
+  for (const Control* control : m_view->controls()) {
+    QWidget* widget = widgetOf(control->objectName());
+    if (widget == nullptr) continue;
+    QString tip = dimmingReason(*control);
+    const auto* button = qobject_cast<const Button*>(control);
+    if (button != nullptr && button->type() == Button::Type::HoldButton) {
+      const QString state = button->state() != 0
+                                ? tr("On: the entry is locked, and remembered for this printer.")
+                                : tr("Off: the entry is for this job alone.");
+      widget->setAccessibleDescription(state);
+      if (tip.isNull()) tip = state;
+    } else {
+      widget->setAccessibleDescription(tip);
+    }
+    widget->setToolTip(tip);
+  }
+  Q_EMIT panelChanged();
+}
+
+void PanelPane::showMissingEntry() {
+  const auto* authentication = m_view->control<RadioMatrix>(QStringLiteral("authenticationMatrix"));
+  const bool isByLogin = authentication != nullptr && authentication->selectedRow() == 0;
+  const QString stem = isByLogin ? QStringLiteral("loginName") : QStringLiteral("userNumber");
+  QWidget* entry = widgetOf(stem + QStringLiteral("EditText"));
+  // A locked entry has to be opened first.
+  if (entry != nullptr && !entry->isEnabled()) entry = widgetOf(stem + QStringLiteral("Button"));
+  if (entry == nullptr) return;
+  for (QWidget* each = entry; each->parentWidget() != nullptr; each = each->parentWidget()) {
+    auto* tabs = qobject_cast<QTabWidget*>(each->parentWidget()->parentWidget());
+    if (tabs != nullptr) tabs->setCurrentWidget(each);
+  }
+  entry->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace kesto

@@ -1,0 +1,206 @@
+#include "hosts/dialog/panes/general_pane.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QSpinBox>
+#include <QtWidgets/QVBoxLayout>
+#include <algorithm>
+#include <array>
+
+#include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/session/page_range.h"
+
+namespace kesto {
+namespace {
+
+// What a PPD says in English only, and every dialog has a word of its own for.
+struct Term {
+  const char* keyword;  ///< Of an option, or of an option and a choice.
+  const char* text;
+};
+
+constexpr std::array terms{
+    Term{"PageSize", QT_TRANSLATE_NOOP("GeneralPane", "Paper size:")},
+    Term{"InputSlot", QT_TRANSLATE_NOOP("GeneralPane", "Paper source:")},
+    Term{"MediaType", QT_TRANSLATE_NOOP("GeneralPane", "Paper type:")},
+    Term{"Duplex", QT_TRANSLATE_NOOP("GeneralPane", "Two-sided:")},
+    Term{"ColorModel", QT_TRANSLATE_NOOP("GeneralPane", "Color:")},
+    Term{"Resolution", QT_TRANSLATE_NOOP("GeneralPane", "Resolution:")},
+    Term{"OutputBin", QT_TRANSLATE_NOOP("GeneralPane", "Output tray:")},
+    Term{"StapleLocation", QT_TRANSLATE_NOOP("GeneralPane", "Staple:")},
+    Term{"Duplex None", QT_TRANSLATE_NOOP("GeneralPane", "Off")},
+    Term{"Duplex DuplexNoTumble", QT_TRANSLATE_NOOP("GeneralPane", "Long edge")},
+    Term{"Duplex DuplexTumble", QT_TRANSLATE_NOOP("GeneralPane", "Short edge")},
+};
+
+QString termFor(const QString& keyword, const QString& text) {
+  const auto found =
+      std::ranges::find_if(terms, [&](const Term& term) { return keyword == QLatin1String(term.keyword); });
+  return found == terms.end() ? text : QCoreApplication::translate("GeneralPane", found->text);
+}
+
+}  // namespace
+
+GeneralPane::GeneralPane(QWidget* parent)
+    : QWidget(parent),
+      m_copies(new QSpinBox(this)),
+      m_collate(new QCheckBox(this)),
+      m_note(new QLabel(this)),
+      m_form(new QFormLayout) {
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(m_form);
+  column->addWidget(m_note);
+  column->addStretch();
+  m_copies->setRange(1, 9999);
+  m_copies->setObjectName(QStringLiteral("copies"));
+  setPlainText(*m_collate, tr("Collate"));
+  m_collate->setChecked(true);
+  auto* copies = new QHBoxLayout;
+  copies->addWidget(m_copies);
+  copies->addWidget(m_collate);
+  copies->addStretch();
+  auto* label = new QLabel(this);
+  label->setBuddy(m_copies);
+  setPlainText(*label, tr("Copies:"));
+  m_copies->setAccessibleName(tr("Copies"));
+  m_form->addRow(label, copies);
+  auto* pagesLabel = new QLabel(tr("Pages:"), this);
+  m_form->addRow(pagesLabel, makePages());
+  m_form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+  m_note->setWordWrap(true);
+  connect(m_copies, &QSpinBox::valueChanged, this, &GeneralPane::update);
+  connect(m_collate, &QCheckBox::toggled, this, &GeneralPane::update);
+  update();
+}
+
+QWidget* GeneralPane::makePages() {
+  auto* row = new QWidget(this);
+  m_allPages = new QRadioButton(row);
+  m_somePages = new QRadioButton(row);
+  m_pages = new QLineEdit(row);
+  setPlainText(*m_allPages, tr("All"));
+  setPlainText(*m_somePages, tr("These:"));
+  m_allPages->setChecked(true);
+  m_pages->setObjectName(QStringLiteral("pages"));
+  m_pages->setPlaceholderText(tr("1-3, 5"));
+  m_pages->setAccessibleName(tr("Pages to print, such as 1-3, 5"));
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins({});
+  layout->addWidget(m_allPages);
+  layout->addWidget(m_somePages);
+  layout->addWidget(m_pages);
+  connect(m_pages, &QLineEdit::textEdited, m_somePages, [this] { m_somePages->setChecked(true); });
+  connect(m_pages, &QLineEdit::textChanged, this, &GeneralPane::update);
+  connect(m_somePages, &QRadioButton::toggled, this, &GeneralPane::update);
+  return row;
+}
+
+void GeneralPane::setPages(const QString& pages) {
+  m_pages->setText(pages);
+  (pages.isEmpty() ? m_allPages : m_somePages)->setChecked(true);
+}
+
+void GeneralPane::setPpd(ppd_file_t* ppd, const QStringList& handledByPanel) {
+  constexpr int ownRows = 2;
+  while (m_form->rowCount() > ownRows)
+    m_form->removeRow(ownRows);
+  m_rows.clear();
+  m_conflict.clear();
+  m_ppd = ppd;
+  if (ppd != nullptr) {
+    for (const PpdOption& option : usualOptions(*ppd, handledByPanel))
+      addOption(option);
+  }
+  update();
+}
+
+void GeneralPane::addOption(const PpdOption& option) {
+  auto* combo = new QComboBox(this);
+  for (const PpdChoice& choice : option.choices)
+    combo->addItem(termFor(option.keyword + u' ' + choice.keyword, choice.text), choice.keyword);
+  combo->setCurrentIndex(option.marked);
+  combo->setObjectName(option.keyword);
+  auto* label = new QLabel(this);
+  label->setBuddy(combo);
+  setPlainText(*label, termFor(option.keyword, withColon(option.text)));
+  combo->setAccessibleName(withoutColon(plainText(*label)));
+  m_form->addRow(label, combo);
+  const Row row{option.keyword, combo, option.marked};
+  m_rows.push_back(row);
+  connect(combo, &QComboBox::currentIndexChanged, this, [this, row] { takeChoice(row); });
+}
+
+void GeneralPane::takeChoice(const Row& row) {
+  const QString choice = row.combo->currentData().toString();
+  const QStringList conflicts = markChoice(*m_ppd, row.keyword, choice);
+  m_conflict = conflicts.isEmpty()
+                   ? QString()
+                   : tr("The printer cannot do these together: %1.").arg(conflicts.join(u", "));
+  update();
+  Q_EMIT optionChosen(row.keyword, choice);
+}
+
+bool GeneralPane::choose(const QString& option, const QString& choice) {
+  if (option == u"copies") {
+    m_copies->setValue(choice.toInt());
+  } else if (option == u"collate") {
+    m_collate->setChecked(choice == u"true");
+  } else if (option == u"page-ranges") {
+    setPages(choice);
+  } else {
+    const auto row = std::ranges::find(m_rows, option, &Row::keyword);
+    const int index = row == m_rows.end() ? -1 : row->combo->findData(choice);
+    if (index < 0) return false;
+    row->combo->setCurrentIndex(index);
+  }
+  return true;
+}
+
+QString GeneralPane::chosen(const QString& option) const {
+  const auto row = std::ranges::find(m_rows, option, &Row::keyword);
+  return row == m_rows.end() ? QString() : row->combo->currentData().toString();
+}
+
+QString GeneralPane::pages() const {
+  return m_somePages->isChecked() ? pageRangesOf(m_pages->text()).value_or(QString()) : QString();
+}
+
+QMap<QString, QString> GeneralPane::jobOptions() const {
+  QMap<QString, QString> options;
+  if (m_copies->value() > 1) {
+    options.insert(QStringLiteral("copies"), QString::number(m_copies->value()));
+    options.insert(QStringLiteral("collate"), QLatin1String(m_collate->isChecked() ? "true" : "false"));
+  }
+  if (!pages().isNull()) options.insert(QStringLiteral("page-ranges"), pages());
+  for (const Row& row : m_rows) {
+    if (row.combo->currentIndex() != row.initial)
+      options.insert(row.keyword, row.combo->currentData().toString());
+  }
+  return options;
+}
+
+QString GeneralPane::fault() const {
+  if (m_somePages->isChecked() && !pageRangesOf(m_pages->text()))
+    return tr("The pages are to be numbers and ranges, such as 1-3, 5.");
+  return {};
+}
+
+void GeneralPane::showFault() {
+  m_pages->setFocus(Qt::OtherFocusReason);
+  m_pages->selectAll();
+}
+
+void GeneralPane::update() {
+  m_collate->setEnabled(m_copies->value() > 1);
+  const bool isFaulty = !fault().isNull() && !m_pages->text().isEmpty();
+  m_note->setText(isFaulty ? fault() : m_conflict);
+  Q_EMIT changed();
+}
+
+}  // namespace kesto

@@ -1,0 +1,73 @@
+#include "hosts/dialog/panes/summary_pane.h"
+
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+#include "hosts/dialog/widgets/plain_text.h"
+
+namespace kesto {
+
+SummaryPane::SummaryPane(QWidget* parent)
+    : QScrollArea(parent),
+      m_form(new QFormLayout),
+      m_ask(new QPushButton(this)),
+      m_privacy(new QLabel(this)) {
+  auto* page = new QWidget(this);
+  m_form->setLabelAlignment(Qt::AlignTrailing);
+  setPlainText(*m_ask, tr("Who sees this job?"));
+  m_ask->setAutoDefault(false);
+  m_ask->setObjectName(QStringLiteral("privacy"));
+  m_privacy->setTextFormat(Qt::PlainText);
+  m_privacy->setWordWrap(true);
+  m_privacy->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  m_privacy->setObjectName(QStringLiteral("privacyText"));
+  m_privacy->hide();
+  auto* column = new QVBoxLayout(page);
+  column->addLayout(m_form);
+  column->addWidget(m_ask, 0, Qt::AlignLeading);
+  column->addWidget(m_privacy);
+  column->addStretch();
+  connect(m_ask, &QPushButton::clicked, this, [this] {
+    m_ask->setEnabled(false);
+    Q_EMIT privacyAsked();
+  });
+  setWidget(page);
+  setWidgetResizable(true);
+  setFrameShape(QFrame::NoFrame);
+  setAccessibleName(tr("Summary"));
+}
+
+void SummaryPane::show(const QMap<QString, QString>& summary) {
+  if (summary == m_summary) return;
+  m_summary = summary;
+  while (m_form->rowCount() > 0)
+    m_form->removeRow(0);
+  for (auto it = summary.begin(); it != summary.end(); ++it) {
+    auto* value = new QLabel(it.value().isEmpty() ? QStringLiteral("–") : it.value());
+    value->setTextFormat(Qt::PlainText);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    value->setWordWrap(true);
+    value->setAccessibleName(it.key());
+    value->setAccessibleDescription(it.value());
+    m_form->addRow(withColon(it.key()), value);
+  }
+}
+
+void SummaryPane::showPrivacy(const Outcome& outcome, const JobPrivacy& privacy) {
+  QString text = outcome.reason();
+  if (outcome && privacy.shown.isEmpty()) {
+    text = tr("Other users of the print server see that there is a job, and no more of it.");
+  } else if (outcome) {
+    text = tr("Other users of the print server see: %1. These lines in its policy %2 hide it:")
+               .arg(privacy.shown.join(QStringLiteral(", ")), privacy.policy) +
+           QStringLiteral("\n\n") + QLatin1String(privatePolicyLines);
+  }
+  m_privacy->setText(text.trimmed());
+  m_privacy->setAccessibleName(text);
+  m_privacy->show();
+  m_ask->setEnabled(true);
+}
+
+}  // namespace kesto

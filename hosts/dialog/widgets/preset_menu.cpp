@@ -1,0 +1,86 @@
+#include "hosts/dialog/widgets/preset_menu.h"
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+
+#include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/session/job_session.h"
+
+namespace kesto {
+namespace {
+
+// A menu shows "&" as a mnemonic.
+QString menuText(QString name) {
+  return name.replace(u'&', QLatin1String("&&"));
+}
+
+}  // namespace
+
+PresetMenu::PresetMenu(JobSession& session, QWidget* parent)
+    : QToolButton(parent), m_session(session), m_menu(new QMenu(this)) {
+  setPlainText(*this, tr("Presets"));
+  setAccessibleName(tr("Presets"));
+  setPopupMode(QToolButton::InstantPopup);
+  setToolButtonStyle(Qt::ToolButtonTextOnly);
+  setFocusPolicy(Qt::StrongFocus);
+  setMenu(m_menu);
+  connect(m_menu, &QMenu::aboutToShow, this, &PresetMenu::fill);
+}
+
+void PresetMenu::fill() {
+  m_menu->clear();
+  QStringList names;
+  const Outcome found = m_session.presets()->names(&names);
+  if (!found) m_menu->addAction(found.reason())->setEnabled(false);
+  if (found && names.isEmpty()) m_menu->addAction(tr("No presets for this printer"))->setEnabled(false);
+  for (const QString& name : names)
+    connect(m_menu->addAction(menuText(name)), &QAction::triggered, this, [this, name] { load(name); });
+  m_menu->addSeparator();
+  connect(m_menu->addAction(tr("Save as preset…")), &QAction::triggered, this, &PresetMenu::save);
+  QMenu* removal = m_menu->addMenu(tr("Delete preset"));
+  removal->setEnabled(!names.isEmpty());
+  for (const QString& name : names)
+    connect(removal->addAction(menuText(name)), &QAction::triggered, this, [this, name] { remove(name); });
+}
+
+void PresetMenu::load(const QString& name) {
+  if (Outcome loaded = m_session.loadPreset(name); !loaded) {
+    QMessageBox::warning(window(), tr("Presets"), loaded.reason());
+    return;
+  }
+  Q_EMIT this->loaded();
+}
+
+void PresetMenu::save() {
+  QDialog dialog(window());
+  dialog.setWindowTitle(tr("Save as preset"));
+  auto* name = new QLineEdit(&dialog);
+  auto* codes = new QCheckBox(tr("Keep the pass codes, too"), &dialog);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, &dialog);
+  QPushButton* accept = buttons->button(QDialogButtonBox::Save);
+  accept->setEnabled(false);
+  connect(name, &QLineEdit::textChanged, accept,
+          [accept](const QString& text) { accept->setEnabled(!text.trimmed().isEmpty()); });
+  auto* form = new QFormLayout(&dialog);
+  form->addRow(tr("Name:"), name);
+  form->addRow(codes);
+  form->addRow(buttons);
+  connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+  if (dialog.exec() != QDialog::Accepted || m_session.presets() == nullptr) return;
+  if (Outcome saved = m_session.savePreset(name->text().trimmed(), codes->isChecked()); !saved)
+    QMessageBox::warning(window(), tr("Presets"), saved.reason());
+}
+
+void PresetMenu::remove(const QString& name) {
+  if (Outcome removed = m_session.presets()->remove(name); !removed)
+    QMessageBox::warning(window(), tr("Presets"), removed.reason());
+}
+
+}  // namespace kesto

@@ -1,0 +1,78 @@
+#include "hosts/dialog/widgets/queue_list_model.h"
+
+#include <algorithm>
+
+namespace kesto {
+
+int QueueListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(m_queues.size());
+}
+
+QVariant QueueListModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid() || index.row() >= rowCount()) return {};
+  const QueueSummary& queue = m_queues[static_cast<std::size_t>(index.row())];
+  switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+      return queue.info.isEmpty() || queue.info == queue.name
+                 ? queue.name
+                 : QStringLiteral("%1 — %2").arg(queue.name, queue.info);
+    case Qt::ToolTipRole:
+      return stateText(queue);
+    case NameRole:
+      return queue.name;
+    default:
+      return {};
+  }
+}
+
+void QueueListModel::setQueues(const std::vector<QueueSummary>& queues) {
+  beginResetModel();
+  m_queues = queues;
+  endResetModel();
+}
+
+std::vector<QueueSummary>::const_iterator QueueListModel::placeOf(const QString& name) const {
+  return std::ranges::lower_bound(m_queues, name, {}, &QueueSummary::name);
+}
+
+int QueueListModel::rowOf(const QString& name) const {
+  const auto place = placeOf(name);
+  return place != m_queues.end() && place->name == name ? static_cast<int>(place - m_queues.begin()) : -1;
+}
+
+const QueueSummary* QueueListModel::queue(const QString& name) const {
+  const int row = rowOf(name);
+  return row < 0 ? nullptr : &m_queues[static_cast<std::size_t>(row)];
+}
+
+void QueueListModel::setQueue(const QueueSummary& queue) {
+  const int row = rowOf(queue.name);
+  if (row >= 0) {
+    m_queues[static_cast<std::size_t>(row)] = queue;
+    Q_EMIT dataChanged(index(row), index(row));
+    return;
+  }
+  const auto place = placeOf(queue.name);
+  const int at = static_cast<int>(place - m_queues.begin());
+  beginInsertRows({}, at, at);
+  m_queues.insert(place, queue);
+  endInsertRows();
+}
+
+void QueueListModel::removeQueue(const QString& name) {
+  const int row = rowOf(name);
+  if (row < 0) return;
+  beginRemoveRows({}, row, row);
+  m_queues.erase(m_queues.begin() + row);
+  endRemoveRows();
+}
+
+QString QueueListModel::stateText(const QueueSummary& queue) {
+  if (!queue.isAccepting) return tr("takes no jobs");
+  if (queue.state == u"processing") return tr("printing");
+  if (queue.state == u"stopped") return tr("stopped");
+  return tr("ready");
+}
+
+}  // namespace kesto

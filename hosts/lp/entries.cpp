@@ -1,0 +1,192 @@
+#include "hosts/lp/entries.h"
+
+#include "hosts/session/panel_host.h"
+#include "panel/model/button.h"
+#include "panel/model/panel_view.h"
+#include "panel/model/pop_up.h"
+#include "panel/model/radio_matrix.h"
+#include "panel/model/text_field.h"
+
+namespace kesto {
+namespace {
+
+// Rows of the folder matrix; the pop-up begins with the first two as well.
+enum FolderRow { QuickFile, MainFolder, CustomFolder };
+
+enum AuthenticationRow { ByLogin, ByUserNumber };
+
+// A user who sits at the panel.
+class PanelUser {
+ public:
+  explicit PanelUser(PanelView& view) : m_view(view) {}
+
+  Outcome choose(const Entries& entries);
+  Outcome enter(const FieldRow& row, const QString& text);
+  Outcome turnHoldButtons(const Entries& entries, bool on);
+
+ private:
+  template <class T>
+  T* control(const QString& name) const {
+    return m_view.control<T>(name);
+  }
+  bool choosesRow(const QString& matrix, int row) const;
+  bool isRetained() const;
+  Outcome chooseHold(int choice);
+  Outcome chooseFolder(const QString& name);
+  int storedFolder(const QString& name) const;
+  Outcome refusal(const QString& option, const FieldRow& row) const;
+
+  PanelView& m_view;
+};
+
+bool PanelUser::choosesRow(const QString& matrix, int row) const {
+  auto* found = control<RadioMatrix>(matrix);
+  return found != nullptr && found->choose(row);
+}
+
+bool PanelUser::isRetained() const {
+  const auto* retention = control<Button>(QStringLiteral("retentionCheckBox"));
+  return retention != nullptr && retention->state() == 1;
+}
+
+Outcome PanelUser::refusal(const QString& option, const FieldRow& row) const {
+  const bool wantsHold = row.needsHold && !isRetained();
+  return Outcome::failed(option + u' ' + QLatin1String(wantsHold ? "needs --hold" : row.whenRefused));
+}
+
+Outcome PanelUser::chooseHold(int choice) {
+  auto* retention = control<Button>(QStringLiteral("retentionCheckBox"));
+  const bool isSet = isRetained() == (choice != noHold) || (retention != nullptr && retention->click());
+  if (isSet && (choice == noHold || choosesRow(QStringLiteral("suspendMatrix"), choice)))
+    return Outcome::done();
+  return Outcome::failed(QStringLiteral("--hold %1 is not offered")
+                             .arg(QLatin1String(holdChoices.at(static_cast<std::size_t>(choice)))));
+}
+
+// The item of one of the printer's folders: the one of just this name, else the first that differs in letter
+// case alone; the main folder's when there is none.
+int PanelUser::storedFolder(const QString& name) const {
+  const auto* popUp = control<PopUp>(QStringLiteral("folderSelectionPopup"));
+  if (popUp == nullptr) return MainFolder;
+  const int count = static_cast<int>(popUp->items().size());
+  for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+    for (int item = firstStoredFolder; item < count; ++item) {
+      if (popUp->items().at(static_cast<std::size_t>(item)).title.compare(name, sensitivity) == 0)
+        return item;
+    }
+  }
+  return MainFolder;
+}
+
+Outcome PanelUser::chooseFolder(const QString& name) {
+  const FieldRow& folder = fieldTable()[Folder];
+  FolderRow row = CustomFolder;
+  if (name == QLatin1String("quick")) row = QuickFile;
+  if (name == QLatin1String("main")) row = MainFolder;
+  // A folder that the printer does not know goes with the main folder in the pop-up: quick file there would
+  // take the pass codes away.
+  const int item = row == CustomFolder ? storedFolder(name) : static_cast<int>(row);
+  auto* popUp = control<PopUp>(QStringLiteral("folderSelectionPopup"));
+  if (popUp == nullptr || !popUp->choose(item) || !choosesRow(QStringLiteral("folderSelectionMatrix"), row)) {
+    return refusal(folder.option(), folder);
+  }
+  if (row != CustomFolder) return Outcome::done();
+  return enter(folder, item == MainFolder ? name : popUp->selectedItem()->title);
+}
+
+Outcome PanelUser::choose(const Entries& entries) {
+  if (entries.hold) {
+    if (Outcome chosen = chooseHold(*entries.hold); !chosen) return chosen;
+  }
+  if (entries.texts[Folder]) {
+    if (Outcome chosen = chooseFolder(*entries.texts[Folder]); !chosen) return chosen;
+  }
+  // Quick file moves the hold choice to its own row.
+  const auto* holdChoice = control<RadioMatrix>(QStringLiteral("suspendMatrix"));
+  if (entries.hold && *entries.hold != noHold && holdChoice->selectedRow() != *entries.hold) {
+    return Outcome::failed(QStringLiteral("--folder quick goes only with --hold after"));
+  }
+  const bool byUserNumber = entries.texts[UserNumber].has_value();
+  if (!byUserNumber && !entries.texts[Login] && !entries.texts[Password]) return Outcome::done();
+  if (choosesRow(QStringLiteral("authenticationMatrix"), byUserNumber ? ByUserNumber : ByLogin))
+    return Outcome::done();
+  return Outcome::failed(QStringLiteral("this queue does not ask who prints"));
+}
+
+Outcome PanelUser::enter(const FieldRow& row, const QString& text) {
+  auto* field = control<TextField>(row.field());
+  auto* button = control<Button>(row.button());
+  const bool isHeld = button != nullptr && button->state() == 1;
+  if ((isHeld && !button->click()) || field == nullptr ||
+      !field->placeCaret({0, field->stringValue().size()}) || !field->backspace() || !field->type(text)) {
+    return refusal(row.option(), row);
+  }
+  if (field->stringValue() != text) {
+    return Outcome::failed(QStringLiteral("%1 takes %2").arg(row.option(), QLatin1String(row.limit)));
+  }
+  return isHeld ? button->click() : Outcome::done();
+}
+
+Outcome PanelUser::turnHoldButtons(const Entries& entries, bool on) {
+  for (std::size_t field = 0; field < fieldCount; ++field) {
+    if (entries.remember.at(field) != on) continue;
+    const FieldRow& row = fieldTable().at(field);
+    auto* button = control<Button>(row.button());
+    if (button != nullptr && ((button->state() == 1) == on || button->click())) continue;
+    return refusal(QString(QLatin1String(on ? "--remember " : "--forget ")) + QLatin1String(row.name), row);
+  }
+  return Outcome::done();
+}
+
+}  // namespace
+
+const std::array<FieldRow, fieldCount>& fieldTable() {
+  static constexpr char digits8[] = "at most 8 digits";
+  static constexpr char digits5[] = "at most 5 digits";
+  static constexpr char quickFile[] = "does not go with --folder quick";
+  static constexpr char anyFolder[] = "needs --folder NAME";
+  static constexpr char codedFolder[] =
+      "needs --folder NAME of a folder with a pass code, or a custom folder";
+  static constexpr char byNumber[] = "does not go with a user number";
+  static constexpr char notOffered[] = "is not offered by this queue";
+  static constexpr std::array<FieldRow, fieldCount> table{{
+      {"pin", "N", "Pass code", "pass code of the held job", digits8, "suspendKey", true, quickFile},
+      {"folder", "NAME", nullptr, "quick, main or a folder name", "at most 255 characters", "folderName",
+       true, anyFolder},
+      {"folder-pin", "N", "Folder pass code", "pass code of the folder", digits8, "folderPassword", true,
+       codedFolder},
+      {"login", "NAME", nullptr, "login name", nullptr, "loginName", false, byNumber},
+      {"password", nullptr, "Password", "password of the login name", nullptr, "password", false, byNumber},
+      {"user-number", "N", nullptr, "user number instead of a login", digits5, "userNumber", false,
+       notOffered},
+      {"account-number", "N", nullptr, "account number", digits5, "accountNumber", false, notOffered},
+      {"user-name", "NAME", nullptr, "user name at the printer", "at most 32 characters", "userName", false,
+       notOffered},
+      {"job-name", "NAME", nullptr, "job name at the printer", "at most 80 characters", "jobName", false,
+       notOffered},
+  }};
+  return table;
+}
+
+Outcome applyEntries(PanelView& view, const Entries& entries) {
+  PanelUser user(view);
+  if (Outcome chosen = user.choose(entries); !chosen) return chosen;
+  // Turned off, the button of the login name drops the name, so that a new one comes after it.
+  if (Outcome forgot = user.turnHoldButtons(entries, false); !forgot) return forgot;
+  for (std::size_t field = 0; field < fieldCount; ++field) {
+    const auto& text = entries.texts.at(field);
+    if (field == Folder || !text) continue;
+    if (Outcome entered = user.enter(fieldTable().at(field), *text); !entered) return entered;
+  }
+  return user.turnHoldButtons(entries, true);
+}
+
+QString missingEntry(const PanelView& view) {
+  const auto* authentication = view.control<RadioMatrix>(QStringLiteral("authenticationMatrix"));
+  const bool byUserNumber = authentication != nullptr && authentication->selectedRow() == ByUserNumber;
+  const FieldRow& row = fieldTable()[byUserNumber ? UserNumber : Login];
+  return QStringLiteral("the %1 is missing; give %2")
+      .arg(QLatin1String(byUserNumber ? "user number" : "login name"), row.option());
+}
+
+}  // namespace kesto

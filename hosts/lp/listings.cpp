@@ -1,0 +1,136 @@
+#include "hosts/lp/listings.h"
+
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QUrl>
+#include <iostream>
+
+#include "hosts/cups/job_privacy.h"
+#include "hosts/cups/ppd_file.h"
+#include "panel/model/button.h"
+#include "panel/model/panel_view.h"
+#include "panel/model/text_field.h"
+
+namespace kesto {
+namespace {
+
+QJsonObject jsonOf(const QueueSummary& queue) {
+  return {{QStringLiteral("queue"), queue.name},
+          {QStringLiteral("state"), queue.state},
+          {QStringLiteral("accepting"), queue.isAccepting},
+          {QStringLiteral("address"), queue.deviceUri},
+          {QStringLiteral("info"), queue.info}};
+}
+
+std::string lineOf(const QueueSummary& queue) {
+  const QString state = queue.isAccepting ? queue.state : queue.state + QStringLiteral(", takes no jobs");
+  return QStringLiteral("%1\t%2\t%3\n").arg(queue.name, state, queue.deviceUri).toStdString();
+}
+
+// Keeps the queues whose PPD offers the panel.
+Outcome keepJobHandling(PrintServer& server, std::vector<QueueSummary>* queues) {
+  std::vector<QueueSummary> kept;
+  for (QueueSummary& queue : *queues) {
+    PpdFile ppd;
+    if (Outcome fetched = fetchPpdFile(server.http(), queue.name, &ppd); !fetched) return fetched;
+    if (ppd && offersJobHandling(*ppd)) kept.push_back(std::move(queue));
+  }
+  *queues = std::move(kept);
+  return Outcome::done();
+}
+
+bool isAddress(const QString& text) {
+  const QUrl url(QStringLiteral("http://%1/").arg(text), QUrl::StrictMode);
+  return url.isValid() && !url.host().isEmpty();
+}
+
+}  // namespace
+
+Outcome fetchFolders(PrintDialogPanel& panel, const QString& address) {
+  PanelView& view = *panel.panelView();
+  auto* field = view.control<TextField>(QStringLiteral("printersAddressEditText"));
+  auto* button = view.control<Button>(QStringLiteral("getFolderNameButton"));
+  if (field == nullptr || button == nullptr) {
+    return Outcome::failed(QStringLiteral("the panel has no folder list"));
+  }
+  if (!address.isNull()) {
+    if (Outcome placed = field->placeCaret({0, field->stringValue().size()}); !placed) return placed;
+    if (Outcome emptied = field->backspace(); !emptied) return emptied;
+    if (Outcome typed = field->type(address); !typed) return typed;
+  }
+  const QString known = field->stringValue();
+  if (known.isEmpty()) {
+    return Outcome::failed(QStringLiteral("the printer's address is not known; give --address"));
+  }
+  return isAddress(known) ? button->click()
+                          : Outcome::failed(QStringLiteral("\"%1\" is no address").arg(known));
+}
+
+Outcome printed() {
+  std::cout.flush();
+  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
+}
+
+Outcome printArray(const QJsonArray& array) {
+  std::cout << QJsonDocument(array).toJson().constData();
+  return printed();
+}
+
+Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
+  std::vector<QueueSummary> queues;
+  if (Outcome listed = server.listQueues(&queues); !listed) return listed;
+  if (jobHandlingOnly) {
+    if (Outcome kept = keepJobHandling(server, &queues); !kept) return kept;
+  }
+  if (json) {
+    QJsonArray array;
+    for (const QueueSummary& queue : queues)
+      array.append(jsonOf(queue));
+    return printArray(array);
+  }
+  for (const QueueSummary& queue : queues)
+    std::cout << lineOf(queue);
+  return printed();
+}
+
+Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool* isOpen) {
+  JobPrivacy privacy;
+  if (Outcome found = findJobPrivacy(server, queue, &privacy); !found) return found;
+  *isOpen = !privacy.shown.isEmpty();
+  const QStringList lines = QString::fromLatin1(privatePolicyLines).split(u'\n', Qt::SkipEmptyParts);
+  if (json) {
+    const QJsonObject object{{QStringLiteral("queue"), queue},
+                             {QStringLiteral("policy"), privacy.policy},
+                             {QStringLiteral("shown"), QJsonArray::fromStringList(privacy.shown)},
+                             {QStringLiteral("closedBy"), QJsonArray::fromStringList(lines)}};
+    std::cout << QJsonDocument(object).toJson().constData();
+    return printed();
+  }
+  if (!*isOpen) {
+    std::cout << queue.toStdString() << ": other users see none of a job's options.\n";
+    return printed();
+  }
+  std::cout << queue.toStdString() << ": other users see of a job "
+            << privacy.shown.join(QStringLiteral(", ")).toStdString() << ".\n"
+            << "An administrator closes this in cupsd.conf, in "
+            << (privacy.policy.isNull() ? "the queue's policy"
+                                        : "<Policy " + privacy.policy.toStdString() + '>')
+            << ":\n";
+  for (const QString& line : lines)
+    std::cout << "  " << line.toStdString() << '\n';
+  return printed();
+}
+
+Outcome printFolders(const PrintDialogPanel& panel, bool json) {
+  const QVariantList folders = panel.property("folderList").toList();
+  if (json) return printArray(QJsonArray::fromVariantList(folders));
+  for (const QVariant& entry : folders) {
+    const QVariantMap folder = entry.toMap();
+    const bool isLocked = folder.value(QStringLiteral("password")).toBool();
+    std::cout << folder.value(QStringLiteral("name")).toString().toStdString()
+              << (isLocked ? "\tlocked\n" : "\n");
+  }
+  return printed();
+}
+
+}  // namespace kesto

@@ -1,0 +1,267 @@
+#include "hosts/lp/lp_run.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <iostream>
+
+#include "hosts/command/secret_input.h"
+#include "hosts/cups/queue.h"
+#include "hosts/lp/listings.h"
+#include "hosts/lp/submission.h"
+#include "hosts/session/gated_platform.h"
+#include "hosts/session/panel_host.h"
+#include "hosts/session/preset_store.h"
+#include "panel/model/panel_view.h"
+#include "platform/alert_presenter.h"
+#include "platform/json_user_defaults.h"
+#include "platform/secret.h"
+
+namespace kesto {
+namespace {
+
+ExitCode ended(const Outcome& outcome, ExitCode onFailure = ExitFailed) {
+  if (outcome) return ExitDone;
+  std::cerr << "kesto-lp: " << outcome.reason().toStdString() << '\n';
+  return onFailure;
+}
+
+class StandardErrorAlerts : public AlertPresenter {
+ public:
+  void runInformationalAlert(const QString& /*title*/, const QString& message,
+                             const QString& /*button*/) override {
+    std::cerr << message.toStdString() << '\n';
+    wasShown = true;
+  }
+  bool wasShown = false;
+};
+
+// The queue that the job is for, and the server that has it unless a PPD file stands for it.
+struct JobQueue : Queue {
+  std::unique_ptr<PrintServer> server;
+};
+
+Outcome connectToServer(const Options& options, std::unique_ptr<PrintServer>* server) {
+  if (options.server.encrypt) cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
+  if (options.server.user) cupsSetUser(options.server.user->toUtf8().constData());
+  return PrintServer::connect(options.server.address.value_or(QString()), options.server.limit, server);
+}
+
+// The queue's name without asking a server: as it was written, but for the instance of "queue/instance".
+QString queueOfFiles(const Options& options) {
+  const QString file = QFileInfo(options.ppd.value_or(QString())).completeBaseName();
+  return options.queue.value_or(file).section(u'/', 0, 0);
+}
+
+Outcome findQueue(const Options& options, JobQueue* queue) {
+  if (options.ppd) {
+    queue->id = queueOfFiles(options);
+    queue->deviceUri = *options.deviceUri;
+    return openPpdFile(*options.ppd, &queue->ppd);
+  }
+  if (Outcome connected = connectToServer(options, &queue->server); !connected) return connected;
+  return openQueue(*queue->server, options.queue.value_or(QString()), queue);
+}
+
+Outcome print(const QMap<QString, QString>& pairs, const char* separator, bool json) {
+  if (json) {
+    QJsonObject object;
+    for (auto it = pairs.begin(); it != pairs.end(); ++it)
+      object.insert(it.key(), it.value());
+    std::cout << QJsonDocument(object).toJson().constData();
+  } else {
+    for (auto it = pairs.begin(); it != pairs.end(); ++it) {
+      std::cout << it.key().toStdString() << separator << it.value().toStdString() << '\n';
+    }
+  }
+  return printed();
+}
+
+Outcome listPresets(const PresetStore& store, bool json) {
+  QStringList names;
+  if (Outcome found = store.names(&names); !found) return found;
+  if (json) return printArray(QJsonArray::fromStringList(names));
+  for (const QString& name : names)
+    std::cout << name.toStdString() << '\n';
+  return printed();
+}
+
+Outcome readSecrets(const Options& options, Entries* entries) {
+  for (std::size_t field = 0; field < fieldCount; ++field) {
+    const SecretSource& source = options.secrets.at(field);
+    if (!source.isGiven()) continue;
+    const FieldRow& row = fieldTable().at(field);
+    QString secret;
+    const Outcome read =
+        source.ask ? askSecret(QLatin1String(row.prompt), &secret) : readSecretLine(*source.file, &secret);
+    if (!read) {
+      const QString option = QLatin1String(source.ask ? "--ask-%1" : "--%1-file");
+      return Outcome::failed(option.arg(QLatin1String(row.name)) + QStringLiteral(": ") + read.reason());
+    }
+    entries->texts.at(field) = secret;
+  }
+  return Outcome::done();
+}
+
+// One job on one queue that offers the panel.
+class Job {
+ public:
+  Job(const Options& options, GatedPlatform& platform, JobQueue& queue)
+      : m_options(options),
+        m_platform(platform),
+        m_queue(queue),
+        m_host(platform),
+        m_presets(platform.userDefaults(), queue.id) {}
+
+  Outcome open(PrintDialogPlugIn& plugIn);
+  Outcome restore();
+  // Makes the entries and has the panel confirm the job.
+  Outcome enter(const Entries& entries);
+  // Prints the settings or sends the job; only then are entries and preset kept. What cannot be kept of them
+  // is found before, as far as it can be.
+  Outcome finish();
+  PrintDialogPanel& panel() const { return *m_host.panel(); }
+
+ private:
+  Outcome makePresetToSave(Preset* preset) const;
+  Outcome keep(const Preset& preset);
+  QString model() const { return panel().property("modelStringRef").toString(); }
+
+  const Options& m_options;
+  GatedPlatform& m_platform;
+  JobQueue& m_queue;
+  PanelHost m_host;
+  PresetStore m_presets;
+};
+
+Outcome Job::open(PrintDialogPlugIn& plugIn) {
+  m_host.session.currentPrinter = Printer{.id = m_queue.id, .deviceUri = m_queue.deviceUri};
+  const bool isNamed = m_options.title || !m_options.files.isEmpty() || m_options.task == Task::Print;
+  m_host.settings.emplace().setJobName(isNamed ? std::optional(titleOf(m_options)) : std::nullopt);
+  m_host.ppd = std::move(m_queue.ppd);
+  if (m_options.task == Task::DryRun) m_platform.close();
+  return m_host.openShownPanel(plugIn);
+}
+
+Outcome Job::restore() {
+  Preset preset;
+  if (m_options.preset) {
+    if (Outcome loaded = m_presets.load(*m_options.preset, model(), &preset); !loaded) return loaded;
+  }
+  restorePanel(m_host, preset);
+  return Outcome::done();
+}
+
+Outcome Job::enter(const Entries& entries) {
+  PanelView& view = *panel().panelView();
+  if (Outcome applied = applyEntries(view, entries); !applied) return applied;
+  if (m_platform.confirmJob(panel())) return Outcome::done();
+  return Outcome::failed(panel().panelName() + QStringLiteral(": ") + missingEntry(view));
+}
+
+Outcome Job::makePresetToSave(Preset* preset) const {
+  if (!m_options.savePreset) return Outcome::done();
+  if (Outcome fits = m_presets.check(*m_options.savePreset); !fits) return fits;
+  preset->model = model();
+  return makePreset(*m_host.settings, *panel().panelView(), m_options.withCodes, preset);
+}
+
+// Remembers the entries, in a dry run only when that is asked for, and saves the preset.
+Outcome Job::keep(const Preset& preset) {
+  const bool isAsked = m_options.entries.asksForMemory();
+  Outcome kept = Outcome::done();
+  m_platform.open();
+  if (isAsked || m_options.task == Task::Print) {
+    Outcome remembered = m_platform.rememberEntries(panel());
+    if (!remembered)
+      kept = Outcome::failed(QStringLiteral("the entries are not remembered: ") + remembered.reason());
+  }
+  Outcome saved = m_options.savePreset ? m_presets.save(*m_options.savePreset, preset) : Outcome::done();
+  if (isAsked && !kept) return kept;
+  if (!kept) std::cerr << "kesto-lp: " << kept.reason().toStdString() << '\n';
+  return saved;
+}
+
+Outcome Job::finish() {
+  Preset preset;
+  if (Outcome made = makePresetToSave(&preset); !made) return made;
+  if (m_options.task == Task::Print) {
+    Outcome sent = submit(*m_queue.server, *m_queue.destination, m_options, &*m_host.settings);
+    if (!sent) return sent;
+    Outcome kept = keep(preset);
+    return kept ? kept : Outcome::failed(QStringLiteral("the job is sent; ") + kept.reason());
+  }
+  if (Outcome kept = keep(preset); !kept) return kept;
+  if (m_options.summary) return print(panel().summaryInfo(), ": ", m_options.json);
+  return print(m_host.settings->all(), "=", m_options.json);
+}
+
+ExitCode runJob(const Options& options, Entries entries, JobQueue& queue) {
+  StandardErrorAlerts alerts;
+  std::shared_ptr<const Bundle> bundle;
+  PrintDialogPlugIn* plugIn = nullptr;
+  if (Outcome loaded = loadJobHandlingBundle(&bundle, &plugIn); !loaded) return ended(loaded);
+  GatedPlatform platform(bundle, alerts);
+  Job job(options, platform, queue);
+  if (Outcome opened = job.open(*plugIn); !opened) return ended(opened);
+  if (Outcome restored = job.restore(); !restored) return ended(restored);
+  if (options.task == Task::ListFolders) {
+    const Outcome fetched = fetchFolders(job.panel(), options.address.value_or(QString()));
+    if (alerts.wasShown) return ExitFailed;
+    return ended(fetched ? printFolders(job.panel(), options.json) : fetched);
+  }
+  const Outcome entered = job.enter(entries);
+  // The panel has them now, in their stored forms; an upload can take long.
+  for (std::optional<QString>& text : entries.texts) {
+    if (text) wipe(*text);
+  }
+  if (!entered) return ended(entered, ExitRefused);
+  return ended(job.finish());
+}
+
+// A queue without the panel prints as usual.
+ExitCode runPlainJob(const Options& options, JobQueue& queue) {
+  if (options.task == Task::ListFolders || options.wantsPanel()) {
+    return ended(Outcome::failed(QStringLiteral("the queue %1 does not offer Job Handling").arg(queue.id)));
+  }
+  if (options.task == Task::DryRun) return ended(print({}, "=", options.json));
+  return ended(submit(*queue.server, *queue.destination, options, nullptr));
+}
+
+ExitCode runPresets(const Options& options) {
+  JsonUserDefaults defaults(JsonUserDefaults::defaultDirectory());
+  PresetStore store(defaults, queueOfFiles(options));
+  return ended(options.deletedPreset ? store.remove(*options.deletedPreset)
+                                     : listPresets(store, options.json));
+}
+
+ExitCode runQueueList(const Options& options) {
+  std::unique_ptr<PrintServer> server;
+  if (Outcome connected = connectToServer(options, &server); !connected) return ended(connected);
+  return ended(printQueues(*server, options.jobHandlingOnly, options.json));
+}
+
+ExitCode runCheck(const Options& options) {
+  std::unique_ptr<PrintServer> server;
+  if (Outcome connected = connectToServer(options, &server); !connected) return ended(connected);
+  bool isOpen = false;
+  const ExitCode code = ended(printPrivacy(*server, *options.queue, options.json, &isOpen));
+  return code == ExitDone && isOpen ? ExitFailed : code;
+}
+
+}  // namespace
+
+ExitCode run(const Options& options) {
+  if (options.task == Task::ListPresets || options.task == Task::DeletePreset) return runPresets(options);
+  if (options.task == Task::ListQueues) return runQueueList(options);
+  if (options.task == Task::Check) return runCheck(options);
+  JobQueue queue;
+  if (Outcome found = findQueue(options, &queue); !found) return ended(found);
+  if (!queue.ppd || !offersJobHandling(*queue.ppd)) return runPlainJob(options, queue);
+  Entries entries = options.entries;
+  if (Outcome read = readSecrets(options, &entries); !read) return ended(read);
+  return runJob(options, std::move(entries), queue);
+}
+
+}  // namespace kesto

@@ -1,0 +1,70 @@
+// The command line of kesto-lp.
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <array>
+#include <chrono>
+#include <optional>
+
+#include "hosts/lp/entries.h"
+
+namespace kesto {
+
+enum ExitCode { ExitDone = 0, ExitFailed = 1, ExitUsage = 2, ExitRefused = 3 };
+
+/// Where a secret comes from that is not on the command line.
+struct SecretSource {
+  std::optional<QString> file;  ///< "-" is standard input.
+  bool ask = false;             ///< At the terminal.
+
+  bool isGiven() const { return file || ask; }
+};
+
+/// What there is to do.
+enum class Task { Print, DryRun, ListQueues, ListFolders, ListPresets, DeletePreset, Check };
+
+/// Where the job goes.
+struct ServerOptions {
+  std::optional<QString> address;  ///< "host" or "host:port".
+  std::optional<QString> user;
+  bool encrypt = false;
+  std::chrono::milliseconds limit{5000};  ///< Of each wait for the server.
+};
+
+/// What kesto-lp is to do.
+struct Options {
+  Task task = Task::Print;
+  ServerOptions server;
+  std::optional<QString> ppd;        ///< A PPD file stands for the queue; no server is asked.
+  std::optional<QString> deviceUri;  ///< Of the queue that `ppd` stands for.
+  std::optional<QString> queue;      ///< Its name; none for the default queue, or for that of the PPD's file.
+
+  QStringList files;                  ///< "-" is standard input; none for standard input alone.
+  std::optional<QString> title;       ///< The job's own name.
+  QMap<QString, QString> jobOptions;  ///< By name.
+  bool mail = false;                  ///< To the user, when the job has been printed.
+  bool json = false;
+  bool silent = false;
+  bool summary = false;
+  bool jobHandlingOnly = false;    ///< Of the queues to list.
+  std::optional<QString> address;  ///< The printer's, for its folders.
+  std::optional<QString> deletedPreset;
+
+  std::optional<QString> preset;
+  std::optional<QString> savePreset;
+  bool withCodes = false;
+  Entries entries;
+  std::array<SecretSource, fieldCount> secrets;
+
+  /// Whether anything is asked of the Job Handling panel.
+  bool wantsPanel() const;
+};
+
+/// Reads the command line and hides the secrets in it from other users' eyes. None when there is something to
+/// do; otherwise the program ends with this code, the help or the fault having been printed. A fault never
+/// repeats what may be a secret.
+std::optional<ExitCode> parseOptions(int argc, char** argv, Options* options);
+
+}  // namespace kesto

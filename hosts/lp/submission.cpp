@@ -1,0 +1,85 @@
+#include "hosts/lp/submission.h"
+
+#include <unistd.h>
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QSysInfo>
+#include <iostream>
+
+#include "hosts/command/held_signals.h"
+
+namespace kesto {
+namespace {
+
+// An upload below this is over before a person has read a line about it.
+constexpr qint64 longUpload = qint64{4} * 1024 * 1024;
+
+// Shows how far an upload is, on one line of the terminal.
+class ProgressLine {
+ public:
+  ~ProgressLine() {
+    if (m_isShown) std::cerr << "\r\033[K" << std::flush;
+  }
+
+  void show(int document, qint64 sent, qint64 total) {
+    if (sent < longUpload || sent - m_last < longUpload / 4) return;
+    m_last = sent;
+    m_isShown = true;
+    std::cerr << "\r\033[Ksending document " << document << ": " << sent / 1048576 << " MiB";
+    if (total > 0) std::cerr << ", " << 100 * sent / total << " %";
+    std::cerr << std::flush;
+  }
+
+ private:
+  qint64 m_last = 0;
+  bool m_isShown = false;
+};
+
+PrintJob jobOf(const Options& options, const PrintSettings* settings) {
+  PrintJob job{.title = titleOf(options), .files = options.files, .options = options.jobOptions};
+  if (options.mail) {
+    job.options.insert(
+        QStringLiteral("notify-recipient-uri"),
+        QStringLiteral("mailto:%1@%2").arg(QString::fromUtf8(cupsUser()), QSysInfo::machineHostName()));
+  }
+  // The panel's word is the last on its own keys.
+  if (settings != nullptr) job.options.insert(settings->all());
+  return job;
+}
+
+}  // namespace
+
+QString titleOf(const Options& options) {
+  if (options.title) return *options.title;
+  const QString first = options.files.value(0, QStringLiteral("-"));
+  return first == u"-" ? QStringLiteral("(stdin)") : QFileInfo(first).fileName();
+}
+
+Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
+               const PrintSettings* settings) {
+  const PrintJob job = jobOf(options, settings);
+  int id = 0;
+  {
+    // Ctrl-C cancels a job that is not whole; a second one does not wait for that.
+    HeldSignals signals(SA_RESETHAND);
+    ProgressLine line;
+    const bool isWatched = ::isatty(STDERR_FILENO) != 0 && !options.silent;
+    const auto progress = [&](int document, qint64 sent, qint64 total) {
+      if (isWatched) line.show(document, sent, total);
+      return !signals.hasCome();
+    };
+    if (Outcome sent = sendJob(server, destination, job, progress, &id); !sent) return sent;
+    signals.drop();
+  }
+  if (options.silent) return Outcome::done();
+  if (options.json) {
+    std::cout << "{\"job\":" << id << "}\n";
+  } else {
+    const qsizetype files = qMax(qsizetype{1}, job.files.size());
+    std::cout << "request id is " << destination.name << '-' << id << " (" << files << " file(s))\n";
+  }
+  std::cout.flush();
+  return Outcome::done();
+}
+
+}  // namespace kesto

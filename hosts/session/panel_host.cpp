@@ -1,0 +1,39 @@
+#include "hosts/session/panel_host.h"
+
+#include "hosts/cups/faults.h"
+#include "platform/bundle.h"
+
+namespace kesto {
+
+Outcome PanelHost::openPanel(PrintDialogPlugIn& plugIn) {
+  PanelList panels = plugIn.PDEPanelsForType(QLatin1String(printDialogTypeIdentifier), this);
+  if (!panels || panels->empty())
+    return Outcome::failed(Faults::tr("the bundle gives no panel for the print dialog"));
+  m_panel = std::move(panels->front());
+  return Outcome::done();
+}
+
+Outcome PanelHost::openShownPanel(PrintDialogPlugIn& plugIn) {
+  if (Outcome opened = openPanel(plugIn); !opened) return opened;
+  if (m_panel->panelView() == nullptr) return Outcome::failed(Faults::tr("the panel has no layout"));
+  m_panel->willShow();
+  return Outcome::done();
+}
+
+PanelView* PanelHost::loadedView() const {
+  return m_panel && m_panel->property("hasInited").toBool() ? m_panel->panelView() : nullptr;
+}
+
+Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialogPlugIn** plugIn) {
+  const QString directory = Bundle::find(QStringLiteral("JobHandling.pde"));
+  if (directory.isNull()) {
+    return Outcome::failed(
+        Faults::tr("JobHandling.pde is neither beside the program nor in the library folder"));
+  }
+  auto found = std::make_shared<const Bundle>(directory);
+  if (Outcome loaded = found->loadPrincipalObject(plugIn); !loaded) return loaded;
+  *bundle = std::move(found);
+  return Outcome::done();
+}
+
+}  // namespace kesto

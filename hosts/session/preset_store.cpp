@@ -1,0 +1,182 @@
+#include "hosts/session/preset_store.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "hosts/cups/faults.h"
+#include "hosts/session/panel_host.h"
+#include "panel/model/panel_view.h"
+#include "panel/model/pop_up.h"
+#include "panel/model/radio_matrix.h"
+#include "panel/model/text_field.h"
+#include "platform/environment.h"
+#include "platform/text_encoding.h"
+
+namespace kesto {
+namespace {
+
+const QLatin1String prefix(printSettingsPrefix);
+constexpr QLatin1String presetsKey("Presets");
+constexpr QLatin1String modelKey("model");
+constexpr QLatin1String settingsKey("settings");
+
+// What is bound to the moment of one job, and the plain text of numbers that are read from their sealed form.
+constexpr std::array ofOneJob{QLatin1String("spoolTime"), QLatin1String("jobSuspendKey"),
+                              QLatin1String("folderPassword"), QLatin1String("userNumber"),
+                              QLatin1String("accountNumber")};
+constexpr std::array sealedCodes{QLatin1String("jobSuspend2Key"), QLatin1String("folderPassword2")};
+
+// A stored name of more bytes is not read back.
+constexpr qsizetype longestFolderName = 127;
+constexpr int customFolderRow = 2;
+
+QString textOf(const PanelView& view, const char* field) {
+  const auto* found = view.control<TextField>(QLatin1String(field));
+  return found == nullptr ? QString() : found->stringValue();
+}
+
+// The panel tells the job nothing of its folder choice; a preset keeps it under the keys that the panel
+// reads.
+Outcome addFolder(const PanelView& view, QMap<QString, QString>* settings) {
+  const auto* matrix = view.control<RadioMatrix>(QStringLiteral("folderSelectionMatrix"));
+  if (matrix == nullptr) return Outcome::done();
+  settings->insert(prefix + QStringLiteral("filing"), QString::number(matrix->selectedRow() + 1));
+  if (matrix->selectedRow() != customFolderRow) return Outcome::done();
+  const auto* popUp = view.control<PopUp>(QStringLiteral("folderSelectionPopup"));
+  const bool isStored = popUp != nullptr && popUp->selectedIndex() >= firstStoredFolder;
+  const QString name = isStored ? popUp->selectedItem()->title : textOf(view, "folderNameEditText");
+  const auto bytes = cStringOfText(name, systemEncodingOfEnvironment(), longestFolderName + 1);
+  if (!bytes) return Outcome::failed(Faults::tr("a preset cannot keep the name of this folder"));
+  settings->insert(prefix + QStringLiteral("folderPath"), QString::fromLatin1(bytes->toHex().toUpper()));
+  return Outcome::done();
+}
+
+std::optional<Preset> presetOf(const QJsonValue& value) {
+  const QJsonValue model = value[modelKey];
+  const QJsonValue settings = value[settingsKey];
+  if (!model.isString() || !settings.isObject()) return {};
+  Preset preset{.model = model.toString(), .settings = {}};
+  const QJsonObject values = settings.toObject();
+  for (auto it = values.begin(); it != values.end(); ++it) {
+    if (!it.value().isString() || !it.key().startsWith(prefix)) return {};
+    preset.settings.insert(it.key(), it.value().toString());
+  }
+  return preset;
+}
+
+Outcome noSuchPreset(const QString& name, const QJsonObject& presets) {
+  const QString known = presets.keys().join(QStringLiteral(", "));
+  return Outcome::failed(presets.isEmpty()
+                             ? Faults::tr("there is no preset \"%1\"; this queue has none").arg(name)
+                             : Faults::tr("there is no preset \"%1\"; there are: %2").arg(name, known));
+}
+
+Outcome damagedPreset(const QString& name) {
+  return Outcome::failed(Faults::tr("the preset \"%1\" is damaged and left as it is").arg(name));
+}
+
+}  // namespace
+
+Outcome makePreset(const PrintSettings& settings, const PanelView& view, bool withCodes, Preset* preset) {
+  // The panel names a job after itself; the next job has a name of its own.
+  const bool isNamedAfterJob = textOf(view, "jobNameEditText") == settings.jobName().value_or(QString());
+  const QMap<QString, QString>& all = settings.all();
+  for (auto it = all.begin(); it != all.end(); ++it) {
+    if (!it.key().startsWith(prefix)) continue;
+    const QString name = it.key().sliced(prefix.size());
+    if (std::ranges::find(ofOneJob, name) != ofOneJob.end()) continue;
+    if (!withCodes && std::ranges::find(sealedCodes, name) != sealedCodes.end()) continue;
+    if (isNamedAfterJob && name.startsWith(QLatin1String("jobName"))) continue;
+    preset->settings.insert(it.key(), it.value());
+  }
+  return addFolder(view, &preset->settings);
+}
+
+void restorePanel(PanelHost& host, const Preset& preset) {
+  const QMap<QString, QString>& values = preset.settings;
+  for (auto it = values.begin(); it != values.end(); ++it)
+    host.settings->setValue(it.key(), it.value());
+  host.panel()->restoreValuesAndReturnError(nullptr);
+  // The panel has taken the preset over and writes its own. What it would leave untouched, a code that the
+  // job no longer has or the end of a longer name, must not travel with the job.
+  for (auto it = values.begin(); it != values.end(); ++it)
+    host.settings->setValue(it.key(), std::nullopt);
+}
+
+PresetStore::PresetStore(UserDefaults& defaults, const QString& queue)
+    : m_defaults(defaults), m_domain(QStringLiteral("kesto.presets.") + queue) {}
+
+Outcome PresetStore::read(QJsonObject* domain, QJsonObject* presets) const {
+  const Domain stored = m_defaults.persistentDomainForName(m_domain);
+  if (!stored.available) return Outcome::failed(Faults::tr("the presets of this queue cannot be read"));
+  *domain = stored.values.value_or(QJsonObject());
+  const QJsonValue value = domain->value(presetsKey);
+  if (!value.isUndefined() && !value.isObject()) {
+    return Outcome::failed(Faults::tr("the presets of this queue are damaged and left as they are"));
+  }
+  *presets = value.toObject();
+  return Outcome::done();
+}
+
+Outcome PresetStore::write(QJsonObject domain, const QJsonObject& presets) {
+  domain.insert(presetsKey, presets);
+  return m_defaults.setPersistentDomain(domain, m_domain);
+}
+
+Outcome PresetStore::names(QStringList* names) const {
+  QJsonObject domain;
+  QJsonObject presets;
+  Outcome found = read(&domain, &presets);
+  *names = presets.keys();
+  return found;
+}
+
+Outcome PresetStore::load(const QString& name, const QString& model, Preset* preset) const {
+  QJsonObject domain;
+  QJsonObject presets;
+  if (Outcome found = read(&domain, &presets); !found) return found;
+  if (!presets.contains(name)) return noSuchPreset(name, presets);
+  const std::optional<Preset> stored = presetOf(presets.value(name));
+  if (!stored) return damagedPreset(name);
+  if (stored->model != model) {
+    return Outcome::failed(
+        Faults::tr("the preset \"%1\" is for another printer model, %2").arg(name, stored->model));
+  }
+  *preset = *stored;
+  return Outcome::done();
+}
+
+// Reads them to write this one.
+Outcome PresetStore::readFor(const QString& name, QJsonObject* domain, QJsonObject* presets) const {
+  if (Outcome found = read(domain, presets); !found) return found;
+  return presets->contains(name) && !presetOf(presets->value(name)) ? damagedPreset(name) : Outcome::done();
+}
+
+Outcome PresetStore::check(const QString& name) const {
+  QJsonObject domain;
+  QJsonObject presets;
+  return readFor(name, &domain, &presets);
+}
+
+Outcome PresetStore::save(const QString& name, const Preset& preset) {
+  QJsonObject domain;
+  QJsonObject presets;
+  if (Outcome found = readFor(name, &domain, &presets); !found) return found;
+  QJsonObject settings;
+  for (auto it = preset.settings.begin(); it != preset.settings.end(); ++it)
+    settings.insert(it.key(), it.value());
+  presets.insert(name, QJsonObject{{modelKey, preset.model}, {settingsKey, settings}});
+  return write(domain, presets);
+}
+
+Outcome PresetStore::remove(const QString& name) {
+  QJsonObject domain;
+  QJsonObject presets;
+  if (Outcome found = read(&domain, &presets); !found) return found;
+  if (!presets.contains(name)) return noSuchPreset(name, presets);
+  presets.remove(name);
+  return write(domain, presets);
+}
+
+}  // namespace kesto
