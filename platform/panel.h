@@ -14,10 +14,11 @@ class Bundle;
 class HostCallback;
 class PanelView;
 
-/// A panel of a print dialog. The host owns it from the request on and calls it on one thread. Its facts are
-/// read-only properties of the object.
+/// A panel of a print dialog. The host owns it from the request on and calls it on one thread. The properties
+/// that a panel's own class adds to these are its facts, all read-only.
 class PrintDialogPanel : public QObject {
   Q_OBJECT
+  Q_PROPERTY(bool filesDocuments READ filesDocuments CONSTANT)
 
  public:
   using QObject::QObject;
@@ -29,6 +30,9 @@ class PrintDialogPanel : public QObject {
   virtual QString panelKind() = 0;
   /// The PPD options that the panel handles; the host shows no controls of its own for them.
   virtual QStringList supportedPPDOptionKeys() = 0;
+  /// Whether the printer's model files documents. A model that does not shows and remembers the choice of a
+  /// folder like any other, but no job carries it: hosts say so beside it.
+  virtual bool filesDocuments() const = 0;
   /// The host is about to bring the panel to the front.
   virtual void willShow() = 0;
   /// Whether the host may hide the panel.

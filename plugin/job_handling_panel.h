@@ -45,6 +45,7 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   QString panelName() override;
   QString panelKind() override;
   QStringList supportedPPDOptionKeys() override;
+  bool filesDocuments() const override { return CheckHardDisk(); }
   void willShow() override;
   bool shouldHide() override;
   bool shouldShowHelp() override;

@@ -26,11 +26,11 @@ QJsonObject single(const char* name, const QJsonValue& value) {
   return {{QLatin1String(name), value}};
 }
 
-// The properties that a class adds to QObject, as JSON.
-QJsonObject propertiesOf(const QObject& object) {
+// The properties that a class adds to those of its base, as JSON.
+QJsonObject propertiesOf(const QObject& object, const QMetaObject& base = QObject::staticMetaObject) {
   QJsonObject properties;
   const QMetaObject* meta = object.metaObject();
-  for (int i = QObject::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
+  for (int i = base.propertyCount(); i < meta->propertyCount(); ++i) {
     const QMetaProperty property = meta->property(i);
     properties.insert(QLatin1String(property.name()), QJsonValue::fromVariant(property.read(&object)));
   }
@@ -223,7 +223,7 @@ QJsonObject ScriptSession::controls(const QJsonObject& /*command*/) {
 
 QJsonObject ScriptSession::facts(const QJsonObject& /*command*/) {
   PrintDialogPanel& panel = *m_host.panel();
-  QJsonObject facts = propertiesOf(panel);
+  QJsonObject facts = propertiesOf(panel, PrintDialogPanel::staticMetaObject);
   facts.insert(QStringLiteral("panelName"), panel.panelName());
   facts.insert(QStringLiteral("panelKind"), panel.panelKind());
   facts.insert(QStringLiteral("supportedPPDOptionKeys"),
