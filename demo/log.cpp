@@ -2,14 +2,9 @@
 
 #include <cstdio>
 
-namespace kesto {
+#include "platform/shown_text.h"
 
-QString shownText(QString text) {
-  for (QChar& c : text) {
-    if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format) c = QLatin1Char('?');
-  }
-  return text;
-}
+namespace kesto {
 
 void logLine(const QString& line) {
   std::fprintf(stderr, "%s\n", shownText(line).toUtf8().constData());

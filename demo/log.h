@@ -5,10 +5,7 @@
 
 namespace kesto {
 
-/// The text without control characters: names of jobs and users come from anyone, and a terminal obeys.
-QString shownText(QString text);
-
-/// Writes one line, as `shownText`.
+/// Writes one line, with what a terminal would obey escaped.
 void logLine(const QString& line);
 
 }  // namespace kesto

@@ -6,6 +6,7 @@
 #include "demo/command_line.h"
 #include "demo/log.h"
 #include "demo/stop_signal.h"
+#include "platform/shown_text.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ void printJson(const QJsonDocument& document) {
 }
 
 int fail(const QString& reason) {
-  std::fprintf(stderr, "kesto-demo-printer: %s\n", reason.toUtf8().constData());
+  std::fprintf(stderr, "kesto-demo-printer: %s\n", kesto::shownText(reason).toUtf8().constData());
   return exitFailed;
 }
 

@@ -118,13 +118,13 @@ TEST_F(DemoPrinterTest, SpeaksToAPersonAsWell) {
   EXPECT_TRUE(printer.readOutLine().startsWith("folders  127.0.0.1:"));
   DemoProcess lp(m_folder, u"lp"_s,
                  {u"-h"_s, QString::fromLatin1(server.mid(9).trimmed()), u"-d"_s, u"Office_MFP"_s, u"-U"_s,
-                  u"anna"_s, u"-t"_s, u"plan"_s, m_folder.path(u"document"_s)});
+                  u"anna"_s, u"-t"_s, u"pl\u202ean"_s, m_folder.path(u"document"_s)});
   EXPECT_EQ(lp.code(), 0) << lp.log();
   printer.waitForLog("printed\n");
   DemoProcess jobs(m_folder, builtProgram("kesto-demo-printer"),
                    {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s)});
   EXPECT_EQ(jobs.code(), 0);
-  EXPECT_EQ(jobs.readAllStandardOutput(), "   1  printed  anna          plan\n");
+  EXPECT_EQ(jobs.readAllStandardOutput(), "   1  printed  anna          pl\\u202ean\n");
   DemoProcess unread(m_folder, u"sh"_s,
                      {u"-c"_s, u"\"$0\" jobs --dir \"$1\" >/dev/full"_s, builtProgram("kesto-demo-printer"),
                       m_folder.path(u"run"_s)});

@@ -8,6 +8,7 @@
 
 #include "hosts/session/panel_host.h"
 #include "platform/environment.h"
+#include "platform/shown_text.h"
 #include "support/test_host.h"
 
 namespace kesto {
@@ -82,6 +83,21 @@ TEST_F(Environment, NamesOfTheAccount) {
       entry == nullptr ? QString() : QString::fromLocal8Bit(entry->pw_gecos).section(u',', 0, 0);
   const bool isPlain = !full.contains(u'&');  // which stands for the short name
   EXPECT_TRUE(!isPlain || accountFullName() == (full.isEmpty() ? QString() : full));
+}
+
+TEST(ShownText, NothingOfItIsObeyed) {
+  for (const auto& [text, shown] : Cases{{"Größe 印 \U0001F5A8", "Größe 印 \U0001F5A8"},
+                                         {"a\nb\r\tc", "a\\nb\\r\\tc"},
+                                         {"\x1b[2J\x7f\u009b", "\\x1b[2J\\x7f\\x9b"},
+                                         {"x\u202Efdp.exe\u2028\u200F", "x\\u202efdp.exe\\u2028\\u200f"},
+                                         {"می\u200Cخواهم", "می\u200Cخواهم"},
+                                         {"", ""}})
+    EXPECT_EQ(shownText(text), shown);
+  for (const auto& [path, shown] : {std::pair("/tmp/gr\xf6n/na\xc3\xafve\x1b.txt", "na\u00EFve\\x1b.txt"),
+                                    {"\xff\xc3\xa4\xe5\x8d", "\\xff\u00E4\\xe5\\x8d"},
+                                    {"plain", "plain"}})
+    EXPECT_EQ(shownFileName(path), QString::fromUtf8(shown));
+  EXPECT_EQ(shownPath("/gr\xf6n/a\n"), u"/gr\\xf6n/a\\n"_s);
 }
 
 TEST(PrintSettings, PresentAndEmptyAreDifferent) {

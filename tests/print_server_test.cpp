@@ -24,6 +24,7 @@ TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
        u"--folder-pin needs --folder NAME of a folder with a pass code, or a custom folder"_s},
       {u"--preset none"_s, 1, u"there is no preset \"none\"; this queue has none"_s},
       {u"/no/file"_s, 1, u"/no/file: No such file or directory"_s},
+      {u"/no/\u001b[2J\u202e"_s, 1, u"/no/\\x1b[2J\\u202e: No such file or directory"_s},
       {u"/dev"_s, 1, u"/dev: is a folder"_s},
       {u"-d Nowhere"_s, 1, u"the queue Nowhere cannot be had: "_s + missing},
       {u"-d \"No where\" --hold only"_s, 1, u"the queue No where cannot be had: "_s + missing},

@@ -113,6 +113,16 @@ TEST_F(PrintTest, DocumentsAndOptionsOfTheJobArrive) {
           << arguments;
     }
   }
+  // A name that is no text, which Qt can neither give nor remove.
+  m_folder.write(u"job"_s, "odd\n");
+  DemoProcess odd(
+      m_folder, u"sh"_s,
+      {u"-c"_s,
+       u"cd \"$2\" && mv job \"$(printf 'gr\\366n\\033')\" && \"$0\" -h \"$1\" -U anna gr* && rm gr*"_s,
+       builtProgram("kesto-lp"), m_printer->place(u"server"_s), m_folder.path(u""_s)});
+  EXPECT_EQ(odd.code(), 0) << odd.log();
+  waitForJob(++job);
+  EXPECT_EQ(filterArguments(job).value(2), u"gr\\xf6n\\x1b"_s);
 }
 
 TEST_F(PrintTest, AJobIsHeldUntilItsPassCode) {

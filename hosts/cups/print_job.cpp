@@ -2,14 +2,15 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <cerrno>
 #include <initializer_list>
 
 #include "hosts/cups/faults.h"
+#include "platform/shown_text.h"
 #include "platform/text_encoding.h"
 
 namespace kesto {
@@ -59,36 +60,42 @@ struct Document {
 };
 
 // Waits for a writer where the file is a pipe with a name; a signal ends the wait when it is to be given up.
-int openForReading(const QString& path, const std::function<bool()>& goesOn) {
+int openForReading(const QByteArray& path, const std::function<bool()>& goesOn) {
   int descriptor = -1;
   do
-    descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
   while (descriptor < 0 && errno == EINTR && goesOn());
   return descriptor;
 }
 
-Outcome openDocument(const QString& path, const std::function<bool()>& goesOn, Document* document) {
+bool isFolder(const QFile& file) {
+  struct stat info {};
+  return ::fstat(file.handle(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+Outcome openDocument(const JobFile& job, const std::function<bool()>& goesOn, Document* document) {
   document->file = std::make_unique<QFile>();
   QFile& file = *document->file;
-  if (path == u"-") {
+  if (job.path == "-") {
     document->name = QStringLiteral("(stdin)");
     // What was read of it before ends where a line did.
     if (file.open(STDIN_FILENO, QIODevice::ReadOnly)) return Outcome::done();
     return Outcome::failed(Faults::tr("standard input cannot be read"));
   }
-  document->name = QFileInfo(path).fileName();
-  if (QFileInfo(path).isDir()) return Outcome::failed(Faults::tr("%1: is a folder").arg(path));
-  const int descriptor = openForReading(path, goesOn);
+  document->name = job.name.isNull() ? shownFileName(job.path) : job.name;
+  const QString path = shownPath(job.path);
+  const int descriptor = openForReading(job.path, goesOn);
   if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle))
     return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
+  if (isFolder(file)) return Outcome::failed(Faults::tr("%1: is a folder").arg(path));
   if (!file.isSequential()) document->size = file.size();
   return Outcome::done();
 }
 
-Outcome openDocuments(const QStringList& paths, const std::function<bool()>& goesOn,
+Outcome openDocuments(const std::vector<JobFile>& files, const std::function<bool()>& goesOn,
                       std::vector<Document>* documents) {
-  for (const QString& path : paths.isEmpty() ? QStringList{QStringLiteral("-")} : paths) {
-    if (Outcome opened = openDocument(path, goesOn, &documents->emplace_back()); !opened) return opened;
+  for (const JobFile& file : files.empty() ? std::vector<JobFile>{{.path = "-"}} : files) {
+    if (Outcome opened = openDocument(file, goesOn, &documents->emplace_back()); !opened) return opened;
   }
   return Outcome::done();
 }

@@ -2,17 +2,23 @@
 #pragma once
 
 #include <QtCore/QMap>
-#include <QtCore/QStringList>
 #include <functional>
+#include <vector>
 
 #include "hosts/cups/print_server.h"
 
 namespace kesto {
 
+/// One document of a job.
+struct JobFile {
+  QByteArray path;  ///< As the file system has it, in whatever encoding; "-" for standard input.
+  QString name{};   ///< What people call it; null for the file's own name.
+};
+
 /// A job as it is to be sent.
 struct PrintJob {
   QString title;
-  QStringList files;               ///< Paths, "-" for standard input; empty for standard input alone.
+  std::vector<JobFile> files;      ///< Empty for standard input alone.
   QMap<QString, QString> options;  ///< Job options by name, the print settings among them.
 };
 

@@ -269,7 +269,9 @@ void PrintDialog::print() {
 }
 
 void PrintDialog::send() {
-  PrintJob job{.title = jobName(), .files = m_document.files(), .options = m_otherOptions};
+  PrintJob job{.title = jobName(), .files = {}, .options = m_otherOptions};
+  for (const QString& file : m_document.files())
+    job.files.push_back({.path = QFile::encodeName(file)});
   job.options.insert(m_general->jobOptions());
   job.options.insert(m_session.settings());
   // Whoever drew the document has left out the other pages.

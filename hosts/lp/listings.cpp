@@ -10,6 +10,7 @@
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/text_field.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -24,7 +25,8 @@ QJsonObject jsonOf(const QueueSummary& queue) {
 
 std::string lineOf(const QueueSummary& queue) {
   const QString state = queue.isAccepting ? queue.state : queue.state + QStringLiteral(", takes no jobs");
-  return QStringLiteral("%1\t%2\t%3\n").arg(queue.name, state, queue.deviceUri).toStdString();
+  return shownText(queue.name).toStdString() + '\t' + shownText(state).toStdString() + '\t' +
+         shownText(queue.deviceUri).toStdString() + '\n';
 }
 
 // Keeps the queues whose PPD offers the panel.
@@ -107,14 +109,14 @@ Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool*
     return printed();
   }
   if (!*isOpen) {
-    std::cout << queue.toStdString() << ": other users see none of a job's options.\n";
+    std::cout << shownText(queue).toStdString() << ": other users see none of a job's options.\n";
     return printed();
   }
-  std::cout << queue.toStdString() << ": other users see of a job "
-            << privacy.shown.join(QStringLiteral(", ")).toStdString() << ".\n"
+  std::cout << shownText(queue).toStdString() << ": other users see of a job "
+            << shownText(privacy.shown.join(QStringLiteral(", "))).toStdString() << ".\n"
             << "An administrator closes this in cupsd.conf, in "
             << (privacy.policy.isNull() ? "the queue's policy"
-                                        : "<Policy " + privacy.policy.toStdString() + '>')
+                                        : "<Policy " + shownText(privacy.policy).toStdString() + '>')
             << ":\n";
   for (const QString& line : lines)
     std::cout << "  " << line.toStdString() << '\n';
@@ -127,7 +129,7 @@ Outcome printFolders(const PrintDialogPanel& panel, bool json) {
   for (const QVariant& entry : folders) {
     const QVariantMap folder = entry.toMap();
     const bool isLocked = folder.value(QStringLiteral("password")).toBool();
-    std::cout << folder.value(QStringLiteral("name")).toString().toStdString()
+    std::cout << shownText(folder.value(QStringLiteral("name")).toString()).toStdString()
               << (isLocked ? "\tlocked\n" : "\n");
   }
   return printed();

@@ -17,13 +17,14 @@
 #include "platform/alert_presenter.h"
 #include "platform/json_user_defaults.h"
 #include "platform/secret.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
 
 ExitCode ended(const Outcome& outcome, ExitCode onFailure = ExitFailed) {
   if (outcome) return ExitDone;
-  std::cerr << "kesto-lp: " << outcome.reason().toStdString() << '\n';
+  std::cerr << "kesto-lp: " << shownText(outcome.reason()).toStdString() << '\n';
   return onFailure;
 }
 
@@ -31,7 +32,7 @@ class StandardErrorAlerts : public AlertPresenter {
  public:
   void runInformationalAlert(const QString& /*title*/, const QString& message,
                              const QString& /*button*/) override {
-    std::cerr << message.toStdString() << '\n';
+    std::cerr << shownText(message).toStdString() << '\n';
     wasShown = true;
   }
   bool wasShown = false;
@@ -72,7 +73,8 @@ Outcome print(const QMap<QString, QString>& pairs, const char* separator, bool j
     std::cout << QJsonDocument(object).toJson().constData();
   } else {
     for (auto it = pairs.begin(); it != pairs.end(); ++it) {
-      std::cout << it.key().toStdString() << separator << it.value().toStdString() << '\n';
+      std::cout << shownText(it.key()).toStdString() << separator << shownText(it.value()).toStdString()
+                << '\n';
     }
   }
   return printed();
@@ -83,7 +85,7 @@ Outcome listPresets(const PresetStore& store, bool json) {
   if (Outcome found = store.names(&names); !found) return found;
   if (json) return printArray(QJsonArray::fromStringList(names));
   for (const QString& name : names)
-    std::cout << name.toStdString() << '\n';
+    std::cout << shownText(name).toStdString() << '\n';
   return printed();
 }
 
@@ -179,7 +181,7 @@ Outcome Job::keep(const Preset& preset) {
   }
   Outcome saved = m_options.savePreset ? m_presets.save(*m_options.savePreset, preset) : Outcome::done();
   if (isAsked && !kept) return kept;
-  if (!kept) std::cerr << "kesto-lp: " << kept.reason().toStdString() << '\n';
+  if (!kept) std::cerr << "kesto-lp: " << shownText(kept.reason()).toStdString() << '\n';
   return saved;
 }
 

@@ -9,6 +9,7 @@
 
 #include "hosts/command/arguments.h"
 #include "hosts/cups/print_job.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -183,7 +184,7 @@ void CommandLine::addJob() {
   addText("-t", &m_options.title);
   m_app.add_option_function<std::vector<std::string>>("files", [this](const std::vector<std::string>& given) {
     for (const std::string& file : given)
-      m_options.files.append(QString::fromStdString(file));
+      m_options.files.append(QByteArray::fromStdString(file));
   });
   addTask("--dry-run", Task::DryRun);
   m_app.add_flag("--json", m_options.json);
@@ -259,7 +260,7 @@ std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
     fault = QString::fromUtf8(error.what());
   }
   if (fault.isNull()) return {};
-  std::cerr << "kesto-lp: " << fault.toStdString() << "\nkesto-lp --help tells more.\n";
+  std::cerr << "kesto-lp: " << shownText(fault).toStdString() << "\nkesto-lp --help tells more.\n";
   return ExitUsage;
 }
 

@@ -1,9 +1,9 @@
 // The command line of kesto-lp.
 #pragma once
 
+#include <QtCore/QByteArrayList>
 #include <QtCore/QMap>
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 #include <array>
 #include <chrono>
 #include <optional>
@@ -41,7 +41,7 @@ struct Options {
   std::optional<QString> deviceUri;  ///< Of the queue that `ppd` stands for.
   std::optional<QString> queue;      ///< Its name; none for the default queue, or for that of the PPD's file.
 
-  QStringList files;                  ///< "-" is standard input; none for standard input alone.
+  QByteArrayList files;               ///< Paths; "-" is standard input, and none means it alone.
   std::optional<QString> title;       ///< The job's own name.
   QMap<QString, QString> jobOptions;  ///< By name.
   bool mail = false;                  ///< To the user, when the job has been printed.

@@ -2,11 +2,12 @@
 
 #include <unistd.h>
 
-#include <QtCore/QFileInfo>
 #include <QtCore/QSysInfo>
+#include <algorithm>
 #include <iostream>
 
 #include "hosts/command/held_signals.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -36,7 +37,9 @@ class ProgressLine {
 };
 
 PrintJob jobOf(const Options& options, const PrintSettings* settings) {
-  PrintJob job{.title = titleOf(options), .files = options.files, .options = options.jobOptions};
+  PrintJob job{.title = titleOf(options), .files = {}, .options = options.jobOptions};
+  for (const QByteArray& file : options.files)
+    job.files.push_back({.path = file});
   if (options.mail) {
     job.options.insert(
         QStringLiteral("notify-recipient-uri"),
@@ -51,8 +54,8 @@ PrintJob jobOf(const Options& options, const PrintSettings* settings) {
 
 QString titleOf(const Options& options) {
   if (options.title) return *options.title;
-  const QString first = options.files.value(0, QStringLiteral("-"));
-  return first == u"-" ? QStringLiteral("(stdin)") : QFileInfo(first).fileName();
+  const QByteArray first = options.files.value(0, "-");
+  return first == "-" ? QStringLiteral("(stdin)") : shownFileName(first);
 }
 
 Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
@@ -75,7 +78,7 @@ Outcome submit(PrintServer& server, const cups_dest_t& destination, const Option
   if (options.json) {
     std::cout << "{\"job\":" << id << "}\n";
   } else {
-    const qsizetype files = qMax(qsizetype{1}, job.files.size());
+    const std::size_t files = std::max(std::size_t{1}, job.files.size());
     std::cout << "request id is " << destination.name << '-' << id << " (" << files << " file(s))\n";
   }
   std::cout.flush();
