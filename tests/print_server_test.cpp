@@ -3,6 +3,7 @@
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
 
+#include "hosts/cups/bounds.h"
 #include "print_program.h"
 
 namespace kesto::test {
@@ -194,6 +195,51 @@ TEST_F(PrintTest, ListsQueuesAndFolders) {
   EXPECT_EQ(unreached.err, u"Could not retrieve Folder Names.\n"_s);
   EXPECT_EQ(unreached.out, QString()) << "the earlier list";
   expectRefused(u"--folders -d Plain"_s, 1, u"the queue Plain does not offer Job Handling"_s);
+}
+
+// Replies as bytes: a value is its tag, its name and its value, each behind its length.
+TEST(IppReply, IsReadOnlyWithinItsBounds) {
+  const auto value = [](int tag, const QByteArray& name, const QByteArray& bytes) {
+    const auto part = [](const QByteArray& text) {
+      return QByteArray(1, static_cast<char>(text.size() >> 8)) + static_cast<char>(text.size()) + text;
+    };
+    return static_cast<char>(tag) + part(name) + part(bytes);
+  };
+  const QByteArray head = "\2\0\0\0\0\0\0\1\2"_ba;
+  const QByteArray opened = value(IPP_TAG_MEMBERNAME, "", "x") + value(IPP_TAG_BEGIN_COLLECTION, "", "");
+  const QByteArray first = value(IPP_TAG_BEGIN_COLLECTION, "c", "");
+  const QByteArray closed = value(IPP_TAG_END_COLLECTION, "", "");
+  const auto nested = [&](int depth) {
+    return head + first + opened.repeated(depth - 1) + closed.repeated(depth) + '\3';
+  };
+  const QByteArray values = value(IPP_TAG_INTEGER, "i", "1234").repeated(mostValues);
+  const QString unreadable = u"the print server's answer is not readable"_s;
+  const QString tooLarge = u"the print server's answer is too large"_s;
+  const std::tuple<const char*, QByteArray, QString> cases[] = {
+      {"whole", head + value(IPP_TAG_KEYWORD, "k", "v") + '\3', {}},
+      {"empty", "", unreadable},
+      {"without its end", head, unreadable},
+      {"a name beyond the end", head + "\x44\0\x09k"_ba, unreadable},
+      {"a value beyond the end", head + "\x44\0\1k\0\7v\3"_ba, unreadable},
+      {"an integer of two bytes", head + value(IPP_TAG_INTEGER, "i", "12") + '\3', unreadable},
+      {"an extended tag", head + '\x7f' + "\0\0\0"_ba + first + closed + '\3', unreadable},
+      {"a collection that is not closed", head + first + '\3', unreadable},
+      {"an end without a collection", head + closed + '\3', unreadable},
+      {"a collection with a value", head + value(IPP_TAG_BEGIN_COLLECTION, "c", "v") + closed + '\3',
+       unreadable},
+      {"collections as deep as allowed", nested(deepestCollection), {}},
+      {"one deeper", nested(deepestCollection + 1), tooLarge},
+      {"fifty thousand deep", nested(50'000), tooLarge},
+      {"as many values as allowed", head + values + '\3', {}},
+      {"one more", head + values + value(IPP_TAG_INTEGER, "i", "1234") + '\3', tooLarge},
+      {"too long", head + '\3' + QByteArray(longestReply, ' '), tooLarge},
+  };
+  for (const auto& [what, bytes, fault] : cases) {
+    Ipp reply;
+    const Outcome read = readReply(bytes, &reply);
+    EXPECT_EQ(read.reason(), fault) << what;
+    EXPECT_EQ(reply != nullptr, fault.isNull()) << what;
+  }
 }
 
 // A server that takes connections and never answers, then an address where there is none.

@@ -15,20 +15,6 @@ int giveUp(http_t* /*http*/, void* /*data*/) {
   return 0;
 }
 
-// A reply that is already in memory, for the IPP reader.
-struct Reader {
-  const QByteArray& bytes;
-  qsizetype position = 0;
-};
-
-ssize_t readFromMemory(void* context, ipp_uchar_t* buffer, std::size_t size) {
-  auto* reader = static_cast<Reader*>(context);
-  const qsizetype count = std::min(static_cast<qsizetype>(size), reader->bytes.size() - reader->position);
-  std::memcpy(buffer, reader->bytes.constData() + reader->position, static_cast<std::size_t>(count));
-  reader->position += count;
-  return count;
-}
-
 QString nameOfState(int state) {
   switch (state) {
     case IPP_PSTATE_PROCESSING:
@@ -74,10 +60,6 @@ std::vector<QueueSummary> queuesOf(ipp_t* reply) {
 
 void CloseHttp::operator()(http_t* http) const {
   httpClose(http);
-}
-
-void FreeIpp::operator()(ipp_t* ipp) const {
-  ippDelete(ipp);
 }
 
 void FreeDest::operator()(cups_dest_t* dest) const {
@@ -177,10 +159,7 @@ Outcome PrintServer::exchange(ipp_t* request, QByteArray* reply) {
 Outcome PrintServer::request(ipp_t* request, Ipp* reply) {
   QByteArray bytes;
   if (Outcome exchanged = exchange(request, &bytes); !exchanged) return exchanged;
-  reply->reset(ippNew());
-  Reader reader{bytes};
-  if (ippReadIO(&reader, readFromMemory, 1, nullptr, reply->get()) == IPP_STATE_DATA) return Outcome::done();
-  return Outcome::failed(Faults::tr("the print server's answer is not readable"));
+  return readReply(bytes, reply);
 }
 
 Outcome PrintServer::ask(ipp_t* request, Ipp* reply, ipp_status_t allowed) {

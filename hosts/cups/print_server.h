@@ -10,6 +10,7 @@
 #include <optional>
 #include <vector>
 
+#include "hosts/cups/ipp_reply.h"
 #include "platform/outcome.h"
 
 namespace kesto {
@@ -17,18 +18,12 @@ namespace kesto {
 struct CloseHttp {
   void operator()(http_t* http) const;
 };
-struct FreeIpp {
-  void operator()(ipp_t* ipp) const;
-};
 struct FreeDest {
   void operator()(cups_dest_t* dest) const;
 };
 
 /// A queue with its options, as libcups gives it.
 using Destination = std::unique_ptr<cups_dest_t, FreeDest>;
-
-/// An IPP message, deleted with its owner.
-using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
 
 /// What a list of queues shows of one.
 struct QueueSummary {

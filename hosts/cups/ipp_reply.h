@@ -1,0 +1,30 @@
+// Replies in IPP, from bytes that anybody may have sent.
+#pragma once
+
+#include <cups/cups.h>
+
+#include <QtCore/QByteArray>
+#include <memory>
+
+#include "platform/outcome.h"
+
+namespace kesto {
+
+struct FreeIpp {
+  void operator()(ipp_t* ipp) const;
+};
+
+/// An IPP message, deleted with its owner.
+using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
+
+/// Whether a reply keeps to the format and to the bounds of `bounds.h`. libcups reads collections by calling
+/// itself, so that only what this accepts may go there. A function of its bytes alone.
+Outcome checkReply(const QByteArray& bytes);
+
+/// Checks a reply and reads it. `*reply` is null on failure.
+Outcome readReply(const QByteArray& bytes, Ipp* reply);
+
+/// The bytes of a request as they are sent; empty when libcups cannot write it.
+QByteArray bytesOfRequest(ipp_t* request);
+
+}  // namespace kesto
