@@ -219,7 +219,17 @@ TEST_F(DialogPane, PopUpAndMatrixOfFoldersStayInStep) {
 TEST_F(DialogPane, FocusFollowsTheModelAndBack) {
   auto* name = m_window.widget<QLineEdit>(u"folderNameEditText"_s);
   turnRetentionOn();
-  EXPECT_EQ(m_window.view->firstResponder(), nullptr);
+  auto* code = m_window.widget<QLineEdit>(u"suspendKeyEditText"_s);
+  EXPECT_TRUE(code->hasFocus());
+  QCoreApplication::processEvents();
+  QTest::keyClicks(m_window.focusWidget(), u"24"_s);
+  EXPECT_EQ(code->text(), u"24"_s) << "it keeps the focus";
+  EXPECT_EQ(m_window.view->firstResponder()->objectName(), u"suspendKeyEditText"_s);
+  ASSERT_TRUE(m_user.click(u"suspendKeyButton"_s));
+  for (int i = 0; i < 2; ++i)
+    ASSERT_TRUE(m_user.click(u"retentionCheckBox"_s));
+  EXPECT_TRUE(m_window.widget(u"retentionCheckBox"_s)->hasFocus()) << "the pass code is locked";
+  ASSERT_TRUE(m_user.click(u"suspendKeyButton"_s));
   ASSERT_TRUE(m_user.click(u"customFolderRadioButton"_s));
   EXPECT_TRUE(name->hasFocus());
   QTest::keyClicks(name, u"Plans"_s);
@@ -228,7 +238,96 @@ TEST_F(DialogPane, FocusFollowsTheModelAndBack) {
   EXPECT_FALSE(name->hasFocus());
   EXPECT_EQ(m_window.view->firstResponder(), nullptr) << "a button has the focus";
   ASSERT_TRUE(m_user.type(u"suspendKeyEditText"_s, u"1"_s));
-  EXPECT_EQ(m_window.view->firstResponder()->objectName(), u"suspendKeyEditText"_s);
+  restorePanel(*m_window.host, {});
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(code->hasFocus()) << "it is dimmed";
+  EXPECT_EQ(m_window.view->firstResponder()->objectName(), m_window.focusWidget()->objectName());
+  ASSERT_TRUE(m_user.click(u"userNumberRadioButton"_s));
+  EXPECT_TRUE(m_window.widget(u"userNumberEditText"_s)->hasFocus());
+  ASSERT_TRUE(m_user.click(u"authenticationRadioButton"_s));
+  EXPECT_TRUE(m_window.widget(u"loginNameEditText"_s)->hasFocus());
+}
+
+// What assistive technology asks of a widget, by the names of the widgets.
+QAccessibleInterface& accessible(QWidget* widget) {
+  return *QAccessible::queryAccessibleInterface(widget);
+}
+
+void toggle(QWidget* widget) {
+  accessible(widget).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+}
+
+void insertText(QWidget* line, const QString& text) {
+  accessible(line).editableTextInterface()->insertText(0, text);
+}
+
+void replaceText(QWidget* line, const QString& text) {
+  const int end = accessible(line).textInterface()->characterCount();
+  accessible(line).editableTextInterface()->replaceText(0, end, text);
+}
+
+void setValue(QWidget* line, const QString& text) {
+  accessible(line).setText(QAccessible::Value, text);
+}
+
+void deleteText(QWidget* line, const QString& text) {
+  accessible(line).editableTextInterface()->deleteText(0, static_cast<int>(text.size()));
+}
+
+TEST_F(DialogPane, AssistiveTechnologyGoesThroughTheFilterAndTheRules) {
+  struct Change {
+    const char* field;
+    Text before;
+    void (*change)(QWidget* line, const QString& text);
+    Text given;
+    Text after;
+  };
+  const Change changes[] = {
+      {"suspendKeyEditText", "", setValue, "13579", "13579"},
+      {"suspendKeyEditText", "13579", setValue, "2x", "2x"},  // as pasted over the rest: its first counts
+      {"suspendKeyEditText", "12", setValue, "x3", "12"},
+      {"suspendKeyEditText", "", setValue, "123456789", "12345678"},
+      {"suspendKeyEditText", "12345678", setValue, "12", "12"},
+      {"suspendKeyEditText", "12345678", setValue, "1234x678", "12345678"},
+      {"suspendKeyEditText", "12345678", setValue, "", ""},
+      {"suspendKeyEditText", "34", insertText, "12", "1234"},
+      {"suspendKeyEditText", "34", insertText, "é", "34"},
+      {"suspendKeyEditText", "1234", deleteText, "12", "34"},
+      {"suspendKeyEditText", "12", replaceText, "34", "34"},
+      {"folderNameEditText", "", setValue, "Plans", ""},  // dimmed
+      {"userNameEditText", "😀", setValue, "😁", "😁"},
+      {"userNameEditText", "", setValue, "Anna", "Anna"},
+  };
+  turnRetentionOn();
+  for (const Change& change : changes) {
+    SCOPED_TRACE(testing::Message() << change.field << ' ' << QString(change.given));
+    auto* line = m_window.widget<QLineEdit>(QLatin1String(change.field));
+    auto* field = m_window.control<TextField>(QLatin1String(change.field));
+    field->setStringValue(change.before);
+    change.change(line, change.given);
+    EXPECT_EQ(line->text(), change.after);
+    EXPECT_EQ(field->stringValue(), change.after);
+  }
+  EXPECT_TRUE(m_window.widget(u"suspendKeyEditText"_s)->hasFocus()) << "the focus stays where it is";
+  // A caret that was moved without the focus is where the next key goes.
+  auto* line = m_window.widget<QLineEdit>(u"userNameEditText"_s);
+  line->setCursorPosition(0);
+  accessible(line).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+  EXPECT_EQ(m_window.control<TextField>(u"userNameEditText"_s)->selection(), TextRange());
+  toggle(m_window.widget(u"quickFileRadioButton"_s));
+  EXPECT_EQ(m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s)->selectedRow(), 0);
+  EXPECT_EQ(m_window.control<RadioMatrix>(u"suspendMatrix"_s)->selectedRow(), 1) << "the rules have run";
+  EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), 0);
+  m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->setCurrentIndex(1);
+  EXPECT_EQ(m_window.control<PopUp>(u"folderSelectionPopup"_s)->selectedIndex(), 1);
+  EXPECT_EQ(m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s)->selectedRow(), 1);
+  toggle(m_window.widget(u"retentionCheckBox"_s));
+  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
+  toggle(m_window.widget(u"holdAfterRadioButton"_s));  // dimmed
+  m_window.widget<QAbstractButton>(u"samplePrintRadioButton"_s)->setChecked(true);
+  m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->setCurrentIndex(0);
+  EXPECT_TRUE(m_window.widget<QAbstractButton>(u"holdOnlyRadioButton"_s)->isChecked());
+  EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), 1);
 }
 
 TEST_F(DialogPane, TabsAndProgressFollow) {

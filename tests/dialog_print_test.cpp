@@ -1,4 +1,5 @@
 // The dialog on the demo printer's scheduler, and on servers that are none.
+#include <QtGui/QAccessible>
 #include <QtNetwork/QTcpServer>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
@@ -10,6 +11,7 @@
 #include <QtWidgets/QToolButton>
 
 #include "dialog_printer.h"
+#include "hosts/dialog/panes/general_pane.h"
 
 namespace kesto::test {
 namespace {
@@ -36,6 +38,51 @@ TEST_F(DialogPrint, AHeldJobIsReleasedWithItsPassCodeAndItsEntriesAreRemembered)
   EXPECT_TRUE(widget<QToolButton>(u"userNumberButton"_s)->isChecked());
   EXPECT_EQ(widget<QLineEdit>(u"userNumberEditText"_s)->text(), u"42"_s);
   EXPECT_EQ(widget<QLineEdit>(u"suspendKeyEditText"_s)->text(), u""_s);
+}
+
+TEST_F(DialogPrint, AWholeJobIsDoneThroughAssistiveTechnologyAlone) {
+  startPrinter();
+  openReady();
+  const auto accessible = [this](const QString& name) {
+    return QAccessible::queryAccessibleInterface(widget(name));
+  };
+  const auto act = [&](const QString& name, const QString& action) {
+    QAccessibleActionInterface* actions = accessible(name)->actionInterface();
+    ASSERT_TRUE(actions->actionNames().contains(action)) << name;
+    actions->doAction(action);
+  };
+  const QString toggle = QAccessibleActionInterface::toggleAction();
+  const QString press = QAccessibleActionInterface::pressAction();
+  const auto insert = [&](const QString& name, const QString& text) {
+    accessible(name)->editableTextInterface()->insertText(0, text);
+  };
+  act(u"retentionCheckBox"_s, toggle);
+  act(u"holdAfterRadioButton"_s, toggle);
+  insert(u"suspendKeyEditText"_s, u"x"_s);
+  EXPECT_EQ(accessible(u"suspendKeyEditText"_s)->text(QAccessible::Value), u""_s) << "it takes digits";
+  insert(u"suspendKeyEditText"_s, u"2468"_s);
+  EXPECT_EQ(accessible(u"suspendKeyEditText"_s)->text(QAccessible::Value), u"****"_s);
+  act(u"customFolderRadioButton"_s, toggle);
+  insert(u"folderNameEditText"_s, u"Plans"_s);
+  act(u"userNumberRadioButton"_s, toggle);
+  insert(u"userNumberEditText"_s, u"42"_s);
+  act(u"userNumberButton"_s, toggle);
+  accessible(u"jobNameEditText"_s)->setText(QAccessible::Value, u"Plan"_s);
+  accessible(u"copies"_s)->valueInterface()->setCurrentValue(2);
+  EXPECT_EQ(m_dialog->general().jobOptions().value(u"copies"_s), u"2"_s);
+  act(u"print"_s, press);
+  await([this] { return m_dialog->job() > 0; }, u"the job"_s);
+  const QMap<QString, QString> settings = m_dialog->jobSettings();
+  const auto setting = [&](const char* name) {
+    return settings.value(u"kesto.print.PrintSettings."_s + QLatin1String(name));
+  };
+  EXPECT_EQ(setting("jobSuspend"), u"1"_s);
+  EXPECT_EQ(setting("jobSuspendKey").size(), 32) << "the digest of the pass code";
+  EXPECT_EQ(setting("userNumber"), u"00042"_s);
+  EXPECT_EQ(setting("jobName"), u"506C616E"_s);
+  EXPECT_EQ(setting("holdButton"), u"64"_s);
+  m_printer->waitForLog("job 1");
+  EXPECT_EQ(m_printer->release({u"1"_s, u"--pin-file"_s, m_folder.path(u"pin"_s)}), 0);
 }
 
 TEST_F(DialogPrint, ARefusedJobLeadsToTheMissingEntry) {

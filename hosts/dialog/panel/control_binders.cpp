@@ -2,6 +2,7 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QPointer>
+#include <QtCore/QScopedValueRollback>
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
 #include <QtGui/QStandardItemModel>
@@ -86,38 +87,97 @@ void dressHoldButton(const Button& control, QAbstractButton& widget) {
   new IconTint(widget, control.image() ? iconOf(control.image(), control.alternateImage()) : widget.icon());
 }
 
-void bindButton(Button& control, QAbstractButton& widget) {
-  if (control.type() == Button::Type::HoldButton) dressHoldButton(control, widget);
-  follow(control, widget, [&control, &widget] {
-    if (control.type() != Button::Type::HoldButton) setPlainText(widget, control.title());
-    widget.setEnabled(control.isEnabled());
-    widget.setChecked(control.state() != 0);
-  });
-  QObject::connect(&widget, &QAbstractButton::clicked, &control, [&control, &widget] {
-    // An action can run the event loop, in which the user may press again or close the panel.
-    const QPointer<Button> isAlive(&control);
-    const QPointer<QAbstractButton> button(&widget);
-    const bool runsLong = control.type() == Button::Type::PushButton;
-    const bool hadFocus = button->hasFocus();
-    if (runsLong) button->setEnabled(false);
-    (void)control.click();  // what is disabled cannot be clicked
-    if (isAlive && button) {
-      button->setEnabled(control.isEnabled());
-      button->setChecked(control.state() != 0);
-      if (runsLong && hadFocus) button->setFocus(Qt::OtherFocusReason);
-    }
-  });
+void showButton(const Button& control, QAbstractButton& widget) {
+  if (control.type() != Button::Type::HoldButton) setPlainText(widget, control.title());
+  widget.setEnabled(control.isEnabled());
+  widget.setChecked(control.state() != 0);
 }
 
+// The action can run the event loop, in which the user may press again or close the panel.
+void press(Button& control, QAbstractButton& widget) {
+  const QPointer<Button> isAlive(&control);
+  const QPointer<QAbstractButton> button(&widget);
+  const bool hadFocus = widget.hasFocus();
+  widget.setEnabled(false);
+  const QWidget* leftTo = widget.window()->focusWidget();
+  (void)control.click();  // what is disabled cannot be clicked
+  if (!isAlive || !button) return;
+  showButton(control, widget);
+  if (hadFocus && widget.window()->focusWidget() == leftTo) widget.setFocus(Qt::OtherFocusReason);
+}
+
+// Assistive technology changes a widget without a click, so that its state is what is looked at: where it is
+// not the control's, somebody has operated the widget.
+void toggle(Button& control, QAbstractButton& widget) {
+  if (widget.isChecked() == (control.state() != 0)) return;
+  (void)control.click();
+  showButton(control, widget);  // also takes back what the control refuses
+}
+
+void bindButton(Button& control, QAbstractButton& widget) {
+  if (control.type() == Button::Type::HoldButton) dressHoldButton(control, widget);
+  follow(control, widget, [&control, &widget] { showButton(control, widget); });
+  if (control.type() == Button::Type::PushButton) {
+    QObject::connect(&widget, &QAbstractButton::clicked, &control,
+                     [&control, &widget] { press(control, widget); });
+  } else {
+    QObject::connect(&widget, &QAbstractButton::toggled, &control,
+                     [&control, &widget] { toggle(control, widget); });
+  }
+}
+
+// A choice among several. A widget reports one by another state, and a click or a key besides, which alone
+// tells that the user has chosen again what was chosen before. Both together are one choice.
+class ChoiceBinder : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  // The widget's state differs from the control's.
+  void takeChange(const Outcome& chosen) {
+    m_isTaken = true;
+    QMetaObject::invokeMethod(
+        this, [this] { m_isTaken = false; }, Qt::QueuedConnection);
+    if (!chosen) show();
+  }
+  // Whether a click is a choice of its own.
+  bool isNewChoice() { return !std::exchange(m_isTaken, false); }
+  virtual void show() = 0;
+
+ private:
+  bool m_isTaken = false;
+};
+
+class CellBinder final : public ChoiceBinder {
+ public:
+  CellBinder(RadioCell& cell, QAbstractButton& widget)
+      : ChoiceBinder(&widget), m_cell(cell), m_widget(widget) {
+    follow(cell, widget, [this] { show(); });
+    connect(&widget, &QAbstractButton::toggled, &cell, [this](bool isOn) {
+      if (isOn && m_cell.state() == 0) takeChange(m_cell.matrix()->choose(m_cell.row()));
+    });
+    connect(&widget, &QAbstractButton::clicked, &cell, [this] {
+      if (isNewChoice()) (void)m_cell.matrix()->choose(m_cell.row());
+    });
+  }
+
+ protected:
+  void show() override {
+    setPlainText(m_widget, m_cell.title());
+    m_widget.setEnabled(m_cell.isEnabled());
+    const RadioCell* chosen = m_cell.matrix()->selectedCell();
+    if (chosen == nullptr) return;
+    auto* button = m_widget.parentWidget()->findChild<QAbstractButton*>(chosen->objectName());
+    if (button != nullptr) button->setChecked(true);
+  }
+
+ private:
+  RadioCell& m_cell;
+  QAbstractButton& m_widget;
+};
+
 void bindCell(RadioCell& cell, QAbstractButton& widget) {
-  follow(cell, widget, [&cell, &widget] {
-    setPlainText(widget, cell.title());
-    widget.setEnabled(cell.isEnabled());
-    if (cell.state() != 0) widget.setChecked(true);
-  });
-  QObject::connect(&widget, &QAbstractButton::clicked, &cell, [&cell] {
-    (void)cell.matrix()->choose(cell.row());  // as above
-  });
+  new CellBinder(cell, widget);  // owned by the widget
 }
 
 void fillItems(QComboBox& widget, const std::vector<PopUpItem>& items) {
@@ -135,21 +195,42 @@ void fillItems(QComboBox& widget, const std::vector<PopUpItem>& items) {
   widget.setModel(model.release());  // the widget deletes the one before
 }
 
-void bindPopUp(PopUp& control, QComboBox& widget) {
-  // Measuring a list of thousands of names again and again would cost more than a fixed width gains.
-  widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  widget.setMinimumContentsLength(16);
-  follow(control, widget, [&control, &widget, shown = std::vector<PopUpItem>()]() mutable {
-    if (shown != control.items()) {
-      shown = control.items();
-      fillItems(widget, shown);
+class PopUpBinder final : public ChoiceBinder {
+ public:
+  PopUpBinder(PopUp& control, QComboBox& widget)
+      : ChoiceBinder(&widget), m_control(control), m_widget(widget) {
+    // Measuring a list of thousands of names again and again would cost more than a fixed width gains.
+    widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    widget.setMinimumContentsLength(16);
+    follow(control, widget, [this] { show(); });
+    connect(&widget, &QComboBox::currentIndexChanged, &control, [this](int index) {
+      if (!m_isShowing && index != m_control.selectedIndex()) takeChange(m_control.choose(index));
+    });
+    connect(&widget, &QComboBox::activated, &control, [this](int index) {
+      if (isNewChoice() && !m_control.choose(index)) show();
+    });
+  }
+
+ protected:
+  void show() override {
+    const QScopedValueRollback showing(m_isShowing, true);
+    if (m_shown != m_control.items()) {
+      m_shown = m_control.items();
+      fillItems(m_widget, m_shown);
     }
-    widget.setCurrentIndex(control.selectedIndex());
-    widget.setEnabled(control.isEnabled());
-  });
-  QObject::connect(&widget, &QComboBox::activated, &control, [&control, &widget](int index) {
-    if (!control.choose(index)) widget.setCurrentIndex(control.selectedIndex());
-  });
+    m_widget.setCurrentIndex(m_control.selectedIndex());
+    m_widget.setEnabled(m_control.isEnabled());
+  }
+
+ private:
+  PopUp& m_control;
+  QComboBox& m_widget;
+  std::vector<PopUpItem> m_shown;
+  bool m_isShowing = false;
+};
+
+void bindPopUp(PopUp& control, QComboBox& widget) {
+  new PopUpBinder(control, widget);  // owned by the widget
 }
 
 void bindLabel(TextField& control, QLabel& widget) {

@@ -9,6 +9,8 @@
 
 #include "panel/model/panel_view.h"
 #include "panel/model/text_field.h"
+#include "platform/secret.h"
+#include "platform/surrogates.h"
 
 namespace kesto {
 namespace {
@@ -18,11 +20,26 @@ TextRange selectionOf(const QLineEdit& line) {
   return {line.cursorPosition(), 0};
 }
 
+// The range of `before` that an edit to `after` has replaced; surrogate pairs stay whole.
+TextRange rangeReplaced(const QString& before, const QString& after) {
+  const qsizetype shorter = qMin(before.size(), after.size());
+  qsizetype begin = 0;
+  while (begin < shorter && before[begin] == after[begin])
+    ++begin;
+  if (isWithinPair(before, begin) || isWithinPair(after, begin)) --begin;
+  qsizetype rest = 0;
+  while (rest < shorter - begin && before[before.size() - 1 - rest] == after[after.size() - 1 - rest])
+    ++rest;
+  if (isWithinPair(before, before.size() - rest) || isWithinPair(after, after.size() - rest)) --rest;
+  return {begin, before.size() - rest - begin};
+}
+
 class FieldBinder : public QObject {
  public:
   FieldBinder(TextField& field, QLineEdit& line) : QObject(&line), m_field(field), m_line(line) {
     connect(&field, &Control::changed, this, &FieldBinder::show);
     connect(&line, &QLineEdit::textEdited, &field, [this] { takeEdit(); });
+    connect(&line, &QLineEdit::textChanged, &field, [this] { takeChange(); });
     connect(&line, &QLineEdit::selectionChanged, &field, [this] { takeSelection(); });
     connect(&line, &QLineEdit::cursorPositionChanged, &field, [this] { takeSelection(); });
     connect(&field, &QObject::destroyed, &line, [this] { m_line.removeEventFilter(this); });
@@ -33,7 +50,10 @@ class FieldBinder : public QObject {
  protected:
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
     PanelView* view = m_field.view();
-    if (event->type() == QEvent::FocusIn) view->makeFirstResponder(&m_field);
+    if (event->type() == QEvent::FocusIn) {
+      view->makeFirstResponder(&m_field);
+      takeSelection();  // without the focus it may have gone another way
+    }
     if (event->type() == QEvent::FocusOut && view->firstResponder() == &m_field) {
       // A window that is put aside, and a menu, give the focus back.
       const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
@@ -60,7 +80,23 @@ class FieldBinder : public QObject {
 
   // The line has changed, its selection is not told yet: the field still holds both as they were before.
   void takeEdit() {
+    if (!m_line.hasFocus()) return takeChange();  // of something dropped; the field does not follow the caret
     m_field.edit(m_line.text(), selectionOf(m_line));
+    show();
+  }
+
+  // Assistive technology sets the whole text, wherever the caret is: what differs is pasted over what was
+  // there, as by a user who has selected just that. The focus stays where it is.
+  void takeChange() {
+    if (m_isShowing || m_line.text() == m_field.stringValue()) return;
+    const TextRange replaced = rangeReplaced(m_field.stringValue(), m_line.text());
+    const qsizetype growth = m_line.text().size() - m_field.stringValue().size();
+    QString inserted = m_line.text().sliced(replaced.location, replaced.length + growth);
+    const WipedAtEnd wiped(inserted);
+    TextField* responder = m_field.view()->firstResponder();
+    if (m_field.placeCaret(replaced))
+      (void)(inserted.isEmpty() ? m_field.backspace() : m_field.paste(inserted));
+    m_field.view()->makeFirstResponder(responder);
     show();
   }
 

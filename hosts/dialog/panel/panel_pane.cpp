@@ -10,7 +10,8 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
-#include <utility>
+#include <algorithm>
+#include <array>
 
 #include "hosts/dialog/panel/control_binders.h"
 #include "hosts/dialog/panel/dimming_reasons.h"
@@ -32,6 +33,26 @@ QString stemOf(const QString& name) {
   }
   return name;
 }
+
+bool isOn(const Control& control) {
+  return control.property("state").toInt() == 1;
+}
+
+bool isFirstRow(const Control& control) {
+  return control.property("selectedRow").toInt() == 0;
+}
+
+// Where a user goes on after a choice that asks for an entry.
+struct NextEntry {
+  const char* control;
+  bool (*isChosen)(const Control& control);
+  const char* entry;
+};
+
+constexpr std::array nextEntries{
+    NextEntry{"retentionCheckBox", isOn, "suspendKeyEditText"},
+    NextEntry{"authenticationMatrix", isFirstRow, "loginNameEditText"},
+};
 
 // The width that the first column of a grid needs by itself, with what is hidden now.
 int firstColumnOf(const QGridLayout& grid) {
@@ -59,7 +80,7 @@ int leftOf(const QGridLayout& grid, const QWidget& page) {
 PanelPane::PanelPane(PanelView& view) : m_view(&view), m_folderChoice(new FolderChoice(view)) {
   m_refresh.setSingleShot(true);
   connect(&m_refresh, &QTimer::timeout, this, &PanelPane::refresh);
-  connect(&view, &PanelView::firstResponderChanged, this, &PanelPane::followFirstResponder);
+  connect(&view, &PanelView::firstResponderChanged, this, [this] { m_refresh.start(0); });
   connect(&view, &QObject::destroyed, this, [this] {
     m_refresh.stop();
     m_view = nullptr;
@@ -94,6 +115,8 @@ void PanelPane::bind() {
     QWidget* widget = widgetOf(control->objectName());
     if (widget == nullptr || !bindControl(*control, *widget)) continue;
     connect(control, &Control::changed, this, [this] { m_refresh.start(0); });
+    // The panel's own action is connected before, so it has run by then.
+    connect(control, &Control::actionSent, this, &PanelPane::moveFocusAfter);
   }
   for (auto* label : findChildren<QLabel*>()) {
     QWidget* field = widgetOf(stemOf(label->objectName()) + QStringLiteral("EditText"));
@@ -152,24 +175,34 @@ void PanelPane::alignChoices() {
   if (m_view != nullptr) m_folderChoice->align();
 }
 
-void PanelPane::followFirstResponder() {
-  const TextField* field = m_view->firstResponder();
-  QWidget* before = std::exchange(m_responder, field == nullptr ? nullptr : widgetOf(field->objectName()));
-  if (field == nullptr) {
-    // When the user has moved on, the focus is elsewhere already.
-    if (before != nullptr && before->hasFocus()) before->clearFocus();
-    return;
-  }
-  QWidget* widget = m_responder;
-  if (widget != nullptr && widget->isVisible()) {
-    widget->setFocus(Qt::OtherFocusReason);
-  } else {
-    // What is not seen has no keyboard focus.
-    m_view->makeFirstResponder(nullptr);
-  }
+// The panel's rules move its first responder several times for one choice, and often leave none. The user,
+// whose keys go to the focus, notices only where it ends.
+void PanelPane::moveFocusAfter(const Control* operated) {
+  QWidget* entry = nextEntryAfter(*operated);
+  const TextField* responder = m_view->firstResponder();
+  if (entry == nullptr && responder != nullptr) entry = widgetOf(responder->objectName());
+  if (entry != nullptr && entry->isVisible()) entry->setFocus(Qt::OtherFocusReason);
+}
+
+// The entry that a choice of the user is followed by; null for none, and for one that is locked.
+QWidget* PanelPane::nextEntryAfter(const Control& operated) const {
+  const auto found = std::ranges::find_if(nextEntries, [&](const NextEntry& next) {
+    return operated.objectName() == QLatin1String(next.control) && next.isChosen(operated);
+  });
+  if (found == nextEntries.end()) return nullptr;
+  QWidget* entry = widgetOf(QLatin1String(found->entry));
+  return entry != nullptr && entry->isEnabled() ? entry : nullptr;
+}
+
+// The first responder is the field that has the keyboard focus, whatever rules have run in the meantime.
+void PanelPane::alignFirstResponder() {
+  const QWidget* focused = window()->focusWidget();
+  const bool isHere = focused != nullptr && isAncestorOf(focused);
+  m_view->makeFirstResponder(isHere ? m_view->control<TextField>(focused->objectName()) : nullptr);
 }
 
 void PanelPane::refresh() {
+  alignFirstResponder();
   for (const Control* control : m_view->controls()) {
     QWidget* widget = widgetOf(control->objectName());
     if (widget == nullptr) continue;

@@ -9,6 +9,7 @@
 namespace kesto {
 
 class Bundle;
+class Control;
 class FolderChoice;
 class PanelView;
 class PrintDialogPanel;
@@ -39,13 +40,14 @@ class PanelPane : public QWidget {
   void bind();
   void describe(QWidget& widget);
   void describeHoldButton(QWidget& button, const QString& stem);
-  void followFirstResponder();
+  void moveFocusAfter(const Control* operated);
+  QWidget* nextEntryAfter(const Control& operated) const;
+  void alignFirstResponder();
   void refresh();
   QWidget* widgetOf(const QString& name) const;
 
   PanelView* m_view;
   FolderChoice* m_folderChoice;
-  QWidget* m_responder = nullptr;  // the line of the panel's first responder
   QTimer m_refresh;
 };
 
