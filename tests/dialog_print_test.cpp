@@ -12,6 +12,7 @@
 
 #include "dialog_printer.h"
 #include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/widgets/plain_text.h"
 
 namespace kesto::test {
 namespace {
@@ -231,25 +232,44 @@ TEST_F(DialogPrint, HelpStandsBesideTheDialog) {
   EXPECT_TRUE(help->isVisible()) << "the same one";
 }
 
-TEST_F(DialogPrint, TabGoesThroughTheDialogAsItIsRead) {
+TEST_F(DialogPrint, TabGoesRoundTheDialogAsItIsRead) {
   startPrinter();
-  openReady();
+  openReady({QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")});
+  const auto* forward = widgetNamed<QToolButton>(*m_dialog, u"Next page"_s);
+  await([&] { return forward->isEnabled(); }, u"the number of pages"_s);
   click(u"retentionCheckBox"_s);
-  widget(u"printer"_s)->setFocus();
-  QStringList order;
-  for (int i = 0; i < 60 && !order.contains(u"print"_s); ++i) {
-    QTest::keyClick(m_dialog->focusWidget(), Qt::Key_Tab);
-    order.append(m_dialog->focusWidget()->objectName());
-  }
-  const QStringList expected{u"retentionCheckBox"_s,
-                             u"holdOnlyRadioButton"_s,
-                             u"suspendKeyEditText"_s,
-                             u"suspendKeyButton"_s,
-                             u"printersAddressEditText"_s,
-                             u"getFolderNameButton"_s,
-                             u"print"_s};
-  order.removeIf([&](const QString& name) { return !expected.contains(name); });
-  EXPECT_EQ(order, expected);
+  click(u"holdAfterRadioButton"_s);
+  widget(u"retentionCheckBox"_s)->setFocus();
+  const auto walk = [this](Qt::KeyboardModifiers modifiers) {
+    QStringList order;
+    while (order.size() < 40 && (order.isEmpty() || order.last() != u"retentionCheckBox"_s)) {
+      QTest::keyClick(m_dialog->focusWidget(), modifiers ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
+      const QWidget& focused = *m_dialog->focusWidget();
+      const bool isTabBar = focused.inherits("QTabBar");
+      const QString name = focused.objectName().isEmpty() ? plainText(focused) : focused.objectName();
+      order.append(isTabBar ? u"tabs"_s : name.isEmpty() ? focused.accessibleName() : name);
+    }
+    return order;
+  };
+  const QStringList order{u"holdAfterRadioButton"_s,
+                          u"suspendKeyEditText"_s,
+                          u"suspendKeyButton"_s,
+                          u"mainFolderRadioButton"_s,
+                          u"folderSelectionPopup"_s,
+                          u"printersAddressEditText"_s,
+                          u"getFolderNameButton"_s,
+                          u"print"_s,
+                          u"Cancel"_s,
+                          u"Help"_s,
+                          u"Next page"_s,
+                          u"Presets"_s,
+                          u"printer"_s,
+                          u"tabs"_s,
+                          u"tabs"_s,
+                          u"retentionCheckBox"_s};
+  EXPECT_EQ(walk({}), order);
+  QStringList back(order.rbegin() + 1, order.rend());
+  EXPECT_EQ(walk(Qt::ShiftModifier), back << order.last());
 }
 
 TEST_F(DialogPrint, AFailedFolderFetchIsAnAlert) {

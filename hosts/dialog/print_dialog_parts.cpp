@@ -6,7 +6,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
 
@@ -18,6 +17,7 @@
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
+#include "hosts/dialog/widgets/tab_order.h"
 
 namespace kesto {
 namespace {
@@ -155,22 +155,7 @@ void PrintDialog::giveNames() {
   for (auto* button : findChildren<QPushButton*>())
     button->setAutoDefault(button == m_print);
   if (m_panelPane != nullptr) m_panelPane->alignLabels();
-  // Panes that came later stand behind everything else by themselves.
-  QWidget* last = m_panes->tabBar();
-  const auto append = [this, &last](QWidget* widget) {
-    // The tabs come before their pages; a list that drops down is a window of its own.
-    if (qobject_cast<QTabBar*>(widget) != nullptr) return;
-    if (auto* tabs = qobject_cast<QTabWidget*>(widget)) widget = tabs->tabBar();
-    if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->window() != this) return;
-    setTabOrder(last, widget);
-    last = widget;
-  };
-  for (int i = 0; i < m_panes->count(); ++i) {
-    for (auto* widget : m_panes->widget(i)->findChildren<QWidget*>())
-      append(widget);
-  }
-  for (auto* button : m_buttons->findChildren<QPushButton*>())
-    append(button);
+  orderTabStops(*this);
 }
 
 }  // namespace kesto

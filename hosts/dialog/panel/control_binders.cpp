@@ -16,6 +16,7 @@
 
 #include "hosts/dialog/panel/field_binder.h"
 #include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/dialog/widgets/tab_order.h"
 #include "panel/model/button.h"
 #include "panel/model/pop_up.h"
 #include "panel/model/radio_matrix.h"
@@ -152,6 +153,7 @@ class CellBinder final : public ChoiceBinder {
  public:
   CellBinder(RadioCell& cell, QAbstractButton& widget)
       : ChoiceBinder(&widget), m_cell(cell), m_widget(widget) {
+    enterAtChosen(widget);
     follow(cell, widget, [this] { show(); });
     connect(&widget, &QAbstractButton::toggled, &cell, [this](bool isOn) {
       if (isOn && m_cell.state() == 0) takeChange(m_cell.matrix()->choose(m_cell.row()));

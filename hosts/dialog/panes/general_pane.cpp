@@ -14,6 +14,7 @@
 #include <array>
 
 #include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/dialog/widgets/tab_order.h"
 #include "hosts/session/page_range.h"
 
 namespace kesto {
@@ -95,7 +96,12 @@ QWidget* GeneralPane::makePages() {
   layout->addWidget(m_allPages);
   layout->addWidget(m_somePages);
   layout->addWidget(m_pages);
-  connect(m_pages, &QLineEdit::textEdited, m_somePages, [this] { m_somePages->setChecked(true); });
+  enterAtChosen(*m_allPages);
+  enterAtChosen(*m_somePages);
+  connect(m_somePages, &QRadioButton::clicked, m_pages, [this] { m_pages->setFocus(Qt::OtherFocusReason); });
+  connect(m_pages, &QLineEdit::textChanged, m_somePages, [this](const QString& pages) {
+    if (!pages.isEmpty()) m_somePages->setChecked(true);
+  });
   connect(m_pages, &QLineEdit::textChanged, this, &GeneralPane::update);
   connect(m_somePages, &QRadioButton::toggled, this, &GeneralPane::update);
   return row;
