@@ -1,6 +1,9 @@
 // A document before it is printed: how it comes, what of it is shown, and which pages are asked for.
 #include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 
 #include <QtGui/QImage>
 #include <QtWidgets/QToolButton>
@@ -14,64 +17,132 @@ namespace {
 
 class DialogDocument : public testing::Test {
  protected:
+  using State = Document::State;
   DialogDocument() {
     qputenv("TMPDIR", m_folder.path(u""_s).toUtf8());
     m_folder.write(u"report.pdf"_s, pdfDocument());
     m_folder.write(u"empty"_s, {});
   }
-  void read(int descriptor) {
-    m_document.readDescriptor(descriptor, u"(stdin)"_s);
-    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_document.state() != Document::State::Reading; },
-                                      u"the document"_s));
+  QByteArray path(const QString& name) const { return QFile::encodeName(m_folder.path(name)); }
+  void awaitState(State state) {
+    EXPECT_TRUE(DialogUser::waitUntil([&] { return m_document.state() == state; }, u"the document"_s));
+  }
+  QByteArray bytes(std::size_t file = 0) const {
+    return bytesOf(QString::fromLatin1(m_document.files().at(file).path));
+  }
+  // The end to read of a pipe that is written and closed.
+  static Descriptor pipeOf(const QByteArray& bytes) {
+    std::array<int, 2> ends{};
+    EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
+    QFile pipe;
+    EXPECT_TRUE(pipe.open(ends[1], QIODevice::WriteOnly, QFile::AutoCloseHandle));
+    pipe.write(bytes);
+    return Descriptor(ends[0]);
   }
 
   ScratchFolder m_folder;
-  Document m_document;
+  Document m_document{{.beforePrint = 100'000, .whole = 300'000}};
 };
 
-TEST_F(DialogDocument, StandardInputIsKeptForItsUserAlone) {
-  std::array<int, 2> ends{};
-  ASSERT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
-  QFile pipe;
-  ASSERT_TRUE(pipe.open(ends[1], QIODevice::WriteOnly, QFile::AutoCloseHandle));
-  pipe.write(pdfDocument().first(50'000));
-  pipe.close();
-  read(ends[0]);
-  ASSERT_EQ(m_document.state(), Document::State::Ready);
-  const QString file = m_document.files().first();
-  EXPECT_EQ(bytesOf(file), pdfDocument().first(50'000));
-  EXPECT_EQ(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+TEST_F(DialogDocument, WhatCanBeReadIsOfferedAndTheRestNamed) {
+  const Descriptor pipe = pipeOf("piped");
+  const QByteArray piped = "/dev/fd/" + QByteArray::number(pipe.get());
+  ASSERT_EQ(::mkfifo(path(u"fifo"_s).constData(), 0600), 0);
+  const QByteArray odd = path(u""_s) + "/gr\xf6n\n";
+  ASSERT_EQ(::link(path(u"report.pdf"_s).constData(), odd.constData()), 0);
+  m_document.openFiles(
+      {path(u"missing"_s), odd, path(u"empty"_s), piped, path(u""_s), "/proc/self/comm", path(u"fifo"_s)});
+  EXPECT_EQ(m_document.state(), State::Reading);
+  const int writer = ::open(path(u"fifo"_s).constData(), O_WRONLY | O_CLOEXEC);  // and now it has one
+  EXPECT_EQ(::write(writer, "late", 4), 4);
+  ::close(writer);
+  awaitState(State::Ready);
+  EXPECT_EQ(m_document.faults(),
+            (QStringList{m_folder.path(u"missing"_s) + u" cannot be read: No such file or directory"_s,
+                         m_folder.path(u""_s) + u" is a folder"_s,
+                         u"empty is empty. There is nothing to print."_s}));
+  EXPECT_EQ(m_document.name(), u"gr\\xf6n\\n and 3 more"_s);
+  EXPECT_EQ(::unlink(odd.constData()), 0);  // it is printed as it was chosen
+  const QByteArray contents[] = {pdfDocument(), "piped", "dialog_test\n", "late"};
+  for (std::size_t i = 0; i < std::size(contents); ++i)
+    EXPECT_EQ(bytes(i), contents[i]);
+  EXPECT_EQ(QDir(m_folder.path(u""_s)).entryList(QDir::Files | QDir::System),
+            (QStringList{u"empty"_s, u"fifo"_s, u"report.pdf"_s}))
+      << "a copy can be found";
+  m_document.openFiles({path(u"missing"_s), path(u"empty"_s)});
+  awaitState(State::Failed);
+  EXPECT_EQ(m_document.name(), QString());
 }
 
-TEST_F(DialogDocument, WhatCannotBeReadSaysWhy) {
-  const std::array<const char*, 3> cases[] = {{"empty", "", "The document is empty."},
-                                              {"", "", "The document cannot be read: Is a directory"},
-                                              {"empty", "missing", "The document cannot be kept: "}};
-  for (const auto& [name, folder, fault] : cases) {
-    qputenv("TMPDIR", m_folder.path(QLatin1String(folder)).toUtf8());
-    const int descriptor = ::open(m_folder.path(QLatin1String(name)).toUtf8().constData(), O_RDONLY);
-    read(descriptor);
-    EXPECT_EQ(m_document.state(), Document::State::Failed);
-    EXPECT_TRUE(m_document.fault().startsWith(QLatin1String(fault))) << m_document.fault();
-    EXPECT_EQ(::fcntl(descriptor, F_GETFD), -1) << "it is still open";
-  }
+TEST_F(DialogDocument, WhatHasNoEndIsReadInBounds) {
+  m_document.openFiles({"/dev/zero"});
+  awaitState(State::Paused);
+  m_document.readOn();
+  awaitState(State::Failed);
+  EXPECT_EQ(m_document.faults(), QStringList{u"zero is larger than 293 KiB, the most that is read."_s});
+}
+
+TEST_F(DialogDocument, TheEndOfAnotherProgramsPipeIsConfirmed) {
+  int ends = 0;
+  QObject::connect(&m_document, &Document::ended, [&] { ++ends; });
+  m_document.readFromClient(pipeOf("half").release(), u"Report"_s);
+  EXPECT_TRUE(DialogUser::waitUntil([&] { return ends == 1; }, u"the end"_s));
+  EXPECT_EQ(m_document.state(), State::Reading);
+  EXPECT_TRUE(m_document.isOpenEnded());
+  m_document.confirmEnd();
+  EXPECT_EQ(m_document.state(), State::Ready);
+  m_document.readFromClient(::open(path(u"report.pdf"_s).constData(), O_RDONLY | O_CLOEXEC), u"Report"_s);
+  EXPECT_FALSE(m_document.isOpenEnded());
+  m_document.readOn();
+  awaitState(State::Ready);
+  EXPECT_EQ(bytes(), pdfDocument());
+  EXPECT_EQ(ends, 1);
+}
+
+TEST_F(DialogDocument, ACopyGoesWhereThereIsRoom) {
+  qputenv("TMPDIR", path(u"missing"_s));
+  m_document.readDescriptor(pipeOf("elsewhere").release(), {});
+  awaitState(State::Ready);
+  EXPECT_EQ(bytes(), "elsewhere");
+  PrivateCopy nowhere({m_folder.path(u"missing/"_s), u"/proc/"_s});
+  EXPECT_FALSE(nowhere.append("x", 1).reason().isEmpty());
+  if (::unshare(CLONE_NEWNS) != 0) GTEST_SKIP() << "only root can fill a folder";
+  QDir(m_folder.path(u""_s)).mkdir(u"small"_s);
+  ASSERT_EQ(::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
+  ASSERT_EQ(::mount("none", path(u"small"_s).constData(), "tmpfs", 0, "size=64k"), 0);
+  PrivateCopy copy({m_folder.path(u"small/"_s), m_folder.path(u""_s)});
+  for (const char* part = "a"; copy.size() < 100'000;)
+    ASSERT_TRUE(copy.append(QByteArray(999, *part).constData(), 999));
+  ::umount(path(u"small"_s).constData());
+  QFile file;
+  ASSERT_TRUE(file.open(copy.take().release(), QIODevice::ReadOnly, QFile::AutoCloseHandle));
+  EXPECT_TRUE(file.seek(0) && file.readAll() == QByteArray(copy.size(), 'a'));
+}
+
+TEST_F(DialogDocument, WhatAnEarlierVersionLeftIsRemoved) {
+  m_folder.write(u"kesto-document.left12"_s, "secret");
+  m_folder.write(u"kesto-document.inUse1"_s, "secret");
+  QFile inUse(m_folder.path(u"kesto-document.inUse1"_s));
+  ASSERT_TRUE(inUse.open(QIODevice::ReadOnly));
+  removeLeftCopies();
+  EXPECT_FALSE(QFile::exists(m_folder.path(u"kesto-document.left12"_s)));
+  EXPECT_TRUE(inUse.exists());
 }
 
 TEST_F(DialogDocument, AFileTakesThePlaceOfADocumentThatIsStillRead) {
-  const QStringList files{m_folder.path(u"report.pdf"_s)};
   for (const bool isWhole : {false, true}) {  // or it is read whole, and nobody has been told
     std::array<int, 2> ends{};
     ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()), 0);
     m_document.readDescriptor(ends[0], u"(stdin)"_s);
     if (isWhole) ::shutdown(ends[1], SHUT_WR);
     char byte = 0;
-    if (!isWhole) m_document.openFiles(files);
+    if (!isWhole) m_document.openFiles({path(u"report.pdf"_s)});
     EXPECT_EQ(::read(ends[1], &byte, 1), 0) << "waits for the end of the reading";
-    if (isWhole) m_document.openFiles(files);
+    if (isWhole) m_document.openFiles({path(u"report.pdf"_s)});
     ::close(ends[1]);
     QCoreApplication::processEvents();
-    EXPECT_EQ(m_document.state(), Document::State::Ready);
-    EXPECT_EQ(m_document.files(), files);
+    EXPECT_EQ(m_document.state(), State::Ready);
+    EXPECT_EQ(bytes(), pdfDocument());
   }
 }
 

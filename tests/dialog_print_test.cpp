@@ -213,9 +213,27 @@ TEST_F(DialogPrint, ADocumentIsChosenInTheDialog) {
     pressEnter(*window.findChild<QLineEdit*>());
   });
   button->click();
-  EXPECT_EQ(m_document.files(), QStringList{m_folder.path(u"report.pdf"_s)});
+  EXPECT_EQ(bytesOf(QString::fromLatin1(m_document.files().at(0).path)), pdfDocument());
   EXPECT_EQ(widget<QLineEdit>(u"jobNameEditText"_s)->text(), u"report.pdf"_s);
   EXPECT_TRUE(widget(u"print"_s)->isEnabled());
+}
+
+TEST_F(DialogPrint, WhatIsMissingOfTheDocumentsIsNamedAndTheRestPrinted) {
+  startPrinter();
+  m_folder.write(u"second"_s, "another");
+  openReady({m_folder.path(u"report.pdf"_s), m_folder.path(u"none.pdf"_s), m_folder.path(u"second"_s)});
+  EXPECT_EQ(text(u"documentName"_s),
+            u"report.pdf and 1 more\n%1 cannot be read: No such file or directory"_s.arg(
+                m_folder.path(u"none.pdf"_s)));
+  click(u"print"_s);
+  await([this] { return m_dialog->job() > 0; }, u"the job"_s);
+  m_printer->waitForLog("job 1 from ");
+  m_printer->waitForLog("job 1 from ");
+  EXPECT_EQ(bytesOf(m_printer->place(u"output"_s) + u"/job-1-2"_s), "another");
+  open({m_folder.path(u"none.pdf"_s)});
+  await([this] { return m_dialog->isQueueReady() || m_dialog->isSettled(); }, u"the queue"_s);
+  EXPECT_TRUE(text(u"documentName"_s).startsWith(m_folder.path(u"none.pdf"_s)));
+  EXPECT_FALSE(widget(u"print"_s)->isEnabled());
 }
 
 TEST_F(DialogPrint, HelpStandsBesideTheDialog) {
@@ -412,7 +430,11 @@ TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
       {"no number of seconds", {u"--timeout"_s, u"nan"_s}, 2, "", "--timeout"},
       {"a number as C has it", {u"-n"_s, u"0x10"_s}, 2, "", "-n"},
       {"no open descriptor", {u"--portal"_s, u"77"_s}, 2, "", "is no open descriptor"},
-      {"no such file", {u"-h"_s, server, u"/no/such.pdf"_s}, 1, "", "/no/such.pdf"},
+      {"no such file",
+       {u"-h"_s, server, u"--screenshot"_s, picture, u"/no/such.pdf"_s},
+       0,
+       "",
+       "/no/such.pdf cannot be read"},
       {"no such queue", {u"-h"_s, server, u"-d"_s, u"None"_s, u"--timings"_s}, 1, "", "no queue"},
   };
   for (const ProgramRun& run : runs) {
@@ -436,7 +458,7 @@ TEST(DialogOptions, AreReadAsTheManualSays) {
     arguments.push_back(word.data());
   PrintOptions options;
   ASSERT_EQ(parsePrintOptions(static_cast<int>(arguments.size()), arguments.data(), &options), std::nullopt);
-  EXPECT_EQ(options.files, (QStringList{u"a.pdf"_s, u"b.ps"_s}));
+  EXPECT_EQ(options.files, (QByteArrayList{"a.pdf", "b.ps"}));
   EXPECT_EQ(options.jobOptions,
             (QMap<QString, QString>{{u"sides"_s, u"one-sided"_s}, {u"number-up"_s, u"4"_s}}));
   EXPECT_EQ(options.server.limit, std::chrono::milliseconds(500));

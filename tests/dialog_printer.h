@@ -79,7 +79,10 @@ class DialogPrint : public testing::Test {
     ::kill(bytesOf(m_folder.path(u"run/cups/state/cupsd.pid"_s)).trimmed().toInt(), number);
   }
   void open(const QStringList& files) {
-    m_document.openFiles(files);
+    QByteArrayList paths;
+    for (const QString& file : files)
+      paths.append(QFile::encodeName(file));
+    m_document.openFiles(paths);
     m_dialog.emplace(m_options, m_document);
     m_dialog->show();
   }

@@ -1,102 +1,226 @@
 #include "hosts/dialog/document.h"
 
+#include <fcntl.h>
+#include <linux/magic.h>
 #include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
-#include <QtCore/QFileInfo>
+#include <QtCore/QLocale>
+#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 
-#include "platform/environment.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
 
-constexpr int lookInterval = 200;  // ms between two looks whether the reading is still wanted
+bool isFolder(int descriptor) {
+  struct stat info {};
+  return ::fstat(descriptor, &info) == 0 && S_ISDIR(info.st_mode);
+}
 
-// Writes all that a descriptor gives. None when stopped, else errno's number, 0 for success.
-std::optional<int> copyAll(int descriptor, QFile& file, const std::atomic<bool>& isStopped) {
-  std::array<char, 65536> block{};
-  while (!isStopped) {
-    pollfd waiting{.fd = descriptor, .events = POLLIN, .revents = 0};
-    if (::poll(&waiting, 1, lookInterval) == 0) continue;
-    const ssize_t count = ::read(descriptor, block.data(), block.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return errno;
-    if (count == 0) return file.flush() ? 0 : EIO;
-    if (file.write(block.data(), count) != count) return ENOSPC;
-  }
-  return {};
+bool isRegular(int descriptor) {
+  struct stat info {};
+  return ::fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode);
+}
+
+// Whether it can be read as often as wanted. The files that the kernel makes up say of themselves that they
+// are empty, or longer than they are.
+bool isStored(int descriptor) {
+  struct stat info {};
+  struct statfs place {};
+  if (::fstat(descriptor, &info) != 0 || ::fstatfs(descriptor, &place) != 0) return false;
+  return S_ISREG(info.st_mode) && info.st_size > 0 && place.f_type != PROC_SUPER_MAGIC &&
+         place.f_type != SYSFS_MAGIC;
 }
 
 }  // namespace
+
+struct Document::Copied {
+  Descriptor file;
+  QString fault;  // "%1" stands for the name; null when all is well
+};
+
+Document::Document(Bounds bounds) : m_bounds(bounds), m_wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
 
 Document::~Document() {
   stopReading();
 }
 
+void Document::wake() const {
+  // A count that is full wakes as well.
+  (void)::eventfd_write(m_wake.get(), 1);
+}
+
 void Document::stopReading() {
   m_isStopped = true;
+  wake();
   if (m_reader.joinable()) m_reader.join();
   m_isStopped = false;
   ++m_reading;
 }
 
-void Document::set(State state, const QString& fault) {
+void Document::set(State state) {
   m_state = state;
-  m_fault = fault;
   Q_EMIT changed();
 }
 
-void Document::openFiles(const QStringList& paths) {
+void Document::begin() {
   stopReading();
-  m_copy.reset();
-  m_files.clear();
-  m_name = QFileInfo(paths.value(0)).fileName();
-  for (const QString& path : paths) {
-    QFile file(path);
-    if (QFileInfo(path).isDir()) return set(State::Failed, tr("%1 is a folder").arg(path));
-    if (!file.open(QIODevice::ReadOnly))
-      return set(State::Failed, QStringLiteral("%1: %2").arg(path, file.errorString()));
-    m_files.append(QFileInfo(path).absoluteFilePath());
+  m_parts.clear();
+  m_sources.clear();
+  m_faults.clear();
+  m_isOpenEnded = false;
+}
+
+void Document::openFiles(const QByteArrayList& paths) {
+  begin();
+  for (const QByteArray& path : paths)
+    add(path);
+  read();
+}
+
+void Document::add(const QByteArray& path) {
+  const bool isInput = path == "-";
+  // A pipe without a writer and a line that is not connected are opened all the same.
+  Descriptor file(isInput ? ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0)
+                          : ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  if (!file) return addFault(tr("%1 cannot be read: %2").arg(shownPath(path), qt_error_string(errno)));
+  if (isFolder(file.get())) return addFault(tr("%1 is a folder").arg(shownPath(path)));
+  m_parts.push_back({isInput ? QStringLiteral("(stdin)") : shownFileName(path), {}});
+  // Standard input is read from where it stands.
+  if (isInput || !isStored(file.get())) {
+    m_sources.push_back({m_parts.size() - 1, std::move(file)});
+  } else {
+    m_parts.back().file = std::move(file);
   }
-  set(m_files.isEmpty() ? State::None : State::Ready);
 }
 
 void Document::readDescriptor(int descriptor, const QString& name) {
-  stopReading();
-  m_files.clear();
-  m_name = name;
-  const QString folder = userTemporaryDirectory();
-  m_copy = std::make_unique<QTemporaryFile>((folder.isNull() ? QStringLiteral("/tmp/") : folder) +
-                                            QStringLiteral("kesto-document"));
-  if (!m_copy->open()) {
-    ::close(descriptor);
-    return set(State::Failed, tr("The document cannot be kept: %1").arg(m_copy->errorString()));
-  }
-  set(State::Reading);
-  m_reader = std::thread([this, descriptor, reading = m_reading] { copy(descriptor, reading); });
+  begin();
+  m_parts.push_back({shownText(name), {}});
+  m_sources.push_back({0, Descriptor(descriptor)});
+  read();
 }
 
-void Document::copy(int descriptor, int reading) {
-  const std::optional<int> fault = copyAll(descriptor, *m_copy, m_isStopped);
-  ::close(descriptor);
-  if (!fault) return;
-  const auto finish = [this, reading, fault = *fault] {
-    if (reading != m_reading) return;  // another document has come in the meantime
-    if (fault != 0)
-      return set(State::Failed, tr("The document cannot be read: %1").arg(qt_error_string(fault)));
-    if (m_copy->size() == 0) return set(State::Failed, tr("The document is empty."));
-    m_files = {m_copy->fileName()};
-    set(State::Ready);
+void Document::readFromClient(int descriptor, const QString& name) {
+  begin();
+  m_isOpenEnded = !isRegular(descriptor);
+  m_parts.push_back({shownText(name), {}});
+  m_sources.push_back({0, Descriptor(descriptor)});
+  read();
+}
+
+void Document::read() {
+  if (m_sources.empty()) return finish();
+  set(State::Reading);
+  m_reader = std::thread(
+      [this, sources = std::exchange(m_sources, {}), reading = m_reading] { readSources(sources, reading); });
+}
+
+void Document::readOn() {
+  m_isWanted = true;
+  wake();
+  if (m_state == State::Paused) set(State::Reading);
+}
+
+// In the reading thread, as the next four.
+void Document::readSources(const std::vector<Source>& sources, int reading) {
+  qint64 read = 0;
+  for (const Source& source : sources) {
+    auto copied = std::make_shared<Copied>(copy(source.descriptor.get(), &read, reading));
+    if (m_isStopped) return;
+    post(reading, [this, part = source.part, copied] { takeCopy(part, copied); });
+  }
+  post(reading, [this] { finish(); });
+}
+
+Document::Copied Document::copy(int descriptor, qint64* read, int reading) {
+  PrivateCopy copy;
+  bool isPaused = false;
+  std::array<char, 65536> block{};
+  while (!m_isStopped) {
+    const bool pauses = *read >= m_bounds.beforePrint && !m_isWanted;
+    if (pauses && !std::exchange(isPaused, true))
+      post(reading, [this] {
+        if (!m_isWanted) set(State::Paused);
+      });
+    if (!wait(descriptor, pauses)) continue;
+    const ssize_t count = ::read(descriptor, block.data(), block.size());
+    if (count < 0 && (errno == EINTR || errno == EAGAIN)) continue;
+    if (count < 0) return {{}, tr("%1 cannot be read: %2").arg(QStringLiteral("%1"), qt_error_string(errno))};
+    if (count == 0) break;
+    *read += count;
+    if (*read > m_bounds.whole)
+      return {{},
+              tr("%1 is larger than %2, the most that is read.")
+                  .arg(QStringLiteral("%1"), QLocale().formattedDataSize(m_bounds.whole, 0))};
+    if (Outcome kept = copy.append(block.data(), count); !kept)
+      return {{}, tr("%1 cannot be stored: %2").arg(QStringLiteral("%1"), kept.reason())};
+  }
+  return {copy.take(), copy.size() == 0 ? tr("%1 is empty. There is nothing to print.") : QString()};
+}
+
+// Whether there is something to read; false when the two flags are to be looked at first.
+bool Document::wait(int descriptor, bool isPaused) {
+  std::array<pollfd, 2> waits{pollfd{.fd = m_wake.get(), .events = POLLIN, .revents = 0},
+                              pollfd{.fd = isPaused ? -1 : descriptor, .events = POLLIN, .revents = 0}};
+  if (::poll(waits.data(), waits.size(), -1) < 0) return false;
+  if (waits[0].revents == 0) return true;
+  eventfd_t count = 0;
+  (void)::eventfd_read(m_wake.get(), &count);
+  return false;
+}
+
+// Does it in the thread of this object, unless another document has come in the meantime.
+void Document::post(int reading, const std::function<void()>& action) {
+  const auto act = [this, reading, action] {
+    if (reading == m_reading) action();
   };
-  QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
+}
+
+void Document::takeCopy(std::size_t part, const std::shared_ptr<Copied>& copied) {
+  QString name = m_parts[part].name;
+  if (name.isEmpty()) name = tr("The document");
+  if (copied->fault.isNull()) {
+    m_parts[part].file = std::move(copied->file);
+  } else {
+    addFault(copied->fault.arg(name));
+  }
+}
+
+// All is read that can be.
+void Document::finish() {
+  std::erase_if(m_parts, [](const Part& part) { return !part.file; });
+  if (m_parts.empty()) return set(m_faults.isEmpty() ? State::None : State::Failed);
+  if (!m_isOpenEnded) return set(State::Ready);
+  Q_EMIT ended();
+}
+
+void Document::confirmEnd() {
+  m_isOpenEnded = false;
+  if (m_state == State::Reading) finish();
 }
 
 QString Document::name() const {
-  const auto others = static_cast<int>(m_files.size()) - 1;
-  return others < 1 ? m_name : tr("%1 and %n more", nullptr, others).arg(m_name);
+  if (m_parts.empty()) return {};
+  const auto others = static_cast<int>(m_parts.size()) - 1;
+  const QString& first = m_parts.front().name;
+  return others < 1 ? first : tr("%1 and %n more", nullptr, others).arg(first);
+}
+
+std::vector<JobFile> Document::files() const {
+  std::vector<JobFile> files;
+  const QByteArray folder = "/proc/" + QByteArray::number(::getpid()) + "/fd/";
+  for (const Part& part : m_parts) {
+    if (part.file) files.push_back({.path = folder + QByteArray::number(part.file.get()), .name = part.name});
+  }
+  return files;
 }
 
 }  // namespace kesto

@@ -1,4 +1,5 @@
 // kesto-print: the print dialog.
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -24,13 +25,9 @@ bool hasStandardInput() {
 }
 
 void openDocument(const PrintOptions& options, Document& document) {
-  const bool isAsked = options.files == QStringList{QStringLiteral("-")};
   const bool isOnlyLooking = options.timings || !options.screenshot.isNull();
-  if (isAsked || (options.files.isEmpty() && !isOnlyLooking && hasStandardInput())) {
-    document.readDescriptor(::dup(STDIN_FILENO), QStringLiteral("(stdin)"));
-  } else {
-    document.openFiles(options.files);
-  }
+  const bool isInput = options.files.isEmpty() && !isOnlyLooking && hasStandardInput();
+  document.openFiles(isInput ? QByteArrayList{"-"} : options.files);
 }
 
 void timeStart(TimedApplication& application, PrintDialog& dialog) {
@@ -57,6 +54,14 @@ void takeScreenshot(PrintDialog& dialog, const QString& path) {
   QObject::connect(&dialog.preview(), &Preview::shown, &dialog, take, Qt::QueuedConnection);
 }
 
+// Each file stays open from its choice until it is sent.
+void allowManyFiles() {
+  rlimit limit{};
+  if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+  limit.rlim_cur = limit.rlim_max;
+  ::setrlimit(RLIMIT_NOFILE, &limit);
+}
+
 int runForPortal(const PrintOptions& options) {
   QApplication::setQuitOnLastWindowClosed(false);
   const PortalPrint print(options);
@@ -66,10 +71,8 @@ int runForPortal(const PrintOptions& options) {
 int run(TimedApplication& application, const PrintOptions& options) {
   Document document;
   openDocument(options, document);
-  if (document.state() == Document::State::Failed) {
-    std::cerr << "kesto-print: " << document.fault().toStdString() << '\n';
-    return ExitFailed;
-  }
+  for (const QString& fault : document.faults())
+    std::cerr << "kesto-print: " << fault.toStdString() << '\n';
   PrintDialog dialog(options, document);
   if (options.timings) timeStart(application, dialog);
   if (!options.screenshot.isNull()) takeScreenshot(dialog, options.screenshot);
@@ -91,5 +94,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("kesto-print"));
   QApplication::setDesktopFileName(QStringLiteral("kesto-print"));
   kesto::installTranslations();
+  kesto::allowManyFiles();
+  kesto::removeLeftCopies();
   return options.channel >= 0 ? kesto::runForPortal(options) : kesto::run(application, options);
 }

@@ -65,7 +65,7 @@ class CommandLine {
     m_app.add_option_function<std::vector<std::string>>("-o", addOption)->allow_extra_args(false);
     const auto addFiles = [this](const std::vector<std::string>& files) {
       for (const std::string& file : files)
-        m_options.files.append(QString::fromStdString(file));
+        m_options.files.append(QByteArray::fromStdString(file));
     };
     m_app.add_option_function<std::vector<std::string>>("files", addFiles);
     refuseFlagValues(m_app);

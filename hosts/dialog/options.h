@@ -1,9 +1,9 @@
 // The command line of kesto-print.
 #pragma once
 
+#include <QtCore/QByteArrayList>
 #include <QtCore/QMap>
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 #include <optional>
 
 #include "hosts/cups/server_address.h"
@@ -12,9 +12,9 @@ namespace kesto {
 
 /// What the program is to do.
 struct PrintOptions {
-  QString queue;  ///< Null for the user's default queue.
-  QString title;  ///< Null for the document's own name.
-  QStringList files;
+  QString queue;                      ///< Null for the user's default queue.
+  QString title;                      ///< Null for the document's own name.
+  QByteArrayList files;               ///< Paths; "-" is standard input.
   QMap<QString, QString> jobOptions;  ///< Those that the dialog has a control for it starts with.
   ServerAddress server;
   bool documentLater = false;  ///< The document comes only after the choice, drawn as was chosen.

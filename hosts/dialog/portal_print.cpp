@@ -55,14 +55,16 @@ PortalPrint::PortalPrint(const PrintOptions& options)
   connect(&m_channel, &PrintChannel::received, this, &PortalPrint::take);
   connect(&m_channel, &PrintChannel::closed, this, &PortalPrint::withdraw);
   connect(&m_document, &Document::changed, this, &PortalPrint::takeDocument);
+  connect(&m_document, &Document::ended, this, [this] { answer(QStringLiteral("read")); });
 }
 
 void PortalPrint::take(const QJsonObject& message, Descriptor& attached) {
   const QString what = message.value(u"do").toString();
   if (what == u"open" && !m_dialog) open(message);
   if (what == u"close") withdraw();
-  if (what == u"print" && m_dialog && attached)
-    m_document.readDescriptor(attached.release(), message.value(u"title").toString());
+  if (what == u"whole") m_document.confirmEnd();
+  if (what == u"print" && m_dialog && attached && m_document.state() == Document::State::None)
+    m_document.readFromClient(attached.release(), message.value(u"title").toString());
 }
 
 void PortalPrint::open(const QJsonObject& message) {
@@ -129,10 +131,8 @@ void PortalPrint::takeChoice() {
 }
 
 void PortalPrint::takeDocument() {
-  if (m_document.state() == Document::State::Failed && !m_isTaken) {
+  if (m_document.state() == Document::State::Failed && !std::exchange(m_hasFailed, true))
     answer(QStringLiteral("failed"));
-    return withdraw();
-  }
   if (m_document.state() != Document::State::Ready || !m_isChosen || std::exchange(m_isTaken, true)) return;
   answer(QStringLiteral("taken"));
 }
@@ -144,8 +144,10 @@ void PortalPrint::answer(const QString& word, QJsonObject message) {
 }
 
 void PortalPrint::withdraw() {
-  // A document that is on its way after the choice is the user's wish already.
-  if (m_isTaken || (m_isChosen && m_document.state() == Document::State::Reading)) return;
+  // The user reads what has failed.
+  if (m_isTaken || m_hasFailed) return;
+  // A document that is there whole after the choice is the user's wish already; nobody will end another one.
+  if (m_isChosen && m_document.state() == Document::State::Reading && !m_document.isOpenEnded()) return;
   if (m_dialog) m_dialog->disconnect(this);
   QCoreApplication::quit();
 }

@@ -16,6 +16,7 @@
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -227,22 +228,39 @@ void PrintDialog::retry() {
 void PrintDialog::showDocument() {
   using State = Document::State;
   const State state = m_document.state();
-  const QString file = state == State::Ready ? m_document.files().first() : QString();
+  const std::vector<JobFile> files = m_document.files();
+  const QString file = state == State::Ready ? QString::fromLatin1(files.front().path) : QString();
   QString text = m_document.name();
-  if (state == State::None) text = m_options.documentLater ? m_options.title : tr("none chosen");
-  if (state == State::Failed) text = m_document.fault();
-  m_documentName->setText(text);
+  if (state == State::None) text = m_options.documentLater ? shownText(m_options.title) : tr("none chosen");
+  showDocumentName(text);
   m_preview->show(file, state == State::Reading   ? tr("The document is being read…")
+                        : state == State::Paused  ? tr("The document is long. Print reads the rest.")
                         : m_options.documentLater ? tr("The application draws the pages after the choice.")
                                                   : tr("No document"));
-  m_chooseDocument->setVisible(state == State::Failed || (state == State::None && !m_options.documentLater));
+  m_chooseDocument->setVisible(m_options.channel < 0 && !m_options.documentLater &&
+                               (state == State::Failed || state == State::None));
   m_session.renameJob(jobName());
-  if (m_phase == Phase::Waiting && state == State::Ready) return send();
+  const bool isAsShown = state == State::Ready && m_document.faults().size() == m_faultsShown;
+  if (m_phase == Phase::Waiting && isAsShown) return send();
+  if (m_phase == Phase::Waiting && (state == State::Ready || state == State::Failed))
+    return takeSendFailure(m_document.faults().join(u' '));
   updateControls();
 }
 
+// Its name, and below it what is missing of it.
+void PrintDialog::showDocumentName(const QString& name) {
+  constexpr qsizetype mostLines = 4;
+  QStringList lines = m_document.faults();
+  if (!name.isEmpty()) lines.prepend(name);
+  m_documentName->setToolTip(lines.join(u'\n').toHtmlEscaped());
+  if (lines.size() > mostLines) lines = lines.first(mostLines) << QStringLiteral("…");
+  m_documentName->setText(lines.join(u'\n'));
+}
+
 void PrintDialog::chooseDocument() {
-  const QStringList files = QFileDialog::getOpenFileNames(this, tr("Choose the document"));
+  QByteArrayList files;
+  for (const QString& file : QFileDialog::getOpenFileNames(this, tr("Choose the document")))
+    files.append(QFile::encodeName(file));
   if (!files.isEmpty()) m_document.openFiles(files);
 }
 
@@ -258,20 +276,20 @@ void PrintDialog::print() {
     if (m_panelPane != nullptr) m_panelPane->showMissingEntry();
     return;
   }
-  const bool hasDocument = m_document.state() == Document::State::Ready;
-  if (!hasDocument) {
-    setPhase(Phase::Waiting);
-    hide();
-  } else {
+  const Document::State state = m_document.state();
+  if (state == Document::State::Ready) {
     send();
+  } else {
+    setPhase(Phase::Waiting);
+    if (state != Document::State::Paused) hide();
   }
+  m_faultsShown = m_document.faults().size();
+  m_document.readOn();
   Q_EMIT chosen();
 }
 
 void PrintDialog::send() {
-  PrintJob job{.title = jobName(), .files = {}, .options = m_otherOptions};
-  for (const QString& file : m_document.files())
-    job.files.push_back({.path = QFile::encodeName(file)});
+  PrintJob job{.title = jobName(), .files = m_document.files(), .options = m_otherOptions};
   job.options.insert(m_general->jobOptions());
   job.options.insert(m_session.settings());
   // Whoever drew the document has left out the other pages.
@@ -321,9 +339,11 @@ void PrintDialog::updateControls() {
     part->setEnabled(isChoosing);
   m_presets->setEnabled(isChoosing && m_session.presets() != nullptr);
   m_chooseDocument->setEnabled(isChoosing);
-  const bool hasDocument = m_document.state() == Document::State::Ready;
-  m_print->setEnabled(isQueueReady() && (hasDocument || m_options.documentLater));
-  const bool isMissing = !hasDocument && !m_options.documentLater;
+  using State = Document::State;
+  const State state = m_document.state();
+  const bool isMissing =
+      state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
+  m_print->setEnabled(isQueueReady() && !isMissing);
   m_print->setToolTip(isMissing ? tr("There is no document to print yet.") : QString());
 }
 

@@ -92,6 +92,7 @@ class PrintDialog : public QDialog {
   void leaveQueue();
   void retry();
   void showDocument();
+  void showDocumentName(const QString& name);
   void chooseDocument();
   void print();
   void send();
@@ -116,6 +117,7 @@ class PrintDialog : public QDialog {
   bool m_isStarted = false;
   bool m_isSettled = false;
   Phase m_phase = Phase::Choosing;
+  qsizetype m_faultsShown = 0;  // of the document, when Print was pressed
   int m_job = 0;
   QueueChooser* m_chooser = nullptr;
   PresetMenu* m_presets = nullptr;

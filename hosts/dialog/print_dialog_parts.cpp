@@ -54,6 +54,7 @@ QWidget* PrintDialog::makeHead() {
   m_presets = new PresetMenu(m_session, head);
   m_chooser = new QueueChooser(head);
   m_documentName = new QLabel(head);
+  m_documentName->setObjectName(QStringLiteral("documentName"));
   m_documentName->setTextFormat(Qt::PlainText);
   m_documentName->setWordWrap(true);
   m_chooseDocument = new QPushButton(head);

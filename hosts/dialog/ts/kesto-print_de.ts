@@ -147,24 +147,32 @@
         <source>%1 is a folder</source>
         <translation>%1 ist ein Ordner</translation>
     </message>
-    <message>
-        <source>The document cannot be kept: %1</source>
-        <translation>Das Dokument kann nicht zwischengespeichert werden: %1</translation>
-    </message>
-    <message>
-        <source>The document cannot be read: %1</source>
-        <translation>Das Dokument kann nicht gelesen werden: %1</translation>
-    </message>
-    <message>
-        <source>The document is empty.</source>
-        <translation>Das Dokument ist leer.</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
             <numerusform>%1 und %n weitere Datei</numerusform>
             <numerusform>%1 und %n weitere Dateien</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that is read.</source>
+        <translation>%1 ist größer als %2; mehr wird nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be stored: %2</source>
+        <translation>%1 kann nicht zwischengespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is empty. There is nothing to print.</source>
+        <translation>%1 ist leer. Es gibt nichts zu drucken.</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>Das Dokument</translation>
     </message>
 </context>
 <context>
@@ -527,6 +535,10 @@
     <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>Auftrag %1 an %2 gesendet; die Einträge können nicht gemerkt werden</translation>
+    </message>
+    <message>
+        <source>The document is long. Print reads the rest.</source>
+        <translation>Das Dokument ist lang. Beim Drucken wird der Rest gelesen.</translation>
     </message>
 </context>
 <context>

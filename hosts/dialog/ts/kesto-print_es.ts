@@ -147,24 +147,32 @@
         <source>%1 is a folder</source>
         <translation>%1 es una carpeta</translation>
     </message>
-    <message>
-        <source>The document cannot be kept: %1</source>
-        <translation>No se puede guardar el documento: %1</translation>
-    </message>
-    <message>
-        <source>The document cannot be read: %1</source>
-        <translation>No se puede leer el documento: %1</translation>
-    </message>
-    <message>
-        <source>The document is empty.</source>
-        <translation>El documento está vacío.</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
             <numerusform>%1 y %n más</numerusform>
             <numerusform>%1 y %n más</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 no se puede leer: %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that is read.</source>
+        <translation>%1 supera %2, el máximo que se lee.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be stored: %2</source>
+        <translation>%1 no se puede guardar: %2</translation>
+    </message>
+    <message>
+        <source>%1 is empty. There is nothing to print.</source>
+        <translation>%1 está vacío. No hay nada que imprimir.</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>El documento</translation>
     </message>
 </context>
 <context>
@@ -527,6 +535,10 @@
     <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>Trabajo %1 enviado a %2; sus datos no se pueden recordar</translation>
+    </message>
+    <message>
+        <source>The document is long. Print reads the rest.</source>
+        <translation>El documento es largo. El resto se lee al imprimir.</translation>
     </message>
 </context>
 <context>

@@ -147,24 +147,32 @@
         <source>%1 is a folder</source>
         <translation>%1 est un dossier</translation>
     </message>
-    <message>
-        <source>The document cannot be kept: %1</source>
-        <translation>Impossible de garder le document&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>The document cannot be read: %1</source>
-        <translation>Impossible de lire le document&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>The document is empty.</source>
-        <translation>Le document est vide.</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
             <numerusform>%1 et %n autre</numerusform>
             <numerusform>%1 et %n autres</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ne peut pas être lu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that is read.</source>
+        <translation>%1 dépasse %2, la taille maximale qui est lue.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be stored: %2</source>
+        <translation>%1 ne peut pas être enregistré&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is empty. There is nothing to print.</source>
+        <translation>%1 est vide. Il n’y a rien à imprimer.</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>Le document</translation>
     </message>
 </context>
 <context>
@@ -527,6 +535,10 @@
     <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>Travail %1 envoyé à %2&#xa0;; ses entrées ne peuvent pas être mémorisées</translation>
+    </message>
+    <message>
+        <source>The document is long. Print reads the rest.</source>
+        <translation>Le document est long. Le reste est lu à l’impression.</translation>
     </message>
 </context>
 <context>

@@ -147,23 +147,31 @@
         <source>%1 is a folder</source>
         <translation>%1 はフォルダーです</translation>
     </message>
-    <message>
-        <source>The document cannot be kept: %1</source>
-        <translation>文書を一時保存できません: %1</translation>
-    </message>
-    <message>
-        <source>The document cannot be read: %1</source>
-        <translation>文書を読み取れません: %1</translation>
-    </message>
-    <message>
-        <source>The document is empty.</source>
-        <translation>文書が空です。</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
             <numerusform>%1、他 %n 件</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that is read.</source>
+        <translation>%1 は、読み取れる上限の %2 を超えています。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be stored: %2</source>
+        <translation>%1 を保存できません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is empty. There is nothing to print.</source>
+        <translation>%1 は空です。印刷するものがありません。</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>文書</translation>
     </message>
 </context>
 <context>
@@ -526,6 +534,10 @@
     <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>ジョブ %1 を %2 に送信しましたが、入力内容は記憶できません</translation>
+    </message>
+    <message>
+        <source>The document is long. Print reads the rest.</source>
+        <translation>文書が長いため、残りは「印刷」を押した後に読み取ります。</translation>
     </message>
 </context>
 <context>

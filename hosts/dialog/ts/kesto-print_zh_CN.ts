@@ -147,23 +147,31 @@
         <source>%1 is a folder</source>
         <translation>%1 是文件夹</translation>
     </message>
-    <message>
-        <source>The document cannot be kept: %1</source>
-        <translation>无法暂存文档：%1</translation>
-    </message>
-    <message>
-        <source>The document cannot be read: %1</source>
-        <translation>无法读取文档：%1</translation>
-    </message>
-    <message>
-        <source>The document is empty.</source>
-        <translation>文档为空。</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
             <numerusform>%1 及其他 %n 个文件</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that is read.</source>
+        <translation>%1 超过了可读取的上限 %2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be stored: %2</source>
+        <translation>无法存储 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is empty. There is nothing to print.</source>
+        <translation>%1 是空的，没有可打印的内容。</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>文档</translation>
     </message>
 </context>
 <context>
@@ -526,6 +534,10 @@
     <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>作业 %1 已发送到 %2；无法记住其条目</translation>
+    </message>
+    <message>
+        <source>The document is long. Print reads the rest.</source>
+        <translation>文档很长，其余部分将在按下“打印”后读取。</translation>
     </message>
 </context>
 <context>
