@@ -281,7 +281,7 @@ TEST_F(PortalServiceTest, WhatEndsADialogAnswersTheRequest) {
   EXPECT_EQ(failed.response(), 2U);
 }
 
-TEST_F(PortalServiceTest, AWithdrawnRequestClosesTheDialogUntilTheJobIsTheUsers) {
+TEST_F(PortalServiceTest, AWithdrawnRequestClosesTheDialog) {
   for (const bool hasDocument : {false, true}) {
     const QString path = handle();
     Answer answer(hasDocument ? print(path, {}) : prepare(path));
@@ -304,11 +304,10 @@ TEST_F(PortalServiceTest, AWithdrawnRequestClosesTheDialogUntilTheJobIsTheUsers)
   EXPECT_EQ(dialog.nextWord(), u"print");
   const QDBusPendingCall closing = close(path);
   EXPECT_EQ(printing.response(), 2U);
-  m_service.reset();
-  EXPECT_EQ(dialog.next(), (QJsonObject{{u"closed"_s, true}})) << "the job is closed";
+  EXPECT_EQ(dialog.nextWord(), u"close") << "it knows whether its document is whole";
 }
 
-TEST_F(PortalServiceTest, TheClientsEndClosesTheDialogUntilTheJobIsTheUsers) {
+TEST_F(PortalServiceTest, TheClientsEndClosesTheDialog) {
   for (const QString& stage : {u"asked"_s, u"chosen"_s, u"asked with a document"_s, u"printing"_s}) {
     SCOPED_TRACE(stage.toStdString());
     std::optional<Dialog> dialog;
@@ -332,13 +331,44 @@ TEST_F(PortalServiceTest, TheClientsEndClosesTheDialogUntilTheJobIsTheUsers) {
     if (answer) {
       EXPECT_EQ(answer->response(), 2U);
     }
-    if (stage != u"printing") {
-      EXPECT_EQ(dialog->nextWord(), u"close");
-      continue;
-    }
-    m_service.reset();
-    EXPECT_EQ(dialog->next(), (QJsonObject{{u"closed"_s, true}})) << "the job is closed";
+    EXPECT_EQ(dialog->nextWord(), u"close");
+    dialog->say(R"({"answer":"taken"})");  // a file may be printed all the same
   }
+}
+
+TEST_F(PortalServiceTest, TheEndOfADocumentIsWholeWhileItsClientLives) {
+  for (const bool lives : {true, false}) {
+    uint token = 0;
+    Dialog dialog = chosenDialog(&token);
+    Answer printing(print(handle(), token));
+    EXPECT_EQ(dialog.nextWord(), u"print");
+    dialog.say(R"({"answer":"read"})");
+    if (!lives) QDBusConnection::disconnectFromBus(u"client"_s);
+    EXPECT_EQ(dialog.nextWord(), lives ? u"whole" : u"close");
+    dialog.say(R"({"answer":"taken"})");
+    EXPECT_EQ(printing.response(), lives ? 0U : 2U);
+  }
+}
+
+TEST_F(PortalServiceTest, OneClientHasEightDialogsAtMost) {
+  std::vector<std::unique_ptr<Answer>> answers;
+  std::vector<Dialog> dialogs;
+  for (int i = 0; i < PortalService::mostDialogs; ++i) {
+    answers.push_back(std::make_unique<Answer>(prepare(handle())));
+    dialogs.push_back(startedDialog());
+  }
+  for (const char* client : {"client", "stranger"}) {  // the same application, under another name
+    const ExpectedWarning warning("a client has 8 print dialogs already, and gets no more");
+    EXPECT_EQ(Answer(prepare(handle(client))).response(), 2U);
+  }
+  Answer another(print(handle("stranger"), {}));
+  EXPECT_EQ(startedDialog().nextWord(), u"open");
+  dialogs.front().say(R"({"answer":"cancelled"})");
+  dialogs.front().say(R"({"exit":0})");
+  EXPECT_EQ(answers.front()->response(), 1U);
+  waitFor([this] { return m_service->findChildren<DialogSession*>().size() == PortalService::mostDialogs; });
+  Answer again(prepare(handle()));
+  EXPECT_EQ(startedDialog().nextWord(), u"open");
 }
 
 TEST_F(PortalServiceTest, ALargePipeArrivesByteForByte) {

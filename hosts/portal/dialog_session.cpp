@@ -1,6 +1,7 @@
 #include "hosts/portal/dialog_session.h"
 
 #include <QtCore/QLoggingCategory>
+#include <QtDBus/QDBusConnectionInterface>
 
 #include "hosts/channel/portal_settings.h"
 
@@ -17,6 +18,9 @@ QVariantMap toVariants(const QJsonObject& object) {
   return map;
 }
 
+// A client that dies closes its pipe and its bus at about the same time, in any order.
+constexpr std::chrono::milliseconds settlingTime(500);
+
 QJsonObject command(const char* word) {
   return {{QStringLiteral("do"), QLatin1String(word)}};
 }
@@ -25,6 +29,7 @@ QJsonObject command(const char* word) {
 
 DialogSession::DialogSession(const QDBusConnection& bus, Ticket ticket, QObject* parent)
     : QObject(parent),
+      m_bus(bus),
       m_ticket(std::move(ticket)),
       m_dialog(this),
       m_clientWatcher(m_ticket.client, bus, QDBusServiceWatcher::WatchForUnregistration) {
@@ -36,6 +41,8 @@ DialogSession::DialogSession(const QDBusConnection& bus, Ticket ticket, QObject*
   });
   m_expiry.setSingleShot(true);
   connect(&m_expiry, &QTimer::timeout, this, &DialogSession::withdraw);
+  m_settling.setSingleShot(true);
+  connect(&m_settling, &QTimer::timeout, this, &DialogSession::confirmEnd);
 }
 
 Outcome DialogSession::open(const QString& program, const QJsonObject& open,
@@ -70,6 +77,10 @@ Outcome DialogSession::print(const QString& title, int document, std::unique_ptr
   return Outcome::done();
 }
 
+bool DialogSession::isOf(const QString& client, const QString& appId) const {
+  return m_ticket.client == client || (!appId.isEmpty() && m_ticket.appId == appId);
+}
+
 bool DialogSession::waitsFor(quint32 token, const QString& client) const {
   return m_state == State::Waiting && m_ticket.token == token && m_ticket.client == client;
 }
@@ -84,6 +95,7 @@ void DialogSession::handleAnswer(const QJsonObject& message) {
   const QString word = message.value(QStringLiteral("answer")).toString();
   const bool hasDocument = m_state == State::ChoosingToPrint || m_state == State::Printing;
   if (word == u"chosen" && m_state == State::Choosing) return keepChoice(message);
+  if (word == u"read" && hasDocument) return m_settling.start(settlingTime);
   if (word == u"taken" && hasDocument) return end(Response::Done);
   if (word == u"cancelled") return end(Response::Cancelled);
   if (word == u"failed" && hasDocument) return end(Response::Failed);
@@ -99,12 +111,17 @@ void DialogSession::keepChoice(const QJsonObject& message) {
                           {QStringLiteral("token"), m_ticket.token}});
 }
 
-// The client, the front end or the time has given the print up. A job that the user has sent goes on.
+// The end of a pipe is that of the document while its writer lives.
+void DialogSession::confirmEnd() {
+  if (!m_bus.interface()->isServiceRegistered(m_ticket.client)) return withdraw();
+  if (Outcome told = m_dialog.send(command("whole")); !told)
+    qWarning("the print dialog cannot go on: %ls", qUtf16Printable(told.reason()));
+}
+
+// The client, the front end or the time has given the print up. A job whose document is there goes on.
 void DialogSession::withdraw() {
-  if (m_state == State::Printing || m_state == State::Ended) {
-    answer(Response::Failed);
-    return;
-  }
+  m_settling.stop();
+  if (m_state == State::Ended) return answer(Response::Failed);
   if (Outcome told = m_dialog.send(command("close")); !told)
     qWarning("the print dialog cannot be closed: %ls", qUtf16Printable(told.reason()));
   end(Response::Failed);
@@ -112,6 +129,7 @@ void DialogSession::withdraw() {
 
 void DialogSession::end(Response response) {
   m_expiry.stop();
+  m_settling.stop();
   m_state = State::Ended;
   answer(response);
 }

@@ -16,12 +16,13 @@ namespace kesto {
 /// Whom a session belongs to, and what its choices are kept under.
 struct Ticket {
   QString client;  ///< The client's unique bus name.
+  QString appId;   ///< As the front end knows the client; empty when it does not.
   quint32 token = 0;
   std::chrono::milliseconds lifetime{};  ///< From the choice on.
 };
 
-/// Lives as long as its dialog. The client's end, a withdrawn request and an expired ticket close the dialog,
-/// unless the choice is made and a document handed on: that job is the dialog's alone.
+/// Lives as long as its dialog. The client's end, a withdrawn request and an expired ticket close the dialog;
+/// once the choice is made and a document handed on, the dialog decides whether that one is whole.
 class DialogSession : public QObject {
   Q_OBJECT
 
@@ -37,6 +38,8 @@ class DialogSession : public QObject {
   Outcome print(const QString& title, int document, std::unique_ptr<PortalRequest>* request);
 
   quint32 token() const { return m_ticket.token; }
+  /// Whether it is a dialog of this client's, or of the same application's.
+  bool isOf(const QString& client, const QString& appId) const;
   /// Whether it waits for the document of this client's token.
   bool waitsFor(quint32 token, const QString& client) const;
 
@@ -52,15 +55,18 @@ class DialogSession : public QObject {
   void hold(std::unique_ptr<PortalRequest> request);
   void handleAnswer(const QJsonObject& message);
   void keepChoice(const QJsonObject& message);
+  void confirmEnd();
   void withdraw();
   void end(Response response);
   void answer(Response response, const QVariantMap& results = {});
 
+  QDBusConnection m_bus;
   Ticket m_ticket;
   State m_state = State::Choosing;
   DialogProcess m_dialog;
   QDBusServiceWatcher m_clientWatcher;
   QTimer m_expiry;
+  QTimer m_settling;                   // from the end of what the client wrote on
   PortalRequest* m_request = nullptr;  // a child; null when none waits
 };
 

@@ -108,10 +108,22 @@ std::unique_ptr<PortalRequest> PortalService::accept(const QDBusObjectPath& hand
   return request;
 }
 
+bool PortalService::hasTooMany(const QString& client, const QString& appId) const {
+  int dialogs = 0;
+  for (const auto* session : findChildren<DialogSession*>(QString(), Qt::FindDirectChildrenOnly))
+    dialogs += session->isOf(client, appId) ? 1 : 0;
+  return dialogs >= mostDialogs;
+}
+
 void PortalService::openDialog(const QString& client, const QJsonObject& open,
                                std::unique_ptr<PortalRequest> request, int document) {
+  const QString appId = open.value(QStringLiteral("appId")).toString();
+  if (hasTooMany(client, appId)) {
+    qWarning("a client has %d print dialogs already, and gets no more", mostDialogs);
+    return;
+  }
   // The session watches the client's end from its creation on; here it is seen whether that was before.
-  auto* session = new DialogSession(m_bus, Ticket{client, drawToken(), m_lifetime}, this);
+  auto* session = new DialogSession(m_bus, Ticket{client, appId, drawToken(), m_lifetime}, this);
   if (!m_bus.interface()->isServiceRegistered(client)) return session->deleteLater();
   if (const Outcome opened = session->open(m_dialog, open, std::move(request), document); !opened)
     qWarning("the print dialog cannot be opened: %ls", qUtf16Printable(opened.reason()));

@@ -26,6 +26,8 @@ class PortalService : public QObject {
   static constexpr char busName[] = "org.freedesktop.impl.portal.desktop.kesto";
   static constexpr char objectPath[] = "/org/freedesktop/portal/desktop";
   static constexpr std::chrono::minutes ticketLifetime{5};
+  /// The most dialogs that one client, or one application, has at a time.
+  static constexpr int mostDialogs = 8;
 
   /// Starts the program `dialog` for each request; a choice is kept for `lifetime`.
   PortalService(QDBusConnection bus, QString dialog, std::chrono::milliseconds lifetime = ticketLifetime);
@@ -48,6 +50,7 @@ class PortalService : public QObject {
 
  private:
   std::unique_ptr<PortalRequest> accept(const QDBusObjectPath& handle, const QDBusMessage& call);
+  bool hasTooMany(const QString& client, const QString& appId) const;
   void openDialog(const QString& client, const QJsonObject& open, std::unique_ptr<PortalRequest> request,
                   int document);
   DialogSession* sessionOf(quint32 token) const;
