@@ -2,13 +2,12 @@
 
 #include <QtCore/QFile>
 #include <algorithm>
-#include <cstring>
 #include <iostream>
 #include <limits>
 #include <string>
-#include <string_view>
 
 #include "hosts/command/arguments.h"
+#include "hosts/command/secret_arguments.h"
 
 namespace kesto {
 namespace {
@@ -44,17 +43,6 @@ std::string faultOfPassCode(const std::string& text) {
 std::string faultOfMisbehaviour(const std::string& name) {
   if (name == "list" || misbehaviourNamed(QString::fromStdString(name)) != nullptr) return "";
   return "there is no misbehaviour " + name + "; --misbehave list shows them";
-}
-
-// Every user of the machine can read a command line.
-void hidePassCode(int argc, char** argv) {
-  constexpr std::string_view option = "--pin";
-  for (int i = 1; i < argc; ++i) {
-    const std::string_view argument = argv[i];
-    if (argv[i - 1] == option) std::memset(argv[i], '*', argument.size());
-    if (argument.starts_with("--pin="))
-      std::memset(argv[i] + option.size(), '*', argument.size() - option.size());
-  }
 }
 
 void addPlace(CLI::App& app, Arguments& arguments) {
@@ -166,7 +154,7 @@ std::optional<int> parseDemoCommand(int argc, char** argv, DemoCommand* command)
   addCommands(app, arguments, *command);
   refuseFlagValues(app);
   const std::optional<int> ended = parse(app, argc, argv);
-  hidePassCode(argc, argv);
+  wipeSecretArguments(argc, argv);
   if (ended) return ended;
   if (app.count("--folder-port") > 0) command->setup.folderPort = static_cast<quint16>(arguments.folderPort);
   const Outcome completed = complete(arguments, command);

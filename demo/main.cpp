@@ -6,6 +6,7 @@
 #include "demo/command_line.h"
 #include "demo/log.h"
 #include "demo/stop_signal.h"
+#include "hosts/command/output.h"
 #include "platform/shown_text.h"
 
 namespace {
@@ -52,6 +53,7 @@ int run(const DemoCommand& command) {
   kesto::DemoPrinter printer(command.setup);
   if (Outcome started = printer.start(); !started) return fail(started.reason());
   printWhereabouts(printer.whereabouts(), command.json);
+  if (Outcome written = kesto::flushOutput(); !written) return fail(written.reason());
   return QCoreApplication::exec();
 }
 
@@ -108,7 +110,6 @@ int perform(const DemoCommand& command) {
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   DemoCommand command;
-  if (const std::optional<int> ended = kesto::parseDemoCommand(argc, argv, &command)) return *ended;
-  const int code = perform(command);
-  return std::ferror(stdout) == 0 ? code : fail(QStringLiteral("standard output cannot be written"));
+  const std::optional<int> ended = kesto::parseDemoCommand(argc, argv, &command);
+  return kesto::endOfOutput("kesto-demo-printer", ended ? *ended : perform(command));
 }

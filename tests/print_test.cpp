@@ -143,6 +143,37 @@ TEST_F(PrintTest, AJobIsHeldUntilItsPassCode) {
   EXPECT_EQ(bytesOf(m_printer->place(u"output"_s) + u"/job-1-2"_s), "from standard input");
 }
 
+TEST_F(PrintTest, WhatCannotBePrintedOrReadIsAFault) {
+  const QString server = u" -h "_s + m_printer->place(u"server"_s);
+  const QPair<QString, QString> cases[] = {
+      {u"kesto-lp"_s, u"--help"_s},
+      {u"kesto-lp"_s, u"--list"_s + server},
+      {u"kesto-lp"_s, u"--dry-run"_s + server},
+      {u"kesto-lp"_s, m_folder.path(u"second"_s) + server},
+      {u"kesto-print"_s, u"--help"_s},
+      {u"kesto-panel"_s, u"--help"_s},
+      {u"kesto-panel"_s, u""_s},
+      {u"kesto-demo-printer"_s, u"--help"_s},
+      {u"kesto-demo-printer"_s, u"--misbehave list"_s},
+      {u"kesto-demo-printer"_s, u"--folders-only --folder-port 0 --dir "_s + m_folder.path(u"other"_s)},
+  };
+  for (const auto& [program, arguments] : cases) {
+    // A stream that is closed at the start is not the one that the program opens first, its server's perhaps.
+    for (const auto& output : {u">/dev/full"_s, u">&-"_s, u">&- <&-"_s}) {
+      const QString command = builtProgram(program.toLatin1()) + u' ' + arguments + u' ' + output;
+      DemoProcess shell(m_folder, u"sh"_s,
+                        {u"-c"_s, u"echo '{\"do\":\"facts\"}' | ( "_s + command + u" )"_s});
+      const bool reads = arguments.isEmpty() && output.endsWith(u"<&-"_s);
+      EXPECT_EQ(shell.code(), reads ? 0 : 1) << command;
+      const QString fault = program + u": standard output cannot be written\n"_s;
+      EXPECT_EQ(QString::fromUtf8(shell.log()), reads ? QString() : fault) << command;
+    }
+  }
+  const QString unread = u"exec %1%2 - <&-"_s.arg(builtProgram("kesto-lp"), server);
+  DemoProcess shell(m_folder, u"sh"_s, {u"-c"_s, unread});
+  EXPECT_EQ(shell.code(), 1);
+}
+
 TEST_F(PrintTest, AStoppedQueueTakesJobsAndLetsThemWait) {
   ofPrintSystem(u"/usr/sbin/cupsdisable Office_MFP"_s);
   EXPECT_EQ(lp(u"--json -q 71 DOCUMENT"_s).out, u"{\"job\":1}\n"_s);

@@ -6,6 +6,7 @@
 #include <QtGui/QIcon>
 #include <iostream>
 
+#include "hosts/command/output.h"
 #include "hosts/dialog/options.h"
 #include "hosts/dialog/portal_print.h"
 #include "hosts/dialog/preview/preview.h"
@@ -89,12 +90,14 @@ int run(TimedApplication& application, const PrintOptions& options) {
 int main(int argc, char** argv) {
   const auto begin = kesto::TimedApplication::Clock::now();
   kesto::PrintOptions options;
-  if (const auto end = kesto::parsePrintOptions(argc, argv, &options)) return *end;
+  if (const auto end = kesto::parsePrintOptions(argc, argv, &options))
+    return kesto::endOfOutput("kesto-print", *end);
   kesto::TimedApplication application(argc, argv, begin);
   QApplication::setApplicationName(QStringLiteral("kesto-print"));
   QApplication::setDesktopFileName(QStringLiteral("kesto-print"));
   kesto::installTranslations();
   kesto::allowManyFiles();
   kesto::removeLeftCopies();
-  return options.channel >= 0 ? kesto::runForPortal(options) : kesto::run(application, options);
+  const int code = options.channel >= 0 ? kesto::runForPortal(options) : kesto::run(application, options);
+  return kesto::endOfOutput("kesto-print", code);
 }

@@ -68,14 +68,9 @@ Outcome fetchFolders(PrintDialogPanel& panel, const QString& address) {
                           : Outcome::failed(QStringLiteral("\"%1\" is no address").arg(known));
 }
 
-Outcome printed() {
-  std::cout.flush();
-  return std::cout ? Outcome::done() : Outcome::failed(QStringLiteral("standard output cannot be written"));
-}
-
 Outcome printArray(const QJsonArray& array) {
   std::cout << QJsonDocument(array).toJson().constData();
-  return printed();
+  return Outcome::done();
 }
 
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
@@ -92,7 +87,7 @@ Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
   }
   for (const QueueSummary& queue : queues)
     std::cout << lineOf(queue);
-  return printed();
+  return Outcome::done();
 }
 
 Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool* isOpen) {
@@ -106,11 +101,11 @@ Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool*
                              {QStringLiteral("shown"), QJsonArray::fromStringList(privacy.shown)},
                              {QStringLiteral("closedBy"), QJsonArray::fromStringList(lines)}};
     std::cout << QJsonDocument(object).toJson().constData();
-    return printed();
+    return Outcome::done();
   }
   if (!*isOpen) {
     std::cout << shownText(queue).toStdString() << ": other users see none of a job's options.\n";
-    return printed();
+    return Outcome::done();
   }
   std::cout << shownText(queue).toStdString() << ": other users see of a job "
             << shownText(privacy.shown.join(QStringLiteral(", "))).toStdString() << ".\n"
@@ -120,7 +115,7 @@ Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool*
             << ":\n";
   for (const QString& line : lines)
     std::cout << "  " << line.toStdString() << '\n';
-  return printed();
+  return Outcome::done();
 }
 
 Outcome printFolders(const PrintDialogPanel& panel, bool json) {
@@ -132,7 +127,7 @@ Outcome printFolders(const PrintDialogPanel& panel, bool json) {
     std::cout << shownText(folder.value(QStringLiteral("name")).toString()).toStdString()
               << (isLocked ? "\tlocked\n" : "\n");
   }
-  return printed();
+  return Outcome::done();
 }
 
 }  // namespace kesto

@@ -8,9 +8,6 @@
 
 namespace kesto {
 
-/// Whether standard output has taken all that was printed.
-Outcome printed();
-
 /// Prints a list as JSON.
 Outcome printArray(const QJsonArray& array);
 

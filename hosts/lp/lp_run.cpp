@@ -77,7 +77,7 @@ Outcome print(const QMap<QString, QString>& pairs, const char* separator, bool j
                 << '\n';
     }
   }
-  return printed();
+  return Outcome::done();
 }
 
 Outcome listPresets(const PresetStore& store, bool json) {
@@ -86,7 +86,7 @@ Outcome listPresets(const PresetStore& store, bool json) {
   if (json) return printArray(QJsonArray::fromStringList(names));
   for (const QString& name : names)
     std::cout << shownText(name).toStdString() << '\n';
-  return printed();
+  return Outcome::done();
 }
 
 Outcome readSecrets(const Options& options, Entries* entries) {

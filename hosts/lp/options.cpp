@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "hosts/command/arguments.h"
+#include "hosts/command/secret_arguments.h"
 #include "hosts/cups/print_job.h"
 #include "platform/shown_text.h"
 
@@ -302,22 +302,6 @@ QString CommandLine::faultOfQueue() const {
   return QStringLiteral("--ppd stands for a queue only with --dry-run or --folders");
 }
 
-// Blanks out what stands for a secret in the program's own arguments, so that a list of processes shows it no
-// more.
-void hideSecrets(int argc, char** argv) {
-  for (const FieldRow& row : fieldTable()) {
-    if (!row.isSecret()) continue;
-    const std::string option = "--" + std::string(row.name);
-    for (int i = 1; i < argc; ++i) {
-      const std::string_view argument = argv[i];
-      char* secret = nullptr;
-      if (argument == option && i + 1 < argc) secret = argv[i + 1];
-      if (argument.starts_with(option + '=')) secret = argv[i] + option.size() + 1;
-      if (secret != nullptr) std::fill_n(secret, std::strlen(secret), '\0');
-    }
-  }
-}
-
 }  // namespace
 
 bool Options::wantsPanel() const {
@@ -327,7 +311,7 @@ bool Options::wantsPanel() const {
 
 std::optional<ExitCode> parseOptions(int argc, char** argv, Options* options) {
   const std::optional<ExitCode> end = CommandLine(*options).parse(argc, argv);
-  hideSecrets(argc, argv);
+  wipeSecretArguments(argc, argv);
   return end;
 }
 

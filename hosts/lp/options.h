@@ -62,7 +62,7 @@ struct Options {
   bool wantsPanel() const;
 };
 
-/// Reads the command line and hides the secrets in it from other users' eyes. None when there is something to
+/// Reads the command line and wipes the secrets in it. None when there is something to
 /// do; otherwise the program ends with this code, the help or the fault having been printed. A fault never
 /// repeats what may be a secret.
 std::optional<ExitCode> parseOptions(int argc, char** argv, Options* options);

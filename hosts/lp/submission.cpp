@@ -81,7 +81,6 @@ Outcome submit(PrintServer& server, const cups_dest_t& destination, const Option
     const std::size_t files = std::max(std::size_t{1}, job.files.size());
     std::cout << "request id is " << destination.name << '-' << id << " (" << files << " file(s))\n";
   }
-  std::cout.flush();
   return Outcome::done();
 }
 

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <string>
 
+#include "hosts/command/output.h"
 #include "hosts/script/script_session.h"
 #include "platform/bundle.h"
 
@@ -60,16 +61,14 @@ Outcome prepare(const CLI::App& app, const Options& options, kesto::PanelHost* h
 }
 
 int serve(kesto::ScriptSession& session) {
-  for (std::string line; !session.isOver() && std::getline(std::cin, line);) {
+  for (std::string line; !session.isOver() && std::cout && std::getline(std::cin, line);) {
     const QJsonObject answer = session.answer(QByteArray::fromStdString(line));
     std::cout << QJsonDocument(answer).toJson(QJsonDocument::Compact).constData() << std::endl;
   }
   return 0;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   CLI::App app("Drives a Job Handling panel by commands in JSON, one object a line, on standard input.",
                "kesto-panel");
@@ -105,4 +104,10 @@ int main(int argc, char** argv) {
   if (Outcome opened = host.openPanel(*plugIn); !opened) return fail(opened);
   kesto::ScriptSession session(host, *plugIn, alerts);
   return serve(session);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return kesto::endOfOutput("kesto-panel", run(argc, argv));
 }

@@ -7,6 +7,7 @@
 #include <iostream>
 #include <string>
 
+#include "hosts/command/output.h"
 #include "hosts/dialog/options.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
@@ -101,8 +102,9 @@ int run(const PrintOptions& options) {
 
 int main(int argc, char** argv) {
   kesto::PrintOptions options;
-  if (const auto end = kesto::parsePrintOptions(argc, argv, &options)) return *end;
+  if (const auto end = kesto::parsePrintOptions(argc, argv, &options))
+    return kesto::endOfOutput("kesto-print-tour", *end);
   const QApplication application(argc, argv);
   kesto::installTranslations();
-  return kesto::run(options);
+  return kesto::endOfOutput("kesto-print-tour", kesto::run(options));
 }

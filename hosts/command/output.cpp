@@ -1,0 +1,23 @@
+#include "hosts/command/output.h"
+
+#include <cstdio>
+#include <iostream>
+
+namespace kesto {
+
+Outcome flushOutput() {
+  std::cout.flush();
+  const bool isFlushed = std::fflush(stdout) == 0;
+  return std::cout && isFlushed && std::ferror(stdout) == 0
+             ? Outcome::done()
+             : Outcome::failed(QStringLiteral("standard output cannot be written"));
+}
+
+int endOfOutput(const char* program, int code) {
+  const Outcome written = flushOutput();
+  if (written || code != 0) return code;
+  std::cerr << program << ": " << written.reason().toStdString() << '\n';
+  return 1;
+}
+
+}  // namespace kesto
