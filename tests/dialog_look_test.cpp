@@ -145,7 +145,7 @@ class DialogLook : public testing::Test {
     font.setPointSizeF(font.pointSizeF() * m_percent / 100);
     QApplication::setFont(font);
     QDir().mkpath(m_pictures);
-    m_document.openFiles({QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")});
+    m_document.openFiles({KESTO_TEST_DATA "/../../demo/quarterly-report.pdf"});
     PrintOptions options;
     options.server.address = u"127.0.0.1:9"_s;
     m_dialog.emplace(options, m_document);
