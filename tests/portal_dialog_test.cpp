@@ -1,8 +1,6 @@
 // The dialog of kesto-print --portal: what it says to its service, what ends it, and what is printed then.
 #include <fcntl.h>
 
-#include <QtWidgets/QRadioButton>
-
 #include "dialog_printer.h"
 #include "hosts/dialog/panes/general_pane.h"
 #include "hosts/dialog/portal_print.h"
@@ -141,6 +139,24 @@ TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
     jobs += row.jobs;
     if (row.jobs > 0) m_printer->waitForLog("job " + QByteArray::number(jobs) + " from ");
     EXPECT_EQ(QJsonDocument::fromJson(m_printer->jobs()).array().size(), jobs);
+  }
+}
+
+TEST_F(PortalDialog, TheClientsOwnPagesStayUnlessOthersAreChosen) {
+  startPrinter();
+  for (const auto& [asked, isChanged, answered] : {std::tuple("current", false, "current"),
+                                                   {"selection", false, "selection"},
+                                                   {"selection", true, "all"}}) {
+    open(false, {{u"print-pages"_s, QLatin1String(asked)}});
+    await([] { return window()->isQueueReady(); }, u"the queue"_s);
+    if (isChanged) {
+      EXPECT_TRUE(DialogUser(*window()).click(u"allPages"_s));
+    }
+    pressPrint();
+    awaitAnswers(u"chosen "_s);
+    EXPECT_EQ(m_said[u"settings"_s][u"print-pages"_s].toString(), QLatin1String(answered));
+    say(u"close"_s);
+    awaitEnd();
   }
 }
 

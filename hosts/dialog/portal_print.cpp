@@ -85,7 +85,10 @@ void PortalPrint::open(const QJsonObject& message) {
   connect(m_dialog.get(), &PrintDialog::settled, this, &PortalPrint::preset);
   connect(m_dialog.get(), &PrintDialog::chosen, this, &PortalPrint::takeChoice);
   connect(m_dialog.get(), &QDialog::finished, this, &PortalPrint::finish);
-  if (m_choice.pages == PortalPages::Ranges) m_dialog->general().setPages(m_choice.pageRanges);
+  GeneralPane& general = m_dialog->general();
+  if (m_choice.pages == PortalPages::Ranges) general.setPages(m_choice.pageRanges);
+  if (m_choice.pages == PortalPages::Current) general.offerOwnPages(tr("Current page"));
+  if (m_choice.pages == PortalPages::Selection) general.offerOwnPages(tr("Selection"));
   attachTo(message.value(u"parentWindow").toString());
   m_dialog->show();
 }
@@ -119,7 +122,8 @@ void PortalPrint::takeChoice() {
   if (!m_options.documentLater) return takeDocument();
   GeneralPane& general = m_dialog->general();
   m_choice.printer = m_dialog->queueName();
-  m_choice.pages = general.pages().isNull() ? PortalPages::All : PortalPages::Ranges;
+  if (!general.hasOwnPages())
+    m_choice.pages = general.pages().isNull() ? PortalPages::All : PortalPages::Ranges;
   m_choice.pageRanges = general.pages();
   for (const DuplexChoice& each : duplexChoices) {
     if (general.chosen(QStringLiteral("Duplex")) == each.keyword) m_choice.duplex = each.side;

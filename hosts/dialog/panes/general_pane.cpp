@@ -83,20 +83,26 @@ GeneralPane::GeneralPane(QWidget* parent)
 QWidget* GeneralPane::makePages() {
   auto* row = new QWidget(this);
   m_allPages = new QRadioButton(row);
+  m_ownPages = new QRadioButton(row);
   m_somePages = new QRadioButton(row);
   m_pages = new QLineEdit(row);
   setPlainText(*m_allPages, tr("All"));
   setPlainText(*m_somePages, tr("These:"));
   m_allPages->setChecked(true);
+  m_allPages->setObjectName(QStringLiteral("allPages"));
+  m_ownPages->setObjectName(QStringLiteral("ownPages"));
+  m_ownPages->hide();
   m_pages->setObjectName(QStringLiteral("pages"));
   m_pages->setPlaceholderText(tr("1-3, 5"));
   m_pages->setAccessibleName(tr("Pages to print, such as 1-3, 5"));
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins({});
   layout->addWidget(m_allPages);
+  layout->addWidget(m_ownPages);
   layout->addWidget(m_somePages);
   layout->addWidget(m_pages);
   enterAtChosen(*m_allPages);
+  enterAtChosen(*m_ownPages);
   enterAtChosen(*m_somePages);
   connect(m_somePages, &QRadioButton::clicked, m_pages, [this] { m_pages->setFocus(Qt::OtherFocusReason); });
   connect(m_pages, &QLineEdit::textChanged, m_somePages, [this](const QString& pages) {
@@ -110,6 +116,16 @@ QWidget* GeneralPane::makePages() {
 void GeneralPane::setPages(const QString& pages) {
   m_pages->setText(pages);
   (pages.isEmpty() ? m_allPages : m_somePages)->setChecked(true);
+}
+
+void GeneralPane::offerOwnPages(const QString& name) {
+  setPlainText(*m_ownPages, name);
+  m_ownPages->show();
+  m_ownPages->setChecked(true);
+}
+
+bool GeneralPane::hasOwnPages() const {
+  return m_ownPages->isChecked();
 }
 
 void GeneralPane::setPpd(ppd_file_t* ppd, const QStringList& handledByPanel) {
@@ -158,7 +174,8 @@ bool GeneralPane::choose(const QString& option, const QString& choice) {
   } else if (option == u"collate") {
     m_collate->setChecked(choice == u"true");
   } else if (option == u"page-ranges") {
-    setPages(choice);
+    // What the application asks for goes before what is kept for the queue.
+    if (!hasOwnPages()) setPages(choice);
   } else {
     const auto row = std::ranges::find(m_rows, option, &Row::keyword);
     const int index = row == m_rows.end() ? -1 : row->combo->findData(choice);

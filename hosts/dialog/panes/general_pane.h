@@ -25,6 +25,10 @@ class GeneralPane : public QWidget {
 
   /// Asks for these pages; for all of them when the text is empty.
   void setPages(const QString& pages);
+  /// Offers pages that the application alone knows, such as the current one, and chooses them.
+  void offerOwnPages(const QString& name);
+  /// Whether these are chosen.
+  bool hasOwnPages() const;
   /// Offers the options of a queue; the PPD must outlive them. Null takes them away.
   void setPpd(ppd_file_t* ppd, const QStringList& handledByPanel);
   /// Chooses a value of an offered option of the PPD, or of "copies", "collate" or "page-ranges". Answers
@@ -62,6 +66,7 @@ class GeneralPane : public QWidget {
   QSpinBox* m_copies;
   QCheckBox* m_collate;
   QRadioButton* m_allPages = nullptr;
+  QRadioButton* m_ownPages = nullptr;
   QRadioButton* m_somePages = nullptr;
   QLineEdit* m_pages = nullptr;
   QLabel* m_note;

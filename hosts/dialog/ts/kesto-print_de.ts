@@ -381,6 +381,17 @@
     </message>
 </context>
 <context>
+    <name>kesto::PortalPrint</name>
+    <message>
+        <source>Current page</source>
+        <translation>Aktuelle Seite</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PresetMenu</name>
     <message>
         <source>Presets</source>

@@ -380,6 +380,17 @@
     </message>
 </context>
 <context>
+    <name>kesto::PortalPrint</name>
+    <message>
+        <source>Current page</source>
+        <translation>現在のページ</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>選択した部分</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PresetMenu</name>
     <message>
         <source>Presets</source>

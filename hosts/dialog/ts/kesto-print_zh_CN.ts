@@ -380,6 +380,17 @@
     </message>
 </context>
 <context>
+    <name>kesto::PortalPrint</name>
+    <message>
+        <source>Current page</source>
+        <translation>当前页</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>所选内容</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PresetMenu</name>
     <message>
         <source>Presets</source>
