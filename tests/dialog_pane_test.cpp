@@ -176,6 +176,8 @@ TEST_F(DialogPane, SecretsHideThemselves) {
   EXPECT_EQ(code->displayText(), u"24"_s);
   QTest::keyClick(code, Qt::Key_R, Qt::ControlModifier);
   EXPECT_NE(code->displayText(), u"24"_s);
+  const QImage eye = code->actions().constFirst()->icon().pixmap(16, QIcon::Disabled).toImage();
+  EXPECT_EQ(eye.pixelColor(2, 8).rgb(), code->palette().color(QPalette::Disabled, QPalette::Text).rgb());
 }
 
 struct FolderCase {

@@ -94,7 +94,7 @@ class FieldBinder : public QObject {
     QString inserted = m_line.text().sliced(replaced.location, replaced.length + growth);
     const WipedAtEnd wiped(inserted);
     TextField* responder = m_field.view()->firstResponder();
-    if (m_field.placeCaret(replaced))
+    if (m_line.isEnabled() && m_field.placeCaret(replaced))
       (void)(inserted.isEmpty() ? m_field.backspace() : m_field.paste(inserted));
     m_field.view()->makeFirstResponder(responder);
     show();
@@ -110,16 +110,14 @@ class FieldBinder : public QObject {
   bool m_isShowing = false;
 };
 
-// An eye, open or crossed out, in the colour of the text.
-QIcon eyeIcon(const QWidget& widget, bool isOpen) {
+QPixmap eyePixmap(const QColor& color, qreal ratio, bool isOpen) {
   constexpr int points = 16;
-  const qreal ratio = widget.devicePixelRatioF();
   QPixmap pixmap(QSize(points, points) * ratio);
   pixmap.setDevicePixelRatio(ratio);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(widget.palette().color(QPalette::Text), 1.3));
+  painter.setPen(QPen(color, 1.3));
   QPainterPath lids(QPointF(1.5, 8));
   lids.quadTo(8, 1, 14.5, 8);
   lids.quadTo(8, 15, 1.5, 8);
@@ -127,6 +125,16 @@ QIcon eyeIcon(const QWidget& widget, bool isOpen) {
   painter.drawEllipse(QPointF(8, 8), 2, 2);
   if (!isOpen) painter.drawLine(QPointF(3, 13.5), QPointF(13, 2.5));
   return pixmap;
+}
+
+// An eye, open or crossed out, in the colour of the text.
+QIcon eyeIcon(const QWidget& widget, bool isOpen) {
+  const QPalette& palette = widget.palette();
+  const qreal ratio = widget.devicePixelRatioF();
+  QIcon icon(eyePixmap(palette.color(QPalette::Active, QPalette::Text), ratio, isOpen));
+  icon.addPixmap(eyePixmap(palette.color(QPalette::Disabled, QPalette::Text), ratio, isOpen),
+                 QIcon::Disabled);
+  return icon;
 }
 
 // The button in a line that shows what the line hides, and hides it again.

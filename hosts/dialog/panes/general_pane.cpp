@@ -92,6 +92,7 @@ QWidget* GeneralPane::makePages() {
   m_allPages->setObjectName(QStringLiteral("allPages"));
   m_ownPages->setObjectName(QStringLiteral("ownPages"));
   m_ownPages->hide();
+  m_somePages->setObjectName(QStringLiteral("somePages"));
   m_pages->setObjectName(QStringLiteral("pages"));
   m_pages->setPlaceholderText(tr("1-3, 5"));
   m_pages->setAccessibleName(tr("Pages to print, such as 1-3, 5"));
