@@ -103,7 +103,11 @@ TEST_F(DialogPrint, AJobThatCannotBeSentKeepsTheEntries) {
   openReady();
   click(u"userNumberRadioButton"_s);
   type(u"userNumberEditText"_s, u"42"_s);
-  type(u"pages"_s, u"3-1"_s);
+  QWidget* pages = nullptr;
+  EXPECT_TRUE(DialogUser(*m_dialog).turnTo(u"pages"_s, &pages));
+  QTest::keySequence(&*m_dialog, widget<QAbstractButton>(u"somePages"_s)->shortcut());
+  await([&] { return pages->hasFocus(); }, u"the field of the pages"_s);
+  QTest::keyClicks(pages, u"3-1"_s);
   click(u"print"_s);
   EXPECT_TRUE(text(u"message"_s).contains(u"1-3, 5"_s)) << text(u"message"_s);
   EXPECT_EQ(m_dialog->focusWidget()->objectName(), u"pages"_s);
@@ -119,8 +123,14 @@ TEST_F(DialogPrint, AJobThatCannotBeSentKeepsTheEntries) {
 TEST_F(DialogPrint, CancelStopsAJobThatIsGoingOut) {
   startPrinter();
   openReady();
+  click(u"retentionCheckBox"_s);
   signalScheduler(SIGSTOP);
   click(u"print"_s);
+  auto* code = widget<QLineEdit>(u"suspendKeyEditText"_s);
+  QAccessible::queryAccessibleInterface(code)->setText(QAccessible::Value, u"2468"_s);
+  EXPECT_EQ(code->text(), u""_s) << "the job has its entries already";
+  for (const auto* label : m_dialog->findChildren<QLabel*>())
+    EXPECT_TRUE(label->buddy() == nullptr || !label->isEnabled()) << label->text();
   QTest::keyClick(&*m_dialog, Qt::Key_Escape);
   EXPECT_EQ(text(u"message"_s), u"Stopping the job…"_s);
   EXPECT_TRUE(m_dialog->isVisible());
@@ -302,6 +312,39 @@ TEST_F(DialogPrint, AFailedFolderFetchIsAnAlert) {
   EXPECT_EQ(m_dialog->focusWidget(), widget(u"getFolderNameButton"_s));
   EXPECT_TRUE(widget<QPushButton>(u"print"_s)->isDefault());
   EXPECT_TRUE(m_dialog->isVisible());
+}
+
+TEST_F(DialogPrint, SaysWhyNobodyIsAskedForFolders) {
+  startPrinter();
+  openReady();
+  for (const auto& [address, reason] : Cases{{"", "Enter the printer's address"},
+                                             {"no host", "\"no host\" is not an address."},
+                                             {"a\u202Eb/", "is not an address."}}) {
+    type(u"printersAddressEditText"_s, u"x"_s);
+    widget<QLineEdit>(u"printersAddressEditText"_s)->setText(address);
+    click(u"getFolderNameButton"_s);
+    EXPECT_TRUE(text(u"message"_s).contains(reason)) << text(u"message"_s);
+    EXPECT_FALSE(text(u"message"_s).contains(QChar(0x202E)));
+    EXPECT_EQ(m_dialog->focusWidget(), widget(u"printersAddressEditText"_s));
+  }
+  widget<QLineEdit>(u"printersAddressEditText"_s)->setText(m_printer->place(u"folders"_s));
+  click(u"getFolderNameButton"_s);
+  EXPECT_EQ(text(u"message"_s), u""_s);
+}
+
+TEST_F(DialogPrint, SaysThatNothingIsFiled) {
+  startPrinter();
+  openReady();
+  click(u"retentionCheckBox"_s);
+  click(u"customFolderRadioButton"_s);
+  EXPECT_TRUE(widget(u"filingNote"_s)->isVisible());
+  const auto isInSummary = [this](const QString& label) {
+    QCoreApplication::processEvents();
+    return std::ranges::any_of(m_dialog->findChildren<QLabel*>(),
+                               [&](const QLabel* each) { return each->accessibleName() == label; });
+  };
+  EXPECT_TRUE(isInSummary(u"Hold Mode"_s));
+  EXPECT_FALSE(isInSummary(u"Folder"_s));
 }
 
 TEST_F(DialogPrint, CancelEndsAFolderFetch) {

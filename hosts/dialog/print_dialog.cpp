@@ -194,12 +194,14 @@ void PrintDialog::showPanel() {
   if (Outcome made = PanelPane::make(*m_session.view(), m_session.bundle(), &pane); !made)
     return showMessage(made.reason());
   m_panelPane = pane.release();
+  if (!m_session.panel()->filesDocuments()) m_panelPane->sayNothingIsFiled();
   m_summary = new SummaryPane(m_panes);
   setPlainText(*m_panelPane, m_session.panel()->panelName());
   setPlainText(*m_summary, tr("Summary"));
   m_panes->addTab(m_panelPane, m_session.panel()->panelName());
   m_panes->addTab(m_summary, tr("Summary"));
   connect(m_panelPane, &PanelPane::panelChanged, this, &PrintDialog::updateSummary);
+  connect(m_panelPane, &PanelPane::addressJudged, this, &PrintDialog::showMessage);
   connect(m_summary, &SummaryPane::privacyAsked, this, [this] { m_client.checkPrivacy(m_wanted); });
   connect(&m_client, &QueueClient::privacyChecked, m_summary, &SummaryPane::showPrivacy);
   updateSummary();
@@ -208,7 +210,7 @@ void PrintDialog::showPanel() {
 }
 
 void PrintDialog::updateSummary() {
-  if (m_summary != nullptr && m_session.panel() != nullptr) m_summary->show(m_session.panel()->summaryInfo());
+  if (m_summary != nullptr && m_session.panel() != nullptr) m_summary->show(summaryOf(*m_session.panel()));
 }
 
 void PrintDialog::retry() {
@@ -335,7 +337,8 @@ void PrintDialog::showMessage(const QString& text) {
 
 void PrintDialog::updateControls() {
   const bool isChoosing = m_phase == Phase::Choosing;
-  for (QWidget* part : {static_cast<QWidget*>(m_chooser), static_cast<QWidget*>(m_panes)})
+  // With the chooser, its label and the document's.
+  for (QWidget* part : {m_chooser->parentWidget(), static_cast<QWidget*>(m_panes)})
     part->setEnabled(isChoosing);
   m_presets->setEnabled(isChoosing && m_session.presets() != nullptr);
   m_chooseDocument->setEnabled(isChoosing);

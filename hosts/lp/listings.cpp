@@ -2,11 +2,11 @@
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QUrl>
 #include <iostream>
 
 #include "hosts/cups/job_privacy.h"
 #include "hosts/cups/ppd_file.h"
+#include "hosts/session/folder_address.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/text_field.h"
@@ -41,11 +41,6 @@ Outcome keepJobHandling(PrintServer& server, std::vector<QueueSummary>* queues) 
   return Outcome::done();
 }
 
-bool isAddress(const QString& text) {
-  const QUrl url(QStringLiteral("http://%1/").arg(text), QUrl::StrictMode);
-  return url.isValid() && !url.host().isEmpty();
-}
-
 }  // namespace
 
 Outcome fetchFolders(PrintDialogPanel& panel, const QString& address) {
@@ -64,8 +59,8 @@ Outcome fetchFolders(PrintDialogPanel& panel, const QString& address) {
   if (known.isEmpty()) {
     return Outcome::failed(QStringLiteral("the printer's address is not known; give --address"));
   }
-  return isAddress(known) ? button->click()
-                          : Outcome::failed(QStringLiteral("\"%1\" is no address").arg(known));
+  return isPrinterAddress(known) ? button->click()
+                                 : Outcome::failed(QStringLiteral("\"%1\" is no address").arg(known));
 }
 
 Outcome printArray(const QJsonArray& array) {

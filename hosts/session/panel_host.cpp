@@ -1,6 +1,10 @@
 #include "hosts/session/panel_host.h"
 
+#include <algorithm>
+
 #include "hosts/cups/faults.h"
+#include "panel/model/panel_view.h"
+#include "panel/model/text_field.h"
 #include "platform/bundle.h"
 
 namespace kesto {
@@ -22,6 +26,17 @@ Outcome PanelHost::openShownPanel(PrintDialogPlugIn& plugIn) {
 
 PanelView* PanelHost::loadedView() const {
   return m_panel && m_panel->property("hasInited").toBool() ? m_panel->panelView() : nullptr;
+}
+
+QMap<QString, QString> summaryOf(PrintDialogPanel& panel) {
+  QMap<QString, QString> summary = panel.summaryInfo();
+  const auto* caption = panel.panelView()->control<TextField>(QStringLiteral("folderSelectionStaticText"));
+  if (panel.filesDocuments() || caption == nullptr) return summary;
+  // The panel names the entry so.
+  summary.removeIf([label = caption->stringValue()](const auto& entry) {
+    return label == entry.key() || label == entry.key() + u':';
+  });
+  return summary;
 }
 
 Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialogPlugIn** plugIn) {

@@ -49,6 +49,10 @@ class PanelHost : public HostCallback {
   std::unique_ptr<PrintDialogPanel> m_panel;
 };
 
+/// What a host shows of a panel's summary: without the folder where the printer's model files nothing, since
+/// none is used. The panel's controls must be made.
+QMap<QString, QString> summaryOf(PrintDialogPanel& panel);
+
 /// Finds and loads the bundle "JobHandling.pde". On failure the outcome says where it was looked for, or why
 /// it does not load.
 Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialogPlugIn** plugIn);

@@ -17,11 +17,13 @@
 #include "hosts/dialog/panel/dimming_reasons.h"
 #include "hosts/dialog/panel/folder_choice.h"
 #include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/session/folder_address.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/radio_matrix.h"
 #include "panel/model/text_field.h"
 #include "platform/bundle.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -42,6 +44,15 @@ bool isFirstRow(const Control& control) {
   return control.property("selectedRow").toInt() == 0;
 }
 
+QString addressOf(const PanelView& view) {
+  const auto* field = view.control<TextField>(QStringLiteral("printersAddressEditText"));
+  return field == nullptr ? QString() : field->stringValue();
+}
+
+bool lacksAddress(const Control& control) {
+  return !isPrinterAddress(addressOf(*control.view()));
+}
+
 // Where a user goes on after a choice that asks for an entry.
 struct NextEntry {
   const char* control;
@@ -52,6 +63,7 @@ struct NextEntry {
 constexpr std::array nextEntries{
     NextEntry{"retentionCheckBox", isOn, "suspendKeyEditText"},
     NextEntry{"authenticationMatrix", isFirstRow, "loginNameEditText"},
+    NextEntry{"getFolderNameButton", lacksAddress, "printersAddressEditText"},
 };
 
 // The width that the first column of a grid needs by itself, with what is hidden now.
@@ -118,6 +130,8 @@ void PanelPane::bind() {
     // The panel's own action is connected before, so it has run by then.
     connect(control, &Control::actionSent, this, &PanelPane::moveFocusAfter);
   }
+  if (auto* button = m_view->control<Button>(QStringLiteral("getFolderNameButton")); button != nullptr)
+    connect(button, &Control::actionSent, this, [this] { Q_EMIT addressJudged(addressFault()); });
   for (auto* label : findChildren<QLabel*>()) {
     QWidget* field = widgetOf(stemOf(label->objectName()) + QStringLiteral("EditText"));
     if (field == nullptr) field = widgetOf(stemOf(label->objectName()) + QStringLiteral("Popup"));
@@ -199,6 +213,25 @@ void PanelPane::alignFirstResponder() {
   const QWidget* focused = window()->focusWidget();
   const bool isHere = focused != nullptr && isAncestorOf(focused);
   m_view->makeFirstResponder(isHere ? m_view->control<TextField>(focused->objectName()) : nullptr);
+}
+
+QString PanelPane::addressFault() const {
+  const QString address = addressOf(*m_view);
+  if (isPrinterAddress(address)) return {};
+  return address.isEmpty() ? tr("Enter the printer's address to get the names of its folders.")
+                           : tr("\"%1\" is not an address. Enter the printer's name or IP address.")
+                                 .arg(shownText(address));
+}
+
+void PanelPane::sayNothingIsFiled() {
+  QWidget* box = widgetOf(QStringLiteral("filingBox"));
+  auto* grid = box == nullptr ? nullptr : qobject_cast<QGridLayout*>(box->layout());
+  if (grid == nullptr) return;
+  auto* note = new QLabel(tr("This printer does not file documents: the choice of a folder has no effect."));
+  note->setObjectName(QStringLiteral("filingNote"));
+  note->setWordWrap(true);
+  grid->addWidget(note, grid->rowCount(), 0, 1, grid->columnCount());
+  box->setAccessibleDescription(note->text());
 }
 
 void PanelPane::refresh() {

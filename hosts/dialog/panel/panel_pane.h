@@ -28,12 +28,17 @@ class PanelPane : public QWidget {
   void alignLabels();
   /// Puts right, after a restore, what the form offers twice.
   void alignChoices();
+  /// Says beside the choice of a folder that it has no effect on the job.
+  void sayNothingIsFiled();
   /// Shows the page of the entry that a refused job misses, and puts the focus there.
   void showMissingEntry();
 
  Q_SIGNALS:
   /// Something in the panel has changed; once for all changes of one moment.
   void panelChanged();
+  /// The user has asked for the printer's folders: why nobody can be asked at the address that is given; null
+  /// when the printer was asked.
+  void addressJudged(const QString& fault);
 
  private:
   explicit PanelPane(PanelView& view);
@@ -43,6 +48,7 @@ class PanelPane : public QWidget {
   void moveFocusAfter(const Control* operated);
   QWidget* nextEntryAfter(const Control& operated) const;
   void alignFirstResponder();
+  QString addressFault() const;
   void refresh();
   QWidget* widgetOf(const QString& name) const;
 

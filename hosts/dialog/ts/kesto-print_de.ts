@@ -321,6 +321,10 @@
         <source>the print server&apos;s answer is not readable</source>
         <translation>die Antwort des Druckservers ist nicht lesbar</translation>
     </message>
+    <message>
+        <source>the print server&apos;s answer is too large</source>
+        <translation>die Antwort des Druckservers ist zu groß</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>
@@ -378,6 +382,18 @@
     <message>
         <source>Off: the entry is for this job alone.</source>
         <translation>Aus: Der Eintrag gilt nur für diesen Auftrag.</translation>
+    </message>
+    <message>
+        <source>Enter the printer&apos;s address to get the names of its folders.</source>
+        <translation>Geben Sie die Adresse des Druckers ein, um seine Ordnernamen abzurufen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address. Enter the printer&apos;s name or IP address.</source>
+        <translation>„%1“ ist keine Adresse. Geben Sie den Namen oder die IP-Adresse des Druckers ein.</translation>
+    </message>
+    <message>
+        <source>This printer does not file documents: the choice of a folder has no effect.</source>
+        <translation>Dieser Drucker legt keine Dokumente ab: Die Wahl eines Ordners hat keine Wirkung.</translation>
     </message>
 </context>
 <context>

@@ -321,6 +321,10 @@
         <source>the print server&apos;s answer is not readable</source>
         <translation>la respuesta del servidor de impresión no se puede leer</translation>
     </message>
+    <message>
+        <source>the print server&apos;s answer is too large</source>
+        <translation>la respuesta del servidor de impresión es demasiado grande</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>
@@ -378,6 +382,18 @@
     <message>
         <source>Off: the entry is for this job alone.</source>
         <translation>Desactivado: el dato vale solo para este trabajo.</translation>
+    </message>
+    <message>
+        <source>Enter the printer&apos;s address to get the names of its folders.</source>
+        <translation>Introduzca la dirección de la impresora para obtener los nombres de sus carpetas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address. Enter the printer&apos;s name or IP address.</source>
+        <translation>«%1» no es una dirección. Introduzca el nombre o la dirección IP de la impresora.</translation>
+    </message>
+    <message>
+        <source>This printer does not file documents: the choice of a folder has no effect.</source>
+        <translation>Esta impresora no archiva documentos: la elección de una carpeta no tiene efecto.</translation>
     </message>
 </context>
 <context>

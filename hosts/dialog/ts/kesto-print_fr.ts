@@ -321,6 +321,10 @@
         <source>the print server&apos;s answer is not readable</source>
         <translation>la réponse du serveur d’impression est illisible</translation>
     </message>
+    <message>
+        <source>the print server&apos;s answer is too large</source>
+        <translation>la réponse du serveur d’impression est trop volumineuse</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>
@@ -378,6 +382,18 @@
     <message>
         <source>Off: the entry is for this job alone.</source>
         <translation>Désactivé&#xa0;: la saisie ne vaut que pour ce travail.</translation>
+    </message>
+    <message>
+        <source>Enter the printer&apos;s address to get the names of its folders.</source>
+        <translation>Saisissez l’adresse de l’imprimante pour obtenir les noms de ses dossiers.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address. Enter the printer&apos;s name or IP address.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse. Saisissez le nom ou l’adresse IP de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>This printer does not file documents: the choice of a folder has no effect.</source>
+        <translation>Cette imprimante ne classe pas les documents&#xa0;: le choix d’un dossier est sans effet.</translation>
     </message>
 </context>
 <context>

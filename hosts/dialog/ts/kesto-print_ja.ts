@@ -320,6 +320,10 @@
         <source>the print server&apos;s answer is not readable</source>
         <translation>プリントサーバーの応答を読み取れません</translation>
     </message>
+    <message>
+        <source>the print server&apos;s answer is too large</source>
+        <translation>プリントサーバーの応答が大きすぎます</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>
@@ -377,6 +381,18 @@
     <message>
         <source>Off: the entry is for this job alone.</source>
         <translation>オフ: 入力内容はこのジョブだけに使われます。</translation>
+    </message>
+    <message>
+        <source>Enter the printer&apos;s address to get the names of its folders.</source>
+        <translation>フォルダー名を取得するには、プリンターのアドレスを入力してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address. Enter the printer&apos;s name or IP address.</source>
+        <translation>「%1」はアドレスではありません。プリンターの名前または IP アドレスを入力してください。</translation>
+    </message>
+    <message>
+        <source>This printer does not file documents: the choice of a folder has no effect.</source>
+        <translation>このプリンターは文書を保存しません。フォルダーを選択しても効果はありません。</translation>
     </message>
 </context>
 <context>

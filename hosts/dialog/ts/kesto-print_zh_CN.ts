@@ -320,6 +320,10 @@
         <source>the print server&apos;s answer is not readable</source>
         <translation>无法读取打印服务器的响应</translation>
     </message>
+    <message>
+        <source>the print server&apos;s answer is too large</source>
+        <translation>打印服务器的应答过大</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>
@@ -377,6 +381,18 @@
     <message>
         <source>Off: the entry is for this job alone.</source>
         <translation>关：内容仅用于此作业。</translation>
+    </message>
+    <message>
+        <source>Enter the printer&apos;s address to get the names of its folders.</source>
+        <translation>要获取文件夹名称，请输入打印机的地址。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address. Enter the printer&apos;s name or IP address.</source>
+        <translation>“%1”不是地址。请输入打印机的名称或 IP 地址。</translation>
+    </message>
+    <message>
+        <source>This printer does not file documents: the choice of a folder has no effect.</source>
+        <translation>此打印机不归档文档：选择文件夹没有效果。</translation>
     </message>
 </context>
 <context>
