@@ -246,6 +246,20 @@ TEST_F(DialogPrint, WhatIsMissingOfTheDocumentsIsNamedAndTheRestPrinted) {
   EXPECT_FALSE(widget(u"print"_s)->isEnabled());
 }
 
+TEST_F(DialogPrint, TextsOfOthersStayOnTheirLine) {
+  startPrinter();
+  changePpd(u"Office_MFP"_s, "*PageSize A5/A5:", "*PageSize A5/A\x9b 5:");
+  openReady();
+  const auto* paper = widget<QComboBox>(u"PageSize"_s);
+  EXPECT_EQ(paper->itemText(paper->findData(u"A5"_s)), u"A\\x9b 5"_s);
+  QueueListModel queues;
+  queues.setQueues({{u"q"_s, u"Floor\n\u202e2"_s, {}, {}}});
+  EXPECT_EQ(queues.index(0).data(), u"q — Floor\\n\\u202e2"_s);
+  QLabel label;
+  setPlainText(label, u"Folder\r\u0085 & more"_s);
+  EXPECT_EQ(label.text(), u"Folder\\r\\x85 & more"_s);
+}
+
 TEST_F(DialogPrint, HelpStandsBesideTheDialog) {
   open();
   await([this] { return m_dialog->isActiveWindow(); }, u"the window"_s);

@@ -154,7 +154,7 @@ void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
 void PrintDialog::showQueue(const std::shared_ptr<Queue>& queue) {
   if (m_session.queue() != queue) return;
   if (m_session.view() != nullptr) showPanel();
-  setWindowTitle(tr("Print on %1").arg(queue->id));
+  setWindowTitle(tr("Print on %1").arg(shownText(queue->id)));
   m_isSettled = true;
   giveNames();
   updateControls();
@@ -327,7 +327,8 @@ void PrintDialog::setPhase(Phase phase) {
   updateControls();
 }
 
-void PrintDialog::showMessage(const QString& text) {
+void PrintDialog::showMessage(const QString& message) {
+  const QString text = shownText(message);
   m_message->setText(text);
   m_message->setAccessibleName(text);
   if (text.isEmpty()) return;

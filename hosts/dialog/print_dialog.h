@@ -99,7 +99,7 @@ class PrintDialog : public QDialog {
   void takeSent(int job);
   void takeSendFailure(const QString& reason);
   void setPhase(Phase phase);
-  void showMessage(const QString& text);
+  void showMessage(const QString& message);
   void updateControls();
   void updateSummary();
   void giveNames();

@@ -22,6 +22,7 @@
 #include "panel/model/radio_matrix.h"
 #include "panel/model/simple_controls.h"
 #include "panel/model/text_field.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -185,7 +186,7 @@ void bindCell(RadioCell& cell, QAbstractButton& widget) {
 void fillItems(QComboBox& widget, const std::vector<PopUpItem>& items) {
   auto model = std::make_unique<QStandardItemModel>(0, 1);
   for (const PopUpItem& item : items) {
-    auto row = std::make_unique<QStandardItem>(item.title);
+    auto row = std::make_unique<QStandardItem>(shownText(item.title));
     if (item.image) row->setIcon(QIcon(item.image->path));
     if (item.separator) {
       row->setData(QStringLiteral("separator"), Qt::AccessibleDescriptionRole);

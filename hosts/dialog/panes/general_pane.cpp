@@ -16,6 +16,7 @@
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/tab_order.h"
 #include "hosts/session/page_range.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -146,7 +147,7 @@ void GeneralPane::setPpd(ppd_file_t* ppd, const QStringList& handledByPanel) {
 void GeneralPane::addOption(const PpdOption& option) {
   auto* combo = new QComboBox(this);
   for (const PpdChoice& choice : option.choices)
-    combo->addItem(termFor(option.keyword + u' ' + choice.keyword, choice.text), choice.keyword);
+    combo->addItem(shownText(termFor(option.keyword + u' ' + choice.keyword, choice.text)), choice.keyword);
   combo->setCurrentIndex(option.marked);
   combo->setObjectName(option.keyword);
   auto* label = new QLabel(this);
@@ -223,7 +224,7 @@ void GeneralPane::showFault() {
 void GeneralPane::update() {
   m_collate->setEnabled(m_copies->value() > 1);
   const bool isFaulty = !fault().isNull() && !m_pages->text().isEmpty();
-  m_note->setText(isFaulty ? fault() : m_conflict);
+  m_note->setText(shownText(isFaulty ? fault() : m_conflict));
   Q_EMIT changed();
 }
 

@@ -6,6 +6,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "hosts/dialog/widgets/plain_text.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 
@@ -45,7 +46,7 @@ void SummaryPane::show(const QMap<QString, QString>& summary) {
   while (m_form->rowCount() > 0)
     m_form->removeRow(0);
   for (auto it = summary.begin(); it != summary.end(); ++it) {
-    auto* value = new QLabel(it.value().isEmpty() ? QStringLiteral("–") : it.value());
+    auto* value = new QLabel(it.value().isEmpty() ? QStringLiteral("–") : shownText(it.value()));
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     value->setWordWrap(true);
@@ -56,7 +57,7 @@ void SummaryPane::show(const QMap<QString, QString>& summary) {
 }
 
 void SummaryPane::showPrivacy(const Outcome& outcome, const JobPrivacy& privacy) {
-  QString text = outcome.reason();
+  QString text = shownText(outcome.reason());
   if (outcome && privacy.shown.isEmpty()) {
     text = tr("Other users of the print server see that there is a job, and no more of it.");
   } else if (outcome) {

@@ -12,6 +12,8 @@
 #include <QtWidgets/QTabWidget>
 #include <vector>
 
+#include "platform/shown_text.h"
+
 namespace kesto {
 namespace {
 
@@ -194,7 +196,8 @@ void assign(QWidget& scope, Letters taken) {
 
 }  // namespace
 
-void setPlainText(QWidget& widget, const QString& text) {
+void setPlainText(QWidget& widget, const QString& given) {
+  const QString text = shownText(given);
   if (widget.property(plainTextProperty).toString() == text && !text.isEmpty()) return;
   widget.setProperty(plainTextProperty, text);
   showText(widget,

@@ -10,6 +10,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "hosts/dialog/widgets/plain_text.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -113,7 +114,7 @@ void QueueChooser::showState() {
 }
 
 void QueueChooser::showText(const QString& text, bool isFault) {
-  m_state->setText(text);
+  m_state->setText(shownText(text));
   m_retry->setVisible(isFault);
   if (m_current.isNull())
     m_combo->setPlaceholderText(isFault ? tr("No printer") : tr("Looking for printers…"));

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/shown_text.h"
+
 namespace kesto {
 
 int QueueListModel::rowCount(const QModelIndex& parent) const {
@@ -15,8 +17,8 @@ QVariant QueueListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case Qt::EditRole:
       return queue.info.isEmpty() || queue.info == queue.name
-                 ? queue.name
-                 : QStringLiteral("%1 — %2").arg(queue.name, queue.info);
+                 ? shownText(queue.name)
+                 : QStringLiteral("%1 — %2").arg(shownText(queue.name), shownText(queue.info));
     case Qt::ToolTipRole:
       return stateText(queue);
     case NameRole:
