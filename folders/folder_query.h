@@ -30,6 +30,7 @@ class FolderQuery : public SoapContext {
   bool parseXML(const QString& path);
   /// Stops the progress indicator and tells the user that the exchange failed.
   void recieveEndCallback() override;
+  const void* controller() const override { return m_state.controller; }
 
  private:
   void fetch(const QString& printerAddress);

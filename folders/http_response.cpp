@@ -40,7 +40,7 @@ void HttpResponse::take(const QByteArray& bytes) {
   m_pending += bytes;
   while (step()) {
   }
-  if (m_body.size() > m_largestBody) m_state = State::Bad;
+  if (m_receivedData.size() > m_largestBody) m_state = State::Bad;
 }
 
 void HttpResponse::end() {
@@ -57,7 +57,7 @@ bool HttpResponse::step() {
     case State::Counted:
       return takeCounted();
     case State::UntilEnd:
-      m_body += std::exchange(m_pending, {});
+      m_receivedData += std::exchange(m_pending, {});
       return false;
     case State::ChunkSize:
       if (!takeLine(&line)) return false;
@@ -132,10 +132,10 @@ HttpResponse::State HttpResponse::stateOfChunk(const QByteArray& line) {
 bool HttpResponse::takeCounted() {
   if (m_pending.isEmpty()) return false;
   const qsizetype count = std::min(m_remaining, m_pending.size());
-  m_body += m_pending.left(count);
+  m_receivedData += m_pending.left(count);
   m_pending.remove(0, count);
   m_remaining -= count;
-  if (m_remaining > 0 || m_body.size() > m_largestBody) return false;
+  if (m_remaining > 0 || m_receivedData.size() > m_largestBody) return false;
   m_state = m_state == State::Chunk ? State::ChunkEnd : State::Whole;
   return true;
 }

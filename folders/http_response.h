@@ -29,7 +29,7 @@ class HttpResponse {
   /// The HTTP status; 0 before the head is there.
   int status() const { return m_status; }
   /// The body so far.
-  const QByteArray& body() const { return m_body; }
+  const QByteArray& receivedData() const { return m_receivedData; }
 
  private:
   enum class State { Head, Counted, UntilEnd, ChunkSize, Chunk, ChunkEnd, Trailer, Whole, Bad };
@@ -48,7 +48,7 @@ class HttpResponse {
   int m_status = 0;
   qsizetype m_remaining = 0;  // bytes of the body or chunk to come
   QByteArray m_pending;       // received, not yet taken
-  QByteArray m_body;
+  QByteArray m_receivedData;
 };
 
 }  // namespace kesto

@@ -1,5 +1,9 @@
 #include "folders/soap_client.h"
 
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
 #include <QtNetwork/QNetworkProxy>
@@ -13,7 +17,31 @@ namespace kesto {
 namespace {
 
 constexpr std::chrono::milliseconds slice{1000};
-constexpr quint16 httpPort = 80;
+
+// A second descriptor of a connection. Qt reports a reset as an orderly end, and has closed its own
+// descriptor by then; the system still knows from this one which it was.
+class SecondDescriptor {
+ public:
+  SecondDescriptor() = default;
+  ~SecondDescriptor() {
+    if (m_descriptor >= 0) ::close(m_descriptor);
+  }
+  SecondDescriptor(const SecondDescriptor&) = delete;
+  SecondDescriptor& operator=(const SecondDescriptor&) = delete;
+
+  void take(const QTcpSocket& socket) {
+    m_descriptor = ::fcntl(static_cast<int>(socket.socketDescriptor()), F_DUPFD_CLOEXEC, 0);
+  }
+
+  // After an orderly end of the peer's alone, this side could still send. Also true when nobody can know.
+  bool wasReset() const {
+    pollfd state{.fd = m_descriptor, .events = 0, .revents = 0};
+    return m_descriptor < 0 || (::poll(&state, 1, 0) > 0 && (state.revents & (POLLHUP | POLLERR)) != 0);
+  }
+
+ private:
+  int m_descriptor = -1;
+};
 
 }  // namespace
 
@@ -24,26 +52,20 @@ QString answerFilePath(Platform& platform) {
 
 std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> KestoPrintPdeVq250nJCSOAPClient::initWithServerName(
     const QString& serverName, Platform& platform, SoapContext* context, std::chrono::milliseconds limit) {
-  const QUrl url(serverName, QUrl::StrictMode);
-  if (!url.isValid()) return nullptr;
+  std::optional<Endpoint> url = endpointOf(serverName);
+  if (!url) return nullptr;
   return std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient>(
-      new KestoPrintPdeVq250nJCSOAPClient(url, platform, context, limit));
+      new KestoPrintPdeVq250nJCSOAPClient(std::move(*url), platform, context, limit));
 }
 
-KestoPrintPdeVq250nJCSOAPClient::KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platform& platform,
+KestoPrintPdeVq250nJCSOAPClient::KestoPrintPdeVq250nJCSOAPClient(Endpoint url, Platform& platform,
                                                                  SoapContext* context,
                                                                  std::chrono::milliseconds limit)
     : m_url(std::move(url)), m_platform(platform), m_context(context), m_limit(limit) {}
 
 // The values keep their quotation marks; the printer's service compares them as they are.
 QByteArray KestoPrintPdeVq250nJCSOAPClient::requestFor(const QByteArray& body) const {
-  const QUrl::FormattingOptions encoded = QUrl::FullyEncoded;
-  QByteArray target =
-      m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
-  if (!target.startsWith('/')) target.prepend('/');
-  const QByteArray host = m_url.toEncoded(encoded | QUrl::RemoveScheme | QUrl::RemoveUserInfo |
-                                          QUrl::RemovePath | QUrl::RemoveQuery | QUrl::RemoveFragment);
-  return "POST " + target + " HTTP/1.1\r\n" + "Host: " + host.mid(2) + "\r\n" +
+  return "POST " + m_url.target + " HTTP/1.1\r\n" + "Host: " + m_url.hostField + "\r\n" +
          "SOAPAction: \"SoapActionDummy\"\r\n"
          "Content-Type: application/soap; charset=\"utf-8\"\r\n"
          "Content-Length: " +
@@ -52,14 +74,18 @@ QByteArray KestoPrintPdeVq250nJCSOAPClient::requestFor(const QByteArray& body) c
 
 void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   m_finished = Finished::Running;
-  m_response = HttpResponse(largestAnswer);
+  m_responseData = HttpResponse(largestAnswer);
   QTcpSocket socket;
   socket.setProxy(QNetworkProxy::NoProxy);
+  SecondDescriptor second;
   const QByteArray request = requestFor(body);
-  connect(&socket, &QTcpSocket::connected, this, [&] { socket.write(request); });
+  connect(&socket, &QTcpSocket::connected, this, [&] {
+    second.take(socket);
+    socket.write(request);
+  });
   connect(&socket, &QTcpSocket::readyRead, this, [&] { connectionDidReceiveData(socket); });
-  connect(&socket, &QTcpSocket::errorOccurred, this, [&] { connectionDidEnd(socket); });
-  socket.connectToHost(m_url.host(QUrl::FullyEncoded), static_cast<quint16>(m_url.port(httpPort)));
+  connect(&socket, &QTcpSocket::errorOccurred, this, [&] { connectionDidEnd(socket, second.wasReset()); });
+  socket.connectToHost(m_url.host, m_url.port);
   QTimer timer;
   timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);  // any other may come half a second early
@@ -71,10 +97,12 @@ void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   timer.stop();
   socket.disconnect(this);
   socket.abort();
+  // Only now: who waited may have gone in the very pass of the event loop in which the exchange ended.
+  if (m_finished == Finished::Cancelled) return;
   if (m_finished == Finished::Answered) {
     // Without the file there is nothing new to read; that is not reported.
-    (void)writePrivateFile(answerFilePath(m_platform), m_response.body());
-  } else if (m_finished != Finished::Cancelled) {
+    (void)writePrivateFile(answerFilePath(m_platform), m_responseData.receivedData());
+  } else {
     m_context->recieveEndCallback();
   }
 }
@@ -92,31 +120,37 @@ void KestoPrintPdeVq250nJCSOAPClient::cancel() {
   finish(Finished::Cancelled);
 }
 
-// The first event that ends the exchange decides.
+// The first event that ends the exchange decides; cancelling goes before all of them.
 void KestoPrintPdeVq250nJCSOAPClient::finish(Finished state) {
-  if (m_finished != Finished::Running) return;
+  if (m_finished != Finished::Running && state != Finished::Cancelled) return;
   m_finished = state;
   Q_EMIT finishedChanged();
 }
 
 // Whatever its status, the response counts by its body.
 void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveResponse() {
-  _PDELog(this, "HTTP status %@", QString::number(m_response.status()));
+  _PDELog(m_context->controller(), "HTTP status %@", QString::number(m_responseData.status()));
 }
 
 void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData(QTcpSocket& socket) {
-  const bool hadResponse = m_response.status() != 0;
-  m_response.take(socket.readAll());
-  if (!hadResponse && m_response.status() != 0) connectionDidReceiveResponse();
-  if (m_response.isWhole()) connectionDidFinishLoading();
-  if (m_response.isBad()) connectionDidFailWithError();
+  if (m_finished != Finished::Running) return;
+  const bool hadResponse = m_responseData.status() != 0;
+  m_responseData.take(socket.readAll());
+  if (!hadResponse && m_responseData.status() != 0) connectionDidReceiveResponse();
+  if (m_responseData.isWhole()) connectionDidFinishLoading();
+  if (m_responseData.isBad()) connectionDidFailWithError();
 }
 
-// The end of the connection ends an answer without a length; any other error breaks it.
-void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(QTcpSocket& socket) {
+// The end of the connection ends an answer without a length; any other error, a reset too, breaks it.
+void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(QTcpSocket& socket, bool wasReset) {
   connectionDidReceiveData(socket);
-  if (socket.error() == QAbstractSocket::RemoteHostClosedError) m_response.end();
-  if (m_response.isWhole()) {
+  if (m_finished != Finished::Running) return;
+  if (socket.error() == QAbstractSocket::SocketResourceError) {
+    _PDELog(m_context->controller(), "Connection fail");
+    return cancel();
+  }
+  if (socket.error() == QAbstractSocket::RemoteHostClosedError && !wasReset) m_responseData.end();
+  if (m_responseData.isWhole()) {
     connectionDidFinishLoading();
   } else {
     connectionDidFailWithError();

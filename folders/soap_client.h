@@ -3,10 +3,10 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QObject>
-#include <QtCore/QUrl>
 #include <chrono>
 #include <memory>
 
+#include "folders/endpoint.h"
 #include "folders/http_response.h"
 
 class QTcpSocket;
@@ -20,6 +20,8 @@ class SoapContext {
  public:
   virtual ~SoapContext() = default;
   virtual void recieveEndCallback() = 0;
+  /// The panel that asks, for the trace; null without one.
+  virtual const void* controller() const { return nullptr; }
 };
 
 /// The path of the answer file: "vwxyz.xml" in the user's temporary directory, or in "/tmp/" when there is
@@ -31,6 +33,7 @@ inline constexpr qsizetype largestAnswer = qsizetype{32} * 1024 * 1024;
 
 /// One exchange with one endpoint. The whole answer, whatever its HTTP status, replaces the answer file; a
 /// failure leaves it as it was. Redirects are not followed, and no proxy stands between panel and printer.
+/// When there is no descriptor left for a connection, nobody is told.
 class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   Q_OBJECT
 
@@ -38,14 +41,15 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   static constexpr std::chrono::milliseconds timeLimit{20000};
 
   /// A client for the URL `serverName`; null when that is no valid URL. `context` is not owned, and told of a
-  /// failure before `sendMessage` returns; `limit` bounds the wait.
+  /// failure before `sendMessage` returns unless the exchange is cancelled; `limit` bounds the wait.
   static std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> initWithServerName(
       const QString& serverName, Platform& platform, SoapContext* context,
       std::chrono::milliseconds limit = timeLimit);
 
   /// Posts `body` and returns when the exchange has ended. Meanwhile it runs the thread's event loop.
   void sendMessage(const QByteArray& body);
-  /// Ends a running exchange at once, without a word to the context.
+  /// Ends the exchange at once, without a word to the context, which is not used any more; also when the
+  /// exchange has just ended otherwise and `sendMessage` has yet to return. What came is not kept.
   void cancel();
 
  Q_SIGNALS:
@@ -54,24 +58,24 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
  private:
   enum class Finished { Running, Answered, TimedOut, Failed, Cancelled };
 
-  KestoPrintPdeVq250nJCSOAPClient(QUrl url, Platform& platform, SoapContext* context,
+  KestoPrintPdeVq250nJCSOAPClient(Endpoint url, Platform& platform, SoapContext* context,
                                   std::chrono::milliseconds limit);
   QByteArray requestFor(const QByteArray& body) const;
   void connectionDidReceiveResponse();
   void connectionDidReceiveData(QTcpSocket& socket);
-  void connectionDidEnd(QTcpSocket& socket);
+  void connectionDidEnd(QTcpSocket& socket, bool wasReset);
   void connectionDidFinishLoading();
   void connectionDidFailWithError();
   void firedByTimer();
   void finish(Finished state);
   void waitUntilFinished();
 
-  QUrl m_url;
+  Endpoint m_url;
   Platform& m_platform;
   SoapContext* m_context;
   std::chrono::milliseconds m_limit;
   Finished m_finished = Finished::Running;
-  HttpResponse m_response{largestAnswer};
+  HttpResponse m_responseData{largestAnswer};
 };
 
 }  // namespace kesto

@@ -20,11 +20,11 @@ HttpResponse readInPieces(const QByteArray& input, qsizetype piece) {
 void runResponse(const QByteArray& input) {
   const HttpResponse whole = readInPieces(input, qMax(qsizetype{1}, input.size()));
   require(whole.isWhole() != whole.isBad(), "a response that has ended is whole or bad");
-  require(!whole.isWhole() || whole.body().size() <= largestBody, "a body is within its limit");
+  require(!whole.isWhole() || whole.receivedData().size() <= largestBody, "a body is within its limit");
   const HttpResponse pieces = readInPieces(input, 1);
   require(pieces.isWhole() == whole.isWhole(), "pieces make no difference");
   if (!whole.isWhole()) return;
-  require(pieces.body() == whole.body() && pieces.status() == whole.status(), "pieces make no difference");
+  require(pieces.receivedData() == whole.receivedData() && pieces.status() == whole.status(), "pieces make no difference");
 }
 
 }  // namespace kesto::fuzz

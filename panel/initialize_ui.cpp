@@ -74,8 +74,8 @@ void initializeUI(PanelState& state) {
 }
 
 void updateUI([[maybe_unused]] PanelState& state) {
-  _PDEProlog(&state, "--updateUI:");
-  _PDEEpilog(&state, "--updateUI:");
+  _PDEProlog(state.controller, "--updateUI:");
+  _PDEEpilog(state.controller, "--updateUI:");
 }
 
 }  // namespace kesto

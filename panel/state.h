@@ -31,6 +31,7 @@ struct PanelState {
   /// The job's print settings, null when the host has none.
   PrintSettings* printSettings() const { return pdePluginCallbackObject->printSettings(); }
 
+  const void* controller = nullptr;         ///< The panel, whose calls the trace names.
   HostCallback* pdePluginCallbackObject;    ///< The host's; outlives the panel.
   Platform* platform;                       ///< The host's.
   std::shared_ptr<const Bundle> pdeBundle;  ///< The panel's own bundle.

@@ -2,6 +2,7 @@
 
 #include <QtCore/QLoggingCategory>
 
+#include "folders/endpoint.h"
 #include "panel/initialize_ui.h"
 #include "panel/layout_loader.h"
 #include "panel/localized.h"
@@ -39,6 +40,7 @@ std::unique_ptr<KestoPrintPdeVq250nJC> KestoPrintPdeVq250nJC::initWithCallback(H
 }
 
 KestoPrintPdeVq250nJC::KestoPrintPdeVq250nJC(HostCallback& host) : m_state(host) {
+  m_state.controller = this;
   _PDEProlog(this, "initWithCallback:(%@, %p)", QStringLiteral("HostCallback"), &host);
   m_state.useConstraintHandling = host.answersWillChangePPDOptionKeyValue();
   _PDELog(this, "Constraint Handling Available: %s", m_state.useConstraintHandling ? "YES" : "NO");
@@ -77,11 +79,8 @@ void KestoPrintPdeVq250nJC::keepPrinterAddress(const QString& deviceUri) {
     const qsizetype at = authority.indexOf(end);
     if (at >= 0) authority = authority.first(at);
   }
-  authority = authority.sliced(authority.lastIndexOf(u'@') + 1);
-  // A numeric address of colons stands in brackets, which belong to it.
-  const qsizetype port = authority.indexOf(u':', qMax(qsizetype{0}, authority.indexOf(u']')));
-  if (port >= 0) authority = authority.first(port);
-  if (!authority.isEmpty()) m_state.mfpURL = authority.toString();
+  const auto written = hostAndPortOf(authority.sliced(authority.lastIndexOf(u'@') + 1).toString());
+  if (written) m_state.mfpURL = written->host;
 }
 
 void KestoPrintPdeVq250nJC::loadView() {

@@ -74,7 +74,7 @@ void SettingsReader::setHold(const HeldField& row, bool hold, Action action) {
 }
 
 void SettingsReader::getNonPPDSettingsFromPrintSettings() {
-  _PDEProlog(this, "--getNonPPDSettingsFromPrintSettings:");
+  _PDEProlog(m_state.controller, "--getNonPPDSettingsFromPrintSettings:");
   if (m_state.printSettings() != nullptr) {
     readHoldMask();
     readRetention();
@@ -92,7 +92,7 @@ void SettingsReader::getNonPPDSettingsFromPrintSettings() {
     m_actions.retentionCBoxProc(m_state.outlets.retentionCheckBox);
     m_actions.folderSelectionPopUpButtonProc(m_state.outlets.folderSelectionPopup);
   }
-  _PDEEpilog(this, "--getNonPPDSettingsFromPrintSettings:");
+  _PDEEpilog(m_state.controller, "--getNonPPDSettingsFromPrintSettings:");
 }
 
 void SettingsReader::readHoldMask() {

@@ -38,7 +38,7 @@ void SettingsWriter::storeInPieces(const char* key, const QByteArray& value) {
 }
 
 void SettingsWriter::writeNonPPDSettingsToPrintSettings() {
-  _PDEProlog(this, "--writeNonPPDSettingsToPrintSettings:");
+  _PDEProlog(m_state.controller, "--writeNonPPDSettingsToPrintSettings:");
   if (m_state.printSettings() != nullptr && m_state.hasInited) {
     const QByteArray spoolTime = writeSpoolTime();
     store(job_keys::folderPath2, {});
@@ -54,7 +54,7 @@ void SettingsWriter::writeNonPPDSettingsToPrintSettings() {
     writeDigitsDigest(Held::FolderPassword, job_keys::folderPassword, spoolTime, true);
     store(job_keys::holdButton, QByteArray::number(holdButtonMask(m_state.outlets)));
   }
-  _PDEEpilog(this, "--writeNonPPDSettingsToPrintSettings:");
+  _PDEEpilog(m_state.controller, "--writeNonPPDSettingsToPrintSettings:");
 }
 
 // The spool time of the job's first write, as plain text.

@@ -1,5 +1,9 @@
+#include <unistd.h>
+
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
+#include <QtCore/QSocketNotifier>
 
 #include "support/folder_server.h"
 #include "support/test_panel.h"
@@ -156,17 +160,41 @@ TEST(FolderQuery, SaveAndRestoreWhileItWaits) {
   EXPECT_EQ(query.list(), u"Art|Maps"_s);
 }
 
+// How many descriptors the process has.
+qsizetype descriptors() {
+  return QDir(u"/proc/self/fd"_s).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size();
+}
+
+// The second time it is destroyed by what the event loop delivers after the end of the exchange, in the same
+// pass: a notifier that is always ready, and waits until the connection has been closed on the panel's side.
 TEST(FolderQuery, APanelDestroyedWhileItWaitsEndsTheExchange) {
-  FolderServer server;
-  server.end = End::StayOpen;
-  server.answer = QByteArray();
-  Query query;
-  const QJsonObject before = query.record();
-  server.onRequest = [&] { query.panel->controller.reset(); };
-  query.ask(server.address());
-  EXPECT_EQ(server.requests.size(), 1);
-  EXPECT_TRUE(query.platform.alerts.empty());
-  EXPECT_EQ(query.record(), before);
+  for (const bool isAfterTheEnd : {false, true}) {
+    SCOPED_TRACE(isAfterTheEnd);
+    FolderServer server;
+    server.end = isAfterTheEnd ? End::Reset : End::StayOpen;
+    server.answer = QByteArray();
+    Query query;
+    const QJsonObject before = query.record();
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);  // its writing end is always ready
+    std::optional<QSocketNotifier> notifier;
+    const auto destroy = [&] { query.panel->controller.reset(); };
+    server.onRequest = [&] {
+      if (!isAfterTheEnd) return destroy();
+      notifier.emplace(ends[1], QSocketNotifier::Write);
+      QObject::connect(&*notifier, &QSocketNotifier::activated, &server, [&, open = descriptors()] {
+        // The server's end, and the two of the panel's: Qt's own and the one beside it.
+        if (descriptors() < open - 1) destroy();
+      });
+    };
+    query.ask(server.address());
+    EXPECT_EQ(query.panel->controller, nullptr);
+    EXPECT_EQ(server.requests.size(), 1);
+    EXPECT_TRUE(query.platform.alerts.empty());
+    EXPECT_EQ(query.record(), before);
+    ::close(ends[0]);
+    ::close(ends[1]);
+  }
 }
 
 }  // namespace

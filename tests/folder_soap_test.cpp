@@ -1,4 +1,6 @@
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
@@ -102,6 +104,7 @@ TEST(SoapClient, TheEventThatEndsTheExchangeDecides) {
       {"cut short", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nshort", End::Close, false, "old"},
       {"reset in the middle", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nshort", End::Reset, false,
        "old"},
+      {"reset in a body without a length", "HTTP/1.0 200 OK\r\n\r\nhalf", End::Reset, false, "old"},
       {"last chunk missing", chunked + "3\r\nabc\r\n", End::Close, false, "old"},
       {"not HTTP", "hello\r\n\r\n", End::Close, false, "old"},
       {"longer than the limit", httpAnswer(tooLong), End::Close, false, "old"},
@@ -152,13 +155,20 @@ TEST(SoapClient, EndsWithTheApplication) {
   EXPECT_EQ(exchange.answer(), "old");
 }
 
-TEST(SoapClient, AnAddressWithAQueryStillMakesARequest) {
+// What comes after the authority of a valid URL goes out as it is written, and the authority itself.
+TEST(SoapClient, AValidUrlGoesOutUnchanged) {
   for (const auto& [suffix, target] :
-       Cases{{"", "/"}, {"?x/kesto-mfp-srv", "/?x/kesto-mfp-srv"}, {"#x/kesto-mfp-srv", "/"}}) {
+       Cases{{"", "/"},
+             {"?x/kesto-mfp-srv", "/?x/kesto-mfp-srv"},
+             {"#x/kesto-mfp-srv", "/"},
+             {"/%41%7e%c3%A4/a//b/../c;d=(e)", "/%41%7e%c3%A4/a//b/../c;d=(e)"},
+             {"/x?a=%5b&b='*!$,:@/?#f", "/x?a=%5b&b='*!$,:@/?"}}) {
     FolderServer server;
     Exchange exchange;
-    ASSERT_TRUE(exchange.run(u"http://"_s + server.address() + suffix));
-    EXPECT_TRUE(server.requests.value(0).startsWith("POST " + target.toLatin1() + " HTTP/1.1\r\n")) << suffix;
+    ASSERT_TRUE(exchange.run(u"http://us%65r@LOCALHOST:0%1"_s.arg(server.serverPort()) + suffix));
+    const QByteArray request = server.requests.value(0);
+    EXPECT_TRUE(request.startsWith("POST " + target.toLatin1() + " HTTP/1.1\r\n")) << suffix;
+    EXPECT_TRUE(request.contains("\r\nHost: LOCALHOST:0" + QByteArray::number(server.serverPort()) + "\r\n"));
   }
 }
 
@@ -174,11 +184,33 @@ TEST(SoapClient, PortThatRefuses) {
 }
 
 TEST(SoapClient, InvalidUrlsGiveNoClient) {
-  for (const char* url :
-       {"http://bad address/kesto-mfp-srv", "http://host: /x", "http://127.0.0.1:99999/x", "http://[::1/x"}) {
-    SCOPED_TRACE(url);
+  for (const QString& url : {u"http://bad address/x"_s,
+                             u"http://host: /x"_s,
+                             u"http://127.0.0.1:99999/x"_s,
+                             u"http://[::1/x"_s,
+                             u"http://[1.2.3.4]/x"_s,
+                             u"http://[::1]x/"_s,
+                             u"http://a]/x"_s,
+                             u"http://host/[1]"_s,
+                             u"http://host/a|b"_s,
+                             u"http://host/%4"_s,
+                             u"http://host/%zz"_s,
+                             u"http://drück/x"_s,
+                             u"http://host/ä"_s,
+                             u"http://host/?\""_s,
+                             u"http://host/#<"_s,
+                             u"http://host/x\n"_s,
+                             u"http://fe80::1/x"_s,
+                             u"http:///x"_s,
+                             u"http://u@:80/x"_s,
+                             u"http://"_s,
+                             u"ftp://host/"_s,
+                             u"host"_s,
+                             u""_s,
+                             u"http://"_s + QString(1000000, u'a') + u" /x"_s}) {
+    SCOPED_TRACE(url.left(40).toStdString());
     Exchange exchange;
-    EXPECT_FALSE(exchange.run(QString::fromLatin1(url)));
+    EXPECT_FALSE(exchange.run(url));
     EXPECT_EQ(exchange.failures, 0);
   }
 }
@@ -231,14 +263,51 @@ TEST(SoapClient, AnAnswerThatCannotBeWrittenIsNotReported) {
   EXPECT_EQ(server.requests.size(), 1);
 }
 
-TEST(SoapClient, CancelledWithoutAWord) {
+// Also when the exchange has just ended otherwise: who would be told may be gone.
+TEST(SoapClient, CancelledIsCancelledInEveryState) {
+  struct Row {
+    const char* name;
+    QByteArray answer;
+    End end;
+    bool isEarly;
+  };
+  for (const Row& row :
+       {Row{"running", "", End::StayOpen, true}, Row{"answered", httpAnswer("good"), End::Close, false},
+        Row{"failed", "", End::Close, false}, Row{"out of time", "", End::StayOpen, false}}) {
+    SCOPED_TRACE(row.name);
+    FolderServer server;
+    server.answer = row.answer;
+    server.end = row.end;
+    Exchange exchange;
+    exchange.putOld();
+    exchange.client = KestoPrintPdeVq250nJCSOAPClient::initWithServerName(
+        server.url(), exchange.platform, &exchange, row.isEarly ? 10s : 100ms);
+    const auto cancel = [&exchange] { exchange.client->cancel(); };
+    if (row.isEarly) server.onRequest = cancel;
+    QObject::connect(exchange.client.get(), &KestoPrintPdeVq250nJCSOAPClient::finishedChanged, &server,
+                     cancel, Qt::SingleShotConnection);
+    exchange.client->sendMessage("<request/>");
+    EXPECT_EQ(exchange.failures, 0);
+    EXPECT_EQ(exchange.answer(), "old");
+  }
+}
+
+TEST(SoapClient, WithoutADescriptorForTheConnectionNobodyIsTold) {
   FolderServer server;
   Exchange exchange;
   exchange.putOld();
-  server.onRequest = [&] { exchange.client->cancel(); };
-  ASSERT_TRUE(exchange.run(server.url()));
+  rlimit before{};
+  ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+  const int next = ::dup(0);
+  ::close(next);
+  const rlimit none{.rlim_cur = static_cast<rlim_t>(next), .rlim_max = before.rlim_max};
+  ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+  const bool isMade = exchange.run(server.url());
+  ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+  EXPECT_TRUE(isMade);
   EXPECT_EQ(exchange.failures, 0);
   EXPECT_EQ(exchange.answer(), "old");
+  EXPECT_TRUE(server.requests.isEmpty());
 }
 
 TEST(SoapClient, WithoutATemporaryDirectoryTheFileIsInTmp) {

@@ -2,6 +2,8 @@
 // serves it.
 #pragma once
 
+#include <sys/socket.h>
+
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
 #include <functional>
@@ -77,7 +79,10 @@ class FolderServer : public QTcpServer {
     if (end == End::Close) socket->disconnectFromHost();
     if (end == End::Reset) {
       socket->flush();
-      socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+      const linger atOnce{.l_onoff = 1, .l_linger = 0};  // else closing ends the connection in order
+      EXPECT_EQ(::setsockopt(static_cast<int>(socket->socketDescriptor()), SOL_SOCKET, SO_LINGER, &atOnce,
+                             sizeof atOnce),
+                0);
       socket->abort();
     }
   }
