@@ -109,7 +109,7 @@ const Row* rowNamed(const QString& name) {
 
 }  // namespace
 
-void myVq250nJCHilite(TextField& field, bool dim) {
+void MySetEnabled::myVq250nJCHilite(TextField& field, bool dim) {
   field.setTextColor(dim ? TextField::Color::Gray : TextField::Color::Black);
   if (field.tag() == 0) return;
   field.setEditable(!dim);
@@ -127,7 +127,7 @@ void EnablingRules::run(Rule rule) {
       if (control == nullptr) return;
       if constexpr (std::is_same_v<decltype(control), TextField*>) {
         const bool held = row.hold != nullptr && isExactlyOn(outlets.*row.hold);
-        myVq250nJCHilite(*control, !available || held);
+        MySetEnabled::myVq250nJCHilite(*control, !available || held);
       } else {
         control->setEnabled(available);
       }

@@ -7,10 +7,15 @@
 
 namespace kesto {
 
+/// What the panel adds to every text field.
+namespace MySetEnabled {
+
 /// Shows a label or text field as available or not. A label (tag 0) turns black or gray. A text field,
 /// dimmed, is neither editable nor selectable, gray, and no field of the window keeps keyboard focus;
 /// undimmed it is editable and selectable, black, and takes keyboard focus.
 void myVq250nJCHilite(TextField& field, bool dim);
+
+}  // namespace MySetEnabled
 
 // The rules in the order of their declaration. Each is an operation of EnablingRules and a row of its table.
 #define KESTO_ENABLING_RULES(RULE)       \

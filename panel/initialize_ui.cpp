@@ -37,6 +37,7 @@ void installFilter(const HeldField& row, TextField* field) {
   } else {
     filter = std::make_unique<MyRomanFilter>();
   }
+  filter->setFormat(QStringLiteral("##0"));
   filter->SetmaxCharactersCount(row.filterLimit);
   field->setFormatter(std::move(filter));
 }

@@ -12,6 +12,9 @@ class LengthLimitedFilter : public Formatter {
  public:
   /// The length that typing can reach; 0 until it is set, which refuses every insertion.
   void SetmaxCharactersCount(std::int64_t count) { maxValue = count; }
+  /// The format of numbers, which the filter itself never asks for: it watches over text.
+  void setFormat(const QString& format) { m_format = format; }
+  QString format() const { return m_format; }
 
   /// An edit whose caret would pass the limit is cut to the limit, never within a surrogate pair, all
   /// selected, and refused. A deletion is accepted. An insertion is accepted when the text before it was
@@ -25,6 +28,7 @@ class LengthLimitedFilter : public Formatter {
 
  private:
   std::int64_t maxValue = 0;
+  QString m_format;
 };
 
 /// Lets in what begins with a decimal digit.

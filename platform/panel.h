@@ -24,6 +24,8 @@ class PrintDialogPanel : public QObject {
   using QObject::QObject;
   /// The panel's controls; null when the layout cannot be loaded. The panel owns them.
   virtual PanelView* panelView() = 0;
+  /// The panel's controls once they are made, else null. Looking never loads the layout.
+  virtual PanelView* loadedView() const = 0;
   /// The name shown for the panel, localised.
   virtual QString panelName() = 0;
   /// The kind of the panel, the same in every language.

@@ -35,11 +35,12 @@ QString layoutOfMode(int mode) {
 
 }  // namespace
 
-std::unique_ptr<KestoPrintPdeVq250nJC> KestoPrintPdeVq250nJC::initWithCallback(HostCallback* host) {
+std::unique_ptr<KestoPrintPdeVq250nJC> KestoPrintPdeVq250nJC::initWithCallback(
+    KestoPrintPdeVq250nJCPDEPluginCallback* host) {
   return host == nullptr ? nullptr : std::make_unique<KestoPrintPdeVq250nJC>(*host);
 }
 
-KestoPrintPdeVq250nJC::KestoPrintPdeVq250nJC(HostCallback& host) : m_state(host) {
+KestoPrintPdeVq250nJC::KestoPrintPdeVq250nJC(KestoPrintPdeVq250nJCPDEPluginCallback& host) : m_state(host) {
   m_state.controller = this;
   _PDEProlog(this, "initWithCallback:(%@, %p)", QStringLiteral("HostCallback"), &host);
   m_state.useConstraintHandling = host.answersWillChangePPDOptionKeyValue();

@@ -16,6 +16,9 @@
 
 namespace kesto {
 
+/// The host's callback object, as the panel knows it.
+using KestoPrintPdeVq250nJCPDEPluginCallback = HostCallback;
+
 /// One panel of one print dialog. Construction gathers the facts about the current printer, which stay as
 /// they are; the controls are made when the host first wants them. Everything runs on the dialog's thread,
 /// and nothing is reported but by the two alerts. The properties are the panel's facts; encodings are
@@ -38,10 +41,12 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
 
  public:
   /// A new panel for `host`, which must outlive it; null without a host.
-  static std::unique_ptr<KestoPrintPdeVq250nJC> initWithCallback(HostCallback* host);
-  explicit KestoPrintPdeVq250nJC(HostCallback& host);
+  static std::unique_ptr<KestoPrintPdeVq250nJC> initWithCallback(
+      KestoPrintPdeVq250nJCPDEPluginCallback* host);
+  explicit KestoPrintPdeVq250nJC(KestoPrintPdeVq250nJCPDEPluginCallback& host);
 
   PanelView* panelView() override;
+  PanelView* loadedView() const override { return m_panelView.get(); }
   QString panelName() override;
   QString panelKind() override;
   QStringList supportedPPDOptionKeys() override;

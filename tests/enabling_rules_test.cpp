@@ -42,7 +42,8 @@ class EnablingRulesTest : public testing::Test {
   }
 
   static void makeAvailable(Control& control, bool isAvailable) {
-    if (auto* text = qobject_cast<TextField*>(&control)) return myVq250nJCHilite(*text, !isAvailable);
+    if (auto* text = qobject_cast<TextField*>(&control))
+      return MySetEnabled::myVq250nJCHilite(*text, !isAvailable);
     if (auto* button = qobject_cast<Button*>(&control)) return button->setEnabled(isAvailable);
     if (auto* matrix = qobject_cast<RadioMatrix*>(&control)) return matrix->setEnabled(isAvailable);
     dynamic_cast<PopUp&>(control).setEnabled(isAvailable);

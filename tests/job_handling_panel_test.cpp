@@ -3,6 +3,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QJsonArray>
 
+#include "hosts/session/panel_host.h"
 #include "plugin/entry.h"
 #include "support/test_panel.h"
 #include "support/warnings.h"
@@ -250,6 +251,23 @@ TEST_F(Resources, AMissingImageOrRequestIsDoneWithout) {
     EXPECT_EQ(items.back().image->name, u"lock"_s);
     EXPECT_EQ(items.back().image->path.isNull(), missing != u"listfiles2.xml") << missing;
   }
+}
+
+TEST_F(Resources, AHostsLookNeverLoadsTheLayout) {
+  ASSERT_TRUE(QFile::rename(pathOf(u"JobControl6.ui"_s), pathOf(u"away"_s)));
+  PanelHost host(platform);
+  EXPECT_EQ(host.loadedView(), nullptr);
+  KestoPrintPdeVq250nJCPDEPlugIn entry;
+  ASSERT_TRUE(host.openPanel(entry));
+  {
+    const ExpectedWarning warning("JobControl6.ui: no such resource");
+    host.panel()->restoreValuesAndReturnError(nullptr);
+  }
+  ASSERT_TRUE(QFile::rename(pathOf(u"away"_s), pathOf(u"JobControl6.ui"_s)));
+  EXPECT_EQ(host.loadedView(), nullptr);
+  PanelView* view = host.panel()->panelView();
+  EXPECT_NE(view, nullptr);
+  EXPECT_EQ(host.loadedView(), view);
 }
 
 TEST_F(Resources, ALayoutThatIsMissingOrDamagedGivesNoView) {

@@ -1,6 +1,7 @@
 #include <QtCore/QSet>
 
 #include "panel/initialize_ui.h"
+#include "panel/input_filters.h"
 #include "panel/localized.h"
 #include "support/test_panel.h"
 
@@ -124,6 +125,9 @@ TEST(InitializeUI, TypingReachesTheLimitOfEachField) {
       [&](const QString& name, const QString& value) {
         const int limit = value.toInt();
         TextField& text = field(*panel.view, name);
+        const auto* filter = dynamic_cast<const LengthLimitedFilter*>(text.formatter());
+        EXPECT_EQ(filter == nullptr ? QString() : filter->format(), limit > 300 ? QString() : u"##0"_s)
+            << name;
         EXPECT_TRUE(text.type(u"x"_s));
         EXPECT_EQ(text.stringValue().isEmpty(), limit <= 8) << name << ", a digit field or not";
         EXPECT_TRUE(text.paste(QString(limit - text.stringValue().size(), u'7')));

@@ -173,6 +173,15 @@ TEST_F(PanelProcess, ItsTraceTellsTheCallsAndNoSecret) {
        {u"enter initWithCallback:(HostCallback, 0x"_s, u"note Constraint Handling Available: YES"_s,
         u"leave initWithCallback:=id(self)"_s})
     EXPECT_TRUE(trace.contains(line)) << line << " is not in\n" << trace;
+  // One panel, which all calls name but those of the entry object.
+  QSet<QString> objects;
+  for (const QString& line : trace.split(u'\n')) {
+    const QString object = line.section(u' ', 1, 1);
+    if (line.startsWith(u"kesto.pde: ") && !line.contains(u"PDEPanelsForType") &&
+        !line.contains(u"initWithBundle"))
+      objects.insert(object);
+  }
+  EXPECT_EQ(objects.size(), 1) << trace;
   for (const auto& secret : {u"47114711"_s, u"jdoe-of"_s, u"open-sesame"_s})
     EXPECT_FALSE(trace.contains(secret)) << trace;
 }

@@ -25,7 +25,7 @@ Outcome PanelHost::openShownPanel(PrintDialogPlugIn& plugIn) {
 }
 
 PanelView* PanelHost::loadedView() const {
-  return m_panel && m_panel->property("hasInited").toBool() ? m_panel->panelView() : nullptr;
+  return m_panel ? m_panel->loadedView() : nullptr;
 }
 
 QMap<QString, QString> summaryOf(PrintDialogPanel& panel) {
