@@ -5,6 +5,7 @@
 #include <QtCore/QXmlStreamReader>
 #include <algorithm>
 
+#include "folders/answer_limits.h"
 #include "platform/text_encoding.h"
 
 namespace kesto {
@@ -23,9 +24,9 @@ class AnswerReader {
   explicit AnswerReader(QXmlStreamReader& xml) : m_xml(xml) {}
 
   std::optional<FolderAnswer> read() {
-    while (!m_xml.atEnd())
+    while (!m_xml.atEnd() && !m_isBeyond)
       step(m_xml.readNext());
-    if (m_xml.hasError()) return std::nullopt;
+    if (m_xml.hasError() || m_isBeyond) return std::nullopt;
     FolderAnswer answer;
     answer.isList = m_response.hasFiles && m_response.isOk;
     if (answer.isList) answer.folders = std::move(m_response.folders);
@@ -53,66 +54,96 @@ class AnswerReader {
       case QXmlStreamReader::Comment:
       case QXmlStreamReader::ProcessingInstruction:
       case QXmlStreamReader::EntityReference:
-        node(m_depth + 1);
+        MyGetChild(m_depth + 1);
+        break;
+      case QXmlStreamReader::DTD:
+        // The reader takes several, and takes them anywhere.
+        m_isBeyond = m_isBeyond || m_isPastProlog;
+        m_isPastProlog = true;
         break;
       default:
         break;
     }
   }
 
-  // A node begins at the level.
-  void node(int level) {
+  // A child begins at the level. It is the last one so far: what was read below its elder sibling is not of
+  // the body, or of the response, after all.
+  void MyGetChild(int level) {
     if (level == Body || level == Response) m_response = {};
   }
 
   bool isNamed(const char* name) const { return m_xml.qualifiedName() == QLatin1String(name); }
 
   void startElement() {
+    m_isPastProlog = true;
     ++m_depth;
-    node(m_depth);
+    m_isBeyond = m_isBeyond || m_depth > answer_limits::depth || hasLongName();
+    MyGetChild(m_depth);
     if (m_depth == Item) startItem();
     if (m_depth == Folder && m_inFiles) m_folder = {};
-    if (m_depth == FolderValue && m_inFiles) {
-      m_isValue = isNamed("name") || isNamed("password") || isNamed("dir");
-      m_text.clear();
+    if (m_depth == FolderValue && m_inFiles && (isNamed("name") || isNamed("password") || isNamed("dir"))) {
+      startValue();
     }
   }
 
+  bool hasLongName() const {
+    const QXmlStreamAttributes attributes = m_xml.attributes();
+    return m_xml.qualifiedName().size() > answer_limits::nameLength ||
+           std::ranges::any_of(attributes, [](const QXmlStreamAttribute& attribute) {
+             return attribute.qualifiedName().size() > answer_limits::nameLength;
+           });
+  }
+
   void startItem() {
-    m_isValue = isNamed("result-code");
-    m_text.clear();
+    if (isNamed("result-code")) startValue();
     m_inFiles = isNamed("files");
     if (!m_inFiles) return;
     m_response.hasFiles = true;
     m_response.folders.clear();
   }
 
+  void startValue() {
+    m_valueLevel = m_depth;
+    m_text.clear();
+  }
+
   void endElement() {
-    if (m_depth == Item && m_isValue) m_response.isOk = m_text == u"ok";
-    if (m_depth == FolderValue && m_isValue) endFolderValue();
-    if (m_depth == Folder && m_inFiles && !m_folder.name.isEmpty())
-      m_response.folders.push_back(std::move(m_folder));
+    if (m_depth == m_valueLevel) {
+      m_valueLevel = 0;
+      if (m_depth == Item) m_response.isOk = m_text == u"ok";
+      if (m_depth == FolderValue) endFolderValue();
+    }
+    if (m_depth == Folder && m_inFiles && !m_folder.name.isEmpty()) endFolder();
     if (m_depth == Item) m_inFiles = false;
-    if (m_depth == Item || m_depth == FolderValue) m_isValue = false;
     --m_depth;
   }
 
   void endFolderValue() {
-    if (isNamed("name")) m_folder.name = m_text;
+    if (isNamed("name")) {
+      m_isBeyond = m_isBeyond || m_text.size() > answer_limits::nameLength;
+      m_folder.name = m_text;
+    }
     if (isNamed("password") && m_text == u"true") m_folder.password = true;
     if (isNamed("dir") && m_text == u"true") m_folder.dir = true;
   }
 
+  void endFolder() {
+    m_isBeyond = m_isBeyond || m_response.folders.size() == answer_limits::folders;
+    m_response.folders.push_back(std::move(m_folder));
+  }
+
   void characters() {
-    if (m_isValue) m_text += m_xml.text();
+    if (m_valueLevel != 0) m_text += m_xml.text();
     // The reader's own word on blanks does not hold for those that are written as references.
-    if (m_xml.isCDATA() || !std::ranges::all_of(m_xml.text(), isBlank)) node(m_depth + 1);
+    if (m_xml.isCDATA() || !std::ranges::all_of(m_xml.text(), isBlank)) MyGetChild(m_depth + 1);
   }
 
   QXmlStreamReader& m_xml;
   int m_depth = 0;
   bool m_inFiles = false;
-  bool m_isValue = false;  // the text of the element that began at Item or FolderValue is wanted
+  bool m_isPastProlog = false;
+  bool m_isBeyond = false;  // the bounds of an answer
+  int m_valueLevel = 0;     // of the element whose text is wanted, at any depth; 0 while there is none
   QString m_text;
   FolderEntry m_folder;
   ResponseState m_response;
@@ -125,20 +156,29 @@ QByteArray declaredEncoding(const QByteArray& xml) {
   return declaration.match(QString::fromLatin1(xml.left(200))).captured(1).toLatin1();
 }
 
+// The document's text; null when its bytes are no text in its encoding.
+QString decoded(const QByteArray& xml) {
+  const QByteArray declared = declaredEncoding(xml);
+  auto encoding = QStringConverter::encodingForData(xml, u'<');
+  if (!encoding)
+    encoding =
+        declared.isEmpty() ? QStringConverter::Utf8 : QStringConverter::encodingForName(declared.constData());
+  // Of the encodings beyond Unicode and Latin-1 the decoder knows none.
+  if (!encoding) return textOfBytesIn(xml, declared);
+  QStringDecoder decoder(*encoding, QStringConverter::Flag::Stateless);
+  QString text = decoder(xml);
+  return decoder.hasError() ? QString() : text;
+}
+
 }  // namespace
 
 std::optional<FolderAnswer> readFolderAnswer(const QByteArray& xml) {
+  QString text = decoded(xml);
+  if (text.isNull() || !answer_limits::areKeptBy(text)) return std::nullopt;
   QXmlStreamReader reader;
   reader.setNamespaceProcessing(false);
-  const QByteArray encoding = declaredEncoding(xml);
-  if (encoding.isEmpty() || QStringDecoder::encodingForName(encoding.constData())) {
-    reader.addData(xml);
-  } else {
-    // Of the encodings beyond Unicode and Latin-1 the reader knows none.
-    const QString text = textOfBytesIn(xml, encoding);
-    if (text.isNull()) return std::nullopt;
-    reader.addData(text);
-  }
+  reader.setEntityExpansionLimit(static_cast<int>(answer_limits::entityValue));
+  reader.addData(std::exchange(text, {}));
   return AnswerReader(reader).read();
 }
 

@@ -19,7 +19,8 @@ struct FolderAnswer {
 /// response; there "result-code" other than "ok" fails the answer, and each child of the last "files" is a
 /// folder. Comments, instructions and CDATA sections are nodes like any other; blank text is none. Names are
 /// compared as written, with their prefix. Folders without a name are left out. None when the document is not
-/// well-formed. Entities are expanded within narrow limits, and nothing outside the document is ever read.
+/// well-formed or goes beyond the bounds (folders/answer_limits.h). Nothing outside the document is ever
+/// read.
 std::optional<FolderAnswer> readFolderAnswer(const QByteArray& xml);
 
 }  // namespace kesto

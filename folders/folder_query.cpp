@@ -44,7 +44,7 @@ void FolderQuery::getFolderNameButtonProc(Control* /*sender*/) {
 }
 
 bool FolderQuery::parseXML(const QString& path) {
-  const std::optional<QByteArray> xml = readOwnFile(path, largestAnswer);
+  const std::optional<QByteArray> xml = readOwnFile(path, answer_limits::bytes);
   std::optional<FolderAnswer> answer = xml ? readFolderAnswer(*xml) : std::nullopt;
   if (!answer) return false;
   m_state.folderList = std::move(answer->folders);

@@ -74,7 +74,7 @@ QByteArray KestoPrintPdeVq250nJCSOAPClient::requestFor(const QByteArray& body) c
 
 void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   m_finished = Finished::Running;
-  m_responseData = HttpResponse(largestAnswer);
+  m_responseData = HttpResponse(answer_limits::bytes);
   QTcpSocket socket;
   socket.setProxy(QNetworkProxy::NoProxy);
   SecondDescriptor second;

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <memory>
 
+#include "folders/answer_limits.h"
 #include "folders/endpoint.h"
 #include "folders/http_response.h"
 
@@ -27,9 +28,6 @@ class SoapContext {
 /// The path of the answer file: "vwxyz.xml" in the user's temporary directory, or in "/tmp/" when there is
 /// none.
 QString answerFilePath(Platform& platform);
-
-/// Most bytes of an answer; a longer one is a failed exchange.
-inline constexpr qsizetype largestAnswer = qsizetype{32} * 1024 * 1024;
 
 /// One exchange with one endpoint. The whole answer, whatever its HTTP status, replaces the answer file; a
 /// failure leaves it as it was. Redirects are not followed, and no proxy stands between panel and printer.
@@ -75,7 +73,7 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   SoapContext* m_context;
   std::chrono::milliseconds m_limit;
   Finished m_finished = Finished::Running;
-  HttpResponse m_responseData{largestAnswer};
+  HttpResponse m_responseData{answer_limits::bytes};
 };
 
 }  // namespace kesto

@@ -1,5 +1,6 @@
 #include "folders/folder_answer.h"
 
+#include "folders/answer_limits.h"
 #include "support/folder_server.h"
 
 namespace kesto::test {
@@ -50,6 +51,10 @@ TEST(FolderAnswer, ResultCode) {
       {"capitals", envelope("<result-code>OK</result-code>" + filesA), u"-"_s},
       {"blanks around", envelope("<result-code> ok </result-code>" + filesA), u"-"_s},
       {"in a CDATA section", envelope("<result-code><![CDATA[ok]]></result-code>" + filesA), u"A"_s},
+      {"elements within it, good", envelope("<result-code><x>o<y/></x>k</result-code>" + filesA), u"A"_s},
+      {"elements within it, bad", envelope("<result-code>no<x><y/></x></result-code>" + filesA), u"-"_s},
+      {"elements of its own name within it",
+       envelope("<result-code>o<r><result-code>k</result-code></r></result-code>" + filesA), u"A"_s},
       {"the last decides, good", envelope("<result-code>no</result-code>" + ok + filesA), u"A"_s},
       {"the last decides, bad", envelope(ok + filesA + "<result-code>no</result-code>"), u"-"_s},
       {"with a prefix it is another element", envelope("<r:result-code>no</r:result-code>" + filesA), u"A"_s},
@@ -75,6 +80,8 @@ TEST(FolderAnswer, FoldersByPositionAndName) {
       {"the last name counts", ofFolder("<name>X</name><name>A</name>"), u"A"_s},
       {"text of all below", ofFolder("<name>A<b>B<c/>C</b><!-- - --><![CDATA[<D>]]>&amp;</name>"),
        u"ABC<D>&"_s},
+      {"text of any depth", ofFolder("<name>A<b><c>B<name><d/></name></c></b>C<d/>D</name>"), u"ABCD"_s},
+      {"flags of texts at any depth", ofFolder("<name>A</name><dir>t<x>r<y><z/></y></x>ue</dir>"), u"A/"_s},
       {"blanks stay", ofFolder("<name> A  b </name>"), u" A  b "_s},
       {"names deeper down are others", ofFolder("<x><name>Z</name></x><name>A</name>"), u"A"_s},
       {"without a name", envelope("<files><f><dir>true</dir></f><f><name/></f><f><name>A</name></f></files>"),
@@ -126,40 +133,111 @@ TEST(FolderAnswer, EncodingsOfTheDocument) {
 }
 
 TEST(FolderAnswer, HostileDocuments) {
-  QByteArray bomb = "<!DOCTYPE e [<!ENTITY a0 'ha'>";
-  for (int i = 1; i < 12; ++i) {
-    const QByteArray reference = "&a" + QByteArray::number(i - 1) + ";";
-    bomb += "<!ENTITY a" + QByteArray::number(i) + " '" + reference.repeated(10) + "'>";
-  }
-  bomb += "]><e><b><r><files><f><name>&a11;</name></f></files></r></b></e>";
-  constexpr int levels = 1000000;
-  const QByteArray deep = QByteArray("<a>").repeated(levels) + QByteArray("</a>").repeated(levels);
   const QByteArray external = "]><e><b><r><files><f><name>A&x;</name></f></files></r></b></e>";
+  const QByteArray answer = "<e><b><r>" + filesA + "</r></b></e>";
   expectRows({
-      {"entities that grow", bomb, u"malformed"_s},
       {"a file as an entity", "<!DOCTYPE e [<!ENTITY x SYSTEM 'file:///etc/hostname'>" + external, u"A"_s},
       {"a file through a parameter",
-       "<!DOCTYPE e [<!ENTITY % p SYSTEM 'file:///etc/hostname'> %p;" + external, u"A"_s},
-      {"a million levels around", deep, u"-"_s},
-      {"a million levels in a folder", ofFolder("<name>A</name>" + deep), u"A"_s},
+       "<!DOCTYPE e [<!ENTITY % p SYSTEM 'file:///etc/hostname'> %p;" + external, u"malformed"_s},
       {"a NUL", QByteArray("<e><b>\0</b></e>", 15), u"malformed"_s},
       {"a reference to NUL", ofFolder("<name>A&#0;</name>"), u"malformed"_s},
       {"cut in the middle", ofFolder("<name>A</name>").chopped(20), u"malformed"_s},
       {"nothing", "", u"malformed"_s},
       {"an attribute twice", "<e a='1' a='2'><b/></e>", u"malformed"_s},
       {"two roots", "<e/><e/>", u"malformed"_s},
+      {"a document type after the root", answer + "<!DOCTYPE e>", u"malformed"_s},
+      {"a document type within the root", "<e><!DOCTYPE e>" + answer.mid(3), u"malformed"_s},
+      {"two document types", "<!DOCTYPE e><!DOCTYPE e>" + answer, u"malformed"_s},
       {"no XML", "<html><br></html>", u"malformed"_s},
   });
 }
 
-TEST(FolderAnswer, ManyFolders) {
+// Each bound, kept and not: an answer beyond it takes neither long nor much memory.
+TEST(FolderAnswer, Bounds) {
+  using namespace answer_limits;
+  const auto declared = [](const QByteArray& declarations, const QByteArray& name = "A") {
+    return "<!DOCTYPE e [" + declarations + "]><e><b><r><files><f><name>" + name +
+           "</name></f></files></r></b></e>";
+  };
+  const auto attributesOf = [](int count, const QByteArray& between = "='") {
+    QByteArray list;
+    for (int i = 0; i < count; ++i)
+      list += " a" + QByteArray::number(i) + between + "'";
+    return list;
+  };
+  const auto within = [](qsizetype levels, const QByteArray& inside) {
+    return QByteArray("<x>").repeated(levels) + inside + QByteArray("</x>").repeated(levels);
+  };
+  // Each stands for the one before, as often as the factor says.
+  const auto entitiesThatGrow = [](int levels, int factor, const QByteArray& leaf,
+                                   const QByteArray& sign = "&") {
+    QByteArray list = "<!ENTITY a0 '" + leaf + "'>";
+    for (int i = 1; i <= levels; ++i) {
+      const QByteArray reference = sign + "a" + QByteArray::number(i - 1) + ";";
+      list += "<!ENTITY a" + QByteArray::number(i) + " '" + reference.repeated(factor) + "'>";
+    }
+    return list;
+  };
+  const QByteArray longest(nameLength, 'n');
+  const QByteArray full = "<f><name>A</name></f>";
+  QByteArray many;
+  for (qsizetype i = 0; i < entities; ++i)
+    many += "<!ENTITY e" + QByteArray::number(i) + " 'A'>";
+  expectRows({
+      {"attributes", ofFolder("<name" + attributesOf(attributes) + ">A</name>"), u"A"_s},
+      {"an attribute more", ofFolder("<name" + attributesOf(attributes + 1) + ">A</name>"), u"malformed"_s},
+      {"after a tag in a comment that quotes",
+       ofFolder("<!-- <a ' --><name" + attributesOf(100000, "\n=\t'") + ">A</name>"), u"malformed"_s},
+      {"in an entity",
+       declared("<!ENTITY a '&#60;b" + attributesOf(attributes + 1, "=\"\"").replace("'", "") + "/>'>",
+                "A&a;"),
+       u"malformed"_s},
+      {"signs in a text", ofFolder("<name>" + QByteArray("=a'").repeated(200) + "</name>"),
+       QString(u"=a'"_s).repeated(200)},
+      {"levels", within(depth, ""), u"-"_s},
+      {"levels in a folder", ofFolder("<name>A" + within(depth - 6, "") + "</name>"), u"A"_s},
+      {"a level more", ofFolder("<name>A" + within(depth - 5, "") + "</name>"), u"malformed"_s},
+      {"a million levels", within(1000000, ""), u"malformed"_s},
+      {"a folder's name", ofFolder("<name>" + longest + "</name>"), QString::fromLatin1(longest)},
+      {"a longer one", ofFolder("<name>" + longest + "n</name>"), u"malformed"_s},
+      {"a folder's name of megabytes", ofFolder("<name>" + QByteArray(5000000, 'n') + "</name>"),
+       u"malformed"_s},
+      {"an element's name", ofFolder("<name>A</name><" + longest + "/>"), u"A"_s},
+      {"an element's longer name", ofFolder("<name>A</name><" + longest + "n/>"), u"malformed"_s},
+      {"an attribute's longer name", ofFolder("<name " + longest + "n=''>A</name>"), u"malformed"_s},
+      {"a folder too many", envelope("<files>" + full.repeated(answer_limits::folders + 1) + "</files>"),
+       u"malformed"_s},
+      {"entities", declared(many, "&e0;&e255;"), u"AA"_s},
+      {"an entity more", declared(many + "<!ENTITY x ''>"), u"malformed"_s},
+      {"an entity's value", declared("<!ENTITY a '" + QByteArray(entityValue, ' ') + "'>"), u"A"_s},
+      {"an entity's longer value", declared("<!ENTITY a '" + QByteArray(entityValue + 1, ' ') + "'>"),
+       u"malformed"_s},
+      {"entities within one another", declared("<!ENTITY a 'A'><!ENTITY b \"&a;&a;\">", "&b;&amp;&#66;"),
+       u"AA&B"_s},
+      {"an entity within itself", declared("<!ENTITY a '&b;'><!ENTITY b '&a;'>", "&a;"), u"malformed"_s},
+      {"entities that grow", declared(entitiesThatGrow(11, 10, "ha"), "&a11;"), u"malformed"_s},
+      {"entities of nothing that grow", declared(entitiesThatGrow(60, 2, ""), "A&a60;"), u"malformed"_s},
+      {"the same by references to characters", declared(entitiesThatGrow(60, 2, "", "&#x026;"), "A&a60;"),
+       u"malformed"_s},
+      {"an entity often",
+       declared("<!ENTITY a '" + QByteArray(4000, 'x') + "'>", QByteArray("&a;").repeated(100000)),
+       u"malformed"_s},
+      {"an entity of nothing often", declared("<!ENTITY a ''>", "A" + QByteArray("&a;").repeated(100000)),
+       u"A"_s},
+      {"attribute defaults", declared("<!ATTLIST f a CDATA 'v'>"), u"malformed"_s},
+      {"a document type out of an entity", declared("<!ENTITY a '&#60;!DOCTYPE e>'>", "A&a;"),
+       u"malformed"_s},
+      {"a parameter entity", declared("<!ENTITY % p ''> %p;"), u"malformed"_s},
+  });
+}
+
+TEST(FolderAnswer, AsManyFoldersAsThereMayBe) {
   QByteArray files;
-  constexpr int count = 100000;
-  for (int i = 0; i < count; ++i)
-    files += "<f><name>F" + QByteArray::number(i) + "</name></f>";
+  for (std::size_t i = 0; i < answer_limits::folders; ++i)
+    files += "<f><name>F" + QByteArray::number(static_cast<qulonglong>(i)) + "</name></f>";
   const std::optional<FolderAnswer> answer = readFolderAnswer(envelope("<files>" + files + "</files>"));
   ASSERT_TRUE(answer && answer->isList);
-  ASSERT_EQ(answer->folders.size(), std::size_t{count});
+  ASSERT_EQ(answer->folders.size(), answer_limits::folders);
   EXPECT_EQ(answer->folders.front().name, u"F0"_s);
   EXPECT_EQ(answer->folders.back().name, u"F99999"_s);
 }

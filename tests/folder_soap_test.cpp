@@ -76,7 +76,7 @@ TEST(SoapClient, TheEventThatEndsTheExchangeDecides) {
     QByteArray body;
   };
   const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\nConnection: close\r\n\r\n";
-  const QByteArray tooLong(largestAnswer + 1, 'x');
+  const QByteArray tooLong(answer_limits::bytes + 1, 'x');
   const QList<Row> rows{
       {"whole", httpAnswer("good"), End::Close, true, "good"},
       {"whole, connection stays open", httpAnswer("good"), End::StayOpen, true, "good"},
