@@ -48,8 +48,9 @@ class BenchPlatform : public Platform, private UserDefaults, private AlertPresen
   Domain persistentDomainForName(const QString& /*name*/) override {
     return {.available = true, .values = {}};
   }
-  Outcome setPersistentDomain(const QJsonObject& /*values*/, const QString& /*name*/) override {
-    return Outcome::done();
+  Outcome changePersistentDomain(const QString& /*name*/, const DomainChange& change) override {
+    QJsonObject values;
+    return change(&values);
   }
   void runInformationalAlert(const QString& /*title*/, const QString& /*message*/,
                              const QString& /*button*/) override {}

@@ -9,6 +9,8 @@
 #include <QtCore/QRegularExpression>
 #include <cerrno>
 
+#include "platform/environment.h"
+
 namespace kesto {
 namespace {
 
@@ -40,9 +42,9 @@ void removeAll(const QDir& folder, const QString& besides) {
 }  // namespace
 
 QString RunFolder::standardPath() {
-  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  const QString runtime = userRuntimeDirectory();
   // Root's jobs run as another account, which that folder keeps out.
-  if (!runtime.isEmpty() && getuid() != 0) return runtime + QStringLiteral("/kesto-demo");
+  if (!runtime.isNull() && getuid() != 0) return runtime + QStringLiteral("/kesto-demo");
   const QString temporary = qEnvironmentVariable("TMPDIR", QStringLiteral("/tmp"));
   return temporary + QStringLiteral("/kesto-demo-%1").arg(getuid());
 }

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <vector>
 
@@ -17,6 +18,12 @@ QString accountField(char* passwd::*field) {
   passwd* found = nullptr;
   if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr) return {};
   return QString::fromLocal8Bit(found->*field);
+}
+
+// A folder that a variable names, without a "/" at its end; null unless the path is absolute.
+QString folderOfVariable(const char* variable) {
+  const QString path = QFile::decodeName(qgetenv(variable));
+  return path.startsWith(u'/') ? QDir::cleanPath(path) : QString();
 }
 
 // Whether the path is a folder of this user's that nobody else may enter; makes it when it is missing.
@@ -45,13 +52,24 @@ QString accountFullName() {
   return name.isEmpty() ? QString() : name;
 }
 
+QString userConfigurationDirectory() {
+  const QString named = folderOfVariable("XDG_CONFIG_HOME");
+  if (!named.isNull()) return named + u'/';
+  const QString home = folderOfVariable("HOME");
+  return (home.isNull() ? accountField(&passwd::pw_dir) : home) + QStringLiteral("/.config/");
+}
+
+QString userRuntimeDirectory() {
+  return folderOfVariable("XDG_RUNTIME_DIR");
+}
+
 QString userTemporaryDirectory() {
   const QByteArray named = qgetenv("TMPDIR");
   if (!named.isEmpty()) return QFile::decodeName(named.endsWith('/') ? named : named + '/');
-  const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
-  const QByteArray folder = runtime + "/kesto";
-  if (runtime.isEmpty() || !isPrivateFolder(folder)) return {};
-  return QFile::decodeName(folder + '/');
+  const QString runtime = userRuntimeDirectory();
+  const QString folder = runtime + QStringLiteral("/kesto");
+  if (runtime.isNull() || !isPrivateFolder(QFile::encodeName(folder))) return {};
+  return folder + u'/';
 }
 
 TextEncoding systemEncodingOfEnvironment() {

@@ -11,6 +11,11 @@ namespace kesto {
 QString accountShortName();
 /// The full name of the account, from the password file; null when it has none.
 QString accountFullName();
+/// The user's folder for configuration: `$XDG_CONFIG_HOME`, else `.config` in `$HOME`, else in the account's
+/// home folder; ends in "/". A variable that is no absolute path is ignored.
+QString userConfigurationDirectory();
+/// `$XDG_RUNTIME_DIR`, without a "/" at its end; null when it is no absolute path.
+QString userRuntimeDirectory();
 /// `$TMPDIR` when set, else a private folder of mode 0700 below `$XDG_RUNTIME_DIR`; ends in "/". Null when
 /// neither can be had.
 QString userTemporaryDirectory();

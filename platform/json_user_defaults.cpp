@@ -1,22 +1,28 @@
 #include "platform/json_user_defaults.h"
 
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QLoggingCategory>
-#include <QtCore/QStandardPaths>
 #include <QtCore/QUrl>
 
+#include "platform/environment.h"
+#include "platform/file_lock.h"
 #include "platform/private_file.h"
 
 namespace kesto {
 namespace {
 
 Q_LOGGING_CATEGORY(store, "kesto.preferences")
+// Apart, for programs that say themselves what they could not keep.
+Q_LOGGING_CATEGORY(changes, "kesto.preferences.changes")
 
 constexpr QFile::Permissions ownerFile = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions ownerFolder = ownerFile | QFile::ExeOwner;
+
+constexpr qsizetype digestDigits = 16;
 
 // Makes the folder and what is missing above it, for the owner alone.
 bool makePrivateFolder(const QString& path) {
@@ -31,7 +37,7 @@ bool makePrivateFolder(const QString& path) {
 // What cannot be read as a domain is the user's all the same: it goes on under another name.
 bool keepAside(const QString& path) {
   for (int number = 1; number < 10000; ++number) {
-    const QString aside = path + QStringLiteral(".damaged-%1").arg(number);
+    const QString aside = pathBeside(path, QStringLiteral(".damaged-%1").arg(number));
     if (QFile::exists(aside)) continue;
     if (!QFile::rename(path, aside)) return !QFile::exists(path);
     qCWarning(store, "%s was not readable and is kept as %s", qUtf8Printable(path), qUtf8Printable(aside));
@@ -40,39 +46,112 @@ bool keepAside(const QString& path) {
   return false;
 }
 
+Domain unavailable(const QString& path, const QString& reason) {
+  return {.available = false, .values = {}, .reason = path + QStringLiteral(": ") + reason};
+}
+
+QString tooLarge() {
+  return QStringLiteral("the preferences would take more than %1 MiB").arg(largestDomain / 1024 / 1024);
+}
+
+struct Reading {
+  Domain domain;
+  bool isDamaged = false;
+};
+
+Reading readDomain(const QString& path) {
+  const QFileInfo info(path);
+  QFile file(path);
+  if (info.exists() && !info.isFile()) return {unavailable(path, QStringLiteral("it is not a file"))};
+  if (!file.open(QIODevice::ReadOnly)) {
+    if (!QFile::exists(path)) return {{.available = true, .values = {}}};
+    return {unavailable(path, file.errorString())};
+  }
+  const QByteArray bytes = file.read(largestDomain + 1);
+  if (file.error() != QFile::NoError) return {unavailable(path, file.errorString())};
+  if (bytes.size() > largestDomain) return {unavailable(path, tooLarge())};
+  if (bytes.isEmpty()) return {{.available = true, .values = {}}};
+  const QJsonDocument document = QJsonDocument::fromJson(bytes);
+  if (document.isObject()) return {{.available = true, .values = document.object()}};
+  return {unavailable(path, QStringLiteral("it holds no preferences")), true};
+}
+
+// Under the lock: another process may just be replacing what is damaged.
+Domain readOrKeepAside(const QString& path) {
+  const Reading reading = readDomain(path);
+  if (reading.isDamaged && keepAside(path)) return {.available = true, .values = {}};
+  return reading.domain;
+}
+
+// The domain's file as it becomes by the change.
+Outcome changedBytes(const Domain& domain, const DomainChange& change, QByteArray* bytes) {
+  if (!domain.available) return Outcome::failed(domain.reason);
+  QJsonObject values = domain.values.value_or(QJsonObject());
+  if (Outcome changed = change(&values); !changed) return changed;
+  *bytes = QJsonDocument(values).toJson();
+  return bytes->size() > largestDomain ? Outcome::failed(tooLarge()) : Outcome::done();
+}
+
 }  // namespace
 
-JsonUserDefaults::JsonUserDefaults(QString directory) : m_directory(std::move(directory)) {}
+JsonUserDefaults::JsonUserDefaults(QString directory, std::chrono::milliseconds limit)
+    : m_directory(std::move(directory)), m_limit(limit) {}
 
 QString JsonUserDefaults::defaultDirectory() {
-  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/kesto");
+  return userConfigurationDirectory() + QStringLiteral("kesto");
 }
 
 QString JsonUserDefaults::pathForName(const QString& name) const {
-  return m_directory + u'/' + QString::fromLatin1(QUrl::toPercentEncoding(name, {}, "~")) +
-         QStringLiteral(".json");
+  const QString extension = QStringLiteral(".json");
+  QByteArray encoded = QUrl::toPercentEncoding(name, {}, "~");
+  if (encoded.size() + extension.size() > longestFileName) {
+    const QByteArray digest = QCryptographicHash::hash(name.toUtf8(), QCryptographicHash::Sha256).toHex();
+    encoded.truncate(longestFileName - extension.size() - 1 - digestDigits);
+    encoded += '-' + digest.first(digestDigits);
+  }
+  return m_directory + u'/' + QString::fromLatin1(encoded) + extension;
+}
+
+Outcome JsonUserDefaults::lock(FileLock* lock, const QString& path) const {
+  return lock->take(pathBeside(path, QStringLiteral(".lock")), m_limit);
 }
 
 Domain JsonUserDefaults::persistentDomainForName(const QString& name) {
   const QString path = pathForName(name);
-  const QFileInfo info(path);
-  QFile file(path);
-  if (info.exists() && !info.isFile()) return {};
-  if (!file.open(QIODevice::ReadOnly)) return {.available = !QFile::exists(path), .values = {}};
-  const QByteArray bytes = file.readAll();
-  if (file.error() != QFile::NoError) return {};
-  file.close();
-  if (bytes.isEmpty()) return {.available = true, .values = {}};
-  const QJsonDocument document = QJsonDocument::fromJson(bytes);
-  if (document.isObject()) return {.available = true, .values = document.object()};
-  return {.available = keepAside(path), .values = {}};
+  const Reading reading = readDomain(path);
+  if (!reading.isDamaged) return reading.domain;
+  FileLock held;
+  if (const Outcome locked = lock(&held, path); !locked)
+    return {.available = false, .values = {}, .reason = locked.reason()};
+  return readOrKeepAside(path);
 }
 
-Outcome JsonUserDefaults::setPersistentDomain(const QJsonObject& values, const QString& name) {
+Outcome JsonUserDefaults::changeFile(const QString& path, const DomainChange& change) {
+  // Most changes change nothing, and then nobody need be waited for.
+  QByteArray bytes;
+  const Reading reading = readDomain(path);
+  if (!reading.isDamaged) {
+    if (Outcome changed = changedBytes(reading.domain, change, &bytes); !changed) return changed;
+    if (isPrivate(m_directory) && holdsPrivately(path, bytes)) return Outcome::done();
+  }
   if (!makePrivateFolder(m_directory)) {
     return Outcome::failed(QStringLiteral("the folder %1 cannot be made private").arg(m_directory));
   }
-  return writePrivateFile(pathForName(name), QJsonDocument(values).toJson());
+  FileLock held;
+  if (Outcome locked = lock(&held, path); !locked) return locked;
+  if (Outcome changed = changedBytes(readOrKeepAside(path), change, &bytes); !changed) return changed;
+  return writePrivateFile(path, bytes);
+}
+
+Outcome JsonUserDefaults::changePersistentDomain(const QString& name, const DomainChange& change) {
+  bool isRefused = false;
+  Outcome changed = changeFile(pathForName(name), [&](QJsonObject* values) {
+    Outcome made = change(values);
+    isRefused = !made;
+    return made;
+  });
+  if (!changed && !isRefused) qCWarning(changes, "not kept: %s", qUtf8Printable(changed.reason()));
+  return changed;
 }
 
 }  // namespace kesto

@@ -1,27 +1,41 @@
 // User defaults kept as one JSON file per domain in a private folder (docs/formats/preferences.md).
 #pragma once
 
+#include <chrono>
+
 #include "platform/user_defaults.h"
 
 namespace kesto {
 
+class FileLock;
+
+/// Most bytes of a domain's file. A larger one is neither read nor written.
+inline constexpr qsizetype largestDomain = qsizetype{16} * 1024 * 1024;
+
 /// One file `<domain name>.json` per domain in `directory`: mode 0600 in a folder of mode 0700, written whole
-/// to a temporary file, synced and renamed. Characters of the name other than ASCII letters, digits, ".", "_"
-/// and "-" are percent-encoded. A file that does not hold a JSON object is renamed aside and counts as
-/// missing; an empty file counts as missing, too, and is replaced.
+/// to a temporary file, synced and renamed, under a lock on `<file>.lock`. Characters of the name other than
+/// ASCII letters, digits, ".", "_" and "-" are percent-encoded, and a file name beyond 255 bytes is cut and
+/// ends with a digest. A file that does not hold a JSON object is renamed aside and counts as missing; an
+/// empty file counts as missing, too, and is replaced. A change that fails is logged.
 class JsonUserDefaults : public UserDefaults {
  public:
-  /// `directory` need not exist; the first write makes it.
-  explicit JsonUserDefaults(QString directory);
-  /// `$XDG_CONFIG_HOME/kesto`, else `~/.config/kesto`.
+  static constexpr std::chrono::milliseconds lockLimit{10000};
+
+  /// `directory` need not exist; the first write makes it. `limit` bounds the wait for another process.
+  explicit JsonUserDefaults(QString directory, std::chrono::milliseconds limit = lockLimit);
+  /// "kesto" in the user's folder for configuration.
   static QString defaultDirectory();
 
   Domain persistentDomainForName(const QString& name) override;
-  Outcome setPersistentDomain(const QJsonObject& values, const QString& name) override;
+  Outcome changePersistentDomain(const QString& name, const DomainChange& change) override;
 
  private:
+  Outcome lock(FileLock* lock, const QString& path) const;
+  Outcome changeFile(const QString& path, const DomainChange& change);
   QString pathForName(const QString& name) const;
+
   QString m_directory;
+  std::chrono::milliseconds m_limit;
 };
 
 }  // namespace kesto

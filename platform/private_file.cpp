@@ -24,15 +24,17 @@ void syncFolder(const QString& path) {
   ::close(folder);
 }
 
-constexpr qsizetype randomLetters = 6;
+const QString temporarySuffix = QStringLiteral(".XXXXXX");
 
 // A temporary file of `path`: its name, a dot and random letters. No other file that is written here has such
 // a name, since their own ends in an extension.
-bool isTemporaryOf(const QString& fileName, const QString& name) {
+bool isTemporaryOf(const QString& path, const QString& name) {
   const auto isLetter = [](QChar c) { return c.unicode() < 0x80 && c.isLetter(); };
-  const QStringView letters = QStringView(name).last(qMin(randomLetters, name.size()));
-  return name.size() == fileName.size() + 1 + randomLetters && name.startsWith(fileName + u'.') &&
-         std::all_of(letters.begin(), letters.end(), isLetter);
+  const QString pattern = QFileInfo(pathBeside(path, temporarySuffix)).fileName();
+  const qsizetype letters = temporarySuffix.size() - 1;
+  if (name.size() != pattern.size() || !name.startsWith(QStringView(pattern).chopped(letters))) return false;
+  const QStringView random = QStringView(name).last(letters);
+  return std::all_of(random.begin(), random.end(), isLetter);
 }
 
 // Removes what writers left that were killed: a living one has its temporary file locked.
@@ -40,7 +42,7 @@ void removeAbandoned(const QString& path) {
   const QFileInfo file(path);
   const QStringList names = file.dir().entryList(QDir::Files | QDir::Hidden);
   for (const QString& name : names) {
-    if (!isTemporaryOf(file.fileName(), name)) continue;
+    if (!isTemporaryOf(path, name)) continue;
     const QByteArray left = QFile::encodeName(file.dir().filePath(name));
     const int descriptor = ::open(left.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0) continue;
@@ -49,9 +51,30 @@ void removeAbandoned(const QString& path) {
   }
 }
 
-// A file that is as it is to become needs no sync of the disk, which costs more than all the rest.
-bool isAlready(const QString& path, const QByteArray& bytes) {
-  return isPrivate(path) && readOwnFile(path, bytes.size()) == bytes;
+enum class Replaced { Done, Failed, Taken };
+
+// Fails with the reason, or because the temporary file was gone again.
+Replaced replaceFile(const QString& path, const QByteArray& bytes, QString* reason) {
+  // A QTemporaryFile has mode 0600 from its creation on, and goes with its object unless it is renamed. Where
+  // the file system can, it has no name before it is asked for: a writer that is killed then leaves nothing.
+  QTemporaryFile file(pathBeside(path, temporarySuffix));
+  const auto failed = [&](const QString& text) {
+    *reason = text;
+    return Replaced::Failed;
+  };
+  if (!file.open()) return failed(file.errorString());
+  // Where files cannot be locked none is ever taken for abandoned.
+  ::flock(file.handle(), LOCK_EX | LOCK_NB);
+  if (file.write(bytes) != bytes.size() || !file.flush()) return failed(file.errorString());
+  if (::fsync(file.handle()) != 0) return failed(qt_error_string(errno));
+  const QByteArray temporary = QFile::encodeName(file.fileName());
+  if (std::rename(temporary.constData(), QFile::encodeName(path).constData()) != 0) {
+    if (errno == ENOENT && !QFile::exists(file.fileName())) return Replaced::Taken;
+    return failed(qt_error_string(errno));
+  }
+  file.setAutoRemove(false);
+  syncFolder(QFileInfo(path).absolutePath());
+  return Replaced::Done;
 }
 
 }  // namespace
@@ -62,27 +85,31 @@ bool isPrivate(const QString& path) {
   return (QFile::permissions(path) & others) == 0;
 }
 
+QString pathBeside(const QString& path, const QString& suffix) {
+  const qsizetype slash = path.lastIndexOf(u'/');
+  QString name = path.sliced(slash + 1);
+  while (QFile::encodeName(name + suffix).size() > longestFileName)
+    name.chop(1);
+  return path.first(slash + 1) + name + suffix;
+}
+
+// A file that is as it is to become needs no sync of the disk, which costs more than all the rest.
+bool holdsPrivately(const QString& path, const QByteArray& bytes) {
+  return isPrivate(path) && readOwnFile(path, bytes.size()) == bytes;
+}
+
 Outcome writePrivateFile(const QString& path, const QByteArray& bytes) {
-  if (isAlready(path, bytes)) return Outcome::done();
+  if (holdsPrivately(path, bytes)) return Outcome::done();
   removeAbandoned(path);
-  // A QTemporaryFile has mode 0600 from its creation on, and goes with its object unless it is renamed. Where
-  // the file system can, it has no name before it is asked for: a writer that is killed then leaves nothing.
-  QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
-  const auto failed = [&](const QString& reason) {
-    return Outcome::failed(path + QStringLiteral(": ") + reason);
-  };
-  if (!file.open()) return failed(file.errorString());
-  // Where files cannot be locked none is ever taken for abandoned.
-  ::flock(file.handle(), LOCK_EX | LOCK_NB);
-  if (file.write(bytes) != bytes.size() || !file.flush()) return failed(file.errorString());
-  if (::fsync(file.handle()) != 0) return failed(qt_error_string(errno));
-  const QByteArray temporary = QFile::encodeName(file.fileName());
-  if (std::rename(temporary.constData(), QFile::encodeName(path).constData()) != 0) {
-    return failed(qt_error_string(errno));
+  // A temporary file that has a name from the start can be taken for abandoned before it is locked.
+  constexpr int mostTries = 100;
+  QString reason = qt_error_string(ENOENT);
+  for (int tries = 0; tries < mostTries; ++tries) {
+    const Replaced replaced = replaceFile(path, bytes, &reason);
+    if (replaced == Replaced::Done) return Outcome::done();
+    if (replaced == Replaced::Failed) break;
   }
-  file.setAutoRemove(false);
-  syncFolder(QFileInfo(path).absolutePath());
-  return Outcome::done();
+  return Outcome::failed(path + QStringLiteral(": ") + reason);
 }
 
 std::optional<QByteArray> readOwnFile(const QString& path, qsizetype limit) {

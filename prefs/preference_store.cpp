@@ -62,51 +62,56 @@ Mask maskOf(const QJsonValue& stored) {
 
 }  // namespace
 
-PreferenceStore::Access PreferenceStore::access() const {
-  if (m_state.preferenceName.isNull()) return {};
-  const Domain domain = m_state.platform->userDefaults().persistentDomainForName(m_state.preferenceName);
-  Access access{.available = domain.available,
-                .exists = false,
-                .domain = domain.values.value_or(QJsonObject()),
-                .record = {}};
-  const QJsonValue record = access.domain.value(panelRecord);
-  access.exists = record.isObject();
-  access.record = record.toObject();
-  return access;
+QJsonObject PreferenceStore::recordOf(const QJsonObject& domain) const {
+  QJsonObject record = domain.value(panelRecord).toObject();
+  const bool isSameModel = stringOf(record, modelName) == m_state.modelStringRef &&
+                           record.contains(modelName) != m_state.modelStringRef.isNull();
+  if (m_isTrusted || (isSameModel && stringOf(record, releaseNumber) == release)) return record;
+  record = {{releaseNumber, release}};
+  if (!m_state.modelStringRef.isNull()) record.insert(modelName, m_state.modelStringRef);
+  return record;
 }
 
-bool PreferenceStore::write(Access access) {
-  access.domain.insert(panelRecord, access.record);
-  return static_cast<bool>(
-      m_state.platform->userDefaults().setPersistentDomain(access.domain, m_state.preferenceName));
+std::optional<QJsonObject> PreferenceStore::record() const {
+  if (m_state.preferenceName.isNull()) return {};
+  const Domain domain = m_state.platform->userDefaults().persistentDomainForName(m_state.preferenceName);
+  const QJsonObject values = domain.values.value_or(QJsonObject());
+  if (!domain.available || !values.value(panelRecord).isObject()) return {};
+  return recordOf(values);
+}
+
+bool PreferenceStore::change(const std::function<void(QJsonObject* record)>& edit) {
+  if (m_state.preferenceName.isNull()) return false;
+  const auto replaceRecord = [&](QJsonObject* domain) {
+    QJsonObject record = recordOf(*domain);
+    edit(&record);
+    domain->insert(panelRecord, record);
+    return Outcome::done();
+  };
+  const Outcome changed =
+      m_state.platform->userDefaults().changePersistentDomain(m_state.preferenceName, replaceRecord);
+  if (changed) m_isTrusted = true;
+  return static_cast<bool>(changed);
 }
 
 void PreferenceStore::CheckPreference() {
-  Access now = access();
-  if (!now.available) return;
-  const bool isSameModel = stringOf(now.record, modelName) == m_state.modelStringRef &&
-                           now.record.contains(modelName) != m_state.modelStringRef.isNull();
-  if (!isSameModel || stringOf(now.record, releaseNumber) != release) {
-    now.record = {{releaseNumber, release}};
-    if (!m_state.modelStringRef.isNull()) now.record.insert(modelName, m_state.modelStringRef);
-  }
-  write(std::move(now));
+  m_isTrusted = false;
+  change([](QJsonObject* /*record*/) {});
 }
 
 void PreferenceStore::GetUserPreference() {
   m_state.prefHoldButtonFlag = 0;
   m_state.remembered = {};
-  const Access now = access();
-  const QJsonValue stored = now.record.value(holdButton);
-  if (!now.available || !stored.isDouble()) return;
-  const Mask mask = maskOf(stored);
+  const std::optional<QJsonObject> now = record();
+  if (!now || !now->value(holdButton).isDouble()) return;
+  const Mask mask = maskOf(now->value(holdButton));
   m_state.prefHoldButtonFlag = mask.value;
   if (!mask.exact) return;
   for (const HeldField& row : heldFields) {
     if ((mask.value & row.bit) == 0) continue;
-    m_state.remembered.*row.remembered = stringOf(now.record, QLatin1String(row.recordKey));
+    m_state.remembered.*row.remembered = stringOf(*now, QLatin1String(row.recordKey));
   }
-  const QJsonValue login = now.record.value(authentication);
+  const QJsonValue login = now->value(authentication);
   if (login.isBool()) m_state.remembered.prefAuthenticationBooleanRef = login.toBool();
 }
 
@@ -146,22 +151,21 @@ void PreferenceStore::storeEntry(const HeldField& row, QJsonObject* record) cons
 }
 
 bool PreferenceStore::SaveUserPreference() {
-  Access now = access();
-  if (!now.available) return false;
-  for (const HeldField& row : heldFields)
-    storeEntry(row, &now.record);
-  const RadioCell* login = m_state.outlets.authenticationRadioButton;
-  now.record.insert(authentication, login != nullptr && login->state() != 0);
-  now.record.insert(holdButton, holdButtonMask(m_state.outlets));
-  return write(std::move(now));
+  return change([this](QJsonObject* record) {
+    for (const HeldField& row : heldFields)
+      storeEntry(row, record);
+    const RadioCell* login = m_state.outlets.authenticationRadioButton;
+    record->insert(authentication, login != nullptr && login->state() != 0);
+    record->insert(holdButton, holdButtonMask(m_state.outlets));
+  });
 }
 
 void PreferenceStore::GetFolderPreference() {
-  const Access now = access();
-  if (!now.available || !now.exists) return;
-  m_state.addressStringRef = stringOf(now.record, address);
+  const std::optional<QJsonObject> now = record();
+  if (!now) return;
+  m_state.addressStringRef = stringOf(*now, address);
   std::vector<FolderEntry> folders;
-  const QJsonArray list = now.record.value(files).toArray();
+  const QJsonArray list = now->value(files).toArray();
   for (const auto& entry : list) {
     FolderEntry folder = folderOf(entry.toObject());
     if (!folder.name.isEmpty()) folders.push_back(std::move(folder));
@@ -170,18 +174,16 @@ void PreferenceStore::GetFolderPreference() {
 }
 
 bool PreferenceStore::SaveFolderPreference() {
-  Access now = access();
-  if (!now.available) return false;
-  if (m_state.outlets.printersAddressEditText != nullptr) {
-    now.record.insert(address, m_state.outlets.printersAddressEditText->stringValue());
-  }
-  if (m_state.folderList) {
+  return change([this](QJsonObject* record) {
+    if (m_state.outlets.printersAddressEditText != nullptr) {
+      record->insert(address, m_state.outlets.printersAddressEditText->stringValue());
+    }
+    if (!m_state.folderList) return;
     QJsonArray list;
     for (const FolderEntry& folder : *m_state.folderList)
       list.append(jsonOf(folder));
-    now.record.insert(files, list);
-  }
-  return write(std::move(now));
+    record->insert(files, list);
+  });
 }
 
 }  // namespace kesto

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QtCore/QJsonObject>
+#include <functional>
+#include <optional>
 
 #include "folders/folder_list_store.h"
 #include "panel/state.h"
@@ -9,13 +11,14 @@
 namespace kesto {
 
 /// Validates, loads and saves what the user let the panel remember for the printer. Every operation reads the
-/// domain afresh, and every write replaces it whole, so that other keys of the domain survive and the last
-/// writer's record wins. Without a preference domain there is nothing to load, and saving answers false.
+/// domain afresh, and every write replaces the record and keeps the domain's other keys: the last writer's
+/// record wins. Without a preference domain there is nothing to load, and saving answers false.
 class PreferenceStore : public FolderListStore {
  public:
   explicit PreferenceStore(PanelState& state) : m_state(state) {}
 
-  /// Resets the record when it is of another printer model or release, and writes it either way.
+  /// Resets the record when it is of another printer model or release, and writes it either way. A reset that
+  /// cannot be written holds all the same: nothing of the stored record is loaded.
   void CheckPreference();
   /// Loads the hold-button mask and the values whose bits it has; all are cleared first. A mask that is no
   /// 32-bit integer loads no value.
@@ -30,18 +33,14 @@ class PreferenceStore : public FolderListStore {
   bool SaveHDDPreference() { return true; }
 
  private:
-  struct Access {
-    bool available = false;
-    bool exists = false;  // the domain holds a record
-    QJsonObject domain;
-    QJsonObject record;
-  };
-  Access access() const;
-  bool write(Access access);
+  QJsonObject recordOf(const QJsonObject& domain) const;
+  std::optional<QJsonObject> record() const;  // none when there is none, or the store is not available
+  bool change(const std::function<void(QJsonObject* record)>& edit);
   void storeEntry(const HeldField& row, QJsonObject* record) const;
   QString sealedEntry(const HeldField& row, const QString& text) const;
 
   PanelState& m_state;
+  bool m_isTrusted = true;  // the stored record is the printer's; else one of another model counts as reset
 };
 
 }  // namespace kesto

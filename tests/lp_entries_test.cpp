@@ -134,7 +134,7 @@ TEST_F(LpEntries, AFolderOfThePrinterIsFoundByItsName) {
   const QJsonArray folders{QJsonObject{{u"name"_s, u"Sales"_s}}, QJsonObject{{u"name"_s, u"SALES"_s}}};
   const QJsonObject record{
       {u"Model Name"_s, u"KESTO VQ-250n"_s}, {u"Release Number"_s, u"2.00"_s}, {u"files"_s, folders}};
-  ASSERT_TRUE(preferences().setPersistentDomain({{u"Job Handling"_s, record}}, u"kesto.mfp.office"_s));
+  ASSERT_TRUE(store(preferences(), {{u"Job Handling"_s, record}}, u"kesto.mfp.office"_s));
   const QPair<QString, QString> cases[] = {{u"Sales"_s, u"Sales"_s},
                                            {u"SALES"_s, u"SALES"_s},
                                            {u"sales"_s, u"Sales"_s},

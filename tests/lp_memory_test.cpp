@@ -54,7 +54,7 @@ TEST_F(LpMemory, ADryRunKeepsWhatItIsAskedForAndNothingElse) {
   EXPECT_FALSE(QFile::exists(m_home.filePath(u"kesto"_s)));
   const QJsonObject record{{u"Model Name"_s, u"KESTO VQ-900"_s}, {u"folder name"_s, u"x"_s}};
   const QJsonObject another{{u"Job Handling"_s, record}, {u"note"_s, 1}};
-  ASSERT_TRUE(preferences().setPersistentDomain(another, domain));
+  ASSERT_TRUE(store(preferences(), another, domain));
   dryRun(u"--hold only --pin 1234 --save-preset p"_s);
   EXPECT_EQ(kept(domain), another) << "of a queue that had another model";
   EXPECT_EQ(listed(), u"p\n"_s);
@@ -123,6 +123,31 @@ TEST_F(LpMemory, PresetsAreListedReplacedAndDeleted) {
   EXPECT_EQ(listed(), u"b\n"_s);
 }
 
+TEST_F(LpMemory, SavesOfManyProcessesAllCount) {
+  std::vector<std::unique_ptr<QProcess>> programs;
+  QString names;
+  for (char16_t letter = u'a'; letter < u'k'; ++letter) {
+    const QString job = u"--dry-run -d office --device-uri lpd://x --ppd %1"_s.arg(m_ppd.path());
+    const QString entries = u" --job-name %1 --remember job-name --save-preset %1"_s.arg(QChar(letter));
+    programs.push_back(process(job + entries));
+    programs.back()->start();
+    names += QChar(letter) + u"\n"_s;
+  }
+  for (const auto& program : programs) {
+    const LpRun run = finish(*program);
+    EXPECT_EQ(run.code, 0) << run.err;
+  }
+  EXPECT_EQ(listed(), names);
+  EXPECT_EQ(kept(u"kesto.mfp.office"_s)[u"Job Handling"_s].toObject()[u"hold button"_s], 16);
+}
+
+TEST_F(LpMemory, ALongNameOfAQueueIsRememberedToo) {
+  const QString queue = QString(26, u'印');
+  const QString job = u"--dry-run --device-uri lpd://x -d %1 --ppd %2 "_s.arg(queue, m_ppd.path());
+  EXPECT_EQ(run(job + u"--job-name x --remember job-name"_s).err, u""_s);
+  EXPECT_EQ(run(job).values(u"jobName"_s), u"jobName=78"_s);
+}
+
 TEST_F(LpMemory, APresetThatDoesNotFitIsLeftAsItIs) {
   const auto preset = [](const QString& model, const QString& key, const QJsonValue& value) {
     return QJsonObject{{u"model"_s, model}, {u"settings"_s, QJsonObject{{key, value}}}};
@@ -131,17 +156,19 @@ TEST_F(LpMemory, APresetThatDoesNotFitIsLeftAsItIs) {
                            {u"number"_s, preset(u"KESTO VQ-250n"_s, prefix + u"jobSuspend"_s, 1)},
                            {u"other"_s, preset(u"KESTO VQ-900"_s, prefix + u"jobSuspend"_s, u"1"_s)}};
   const QJsonObject values{{u"note"_s, 1}, {u"Presets"_s, stored}};
-  ASSERT_TRUE(preferences().setPersistentDomain(values, presets));
+  ASSERT_TRUE(store(preferences(), values, presets));
   for (const auto& option : {u"--preset "_s, u"--save-preset "_s}) {
     expectFailure(option + u"strange"_s, 1, u"the preset \"strange\" is damaged and left as it is"_s);
     expectFailure(option + u"number"_s, 1, u"the preset \"number\" is damaged and left as it is"_s);
   }
+  expectFailure(u"--save-preset "_s + QString(256, u'n'), 1,
+                u"the name of a preset can have at most 255 characters; choose a shorter one"_s);
   expectFailure(u"--preset other"_s, 1, u"the preset \"other\" is for another printer model, KESTO VQ-900"_s);
   EXPECT_EQ(kept(presets), values);
   EXPECT_EQ(dryRun(u"--save-preset new"_s).code, 0);
   EXPECT_EQ(kept(presets)[u"note"_s], 1);
   EXPECT_EQ(listed(), u"new\nnumber\nother\nstrange\n"_s);
-  ASSERT_TRUE(preferences().setPersistentDomain({{u"Presets"_s, u"x"_s}}, presets));
+  ASSERT_TRUE(store(preferences(), {{u"Presets"_s, u"x"_s}}, presets));
   expectFailure(u"--save-preset a"_s, 1, u"the presets of this queue are damaged and left as they are"_s);
 }
 

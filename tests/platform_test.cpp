@@ -76,6 +76,25 @@ TEST_F(Environment, TheTemporaryDirectoryIsNamedOrPrivate) {
   EXPECT_TRUE(userTemporaryDirectory().isNull()) << "a link was followed";
 }
 
+TEST_F(Environment, FoldersOfVariablesAreAbsoluteOrIgnored) {
+  const passwd* entry = getpwuid(getuid());
+  const QByteArray home = QByteArray(entry == nullptr ? "" : entry->pw_dir) + "/.config/";
+  using Case = std::tuple<const char*, const char*, QByteArray>;
+  for (const auto& [configuration, variable, folder] :
+       {Case{"/c", "/home/x", "/c/"}, Case{"/c/", nullptr, "/c/"}, Case{"c", "/home/x", "/home/x/.config/"},
+        Case{"./c", "/home/x/", "/home/x/.config/"}, Case{"", "/home/x", "/home/x/.config/"},
+        Case{nullptr, nullptr, home}, Case{nullptr, "", home}, Case{"~/c", "here", home}}) {
+    set("XDG_CONFIG_HOME", configuration);
+    set("HOME", variable);
+    EXPECT_EQ(userConfigurationDirectory().toLatin1(), folder);
+  }
+  set("TMPDIR", {});
+  const QTemporaryDir folder;
+  const QByteArray relative = QDir().relativeFilePath(folder.path()).toLatin1();
+  set("XDG_RUNTIME_DIR", relative);
+  EXPECT_TRUE(userRuntimeDirectory().isNull() && userTemporaryDirectory().isNull()) << relative.constData();
+}
+
 TEST_F(Environment, NamesOfTheAccount) {
   const passwd* entry = getpwuid(getuid());
   EXPECT_EQ(accountShortName(), entry == nullptr ? QString() : QString::fromLocal8Bit(entry->pw_name));

@@ -52,6 +52,29 @@ TEST_F(PreferenceStoreTest, ARecordOfAnotherModelOrReleaseIsReset) {
   }
 }
 
+TEST_F(PreferenceStoreTest, AResetThatCannotBeWrittenHoldsAllTheSame) {
+  const QJsonObject foreign{{u"Model Name"_s, u"KESTO VQ-900"_s},
+                            {u"Release Number"_s, u"2.00"_s},
+                            {u"hold button"_s, 257},
+                            {u"pass code"_s, u"x"_s},
+                            {u"folder name"_s, u"Akten"_s},
+                            {u"address"_s, u"there"_s},
+                            {u"files"_s, QJsonArray{QJsonObject{{u"name"_s, u"Akten"_s}}}}};
+  platform.defaults.domains.insert(printerDomain, {{u"Job Handling"_s, foreign}});
+  platform.defaults.shallFail = [](int access) { return access == 2; };  // the write
+  store.CheckPreference();
+  EXPECT_EQ(platform.remembered(), foreign);
+  store.GetUserPreference();
+  store.GetFolderPreference();
+  EXPECT_EQ(panel.state.prefHoldButtonFlag, 0);
+  EXPECT_EQ(loaded(), u""_s);
+  EXPECT_TRUE(panel.state.folderList && panel.state.folderList->empty());
+  EXPECT_TRUE(panel.state.addressStringRef.isNull());
+  EXPECT_TRUE(store.SaveFolderPreference());
+  EXPECT_EQ(stored(u"Model Name"_s), model);
+  EXPECT_TRUE(stored(u"pass code"_s).isUndefined()) << "another model's entry was kept";
+}
+
 TEST_F(PreferenceStoreTest, TheFirstUseMakesTheDomain) {
   store.GetFolderPreference();
   EXPECT_FALSE(panel.state.folderList) << "there is no record yet";

@@ -87,7 +87,7 @@ TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
 }
 
 TEST_F(PrintTest, WhatCannotBeKeptOfAJobIsTold) {
-  ASSERT_TRUE(preferences().setPersistentDomain({{u"Presets"_s, u"x"_s}}, u"kesto.presets.Office_MFP"_s));
+  ASSERT_TRUE(store(preferences(), {{u"Presets"_s, u"x"_s}}, u"kesto.presets.Office_MFP"_s));
   expectRefused(u"DOCUMENT --save-preset p"_s, 1,
                 u"the presets of this queue are damaged and left as they are"_s);
   EXPECT_EQ(schedulersJobs(), QString());

@@ -7,8 +7,10 @@
 #include <QtCore/QSet>
 #include <QtCore/QTemporaryDir>
 
+#include "platform/file_lock.h"
 #include "platform/json_user_defaults.h"
 #include "support/printing.h"
+#include "support/test_platform.h"
 #include "support/warnings.h"
 
 namespace kesto {
@@ -22,15 +24,20 @@ const QJsonObject values{{u"a"_s, 1}, {u"b"_s, QJsonObject{{u"c"_s, true}}}};
 class JsonUserDefaultsTest : public testing::Test {
  protected:
   QString path(const QString& name) const { return m_folder.filePath(name); }
+  // Without the locks, which stay.
   QSet<QString> files() const {
     const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden);
-    return {names.begin(), names.end()};
+    QSet<QString> found(names.begin(), names.end());
+    return found.removeIf([](const QString& name) { return name.endsWith(u".lock"_s); }), found;
   }
   static void write(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
+  }
+  Outcome put(const QJsonObject& stored, const QString& name) const {
+    return store(JsonUserDefaults(folder), stored, name);
   }
   static unsigned modeOf(const QString& path) {
     struct stat info {};
@@ -48,19 +55,20 @@ TEST_F(JsonUserDefaultsTest, WrittenPrivatelyAndReadByAnother) {
   EXPECT_TRUE(defaults.persistentDomainForName(domain).available);
   EXPECT_EQ(defaults.persistentDomainForName(domain).values, std::nullopt);
   for (int time = 0; time < 3; ++time)
-    ASSERT_TRUE(defaults.setPersistentDomain(values, domain));
+    ASSERT_TRUE(put(values, domain));
   EXPECT_EQ(JsonUserDefaults(folder).persistentDomainForName(domain).values, values);
   EXPECT_EQ(modeOf(folder), 0700U);
   EXPECT_EQ(modeOf(file), 0600U);
+  EXPECT_EQ(modeOf(file + u".lock"_s), 0600U);
   EXPECT_EQ(files(), QSet{domain + u".json"_s}) << "a temporary file is left";
   ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0755), 0);
-  ASSERT_TRUE(defaults.setPersistentDomain(values, domain));
+  ASSERT_TRUE(put(values, domain));
   EXPECT_EQ(modeOf(folder), 0700U) << "a folder open to others";
 }
 
 TEST_F(JsonUserDefaultsTest, WhatIsThereAlreadyIsNotWrittenAgain) {
   const auto writeInode = [&](const QJsonObject& written) {
-    EXPECT_TRUE(defaults.setPersistentDomain(written, domain));
+    EXPECT_TRUE(put(written, domain));
     struct stat info {};
     EXPECT_EQ(::lstat(QFile::encodeName(file).constData(), &info), 0);
     EXPECT_TRUE(S_ISREG(info.st_mode) && (info.st_mode & 077) == 0);
@@ -82,12 +90,58 @@ TEST_F(JsonUserDefaultsTest, WhatIsThereAlreadyIsNotWrittenAgain) {
 TEST_F(JsonUserDefaultsTest, NamesArePercentEncoded) {
   const QStringList names{u"Az09._-"_s, u"../up"_s, u"a b~c%"_s, u"Büro"_s, u"a/b"_s, u".."_s};
   for (const QString& name : names)
-    ASSERT_TRUE(defaults.setPersistentDomain({{u"name"_s, name}}, name));
+    ASSERT_TRUE(put({{u"name"_s, name}}, name));
   for (const QString& name : names) {
     EXPECT_EQ(defaults.persistentDomainForName(name).values->value(u"name"_s).toString(), name);
   }
   EXPECT_EQ(files(), (QSet{u"...json"_s, u"..%2Fup.json"_s, u"Az09._-.json"_s, u"B%C3%BCro.json"_s,
                            u"a%20b%7Ec%25.json"_s, u"a%2Fb.json"_s}));
+}
+
+TEST_F(JsonUserDefaultsTest, NamesTooLongForAFileEndInADigest) {
+  // sha256sum has the digests.
+  const std::pair<QString, QByteArray> cases[] = {
+      {QString(250, u'n'), {}},
+      {QString(251, u'n'), "64091ef053a17b18"},
+      {u"kesto.mfp."_s + QString(26, u'印'), {}},
+      {u"kesto.mfp."_s + QString(27, u'印'), "55166a8eb6b2f440"},
+  };
+  for (const auto& [name, digest] : cases) {
+    const QByteArray encoded = name.toUtf8().toPercentEncoding();
+    const QByteArray expected = digest.isEmpty() ? encoded : encoded.first(233) + '-' + digest;
+    ASSERT_TRUE(put({{u"name"_s, name}}, name));
+    ASSERT_TRUE(put({{u"name"_s, name}, {u"again"_s, 1}}, name)) << "no temporary file has room";
+    EXPECT_EQ(defaults.persistentDomainForName(name).values->value(u"name"_s).toString(), name);
+    EXPECT_TRUE(files().contains(QString::fromLatin1(expected) + u".json"_s)) << expected.constData();
+    write(folder + u'/' + QString::fromLatin1(expected) + u".json"_s, "x");
+    const ExpectedWarning warning("was not readable and is kept as");
+    EXPECT_TRUE(defaults.persistentDomainForName(name).available) << "no damaged one has room";
+  }
+}
+
+TEST_F(JsonUserDefaultsTest, ALockThatIsNotFreeIsAnError) {
+  ASSERT_TRUE(put(values, domain));
+  FileLock lock;
+  ASSERT_TRUE(lock.take(file + u".lock"_s, {}));
+  JsonUserDefaults impatient(folder, std::chrono::milliseconds(20));
+  EXPECT_TRUE(store(std::move(impatient), values, domain)) << "there is nothing to change";
+  const ExpectedWarning warning("not kept");
+  const Outcome written = store(std::move(impatient), {}, domain);
+  EXPECT_TRUE(written.reason().contains(u"lock"_s)) << written.reason();
+  write(file, "damaged");
+  EXPECT_FALSE(impatient.persistentDomainForName(domain).available) << "another may be replacing it";
+  EXPECT_EQ(files(), QSet{domain + u".json"_s});
+}
+
+TEST_F(JsonUserDefaultsTest, BeyondTheBoundNothingIsReadOrWritten) {
+  const ExpectedWarning warning("not kept");
+  const QString huge(largestDomain, u'x');
+  EXPECT_TRUE(put({{u"a"_s, huge}}, domain).reason().contains(u"16 MiB"_s));
+  EXPECT_EQ(files(), QSet<QString>());
+  write(file, "{\"a\":\"" + huge.toLatin1() + "\"}");
+  EXPECT_TRUE(defaults.persistentDomainForName(domain).reason.contains(u"16 MiB"_s));
+  EXPECT_FALSE(put(values, domain));
+  EXPECT_GT(QFileInfo(file).size(), largestDomain) << "it was replaced";
 }
 
 TEST_F(JsonUserDefaultsTest, DamagedFilesAreKeptAside) {
@@ -117,39 +171,39 @@ TEST_F(JsonUserDefaultsTest, WhatAKilledWriterLeftGoesWithTheNextWrite) {
   write(file + u".abandn"_s, "{}");
   QFile writer(folder + u'/' + living);
   ASSERT_TRUE(writer.open(QIODevice::ReadOnly) && ::flock(writer.handle(), LOCK_EX) == 0);
-  ASSERT_TRUE(defaults.setPersistentDomain(values, domain));
+  ASSERT_TRUE(put(values, domain));
   QSet<QString> expected(std::begin(others), std::end(others));
   EXPECT_EQ(files(), expected << domain + u".json"_s);
 }
 
 TEST_F(JsonUserDefaultsTest, WhatIsNoFileIsUnavailableAndStays) {
   ASSERT_TRUE(QDir().mkpath(file));
+  const ExpectedWarning warning("not kept");
   EXPECT_FALSE(defaults.persistentDomainForName(domain).available);
-  const Outcome written = defaults.setPersistentDomain(values, domain);
+  const Outcome written = put(values, domain);
   EXPECT_FALSE(written);
   EXPECT_TRUE(written.reason().contains(domain)) << written.reason();
   EXPECT_EQ(files(), QSet<QString>()) << "a temporary file is left";
 }
 
 TEST_F(JsonUserDefaultsTest, AFailedWriteLeavesTheOldDomain) {
-  EXPECT_FALSE(defaults.setPersistentDomain(values, QString(300, u'n'))) << "no file has such a long name";
-  EXPECT_EQ(files(), QSet<QString>());
-  ASSERT_TRUE(QDir(folder).removeRecursively());
+  const ExpectedWarning warning("not kept");
   write(folder, "a file where the folder would be");
   EXPECT_TRUE(defaults.persistentDomainForName(domain).available);
-  const Outcome written = defaults.setPersistentDomain(values, domain);
+  const Outcome written = put(values, domain);
   EXPECT_FALSE(written);
   EXPECT_TRUE(written.reason().contains(folder)) << written.reason();
 }
 
 TEST_F(JsonUserDefaultsTest, WithoutTheRights) {
   if (::geteuid() == 0) GTEST_SKIP() << "root may do everything";
-  ASSERT_TRUE(defaults.setPersistentDomain(values, domain));
+  ASSERT_TRUE(put(values, domain));
   ASSERT_TRUE(QFile::setPermissions(file, QFile::WriteOwner));
   EXPECT_FALSE(defaults.persistentDomainForName(domain).available);
   ASSERT_TRUE(QFile::setPermissions(file, QFile::ReadOwner));
   ASSERT_TRUE(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
-  EXPECT_FALSE(defaults.setPersistentDomain({}, domain));
+  const ExpectedWarning warning("not kept");
+  EXPECT_FALSE(put({}, domain));
   EXPECT_EQ(defaults.persistentDomainForName(domain).values, values);
   QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }

@@ -36,12 +36,14 @@ class GatedPlatform : public SystemPlatform {
   struct Gate : UserDefaults {
     explicit Gate(UserDefaults& gated) : defaults(gated) {}
     Domain persistentDomainForName(const QString& name) override;
-    Outcome setPersistentDomain(const QJsonObject& values, const QString& name) override;
+    Outcome changePersistentDomain(const QString& name, const DomainChange& change) override;
+    Outcome changeAside(const QString& name, const DomainChange& change);
+    void lay(const QString& name, QJsonObject* values) const;  // what is aside over what is stored
 
     UserDefaults& defaults;
     Writes writes = Writes::Through;
-    std::map<QString, QJsonObject> aside;
-    Outcome lastFault = Outcome::done();  // of reading and writing
+    std::map<QString, QJsonObject> aside;  // by domain, the top-level keys that were changed
+    Outcome lastFault = Outcome::done();   // of reading and writing
   };
   Gate m_gate{SystemPlatform::userDefaults()};
 };

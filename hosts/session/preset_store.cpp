@@ -31,6 +31,8 @@ constexpr std::array sealedCodes{QLatin1String("jobSuspend2Key"), QLatin1String(
 constexpr qsizetype longestFolderName = 127;
 constexpr int customFolderRow = 2;
 
+constexpr qsizetype longestPresetName = 255;
+
 QString textOf(const PanelView& view, const char* field) {
   const auto* found = view.control<TextField>(QLatin1String(field));
   return found == nullptr ? QString() : found->stringValue();
@@ -76,6 +78,25 @@ Outcome damagedPreset(const QString& name) {
   return Outcome::failed(Faults::tr("the preset \"%1\" is damaged and left as it is").arg(name));
 }
 
+// The presets of a domain, which has none at first.
+Outcome presetsOf(const QJsonObject& domain, QJsonObject* presets) {
+  const QJsonValue value = domain.value(presetsKey);
+  if (!value.isUndefined() && !value.isObject()) {
+    return Outcome::failed(Faults::tr("the presets of this queue are damaged and left as they are"));
+  }
+  *presets = value.toObject();
+  return Outcome::done();
+}
+
+Outcome mayReplace(const QString& name, const QJsonObject& presets) {
+  if (name.size() > longestPresetName) {
+    return Outcome::failed(
+        Faults::tr("the name of a preset can have at most %1 characters; choose a shorter one")
+            .arg(longestPresetName));
+  }
+  return presets.contains(name) && !presetOf(presets.value(name)) ? damagedPreset(name) : Outcome::done();
+}
+
 }  // namespace
 
 Outcome makePreset(const PrintSettings& settings, const PanelView& view, bool withCodes, Preset* preset) {
@@ -107,35 +128,33 @@ void restorePanel(PanelHost& host, const Preset& preset) {
 PresetStore::PresetStore(UserDefaults& defaults, const QString& queue)
     : m_defaults(defaults), m_domain(QStringLiteral("kesto.presets.") + queue) {}
 
-Outcome PresetStore::read(QJsonObject* domain, QJsonObject* presets) const {
+Outcome PresetStore::read(QJsonObject* presets) const {
   const Domain stored = m_defaults.persistentDomainForName(m_domain);
-  if (!stored.available) return Outcome::failed(Faults::tr("the presets of this queue cannot be read"));
-  *domain = stored.values.value_or(QJsonObject());
-  const QJsonValue value = domain->value(presetsKey);
-  if (!value.isUndefined() && !value.isObject()) {
-    return Outcome::failed(Faults::tr("the presets of this queue are damaged and left as they are"));
-  }
-  *presets = value.toObject();
-  return Outcome::done();
+  if (!stored.available)
+    return Outcome::failed(Faults::tr("the presets of this queue cannot be read: %1").arg(stored.reason));
+  return presetsOf(stored.values.value_or(QJsonObject()), presets);
 }
 
-Outcome PresetStore::write(QJsonObject domain, const QJsonObject& presets) {
-  domain.insert(presetsKey, presets);
-  return m_defaults.setPersistentDomain(domain, m_domain);
+Outcome PresetStore::change(const DomainChange& change) {
+  return m_defaults.changePersistentDomain(m_domain, [&](QJsonObject* domain) {
+    QJsonObject presets;
+    if (Outcome found = presetsOf(*domain, &presets); !found) return found;
+    Outcome changed = change(&presets);
+    domain->insert(presetsKey, presets);
+    return changed;
+  });
 }
 
 Outcome PresetStore::names(QStringList* names) const {
-  QJsonObject domain;
   QJsonObject presets;
-  Outcome found = read(&domain, &presets);
+  Outcome found = read(&presets);
   *names = presets.keys();
   return found;
 }
 
 Outcome PresetStore::load(const QString& name, const QString& model, Preset* preset) const {
-  QJsonObject domain;
   QJsonObject presets;
-  if (Outcome found = read(&domain, &presets); !found) return found;
+  if (Outcome found = read(&presets); !found) return found;
   if (!presets.contains(name)) return noSuchPreset(name, presets);
   const std::optional<Preset> stored = presetOf(presets.value(name));
   if (!stored) return damagedPreset(name);
@@ -147,36 +166,29 @@ Outcome PresetStore::load(const QString& name, const QString& model, Preset* pre
   return Outcome::done();
 }
 
-// Reads them to write this one.
-Outcome PresetStore::readFor(const QString& name, QJsonObject* domain, QJsonObject* presets) const {
-  if (Outcome found = read(domain, presets); !found) return found;
-  return presets->contains(name) && !presetOf(presets->value(name)) ? damagedPreset(name) : Outcome::done();
-}
-
 Outcome PresetStore::check(const QString& name) const {
-  QJsonObject domain;
   QJsonObject presets;
-  return readFor(name, &domain, &presets);
+  if (Outcome found = read(&presets); !found) return found;
+  return mayReplace(name, presets);
 }
 
 Outcome PresetStore::save(const QString& name, const Preset& preset) {
-  QJsonObject domain;
-  QJsonObject presets;
-  if (Outcome found = readFor(name, &domain, &presets); !found) return found;
   QJsonObject settings;
   for (auto it = preset.settings.begin(); it != preset.settings.end(); ++it)
     settings.insert(it.key(), it.value());
-  presets.insert(name, QJsonObject{{modelKey, preset.model}, {settingsKey, settings}});
-  return write(domain, presets);
+  return change([&](QJsonObject* presets) {
+    if (Outcome free = mayReplace(name, *presets); !free) return free;
+    presets->insert(name, QJsonObject{{modelKey, preset.model}, {settingsKey, settings}});
+    return Outcome::done();
+  });
 }
 
 Outcome PresetStore::remove(const QString& name) {
-  QJsonObject domain;
-  QJsonObject presets;
-  if (Outcome found = read(&domain, &presets); !found) return found;
-  if (!presets.contains(name)) return noSuchPreset(name, presets);
-  presets.remove(name);
-  return write(domain, presets);
+  return change([&](QJsonObject* presets) {
+    if (!presets->contains(name)) return noSuchPreset(name, *presets);
+    presets->remove(name);
+    return Outcome::done();
+  });
 }
 
 }  // namespace kesto

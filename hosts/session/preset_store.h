@@ -40,7 +40,8 @@ class PresetStore {
   /// Fails when there is no such preset (the reason lists those that there are), when it is damaged or made
   /// for another model.
   Outcome load(const QString& name, const QString& model, Preset* preset) const;
-  /// Whether a preset of this name can be kept, as things are: one that is damaged is not replaced.
+  /// Whether a preset of this name can be kept, as things are: one that is damaged is not replaced, and a
+  /// name has at most 255 characters.
   Outcome check(const QString& name) const;
   /// Keeps or replaces a preset.
   Outcome save(const QString& name, const Preset& preset);
@@ -48,9 +49,8 @@ class PresetStore {
   Outcome remove(const QString& name);
 
  private:
-  Outcome read(QJsonObject* domain, QJsonObject* presets) const;
-  Outcome readFor(const QString& name, QJsonObject* domain, QJsonObject* presets) const;
-  Outcome write(QJsonObject domain, const QJsonObject& presets);
+  Outcome read(QJsonObject* presets) const;
+  Outcome change(const DomainChange& change);  // of the presets alone
 
   UserDefaults& m_defaults;
   QString m_domain;

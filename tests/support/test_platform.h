@@ -25,8 +25,12 @@ class MemoryUserDefaults : public UserDefaults {
     const auto found = domains.constFind(name);
     return {.available = true, .values = found == domains.constEnd() ? std::nullopt : std::optional(*found)};
   }
-  Outcome setPersistentDomain(const QJsonObject& values, const QString& name) override {
-    if (isFailing()) return Outcome::failed(u"the test lets it fail"_s);
+  Outcome changePersistentDomain(const QString& name, const DomainChange& change) override {
+    const Outcome failed = Outcome::failed(u"the test lets it fail"_s);
+    if (isFailing()) return failed;
+    QJsonObject values = domains.value(name);
+    if (Outcome changed = change(&values); !changed) return changed;
+    if (isFailing()) return failed;
     domains.insert(name, values);
     return Outcome::done();
   }
@@ -41,6 +45,14 @@ class MemoryUserDefaults : public UserDefaults {
     return shallFail && shallFail(accesses);
   }
 };
+
+/// Replaces a whole domain.
+inline Outcome store(UserDefaults&& defaults, const QJsonObject& values, const QString& name) {
+  return defaults.changePersistentDomain(name, [&](QJsonObject* stored) {
+    *stored = values;
+    return Outcome::done();
+  });
+}
 
 /// Texts and facts are members that the test sets; alerts are kept, and each counts as dismissed.
 class TestPlatform : public Platform, public AlertPresenter {

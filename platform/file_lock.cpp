@@ -1,0 +1,42 @@
+#include "platform/file_lock.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QFile>
+#include <QtCore/QThread>
+#include <cerrno>
+
+namespace kesto {
+namespace {
+
+// The kernel has no wait for a lock that ends by itself. A change takes some milliseconds.
+constexpr unsigned long pause = 5;
+
+}  // namespace
+
+FileLock::~FileLock() {
+  if (m_descriptor >= 0) ::close(m_descriptor);
+}
+
+Outcome FileLock::take(const QString& path, std::chrono::milliseconds limit) {
+  constexpr int flags = O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC;
+  m_descriptor = ::open(QFile::encodeName(path).constData(), flags, 0600);
+  if (m_descriptor < 0) return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
+  const QDeadlineTimer end(limit);
+  while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+    if (errno == EINTR) continue;
+    if (errno != EWOULDBLOCK) break;
+    if (end.hasExpired()) {
+      return Outcome::failed(QStringLiteral("%1: another program has held this lock for %2 seconds")
+                                 .arg(path)
+                                 .arg(limit.count() / 1000));
+    }
+    QThread::msleep(pause);
+  }
+  return Outcome::done();
+}
+
+}  // namespace kesto
