@@ -1,6 +1,7 @@
 #include "platform/text_encoding.h"
 
 #include <unicode/ucnv.h>
+#include <unicode/uloc.h>
 
 #include <QtCore/QLoggingCategory>
 #include <array>
@@ -158,17 +159,6 @@ constexpr std::array languages{
     LanguageRow{QLatin1String("ko"), TextEncoding::MacKorean},
     LanguageRow{QLatin1String("zh"), TextEncoding::MacSimplifiedChinese},
     LanguageRow{QLatin1String("el"), TextEncoding::MacGreek},
-    LanguageRow{QLatin1String("be"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("bg"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("kk"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("ky"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("mk"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("mn"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("ru"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("sr"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("tg"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("tt"), TextEncoding::MacCyrillic},
-    LanguageRow{QLatin1String("uk"), TextEncoding::MacCyrillic},
     LanguageRow{QLatin1String("cs"), TextEncoding::MacCentralEurope},
     LanguageRow{QLatin1String("et"), TextEncoding::MacCentralEurope},
     LanguageRow{QLatin1String("hu"), TextEncoding::MacCentralEurope},
@@ -178,6 +168,33 @@ constexpr std::array languages{
     LanguageRow{QLatin1String("sk"), TextEncoding::MacCentralEurope},
     LanguageRow{QLatin1String("tr"), TextEncoding::MacTurkish},
 };
+
+struct ModifierRow {
+  QLatin1String modifier;
+  bool isCyrillic = false;
+};
+
+// The locale modifiers that name a script.
+constexpr std::array scripts{
+    ModifierRow{QLatin1String("cyrillic"), true},
+    ModifierRow{QLatin1String("latin"), false},
+    ModifierRow{QLatin1String("iqtelif"), false},
+    ModifierRow{QLatin1String("devanagari"), false},
+};
+
+// By the modifier, else by the script that CLDR gives to language and territory. ICU has that for every
+// language of CLDR, Qt only for those whose formats it knows.
+bool isCyrillic(const QString& name, const QString& modifier) {
+  for (const ModifierRow& row : scripts) {
+    if (modifier == row.modifier) return row.isCyrillic;
+  }
+  std::array<char, ULOC_FULLNAME_CAPACITY> likely{};
+  std::array<char, ULOC_SCRIPT_CAPACITY> script{};
+  UErrorCode status = U_ZERO_ERROR;
+  uloc_addLikelySubtags(name.toLatin1().constData(), likely.data(), likely.size(), &status);
+  uloc_getScript(likely.data(), script.data(), script.size(), &status);
+  return U_SUCCESS(status) && qstrcmp(script.data(), "Cyrl") == 0;
+}
 
 }  // namespace
 
@@ -198,7 +215,7 @@ TextEncoding systemEncodingForLocale(const QString& locale) {
   if (language == u"zh" && (territory == u"TW" || territory == u"HK" || territory == u"MO")) {
     return TextEncoding::MacTraditionalChinese;
   }
-  if (modifier == u"latin") return TextEncoding::MacRoman;
+  if (isCyrillic(name, modifier)) return TextEncoding::MacCyrillic;
   for (const LanguageRow& row : languages) {
     if (language == row.language) return row.encoding;
   }

@@ -114,7 +114,9 @@ TEST(SystemEncoding, FollowsTheLanguageOfTheLocale) {
        {Locales{MacJapanese, "ja ja_JP ja_JP.UTF-8 ja_JP.eucJP"},
         Locales{MacTraditionalChinese, "zh_TW.UTF-8 zh_HK zh_MO"}, Locales{MacKorean, "ko_KR.UTF-8"},
         Locales{MacSimplifiedChinese, "zh zh_CN.GB18030 zh_SG"}, Locales{MacGreek, "el_GR.UTF-8 el_CY"},
-        Locales{MacCyrillic, "ru_RU.UTF-8 uk_UA bg_BG be_BY mk_MK sr_RS"},
+        Locales{MacCyrillic, "ru_RU.UTF-8 uk_UA bg_BG be_BY mk_MK sr_RS kk_KZ ky_KG mn_MN tg_TJ tt_RU"},
+        Locales{MacCyrillic, "cv_RU.UTF-8 os_RU ce sah_RU av kv uz_UZ@cyrillic az@cyrillic sr_ME@cyrillic"},
+        Locales{MacRoman, "tt_RU@iqtelif be_BY@latin uz_UZ sr_ME.UTF-8 mn_CN kk_CN"},
         Locales{MacCentralEurope, "pl_PL cs_CZ sk_SK hu_HU et_EE lv_LV lt_LT.UTF-8"},
         Locales{MacTurkish, "tr_TR.UTF-8"},
         Locales{MacRoman, "en_US.UTF-8 de_DE@euro fr C C.UTF-8 POSIX sr_RS@latin x_JP JA_JP "}}) {
