@@ -13,6 +13,7 @@
 #include "dialog_printer.h"
 #include "hosts/dialog/panes/general_pane.h"
 #include "hosts/dialog/widgets/plain_text.h"
+#include "support/hostile_server.h"
 
 namespace kesto::test {
 namespace {
@@ -157,6 +158,29 @@ TEST_F(DialogPrint, ASilentServerIsToldAndAskedAgain) {
   await([this] { return widget(u"retry"_s)->isVisible(); }, u"the fault again"_s);
   QTest::keyClick(&*m_dialog, Qt::Key_Escape);
   EXPECT_FALSE(m_dialog->isVisible());
+}
+
+// With a limit of an hour: only what is interrupted ends.
+TEST_F(DialogPrint, TheDialogGoesWhateverItsServerIsWaitedForWith) {
+  const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+  const std::pair<int, Misbehaviour> cases[] = {
+      {HostileServer::atConnect, {}},
+      {IPP_OP_CUPS_GET_PRINTERS, {}},
+      {IPP_OP_CUPS_GET_DEFAULT, {.again = "HTTP/1.1 100 Continue\r\n\r\n"}},
+      {IPP_OP_CUPS_GET_DEFAULT, {chunked, "1\r\nx\r\n", std::chrono::milliseconds(20)}},
+      {HostileServer::atConnect, {"HTTP/1.1 101 Switching Protocols\r\nUpgrade: TLS/1.2\r\n\r\n"}},
+  };
+  m_options.server.limit = std::chrono::hours(1);
+  for (const auto& [operation, misbehaviour] : cases) {
+    const HostileServer hostile(operation, misbehaviour);
+    m_options.server.address = hostile.address();
+    m_options.server.encrypt = misbehaviour.once.contains("TLS");
+    open();
+    await([&] { return hostile.hasMisbehaved(); }, u"the server"_s);
+    QTest::keyClick(&*m_dialog, Qt::Key_Escape);
+    EXPECT_FALSE(m_dialog->isVisible());
+    m_dialog.reset();
+  }
 }
 
 TEST_F(DialogPrint, AThousandQueuesAreListedAndFiltered) {

@@ -2,12 +2,17 @@
 #include <QtCore/QEventLoop>
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
+#include <future>
+#include <list>
 
 #include "hosts/cups/bounds.h"
 #include "print_program.h"
+#include "support/hostile_server.h"
 
 namespace kesto::test {
 namespace {
+
+using namespace std::chrono_literals;
 
 TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
   addQueue(u"Print_System"_s, "*ARKestoPrintSystem: \"False\"", "*ARKestoPrintSystem: \"True\"");
@@ -79,7 +84,7 @@ TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
   }
 
   const QString server = m_printer->place(u"server"_s);
-  expectRefused(job, 1, u"the print server %1 does not answer: Host is down"_s.arg(server));
+  expectRefused(job, 1, u"cannot connect to the print server %1; is it running?"_s.arg(server));
   startPrinter();
   EXPECT_EQ(kept(), nothing);
   expectPrinted(job);
@@ -247,17 +252,126 @@ TEST_F(LpTest, GivesUpOnASilentServer) {
   QTcpServer server;
   ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
   const QString address = u"127.0.0.1:%1"_s.arg(server.serverPort());
-  for (const QString& reason : {u" does not answer: Connection timed out\n"_s,
-                                u" %1 does not answer: Host is down\n"_s.arg(address)}) {
+  for (const QString& fault : {u"the print server %1 does not answer within 0.3 s\n"_s.arg(address),
+                               u"cannot connect to the print server %1; is it running?\n"_s.arg(address)}) {
     for (const auto& arguments :
          {u"--list"_s, u"-d q -"_s, u"-"_s, u"-d q --dry-run"_s, u"-d q --folders"_s}) {
       const LpRun ended = run(u"--timeout 0.3 -h %1 "_s.arg(address) + arguments);
       EXPECT_EQ(ended.code, 1) << arguments;
-      EXPECT_EQ(ended.err, u"kesto-lp: the print server"_s + reason) << arguments;
+      EXPECT_EQ(ended.err, u"kesto-lp: "_s + fault) << arguments;
       EXPECT_EQ(ended.out, QString()) << arguments;
     }
     server.close();
   }
+}
+
+QByteArray okWith(const QByteArray& fields) {
+  return "HTTP/1.1 200 OK\r\n" + fields + "\r\n";
+}
+
+QByteArray chunk(const QByteArray& bytes) {
+  return QByteArray::number(bytes.size(), 16) + "\r\n" + bytes + "\r\n";
+}
+
+// Twenty megabytes in a few kilobytes: what Qt packs, in gzip's frame.
+QByteArray gzipBomb() {
+  const QByteArray packed = qCompress(QByteArray(20'000'000, ' ')).mid(4 + 2);
+  return "\x1f\x8b\x08\0\0\0\0\0\0\3"_ba + packed;
+}
+
+constexpr auto limit = 500ms;
+const QString lateAnswer = u"the print server %1 does not answer within 0.5 s"_s;
+const QByteArray chunked = okWith("Transfer-Encoding: chunked\r\n");
+
+// Each way to go wrong, and how every operation says so; "%1" is the server.
+const std::tuple<const char*, Misbehaviour, QString> misbehaviours[] = {
+    {"silent", {}, lateAnswer},
+    {"a field that never ends", {okWith("X: ").chopped(2), "x", 20ms}, lateAnswer},
+    {"fields that never end", {okWith("").chopped(2), "Allow: GET\r\n"}, lateAnswer},
+    {"leave to go on, over and over", {"", "HTTP/1.1 100 Continue\r\n\r\n"}, lateAnswer},
+    {"a body that stops", {okWith("Content-Length: 9\r\n") + "x"}, lateAnswer},
+    {"a body that trickles", {chunked, chunk("x"), 20ms}, lateAnswer},
+    {"a body that never ends",
+     {chunked, chunk(QByteArray(60'000, 'x'))},
+     u"the print server's answer is too large"_s},
+    {"a packed body",
+     {okWith("Content-Encoding: gzip\r\nTransfer-Encoding: chunked\r\n"), chunk(gzipBomb())},
+     u"the print server's answer is too large"_s},
+    {"broken off", {.closes = true}, u"the print server %1 broke the connection off"_s},
+    {"no HTTP", {"SSH-2.0-x\r\n"}, u"the print server %1 broke the connection off"_s},
+    {"busy",
+     {"HTTP/1.1 503 Busy\r\nContent-Length: 9\r\n\r\n"},
+     u"the print server %1 answers: Service Unavailable (HTTP status 503)"_s},
+    {"secret",
+     {"HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: X\r\nContent-Length: 9\r\n\r\n"},
+     u"the print server %1 asks for a password"_s},
+    {"301",
+     {"HTTP/1.1 301 Moved\r\nLocation: /\r\nContent-Length: 0\r\n\r\n"},
+     u"the print server %1 points to another address (HTTP status 301), which is not followed"_s},
+    {"308",
+     {"HTTP/1.1 308 Moved\r\nLocation: http://192.0.2.1/\r\nContent-Length: 0\r\n\r\n"},
+     u"the print server %1 points to another address (HTTP status 308), which is not followed"_s},
+};
+
+// What is asked of a server, by what it goes wrong at.
+Outcome askAt(int operation, PrintServer& server) {
+  std::vector<QueueSummary> queues;
+  Destination queue;
+  PpdFile ppd;
+  int job = 0;
+  if (operation == IPP_OP_CUPS_GET_PRINTERS) return server.listQueues(&queues);
+  if (operation == IPP_OP_GET_PRINTER_ATTRIBUTES) return server.findQueue(u"q"_s, &queue);
+  if (operation == HostileServer::atGet) return fetchPpdFile(server, u"q"_s, &ppd);
+  cups_dest_t destination{};
+  destination.name = const_cast<char*>("q");
+  return sendJob(
+      server, destination, {.title = u"t"_s, .files = {{.path = "/dev/zero"}}, .options = {}},
+      [](int, qint64, qint64) { return true; }, &job);
+}
+
+TEST(HostilePrintServer, NothingThatItDoesLastsOrFillsMemory) {
+  const std::pair<int, QString> operations[] = {
+      {IPP_OP_CUPS_GET_PRINTERS, {}},
+      {IPP_OP_GET_PRINTER_ATTRIBUTES, {}},
+      {HostileServer::atGet, u"the PPD of q cannot be had: "_s},
+      {IPP_OP_CREATE_JOB, u"the job is not taken: "_s},
+      {IPP_OP_SEND_DOCUMENT, u"zero is not taken: "_s},
+  };
+  for (const auto& [what, misbehaviour, fault] : misbehaviours) {
+    std::list<HostileServer> servers;
+    std::vector<std::future<QString>> reasons;
+    for (const auto& [operation, attempt] : operations) {
+      const QString address = servers.emplace_back(operation, misbehaviour).address();
+      reasons.push_back(std::async(std::launch::async, [operation, address] {
+        std::unique_ptr<PrintServer> server;
+        Outcome asked = PrintServer::connect(address, limit, &server);
+        if (asked) asked = askAt(operation, *server);
+        return QString(asked.reason()).replace(address, u"%1"_s);
+      }));
+    }
+    for (std::size_t i = 0; i < reasons.size(); ++i)
+      EXPECT_EQ(reasons[i].get(), operations[i].second + fault) << what;
+  }
+}
+
+TEST(HostilePrintServer, AHandshakeEndsToo) {
+  const QByteArray leave =
+      "HTTP/1.1 101 Switching Protocols\r\nConnection: Upgrade\r\nUpgrade: TLS/1.2\r\n\r\n";
+  const QByteArray record = "\x16\3\3\x40\0"_ba;  // of sixteen kilobytes
+  const std::tuple<const char*, http_encryption_t, Misbehaviour> cases[] = {
+      {"silent", HTTP_ENCRYPTION_ALWAYS, {}},
+      {"a record that trickles", HTTP_ENCRYPTION_ALWAYS, {record, "x", 20ms}},
+      {"silent after its leave", HTTP_ENCRYPTION_REQUIRED, {leave}},
+      {"leave without end", HTTP_ENCRYPTION_REQUIRED, {"", "HTTP/1.1 100 Continue\r\n\r\n"}},
+  };
+  for (const auto& [what, encryption, misbehaviour] : cases) {
+    const HostileServer hostile(HostileServer::atConnect, misbehaviour);
+    cupsSetEncryption(encryption);
+    std::unique_ptr<PrintServer> server;
+    const Outcome connected = PrintServer::connect(hostile.address(), limit, &server);
+    EXPECT_EQ(connected.reason(), lateAnswer.arg(hostile.address())) << what;
+  }
+  cupsSetEncryption(HTTP_ENCRYPTION_IF_REQUESTED);
 }
 
 // A server that takes jobs and is too busy to say what is in them.

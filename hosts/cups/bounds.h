@@ -15,6 +15,8 @@ constexpr int deepestCollection = 16;
 constexpr int mostValues = 400'000;
 /// How long a reply may take in all, as a multiple of the limit for a wait.
 constexpr int waitsOfReply = 10;
+/// How long connecting may take in all, the handshake of an encrypted connection included, likewise.
+constexpr int waitsOfConnect = 2;
 /// How often a request is sent again with other credentials or encrypted.
 constexpr int mostAttempts = 4;
 

@@ -32,25 +32,30 @@ constexpr std::array options{
 
 // Its owner may have to say who they are, which libcups then asks for.
 Outcome createJob(PrintServer& server, const QString& queue, int* job) {
-  Ipp request = requestTo(IPP_OP_CREATE_JOB, uriOfQueue(queue));
+  const Ipp request = requestTo(IPP_OP_CREATE_JOB, uriOfQueue(queue));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, stranger);
   ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-hold-until", nullptr, "indefinite");
   for (const OptionRow& row : options)
     ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_NAME, row.name().constData(), nullptr, "0");
-  const Ipp reply(cupsDoRequest(server.http(), request.release(), "/"));
+  Ipp reply;
+  Outcome created = server.order(request.get(), "/", &reply);
   ipp_attribute_t* id = ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER);
-  if (id == nullptr) return lastCupsError(Faults::tr("the queue %1 takes no job").arg(queue));
+  if (created && id == nullptr)
+    created = Outcome::failed(Faults::tr("the print server gave the job no number"));
+  if (!created)
+    return Outcome::failed(Faults::tr("the queue %1 takes no job: %2").arg(queue, created.reason()));
   *job = ippGetInteger(id, 0);
   return Outcome::done();
 }
 
 Outcome cancelJob(PrintServer& server, const QString& queue, int job) {
-  Ipp request = requestTo(IPP_OP_CANCEL_JOB, uriOfQueue(queue), job);
+  const Ipp request = requestTo(IPP_OP_CANCEL_JOB, uriOfQueue(queue), job);
   ippAddBoolean(request.get(), IPP_TAG_OPERATION, "purge-job", 1);
-  const Ipp reply(cupsDoRequest(server.http(), request.release(), "/"));
-  return cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE
-             ? Outcome::done()
-             : lastCupsError(Faults::tr("the job %1-%2 cannot be cancelled").arg(queue).arg(job));
+  Ipp reply;
+  Outcome cancelled = server.order(request.get(), "/", &reply);
+  if (cancelled) return cancelled;
+  return Outcome::failed(
+      Faults::tr("the job %1-%2 cannot be cancelled: %3").arg(queue).arg(job).arg(cancelled.reason()));
 }
 
 Outcome lookAtJob(PrintServer& server, const QString& queue, int job, QStringList* shown) {

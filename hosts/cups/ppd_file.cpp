@@ -1,12 +1,29 @@
 #include "hosts/cups/ppd_file.h"
 
+#include <cups/file.h>
+
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryFile>
 
+#include "hosts/cups/bounds.h"
 #include "hosts/cups/faults.h"
 
 namespace kesto {
+namespace {
+
+// libcups unpacks a PPD that is packed as it reads.
+bool isShortEnough(const QString& path) {
+  const std::unique_ptr<cups_file_t, decltype(&cupsFileClose)> file(
+      cupsFileOpen(QFile::encodeName(path).constData(), "r"), cupsFileClose);
+  QByteArray block(65536, Qt::Uninitialized);
+  qsizetype length = 0;
+  for (ssize_t count = 1; file && count > 0 && length <= longestPpd; length += count)
+    count = cupsFileRead(file.get(), block.data(), static_cast<std::size_t>(block.size()));
+  return length <= longestPpd;
+}
+
+}  // namespace
 
 void ClosePpd::operator()(ppd_file_t* ppd) const {
   ppdClose(ppd);
@@ -28,19 +45,20 @@ Outcome openPpdFile(const QString& path, PpdFile* ppd) {
       Faults::tr("%1: line %2: %3").arg(path).arg(line).arg(QString::fromUtf8(ppdErrorString(status))));
 }
 
-Outcome fetchPpdFile(http_t* http, const QString& queue, PpdFile* ppd) {
+Outcome fetchPpdFile(PrintServer& server, const QString& queue, PpdFile* ppd) {
   ppd->reset();
-  QTemporaryFile file;
-  if (!file.open()) return Outcome::failed(Faults::tr("the PPD cannot be kept: %1").arg(file.errorString()));
   // libcups's own call for it asks the host that the queue names, on another connection: through a tunnel
   // that is another server, and else it takes its time.
-  const QByteArray resource = "/printers/" + queue.toUtf8() + ".ppd";
-  const http_status_t status = cupsGetFd(http, resource.constData(), file.handle());
-  if (status == HTTP_STATUS_NOT_FOUND) return Outcome::done();
-  if (status != HTTP_STATUS_OK) {
-    return Outcome::failed(
-        Faults::tr("the PPD of %1 cannot be had: %2").arg(queue, QString::fromUtf8(cupsLastErrorString())));
-  }
+  QByteArray bytes;
+  Outcome fetched = server.fetch("/printers/" + queue.toUtf8() + ".ppd", longestPpd, &bytes);
+  if (!fetched)
+    return Outcome::failed(Faults::tr("the PPD of %1 cannot be had: %2").arg(queue, fetched.reason()));
+  if (bytes.isNull()) return Outcome::done();
+  QTemporaryFile file;
+  if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
+    return Outcome::failed(Faults::tr("the PPD cannot be kept: %1").arg(file.errorString()));
+  if (!isShortEnough(file.fileName()))
+    return Outcome::failed(Faults::tr("the PPD of %1 is too large").arg(queue));
   return openPpdFile(file.fileName(), ppd);
 }
 

@@ -7,6 +7,7 @@
 #include <QtCore/QString>
 #include <memory>
 
+#include "hosts/cups/print_server.h"
 #include "platform/outcome.h"
 
 namespace kesto {
@@ -22,9 +23,8 @@ using PpdFile = std::unique_ptr<ppd_file_t, ClosePpd>;
 /// libcups's reason.
 Outcome openPpdFile(const QString& path, PpdFile* ppd);
 
-/// The PPD of a queue, fetched from a print server; null for a queue that has none. On failure the outcome
-/// carries libcups's reason.
-Outcome fetchPpdFile(http_t* http, const QString& queue, PpdFile* ppd);
+/// The PPD of a queue, fetched from a print server; null for a queue that has none.
+Outcome fetchPpdFile(PrintServer& server, const QString& queue, PpdFile* ppd);
 
 /// Whether the PPD names the bundle "JobHandling.pde" among the extensions of the print dialog.
 bool offersJobHandling(ppd_file_t& ppd);

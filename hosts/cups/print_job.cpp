@@ -110,6 +110,23 @@ ssize_t readSome(int descriptor, QByteArray* block) {
   return -1;
 }
 
+// `*read` says whether it was the document, or its user, that ended it.
+Outcome copyDocument(const Document& document, const HttpRequest::Sink& sink,
+                     const std::function<bool(qint64)>& progress, Outcome* read) {
+  qint64 sent = 0;
+  QByteArray block(blockSize, Qt::Uninitialized);
+  for (;;) {
+    if (!progress(sent)) return *read = Outcome::failed(Faults::tr("the job was stopped"));
+    const ssize_t count = readSome(document.file->handle(), &block);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0)
+      return *read = Outcome::failed(document.name + QStringLiteral(": ") + qt_error_string(errno));
+    if (count == 0) return Outcome::done();
+    if (Outcome taken = sink(block.constData(), count); !taken) return taken;
+    sent += count;
+  }
+}
+
 // A job that is created and not yet whole; cancelled unless it is kept. Made of libcups's requests, since its
 // calls for a job first ask the printer for every attribute, value by value.
 class OpenJob {
@@ -120,7 +137,11 @@ class OpenJob {
         m_uri(uriOfQueue(QString::fromUtf8(m_queue))),
         m_resource("/printers/" + m_queue) {}
   ~OpenJob() {
-    if (m_id > 0 && !m_isKept) cupsCancelJob2(m_server.http(), m_queue.constData(), m_id, 0);
+    if (m_id == 0 || m_isKept) return;
+    const Ipp request = requestTo(IPP_OP_CANCEL_JOB, m_uri, m_id);
+    Ipp reply;
+    // A server that does not take it ends such a job by itself.
+    (void)m_server.order(request.get(), "/jobs/", &reply);
   }
   OpenJob(const OpenJob&) = delete;
   OpenJob& operator=(const OpenJob&) = delete;
@@ -129,36 +150,32 @@ class OpenJob {
     Ipp request = requestTo(IPP_OP_CREATE_JOB, m_uri);
     addName(request.get(), "job-name", title);
     options.encode(request.get(), {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION});
-    const Ipp reply(cupsDoRequest(m_server.http(), request.release(), m_resource.constData()));
-    m_id = ippGetInteger(ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER), 0);
-    if (cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE && m_id > 0) return Outcome::done();
-    return lastCupsError(Faults::tr("the job is not taken"));
+    Ipp reply;
+    Outcome created = m_server.order(request.get(), m_resource, &reply);
+    m_id = qMax(0, ippGetInteger(ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER), 0));
+    if (created && m_id == 0)
+      created = Outcome::failed(Faults::tr("the print server gave the job no number"));
+    if (created) return created;
+    return Outcome::failed(Faults::tr("the job is not taken: %1").arg(created.reason()));
   }
 
   Outcome send(Document& document, const QByteArray& format, const Options& options, bool isLast,
                const std::function<bool(qint64)>& progress) {
-    const QString attempt = Faults::tr("%1 is not taken").arg(document.name);
-    if (!start(document, format, options, isLast)) return lastCupsError(attempt);
-    qint64 sent = 0;
-    QByteArray block(blockSize, Qt::Uninitialized);
-    for (;;) {
-      if (!progress(sent)) return Outcome::failed(Faults::tr("the job was stopped"));
-      const ssize_t count = readSome(document.file->handle(), &block);
-      if (count < 0 && errno == EINTR) continue;
-      if (count < 0) return Outcome::failed(document.name + QStringLiteral(": ") + qt_error_string(errno));
-      if (count == 0) break;
-      if (cupsWriteRequestData(m_server.http(), block.constData(), static_cast<std::size_t>(count)) !=
-          HTTP_STATUS_CONTINUE) {
-        return lastCupsError(attempt);
-      }
-      sent += count;
-    }
-    const Ipp reply(cupsGetResponse(m_server.http(), m_resource.constData()));
-    // Without an answer libcups leaves the status of an earlier one.
-    if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE || httpGetStatus(m_server.http()) != HTTP_STATUS_OK) {
-      return lastCupsError(attempt);
-    }
-    return Outcome::done();
+    const Ipp request = requestTo(IPP_OP_SEND_DOCUMENT, m_uri, m_id);
+    addName(request.get(), "document-name", document.name);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                 format.constData());
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
+    options.encode(request.get(), {IPP_TAG_OPERATION, IPP_TAG_DOCUMENT});
+    Outcome read = Outcome::done();
+    const auto copy = [&](const HttpRequest::Sink& sink) {
+      read = Outcome::done();
+      return copyDocument(document, sink, progress, &read);
+    };
+    Ipp reply;
+    Outcome sent = m_server.order(request.get(), m_resource, &reply, copy);
+    if (sent || !read) return sent;
+    return Outcome::failed(Faults::tr("%1 is not taken: %2").arg(document.name, sent.reason()));
   }
 
   int keep() {
@@ -169,17 +186,6 @@ class OpenJob {
  private:
   static void addName(ipp_t* request, const char* attribute, const QString& name) {
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, attribute, nullptr, nameOf(name).constData());
-  }
-
-  bool start(const Document& document, const QByteArray& format, const Options& options, bool isLast) {
-    const Ipp request = requestTo(IPP_OP_SEND_DOCUMENT, m_uri, m_id);
-    addName(request.get(), "document-name", document.name);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
-                 format.constData());
-    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
-    options.encode(request.get(), {IPP_TAG_OPERATION, IPP_TAG_DOCUMENT});
-    return cupsSendRequest(m_server.http(), request.get(), m_resource.constData(), CUPS_LENGTH_VARIABLE) ==
-           HTTP_STATUS_CONTINUE;
   }
 
   PrintServer& m_server;

@@ -2,18 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstring>
 
+#include "hosts/cups/bounds.h"
 #include "hosts/cups/faults.h"
 
 namespace kesto {
 namespace {
-
-// libcups asks whether to go on waiting: never.
-int giveUp(http_t* /*http*/, void* /*data*/) {
-  return 0;
-}
 
 QString nameOfState(int state) {
   switch (state) {
@@ -43,6 +37,15 @@ void askForSummary(ipp_t* request) {
                 nullptr, shown);
 }
 
+void askForName(ipp_t* request) {
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "printer-name");
+}
+
+QByteArray nameOf(ipp_t* reply) {
+  ipp_attribute_t* name = ippFindAttribute(reply, "printer-name", IPP_TAG_NAME);
+  return name == nullptr ? nullptr : ippGetString(name, 0, nullptr);
+}
+
 // Each printer of a reply is a run of attributes in the printer group.
 std::vector<QueueSummary> queuesOf(ipp_t* reply) {
   std::vector<QueueSummary> queues;
@@ -56,22 +59,19 @@ std::vector<QueueSummary> queuesOf(ipp_t* reply) {
   return queues;
 }
 
-}  // namespace
-
-void CloseHttp::operator()(http_t* http) const {
-  httpClose(http);
+// What a reply says of its request, in the server's words.
+Outcome outcomeOf(ipp_t* reply, ipp_status_t allowed) {
+  const ipp_status_t status = ippGetStatusCode(reply);
+  if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == allowed) return Outcome::done();
+  ipp_attribute_t* message = ippFindAttribute(reply, "status-message", IPP_TAG_TEXT);
+  const QString words = QString::fromUtf8(message == nullptr ? nullptr : ippGetString(message, 0, nullptr));
+  return Outcome::failed(words.isEmpty() ? QString::fromUtf8(ippErrorString(status)) : words);
 }
+
+}  // namespace
 
 void FreeDest::operator()(cups_dest_t* dest) const {
   cupsFreeDests(1, dest);
-}
-
-Outcome lastCupsError(const QString& attempt) {
-  // A wait that was given up is no error to libcups.
-  const QString reason = cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE
-                             ? QString::fromUtf8(cupsLastErrorString())
-                             : Faults::tr("the print server does not answer");
-  return Outcome::failed(attempt + QStringLiteral(": ") + reason);
 }
 
 QString optionOf(const cups_dest_t& destination, const char* name) {
@@ -94,79 +94,93 @@ Ipp requestTo(ipp_op_t operation, const QByteArray& printerUri, int job, const c
 }
 
 Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds limit,
-                             std::unique_ptr<PrintServer>* server) {
+                             std::unique_ptr<PrintServer>* server,
+                             const std::shared_ptr<Watchdog>& watchdog) {
   server->reset();
   if (!address.isNull()) cupsSetServer(address.toUtf8().constData());
-  const QString name = QStringLiteral("%1:%2").arg(QString::fromUtf8(cupsServer())).arg(ippPort());
-  http_t* http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                              static_cast<int>(limit.count()), nullptr);
-  if (http == nullptr) return lastCupsError(Faults::tr("the print server %1 does not answer").arg(name));
-  server->reset(new PrintServer(http));
-  httpSetTimeout(http, std::chrono::duration<double>(limit).count(), giveUp, nullptr);
+  std::unique_ptr<HttpConnection> http;
+  if (Outcome opened = HttpConnection::open(limit, watchdog, &http); !opened) return opened;
+  server->reset(new PrintServer(std::move(http)));
   return Outcome::done();
 }
 
+Outcome PrintServer::findDefault(QueueName* name) {
+  *name = defaultQueueName();
+  if (!name->queue.isEmpty()) return Outcome::done();
+  const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
+  askForName(request.get());
+  Ipp reply;
+  Outcome asked = order(request.get(), "/", &reply);
+  // A server without a default queue says that it found nothing.
+  if (!asked && ippGetStatusCode(reply.get()) != IPP_STATUS_ERROR_NOT_FOUND) return asked;
+  name->queue = nameOf(reply.get());
+  if (!name->queue.isEmpty()) return Outcome::done();
+  return Outcome::failed(
+      QStringLiteral("there is no default queue, or LPDEST or PRINTER names none; choose one with -d"));
+}
+
 Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
-  // libcups looks for a queue on connections of its own as well, which wait for a minute: a server that is
-  // silent is to be known before.
-  if (Outcome answered = probe(); !answered) return answered;
-  // "queue/instance" names a user's own set of options for the queue.
-  const QByteArray queue = name.section(u'/', 0, 0).toUtf8();
-  const QByteArray instance = name.section(u'/', 1).toUtf8();
-  destination->reset(cupsGetNamedDest(http(), name.isNull() ? nullptr : queue.constData(),
-                                      instance.isEmpty() ? nullptr : instance.constData()));
-  if (*destination) return Outcome::done();
-  return name.isNull()
-             ? Outcome::failed(QStringLiteral("there is no default queue, or LPDEST or PRINTER names none; "
-                                              "choose one with -d"))
-             : lastCupsError(Faults::tr("the queue %1 cannot be had").arg(name));
+  destination->reset();
+  QueueName wanted = QueueName::of(name.toUtf8());
+  if (name.isNull()) {
+    if (Outcome found = findDefault(&wanted); !found) return found;
+  }
+  const QString queue = QString::fromUtf8(wanted.queue);
+  const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uriOfQueue(queue));
+  askForOptions(request.get());
+  Ipp reply;
+  if (Outcome asked = order(request.get(), "/", &reply); !asked)
+    return !reply ? asked
+                  : Outcome::failed(Faults::tr("the queue %1 cannot be had: %2").arg(queue, asked.reason()));
+  // The server may write it otherwise.
+  if (const QByteArray itsName = nameOf(reply.get()); !itsName.isEmpty()) wanted.queue = itsName;
+  cups_dest_t* made = nullptr;
+  cupsAddDest(wanted.queue.constData(), wanted.instance.isEmpty() ? nullptr : wanted.instance.constData(), 0,
+              &made);
+  destination->reset(made);
+  addServersOptions(reply.get(), made);
+  addKeptOptions(wanted, made);
+  return Outcome::done();
 }
 
 Outcome PrintServer::probe() {
-  QByteArray reply;
   const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-               "printer-name");
-  Outcome answered = exchange(request.get(), &reply);
+  askForName(request.get());
+  Ipp reply;
+  Outcome answered = this->request(request.get(), &reply);
   // One that wants to know who asks has answered, too.
-  return httpGetStatus(http()) == HTTP_STATUS_ERROR ? answered : Outcome::done();
+  return m_http->status() == HTTP_STATUS_ERROR ? answered : Outcome::done();
 }
 
-// The reply is read in blocks: libcups's own reading of it takes a system call for nearly every value.
-Outcome PrintServer::exchange(ipp_t* request, QByteArray* reply) {
-  if (cupsSendRequest(http(), request, "/", ippLength(request)) != HTTP_STATUS_CONTINUE) {
-    return lastCupsError(Faults::tr("the print server does not take the request"));
-  }
-  http_status_t status = HTTP_STATUS_CONTINUE;
-  while (status == HTTP_STATUS_CONTINUE)
-    status = httpUpdate(http());
-  if (status != HTTP_STATUS_OK) {
-    httpFlush(http());
-    // A wait that was given up leaves no error behind.
-    const int error = httpError(http()) == 0 ? ETIMEDOUT : httpError(http());
-    const char* text = status == HTTP_STATUS_ERROR ? std::strerror(error) : httpStatus(status);
-    return Outcome::failed(Faults::tr("the print server does not answer") + QStringLiteral(": ") +
-                           QString::fromUtf8(text));
-  }
-  QByteArray block(65536, Qt::Uninitialized);
-  ssize_t count = 0;
-  while ((count = httpRead2(http(), block.data(), static_cast<std::size_t>(block.size()))) > 0) {
-    reply->append(block.constData(), count);
-  }
-  return count == 0 ? Outcome::done() : Outcome::failed(Faults::tr("the print server's answer breaks off"));
-}
-
-Outcome PrintServer::request(ipp_t* request, Ipp* reply) {
+Outcome PrintServer::exchange(ipp_t* request, HttpRequest message, Ipp* reply) {
+  message.body = bytesOfRequest(request);
+  message.longestReply = longestReply;
   QByteArray bytes;
-  if (Outcome exchanged = exchange(request, &bytes); !exchanged) return exchanged;
+  if (Outcome exchanged = m_http->exchange(message, &bytes); !exchanged) return exchanged;
   return readReply(bytes, reply);
 }
 
+Outcome PrintServer::request(ipp_t* request, Ipp* reply) {
+  return exchange(request, {.resource = "/"}, reply);
+}
+
 Outcome PrintServer::ask(ipp_t* request, Ipp* reply, ipp_status_t allowed) {
-  if (Outcome asked = this->request(request, reply); !asked) return asked;
-  const ipp_status_t status = ippGetStatusCode(reply->get());
-  if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == allowed) return Outcome::done();
-  return Outcome::failed(QString::fromUtf8(ippErrorString(status)));
+  Outcome asked = this->request(request, reply);
+  return asked ? outcomeOf(reply->get(), allowed) : asked;
+}
+
+Outcome PrintServer::order(ipp_t* request, const QByteArray& resource, Ipp* reply, const Document& document) {
+  Outcome ordered =
+      exchange(request, {.resource = resource, .document = document, .mayAskPassword = true}, reply);
+  return ordered ? outcomeOf(reply->get(), IPP_STATUS_OK) : ordered;
+}
+
+Outcome PrintServer::fetch(const QByteArray& resource, qsizetype longest, QByteArray* bytes) {
+  Outcome fetched =
+      m_http->exchange({.resource = resource, .longestReply = longest, .mayAskPassword = true}, bytes);
+  if (fetched) return fetched;
+  bytes->clear();
+  return m_http->status() == HTTP_STATUS_NOT_FOUND ? Outcome::done() : fetched;
 }
 
 Outcome PrintServer::listQueues(std::vector<QueueSummary>* queues) {

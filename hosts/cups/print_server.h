@@ -1,4 +1,4 @@
-// A connection to a print server, on which no wait is longer than its limit and a second.
+// A print server, asked over one connection.
 #pragma once
 
 #include <cups/cups.h>
@@ -10,14 +10,13 @@
 #include <optional>
 #include <vector>
 
+#include "hosts/cups/http_connection.h"
 #include "hosts/cups/ipp_reply.h"
+#include "hosts/cups/queue_options.h"
 #include "platform/outcome.h"
 
 namespace kesto {
 
-struct CloseHttp {
-  void operator()(http_t* http) const;
-};
 struct FreeDest {
   void operator()(cups_dest_t* dest) const;
 };
@@ -34,18 +33,24 @@ struct QueueSummary {
   bool isAccepting = true;
 };
 
-/// One print server. Every operation ends within the time limit of each of its waits, and a second more, by
-/// which libcups counts; outcomes carry libcups's text.
+/// One print server. Every operation ends in time and takes no more memory than `bounds.h` has it, whatever
+/// the server does; outcomes say what it did.
 class PrintServer {
  public:
+  /// Sends a document by its parts.
+  using Document = std::function<Outcome(const HttpRequest::Sink& sink)>;
+
   /// Connects to `address` ("host" or "host:port"), or to the server that CUPS_SERVER and the configuration
-  /// name when it is null.
+  /// name when it is null. `limit` is for every wait without progress; `watchdog` ends all waits when it is
+  /// interrupted.
   static Outcome connect(const QString& address, std::chrono::milliseconds limit,
-                         std::unique_ptr<PrintServer>* server);
+                         std::unique_ptr<PrintServer>* server,
+                         const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>());
 
   /// Whether the server answers at all.
   Outcome probe();
-  /// The queue `name`, or the user's default queue when it is null.
+  /// The queue `name`, or the user's default queue when it is null, with what the server and the user keep
+  /// for it.
   Outcome findQueue(const QString& name, Destination* destination);
   /// All queues by name, by one request for what a summary shows.
   Outcome listQueues(std::vector<QueueSummary>* queues);
@@ -54,17 +59,21 @@ class PrintServer {
   /// Sends one request, as whom it names, and reads the reply, whatever its status; never asks for a
   /// password.
   Outcome request(ipp_t* request, Ipp* reply);
-  /// As `request`, but fails on a reply that tells of an error, unless that is `allowed`.
+  /// As `request`, but fails with the server's words on a reply that tells of an error, unless that is
+  /// `allowed`.
   Outcome ask(ipp_t* request, Ipp* reply, ipp_status_t allowed = IPP_STATUS_OK);
-
-  /// For libcups's calls.
-  http_t* http() const { return m_http.get(); }
+  /// As `ask`, for what only some may do: the user may be asked for a password. The document follows the
+  /// request.
+  Outcome order(ipp_t* request, const QByteArray& resource, Ipp* reply, const Document& document = {});
+  /// Fetches a PPD or another file; null when there is none.
+  Outcome fetch(const QByteArray& resource, qsizetype longest, QByteArray* bytes);
 
  private:
-  explicit PrintServer(http_t* http) : m_http(http) {}
-  Outcome exchange(ipp_t* request, QByteArray* reply);
+  explicit PrintServer(std::unique_ptr<HttpConnection> http) : m_http(std::move(http)) {}
+  Outcome exchange(ipp_t* request, HttpRequest message, Ipp* reply);
+  Outcome findDefault(QueueName* name);
 
-  std::unique_ptr<http_t, CloseHttp> m_http;
+  std::unique_ptr<HttpConnection> m_http;
 };
 
 /// The value of a queue's option or attribute; null when it has none.
@@ -75,8 +84,5 @@ QByteArray uriOfQueue(const QString& queue);
 
 /// A request to the printer with this URI, about one of its jobs when `job` is not 0, as `user`.
 Ipp requestTo(ipp_op_t operation, const QByteArray& printerUri, int job = 0, const char* user = cupsUser());
-
-/// libcups's last error as an outcome, behind what was tried.
-Outcome lastCupsError(const QString& attempt);
 
 }  // namespace kesto

@@ -4,12 +4,12 @@ namespace kesto {
 
 void QueueClient::open(const QString& name) {
   const int request = ++m_request;
-  m_thread.post([this, server = m_server, name, request] {
+  m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, server = m_server, name, request] {
     auto queue = std::make_shared<Queue>();
     std::unique_ptr<PrintServer> connection;
-    Outcome opened = server.connect(&connection);
+    Outcome opened = server.connect(&connection, watchdog);
     if (opened) opened = openQueue(*connection, name, queue.get());
-    answer(this, [this, request, queue, opened] {
+    mailbox->answer([this, request, queue, opened] {
       if (request != m_request) return;
       if (opened) {
         Q_EMIT this->opened(queue);
@@ -21,27 +21,28 @@ void QueueClient::open(const QString& name) {
 }
 
 void QueueClient::checkPrivacy(const QString& name) {
-  m_thread.post([this, server = m_server, name] {
+  m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, server = m_server, name] {
     JobPrivacy privacy;
     std::unique_ptr<PrintServer> connection;
-    Outcome found = server.connect(&connection);
+    Outcome found = server.connect(&connection, watchdog);
     if (found) found = findJobPrivacy(*connection, name, &privacy);
-    answer(this, [this, found, privacy] { Q_EMIT privacyChecked(found, privacy); });
+    mailbox->answer([this, found, privacy] { Q_EMIT privacyChecked(found, privacy); });
   });
 }
 
 void QueueClient::send(const std::shared_ptr<Queue>& queue, const PrintJob& job) {
-  m_isStopped = false;
-  m_thread.post([this, server = m_server, queue, job] {
+  *m_isStopped = false;
+  m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, isStopped = m_isStopped, server = m_server,
+                 queue, job] {
     int id = 0;
-    const auto progress = [this](int /*document*/, qint64 sent, qint64 total) {
-      answer(this, [this, sent, total] { Q_EMIT progressed(sent, total); });
-      return !m_isStopped;
+    const auto progress = [&](int /*document*/, qint64 sent, qint64 total) {
+      mailbox->answer([this, sent, total] { Q_EMIT progressed(sent, total); });
+      return !*isStopped;
     };
     std::unique_ptr<PrintServer> connection;
-    Outcome sent = server.connect(&connection);
+    Outcome sent = server.connect(&connection, watchdog);
     if (sent) sent = sendJob(*connection, *queue->destination, job, progress, &id);
-    answer(this, [this, id, sent] {
+    mailbox->answer([this, id, sent] {
       if (sent) {
         Q_EMIT this->sent(id);
       } else {

@@ -20,6 +20,7 @@ class QueueClient : public QObject {
 
  public:
   explicit QueueClient(ServerAddress server) : m_server(std::move(server)) {}
+  ~QueueClient() override { m_mailbox->close(); }
 
   /// Opens a queue, the user's default one when `name` is null. What an earlier call is still waiting for is
   /// not told any more.
@@ -29,7 +30,7 @@ class QueueClient : public QObject {
   /// Finds out what other users see of a job on the queue `name`.
   void checkPrivacy(const QString& name);
   /// Stops the job that is being sent; it then fails.
-  void stopSending() { m_isStopped = true; }
+  void stopSending() { *m_isStopped = true; }
 
  Q_SIGNALS:
   /// The queue is open. Its PPD is the receiver's; its destination is used by this object alone.
@@ -45,8 +46,11 @@ class QueueClient : public QObject {
  private:
   ServerAddress m_server;
   int m_request = 0;
-  std::atomic<bool> m_isStopped = false;
-  WorkerThread m_thread;
+  // Shared with the thread, which can outlive this object.
+  std::shared_ptr<Mailbox> m_mailbox = std::make_shared<Mailbox>(this);
+  std::shared_ptr<Watchdog> m_watchdog = std::make_shared<Watchdog>();
+  std::shared_ptr<std::atomic<bool>> m_isStopped = std::make_shared<std::atomic<bool>>(false);
+  WorkerThread m_thread{[watchdog = m_watchdog] { watchdog->interrupt(); }};
 };
 
 }  // namespace kesto

@@ -12,15 +12,20 @@ constexpr std::chrono::seconds pollInterval(3);
 // What the thread does; its results go out as signals of the watch.
 class QueueWatch::Follower {
  public:
-  Follower(QueueWatch* watch, ServerAddress server) : m_watch(watch), m_address(std::move(server)) {}
+  Follower(QueueWatch* watch, ServerAddress server)
+      : m_watch(watch), m_mailbox(watch), m_address(std::move(server)) {}
+
+  // For the watch's thread: nothing is answered or waited for any more.
+  void leave() { m_mailbox.close(); }
+  void interrupt() { m_watchdog->interrupt(); }
 
   void list() {
     stop();
     std::vector<QueueSummary> queues;
-    Outcome listed = m_address.connect(&m_server);
+    Outcome listed = m_address.connect(&m_server, m_watchdog);
     if (listed) listed = m_server->listQueues(&queues);
     if (!listed) return report(listed);
-    answer(m_watch, [watch = m_watch, queues] { Q_EMIT watch->listed(queues); });
+    m_mailbox.answer([watch = m_watch, queues] { Q_EMIT watch->listed(queues); });
     m_hasListed = true;
     m_isLost = false;
     // A server that gives no subscription to this user is shown as it was.
@@ -51,7 +56,7 @@ class QueueWatch::Follower {
   void report(const Outcome& failure) {
     stop();
     m_isLost = m_hasListed;
-    answer(m_watch, [watch = m_watch, reason = failure.reason()] { Q_EMIT watch->failed(reason); });
+    m_mailbox.answer([watch = m_watch, reason = failure.reason()] { Q_EMIT watch->failed(reason); });
   }
 
   void tell(const QString& name) {
@@ -59,13 +64,15 @@ class QueueWatch::Follower {
     // What is not told now is told with the list, when the server is asked again.
     if (!m_server->summarize(name, &queue)) return;
     if (queue) {
-      answer(m_watch, [watch = m_watch, queue = *queue] { Q_EMIT watch->changed(queue); });
+      m_mailbox.answer([watch = m_watch, queue = *queue] { Q_EMIT watch->changed(queue); });
     } else {
-      answer(m_watch, [watch = m_watch, name] { Q_EMIT watch->removed(name); });
+      m_mailbox.answer([watch = m_watch, name] { Q_EMIT watch->removed(name); });
     }
   }
 
-  QueueWatch* m_watch;
+  QueueWatch* m_watch;  // used in its own thread alone
+  Mailbox m_mailbox;
+  std::shared_ptr<Watchdog> m_watchdog = std::make_shared<Watchdog>();
   ServerAddress m_address;
   std::unique_ptr<PrintServer> m_server;
   std::optional<QueueEvents> m_events;  // none while nothing is followed
@@ -73,7 +80,9 @@ class QueueWatch::Follower {
   bool m_isLost = false;  // there was a list, and the server does not answer any more
 };
 
-QueueWatch::QueueWatch(const ServerAddress& server) : m_follower(std::make_shared<Follower>(this, server)) {
+QueueWatch::QueueWatch(const ServerAddress& server)
+    : m_follower(std::make_shared<Follower>(this, server)),
+      m_thread([follower = m_follower] { follower->interrupt(); }) {
   m_poll.setInterval(pollInterval);
   m_poll.setTimerType(Qt::VeryCoarseTimer);
   connect(&m_poll, &QTimer::timeout, this,
@@ -81,6 +90,7 @@ QueueWatch::QueueWatch(const ServerAddress& server) : m_follower(std::make_share
 }
 
 QueueWatch::~QueueWatch() {
+  m_follower->leave();
   m_thread.post([follower = m_follower] { follower->stop(); });
 }
 

@@ -13,13 +13,14 @@ struct ServerAddress {
   QString address;  ///< "host" or "host:port"; null for the one of the environment.
   QString user;     ///< Null for the account's name.
   bool encrypt = false;
-  std::chrono::milliseconds limit = std::chrono::seconds(5);  ///< For each wait.
+  std::chrono::milliseconds limit = std::chrono::seconds(5);  ///< For each wait without progress.
 
-  /// A new connection; for the thread that calls.
-  Outcome connect(std::unique_ptr<PrintServer>* server) const {
+  /// A new connection, for the thread that calls.
+  Outcome connect(std::unique_ptr<PrintServer>* server,
+                  const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>()) const {
     if (encrypt) cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
     if (!user.isNull()) cupsSetUser(user.toUtf8().constData());
-    return PrintServer::connect(address, limit, server);
+    return PrintServer::connect(address, limit, server, watchdog);
   }
 };
 

@@ -34,7 +34,7 @@ Outcome keepJobHandling(PrintServer& server, std::vector<QueueSummary>* queues) 
   std::vector<QueueSummary> kept;
   for (QueueSummary& queue : *queues) {
     PpdFile ppd;
-    if (Outcome fetched = fetchPpdFile(server.http(), queue.name, &ppd); !fetched) return fetched;
+    if (Outcome fetched = fetchPpdFile(server, queue.name, &ppd); !fetched) return fetched;
     if (ppd && offersJobHandling(*ppd)) kept.push_back(std::move(queue));
   }
   *queues = std::move(kept);

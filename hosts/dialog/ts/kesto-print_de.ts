@@ -214,14 +214,6 @@
         <translation>der Auftragsname</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job</source>
-        <translation>die Warteschlange %1 nimmt keinen Auftrag an</translation>
-    </message>
-    <message>
-        <source>the job %1-%2 cannot be cancelled</source>
-        <translation>der Auftrag %1-%2 lässt sich nicht abbrechen</translation>
-    </message>
-    <message>
         <source>what other users see is not told: %1</source>
         <translation>was andere Benutzer sehen, ist nicht zu erfahren: %1</translation>
     </message>
@@ -286,32 +278,8 @@
         <translation>%1: ist ein Ordner</translation>
     </message>
     <message>
-        <source>the job is not taken</source>
-        <translation>der Auftrag wird nicht angenommen</translation>
-    </message>
-    <message>
-        <source>%1 is not taken</source>
-        <translation>%1 wird nicht angenommen</translation>
-    </message>
-    <message>
         <source>the job was stopped</source>
         <translation>der Auftrag wurde abgebrochen</translation>
-    </message>
-    <message>
-        <source>the print server does not answer</source>
-        <translation>der Druckserver antwortet nicht</translation>
-    </message>
-    <message>
-        <source>the print server %1 does not answer</source>
-        <translation>der Druckserver %1 antwortet nicht</translation>
-    </message>
-    <message>
-        <source>the queue %1 cannot be had</source>
-        <translation>die Warteschlange %1 ist nicht zu bekommen</translation>
-    </message>
-    <message>
-        <source>the print server does not take the request</source>
-        <translation>der Druckserver nimmt die Anfrage nicht an</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
@@ -324,6 +292,74 @@
     <message>
         <source>the print server&apos;s answer is too large</source>
         <translation>die Antwort des Druckservers ist zu groß</translation>
+    </message>
+    <message>
+        <source>the address of the print server %1 is not found in time</source>
+        <translation>die Adresse des Druckservers %1 wird nicht rechtzeitig gefunden</translation>
+    </message>
+    <message>
+        <source>there is no print server named %1</source>
+        <translation>es gibt keinen Druckserver namens %1</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1 with encryption</source>
+        <translation>keine verschlüsselte Verbindung zum Druckserver %1 möglich</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1; is it running?</source>
+        <translation>keine Verbindung zum Druckserver %1; läuft er?</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not want the whole document</source>
+        <translation>der Druckserver %1 will nicht das ganze Dokument</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not answer within %2 s</source>
+        <translation>der Druckserver %1 antwortet nicht innerhalb von %2 s</translation>
+    </message>
+    <message>
+        <source>the print server %1 broke the connection off</source>
+        <translation>der Druckserver %1 hat die Verbindung abgebrochen</translation>
+    </message>
+    <message>
+        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
+        <translation>der Druckserver %1 verweist auf eine andere Adresse (HTTP-Status %2); ihr wird nicht gefolgt</translation>
+    </message>
+    <message>
+        <source>the print server %1 asks for a password</source>
+        <translation>der Druckserver %1 verlangt ein Passwort</translation>
+    </message>
+    <message>
+        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <translation>der Druckserver %1 antwortet: %2 (HTTP-Status %3)</translation>
+    </message>
+    <message>
+        <source>the print server gave the job no number</source>
+        <translation>der Druckserver hat dem Auftrag keine Nummer gegeben</translation>
+    </message>
+    <message>
+        <source>the queue %1 takes no job: %2</source>
+        <translation>die Warteschlange %1 nimmt keinen Auftrag an: %2</translation>
+    </message>
+    <message>
+        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <translation>der Auftrag %1-%2 lässt sich nicht abbrechen: %3</translation>
+    </message>
+    <message>
+        <source>the PPD of %1 is too large</source>
+        <translation>die PPD von %1 ist zu groß</translation>
+    </message>
+    <message>
+        <source>the job is not taken: %1</source>
+        <translation>der Auftrag wird nicht angenommen: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: %2</source>
+        <translation>%1 wird nicht angenommen: %2</translation>
+    </message>
+    <message>
+        <source>the queue %1 cannot be had: %2</source>
+        <translation>die Warteschlange %1 ist nicht zu bekommen: %2</translation>
     </message>
 </context>
 <context>

@@ -214,14 +214,6 @@
         <translation>el nombre del trabajo</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job</source>
-        <translation>la cola %1 no acepta trabajos</translation>
-    </message>
-    <message>
-        <source>the job %1-%2 cannot be cancelled</source>
-        <translation>el trabajo %1-%2 no se puede cancelar</translation>
-    </message>
-    <message>
         <source>what other users see is not told: %1</source>
         <translation>no se sabe qué ven otros usuarios: %1</translation>
     </message>
@@ -286,32 +278,8 @@
         <translation>%1: es una carpeta</translation>
     </message>
     <message>
-        <source>the job is not taken</source>
-        <translation>no se acepta el trabajo</translation>
-    </message>
-    <message>
-        <source>%1 is not taken</source>
-        <translation>no se acepta %1</translation>
-    </message>
-    <message>
         <source>the job was stopped</source>
         <translation>el trabajo se ha detenido</translation>
-    </message>
-    <message>
-        <source>the print server does not answer</source>
-        <translation>el servidor de impresión no responde</translation>
-    </message>
-    <message>
-        <source>the print server %1 does not answer</source>
-        <translation>el servidor de impresión %1 no responde</translation>
-    </message>
-    <message>
-        <source>the queue %1 cannot be had</source>
-        <translation>no se puede obtener la cola %1</translation>
-    </message>
-    <message>
-        <source>the print server does not take the request</source>
-        <translation>el servidor de impresión no acepta la petición</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
@@ -324,6 +292,74 @@
     <message>
         <source>the print server&apos;s answer is too large</source>
         <translation>la respuesta del servidor de impresión es demasiado grande</translation>
+    </message>
+    <message>
+        <source>the address of the print server %1 is not found in time</source>
+        <translation>no se encuentra a tiempo la dirección del servidor de impresión %1</translation>
+    </message>
+    <message>
+        <source>there is no print server named %1</source>
+        <translation>no hay ningún servidor de impresión llamado %1</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1 with encryption</source>
+        <translation>no se puede conectar con cifrado al servidor de impresión %1</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1; is it running?</source>
+        <translation>no se puede conectar con el servidor de impresión %1; ¿está en marcha?</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not want the whole document</source>
+        <translation>el servidor de impresión %1 no quiere el documento completo</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not answer within %2 s</source>
+        <translation>el servidor de impresión %1 no responde en %2 s</translation>
+    </message>
+    <message>
+        <source>the print server %1 broke the connection off</source>
+        <translation>el servidor de impresión %1 ha cortado la conexión</translation>
+    </message>
+    <message>
+        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
+        <translation>el servidor de impresión %1 remite a otra dirección (estado HTTP %2), que no se sigue</translation>
+    </message>
+    <message>
+        <source>the print server %1 asks for a password</source>
+        <translation>el servidor de impresión %1 pide una contraseña</translation>
+    </message>
+    <message>
+        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <translation>el servidor de impresión %1 responde: %2 (estado HTTP %3)</translation>
+    </message>
+    <message>
+        <source>the print server gave the job no number</source>
+        <translation>el servidor de impresión no ha dado número al trabajo</translation>
+    </message>
+    <message>
+        <source>the queue %1 takes no job: %2</source>
+        <translation>la cola %1 no acepta trabajos: %2</translation>
+    </message>
+    <message>
+        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <translation>no se puede cancelar el trabajo %1-%2: %3</translation>
+    </message>
+    <message>
+        <source>the PPD of %1 is too large</source>
+        <translation>el PPD de %1 es demasiado grande</translation>
+    </message>
+    <message>
+        <source>the job is not taken: %1</source>
+        <translation>no se acepta el trabajo: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: %2</source>
+        <translation>no se acepta %1: %2</translation>
+    </message>
+    <message>
+        <source>the queue %1 cannot be had: %2</source>
+        <translation>no se puede obtener la cola %1: %2</translation>
     </message>
 </context>
 <context>

@@ -214,14 +214,6 @@
         <translation>le nom du travail</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job</source>
-        <translation>la file %1 n’accepte pas de travail</translation>
-    </message>
-    <message>
-        <source>the job %1-%2 cannot be cancelled</source>
-        <translation>le travail %1-%2 ne peut pas être annulé</translation>
-    </message>
-    <message>
         <source>what other users see is not told: %1</source>
         <translation>impossible de savoir ce que voient les autres utilisateurs&#xa0;: %1</translation>
     </message>
@@ -286,32 +278,8 @@
         <translation>%1&#xa0;: est un dossier</translation>
     </message>
     <message>
-        <source>the job is not taken</source>
-        <translation>le travail n’est pas accepté</translation>
-    </message>
-    <message>
-        <source>%1 is not taken</source>
-        <translation>%1 n’est pas accepté</translation>
-    </message>
-    <message>
         <source>the job was stopped</source>
         <translation>le travail a été interrompu</translation>
-    </message>
-    <message>
-        <source>the print server does not answer</source>
-        <translation>le serveur d’impression ne répond pas</translation>
-    </message>
-    <message>
-        <source>the print server %1 does not answer</source>
-        <translation>le serveur d’impression %1 ne répond pas</translation>
-    </message>
-    <message>
-        <source>the queue %1 cannot be had</source>
-        <translation>la file %1 n’a pas pu être obtenue</translation>
-    </message>
-    <message>
-        <source>the print server does not take the request</source>
-        <translation>le serveur d’impression n’accepte pas la requête</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
@@ -324,6 +292,74 @@
     <message>
         <source>the print server&apos;s answer is too large</source>
         <translation>la réponse du serveur d’impression est trop volumineuse</translation>
+    </message>
+    <message>
+        <source>the address of the print server %1 is not found in time</source>
+        <translation>l’adresse du serveur d’impression %1 n’a pas été trouvée à temps</translation>
+    </message>
+    <message>
+        <source>there is no print server named %1</source>
+        <translation>il n’y a pas de serveur d’impression nommé %1</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1 with encryption</source>
+        <translation>connexion chiffrée au serveur d’impression %1 impossible</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1; is it running?</source>
+        <translation>connexion au serveur d’impression %1 impossible&#xa0;; est-il démarré&#xa0;?</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not want the whole document</source>
+        <translation>le serveur d’impression %1 ne veut pas tout le document</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not answer within %2 s</source>
+        <translation>le serveur d’impression %1 ne répond pas en %2 s</translation>
+    </message>
+    <message>
+        <source>the print server %1 broke the connection off</source>
+        <translation>le serveur d’impression %1 a interrompu la connexion</translation>
+    </message>
+    <message>
+        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
+        <translation>le serveur d’impression %1 renvoie à une autre adresse (état HTTP %2), qui n’est pas suivie</translation>
+    </message>
+    <message>
+        <source>the print server %1 asks for a password</source>
+        <translation>le serveur d’impression %1 demande un mot de passe</translation>
+    </message>
+    <message>
+        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <translation>le serveur d’impression %1 répond&#xa0;: %2 (état HTTP %3)</translation>
+    </message>
+    <message>
+        <source>the print server gave the job no number</source>
+        <translation>le serveur d’impression n’a pas donné de numéro au travail</translation>
+    </message>
+    <message>
+        <source>the queue %1 takes no job: %2</source>
+        <translation>la file %1 n’accepte pas de travail&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <translation>le travail %1-%2 ne peut pas être annulé&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>the PPD of %1 is too large</source>
+        <translation>le PPD de %1 est trop grand</translation>
+    </message>
+    <message>
+        <source>the job is not taken: %1</source>
+        <translation>le travail n’est pas accepté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: %2</source>
+        <translation>%1 n’est pas accepté&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the queue %1 cannot be had: %2</source>
+        <translation>la file %1 n’a pas pu être obtenue&#xa0;: %2</translation>
     </message>
 </context>
 <context>

@@ -213,14 +213,6 @@
         <translation>ジョブ名</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job</source>
-        <translation>キュー %1 はジョブを受け付けません</translation>
-    </message>
-    <message>
-        <source>the job %1-%2 cannot be cancelled</source>
-        <translation>ジョブ %1-%2 を取り消せません</translation>
-    </message>
-    <message>
         <source>what other users see is not told: %1</source>
         <translation>ほかのユーザーに見える内容がわかりません: %1</translation>
     </message>
@@ -285,32 +277,8 @@
         <translation>%1: フォルダーです</translation>
     </message>
     <message>
-        <source>the job is not taken</source>
-        <translation>ジョブが受け付けられません</translation>
-    </message>
-    <message>
-        <source>%1 is not taken</source>
-        <translation>%1 が受け付けられません</translation>
-    </message>
-    <message>
         <source>the job was stopped</source>
         <translation>ジョブは中止されました</translation>
-    </message>
-    <message>
-        <source>the print server does not answer</source>
-        <translation>プリントサーバーが応答しません</translation>
-    </message>
-    <message>
-        <source>the print server %1 does not answer</source>
-        <translation>プリントサーバー %1 が応答しません</translation>
-    </message>
-    <message>
-        <source>the queue %1 cannot be had</source>
-        <translation>キュー %1 を取得できません</translation>
-    </message>
-    <message>
-        <source>the print server does not take the request</source>
-        <translation>プリントサーバーが要求を受け付けません</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
@@ -323,6 +291,74 @@
     <message>
         <source>the print server&apos;s answer is too large</source>
         <translation>プリントサーバーの応答が大きすぎます</translation>
+    </message>
+    <message>
+        <source>the address of the print server %1 is not found in time</source>
+        <translation>プリントサーバー %1 のアドレスが時間内に見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>there is no print server named %1</source>
+        <translation>%1 という名前のプリントサーバーはありません</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1 with encryption</source>
+        <translation>プリントサーバー %1 に暗号化して接続できません</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1; is it running?</source>
+        <translation>プリントサーバー %1 に接続できません。動作していますか?</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not want the whole document</source>
+        <translation>プリントサーバー %1 はドキュメント全体を受け付けません</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not answer within %2 s</source>
+        <translation>プリントサーバー %1 が %2 秒以内に応答しません</translation>
+    </message>
+    <message>
+        <source>the print server %1 broke the connection off</source>
+        <translation>プリントサーバー %1 が接続を切断しました</translation>
+    </message>
+    <message>
+        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
+        <translation>プリントサーバー %1 が別のアドレスを示しました (HTTP ステータス %2)。転送には従いません</translation>
+    </message>
+    <message>
+        <source>the print server %1 asks for a password</source>
+        <translation>プリントサーバー %1 がパスワードを求めています</translation>
+    </message>
+    <message>
+        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <translation>プリントサーバー %1 の応答: %2 (HTTP ステータス %3)</translation>
+    </message>
+    <message>
+        <source>the print server gave the job no number</source>
+        <translation>プリントサーバーがジョブに番号を付けませんでした</translation>
+    </message>
+    <message>
+        <source>the queue %1 takes no job: %2</source>
+        <translation>キュー %1 はジョブを受け付けません: %2</translation>
+    </message>
+    <message>
+        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <translation>ジョブ %1-%2 を取り消せません: %3</translation>
+    </message>
+    <message>
+        <source>the PPD of %1 is too large</source>
+        <translation>%1 の PPD が大きすぎます</translation>
+    </message>
+    <message>
+        <source>the job is not taken: %1</source>
+        <translation>ジョブが受け付けられません: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: %2</source>
+        <translation>%1 が受け付けられません: %2</translation>
+    </message>
+    <message>
+        <source>the queue %1 cannot be had: %2</source>
+        <translation>キュー %1 を取得できません: %2</translation>
     </message>
 </context>
 <context>

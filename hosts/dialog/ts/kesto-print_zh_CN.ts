@@ -213,14 +213,6 @@
         <translation>作业名</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job</source>
-        <translation>队列 %1 不接受作业</translation>
-    </message>
-    <message>
-        <source>the job %1-%2 cannot be cancelled</source>
-        <translation>无法取消作业 %1-%2</translation>
-    </message>
-    <message>
         <source>what other users see is not told: %1</source>
         <translation>无法得知其他用户看到的内容：%1</translation>
     </message>
@@ -285,32 +277,8 @@
         <translation>%1：是文件夹</translation>
     </message>
     <message>
-        <source>the job is not taken</source>
-        <translation>作业未被接受</translation>
-    </message>
-    <message>
-        <source>%1 is not taken</source>
-        <translation>%1 未被接受</translation>
-    </message>
-    <message>
         <source>the job was stopped</source>
         <translation>作业已停止</translation>
-    </message>
-    <message>
-        <source>the print server does not answer</source>
-        <translation>打印服务器没有响应</translation>
-    </message>
-    <message>
-        <source>the print server %1 does not answer</source>
-        <translation>打印服务器 %1 没有响应</translation>
-    </message>
-    <message>
-        <source>the queue %1 cannot be had</source>
-        <translation>无法取得队列 %1</translation>
-    </message>
-    <message>
-        <source>the print server does not take the request</source>
-        <translation>打印服务器不接受请求</translation>
     </message>
     <message>
         <source>the print server&apos;s answer breaks off</source>
@@ -323,6 +291,74 @@
     <message>
         <source>the print server&apos;s answer is too large</source>
         <translation>打印服务器的应答过大</translation>
+    </message>
+    <message>
+        <source>the address of the print server %1 is not found in time</source>
+        <translation>未能及时找到打印服务器 %1 的地址</translation>
+    </message>
+    <message>
+        <source>there is no print server named %1</source>
+        <translation>没有名为 %1 的打印服务器</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1 with encryption</source>
+        <translation>无法以加密方式连接打印服务器 %1</translation>
+    </message>
+    <message>
+        <source>cannot connect to the print server %1; is it running?</source>
+        <translation>无法连接打印服务器 %1；它在运行吗？</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not want the whole document</source>
+        <translation>打印服务器 %1 不接受整个文档</translation>
+    </message>
+    <message>
+        <source>the print server %1 does not answer within %2 s</source>
+        <translation>打印服务器 %1 在 %2 秒内没有响应</translation>
+    </message>
+    <message>
+        <source>the print server %1 broke the connection off</source>
+        <translation>打印服务器 %1 中断了连接</translation>
+    </message>
+    <message>
+        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
+        <translation>打印服务器 %1 指向另一个地址（HTTP 状态 %2），不会跟随</translation>
+    </message>
+    <message>
+        <source>the print server %1 asks for a password</source>
+        <translation>打印服务器 %1 要求输入密码</translation>
+    </message>
+    <message>
+        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <translation>打印服务器 %1 的响应：%2（HTTP 状态 %3）</translation>
+    </message>
+    <message>
+        <source>the print server gave the job no number</source>
+        <translation>打印服务器没有给作业编号</translation>
+    </message>
+    <message>
+        <source>the queue %1 takes no job: %2</source>
+        <translation>队列 %1 不接受作业：%2</translation>
+    </message>
+    <message>
+        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <translation>无法取消作业 %1-%2：%3</translation>
+    </message>
+    <message>
+        <source>the PPD of %1 is too large</source>
+        <translation>%1 的 PPD 过大</translation>
+    </message>
+    <message>
+        <source>the job is not taken: %1</source>
+        <translation>作业未被接受：%1</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: %2</source>
+        <translation>%1 未被接受：%2</translation>
+    </message>
+    <message>
+        <source>the queue %1 cannot be had: %2</source>
+        <translation>无法取得队列 %1：%2</translation>
     </message>
 </context>
 <context>

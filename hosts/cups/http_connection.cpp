@@ -1,0 +1,247 @@
+#include "hosts/cups/http_connection.h"
+
+#include <sys/socket.h>
+
+#include <cstring>
+#include <future>
+
+#include "hosts/cups/bounds.h"
+#include "hosts/cups/faults.h"
+
+namespace kesto {
+namespace {
+
+constexpr qsizetype blockSize = 65536;
+// How long a document waits for the server's leave, which old servers do not give.
+constexpr std::chrono::milliseconds leave(1000);
+// How often it is asked whether the wait for an address is to be given up.
+constexpr std::chrono::milliseconds look(50);
+
+// Else the end of an encrypted connection waits for the other side's.
+void shutDown(http_t* http) {
+  if (httpGetFd(http) >= 0) ::shutdown(httpGetFd(http), SHUT_RDWR);
+}
+
+bool isRedirect(http_status_t status) {
+  return status >= HTTP_STATUS_MULTIPLE_CHOICES && status < HTTP_STATUS_BAD_REQUEST;
+}
+
+}  // namespace
+
+void CloseHttp::operator()(http_t* http) const {
+  shutDown(http);
+  httpClose(http);
+}
+
+// libcups calls it when a wait was as long as the limit. It goes on with a handshake all the same, unless the
+// connection is cut.
+int HttpConnection::giveUp(http_t* http, void* connection) {
+  static_cast<HttpConnection*>(connection)->m_isSilent = true;
+  shutDown(http);
+  return 0;
+}
+
+// Nothing ends a look-up that is under way: it has a thread of its own, which is left to itself.
+Outcome HttpConnection::findAddresses(const QByteArray& host, int port) {
+  std::packaged_task<Addresses()> task([host, port] {
+    return Addresses(httpAddrGetList(host.constData(), AF_UNSPEC, QByteArray::number(port).constData()));
+  });
+  std::future<Addresses> found = task.get_future();
+  std::thread(std::move(task)).detach();
+  const auto end = std::chrono::steady_clock::now() + m_limit;
+  while (found.wait_for(std::min(look, m_limit)) != std::future_status::ready) {
+    if (m_watchdog->isInterrupted() || std::chrono::steady_clock::now() >= end)
+      return Outcome::failed(
+          Faults::tr("the address of the print server %1 is not found in time").arg(m_name));
+  }
+  m_addresses = found.get();
+  return m_addresses ? Outcome::done()
+                     : Outcome::failed(Faults::tr("there is no print server named %1").arg(m_name));
+}
+
+Outcome HttpConnection::open(std::chrono::milliseconds limit, const std::shared_ptr<Watchdog>& watchdog,
+                             std::unique_ptr<HttpConnection>* connection) {
+  connection->reset();
+  std::unique_ptr<HttpConnection> made(new HttpConnection(limit, watchdog));
+  const QByteArray host = cupsServer();
+  const int port = ippPort();
+  made->m_name = QString::fromUtf8(host);
+  if (!host.startsWith('/')) made->m_name += QStringLiteral(":%1").arg(port);
+  if (Outcome found = made->findAddresses(host, port); !found) return found;
+  made->m_http.reset(httpConnect2(host.constData(), port, made->m_addresses.get(), AF_UNSPEC,
+                                  cupsEncryption(), 1, 0, nullptr));
+  if (!made->m_http) return Outcome::failed(QStringLiteral("there is no memory for a connection"));
+  httpSetTimeout(made->m_http.get(), std::chrono::duration<double>(limit).count(), giveUp, made.get());
+  if (Outcome connected = made->reconnect(); !connected) return connected;
+  *connection = std::move(made);
+  return Outcome::done();
+}
+
+Outcome HttpConnection::reconnect() {
+  http_t* http = m_http.get();
+  shutDown(http);
+  m_isSilent = false;
+  m_isUsable = false;
+  const Watch watch(*m_watchdog, http, m_addresses.get(), m_limit * waitsOfConnect);
+  if (httpReconnect2(http, static_cast<int>(m_limit.count()), m_watchdog->cancelFlag()) == 0 &&
+      !watch.hasCut()) {
+    m_isUsable = true;
+    return Outcome::done();
+  }
+  m_status = HTTP_STATUS_ERROR;
+  if (m_isSilent || watch.hasCut()) return noAnswer(watch);
+  if (cupsEncryption() == HTTP_ENCRYPTION_REQUIRED || cupsEncryption() == HTTP_ENCRYPTION_ALWAYS)
+    return Outcome::failed(Faults::tr("cannot connect to the print server %1 with encryption").arg(m_name));
+  return Outcome::failed(Faults::tr("cannot connect to the print server %1; is it running?").arg(m_name));
+}
+
+Outcome HttpConnection::exchange(const HttpRequest& request, QByteArray* reply) {
+  for (int tries = 1;; ++tries) {
+    // What can be read before anything was asked is the end of the connection.
+    if (m_isUsable && httpCheck(m_http.get()) != 0) m_isUsable = false;
+    if (!m_isUsable) {
+      if (Outcome connected = reconnect(); !connected) return connected;
+    }
+    if (Outcome answered = attempt(request, reply); !answered) return answered;
+    if (m_status == HTTP_STATUS_OK) return Outcome::done();
+    if (tries == mostAttempts || !canTryAgain(request)) return outcomeOfStatus();
+  }
+}
+
+// Leaves the connection usable only when all of the reply is read.
+Outcome HttpConnection::attempt(const HttpRequest& request, QByteArray* reply) {
+  m_isUsable = false;
+  m_isSilent = false;
+  m_hasBegunDocument = false;
+  m_status = HTTP_STATUS_ERROR;
+  Watch watch(*m_watchdog, m_http.get(), m_addresses.get(), m_limit * waitsOfReply);
+  if (Outcome sent = send(request, watch); !sent) return sent;
+  if (m_status == HTTP_STATUS_CONTINUE) {
+    watch.restart(m_limit);
+    do
+      m_status = httpUpdate(m_http.get());
+    while (m_status == HTTP_STATUS_CONTINUE);
+  }
+  // libcups takes what came before the cut for all of the head, and below for all of the reply.
+  if (m_isSilent || watch.hasCut()) m_status = HTTP_STATUS_ERROR;
+  if (m_status == HTTP_STATUS_ERROR) return noAnswer(watch);
+  if (m_status != HTTP_STATUS_OK) return Outcome::done();
+  watch.restart(m_limit * waitsOfReply);
+  Outcome received = receive(request.longestReply, reply);
+  if (m_isSilent || watch.hasCut()) return noAnswer(watch);
+  if (!received) return received;
+  m_isUsable = qstricmp(httpGetField(m_http.get(), HTTP_FIELD_CONNECTION), "close") != 0;
+  return Outcome::done();
+}
+
+// Afterwards the status is that the server may go on, or what it says before the request is all out.
+Outcome HttpConnection::send(const HttpRequest& request, Watch& watch) {
+  http_t* http = m_http.get();
+  httpClearFields(http);
+  // A single user of the connection is known by now, or nobody.
+  if (const char* user = httpGetAuthString(http); user != nullptr)
+    httpSetField(http, HTTP_FIELD_AUTHORIZATION, user);
+  if (request.body.isEmpty()) {
+    if (httpGet(http, request.resource.constData()) != 0) return noAnswer(watch);
+  } else {
+    httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+    httpSetLength(http, request.document ? 0 : static_cast<std::size_t>(request.body.size()));
+    httpSetExpect(http, HTTP_STATUS_CONTINUE);
+    if (httpPost(http, request.resource.constData()) != 0) return noAnswer(watch);
+    if (httpWrite2(http, request.body.constData(), static_cast<std::size_t>(request.body.size())) < 0)
+      return noAnswer(watch);
+  }
+  m_status = HTTP_STATUS_CONTINUE;
+  return request.document ? sendDocument(request, watch) : Outcome::done();
+}
+
+Outcome HttpConnection::sendDocument(const HttpRequest& request, Watch& watch) {
+  http_t* http = m_http.get();
+  if (httpFlushWrite(http) < 0) return noAnswer(watch);
+  watch.restart(m_limit + leave);
+  if (httpWait(http, static_cast<int>(leave.count())) != 0) m_status = httpUpdate(http);
+  if (m_status != HTTP_STATUS_CONTINUE) return Outcome::done();
+  watch.restart({});
+  m_hasBegunDocument = true;
+  Outcome sent =
+      request.document([&](const char* bytes, qsizetype count) { return sendPart(bytes, count, watch); });
+  // The server may have answered in between.
+  if (m_status != HTTP_STATUS_CONTINUE)
+    return m_status == HTTP_STATUS_ERROR ? noAnswer(watch) : Outcome::done();
+  if (!sent) m_status = HTTP_STATUS_ERROR;
+  if (sent && httpWrite2(http, "", 0) < 0) return noAnswer(watch);
+  return sent;
+}
+
+Outcome HttpConnection::sendPart(const char* bytes, qsizetype count, Watch& watch) {
+  http_t* http = m_http.get();
+  if (httpCheck(http) != 0) {
+    watch.restart(m_limit);
+    m_status = httpUpdate(http);
+    watch.restart({});
+    if (m_status != HTTP_STATUS_CONTINUE)
+      return Outcome::failed(Faults::tr("the print server %1 does not want the whole document").arg(m_name));
+  }
+  if (httpWrite2(http, bytes, static_cast<std::size_t>(count)) >= 0) return Outcome::done();
+  m_status = HTTP_STATUS_ERROR;
+  return noAnswer(watch);
+}
+
+Outcome HttpConnection::receive(qsizetype longest, QByteArray* reply) {
+  const auto hasField = [&](http_field_t field) { return *httpGetField(m_http.get(), field) != '\0'; };
+  reply->clear();
+  QByteArray block(blockSize, Qt::Uninitialized);
+  ssize_t count = 0;
+  while ((count = httpRead2(m_http.get(), block.data(), static_cast<std::size_t>(block.size()))) > 0) {
+    reply->append(block.constData(), count);
+    if (reply->size() > longest) return Outcome::failed(Faults::tr("the print server's answer is too large"));
+  }
+  // Without a length the end of the connection is the end.
+  const bool hasLength = hasField(HTTP_FIELD_CONTENT_LENGTH) || hasField(HTTP_FIELD_TRANSFER_ENCODING);
+  const bool isWhole = count == 0 && (!hasLength || httpGetState(m_http.get()) == HTTP_STATE_WAITING);
+  return isWhole ? Outcome::done() : Outcome::failed(Faults::tr("the print server's answer breaks off"));
+}
+
+// Whether the server may answer otherwise now that it knows who asks, or that nobody overhears.
+bool HttpConnection::canTryAgain(const HttpRequest& request) {
+  http_t* http = m_http.get();
+  if (m_status == HTTP_STATUS_UPGRADE_REQUIRED && httpIsEncrypted(http) == 0) {
+    const Watch watch(*m_watchdog, http, m_addresses.get(), m_limit * waitsOfConnect);
+    shutDown(http);
+    httpReconnect2(http, static_cast<int>(m_limit.count()), m_watchdog->cancelFlag());
+    m_isUsable = httpEncryption(http, HTTP_ENCRYPTION_REQUIRED) == 0;
+    return m_isUsable;
+  }
+  if (m_hasBegunDocument) return false;
+  const char* method = request.body.isEmpty() ? "GET" : "POST";
+  return m_status == HTTP_STATUS_UNAUTHORIZED && request.mayAskPassword &&
+         cupsDoAuthentication(http, method, request.resource.constData()) == 0;
+}
+
+Outcome HttpConnection::noAnswer(const Watch& watch) const {
+  if (m_watchdog->isInterrupted()) return Outcome::failed(QStringLiteral("the wait was given up"));
+  if (m_isSilent || watch.hasCut()) {
+    const QString seconds = QString::number(std::chrono::duration<double>(m_limit).count());
+    return Outcome::failed(
+        Faults::tr("the print server %1 does not answer within %2 s").arg(m_name, seconds));
+  }
+  return Outcome::failed(Faults::tr("the print server %1 broke the connection off").arg(m_name));
+}
+
+Outcome HttpConnection::outcomeOfStatus() const {
+  if (isRedirect(m_status)) {
+    return Outcome::failed(
+        Faults::tr("the print server %1 points to another address (HTTP status %2), which is not followed")
+            .arg(m_name)
+            .arg(m_status));
+  }
+  // Beyond HTTP's own, libcups has a status for a password that was not given.
+  const bool isPassword =
+      m_status == HTTP_STATUS_UNAUTHORIZED || m_status >= HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+  if (isPassword) return Outcome::failed(Faults::tr("the print server %1 asks for a password").arg(m_name));
+  return Outcome::failed(Faults::tr("the print server %1 answers: %2 (HTTP status %3)")
+                             .arg(m_name, QString::fromUtf8(httpStatus(m_status)))
+                             .arg(m_status));
+}
+
+}  // namespace kesto

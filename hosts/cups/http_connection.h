@@ -1,0 +1,78 @@
+// An HTTP connection to a print server on which every wait ends, whatever the server does.
+#pragma once
+
+#include <cups/cups.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include "hosts/cups/watchdog.h"
+#include "platform/outcome.h"
+
+namespace kesto {
+
+struct CloseHttp {
+  void operator()(http_t* http) const;
+};
+
+/// A request: a GET when it has no body, else a POST of a message in IPP.
+struct HttpRequest {
+  /// Sends a part of the document.
+  using Sink = std::function<Outcome(const char* bytes, qsizetype count)>;
+
+  QByteArray resource;
+  QByteArray body{};
+  /// Sends what follows the body, part by part.
+  std::function<Outcome(const Sink& sink)> document{};
+  /// The longest reply that is taken, in bytes.
+  qsizetype longestReply = 0;
+  /// Whether the user may be asked for a password.
+  bool mayAskPassword = false;
+};
+
+/// One connection. libcups speaks HTTP, encrypts and knows who asks; every wait is watched. Without progress
+/// a request fails after the limit; the head of a reply must be there within the limit, and all of it within
+/// `waitsOfReply` times the limit. A document goes on while it moves. Redirects are not followed.
+class HttpConnection {
+ public:
+  /// Connects to the server that libcups has been given for this thread.
+  static Outcome open(std::chrono::milliseconds limit, const std::shared_ptr<Watchdog>& watchdog,
+                      std::unique_ptr<HttpConnection>* connection);
+
+  /// Sends a request and reads the reply; fails unless the server answers that all is well.
+  Outcome exchange(const HttpRequest& request, QByteArray* reply);
+  /// How the server answered last; HTTP_STATUS_ERROR when it did not.
+  http_status_t status() const { return m_status; }
+
+ private:
+  using Watch = Watchdog::Watch;
+
+  HttpConnection(std::chrono::milliseconds limit, const std::shared_ptr<Watchdog>& watchdog)
+      : m_limit(limit), m_watchdog(watchdog) {}
+  Outcome findAddresses(const QByteArray& host, int port);
+  Outcome reconnect();
+  Outcome attempt(const HttpRequest& request, QByteArray* reply);
+  Outcome send(const HttpRequest& request, Watch& watch);
+  Outcome sendDocument(const HttpRequest& request, Watch& watch);
+  Outcome sendPart(const char* bytes, qsizetype count, Watch& watch);
+  Outcome receive(qsizetype longest, QByteArray* reply);
+  bool canTryAgain(const HttpRequest& request);
+  Outcome noAnswer(const Watch& watch) const;
+  Outcome outcomeOfStatus() const;
+  static int giveUp(http_t* http, void* connection);
+
+  QString m_name;  // as people know the server
+  std::chrono::milliseconds m_limit;
+  std::shared_ptr<Watchdog> m_watchdog;
+  Addresses m_addresses;
+  std::unique_ptr<http_t, CloseHttp> m_http;
+  http_status_t m_status = HTTP_STATUS_ERROR;
+  bool m_isUsable = false;          // for another request
+  bool m_isSilent = false;          // a wait was given up
+  bool m_hasBegunDocument = false;  // which is read only once
+};
+
+}  // namespace kesto

@@ -1,0 +1,118 @@
+#include "hosts/cups/watchdog.h"
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <atomic>
+
+namespace kesto {
+namespace {
+
+// How soon a connection is cut that libcups has made anew.
+constexpr std::chrono::milliseconds nextLook(50);
+
+bool isConnectedTo(int descriptor, const http_addrlist_t* addresses) {
+  http_addr_t peer{};
+  socklen_t length = sizeof peer;
+  if (::getpeername(descriptor, &peer.addr, &length) != 0) return false;
+  for (const http_addrlist_t* each = addresses; each != nullptr; each = each->next) {
+    auto* address = const_cast<http_addr_t*>(&each->addr);  // libcups's look is one without const
+    if (httpAddrEqual(&peer, address) != 0 && httpAddrPort(&peer) == httpAddrPort(address)) return true;
+  }
+  return false;
+}
+
+// The number may be another file's by now: libcups closes and opens sockets in its own thread. So it is held
+// first, and cut only if it leads to the print server.
+void cut(http_t* http, const http_addrlist_t* addresses) {
+  const int held = ::fcntl(httpGetFd(http), F_DUPFD_CLOEXEC, 0);
+  if (held < 0) return;
+  if (isConnectedTo(held, addresses)) ::shutdown(held, SHUT_RDWR);
+  ::close(held);
+}
+
+}  // namespace
+
+void FreeAddresses::operator()(http_addrlist_t* addresses) const {
+  httpAddrFreeList(addresses);
+}
+
+Watchdog::~Watchdog() {
+  {
+    const std::lock_guard lock(m_mutex);
+    m_isGone = true;
+  }
+  m_changed.notify_all();
+  if (m_thread.joinable()) m_thread.join();
+}
+
+void Watchdog::interrupt() {
+  {
+    const std::lock_guard lock(m_mutex);
+    std::atomic_ref(m_isInterrupted).store(1);
+  }
+  m_changed.notify_all();
+}
+
+bool Watchdog::isInterrupted() const {
+  const std::lock_guard lock(m_mutex);
+  return m_isInterrupted != 0;
+}
+
+std::optional<Watchdog::Clock::time_point> Watchdog::after(std::optional<std::chrono::milliseconds> limit) {
+  return limit ? std::optional(Clock::now() + *limit) : std::nullopt;
+}
+
+bool Watchdog::isDue() const {
+  return m_isInterrupted != 0 || (m_end && *m_end <= Clock::now());
+}
+
+void Watchdog::run() {
+  std::unique_lock lock(m_mutex);
+  while (!m_isGone) {
+    if (m_http != nullptr && isDue()) {
+      m_hasCut = true;
+      cut(m_http, m_addresses);
+      m_changed.wait_for(lock, nextLook);
+    } else if (m_http != nullptr && m_end) {
+      m_changed.wait_until(lock, *m_end);
+    } else {
+      m_changed.wait(lock);
+    }
+  }
+}
+
+Watchdog::Watch::Watch(Watchdog& dog, http_t* http, const http_addrlist_t* addresses,
+                       std::optional<std::chrono::milliseconds> limit)
+    : m_dog(dog) {
+  {
+    const std::lock_guard lock(dog.m_mutex);
+    dog.m_http = http;
+    dog.m_addresses = addresses;
+    dog.m_end = after(limit);
+    dog.m_hasCut = false;
+    if (!dog.m_thread.joinable()) dog.m_thread = std::thread([&dog] { dog.run(); });
+  }
+  dog.m_changed.notify_all();
+}
+
+Watchdog::Watch::~Watch() {
+  const std::lock_guard lock(m_dog.m_mutex);
+  m_dog.m_http = nullptr;
+}
+
+void Watchdog::Watch::restart(std::optional<std::chrono::milliseconds> limit) {
+  {
+    const std::lock_guard lock(m_dog.m_mutex);
+    m_dog.m_end = after(limit);
+  }
+  m_dog.m_changed.notify_all();
+}
+
+bool Watchdog::Watch::hasCut() const {
+  const std::lock_guard lock(m_dog.m_mutex);
+  return m_dog.m_hasCut;
+}
+
+}  // namespace kesto

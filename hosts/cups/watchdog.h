@@ -1,0 +1,74 @@
+// Ends a wait on a print server from outside: when its time is over, or nobody wants the answer any more.
+#pragma once
+
+#include <cups/cups.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <thread>
+
+namespace kesto {
+
+struct FreeAddresses {
+  void operator()(http_addrlist_t* addresses) const;
+};
+
+/// The addresses of a print server, freed with their owner.
+using Addresses = std::unique_ptr<http_addrlist_t, FreeAddresses>;
+
+/// Watches one connection at a time. libcups bounds a single wait, but neither what trickles nor what never
+/// ends; so the watchdog cuts the socket under it, again for as long as libcups connects anew.
+class Watchdog {
+ public:
+  Watchdog() = default;
+  ~Watchdog();
+  Watchdog(const Watchdog&) = delete;
+  Watchdog& operator=(const Watchdog&) = delete;
+
+  /// Ends what waits, now and from now on. For any thread.
+  void interrupt();
+  bool isInterrupted() const;
+  /// Where libcups looks while it connects: not 0 once interrupted.
+  int* cancelFlag() { return &m_isInterrupted; }
+
+  /// While it lives, the connection is watched. `http` and `addresses` must outlive it.
+  class Watch {
+   public:
+    /// Without a limit only an interruption ends the wait.
+    Watch(Watchdog& dog, http_t* http, const http_addrlist_t* addresses,
+          std::optional<std::chrono::milliseconds> limit);
+    ~Watch();
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+
+    /// Gives the wait a new limit from now on.
+    void restart(std::optional<std::chrono::milliseconds> limit);
+    /// Whether the connection was cut.
+    bool hasCut() const;
+
+   private:
+    Watchdog& m_dog;
+  };
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  void run();
+  bool isDue() const;
+  static std::optional<Clock::time_point> after(std::optional<std::chrono::milliseconds> limit);
+
+  mutable std::mutex m_mutex;
+  std::condition_variable m_changed;
+  std::thread m_thread;      // from the first watch on
+  http_t* m_http = nullptr;  // what is watched
+  const http_addrlist_t* m_addresses = nullptr;
+  std::optional<Clock::time_point> m_end;
+  int m_isInterrupted = 0;
+  bool m_hasCut = false;
+  bool m_isGone = false;
+};
+
+}  // namespace kesto
