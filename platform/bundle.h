@@ -2,11 +2,11 @@
 #pragma once
 
 #include <QtCore/QByteArray>
-#include <QtCore/QLocale>
 #include <QtCore/QString>
 #include <QtCore/QTranslator>
 #include <optional>
 
+#include "platform/locale_name.h"
 #include "platform/outcome.h"
 
 namespace kesto {
@@ -17,8 +17,8 @@ class PrintDialogPlugIn;
 /// translations `Localizable_<language>.qm`.
 class Bundle {
  public:
-  /// `directory` is the path of the bundle; texts are looked up in the languages of `locale`.
-  explicit Bundle(QString directory, const QLocale& locale = QLocale::system());
+  /// `directory` is the path of the bundle; texts are looked up in the language of `locale`.
+  explicit Bundle(QString directory, const QLocale& locale = userLanguage());
   Bundle(const Bundle&) = delete;
   Bundle& operator=(const Bundle&) = delete;
 

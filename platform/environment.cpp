@@ -8,6 +8,8 @@
 #include <QtCore/QFile>
 #include <vector>
 
+#include "platform/locale_name.h"
+
 namespace kesto {
 namespace {
 
@@ -73,11 +75,7 @@ QString userTemporaryDirectory() {
 }
 
 TextEncoding systemEncodingOfEnvironment() {
-  for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
-    const QByteArray locale = qgetenv(variable);
-    if (!locale.isEmpty()) return systemEncodingForLocale(QString::fromLatin1(locale));
-  }
-  return systemEncodingForLocale({});
+  return systemEncodingForLocale(localeOfEnvironment("LC_CTYPE"));
 }
 
 }  // namespace kesto

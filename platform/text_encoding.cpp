@@ -1,12 +1,12 @@
 #include "platform/text_encoding.h"
 
 #include <unicode/ucnv.h>
-#include <unicode/uloc.h>
 
 #include <QtCore/QLoggingCategory>
 #include <array>
 #include <memory>
 
+#include "platform/locale_name.h"
 #include "platform/secret.h"
 #include "platform/surrogates.h"
 
@@ -169,33 +169,6 @@ constexpr std::array languages{
     LanguageRow{QLatin1String("tr"), TextEncoding::MacTurkish},
 };
 
-struct ModifierRow {
-  QLatin1String modifier;
-  bool isCyrillic = false;
-};
-
-// The locale modifiers that name a script.
-constexpr std::array scripts{
-    ModifierRow{QLatin1String("cyrillic"), true},
-    ModifierRow{QLatin1String("latin"), false},
-    ModifierRow{QLatin1String("iqtelif"), false},
-    ModifierRow{QLatin1String("devanagari"), false},
-};
-
-// By the modifier, else by the script that CLDR gives to language and territory. ICU has that for every
-// language of CLDR, Qt only for those whose formats it knows.
-bool isCyrillic(const QString& name, const QString& modifier) {
-  for (const ModifierRow& row : scripts) {
-    if (modifier == row.modifier) return row.isCyrillic;
-  }
-  std::array<char, ULOC_FULLNAME_CAPACITY> likely{};
-  std::array<char, ULOC_SCRIPT_CAPACITY> script{};
-  UErrorCode status = U_ZERO_ERROR;
-  uloc_addLikelySubtags(name.toLatin1().constData(), likely.data(), likely.size(), &status);
-  uloc_getScript(likely.data(), script.data(), script.size(), &status);
-  return U_SUCCESS(status) && qstrcmp(script.data(), "Cyrl") == 0;
-}
-
 }  // namespace
 
 int systemEncodingCode(TextEncoding encoding) {
@@ -207,17 +180,14 @@ int stringEncodingCode(TextEncoding encoding) {
 }
 
 TextEncoding systemEncodingForLocale(const QString& locale) {
-  // language[_TERRITORY][.codeset][@modifier]
-  const QString modifier = locale.section(u'@', 1);
-  const QString name = locale.section(u'@', 0, 0).section(u'.', 0, 0);
-  const QString language = name.section(u'_', 0, 0);
-  const QString territory = name.section(u'_', 1);
-  if (language == u"zh" && (territory == u"TW" || territory == u"HK" || territory == u"MO")) {
+  const LocaleName name = localeNameOf(locale);
+  const QString& territory = name.territory;
+  if (name.language == u"zh" && (territory == u"TW" || territory == u"HK" || territory == u"MO")) {
     return TextEncoding::MacTraditionalChinese;
   }
-  if (isCyrillic(name, modifier)) return TextEncoding::MacCyrillic;
+  if (name.script == u"Cyrl") return TextEncoding::MacCyrillic;
   for (const LanguageRow& row : languages) {
-    if (language == row.language) return row.encoding;
+    if (name.language == row.language) return row.encoding;
   }
   return TextEncoding::MacRoman;
 }

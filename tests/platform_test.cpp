@@ -49,6 +49,32 @@ TEST_F(Environment, TheFirstLocaleVariableThatIsSetDecides) {
   }
 }
 
+TEST_F(Environment, TheFirstLanguageOfTheUsersThatThereIsDecides) {
+  // LC_ALL, LC_MESSAGES, LANG and LANGUAGE.
+  using Case = std::pair<std::array<const char*, 4>, Text>;
+  for (const auto& [values, language] :
+       {Case{{"de_DE.UTF-8", "fr_FR", "es_ES", nullptr}, "de"}, Case{{"", "fr_CA.UTF-8", "es_ES", ""}, "fr"},
+        Case{{nullptr, nullptr, "es_MX", nullptr}, "es"},
+        Case{{nullptr, nullptr, "en_US.UTF-8", "en_US:de"}, "en"},
+        Case{{nullptr, nullptr, "en_GB.UTF-8", "en_GB:en:fr"}, "en"},
+        Case{{nullptr, nullptr, "de_DE.UTF-8", "pt_BR:es"}, "es"},
+        Case{{nullptr, nullptr, "de_DE.UTF-8", "pt_BR:nl"}, "de"},
+        Case{{nullptr, nullptr, "pt_BR.UTF-8", "nl::ja_JP"}, "ja"},
+        Case{{nullptr, nullptr, "de_DE.UTF-8", "C:fr"}, "en"}, Case{{"C", nullptr, "de_DE", "de"}, "en"},
+        Case{{"POSIX", nullptr, nullptr, "de"}, "en"}, Case{{nullptr, "C.UTF-8", "de_DE", "de"}, "en"},
+        Case{{nullptr, nullptr, nullptr, "de"}, "en"}, Case{{nullptr, nullptr, "pt_BR", nullptr}, "en"},
+        Case{{nullptr, nullptr, "zh_SG.UTF-8", nullptr}, "zh"},
+        Case{{nullptr, nullptr, "zh_TW.UTF-8", "zh_TW:fr"}, "fr"}}) {
+    int number = 0;
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"})
+      set(variable, values.at(static_cast<std::size_t>(number++)));
+    EXPECT_EQ(QLocale::languageToCode(userLanguage().language()), language) << values[2] << values[3];
+    const bool isGerman =
+        Bundle(Bundle::find(u"JobHandling.pde"_s)).localizedStringForKey(u"Retention"_s) == u"Zurückhalten"_s;
+    EXPECT_EQ(isGerman, language == u"de"_s);
+  }
+}
+
 TEST_F(Environment, TheTemporaryDirectoryIsNamedOrPrivate) {
   const QTemporaryDir folder;
   const QByteArray own = folder.path().toLatin1() + "/kesto";

@@ -2,16 +2,17 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLibraryInfo>
-#include <QtCore/QLocale>
 #include <QtCore/QTranslator>
 #include <memory>
+
+#include "platform/locale_name.h"
 
 namespace kesto {
 namespace {
 
 void install(const QString& name, const QString& folder) {
   auto translator = std::make_unique<QTranslator>();
-  if (!translator->load(QLocale(), name, QStringLiteral("_"), folder)) return;
+  if (!translator->load(userLanguage(), name, QStringLiteral("_"), folder)) return;
   translator->setParent(QCoreApplication::instance());
   QCoreApplication::installTranslator(translator.release());
 }
