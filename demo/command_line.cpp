@@ -8,6 +8,7 @@
 
 #include "hosts/command/arguments.h"
 #include "hosts/command/secret_arguments.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -124,7 +125,8 @@ std::optional<int> parse(CLI::App& app, int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     fault = error.what();
   }
-  std::cerr << "kesto-demo-printer: " << fault << "\nkesto-demo-printer --help tells more.\n";
+  std::cerr << "kesto-demo-printer: " << shownText(QString::fromUtf8(fault)).toStdString()
+            << "\nkesto-demo-printer --help tells more.\n";
   return exitUsage;
 }
 
@@ -159,7 +161,7 @@ std::optional<int> parseDemoCommand(int argc, char** argv, DemoCommand* command)
   if (app.count("--folder-port") > 0) command->setup.folderPort = static_cast<quint16>(arguments.folderPort);
   const Outcome completed = complete(arguments, command);
   if (completed) return std::nullopt;
-  std::cerr << "kesto-demo-printer: " << completed.reason().toStdString() << '\n';
+  std::cerr << "kesto-demo-printer: " << shownText(completed.reason()).toStdString() << '\n';
   return exitFailed;
 }
 

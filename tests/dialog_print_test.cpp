@@ -1,5 +1,7 @@
 // The dialog on the demo printer's scheduler, and on servers that are none.
+#include <sys/stat.h>
 #include <QtGui/QAccessible>
+
 #include <QtNetwork/QTcpServer>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
@@ -270,6 +272,23 @@ TEST_F(DialogPrint, WhatIsMissingOfTheDocumentsIsNamedAndTheRestPrinted) {
   EXPECT_FALSE(widget(u"print"_s)->isEnabled());
 }
 
+TEST_F(DialogPrint, PrintReadsTheRestOfALongPipe) {
+  startPrinter();
+  const QString fifo = m_folder.path(u"fifo"_s);
+  ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+  openReady({fifo});  // it has no writer yet
+  EXPECT_FALSE(widget(u"print"_s)->isEnabled());
+  const DemoProcess writer(m_folder, u"sh"_s,
+                           {u"-c"_s, u"cat \"$0\" > \"$1\""_s, m_folder.path(u"report.pdf"_s), fifo});
+  await([this] { return widget(u"print"_s)->isEnabled(); }, u"the pause"_s);
+  EXPECT_EQ(m_document.state(), Document::State::Paused);
+  click(u"print"_s);
+  EXPECT_TRUE(m_dialog->isVisible());
+  await([this] { return m_dialog->job() > 0; }, u"the job"_s);
+  m_printer->waitForLog("job 1 from ");
+  EXPECT_EQ(bytesOf(m_printer->place(u"output"_s) + u"/job-1-1"_s), pdfDocument());
+}
+
 TEST_F(DialogPrint, TextsOfOthersStayOnTheirLine) {
   startPrinter();
   changePpd(u"Office_MFP"_s, "*PageSize A5/A5:", "*PageSize A5/A\x9b 5:");
@@ -507,6 +526,7 @@ TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
       {"a picture", {u"-h"_s, server, u"--screenshot"_s, picture, m_folder.path(u"report.pdf"_s)}, 0, "", ""},
       {"help", {u"--help"_s}, 0, "usage: kesto-print", ""},
       {"no such option", {u"--nonsense"_s}, 2, "", "--nonsense"},
+      {"an option that a terminal would obey", {u"--\u001b[2J"_s}, 2, "", "--\\x1b[2J"},
       {"no time at all", {u"--timeout"_s, u"0"_s}, 2, "", "--timeout"},
       {"no number of seconds", {u"--timeout"_s, u"nan"_s}, 2, "", "--timeout"},
       {"a number as C has it", {u"-n"_s, u"0x10"_s}, 2, "", "-n"},

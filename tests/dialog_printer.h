@@ -115,7 +115,7 @@ class DialogPrint : public testing::Test {
   ScratchFolder m_folder;
   std::optional<RunningPrinter> m_printer;
   PrintOptions m_options;
-  Document m_document;
+  Document m_document{{.beforePrint = 100'000, .whole = 1'000'000}};
   std::optional<PrintDialog> m_dialog;
 };
 

@@ -13,6 +13,7 @@
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/start_times.h"
 #include "hosts/dialog/translations.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -47,7 +48,7 @@ void takeScreenshot(PrintDialog& dialog, const QString& path) {
   const auto take = [&dialog, path] {
     if (!dialog.isSettled() || !dialog.preview().isSettled()) return;
     const bool isSaved = dialog.grab().save(path);
-    if (!isSaved) std::cerr << "kesto-print: " << path.toStdString() << " cannot be written\n";
+    if (!isSaved) std::cerr << "kesto-print: " << shownText(path).toStdString() << " cannot be written\n";
     dialog.done(isSaved ? QDialog::Accepted : QDialog::Rejected);
   };
   // What was laid out for the news is painted first.
@@ -79,7 +80,8 @@ int run(TimedApplication& application, const PrintOptions& options) {
   if (!options.screenshot.isNull()) takeScreenshot(dialog, options.screenshot);
   if (dialog.exec() != QDialog::Accepted) return ExitFailed;
   if (dialog.job() > 0) {
-    std::cout << "request id is " << dialog.queueName().toStdString() << '-' << dialog.job() << std::endl;
+    std::cout << "request id is " << shownText(dialog.queueName()).toStdString() << '-' << dialog.job()
+              << std::endl;
   }
   return ExitDone;
 }

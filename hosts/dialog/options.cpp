@@ -7,6 +7,7 @@
 
 #include "hosts/command/arguments.h"
 #include "hosts/cups/print_job.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -79,7 +80,8 @@ class CommandLine {
       std::cout << help;
       return 0;
     } catch (const CLI::ParseError& error) {
-      std::cerr << "kesto-print: " << error.what() << "\nkesto-print --help tells more.\n";
+      std::cerr << "kesto-print: " << shownText(QString::fromUtf8(error.what())).toStdString()
+                << "\nkesto-print --help tells more.\n";
       return exitUsage;
     }
   }

@@ -79,7 +79,8 @@ Outcome submit(PrintServer& server, const cups_dest_t& destination, const Option
     std::cout << "{\"job\":" << id << "}\n";
   } else {
     const std::size_t files = std::max(std::size_t{1}, job.files.size());
-    std::cout << "request id is " << destination.name << '-' << id << " (" << files << " file(s))\n";
+    std::cout << "request id is " << shownText(QString::fromUtf8(destination.name)).toStdString() << '-' << id
+              << " (" << files << " file(s))\n";
   }
   return Outcome::done();
 }
