@@ -1,49 +1,69 @@
-// socket: a backend that carries a job to a raw TCP port, for a scheduler that has none.
+// socket: a backend that carries a job to the printer's own socket, for a scheduler that has none. The path
+// of the device URI is that of the socket; its host is for those who look for the printer's services.
 #include <cups/backend.h>
 #include <cups/cups.h>
 #include <fcntl.h>
 #include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 namespace {
-
-constexpr int connectLimitMs = 30'000;
 
 // The socket that leads to the printer, negative when there is none.
 int connectTo(const char* uri) {
   std::array<char, 32> scheme{};
   std::array<char, 256> user{};
   std::array<char, 256> host{};
-  std::array<char, 1024> resource{};
+  std::array<char, 1024> path{};
   int port = 0;
   if (httpSeparateURI(HTTP_URI_CODING_ALL, uri, scheme.data(), scheme.size(), user.data(), user.size(),
-                      host.data(), host.size(), &port, resource.data(),
-                      resource.size()) < HTTP_URI_STATUS_OK) {
+                      host.data(), host.size(), &port, path.data(), path.size()) < HTTP_URI_STATUS_OK) {
     return -1;
   }
-  http_addrlist_t* addresses = httpAddrGetList(host.data(), AF_UNSPEC, std::to_string(port).c_str());
-  int printer = -1;
-  if (addresses != nullptr) httpAddrConnect2(addresses, &printer, connectLimitMs, nullptr);
-  httpAddrFreeList(addresses);
-  return printer;
+  sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+  const std::string_view name = path.data();
+  if (name.size() >= sizeof address.sun_path) return -1;
+  name.copy(address.sun_path, name.size());
+  const int printer = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  if (printer < 0) return -1;
+  if (::connect(printer, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) return printer;
+  ::close(printer);
+  return -1;
+}
+
+bool sendAll(int to, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count = ::send(to, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    if (count < 0 && errno != EINTR) return false;
+    if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return true;
 }
 
 bool copyAll(int from, int to) {
   std::array<char, 65536> bytes{};
   for (;;) {
     const ssize_t count = ::read(from, bytes.data(), bytes.size());
+    if (count < 0 && errno == EINTR) continue;
     if (count <= 0) return count == 0;
-    for (ssize_t sent = 0; sent < count;) {
-      const ssize_t now =
-          ::send(to, bytes.data() + sent, static_cast<std::size_t>(count - sent), MSG_NOSIGNAL);
-      if (now < 0) return false;
-      sent += now;
-    }
+    if (!sendAll(to, {bytes.data(), static_cast<std::size_t>(count)})) return false;
   }
+}
+
+// What the printer says of the job, a line without its end; empty when it says nothing.
+std::string answerOf(int printer) {
+  std::string answer;
+  std::array<char, 256> bytes{};
+  ssize_t count = 0;
+  while (answer.size() < bytes.size() && (count = ::read(printer, bytes.data(), bytes.size())) > 0)
+    answer.append(bytes.data(), static_cast<std::size_t>(count));
+  return answer.ends_with('\n') ? answer.substr(0, answer.find('\n')) : "";
 }
 
 int fail(const char* reason) {
@@ -60,10 +80,10 @@ int main(int argc, char** argv) {
   const int printer = uri == nullptr ? -1 : connectTo(uri);
   if (printer < 0) return fail("the printer cannot be reached");
   const int document = argc == 7 ? ::open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
-  if (document < 0 || !copyAll(document, printer)) return fail("the job does not go through");
-  // The job is done when the printer has taken all of it: it then ends the connection. A reset is a refusal.
-  ::shutdown(printer, SHUT_WR);
-  char byte = 0;
-  if (::read(printer, &byte, 1) != 0) return fail("the printer refuses the job");
-  return CUPS_BACKEND_OK;
+  if (document < 0) return fail("the document cannot be opened");
+  // Only what the printer says it has taken is printed: a connection that ends says nothing.
+  const bool isSent = copyAll(document, printer) && sendAll(printer, "@END\n");
+  const std::string answer = answerOf(printer);
+  if (isSent && answer == "taken") return CUPS_BACKEND_OK;
+  return fail(answer.empty() ? "the printer has not taken the job" : answer.c_str());
 }

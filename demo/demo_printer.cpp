@@ -47,7 +47,8 @@ Outcome DemoPrinter::startPrinting() {
 
   m_store.emplace(m_runFolder.path(QStringLiteral("held")), m_setup.output);
   m_printer.emplace(*m_store);
-  if (Outcome listening = m_printer->listen(); !listening) return listening;
+  const QString printerSocket = m_runFolder.socketPath(QStringLiteral("printer"));
+  if (Outcome listening = m_printer->listen(printerSocket); !listening) return listening;
   m_control.emplace(*m_store);
   if (Outcome listening = m_control->listen(controlPath(m_setup.directory)); !listening) return listening;
   m_scheduler.emplace(m_runFolder);
@@ -55,13 +56,14 @@ Outcome DemoPrinter::startPrinting() {
     logLine(QStringLiteral("the scheduler has ended"));
     QCoreApplication::exit(1);
   });
-  return m_scheduler->start(m_printer->port(), m_setup.queues);
+  return m_scheduler->start(printerSocket, m_setup.queues, m_setup.port);
 }
 
 QJsonObject DemoPrinter::whereabouts() const {
   QJsonObject places{{QStringLiteral("folders"), m_folderService.address()}};
   if (m_scheduler) {
     places.insert(QStringLiteral("server"), m_scheduler->address());
+    if (m_setup.port) places.insert(QStringLiteral("port"), m_scheduler->portAddress());
     places.insert(QStringLiteral("queue"), QLatin1String(demoQueue));
     places.insert(QStringLiteral("output"), m_setup.output);
   }

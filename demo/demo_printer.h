@@ -20,6 +20,7 @@ struct DemoSetup {
   DemoFolders folders = sampleFolders();
   Misbehaviour behaviour;
   std::optional<quint16> folderPort;  ///< As in `FolderService::listen`.
+  std::optional<quint16> port;        ///< Of the scheduler, as in `Scheduler::start`.
   int queues = 1;                     ///< All of them the same printer's.
   bool foldersOnly = false;           ///< Neither scheduler nor printer, and no run folder.
 };
@@ -36,7 +37,7 @@ class DemoPrinter {
   /// Starts all parts. They work while the event loop runs; when the scheduler dies, the loop ends with
   /// code 1.
   Outcome start();
-  /// Where it is: "server", "queue", "folders" and "output", or "folders" alone.
+  /// Where it is: "server", "queue", "folders" and "output", with a port "port", or "folders" alone.
   QJsonObject whereabouts() const;
 
  private:

@@ -17,6 +17,13 @@ void logJob(const JobTicket& ticket, const QString& event) {
   logLine(labelOf(ticket) + QStringLiteral(": ") + event);
 }
 
+// Throws the document away that the job came with.
+Outcome refuse(const JobTicket& ticket, const QString& path, const QString& reason) {
+  logJob(ticket, QStringLiteral("thrown away: ") + reason);
+  QFile::remove(path);
+  return Outcome::failed(reason);
+}
+
 }  // namespace
 
 QString JobStore::newDocumentPath() {
@@ -29,27 +36,24 @@ JobStore::Job* JobStore::jobNumbered(int number) {
   return job == m_jobs.end() ? nullptr : &*job;
 }
 
-void JobStore::accept(const JobTicket& ticket, const QString& path) {
-  Job* job = jobNumbered(ticket.job);
-  if (job == nullptr) {
-    job = &m_jobs.emplace_back();
-    job->ticket = ticket;
-  } else if (job->ticket != ticket) {
-    logJob(ticket, QStringLiteral("thrown away: another job has its number"));
-    QFile::remove(path);
-    return;
-  }
+Outcome JobStore::accept(const JobTicket& ticket, const QString& path) {
+  Job* known = jobNumbered(ticket.job);
+  Job job = known == nullptr ? Job{.ticket = ticket, .documents = {}} : *known;
+  if (job.ticket != ticket) return refuse(ticket, path, QStringLiteral("another job has its number"));
   const Retention retention = ticket.retention();
-  if (retention != Retention::HoldOnly && print(*job, path)) {
+  if (retention != Retention::HoldOnly) {
+    if (!print(job, path)) return refuse(ticket, path, QStringLiteral("it cannot be printed"));
     logJob(ticket, retention == Retention::PrintSampleAndHold ? QStringLiteral("printed a sample")
                                                               : QStringLiteral("printed"));
   }
   if (retention == Retention::PrintAtOnce) {
     QFile::remove(path);
-    return;
+  } else {
+    job.documents.append(path);
+    logJob(ticket, ticket.hasPassCode() ? QStringLiteral("held (pass code)") : QStringLiteral("held"));
   }
-  job->documents.append(path);
-  logJob(ticket, ticket.hasPassCode() ? QStringLiteral("held (pass code)") : QStringLiteral("held"));
+  known == nullptr ? m_jobs.push_back(job) : static_cast<void>(*known = job);
+  return Outcome::done();
 }
 
 bool JobStore::print(Job& job, const QString& document) {

@@ -24,8 +24,8 @@ class JobStore {
   /// A path in the folder of held documents that is not in use yet.
   QString newDocumentPath();
   /// Takes the document at `path`, one of `newDocumentPath`, and prints or holds it. A second document of a
-  /// job joins it; one that only claims to be of the job is thrown away.
-  void accept(const JobTicket& ticket, const QString& path);
+  /// job joins it. One that only claims to be of the job, or cannot be printed, is thrown away: a failure.
+  Outcome accept(const JobTicket& ticket, const QString& path);
   /// Prints a held job; one with a pass code only with this.
   Release release(int job, const QString& passCode);
   /// An object for each job, in order of arrival: "job", "user", "name", "account" (or null) and "state".

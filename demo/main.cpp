@@ -41,7 +41,8 @@ int listMisbehaviours() {
 void printWhereabouts(const QJsonObject& places, bool json) {
   if (json) return printJson(QJsonDocument(places));
   if (places.size() == 1) return print(places.value(QStringLiteral("folders")).toString());
-  for (const char* name : {"server", "queue", "folders", "output"}) {
+  for (const char* name : {"server", "port", "queue", "folders", "output"}) {
+    if (!places.contains(QLatin1String(name))) continue;
     print(QStringLiteral("%1  %2")
               .arg(QLatin1String(name), -7)
               .arg(places.value(QLatin1String(name)).toString()));

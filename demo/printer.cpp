@@ -1,35 +1,42 @@
 #include "demo/printer.h"
 
 #include "demo/log.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
 
 constexpr char linePrefix[] = "@KESTO ";
+constexpr char endOfJob[] = "@END";
 constexpr qint64 longestLine = 4096;
 constexpr qint64 largestPiece = 65536;
 constexpr int mostTicketLines = 200;
 
+Outcome notTheFormat() {
+  return Outcome::failed(QStringLiteral("not the filter's format"));
+}
+
 }  // namespace
 
 RawPrinter::RawPrinter(JobStore& store) : m_store(store) {
-  connect(&m_server, &QTcpServer::newConnection, this, &RawPrinter::connectionArrived);
+  m_server.setSocketOptions(QLocalServer::UserAccessOption);
+  connect(&m_server, &QLocalServer::newConnection, this, &RawPrinter::connectionArrived);
 }
 
-Outcome RawPrinter::listen() {
-  if (m_server.listen(QHostAddress::LocalHost, 0)) return Outcome::done();
-  return Outcome::failed(QStringLiteral("the printer has no port: ") + m_server.errorString());
+Outcome RawPrinter::listen(const QString& path) {
+  if (m_server.listen(path)) return Outcome::done();
+  return Outcome::failed(path + QStringLiteral(": ") + m_server.errorString());
 }
 
 void RawPrinter::connectionArrived() {
-  while (QTcpSocket* socket = m_server.nextPendingConnection()) {
+  while (QLocalSocket* socket = m_server.nextPendingConnection()) {
     new PrinterConnection(socket, m_store);  // owned by the socket
   }
 }
 
-PrinterConnection::PrinterConnection(QTcpSocket* socket, JobStore& store)
+PrinterConnection::PrinterConnection(QLocalSocket* socket, JobStore& store)
     : QObject(socket), m_socket(socket), m_store(store) {
-  connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+  connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
   connect(socket, &QIODevice::readyRead, this, &PrinterConnection::bytesArrived);
 }
 
@@ -40,59 +47,77 @@ PrinterConnection::~PrinterConnection() {
 }
 
 void PrinterConnection::bytesArrived() {
-  while (m_socket->isOpen() && m_socket->bytesAvailable() > 0) {
+  while (m_socket->state() == QLocalSocket::ConnectedState && m_socket->bytesAvailable() > 0) {
+    Outcome taken = Outcome::done();
     if (m_pieceLeft > 0) {
-      takePiece();
+      taken = takePiece();
     } else if (m_socket->canReadLine()) {
       const QByteArray line = m_socket->readLine(longestLine);
-      if (!line.endsWith('\n') || !takeLine(line.chopped(1)))
-        return giveUp(QStringLiteral("not the filter's format"));
+      taken = line.endsWith('\n') ? takeLine(line.chopped(1)) : notTheFormat();
     } else if (m_socket->bytesAvailable() > longestLine) {
-      return giveUp(QStringLiteral("a line without end"));
+      taken = notTheFormat();
     } else {
       return;
     }
+    if (!taken) return refuse(taken.reason());
   }
 }
 
-bool PrinterConnection::takeLine(const QByteArray& line) {
-  return m_document.isOpen() ? takePieceSize(line) : takeTicketLine(line);
+Outcome PrinterConnection::takeLine(const QByteArray& line) {
+  if (m_document.isOpen()) return takePieceSize(line);
+  return line == endOfJob ? endJob() : takeTicketLine(line);
 }
 
-bool PrinterConnection::takeTicketLine(const QByteArray& line) {
+Outcome PrinterConnection::takeTicketLine(const QByteArray& line) {
   if (!line.isEmpty()) {
-    return ++m_ticketLines <= mostTicketLines && line.startsWith(linePrefix) &&
-           m_ticket.addLine(line.mid(sizeof linePrefix - 1));
+    const bool isTaken = ++m_ticketLines <= mostTicketLines && line.startsWith(linePrefix) &&
+                         m_ticket.addLine(line.mid(sizeof linePrefix - 1));
+    return isTaken ? Outcome::done() : notTheFormat();
   }
+  if (m_ticket.job <= 0) return notTheFormat();
   m_document.setFileName(m_store.newDocumentPath());
   constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
-  return m_ticket.job > 0 && m_document.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly);
+  return m_document.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly)
+             ? Outcome::done()
+             : Outcome::failed(m_document.errorString());
 }
 
-bool PrinterConnection::takePieceSize(const QByteArray& line) {
+Outcome PrinterConnection::takePieceSize(const QByteArray& line) {
   bool isNumber = false;
   m_pieceLeft = line.toLongLong(&isNumber);
-  if (!isNumber || m_pieceLeft < 0 || m_pieceLeft > largestPiece) return false;
-  if (m_pieceLeft == 0) endDocument();
-  return true;
+  if (!isNumber || m_pieceLeft < 0 || m_pieceLeft > largestPiece) return notTheFormat();
+  return m_pieceLeft == 0 ? endDocument() : Outcome::done();
 }
 
-void PrinterConnection::takePiece() {
+Outcome PrinterConnection::takePiece() {
   const QByteArray bytes = m_socket->read(m_pieceLeft);
   m_pieceLeft -= bytes.size();
-  if (m_document.write(bytes) != bytes.size()) giveUp(m_document.errorString());
+  return m_document.write(bytes) == bytes.size() ? Outcome::done()
+                                                 : Outcome::failed(m_document.errorString());
 }
 
-void PrinterConnection::endDocument() {
+Outcome PrinterConnection::endDocument() {
+  // What is still in the buffer is written here, and may find no room.
+  if (!m_document.flush()) return Outcome::failed(m_document.errorString());
   m_document.close();
-  m_store.accept(m_ticket, m_document.fileName());
+  Outcome accepted = m_store.accept(m_ticket, m_document.fileName());
   m_ticket = {};
   m_ticketLines = 0;
+  ++m_documents;
+  return accepted;
 }
 
-void PrinterConnection::giveUp(const QString& reason) {
-  logLine(QStringLiteral("printer: a connection was refused: ") + reason);
-  m_socket->abort();
+Outcome PrinterConnection::endJob() {
+  if (m_documents == 0 || m_ticketLines > 0) return notTheFormat();
+  m_socket->write("taken\n");
+  m_socket->disconnectFromServer();
+  return Outcome::done();
+}
+
+void PrinterConnection::refuse(const QString& reason) {
+  logLine(QStringLiteral("printer: a job was refused: ") + reason);
+  m_socket->write("refused: " + shownText(reason).toUtf8() + '\n');
+  m_socket->disconnectFromServer();
 }
 
 }  // namespace kesto

@@ -16,7 +16,8 @@ namespace {
 
 // Nobody keeps a file of this name: by it a folder is known as one that may be emptied.
 constexpr char lockName[] = "kesto-demo-printer.lock";
-// A socket's path has 107 bytes at most, and the folder holds one.
+constexpr char socketFolder[] = "sockets";
+// A socket's path has 107 bytes at most, and the folder holds "/sockets/printer".
 constexpr qsizetype longestPath = 90;
 
 QByteArray encoded(const QString& path) {
@@ -25,6 +26,16 @@ QByteArray encoded(const QString& path) {
 
 Outcome failedAt(const QString& path) {
   return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
+}
+
+QString absolute(const QString& path) {
+  return QDir::cleanPath(QDir(path).absolutePath());
+}
+
+bool isUsable(const QString& path) {
+  // What the scheduler's configuration has its own meaning for.
+  static const QRegularExpression special(QStringLiteral("[#\\\\\"<>\\x00-\\x1f]"));
+  return encoded(path).size() <= longestPath && !path.contains(special);
 }
 
 void removeAll(const QDir& folder, const QString& besides) {
@@ -42,11 +53,17 @@ void removeAll(const QDir& folder, const QString& besides) {
 }  // namespace
 
 QString RunFolder::standardPath() {
+  const QString name = QStringLiteral("/kesto-demo-%1").arg(getuid());
   const QString runtime = userRuntimeDirectory();
+  const QString temporary = qEnvironmentVariable("TMPDIR");
+  QStringList places;
   // Root's jobs run as another account, which that folder keeps out.
-  if (!runtime.isNull() && getuid() != 0) return runtime + QStringLiteral("/kesto-demo");
-  const QString temporary = qEnvironmentVariable("TMPDIR", QStringLiteral("/tmp"));
-  return temporary + QStringLiteral("/kesto-demo-%1").arg(getuid());
+  if (!runtime.isNull() && getuid() != 0) places << runtime + QStringLiteral("/kesto-demo");
+  if (!temporary.isEmpty()) places << temporary + name;
+  for (const QString& place : places) {
+    if (isUsable(absolute(place))) return place;
+  }
+  return QStringLiteral("/tmp") + name;
 }
 
 RunFolder::~RunFolder() {
@@ -60,16 +77,21 @@ QString RunFolder::path(const QString& name) const {
   return m_path + QLatin1Char('/') + name;
 }
 
+QString RunFolder::socketPath(const QString& name) const {
+  return path(QLatin1String(socketFolder) + QLatin1Char('/') + name);
+}
+
 Outcome RunFolder::take(const QString& path) {
-  m_path = QDir::cleanPath(QDir(path).absolutePath());
-  // What the scheduler's configuration has its own meaning for.
-  static const QRegularExpression special(QStringLiteral("[#\\\\\"<>\\x00-\\x1f]"));
-  if (encoded(m_path).size() > longestPath || m_path.contains(special)) {
+  m_path = absolute(path);
+  if (!isUsable(m_path)) {
     return Outcome::failed(
-        m_path + QStringLiteral(": the path is too long or holds special characters; name another folder"));
+        m_path +
+        QStringLiteral(": the path has more than %1 bytes or special characters; name another folder")
+            .arg(longestPath));
   }
   if (Outcome made = make(); !made) return made;
-  return lock();
+  if (Outcome locked = lock(); !locked) return locked;
+  return makeFolder(QString::fromLatin1(socketFolder), 0700);
 }
 
 Outcome RunFolder::make() const {

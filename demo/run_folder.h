@@ -18,7 +18,8 @@ class RunFolder {
   RunFolder& operator=(const RunFolder&) = delete;
 
   /// Where a printer runs that was given no folder: "kesto-demo" in an ordinary user's runtime folder, else a
-  /// folder with the user's number where temporary files are.
+  /// folder with the user's number where temporary files are, in /tmp when the path would be too long for the
+  /// sockets in it.
   static QString standardPath();
 
   /// Takes `path`. Fails when a printer runs there, when it is not this user's, or when it holds anything of
@@ -26,6 +27,8 @@ class RunFolder {
   Outcome take(const QString& path);
   /// The path of something in the folder.
   QString path(const QString& name) const;
+  /// The path of a socket in a folder that nobody but the owner passes, which `take` makes.
+  QString socketPath(const QString& name) const;
   /// Makes a folder in it, with this mode whatever the process masks.
   Outcome makeFolder(const QString& name, unsigned int mode) const;
   /// Lets a group pass through the folder, though not look around in it. Fails when a folder above keeps it

@@ -1,6 +1,5 @@
 #include "demo/scheduler.h"
 
-#include <grp.h>
 #include <pwd.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
@@ -8,19 +7,22 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDeadlineTimer>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QThread>
+#include <QtCore/QUrl>
+#include <QtNetwork/QLocalSocket>
 #include <csignal>
 
 #include "platform/private_file.h"
 
 namespace kesto {
 
-// Whom cupsd runs jobs as, and whom it takes for its administrators.
+// Whom cupsd runs jobs as, and who alone may administrate it.
 struct Scheduler::Identity {
   unsigned int user;
   unsigned int group;
-  QByteArray systemGroup;
+  QByteArray owner;
 
   static std::optional<Identity> ofProcess();
 };
@@ -36,7 +38,7 @@ LogLevel warn
 # A failed job's history would hold its options, and its digest with them.
 LogDebugHistory 0
 MaxLogSize 0
-Listen 127.0.0.1:@PORT@
+@LISTEN@
 Browsing No
 WebInterface No
 PreserveJobFiles No
@@ -47,28 +49,46 @@ DefaultPolicy demo
   Order allow,deny
   Allow from 127.0.0.1
 </Location>
+# Settings and logs. Each has a line of its own: a location that is not named follows the one above it.
+<Location /admin>
+  AuthType Default
+  Require user @OWNERNAME@
+  Order allow,deny
+  Allow from 127.0.0.1
+</Location>
+<Location /admin/conf>
+  AuthType Default
+  Require user @OWNERNAME@
+  Order allow,deny
+  Allow from 127.0.0.1
+</Location>
+<Location /admin/log>
+  AuthType Default
+  Require user @OWNERNAME@
+  Order allow,deny
+  Allow from 127.0.0.1
+</Location>
 
 <Policy demo>
-  # What a job's options tell, its name with them, is for its owner and for administrators.
-  JobPrivateAccess @OWNER @SYSTEM
+  # What a job's options tell, its name with them, is for who sent it and for the printer's owner.
+  JobPrivateAccess @OWNER @OWNERNAME@
   JobPrivateValues all
-  SubscriptionPrivateAccess @OWNER @SYSTEM
+  SubscriptionPrivateAccess @OWNER @OWNERNAME@
   SubscriptionPrivateValues all
 
-  <Limit Send-Document Send-URI Cancel-Job Hold-Job Release-Job Restart-Job Set-Job-Attributes Cancel-My-Jobs Close-Job CUPS-Move-Job CUPS-Authenticate-Job CUPS-Get-Document>
-    Require user @OWNER @SYSTEM
+  # What a user needs to find the queue and to send and follow jobs of the own.
+  <Limit Create-Job Print-Job Validate-Job Get-Jobs Get-Job-Attributes Get-Printer-Attributes CUPS-Get-Default CUPS-Get-Printers CUPS-Get-Classes CUPS-Get-PPD Create-Printer-Subscriptions Create-Job-Subscriptions>
     Order deny,allow
   </Limit>
-  <Limit Create-Job Print-Job Print-URI Validate-Job>
+  <Limit Send-Document Close-Job Cancel-Job Cancel-My-Jobs Hold-Job Release-Job Set-Job-Attributes Get-Subscriptions Get-Subscription-Attributes Get-Notifications Renew-Subscription Cancel-Subscription>
+    Require user @OWNER @OWNERNAME@
     Order deny,allow
   </Limit>
-  # Queue and scheduler stay as they were set up.
-  <Limit CUPS-Add-Modify-Printer CUPS-Delete-Printer CUPS-Add-Modify-Class CUPS-Delete-Class CUPS-Set-Default Set-Printer-Attributes Pause-Printer Resume-Printer Enable-Printer Disable-Printer Cancel-Jobs Purge-Jobs CUPS-Accept-Jobs CUPS-Reject-Jobs>
+  # Everything else, and what later versions of cupsd can do. Where the two that are named have no rules,
+  # they would take those of Send-Document and Pause-Printer.
+  <Limit CUPS-Get-Document Cancel-Jobs All>
     AuthType Default
-    Require user @SYSTEM
-    Order deny,allow
-  </Limit>
-  <Limit All>
+    Require user @OWNERNAME@
     Order deny,allow
   </Limit>
 </Policy>
@@ -77,7 +97,7 @@ DefaultPolicy demo
 constexpr char fileConfiguration[] = R"(# Written anew at every start of the demo printer.
 User @USER@
 Group @GROUP@
-SystemGroup @SYSTEM@
+SystemGroup root
 ServerRoot @ROOT@
 ServerBin @ROOT@/bin
 RequestRoot @ROOT@/spool
@@ -96,7 +116,7 @@ constexpr char queueConfiguration[] = R"(# Written anew at every start of the de
 <DefaultPrinter @QUEUE@>
 Info Kesto VQ-250n (demo)
 MakeModel KESTO VQ-250n PS
-DeviceURI socket://127.0.0.1:@PRINTER@
+DeviceURI @PRINTER@
 State Idle
 Accepting Yes
 Shared No
@@ -155,8 +175,12 @@ std::optional<Scheduler::Identity> Scheduler::Identity::ofProcess() {
     if (lp == nullptr) return std::nullopt;
     return Identity{lp->pw_uid, lp->pw_gid, "root"};
   }
-  const ::group* own = ::getgrgid(getgid());
-  return Identity{getuid(), getgid(), own == nullptr ? "root" : own->gr_name};
+  const passwd* own = ::getpwuid(getuid());
+  const QByteArray name = own == nullptr ? "" : own->pw_name;
+  // One whose name the configuration could take for something else administrates nothing.
+  static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_][A-Za-z0-9._-]*$"));
+  const bool isPlain = plain.match(QString::fromLocal8Bit(name)).hasMatch();
+  return Identity{getuid(), getgid(), isPlain ? name : "root"};
 }
 
 QString demoQueueNumbered(int number) {
@@ -183,25 +207,37 @@ QString Scheduler::path(const char* name) const {
 }
 
 QString Scheduler::address() const {
-  return QStringLiteral("127.0.0.1:%1").arg(m_port);
+  return m_folder.socketPath(QStringLiteral("server"));
 }
 
-Outcome Scheduler::start(quint16 printerPort, int queues) {
+QString Scheduler::portAddress() const {
+  return m_port == 0 ? QString() : QStringLiteral("127.0.0.1:%1").arg(m_port);
+}
+
+Outcome Scheduler::start(const QString& printerSocket, int queues, std::optional<quint16> port) {
   const std::optional<Identity> identity = Identity::ofProcess();
   if (!identity) return Outcome::failed(QStringLiteral("there is no account \"lp\" to run jobs as"));
-  // The kernel gives a port that is bound to nobody else, and lets cupsd share it as long as nobody listens.
-  if (!m_reservation.bind(QHostAddress::LocalHost, 0,
-                          QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint)) {
-    return Outcome::failed(QStringLiteral("the scheduler has no port: ") + m_reservation.errorString());
+  if (port) {
+    if (Outcome reserved = reservePort(*port); !reserved) return reserved;
   }
-  m_port = m_reservation.localPort();
   if (Outcome made = makeFolders(); !made) return made;
   if (Outcome copied = copyPrograms(queues); !copied) return copied;
-  if (Outcome written = writeConfiguration(*identity, printerPort, queues); !written) return written;
+  if (Outcome written = writeConfiguration(*identity, printerSocket, queues); !written) return written;
   if (getuid() == 0) {
     if (Outcome admitted = m_folder.admitGroup(identity->group); !admitted) return admitted;
   }
   return startServer();
+}
+
+// The kernel gives a port that is bound to nobody else, and lets cupsd share it as long as nobody listens.
+Outcome Scheduler::reservePort(quint16 port) {
+  if (!m_reservation.bind(QHostAddress::LocalHost, port,
+                          QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint)) {
+    return Outcome::failed(
+        QStringLiteral("cannot listen on port %1: %2").arg(port).arg(m_reservation.errorString()));
+  }
+  m_port = m_reservation.localPort();
+  return Outcome::done();
 }
 
 Outcome Scheduler::makeFolders() const {
@@ -232,9 +268,13 @@ Outcome Scheduler::copyPrograms(int queues) const {
   if (!QFile::link(launcher, path("bin/daemon/cups-exec"))) {
     return Outcome::failed(path("bin/daemon/cups-exec") + QStringLiteral(": the link cannot be made"));
   }
-  for (const char* name : {"filter/kesto-demo-filter", "backend/socket"}) {
+  // The scheduler runs a backend that is its own user's alone as that user: the printer listens to nobody
+  // else.
+  constexpr QFile::Permissions ownProgram = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+  for (const auto& [name, mode] :
+       {std::pair("filter/kesto-demo-filter", program), std::pair("backend/socket", ownProgram)}) {
     const QString from = besidePrograms(QStringLiteral("libexec/kesto/")) + QLatin1String(name);
-    if (Outcome copied = copyFile(from, path("bin/") + QLatin1String(name), program); !copied) return copied;
+    if (Outcome copied = copyFile(from, path("bin/") + QLatin1String(name), mode); !copied) return copied;
   }
   const QString description = besidePrograms(QStringLiteral("share/kesto/kesto-vq250n.ppd"));
   for (int number = 1; number <= queues; ++number) {
@@ -244,15 +284,22 @@ Outcome Scheduler::copyPrograms(int queues) const {
   return Outcome::done();
 }
 
-Outcome Scheduler::writeConfiguration(const Identity& identity, quint16 printerPort, int queues) const {
+Outcome Scheduler::writeConfiguration(const Identity& identity, const QString& printerSocket,
+                                      int queues) const {
+  // The socket comes last: when it answers, the port does.
+  const QByteArray port = m_port == 0 ? "" : "Listen " + portAddress().toLatin1() + '\n';
+  // The panel takes the printer's address from the URI's host, the backend its socket from the path.
+  const QByteArray uri =
+      "socket://127.0.0.1" + QUrl::toPercentEncoding(printerSocket, QByteArrayLiteral("/"));
   const auto write = [&](const char* name, QByteArray text) {
-    text.replace("@PORT@", QByteArray::number(m_port));
-    text.replace("@PRINTER@", QByteArray::number(printerPort));
     text.replace("@QUEUE@", demoQueue);
-    text.replace("@ROOT@", QFile::encodeName(path("")).chopped(1));
     text.replace("@USER@", QByteArray::number(identity.user));
     text.replace("@GROUP@", QByteArray::number(identity.group));
-    text.replace("@SYSTEM@", identity.systemGroup);
+    text.replace("@OWNERNAME@", identity.owner);
+    text.replace("@PRINTER@", uri);
+    // At the end, since a path may hold anything.
+    text.replace("@LISTEN@", port + "Listen " + QFile::encodeName(address()));
+    text.replace("@ROOT@", QFile::encodeName(path("")).chopped(1));
     return writePrivateFile(path(name), text);
   };
   if (Outcome written = write("cupsd.conf", serverConfiguration); !written) return written;
@@ -279,8 +326,8 @@ Outcome Scheduler::startServer() {
 bool Scheduler::waitUntilItAnswers() {
   const QDeadlineTimer deadline(startLimit);
   while (!deadline.hasExpired() && !m_server.waitForFinished(0) && m_server.state() == QProcess::Running) {
-    QTcpSocket probe;
-    probe.connectToHost(QHostAddress(QHostAddress::LocalHost), m_port);
+    QLocalSocket probe;
+    probe.connectToServer(address());
     if (probe.waitForConnected()) return true;
     QThread::msleep(20);
   }

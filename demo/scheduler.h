@@ -25,11 +25,14 @@ class Scheduler : public QObject {
   explicit Scheduler(const RunFolder& folder);
   ~Scheduler() override;
 
-  /// Sets everything up in the folder and returns when cupsd answers. That many queues print to
-  /// `printerPort` of loopback.
-  Outcome start(quint16 printerPort, int queues);
-  /// "127.0.0.1:PORT".
+  /// Sets everything up in the folder and returns when cupsd answers at its socket. That many queues print to
+  /// the printer at `printerSocket`. With `port`, cupsd listens on that port of loopback as well, where 0 is
+  /// any free one.
+  Outcome start(const QString& printerSocket, int queues, std::optional<quint16> port);
+  /// The path of its socket, which its owner alone reaches.
   QString address() const;
+  /// "127.0.0.1:PORT", null without a port.
+  QString portAddress() const;
 
  Q_SIGNALS:
   /// cupsd ended without being asked to.
@@ -38,9 +41,10 @@ class Scheduler : public QObject {
  private:
   struct Identity;
 
+  Outcome reservePort(quint16 port);
   Outcome makeFolders() const;
   Outcome copyPrograms(int queues) const;
-  Outcome writeConfiguration(const Identity& identity, quint16 printerPort, int queues) const;
+  Outcome writeConfiguration(const Identity& identity, const QString& printerSocket, int queues) const;
   Outcome startServer();
   bool waitUntilItAnswers();
   QString lastFault() const;
@@ -48,7 +52,7 @@ class Scheduler : public QObject {
 
   const RunFolder& m_folder;
   QTcpSocket m_reservation;  // bound to cupsd's port until cupsd listens there
-  quint16 m_port = 0;
+  quint16 m_port = 0;        // 0 without one
   QProcess m_server;
 };
 

@@ -1,12 +1,11 @@
 // The whole demo printer: the real scheduler, its queue, and the printer behind it.
 #include <cups/cups.h>
-#include <sys/socket.h>
 
 #include <QtCore/QDeadlineTimer>
-#include <QtCore/QEventLoop>
-#include <QtNetwork/QTcpSocket>
+#include <QtNetwork/QLocalSocket>
 
 #include "demo/printer.h"
+#include "demo/run_folder.h"
 #include "demo_process.h"
 
 namespace kesto::test {
@@ -36,6 +35,30 @@ class DemoPrinterTest : public testing::Test {
     DemoProcess lp(m_folder, u"lp"_s, arguments << m_folder.path(u"document"_s));
     EXPECT_EQ(lp.code(), 0) << lp.log().toStdString();
   }
+  // What the scheduler answers about a job; it believes the owner's own programs everybody's name.
+  static ipp_t* attributesOfJob(const RunningPrinter& printer, int job, const char* user) {
+    const QByteArray path = printer.place(u"server"_s).toUtf8();
+    http_t* server =
+        httpConnect2(path.constData(), 0, nullptr, AF_LOCAL, HTTP_ENCRYPTION_NEVER, 1, 5000, nullptr);
+    ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
+                 ("ipp://localhost/jobs/" + QByteArray::number(job)).constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
+    ipp_t* answer = cupsDoRequest(server, request, "/");
+    httpClose(server);
+    return answer;
+  }
+  // The state that a job ends in.
+  static int endOfJob(const RunningPrinter& printer, int job) {
+    const QDeadlineTimer deadline(std::chrono::seconds(20));
+    int state = 0;
+    while (state < IPP_JSTATE_STOPPED && !deadline.hasExpired()) {
+      ipp_t* answer = attributesOfJob(printer, job, "anna");
+      state = ippGetInteger(ippFindAttribute(answer, "job-state", IPP_TAG_ENUM), 0);
+      ippDelete(answer);
+    }
+    return state;
+  }
   // The command lines of the processes that speak of the run folder, our own and those of the test left out.
   QStringList strayProcesses() const {
     QStringList lines;
@@ -56,9 +79,8 @@ class DemoPrinterTest : public testing::Test {
 TEST_F(DemoPrinterTest, HasAQueueWhosePpdNamesTheBundle) {
   const RunningPrinter printer(m_folder);
   EXPECT_EQ(printer.place(u"queue"_s), u"Office_MFP"_s);
-  const QStringList server = printer.place(u"server"_s).split(u':');
-  QTcpSocket socket;
-  socket.connectToHost(server.front(), server.back().toUShort());
+  QLocalSocket socket;
+  socket.connectToServer(printer.place(u"server"_s));
   socket.write("GET /printers/Office_MFP.ppd HTTP/1.0\r\nHost: localhost\r\n\r\n");
   while (socket.waitForReadyRead()) {
   }
@@ -81,8 +103,8 @@ TEST_F(DemoPrinterTest, TellsWhatItCannotDo) {
         Case{u"--output %1/run/paper --dir %1/run"_s.arg(m_folder.path(u"."_s)), 1,
              "goes with the run folder"},
         Case{u"--folders-only --folders /no/such"_s, 1, "/no/such: No such file or directory"},
-        Case{u"--dir "_s + m_folder.path(QString(90, u'x')), 1, "the path is too long"},
-        Case{u"--dir "_s + m_folder.path(u"a#b"_s), 1, "holds special characters"},
+        Case{u"--dir "_s + m_folder.path(QString(90, u'x')), 1, "the path has more than 90 bytes"},
+        Case{u"--dir "_s + m_folder.path(u"a#b"_s), 1, "or special characters"},
         Case{u"--dir "_s + m_folder.path(u"link"_s), 1, "is not a folder of this user"},
         Case{u"--dir /no/such/folder"_s, 1, "No such file or directory"},
         Case{u"--output %1/paper --dir "_s.arg(m_folder.path(u"document"_s)) + m_folder.path(u"run"_s), 1,
@@ -113,7 +135,7 @@ TEST_F(DemoPrinterTest, SpeaksToAPersonAsWell) {
   DemoProcess printer(m_folder, builtProgram("kesto-demo-printer"),
                       {u"--dir"_s, m_folder.path(u"run"_s), u"--folder-port"_s, u"0"_s});
   const QByteArray server = printer.readOutLine();
-  EXPECT_TRUE(server.startsWith("server   127.0.0.1:")) << server;
+  EXPECT_EQ(server, "server   " + m_folder.path(u"run/sockets/server\n"_s).toUtf8());
   EXPECT_EQ(printer.readOutLine(), "queue    Office_MFP\n");
   EXPECT_TRUE(printer.readOutLine().startsWith("folders  127.0.0.1:"));
   DemoProcess lp(m_folder, u"lp"_s,
@@ -171,25 +193,33 @@ TEST_F(DemoPrinterTest, ShowsAJobsOptionsToItsOwnerAlone) {
   RunningPrinter printer(m_folder);
   send(printer, u"jobSuspend=2 jobSuspendKey=0123"_s);
   printer.waitForLog("held");
-  const QByteArray port = printer.place(u"server"_s).section(u':', 1).toLatin1();
   const auto seenBy = [&](const char* user) {
-    http_t* server =
-        httpConnect2("127.0.0.1", port.toInt(), nullptr, AF_INET, HTTP_ENCRYPTION_NEVER, 1, 5000, nullptr);
-    ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, "ipp://localhost/jobs/1");
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
-    ipp_t* answer = cupsDoRequest(server, request, "/");
+    ipp_t* answer = attributesOfJob(printer, 1, user);
     QByteArray names;
     for (ipp_attribute_t* each = ippFirstAttribute(answer); each != nullptr;
          each = ippNextAttribute(answer)) {
       names += QByteArray(ippGetName(each)) + ' ';
     }
     ippDelete(answer);
-    httpClose(server);
     return names;
   };
   EXPECT_TRUE(seenBy("anna").contains("kesto.print.PrintSettings.jobSuspendKey "));
   EXPECT_FALSE(seenBy("bert").contains("kesto") || seenBy("bert").contains("job-name"));
+}
+
+TEST_F(DemoPrinterTest, LetsNoJobCountAsPrintedThatItHasNotTaken) {
+  RunningPrinter printer(m_folder);
+  QLocalSocket other;
+  other.connectToServer(m_folder.path(u"run/sockets/printer"_s));
+  other.write("@KESTO job=1\n@KESTO user=mallory\n\n1\na0\n@END\n");
+  ASSERT_TRUE(other.waitForBytesWritten() && other.waitForReadyRead());
+  EXPECT_EQ(other.readAll(), "taken\n");
+  send(printer, {});
+  printer.waitForLog("thrown away: another job has its number");
+  EXPECT_EQ(endOfJob(printer, 1), IPP_JSTATE_ABORTED);
+  send(printer, {});
+  printer.waitForLog("job 2 from anna: printed");
+  EXPECT_EQ(endOfJob(printer, 2), IPP_JSTATE_COMPLETED);
 }
 
 TEST_F(DemoPrinterTest, LeavesNothingBehind) {
@@ -227,6 +257,20 @@ TEST_F(DemoPrinterTest, TakesNoFolderOfOthers) {
   EXPECT_EQ(bytesOf(m_folder.path(u"document"_s)), m_document);
 }
 
+TEST(RunFolderTest, IsWhereThePathsOfItsSocketsFit) {
+  const QByteArray before = qgetenv("TMPDIR");
+  const QString name = u"/kesto-demo-%1"_s.arg(getuid());
+  qunsetenv("XDG_RUNTIME_DIR");
+  for (const auto& [temporary, expected] :
+       {std::pair(QByteArray("/var/tmp"), u"/var/tmp"_s + name), std::pair(QByteArray(), u"/tmp"_s + name),
+        std::pair(QByteArray("/var/tmp/").append(80, 'x'), u"/tmp"_s + name),
+        std::pair(QByteArray("/var/a#b"), u"/tmp"_s + name)}) {
+    qputenv("TMPDIR", temporary);
+    EXPECT_EQ(RunFolder::standardPath(), expected) << temporary;
+  }
+  qputenv("TMPDIR", before);
+}
+
 TEST_F(DemoPrinterTest, WorksForAnOrdinaryUser) {
   if (getuid() != 0) GTEST_SKIP() << "every other test shows it";
   const QStringList asNobody{u"--reuid=nobody"_s, u"--regid=nogroup"_s, u"--clear-groups"_s};
@@ -251,37 +295,60 @@ TEST_F(DemoPrinterTest, WorksForAnOrdinaryUser) {
   EXPECT_FALSE(QDir(m_folder.path(u"nobody/run"_s)).exists());
 }
 
-// Sends bytes to a printer without a scheduler; how many jobs it then has.
-qsizetype jobsAfter(const QByteArray& bytes) {
-  const ScratchFolder folder;
-  JobStore store(folder.path(u""_s), folder.path(u""_s));
-  RawPrinter printer(store);
-  EXPECT_TRUE(printer.listen());
-  QTcpSocket socket;
-  socket.connectToHost(u"127.0.0.1"_s, printer.port());
-  EXPECT_TRUE(socket.waitForConnected());
-  socket.write(bytes);
-  while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten()) {
+// A printer without a scheduler, and what it says of the bytes that are sent to it.
+struct LonePrinter {
+  QByteArray answerTo(const QByteArray& bytes) {
+    if (!m_isListening) return "it does not listen";
+    QLocalSocket socket;
+    socket.connectToServer(m_folder.path(u"printer"_s));
+    socket.write(bytes);
+    socket.flush();
+    const QDeadlineTimer deadline(std::chrono::seconds(10));
+    while (socket.state() == QLocalSocket::ConnectedState && !deadline.hasExpired())
+      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return socket.readAll();
   }
-  ::shutdown(static_cast<int>(socket.socketDescriptor()), SHUT_WR);
-  QEventLoop loop;  // until the printer closes its end
-  QObject::connect(&socket, &QTcpSocket::disconnected, &loop, &QEventLoop::quit);
-  loop.exec();
-  return store.list().size();
+
+  ScratchFolder m_folder;
+  JobStore store{m_folder.path(u""_s), m_folder.path(u"output"_s)};
+  RawPrinter m_printer{store};
+  bool m_isListening =
+      bool(m_printer.listen(m_folder.path(u"printer"_s))) && QDir().mkdir(m_folder.path(u"output"_s));
+};
+
+TEST(PrinterTest, TakesNothingButWholeJobs) {
+  const QByteArray ticket = "@KESTO job=7\n@KESTO user=anna\n\n";
+  const QByteArray whole = ticket + "3\nabc0\n";
+  const QByteArray noFormat = "refused: not the filter's format\n";
+  struct Case {
+    QByteArray bytes;
+    QByteArray answer;
+    qsizetype jobs;
+  };
+  for (const Case& row :
+       {Case{whole + "@END\n", "taken\n", 1}, Case{whole + ticket + "1\nd0\n@END\n", "taken\n", 1},
+        Case{whole + "@KESTO job=7\n@END\n", noFormat, 1}, Case{ticket + "@END\n", noFormat, 0},
+        Case{ticket + "3\nabc@END\n", noFormat, 0}, Case{ticket + "-3\nabc0\n", noFormat, 0},
+        Case{ticket + "x\n", noFormat, 0}, Case{ticket + "9223372036854775807\nabc", noFormat, 0},
+        Case{ticket + "65537\nabc", noFormat, 0}, Case{"@END\n", noFormat, 0}, Case{"abc\n", noFormat, 0},
+        Case{"@KESTO job\n", noFormat, 0}, Case{"@KESTO user=anna\n\n0\n", noFormat, 0},
+        Case{QByteArray(100'000, 'a'), noFormat, 0},
+        Case{QByteArray("@KESTO a=b\n").repeated(1000) + whole, noFormat, 0}}) {
+    LonePrinter printer;
+    EXPECT_EQ(printer.answerTo(row.bytes), row.answer) << row.bytes.left(100);
+    EXPECT_EQ(printer.store.list().size(), row.jobs) << row.bytes.left(100);
+  }
 }
 
-TEST(PrinterTest, TakesNothingButWholeDocuments) {
-  const QByteArray ticket = "@KESTO job=7\n@KESTO user=anna\n\n";
-  EXPECT_EQ(jobsAfter(ticket + "3\nabc0\n"), 1);
-  EXPECT_EQ(jobsAfter(ticket + "3\nabc0\n" + ticket + "1\nd0\n"), 1) << "two documents of one job";
-  for (const char* end :
-       {"", "3\nab", "3\nabc", "-3\nabc0\n", "x\n", "9223372036854775807\nabc", "65537\nabc"}) {
-    EXPECT_EQ(jobsAfter(ticket + end), 0) << end;
-  }
-  for (const char* start : {"", "abc\n", "@KESTO job\n", "@KESTO user=anna\n\n0\n"})
-    EXPECT_EQ(jobsAfter(start), 0) << start;
-  EXPECT_EQ(jobsAfter(QByteArray(100'000, 'a')), 0);
-  EXPECT_EQ(jobsAfter(QByteArray("@KESTO a=b\n").repeated(1000) + ticket + "0\n"), 0);
+TEST(PrinterTest, SaysWhenItDoesNotTakeAJob) {
+  LonePrinter printer;
+  const auto job = [](const QByteArray& user) {
+    return "@KESTO job=7\n@KESTO user=" + user + "\n\n3\nabc0\n@END\n";
+  };
+  EXPECT_EQ(printer.answerTo(job("anna")), "taken\n");
+  EXPECT_EQ(printer.answerTo(job("bert")), "refused: another job has its number\n");
+  ASSERT_TRUE(QDir(printer.m_folder.path(u"output"_s)).removeRecursively());
+  EXPECT_EQ(printer.answerTo(job("anna")), "refused: it cannot be printed\n");
 }
 
 JobTicket ticketOf(const QByteArrayList& settings) {

@@ -421,7 +421,6 @@ TEST_F(DialogPrint, CancelEndsAFolderFetch) {
 }
 
 TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) {
-  changeScheduler("/AuthType/d; /Require user @SYSTEM$/d");  // anybody may change queues
   startPrinter();
   openReady();
   const auto change = [this](const QStringList& arguments) {

@@ -314,7 +314,10 @@ class WithTheDialog(unittest.TestCase):
                                  (0x42, "requesting-user-name", pwd.getpwuid(os.getuid()).pw_name)]:
             request += struct.pack(f">BH{len(name)}sH{len(value)}s", tag, len(name), name.encode(), len(value),
                                    value.encode())
-        connection = http.client.HTTPConnection(self.places["server"], timeout=PATIENCE)
+        connection = http.client.HTTPConnection("localhost", timeout=PATIENCE)
+        connection.sock = socket.socket(socket.AF_UNIX)
+        connection.sock.settimeout(PATIENCE)
+        connection.sock.connect(self.places["server"])
         self.addCleanup(connection.close)
         connection.request("POST", "/jobs/", request + b"\3", {"Content-Type": "application/ipp"})
         return connection.getresponse().read()

@@ -180,7 +180,7 @@ TEST_F(PrintTest, AStoppedQueueTakesJobsAndLetsThemWait) {
   const Ipp job = attributesOfFirstJob("anna");
   EXPECT_EQ(ippGetInteger(ippFindAttribute(job.get(), "job-priority", IPP_TAG_INTEGER), 0), 71);
   EXPECT_EQ(lp(u"-s DOCUMENT"_s).out, QString());
-  EXPECT_TRUE(lp(u"--list"_s).out.startsWith(u"Office_MFP\tstopped\tsocket://127.0.0.1:"_s));
+  EXPECT_TRUE(lp(u"--list"_s).out.startsWith(u"Office_MFP\tstopped\tsocket://127.0.0.1/"_s));
   EXPECT_EQ(schedulersJobs().count(u"anna"_s), 2);
   EXPECT_EQ(m_printer->jobs(), "[]");
   ofPrintSystem(u"/usr/sbin/cupsenable Office_MFP"_s);

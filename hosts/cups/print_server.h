@@ -40,9 +40,9 @@ class PrintServer {
   /// Sends a document by its parts.
   using Document = std::function<Outcome(const HttpRequest::Sink& sink)>;
 
-  /// Connects to `address` ("host" or "host:port"), or to the server that CUPS_SERVER and the configuration
-  /// name when it is null. `limit` is for every wait without progress; `watchdog` ends all waits when it is
-  /// interrupted.
+  /// Connects to `address` ("host", "host:port" or the path of a socket), or to the server that CUPS_SERVER
+  /// and the configuration name when it is null. `limit` is for every wait without progress; `watchdog` ends
+  /// all waits when it is interrupted.
   static Outcome connect(const QString& address, std::chrono::milliseconds limit,
                          std::unique_ptr<PrintServer>* server,
                          const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>());

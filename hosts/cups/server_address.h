@@ -10,7 +10,7 @@ namespace kesto {
 
 /// Where the print server is, and who asks it.
 struct ServerAddress {
-  QString address;  ///< "host" or "host:port"; null for the one of the environment.
+  QString address;  ///< "host", "host:port" or the path of a socket; null for the one of the environment.
   QString user;     ///< Null for the account's name.
   bool encrypt = false;
   std::chrono::milliseconds limit = std::chrono::seconds(5);  ///< For each wait without progress.
