@@ -14,8 +14,10 @@ done
 
 scratch=$(mktemp -d)
 printer=
+example=
 cleanup() {
   if [[ $printer ]]; then kill "$printer"; fi
+  if [[ $example ]]; then kill "$example"; fi
   rm -rf "$scratch"
 }
 trap cleanup EXIT
@@ -79,26 +81,82 @@ while read -r -t 60 line <&"$log" && [[ $line != *held* ]]; do :; done
 expect "its release" '' "$bin/kesto-demo-printer" release 1 --dir "$scratch/run" --pin-file - <<<2468
 expect "its printout" '^text$' cat "$scratch/run/output/job-1-1"
 
-# complete_word WORD...: what the completion offers for the last of them.
+# example_of PAGE BLOCK: a block of commands of a manual page, counted from 1, as it stands but for the place of the
+# installation.
+example_of() {
+  zcat "$root/usr/share/man/man1/$1.1.gz" | awk -v block="$2" '
+    /^\.SH/ { inside = /EXAMPLES/ }
+    /^\.fi/ { shown = 0 }
+    inside && shown { gsub(/\\e/, "\\"); if (/\|$/) printf "%s", $0; else print }
+    /^\.nf/ { if (inside && ++count == block) shown = 1 }' | sed "s| /usr/| $root/usr/|"
+}
+# run_example PAGE BLOCK: its lines one by one. One that is too early for the printer, which works on its own, is tried
+# again.
+run_example() {
+  local line
+  while IFS= read -r line; do
+    for _ in {1..50}; do
+      if in_examples "$line"; then continue 2; fi
+      sleep 0.2
+    done
+    return 1
+  done < <(example_of "$@")
+}
+in_examples() (cd "$scratch/examples" && PATH=$bin:$PATH && eval "$1" </dev/null)
+mkdir -m 711 "$scratch/examples"
+cp "$(dirname "$0")/../demo/quarterly-report.pdf" "$scratch/examples/report.pdf"
+in_examples "exec $(example_of kesto-demo-printer 1)" >"$scratch/examples/places" 2>&1 &
+example=$!
+until grep -q ^output "$scratch/examples/places"; do kill -0 "$example" || break; sleep 0.1; done
+expect "the examples of kesto-demo-printer(1)" 'request id is Office_MFP-1' run_example kesto-demo-printer 2
+export CUPS_SERVER=$scratch/examples/demo/sockets/server
+expect "an example of kesto-lp(1)" 'request id is Office_MFP-2' run_example kesto-lp 2
+unset CUPS_SERVER
+expect "an example of kesto-panel(1)" '"settings"' run_example kesto-panel 1
+
+# complete_word WORD...: what the completion offers for the last of them, one a line.
 complete_word() (
-  PATH=$bin:$PATH
+  PATH=$scratch/hostile:$bin:$PATH
   # shellcheck disable=SC1091
   source "$root/usr/share/bash-completion/completions/kesto-lp"
   compopt() { echo "file names"; }
   export CUPS_SERVER=$server
   COMP_WORDS=(kesto-lp "$@")
   COMP_CWORD=$#
+  COMPREPLY=()
   _kesto_lp
-  echo "${COMPREPLY[*]-}"
+  (IFS=' ' && echo "${COMPREPLY[*]-}")
 )
 expect "completion of queues" '^Office_MFP$' complete_word -d Off
 expect "completion of choices" '^only after sample$' complete_word --hold ''
 expect "completion of lists" '^pin,folder pin,folder-pin$' complete_word --remember pin,fol
 expect "completion of options" '^--pin --pin-file$' complete_word --pi
-expect "no option is half a word" '^--ask-pin --ask-folder-pin --ask-password$' complete_word --ask
+expect "no option is half a word" '^--ask-folder-pin --ask-password --ask-pin$' complete_word --ask
 expect "nor is the program's name" '^$' complete_word -l
 expect "completion of the help" '^--help$' complete_word --he
 expect "completion of files" '^file names' complete_word rep
+
+# Names of queues are data, whatever they are: the completion runs none, and what it offers runs none.
+# shellcheck disable=SC2016
+queues=('$(touch${IFS}ran)' 'a b' 'q"uote' "it's" '`touch ran`' 'x;touch ran' '*' '~' 'b\c' 'Zürich')
+mkdir "$scratch/hostile"
+{ printf '#!/bin/sh\ncat <<"END"\n'; printf '%s\tidle\tsocket://x\n' "${queues[@]}"; echo END; } >"$scratch/hostile/kesto-lp"
+chmod +x "$scratch/hostile/kesto-lp"
+offered_and_typed() (
+  cd "$scratch/hostile"
+  typed=()
+  eval "typed=($(complete_word -d ''))"
+  printf '%s\n' "${typed[@]}"
+  ls
+)
+expect "names of queues come over whole" "^$(printf '%s\n' "${queues[@]}" kesto-lp | sha256sum)" \
+  eval 'offered_and_typed | sha256sum'
+expect "a name that is begun" '^a\\ b$' complete_word -d a
+expect "a name begun in double quotes" '^q"uote$|^a b$' complete_word -d '"a'
+expect "a name begun in single quotes" '^\$\(touch\$\{IFS\}ran\)$' complete_word -d "'\$(t"
+# shellcheck disable=SC2016
+expect "no name that double quotes would run" '^$' complete_word -d '"$(t'
+
 installed=$scratch/installed
 mkdir -p "$installed"/var/lib/dpkg/{info,updates}
 touch "$installed"/var/lib/dpkg/{status,available}
