@@ -33,10 +33,12 @@ void CloseHttp::operator()(http_t* http) const {
   httpClose(http);
 }
 
-// libcups calls it when a wait was as long as the limit. It goes on with a handshake all the same, unless the
-// connection is cut.
+// libcups calls it when a wait was as long as the limit, but also when an encrypted record holds nothing for
+// it; then the wait goes on.
 int HttpConnection::giveUp(http_t* http, void* connection) {
-  static_cast<HttpConnection*>(connection)->m_isSilent = true;
+  auto* self = static_cast<HttpConnection*>(connection);
+  if (Clock::now() < self->m_waitBegan + self->m_limit * 9 / 10) return 1;  // its clock counts roughly
+  self->m_isSilent = true;
   shutDown(http);
   return 0;
 }
@@ -48,9 +50,9 @@ Outcome HttpConnection::findAddresses(const QByteArray& host, int port) {
   });
   std::future<Addresses> found = task.get_future();
   std::thread(std::move(task)).detach();
-  const auto end = std::chrono::steady_clock::now() + m_limit;
+  const auto end = Clock::now() + m_limit;
   while (found.wait_for(std::min(look, m_limit)) != std::future_status::ready) {
-    if (m_watchdog->isInterrupted() || std::chrono::steady_clock::now() >= end)
+    if (m_watchdog->isInterrupted() || Clock::now() >= end)
       return Outcome::failed(
           Faults::tr("the address of the print server %1 is not found in time").arg(m_name));
   }
@@ -82,6 +84,7 @@ Outcome HttpConnection::reconnect() {
   shutDown(http);
   m_isSilent = false;
   m_isUsable = false;
+  m_waitBegan = Clock::now();
   const Watch watch(*m_watchdog, http, m_addresses.get(), m_limit * waitsOfConnect);
   if (httpReconnect2(http, static_cast<int>(m_limit.count()), m_watchdog->cancelFlag()) == 0 &&
       !watch.hasCut()) {
@@ -114,10 +117,12 @@ Outcome HttpConnection::attempt(const HttpRequest& request, QByteArray* reply) {
   m_isSilent = false;
   m_hasBegunDocument = false;
   m_status = HTTP_STATUS_ERROR;
+  m_waitBegan = Clock::now();
   Watch watch(*m_watchdog, m_http.get(), m_addresses.get(), m_limit * waitsOfReply);
   if (Outcome sent = send(request, watch); !sent) return sent;
   if (m_status == HTTP_STATUS_CONTINUE) {
     watch.restart(m_limit);
+    m_waitBegan = Clock::now();
     do
       m_status = httpUpdate(m_http.get());
     while (m_status == HTTP_STATUS_CONTINUE);
@@ -175,6 +180,7 @@ Outcome HttpConnection::sendDocument(const HttpRequest& request, Watch& watch) {
 
 Outcome HttpConnection::sendPart(const char* bytes, qsizetype count, Watch& watch) {
   http_t* http = m_http.get();
+  m_waitBegan = Clock::now();
   if (httpCheck(http) != 0) {
     watch.restart(m_limit);
     m_status = httpUpdate(http);
@@ -189,17 +195,21 @@ Outcome HttpConnection::sendPart(const char* bytes, qsizetype count, Watch& watc
 
 Outcome HttpConnection::receive(qsizetype longest, QByteArray* reply) {
   const auto hasField = [&](http_field_t field) { return *httpGetField(m_http.get(), field) != '\0'; };
+  const Outcome brokenOff = Outcome::failed(Faults::tr("the print server's answer breaks off"));
   reply->clear();
   QByteArray block(blockSize, Qt::Uninitialized);
-  ssize_t count = 0;
-  while ((count = httpRead2(m_http.get(), block.data(), static_cast<std::size_t>(block.size()))) > 0) {
+  for (;;) {
+    m_waitBegan = Clock::now();
+    const ssize_t count = httpRead2(m_http.get(), block.data(), static_cast<std::size_t>(block.size()));
+    if (count < 0) return brokenOff;
+    if (count == 0) break;
     reply->append(block.constData(), count);
     if (reply->size() > longest) return Outcome::failed(Faults::tr("the print server's answer is too large"));
   }
   // Without a length the end of the connection is the end.
   const bool hasLength = hasField(HTTP_FIELD_CONTENT_LENGTH) || hasField(HTTP_FIELD_TRANSFER_ENCODING);
-  const bool isWhole = count == 0 && (!hasLength || httpGetState(m_http.get()) == HTTP_STATE_WAITING);
-  return isWhole ? Outcome::done() : Outcome::failed(Faults::tr("the print server's answer breaks off"));
+  const bool isWhole = !hasLength || httpGetState(m_http.get()) == HTTP_STATE_WAITING;
+  return isWhole ? Outcome::done() : brokenOff;
 }
 
 // Whether the server may answer otherwise now that it knows who asks, or that nobody overhears.

@@ -49,6 +49,7 @@ class HttpConnection {
 
  private:
   using Watch = Watchdog::Watch;
+  using Clock = std::chrono::steady_clock;
 
   HttpConnection(std::chrono::milliseconds limit, const std::shared_ptr<Watchdog>& watchdog)
       : m_limit(limit), m_watchdog(watchdog) {}
@@ -70,6 +71,7 @@ class HttpConnection {
   Addresses m_addresses;
   std::unique_ptr<http_t, CloseHttp> m_http;
   http_status_t m_status = HTTP_STATUS_ERROR;
+  Clock::time_point m_waitBegan;
   bool m_isUsable = false;          // for another request
   bool m_isSilent = false;          // a wait was given up
   bool m_hasBegunDocument = false;  // which is read only once
