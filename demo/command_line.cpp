@@ -65,11 +65,9 @@ void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
   app.add_option("--folders", arguments.folders,
                  "the printer's folders: one a line, its name, and for a locked one a tab and \"locked\"")
       ->type_name("FILE");
-  app.add_option(
-         "--port", arguments.port,
-         "let the print server listen on this port of 127.0.0.1 too, 0 for any: for programs that "
-         "cannot use its socket. Every user of the machine can then send jobs, and see what is shown of "
-         "others'")
+  app.add_option("--port", arguments.port,
+                 "let the print server listen on this port of 127.0.0.1 too, 0 for any: for programs that "
+                 "cannot use its socket. Every user of the machine can then send jobs to it")
       ->type_name("PORT")
       ->transform(wholeNumber(0, 65535));
   app.add_option("--folder-port", arguments.folderPort,
@@ -133,3 +131,45 @@ std::optional<int> parse(CLI::App& app, int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     fault = error.what();
   }
+  std::cerr << "kesto-demo-printer: " << shownText(QString::fromUtf8(fault)).toStdString()
+            << "\nTry 'kesto-demo-printer --help'.\n";
+  return exitUsage;
+}
+
+// Turns the arguments into what they stand for.
+Outcome complete(const Arguments& arguments, DemoCommand* command) {
+  DemoSetup& setup = command->setup;
+  setup.directory = arguments.directory.empty() ? RunFolder::standardPath() : textOf(arguments.directory);
+  if (!arguments.output.empty()) setup.output = textOf(arguments.output);
+  if (arguments.misbehave == "list") {
+    command->kind = DemoCommand::Kind::ListMisbehaviours;
+  } else if (!arguments.misbehave.empty()) {
+    setup.behaviour = *misbehaviourNamed(QString::fromStdString(arguments.misbehave));
+  }
+  command->passCode = QString::fromStdString(arguments.passCode);
+  if (!arguments.passCodeFile.empty())
+    return readPassCode(textOf(arguments.passCodeFile), &command->passCode);
+  return arguments.folders.empty() ? Outcome::done() : readFolders(textOf(arguments.folders), &setup.folders);
+}
+
+}  // namespace
+
+std::optional<int> parseDemoCommand(int argc, char** argv, DemoCommand* command) {
+  Arguments arguments;
+  CLI::App app("A Kesto VQ-250n of this machine's own, with a private print scheduler, until Ctrl-C.",
+               "kesto-demo-printer");
+  addRun(app, arguments, *command);
+  addCommands(app, arguments, *command);
+  refuseFlagValues(app);
+  const std::optional<int> ended = parse(app, argc, argv);
+  wipeSecretArguments(argc, argv);
+  if (ended) return ended;
+  if (app.count("--folder-port") > 0) command->setup.folderPort = static_cast<quint16>(arguments.folderPort);
+  if (app.count("--port") > 0) command->setup.port = static_cast<quint16>(arguments.port);
+  const Outcome completed = complete(arguments, command);
+  if (completed) return std::nullopt;
+  std::cerr << "kesto-demo-printer: " << shownText(completed.reason()).toStdString() << '\n';
+  return exitFailed;
+}
+
+}  // namespace kesto
