@@ -165,7 +165,7 @@ class DialogPreview : public DialogDocument {
 };
 
 TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
-  const QString report = QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf");
+  const std::vector<JobFile> report{{KESTO_TEST_DATA "/../../demo/quarterly-report.pdf"}};
   auto* back = widgetNamed<QToolButton>(m_preview, u"Previous page"_s);
   auto* forward = widgetNamed<QToolButton>(m_preview, u"Next page"_s);
   const auto* position = m_preview.findChild<QLabel*>();
@@ -173,6 +173,7 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
   m_preview.resize(2 * m_preview.size());  // while the page is drawn for the size before
   const QImage first = sheet();
   EXPECT_TRUE(DialogUser::waitUntil([&] { return position->text() == u"Page 1 of 3"_s; }, u"the number"_s));
+  EXPECT_EQ(m_preview.pageCount(), 3);
   EXPECT_FALSE(back->isEnabled());
   forward->click();
   EXPECT_NE(sheet(), first);
@@ -199,13 +200,80 @@ TEST_F(DialogPreview, AnImageIsAPageOfItsShape) {
     image.setColorTable({qRgb(0, 0, 255), qRgb(255, 0, 0)});
     image.fill(0);
     ASSERT_TRUE(image.save(m_folder.path(u"image.png"_s)));
-    m_preview.show(m_folder.path(u"image.png"_s));
+    m_preview.show({{QFile::encodeName(m_folder.path(u"image.png"_s))}});
     const QImage shown = sheet();
     EXPECT_EQ(m_preview.findChild<QLabel*>()->text(), u"Page 1 of 1"_s);
     const QPoint middle = shown.rect().center();
     EXPECT_EQ(shown.pixelColor(middle), QColor(Qt::blue));
     EXPECT_NE(shown.pixelColor(middle - QPoint(0, shown.width() * 3 / 8)), QColor(Qt::blue));
   }
+}
+
+TEST_F(DialogPreview, WhatCannotBePrintedIsSaidInItsPlace) {
+  const QByteArray folder(KESTO_TEST_DATA "/");
+  const JobFile plain{QFile::encodeName(m_folder.path(u"report.pdf"_s)), u"report.pdf"_s};
+  const JobFile locked{folder + "protected.pdf", u"locked.pdf"_s};
+  const std::pair<std::vector<JobFile>, const char*> cases[] = {
+      {{locked}, "The document is protected by a password"},
+      {{plain, locked}, "locked.pdf: The document is protected by a password"},
+      {{{folder + "no-pages.pdf"}}, "The document has no pages."},
+      {{{QFile::encodeName(m_folder.path(u"empty"_s))}}, "The document has no pages."},
+      {{plain}, ""},  // damaged, but perhaps not for the printer
+  };
+  for (const auto& [files, fault] : cases) {
+    SCOPED_TRACE(files.back().path.toStdString());
+    m_preview.show(files);
+    EXPECT_FALSE(m_preview.isExamined());
+    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isSettled(); }, u"the page"_s));
+    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isExamined(); }, u"the look"_s));
+    EXPECT_TRUE((m_preview.fault() + u'.').startsWith(QLatin1String(fault))) << m_preview.fault();
+    EXPECT_EQ(m_preview.fault().isNull(), *fault == 0);
+    if (!m_preview.fault().isNull()) sheet(m_preview.fault());
+  }
+}
+
+TEST_F(DialogPreview, AProgramIsBoundedInTimeAndMemory) {
+  PageProgram hasty(std::chrono::milliseconds(1));
+  PageProgram patient;
+  const auto run = [&](PageProgram& program, const QString& name, const QStringList& arguments) {
+    std::optional<PageProgram::End> end;
+    QObject::connect(&program, &PageProgram::ended, &program, [&](PageProgram::End how) { end = how; });
+    program.start(name, arguments, m_folder.path(u"report.pdf"_s));
+    EXPECT_TRUE(DialogUser::waitUntil([&] { return end.has_value(); }, name));
+    program.disconnect();
+    return end;
+  };
+  EXPECT_EQ(run(hasty, u"sleep"_s, {u"600"_s}), PageProgram::End::Late);
+  EXPECT_EQ(run(patient, u"no-such-program"_s, {}), PageProgram::End::Missing);
+  const QStringList script{u"-c"_s, u"ulimit -c; ulimit -v; head -c 4; exit 3"_s};
+  EXPECT_EQ(run(patient, u"sh"_s, script), PageProgram::End::Failed);
+#ifdef __SANITIZE_ADDRESS__
+  EXPECT_EQ(patient.output(), "0\nunlimited\n%PDF");  // the sanitizer reserves far more for itself
+#else
+  EXPECT_EQ(patient.output(), "0\n1048576\n%PDF");
+#endif
+}
+
+// The process that a program has written to a file.
+bool isAlive(const QByteArray& process) {
+  QFile file(u"/proc/%1/stat"_s.arg(QLatin1String(process.trimmed())));
+  return file.open(QIODevice::ReadOnly) && !file.readAll().contains(") Z ");
+}
+
+TEST_F(DialogPreview, AProgramEndsWithTheDialogHoweverThatEnds) {
+  m_folder.write(u"pdftoppm"_s, "#!/bin/sh\necho $$ >" + QFile::encodeName(m_folder.path(u"process"_s)) +
+                                    "\nexec sleep 600\n");
+  QFile::setPermissions(m_folder.path(u"pdftoppm"_s), QFile::ReadOwner | QFile::ExeOwner);
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", QFile::encodeName(m_folder.path(u""_s)) + ':' + path);
+  DemoProcess dialog(m_folder, builtProgram("kesto-print"),
+                     {u"-h"_s, u"127.0.0.1:9"_s, m_folder.path(u"report.pdf"_s)});
+  qputenv("PATH", path);
+  const QString file = m_folder.path(u"process"_s);
+  EXPECT_TRUE(DialogUser::waitUntil([&] { return QFileInfo(file).size() > 0; }, u"the drawing"_s));
+  EXPECT_TRUE(isAlive(bytesOf(file)));
+  dialog.kill();
+  EXPECT_TRUE(DialogUser::waitUntil([&] { return !isAlive(bytesOf(file)); }, u"its end"_s));
 }
 
 }  // namespace

@@ -123,6 +123,17 @@ TEST_F(DialogPrint, AJobThatCannotBeSentKeepsTheEntries) {
   EXPECT_EQ(widget<QLineEdit>(u"userNumberEditText"_s)->text(), u"42"_s);
 }
 
+TEST_F(DialogPrint, ADocumentThatCannotBePrintedIsNotSent) {
+  startPrinter();
+  openReady({QLatin1String(KESTO_TEST_DATA "/protected.pdf")});
+  for (int i = 0; i < 2; ++i) {  // before it is looked at, perhaps, and after that
+    click(u"print"_s);
+    await([this] { return text(u"message"_s).contains(u"is protected by a password"_s); }, u"the reason"_s);
+    await([this] { return widget(u"print"_s)->isEnabled(); }, u"another try"_s);
+  }
+  EXPECT_EQ(m_printer->jobs(), "[]");
+}
+
 TEST_F(DialogPrint, CancelStopsAJobThatIsGoingOut) {
   startPrinter();
   openReady();

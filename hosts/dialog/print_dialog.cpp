@@ -230,20 +230,19 @@ void PrintDialog::retry() {
 void PrintDialog::showDocument() {
   using State = Document::State;
   const State state = m_document.state();
-  const std::vector<JobFile> files = m_document.files();
-  const QString file = state == State::Ready ? QString::fromLatin1(files.front().path) : QString();
+  const std::vector<JobFile> files = state == State::Ready ? m_document.files() : std::vector<JobFile>();
   QString text = m_document.name();
   if (state == State::None) text = m_options.documentLater ? shownText(m_options.title) : tr("none chosen");
   showDocumentName(text);
-  m_preview->show(file, state == State::Reading   ? tr("The document is being read…")
-                        : state == State::Paused  ? tr("The document is long. Print reads the rest.")
-                        : m_options.documentLater ? tr("The application draws the pages after the choice.")
-                                                  : tr("No document"));
+  m_preview->show(files, state == State::Reading   ? tr("The document is being read…")
+                         : state == State::Paused  ? tr("The document is long. Print reads the rest.")
+                         : m_options.documentLater ? tr("The application draws the pages after the choice.")
+                                                   : tr("No document"));
   m_chooseDocument->setVisible(m_options.channel < 0 && !m_options.documentLater &&
                                (state == State::Failed || state == State::None));
   m_session.renameJob(jobName());
   const bool isAsShown = state == State::Ready && m_document.faults().size() == m_faultsShown;
-  if (m_phase == Phase::Waiting && isAsShown) return send();
+  if (m_phase == Phase::Waiting && isAsShown) return sendExamined();
   if (m_phase == Phase::Waiting && (state == State::Ready || state == State::Failed))
     return takeSendFailure(m_document.faults().join(u' '));
   updateControls();
@@ -274,13 +273,14 @@ void PrintDialog::print() {
     m_general->showFault();
     return showMessage(m_general->fault());
   }
+  if (!m_preview->fault().isNull()) return showMessage(m_preview->fault());
   if (!m_session.confirm()) {
     if (m_panelPane != nullptr) m_panelPane->showMissingEntry();
     return;
   }
   const Document::State state = m_document.state();
   if (state == Document::State::Ready) {
-    send();
+    sendExamined();
   } else {
     setPhase(Phase::Waiting);
     if (state != Document::State::Paused) hide();
@@ -288,6 +288,13 @@ void PrintDialog::print() {
   m_faultsShown = m_document.faults().size();
   m_document.readOn();
   Q_EMIT chosen();
+}
+
+// A document that is not yet looked at may be one that cannot be printed.
+void PrintDialog::sendExamined() {
+  if (!m_preview->isExamined()) return setPhase(Phase::Waiting);
+  if (!m_preview->fault().isNull()) return takeSendFailure(m_preview->fault());
+  send();
 }
 
 void PrintDialog::send() {

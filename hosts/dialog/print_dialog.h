@@ -95,6 +95,7 @@ class PrintDialog : public QDialog {
   void showDocumentName(const QString& name);
   void chooseDocument();
   void print();
+  void sendExamined();
   void send();
   void takeSent(int job);
   void takeSendFailure(const QString& reason);

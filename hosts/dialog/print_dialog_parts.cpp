@@ -122,6 +122,10 @@ void PrintDialog::connectParts() {
   connect(m_general, &GeneralPane::optionChosen, this, [this](const QString& option, const QString& choice) {
     if (m_session.panel() != nullptr) m_session.panel()->PPDOptionKeyValueDidChange(option, choice);
   });
+  connect(m_preview, &Preview::examined, this, [this] {
+    const bool isWaiting = m_phase == Phase::Waiting && m_document.state() == Document::State::Ready;
+    if (isWaiting && m_session.queue()) sendExamined();
+  });
   connect(&m_document, &Document::changed, this, &PrintDialog::showDocument);
   connect(&m_watch, &QueueWatch::listed, this, &PrintDialog::takeQueues);
   connect(&m_watch, &QueueWatch::changed, this, [this](const QueueSummary& queue) {

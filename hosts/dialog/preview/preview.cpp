@@ -1,7 +1,7 @@
 #include "hosts/dialog/preview/preview.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
-#include <QtGui/QImageReader>
 #include <QtGui/QPainter>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -11,32 +11,12 @@
 namespace kesto {
 namespace {
 
-constexpr int redrawDelay = 150;  // ms of rest after a change of size
-constexpr int largestImage = 4000;
+constexpr int redrawDelay = 150;   // ms of rest after a change of size
+constexpr int largestPage = 4000;  // pixels
 
-bool isPdfFile(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) && file.read(1024).contains("%PDF-");
-}
-
-QImage readImage(const QString& path) {
-  QImageReader reader(path);
-  reader.setAutoTransform(true);
-  const QSize size = reader.size();
-  const bool isLarge = size.width() > largestImage || size.height() > largestImage;
-  // Images of two colours lose these when they are read smaller.
-  if (isLarge && reader.imageFormat() != QImage::Format_Mono)
-    reader.setScaledSize(size.scaled(largestImage, largestImage, Qt::KeepAspectRatio));
-  return reader.read();
-}
-
-// Ends a program of which nothing is wanted any more, with all that it still had to say.
-void drop(std::unique_ptr<QProcess>* process) {
-  if (!*process) return;
-  (*process)->disconnect();
-  (*process)->kill();
-  (*process)->waitForFinished();
-  process->reset();
+// The program that draws images lies beside ours, in a build as in an installation.
+QString imageProgram() {
+  return QCoreApplication::applicationDirPath() + QStringLiteral("/../libexec/kesto/kesto-draw-image");
 }
 
 }  // namespace
@@ -109,89 +89,69 @@ Preview::Preview(QWidget* parent)
   column->addLayout(row);
   m_redraw.setSingleShot(true);
   connect(&m_redraw, &QTimer::timeout, this, &Preview::drawPage);
+  connect(&m_program, &PageProgram::ended, this, &Preview::takePage);
+  connect(&m_examiner, &DocumentExaminer::counted, this, &Preview::updateButtons);
+  connect(&m_examiner, &DocumentExaminer::examined, this, [this] {
+    if (!m_reason.isNull()) settle({}, m_reason);
+    Q_EMIT examined();
+  });
   connect(m_back, &QToolButton::clicked, this, [this] { showPage(m_page - 1); });
   connect(m_forward, &QToolButton::clicked, this, [this] { showPage(m_page + 1); });
   updateButtons();
-}
-
-Preview::~Preview() {
-  drop(&m_counting);
-  drop(&m_drawing);
 }
 
 QSize Preview::sizeHint() const {
   return {fontMetrics().horizontalAdvance(u'0') * 40, fontMetrics().height() * 26};
 }
 
-void Preview::show(const QString& path, const QString& text) {
-  drop(&m_counting);
-  drop(&m_drawing);
-  m_path = path;
+void Preview::show(const std::vector<JobFile>& files, const QString& text) {
+  m_program.stop();
+  m_path = files.empty() ? QString() : QFile::decodeName(files.front().path);
   m_page = 1;
-  m_pageCount = 0;
-  m_isPdf = !path.isNull() && isPdfFile(path);
+  m_isPdf = !files.empty() && isPdfFile(m_path);
+  m_isDrawn = false;
   m_isSettled = false;
-  ++m_request;
+  m_reason = QString();
+  m_examiner.examine(files);
   updateButtons();
-  if (path.isNull()) return settle({}, text);
+  if (files.empty()) return settle({}, text);
   m_sheet->show({}, {});
-  if (!m_isPdf) return readAsImage();
-  countPages();
   drawPage();
 }
 
-// A large image takes a while.
-void Preview::readAsImage() {
-  m_reader.post([this, path = m_path, request = m_request] {
-    const QImage image = readImage(path);
-    answer(this, [this, image, request] {
-      if (request != m_request) return;
-      m_pageCount = image.isNull() ? 0 : 1;
-      updateButtons();
-      settle(image, tr("There is no preview of this kind of document."));
-    });
-  });
-}
-
-void Preview::countPages() {
-  m_counting = std::make_unique<QProcess>();
-  connect(m_counting.get(), &QProcess::finished, this, [this] {
-    for (const QByteArray& line : m_counting->readAllStandardOutput().split('\n')) {
-      if (line.startsWith("Pages:")) m_pageCount = line.mid(6).trimmed().toInt();
-    }
-    updateButtons();
-  });
-  m_counting->start(QStringLiteral("pdfinfo"), {m_path});
+int Preview::pages() const {
+  return m_isPdf ? m_examiner.pageCount() : m_isDrawn ? 1 : 0;
 }
 
 void Preview::drawPage() {
-  if (!m_isPdf) return;
-  drop(&m_drawing);
-  m_drawing = std::make_unique<QProcess>();
-  connect(m_drawing.get(), &QProcess::finished, this, &Preview::takePage);
-  connect(m_drawing.get(), &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-    if (error == QProcess::FailedToStart)
-      settle({}, tr("There is no preview: the program pdftoppm of poppler-utils is missing."));
-  });
-  // In some languages the page's own fonts would be replaced by ones without its letters.
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-  m_drawing->setProcessEnvironment(environment);
+  if (m_path.isNull()) return;
+  const int wanted = qRound(qMax(m_sheet->width(), m_sheet->height()) * devicePixelRatioF());
+  const QString pixels = QString::number(qBound(64, wanted, largestPage));
+  if (!m_isPdf) return m_program.start(imageProgram(), {pixels}, m_path);
   const QString page = QString::number(m_page);
-  const int pixels = qRound(qMax(m_sheet->width(), m_sheet->height()) * devicePixelRatioF());
-  m_drawing->start(QStringLiteral("pdftoppm"),
-                   {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-f"), page,
-                    QStringLiteral("-l"), page, QStringLiteral("-scale-to"),
-                    QString::number(qBound(64, pixels, largestImage)), m_path});
+  m_program.start(
+      QStringLiteral("pdftoppm"),
+      {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-f"), page,
+       QStringLiteral("-l"), page, QStringLiteral("-scale-to"), pixels, QStringLiteral("/dev/stdin")},
+      m_path);
 }
 
-void Preview::takePage() {
-  const QImage image = QImage::fromData(m_drawing->readAllStandardOutput(), "PNG");
-  settle(image, tr("There is no preview: the document cannot be read as PDF."));
+void Preview::takePage(PageProgram::End end) {
+  const QImage image = QImage::fromData(m_program.output(), "PNG");
+  m_isDrawn = !image.isNull();
+  updateButtons();
+  if (m_isDrawn) return settle(image, {});
+  m_reason = tr("There is no preview of this kind of document.");
+  if (m_isPdf) m_reason = tr("There is no preview: the document cannot be read as PDF.");
+  if (m_isPdf && end == PageProgram::End::Missing)
+    m_reason = tr("There is no preview: the program pdftoppm of poppler-utils is missing.");
+  if (end == PageProgram::End::Late) m_reason = tr("There is no preview: drawing the page takes too long.");
+  if (isExamined()) settle({}, m_reason);
 }
 
 void Preview::settle(const QImage& image, const QString& text) {
-  m_sheet->show(image, text);
+  m_sheet->show(image, fault().isNull() ? text : fault());
+  m_reason = QString();
   m_isSettled = !m_redraw.isActive();
   if (m_isSettled) Q_EMIT shown();
 }
@@ -205,12 +165,12 @@ void Preview::showPage(int page) {
 
 void Preview::updateButtons() {
   m_back->setEnabled(m_page > 1);
-  m_forward->setEnabled(m_page < m_pageCount);
-  m_position->setText(m_pageCount > 0 ? tr("Page %1 of %2").arg(m_page).arg(m_pageCount) : QString());
+  m_forward->setEnabled(m_page < pages());
+  m_position->setText(pages() > 0 ? tr("Page %1 of %2").arg(m_page).arg(pages()) : QString());
 }
 
 void Preview::resizeEvent(QResizeEvent* /*event*/) {
-  if (!m_isPdf) return;
+  if (m_path.isNull()) return;
   m_isSettled = false;
   m_redraw.start(redrawDelay);
 }

@@ -176,6 +176,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::DocumentExaminer</name>
+    <message>
+        <source>The document has no pages. There is nothing to print.</source>
+        <translation>Das Dokument hat keine Seiten. Es gibt nichts zu drucken.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
+        <translation>Das Dokument ist durch ein Kennwort geschützt und kann nicht gedruckt werden. Speichern Sie eine Kopie ohne Kennwort und drucken Sie diese.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
@@ -503,6 +518,10 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>Keine Vorschau: Das Zeichnen der Seite dauert zu lange.</translation>
     </message>
 </context>
 <context>

@@ -176,6 +176,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::DocumentExaminer</name>
+    <message>
+        <source>The document has no pages. There is nothing to print.</source>
+        <translation>El documento no tiene páginas. No hay nada que imprimir.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
+        <translation>El documento está protegido con una contraseña y no se puede imprimir. Guarde una copia sin contraseña e imprímala.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
@@ -503,6 +518,10 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>Sin vista previa: dibujar la página tarda demasiado.</translation>
     </message>
 </context>
 <context>

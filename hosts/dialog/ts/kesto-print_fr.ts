@@ -176,6 +176,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::DocumentExaminer</name>
+    <message>
+        <source>The document has no pages. There is nothing to print.</source>
+        <translation>Le document n’a aucune page. Il n’y a rien à imprimer.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
+        <translation>Le document est protégé par un mot de passe et ne peut pas être imprimé. Enregistrez une copie sans mot de passe et imprimez-la.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
@@ -503,6 +518,10 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>Aucun aperçu&#xa0;: le dessin de la page prend trop de temps.</translation>
     </message>
 </context>
 <context>

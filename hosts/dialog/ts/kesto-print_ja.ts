@@ -175,6 +175,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::DocumentExaminer</name>
+    <message>
+        <source>The document has no pages. There is nothing to print.</source>
+        <translation>文書にページがありません。印刷するものがありません。</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
+        <translation>文書はパスワードで保護されているため印刷できません。パスワードのないコピーを保存して印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
@@ -502,6 +517,10 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>%1 / %2 ページ</translation>
+    </message>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>プレビューできません: ページの描画に時間がかかりすぎます。</translation>
     </message>
 </context>
 <context>

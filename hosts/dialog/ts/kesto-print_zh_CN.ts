@@ -175,6 +175,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::DocumentExaminer</name>
+    <message>
+        <source>The document has no pages. There is nothing to print.</source>
+        <translation>文档没有页面。没有可打印的内容。</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
+        <translation>文档受密码保护，无法打印。请保存一份没有密码的副本并打印该副本。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>kesto::Faults</name>
     <message>
         <source>the digest of the pass code</source>
@@ -502,6 +517,10 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>无法预览：绘制页面耗时过长。</translation>
     </message>
 </context>
 <context>

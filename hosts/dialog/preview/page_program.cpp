@@ -1,0 +1,92 @@
+#include "hosts/dialog/preview/page_program.h"
+
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <QtCore/QProcess>
+#include <csignal>
+
+namespace kesto {
+namespace {
+
+constexpr rlim_t longestWork = 20;  // seconds of the processor
+#ifdef __SANITIZE_ADDRESS__
+constexpr rlim_t largestMemory = RLIM_INFINITY;  // the sanitizer reserves far more for itself
+#else
+constexpr rlim_t largestMemory = rlim_t{1} << 30;
+#endif
+
+void limit(__rlimit_resource resource, rlim_t most) {
+  const rlimit limits{.rlim_cur = most, .rlim_max = most};
+  (void)::setrlimit(resource, &limits);
+}
+
+// In the child, before the program: only calls that are safe there.
+void confine(pid_t parent) {
+  (void)::setpgid(0, 0);
+  (void)::prctl(PR_SET_PDEATHSIG, SIGKILL);
+  if (::getppid() != parent) ::_exit(EXIT_FAILURE);  // it has ended already
+  limit(RLIMIT_CPU, longestWork);
+  limit(RLIMIT_CORE, 0);
+  limit(RLIMIT_AS, largestMemory);
+}
+
+void end(QProcess& process) {
+  process.disconnect();
+  if (process.processId() > 0) (void)::kill(-static_cast<pid_t>(process.processId()), SIGKILL);
+  process.kill();
+  process.waitForFinished();
+}
+
+}  // namespace
+
+PageProgram::PageProgram(std::chrono::milliseconds limit) {
+  m_limit.setSingleShot(true);
+  m_limit.setInterval(limit);
+  connect(&m_limit, &QTimer::timeout, this, [this] { finish(End::Late); });
+}
+
+PageProgram::~PageProgram() {
+  stop();
+}
+
+void PageProgram::start(const QString& program, const QStringList& arguments, const QString& document) {
+  stop();
+  m_process = std::make_unique<QProcess>();
+  // In some languages the page's own fonts would be replaced by ones without its letters.
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+  m_process->setProcessEnvironment(environment);
+  m_process->setStandardInputFile(document);
+  m_process->setChildProcessModifier([parent = ::getpid()] { confine(parent); });
+  connect(m_process.get(), &QProcess::finished, this, [this](int code, QProcess::ExitStatus status) {
+    finish(code == 0 && status == QProcess::NormalExit ? End::Done : End::Failed);
+  });
+  connect(
+      m_process.get(), &QProcess::errorOccurred, this,
+      [this, process = m_process.get()](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart && process == m_process.get()) finish(End::Missing);
+      },
+      Qt::QueuedConnection);
+  m_limit.start();
+  m_process->start(program, arguments);
+}
+
+void PageProgram::finish(End outcome) {
+  m_limit.stop();
+  m_output = m_process->readAllStandardOutput();
+  m_errors = m_process->readAllStandardError();
+  end(*m_process);
+  m_process.release()->deleteLater();  // it may be what tells of its end
+  Q_EMIT ended(outcome);
+}
+
+void PageProgram::stop() {
+  m_limit.stop();
+  if (!m_process) return;
+  end(*m_process);
+  m_process.reset();
+}
+
+}  // namespace kesto
