@@ -53,6 +53,13 @@ class FieldTest : public testing::Test {
   TextField text{u"text"_s, &view, 1};
 };
 
+TEST_F(FieldTest, TypingWithoutAFilterTakesOneStepForAnyLength) {
+  int steps = 0;
+  QObject::connect(&text, &Control::changed, &text, [&steps] { ++steps; });
+  expectEdit({"|", Type, QString(1000000, u'x'), QString(1000000, u'x') + u'|'});
+  EXPECT_EQ(steps, 1);
+}
+
 TEST_F(FieldTest, EditsHappenAtTheSelection) {
   const QString half(smile[1]);
   for (const EditCase& row :

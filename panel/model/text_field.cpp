@@ -47,6 +47,11 @@ void TextField::insert(QStringView text) {
 
 Outcome TextField::type(const QString& text) {
   if (Outcome begun = beginEdit(); !begun) return begun;
+  // Without a filter, which keeps a text short, each character would copy and wipe all before it.
+  if (!m_formatter) {
+    insert(text);
+    return Outcome::done();
+  }
   for (qsizetype position = 0; position < text.size();) {
     const qsizetype units = isWithinPair(text, position + 1) ? 2 : 1;
     insert(QStringView(text).sliced(position, units));

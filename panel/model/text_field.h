@@ -68,7 +68,8 @@ class TextField : public Control {
   const Formatter* formatter() const { return m_formatter.get(); }
   void setFormatter(std::unique_ptr<Formatter> formatter) { m_formatter = std::move(formatter); }
 
-  /// The user types at the selection, character by character, each through the formatter. Like the three that
+  /// The user types at the selection, character by character, each through the formatter if there
+  /// is one. Like the three that
   /// follow, it makes the field the first responder, and fails when the field does not take it.
   Outcome type(const QString& text);
   /// The user inserts a text at the selection at once.
