@@ -5,6 +5,7 @@
 #include <sys/ptrace.h>
 #include <sys/user.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include "lp_program.h"
@@ -100,24 +101,70 @@ TEST_F(LpSecrets, TheListOfProcessesDoesNotShowThem) {
 }
 #endif
 
-TEST_F(LpSecrets, TheTerminalAsksWithoutShowingThem) {
-  const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
-  ASSERT_TRUE(master >= 0 && ::grantpt(master) == 0 && ::unlockpt(master) == 0);
-  const std::string terminal = ::ptsname(master);
-  const auto lp = job(u"--ask-pin"_s);
-  lp->setChildProcessModifier([&terminal] {
-    ::setsid();
-    ::ioctl(::open(terminal.c_str(), O_RDWR), TIOCSCTTY, 0);
-  });
-  lp->start();
-  ASSERT_TRUE(lp->waitForStarted());
-  std::array<char, 100> seen{};
-  const auto read = [&] { return QByteArray(seen.data(), ::read(master, seen.data(), seen.size())); };
-  EXPECT_EQ(read(), "Pass code: ");
-  ASSERT_EQ(::write(master, "1234\n", 5), 5);
+// A terminal at which a program asks for a pass code.
+class LpAtATerminal : public LpSecrets {
+ protected:
+  void SetUp() override {
+    m_master = ::posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_TRUE(m_master >= 0 && ::grantpt(m_master) == 0 && ::unlockpt(m_master) == 0);
+    m_terminal = ::open(::ptsname(m_master), O_RDWR | O_NOCTTY);  // so that its modes outlive a program
+  }
+  ~LpAtATerminal() override {
+    ::close(m_terminal);
+    ::close(m_master);
+  }
+  std::unique_ptr<QProcess> ask() {
+    auto lp = job(u"--ask-pin"_s);
+    lp->setChildProcessModifier([name = std::string(::ptsname(m_master))] {
+      ::setsid();
+      ::ioctl(::open(name.c_str(), O_RDWR), TIOCSCTTY, 0);
+    });
+    lp->start();
+    EXPECT_EQ(read(), "Pass code: ");
+    return lp;
+  }
+  QByteArray read() const {
+    std::array<char, 100> seen{};
+    return {seen.data(), ::read(m_master, seen.data(), seen.size())};
+  }
+  void expectEcho(bool isOn, int after) const {
+    termios modes{};
+    for (int tries = 0; tries < 500; ++tries, ::usleep(10000)) {
+      ASSERT_EQ(::tcgetattr(m_master, &modes), 0);
+      if (((modes.c_lflag & ECHO) != 0) == isOn) return;
+    }
+    ADD_FAILURE() << "echo " << (isOn ? "stays off" : "comes back") << " after signal " << after;
+  }
+
+  int m_master = -1;
+  int m_terminal = -1;
+};
+
+TEST_F(LpAtATerminal, AnswersWithoutShowingThem) {
+  const auto lp = ask();
+  expectEcho(false, 0);
+  ASSERT_EQ(::write(m_master, "1234\n", 5), 5);
   EXPECT_EQ(finish(*lp).values(u"jobSuspend2Key"_s), pin1234);
   EXPECT_EQ(read(), "\r\n");
-  ::close(master);
+  expectEcho(true, 0);
+}
+
+TEST_F(LpAtATerminal, AProgramThatGoesLeavesItItsEcho) {
+  for (const int signal : {SIGTERM, SIGALRM, SIGSEGV, SIGKILL}) {
+    const auto lp = ask();
+    expectEcho(false, 0);
+    ASSERT_EQ(::kill(static_cast<pid_t>(lp->processId()), signal), 0);
+    ASSERT_TRUE(lp->waitForFinished());
+    expectEcho(true, signal);
+    ::tcflush(m_master, TCIOFLUSH);
+  }
+  const auto lp = ask();
+  ::kill(static_cast<pid_t>(lp->processId()), SIGSTOP);
+  expectEcho(true, SIGSTOP);
+  ::kill(static_cast<pid_t>(lp->processId()), SIGCONT);
+  expectEcho(false, SIGCONT);
+  ASSERT_EQ(::write(m_master, "1234\n", 5), 5);
+  EXPECT_EQ(finish(*lp).values(u"jobSuspend2Key"_s), pin1234);
 }
 
 TEST_F(LpSecrets, WithoutATerminalNothingIsAsked) {

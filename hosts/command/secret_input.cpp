@@ -1,7 +1,6 @@
 #include "hosts/command/secret_input.h"
 
 #include <fcntl.h>
-#include <termios.h>
 #include <unistd.h>
 
 #include <QtCore/QFile>
@@ -9,7 +8,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include "hosts/command/held_signals.h"
+#include "hosts/command/unseen_terminal.h"
 #include "platform/secret.h"
 
 namespace kesto {
@@ -17,27 +16,6 @@ namespace {
 
 // More than any entry takes. A line that grew beyond what is reserved for it would leave copies behind.
 constexpr qsizetype longestLine = 1024;
-
-// While it lives, the terminal does not show what is typed. A signal that would end the program ends the
-// reading, and is sent again once the terminal is as it was.
-class Unseen {
- public:
-  explicit Unseen(int terminal) : m_terminal(terminal) {
-    ::tcgetattr(m_terminal, &m_shown);
-    termios hidden = m_shown;
-    hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    ::tcsetattr(m_terminal, TCSAFLUSH, &hidden);
-  }
-  ~Unseen() { ::tcsetattr(m_terminal, TCSAFLUSH, &m_shown); }
-  Unseen(const Unseen&) = delete;
-  Unseen& operator=(const Unseen&) = delete;
-  bool isInterrupted() const { return m_signals.hasCome(); }
-
- private:
-  HeldSignals m_signals;
-  int m_terminal;
-  termios m_shown{};
-};
 
 class Descriptor {
  public:
@@ -89,9 +67,10 @@ Outcome readSecretLine(const QString& path, QString* secret) {
 Outcome askSecret(const QString& prompt, QString* secret) {
   const Descriptor terminal("/dev/tty", O_RDWR | O_NOCTTY);
   if (terminal.number() < 0) return Outcome::failed(QStringLiteral("there is no terminal to ask at"));
-  const Unseen unseen(terminal.number());
+  const UnseenTerminal unseen(terminal.number());
   show(terminal.number(), prompt.toLocal8Bit() + ": ");
-  Outcome read = readLine(terminal.number(), secret);
+  Outcome read = Outcome::done();
+  if (unseen.waitForLine()) read = readLine(terminal.number(), secret);
   show(terminal.number(), "\n");
   return unseen.isInterrupted() ? Outcome::failed(QStringLiteral("interrupted")) : read;
 }

@@ -13,7 +13,8 @@ namespace kesto {
 Outcome readSecretLine(const QString& path, QString* secret);
 
 /// Asks at the terminal of the process, without showing what is typed. Fails when there is no terminal, and
-/// when nothing is typed. A signal that ends the program first gives the terminal its echo back.
+/// when nothing is typed. A terminal whose program ends or is stopped meanwhile
+/// gets its echo back.
 Outcome askSecret(const QString& prompt, QString* secret);
 
 }  // namespace kesto

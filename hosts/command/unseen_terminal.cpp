@@ -1,0 +1,109 @@
+#include "hosts/command/unseen_terminal.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <string_view>
+
+namespace kesto {
+namespace {
+
+// No call lets a child wait for its parent to be stopped; looking so often costs nothing that can be
+// measured.
+constexpr int lookEvery = 100;  // milliseconds
+
+// What a guard needs. It is forked from a program with threads, and only calls what is safe there.
+struct Guard {
+  int terminal = -1;
+  int life = -1;
+  std::array<char, 32> state{};  // the path of the program's state
+  termios shown{};
+  termios hidden{};
+
+  [[noreturn]] void run() const;
+  bool isProgramStopped() const;
+  void change(const termios& from, const termios& to) const;
+};
+
+bool Guard::isProgramStopped() const {
+  std::array<char, 256> text{};
+  const int file = ::open(state.data(), O_RDONLY | O_CLOEXEC);
+  const ssize_t count = ::read(file, text.data(), text.size());
+  ::close(file);
+  if (count <= 0) return false;
+  // The state follows the program's name in brackets.
+  const std::string_view line(text.data(), static_cast<std::size_t>(count));
+  const std::size_t name = line.rfind(')');
+  return name != std::string_view::npos && line.substr(name).starts_with(") T");
+}
+
+// Modes that somebody else has set meanwhile, such as a shell, stay. What was typed unseen is dropped.
+void Guard::change(const termios& from, const termios& to) const {
+  termios now{};
+  if (::tcgetattr(terminal, &now) == 0 && now.c_lflag == from.c_lflag) ::tcsetattr(terminal, TCSAFLUSH, &to);
+}
+
+void Guard::run() const {
+  // It goes on in the background whatever the terminal's keys send to the program.
+  ::setpgid(0, 0);
+  for (const int signal : {SIGINT, SIGQUIT, SIGHUP, SIGTERM, SIGTSTP, SIGTTIN, SIGTTOU})
+    ::signal(signal, SIG_IGN);
+  bool wasStopped = false;
+  pollfd end{.fd = life, .events = POLLIN, .revents = 0};
+  while (::poll(&end, 1, lookEvery) == 0) {
+    const bool isStopped = isProgramStopped();
+    if (isStopped != wasStopped) isStopped ? change(hidden, shown) : change(shown, hidden);
+    wasStopped = isStopped;
+  }
+  change(hidden, shown);
+  ::_exit(0);
+}
+
+}  // namespace
+
+UnseenTerminal::UnseenTerminal(int terminal) : m_terminal(terminal) {
+  ::tcgetattr(m_terminal, &m_shown);
+  m_hidden = m_shown;
+  m_hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+  startGuard();
+  ::tcsetattr(m_terminal, TCSAFLUSH, &m_hidden);
+}
+
+UnseenTerminal::~UnseenTerminal() {
+  ::tcsetattr(m_terminal, TCSAFLUSH, &m_shown);
+  if (m_guard < 0) return;
+  ::close(m_life);
+  while (::waitpid(m_guard, nullptr, 0) < 0 && errno == EINTR) {
+  }
+}
+
+bool UnseenTerminal::waitForLine() const {
+  // A signal that comes just before a wait does not interrupt it.
+  pollfd input{.fd = m_terminal, .events = POLLIN, .revents = 0};
+  while (!isInterrupted() && ::poll(&input, 1, lookEvery) <= 0) {
+  }
+  return !isInterrupted();
+}
+
+// Without a guard the terminal is still unseen.
+void UnseenTerminal::startGuard() {
+  std::array<int, 2> life{};
+  if (::pipe2(life.data(), O_CLOEXEC) != 0) return;
+  Guard guard{.terminal = m_terminal, .life = life[0], .state = {}, .shown = m_shown, .hidden = m_hidden};
+  std::snprintf(guard.state.data(), guard.state.size(), "/proc/%d/stat", static_cast<int>(::getpid()));
+  m_guard = ::fork();
+  if (m_guard == 0) {
+    ::close(life[1]);
+    guard.run();
+  }
+  ::close(life[0]);
+  m_life = life[1];
+  if (m_guard < 0) ::close(m_life);
+}
+
+}  // namespace kesto
