@@ -1,6 +1,8 @@
 // kesto-lp and its print server: what is refused, broken off, kept, checked and listed.
+#include <poll.h>
 #include <QtCore/QEventLoop>
 #include <QtNetwork/QTcpServer>
+
 #include <QtNetwork/QTcpSocket>
 #include <future>
 #include <list>
@@ -372,6 +374,49 @@ TEST(HostilePrintServer, AHandshakeEndsToo) {
     EXPECT_EQ(connected.reason(), lateAnswer.arg(hostile.address())) << what;
   }
   cupsSetEncryption(HTTP_ENCRYPTION_IF_REQUESTED);
+}
+
+// Goes over to TLS and lists one queue; libcups is the server, too.
+void listEncrypted(int listener) {
+  pollfd waiting{.fd = listener, .events = POLLIN, .revents = 0};
+  ::poll(&waiting, 1, -1);
+  const std::unique_ptr<http_t, CloseHttp> client(httpAcceptConnection(listener, 1));
+  http_t* http = client.get();
+  const auto readHead = [http] {
+    std::array<char, 256> resource{};
+    httpReadRequest(http, resource.data(), resource.size());
+    while (httpUpdate(http) == HTTP_STATUS_CONTINUE)
+      continue;
+  };
+  readHead();
+  httpSetField(http, HTTP_FIELD_CONNECTION, "Upgrade");
+  httpWriteResponse(http, HTTP_STATUS_SWITCHING_PROTOCOLS);
+  ASSERT_EQ(httpEncryption(http, HTTP_ENCRYPTION_REQUIRED), 0);
+  httpClearFields(http);
+  httpSetLength(http, 0);
+  httpSetField(http, HTTP_FIELD_CONTENT_LENGTH, "0");
+  httpWriteResponse(http, HTTP_STATUS_OK);
+  readHead();
+  const Ipp request(ippNew());
+  while (ippRead(http, request.get()) > IPP_STATE_IDLE && ippGetState(request.get()) != IPP_STATE_DATA)
+    continue;
+  const Ipp reply(ippNewResponse(request.get()));
+  ippAddString(reply.get(), IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "q");
+  const QByteArray bytes = bytesOfRequest(reply.get());
+  httpClearFields(http);
+  httpSetLength(http, static_cast<std::size_t>(bytes.size()));
+  httpWriteResponse(http, HTTP_STATUS_OK);
+  httpWrite2(http, bytes.constData(), static_cast<std::size_t>(bytes.size()));
+  httpFlushWrite(http);
+}
+
+TEST_F(LpTest, AnEncryptedServerIsAsked) {
+  ASSERT_EQ(cupsSetServerCredentials(m_home.path().toUtf8().constData(), "localhost", 1), 1);
+  QTcpServer listener;
+  ASSERT_TRUE(listener.listen(QHostAddress::LocalHost));
+  std::thread server(listEncrypted, static_cast<int>(listener.socketDescriptor()));
+  EXPECT_EQ(run(u"-E -h 127.0.0.1:%1 --list"_s.arg(listener.serverPort())).out, u"q\t\t\n"_s);
+  server.join();
 }
 
 // A server that takes jobs and is too busy to say what is in them.
