@@ -125,7 +125,8 @@ TEST_F(DialogPrint, AJobThatCannotBeSentKeepsTheEntries) {
 
 TEST_F(DialogPrint, ADocumentThatCannotBePrintedIsNotSent) {
   startPrinter();
-  openReady({QLatin1String(KESTO_TEST_DATA "/protected.pdf")});
+  open({QLatin1String(KESTO_TEST_DATA "/protected.pdf")});
+  await([this] { return m_dialog->isQueueReady(); }, u"the queue"_s);
   for (int i = 0; i < 2; ++i) {  // before it is looked at, perhaps, and after that
     click(u"print"_s);
     await([this] { return text(u"message"_s).contains(u"is protected by a password"_s); }, u"the reason"_s);

@@ -8,6 +8,7 @@
 #include <QtWidgets/QMessageBox>
 
 #include "demo_process.h"
+#include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/user/dialog_user.h"
 #include "hosts/dialog/widgets/queue_list_model.h"
@@ -90,6 +91,7 @@ class DialogPrint : public testing::Test {
   void openReady(const QStringList& files) {
     open(files);
     await([this] { return m_dialog->isQueueReady() && m_dialog->queues().rowCount() > 0; }, u"the queue"_s);
+    await([this] { return m_dialog->preview().isExamined(); }, u"the look at the document"_s);
   }
   void openReady() { openReady({m_folder.path(u"report.pdf"_s)}); }
   static void await(const std::function<bool()>& isSo, const QString& what) {
