@@ -37,7 +37,7 @@ TEST_F(LpEntries, EveryEntryMakesItsKeys) {
     const LpRun run = dryRun(arguments);
     EXPECT_EQ(run.values(values), values) << arguments.toStdString();
     EXPECT_EQ(run.code, 0);
-    EXPECT_EQ(run.err, u""_s);
+    EXPECT_EQ(run.err, arguments.contains(u"--folder "_s) ? unfiled : u""_s);
   }
 }
 
@@ -51,7 +51,7 @@ TEST_F(LpEntries, TheLimitIsTakenAndOneMoreIsNot) {
   for (const auto& [option, limit, unit] : cases) {
     const QString folder = option == u"folder"_s ? QString() : u"--folder X"_s;
     const QString entry = u"--hold only %1 --%2 "_s.arg(folder, option);
-    EXPECT_EQ(dryRun(entry + QString(limit, u'7')).err, u""_s);
+    EXPECT_EQ(dryRun(entry + QString(limit, u'7')).err, unfiled);
     const QString message = u"--%1 takes at most %2 %3"_s.arg(option).arg(limit).arg(unit);
     expectFailure(entry + QString(limit + 1, u'7'), 3, message);
     if (unit == u"digits"_s) expectFailure(entry + u"7x"_s, 3, message);
@@ -90,7 +90,7 @@ TEST_F(LpEntries, WrongUsageIsToldWithoutSecrets) {
       {u"--timeout nan"_s, u"--timeout: is no number"_s},
       {u"--json=no"_s, u"json was given a disallowed flag override"_s},
       {u"--list-presets"_s,
-       u"only one of --dry-run, --list, --folders, --check and the presets' two can be done"_s},
+       u"only one of -i, --dry-run, --list, --folders, --check and the presets' two can be done"_s},
   };
   for (const auto& [arguments, message] : cases)
     expectFailure(arguments, 2, message);
@@ -101,7 +101,10 @@ TEST_F(LpEntries, WrongUsageIsToldWithoutSecrets) {
                   .err.contains(u"--ppd stands for a queue only with --dry-run or --folders"_s));
   const QString folders = u"--folders --device-uri usb://x --ppd "_s + m_ppd.path();
   EXPECT_EQ(run(folders).err, u"kesto-lp: the printer's address is not known; give --address\n"_s);
-  EXPECT_EQ(run(folders + u" --address \"a b:c\""_s).err, u"kesto-lp: \"a b:c\" is no address\n"_s);
+  for (const auto& address :
+       {u"a b:c"_s, u"http://a"_s, u"ä.local"_s, u"a/["_s, u"u@a"_s, u"a:66000"_s, u"[a]"_s})
+    EXPECT_EQ(run(folders + u" --address \"%1\""_s.arg(address)).err,
+              u"kesto-lp: \"%1\" is no address\n"_s.arg(address));
   const LpRun noFile = run(u"--ppd x.ppd --device-uri lpd://x --dry-run"_s);
   EXPECT_EQ(noFile.code, 1);
   EXPECT_EQ(noFile.err, u"kesto-lp: x.ppd: No such file or directory\n"_s);
@@ -125,9 +128,8 @@ TEST_F(LpEntries, SettingsOrSummaryAsLinesOrJson) {
   const auto json = QJsonDocument::fromJson(dryRun(arguments + u"--json"_s).out.toUtf8()).object();
   EXPECT_EQ(json.size(), lines.size());
   EXPECT_EQ(json[u"kesto.print.PrintSettings.jobSuspend"_s], u"3"_s);
-  EXPECT_EQ(
-      dryRun(arguments + u"--summary"_s).out,
-      u"Folder: Main Folder\nHold Mode: Sample Print\nJob Name: offer\nRetention: On\nUser Name: ann\n"_s);
+  EXPECT_EQ(dryRun(arguments + u"--summary"_s).out,
+            u"Hold Mode: Sample Print\nJob Name: offer\nRetention: On\nUser Name: ann\n"_s);
 }
 
 TEST_F(LpEntries, AFolderOfThePrinterIsFoundByItsName) {
@@ -135,13 +137,40 @@ TEST_F(LpEntries, AFolderOfThePrinterIsFoundByItsName) {
   const QJsonObject record{
       {u"Model Name"_s, u"KESTO VQ-250n"_s}, {u"Release Number"_s, u"2.00"_s}, {u"files"_s, folders}};
   ASSERT_TRUE(store(preferences(), {{u"Job Handling"_s, record}}, u"kesto.mfp.office"_s));
-  const QPair<QString, QString> cases[] = {{u"Sales"_s, u"Sales"_s},
-                                           {u"SALES"_s, u"SALES"_s},
-                                           {u"sales"_s, u"Sales"_s},
-                                           {u"Else"_s, u"Main Folder"_s}};
+  const QPair<QString, QString> cases[] = {
+      {u"Sales"_s, u"Sales"_s}, {u"SALES"_s, u"SALES"_s}, {u"sales"_s, u"Sales"_s}, {u"Else"_s, u"Else"_s}};
   for (const auto& [name, chosen] : cases) {
-    const LpRun run = dryRun(u"--hold only --folder-pin 1 --summary --folder "_s + name);
-    EXPECT_EQ(run.out.section(u'\n', 0, 0), u"Folder: "_s + chosen) << run.err.toStdString();
+    EXPECT_EQ(dryRun(u"--hold only --folder-pin 1 --save-preset p --folder "_s + name).code, 0);
+    EXPECT_EQ(presetFolder(u"office"_s), chosen.toUtf8());
+  }
+}
+
+TEST_F(LpEntries, AFolderThatIsNotUsedIsNotShownAsIfItWere) {
+  const QString arguments = u"--hold after --folder X --job-name offer --summary"_s;
+  const LpRun lines = dryRun(arguments);
+  EXPECT_EQ(lines.err, unfiled);
+  EXPECT_FALSE(lines.out.contains(u"Folder"_s)) << lines.out;
+  const LpRun json = dryRun(arguments + u" --json"_s);
+  EXPECT_EQ(QJsonDocument::fromJson(json.out.toUtf8())[u"filed"_s], QJsonValue(false)) << json.out;
+  EXPECT_EQ(QJsonDocument::fromJson(json.err.toUtf8())[u"warning"_s].toString(),
+            unfiled.trimmed().section(u": "_s, 2));
+  EXPECT_FALSE(dryRun(u"--summary --json"_s).out.contains(u"filed"_s));
+}
+
+TEST_F(LpEntries, FaultsAreJsonToo) {
+  const std::tuple<QString, int, QString> cases[] = {
+      {u"--json --no-such"_s, 2, u"--no-such is no option"_s},
+      {u"-n 0 --json"_s, 2, u"-n: is no number from 1 to 9999"_s},
+      {u"--pin 1 --json"_s, 3, u"--pin needs --hold"_s},
+      {u"--preset x --json"_s, 1, u"there is no preset \"x\"; this queue has none"_s},
+  };
+  for (const auto& [arguments, code, message] : cases) {
+    const LpRun run = dryRun(arguments);
+    EXPECT_EQ(run.code, code) << arguments;
+    EXPECT_EQ(run.out, QString());
+    EXPECT_EQ(run.err.count(u'\n'), 1) << run.err;
+    const QJsonObject object = QJsonDocument::fromJson(run.err.toUtf8()).object();
+    EXPECT_EQ(object, (QJsonObject{{u"error"_s, message}})) << run.err;
   }
 }
 

@@ -38,6 +38,10 @@ struct LpRun {
 /// The lines of a PPD whose queue offers Job Handling.
 inline const QByteArray ppdOfJobHandling = ppdOfModel + "*APDialogExtension: \"/Library/JobHandling.pde\"\n";
 
+/// What kesto-lp says of --folder.
+inline const QString unfiled =
+    u"kesto-lp: warning: --folder has no effect: this printer files no documents\n"_s;
+
 class LpTest : public testing::Test {
  protected:
   explicit LpTest(const QByteArray& ppdLines = ppdOfJobHandling) : m_ppd(ppdLines) {}
@@ -78,6 +82,13 @@ class LpTest : public testing::Test {
     EXPECT_EQ(run.out, u""_s) << arguments.toStdString();
   }
   JsonUserDefaults preferences() const { return JsonUserDefaults(m_home.filePath(u"kesto"_s)); }
+  /// The folder that the preset "p" of a queue has.
+  QByteArray presetFolder(const QString& queue) const {
+    const QJsonValue presets =
+        preferences().persistentDomainForName(u"kesto.presets."_s + queue).values->value(u"Presets"_s);
+    const QJsonValue settings = presets[u"p"_s][u"settings"_s];
+    return QByteArray::fromHex(settings[u"kesto.print.PrintSettings.folderPath"_s].toString().toLatin1());
+  }
   void forgetAll() const { QDir(m_home.filePath(u"kesto"_s)).removeRecursively(); }
 
   PpdFixture m_ppd;

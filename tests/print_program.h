@@ -73,12 +73,13 @@ class PrintTest : public LpTest {
     ofPrintSystem(u"/usr/sbin/lpadmin -p %1 -E -v socket://127.0.0.1:9"_s.arg(name) + ppd);
   }
 
-  // What the scheduler answers about its first job; it believes everybody's name.
-  Ipp attributesOfFirstJob(const char* user) const {
+  // What the scheduler answers about a job; it believes everybody's name.
+  Ipp attributesOfJob(const char* user, int job = 1) const {
     std::unique_ptr<PrintServer> server;
     EXPECT_TRUE(PrintServer::connect(m_printer->place(u"server"_s), std::chrono::seconds(5), &server));
     const Ipp request(ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES));
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, "ipp://localhost/jobs/1");
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
+                 "ipp://localhost/jobs/" + QByteArray::number(job));
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
     Ipp reply;
     EXPECT_TRUE(server->request(request.get(), &reply));

@@ -102,7 +102,7 @@ TEST_F(PrintTest, WhatCannotBeKeptOfAJobIsTold) {
   ASSERT_TRUE(QFile::link(u"/dev/null"_s, m_home.filePath(u"kesto"_s)));
   const QString why = u"the folder %1/kesto cannot be made private\n"_s.arg(m_home.path());
   const std::tuple<QString, int, QString> cases[] = {
-      {u""_s, 0, u"the entries are not remembered: "_s},
+      {u""_s, 0, u"warning: the entries are not remembered: "_s},
       {u"--remember job-name"_s, 1, u"the job is sent; the entries are not remembered: "_s},
   };
   for (const auto& [arguments, code, message] : cases) {
@@ -135,7 +135,7 @@ TEST_F(PrintTest, ASignalCancelsAJobThatIsNotWhole) {
 
 TEST_F(PrintTest, WhatAnotherUserSeesOfAJob) {
   const auto seenBy = [this](const char* user) {
-    const Ipp reply = attributesOfFirstJob(user);
+    const Ipp reply = attributesOfJob(user);
     QStringList settings;
     for (auto* each = ippFirstAttribute(reply.get()); each != nullptr; each = ippNextAttribute(reply.get()))
       settings += QString::fromUtf8(ippGetName(each));
@@ -188,13 +188,13 @@ TEST_F(PrintTest, ListsQueuesAndFolders) {
   EXPECT_EQ(QJsonDocument(json(u"--list --json --job-handling"_s)).toJson(QJsonDocument::Compact),
             QString::fromLatin1(described).arg(address).toUtf8());
 
-  const auto folderOf = [this](const QString& name) {
-    return lp(u"--dry-run --summary --hold only --folder "_s + name).out.section(u'\n', 0, 0);
-  };
-  EXPECT_EQ(folderOf(u"invoices"_s), u"Folder: Main Folder"_s) << "it is not known yet";
+  const QString saved = u"--dry-run --hold only --save-preset p --folder invoices"_s;
+  EXPECT_EQ(lp(saved).code, 0);
+  EXPECT_EQ(presetFolder(u"Office_MFP"_s), "invoices") << "it is not known yet";
   const QString folders = u"--folders --address "_s + m_printer->place(u"folders"_s);
   EXPECT_EQ(lp(folders).out, u"Invoices\nPlans & <Papers>\tlocked\n"_s);
-  EXPECT_EQ(folderOf(u"invoices"_s), u"Folder: Invoices"_s);
+  EXPECT_EQ(lp(saved).code, 0);
+  EXPECT_EQ(presetFolder(u"Office_MFP"_s), "Invoices");
   EXPECT_EQ(json(folders + u" --json"_s)[1][u"name"], u"Plans & <Papers>"_s);
   EXPECT_EQ(json(folders + u" --json"_s)[1][u"password"], true);
   const LpRun unreached = lp(u"--folders --address 127.0.0.1:1"_s);

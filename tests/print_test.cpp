@@ -177,7 +177,7 @@ TEST_F(PrintTest, WhatCannotBePrintedOrReadIsAFault) {
 TEST_F(PrintTest, AStoppedQueueTakesJobsAndLetsThemWait) {
   ofPrintSystem(u"/usr/sbin/cupsdisable Office_MFP"_s);
   EXPECT_EQ(lp(u"--json -q 71 DOCUMENT"_s).out, u"{\"job\":1}\n"_s);
-  const Ipp job = attributesOfFirstJob("anna");
+  const Ipp job = attributesOfJob("anna");
   EXPECT_EQ(ippGetInteger(ippFindAttribute(job.get(), "job-priority", IPP_TAG_INTEGER), 0), 71);
   EXPECT_EQ(lp(u"-s DOCUMENT"_s).out, QString());
   EXPECT_TRUE(lp(u"--list"_s).out.startsWith(u"Office_MFP\tstopped\tsocket://127.0.0.1/"_s));

@@ -7,7 +7,6 @@
 
 #include <QtCore/QFile>
 #include <cerrno>
-#include <initializer_list>
 
 #include "hosts/cups/faults.h"
 #include "platform/shown_text.h"
@@ -20,27 +19,6 @@ constexpr qsizetype blockSize = 65536;
 constexpr qsizetype longestName = 255;
 // How often it is asked whether to go on while nobody writes the document.
 constexpr int questionMs = 200;
-
-// libcups's option array, freed with its owner.
-class Options {
- public:
-  Options() = default;
-  ~Options() { cupsFreeOptions(m_count, m_options); }
-  Options(const Options&) = delete;
-  Options& operator=(const Options&) = delete;
-
-  void add(const char* name, const char* value) { m_count = cupsAddOption(name, value, m_count, &m_options); }
-  bool has(const char* name) const { return cupsGetOption(name, m_count, m_options) != nullptr; }
-  // Adds those that libcups knows to belong into the groups of a request.
-  void encode(ipp_t* request, std::initializer_list<ipp_tag_t> groups) const {
-    for (const ipp_tag_t group : groups)
-      cupsEncodeOptions2(request, m_count, m_options, group);
-  }
-
- private:
-  int m_count = 0;
-  cups_option_t* m_options = nullptr;
-};
 
 // A name as the scheduler takes it: it gives a job whose name is longer, or holds control characters, a name
 // of its own.
@@ -56,6 +34,7 @@ QByteArray nameOf(const QString& text) {
 struct Document {
   std::unique_ptr<QFile> file;
   QString name;
+  bool isStandardInput = false;
   qint64 size = -1;
 };
 
@@ -78,6 +57,7 @@ Outcome openDocument(const JobFile& job, const std::function<bool()>& goesOn, Do
   QFile& file = *document->file;
   if (job.path == "-") {
     document->name = QStringLiteral("(stdin)");
+    document->isStandardInput = true;  // It has no name of its own.
     // What was read of it before ends where a line did.
     if (file.open(STDIN_FILENO, QIODevice::ReadOnly)) return Outcome::done();
     return Outcome::failed(Faults::tr("standard input cannot be read"));
@@ -127,6 +107,19 @@ Outcome copyDocument(const Document& document, const HttpRequest::Sink& sink,
   }
 }
 
+// A server can give a job up while it takes its document, and its answer is then that all is well.
+Outcome outcomeOfState(ipp_t* reply) {
+  const int state = ippGetInteger(ippFindAttribute(reply, "job-state", IPP_TAG_ENUM), 0);
+  if (state != IPP_JSTATE_ABORTED && state != IPP_JSTATE_CANCELED) return Outcome::done();
+  QStringList reasons;
+  for (const char* name : {"job-state-message", "job-state-reasons"}) {
+    ipp_attribute_t* reason = ippFindAttribute(reply, name, IPP_TAG_ZERO);
+    for (int i = 0; i < ippGetCount(reason); ++i)
+      reasons.append(QString::fromUtf8(ippGetString(reason, i, nullptr)));
+  }
+  return Outcome::failed(Faults::tr("the print server has ended the job: %1").arg(reasons.join(u", ")));
+}
+
 // A job that is created and not yet whole; cancelled unless it is kept. Made of libcups's requests, since its
 // calls for a job first ask the printer for every attribute, value by value.
 class OpenJob {
@@ -146,7 +139,7 @@ class OpenJob {
   OpenJob(const OpenJob&) = delete;
   OpenJob& operator=(const OpenJob&) = delete;
 
-  Outcome create(const QString& title, const Options& options) {
+  Outcome create(const QString& title, const OptionArray& options) {
     Ipp request = requestTo(IPP_OP_CREATE_JOB, m_uri);
     addName(request.get(), "job-name", title);
     options.encode(request.get(), {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION});
@@ -159,10 +152,10 @@ class OpenJob {
     return Outcome::failed(Faults::tr("the job is not taken: %1").arg(created.reason()));
   }
 
-  Outcome send(Document& document, const QByteArray& format, const Options& options, bool isLast,
+  Outcome send(Document& document, const QByteArray& format, const OptionArray& options, bool isLast,
                const std::function<bool(qint64)>& progress) {
     const Ipp request = requestTo(IPP_OP_SEND_DOCUMENT, m_uri, m_id);
-    addName(request.get(), "document-name", document.name);
+    if (!document.isStandardInput) addName(request.get(), "document-name", document.name);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                  format.constData());
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
@@ -174,6 +167,7 @@ class OpenJob {
     };
     Ipp reply;
     Outcome sent = m_server.order(request.get(), m_resource, &reply, copy);
+    if (sent) sent = outcomeOfState(reply.get());
     if (sent || !read) return sent;
     return Outcome::failed(Faults::tr("%1 is not taken: %2").arg(document.name, sent.reason()));
   }
@@ -197,7 +191,7 @@ class OpenJob {
 };
 
 // The job's own options, then those that the user keeps for the queue.
-void gatherOptions(const PrintJob& job, const cups_dest_t& destination, Options* options) {
+void gatherOptions(const PrintJob& job, const cups_dest_t& destination, OptionArray* options) {
   for (auto it = job.options.begin(); it != job.options.end(); ++it) {
     options->add(it.key().toUtf8().constData(), it.value().toUtf8().constData());
   }
@@ -209,17 +203,6 @@ void gatherOptions(const PrintJob& job, const cups_dest_t& destination, Options*
 
 }  // namespace
 
-QMap<QString, QString> parseJobOptions(const QString& text) {
-  cups_option_t* parsed = nullptr;
-  const int count = cupsParseOptions(text.toUtf8().constData(), 0, &parsed);
-  QMap<QString, QString> options;
-  for (int i = 0; i < count; ++i) {
-    options.insert(QString::fromUtf8(parsed[i].name), QString::fromUtf8(parsed[i].value));
-  }
-  cupsFreeOptions(count, parsed);
-  return options;
-}
-
 Outcome sendJob(PrintServer& server, const cups_dest_t& destination, const PrintJob& job,
                 const UploadProgress& progress, int* jobId) {
   *jobId = 0;
@@ -228,17 +211,17 @@ Outcome sendJob(PrintServer& server, const cups_dest_t& destination, const Print
   if (Outcome opened = openDocuments(job.files, goesOn, &documents); !opened) return opened;
   // A server that is silent now could make an empty job of the request later.
   if (Outcome answered = server.probe(); !answered) return answered;
-  Options options;
+  OptionArray options;
   gatherOptions(job, destination, &options);
-  const QString format =
-      job.options.value(QStringLiteral("document-format"), QStringLiteral(CUPS_FORMAT_AUTO));
+  const char* wanted = options.value("document-format");
+  const QByteArray format = job.isRaw ? CUPS_FORMAT_RAW : wanted == nullptr ? CUPS_FORMAT_AUTO : wanted;
 
   OpenJob open(server, destination);
   if (Outcome created = open.create(job.title, options); !created) return created;
   for (std::size_t i = 0; i < documents.size(); ++i) {
     Document& document = documents[i];
     const auto report = [&](qint64 sent) { return progress(static_cast<int>(i) + 1, sent, document.size); };
-    Outcome sent = open.send(document, format.toUtf8(), options, i + 1 == documents.size(), report);
+    Outcome sent = open.send(document, format, options, i + 1 == documents.size(), report);
     if (!sent) return sent;
   }
   *jobId = open.keep();

@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "hosts/cups/job_options.h"
 #include "hosts/cups/print_server.h"
 
 namespace kesto {
@@ -20,10 +21,8 @@ struct PrintJob {
   QString title;
   std::vector<JobFile> files;      ///< Empty for standard input alone.
   QMap<QString, QString> options;  ///< Job options by name, the print settings among them.
+  bool isRaw = false;              ///< The printer gets the documents as they are.
 };
-
-/// The options of a text such as "sides=one-sided media=a4", by name.
-QMap<QString, QString> parseJobOptions(const QString& text);
 
 /// Told of each part of a document that has gone out: its number from 1 on, the bytes so far and in all (-1
 /// when not known), and asked again while nobody writes the document. Answers whether to go on.

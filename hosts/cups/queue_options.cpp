@@ -46,13 +46,22 @@ QByteArray textOf(ipp_attribute_t* attribute) {
   return values.join(',');
 }
 
+// Whether values of this kind can stand as an option's; "no value" and collections cannot.
+bool isOneValue(ipp_tag_t tag) {
+  constexpr std::array kinds{IPP_TAG_BOOLEAN, IPP_TAG_ENUM, IPP_TAG_INTEGER,
+                             IPP_TAG_KEYWORD, IPP_TAG_NAME, IPP_TAG_RANGE};
+  return std::ranges::find(kinds, tag) != kinds.end();
+}
+
 // The option that an attribute of a queue is: its own name, or the one of the job's; null for none.
 QByteArray optionOf(ipp_attribute_t* attribute) {
   const QByteArray name = ippGetName(attribute);
   if (name == "printer-name") return {};
   if (name.endsWith(defaultSuffix)) {
-    const bool isJobs = !name.startsWith("notify-") && ippGetValueTag(attribute) != IPP_TAG_BEGIN_COLLECTION;
-    return isJobs ? name.chopped(qsizetype{sizeof defaultSuffix} - 1) : QByteArray();
+    // The quality is the driver's to know, which has more names for it.
+    const bool isJobs = !name.startsWith("notify-") && !name.startsWith("print-quality-");
+    return isJobs && isOneValue(ippGetValueTag(attribute)) ? name.chopped(qsizetype{sizeof defaultSuffix} - 1)
+                                                           : QByteArray();
   }
   const auto isIt = [&](const char* each) { return name == each; };
   return std::ranges::any_of(description, isIt) ? name : QByteArray();

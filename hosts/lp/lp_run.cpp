@@ -7,6 +7,7 @@
 #include <iostream>
 
 #include "hosts/command/secret_input.h"
+#include "hosts/cups/job_options.h"
 #include "hosts/cups/queue.h"
 #include "hosts/lp/listings.h"
 #include "hosts/lp/submission.h"
@@ -22,20 +23,25 @@
 namespace kesto {
 namespace {
 
-ExitCode ended(const Outcome& outcome, ExitCode onFailure = ExitFailed) {
+ExitCode ended(const Options& options, const Outcome& outcome, ExitCode onFailure = ExitFailed) {
   if (outcome) return ExitDone;
-  std::cerr << "kesto-lp: " << shownText(outcome.reason()).toStdString() << '\n';
+  options.messages().error(outcome.reason());
   return onFailure;
 }
 
 class StandardErrorAlerts : public AlertPresenter {
  public:
+  explicit StandardErrorAlerts(const Messages& messages) : m_messages(messages) {}
+
   void runInformationalAlert(const QString& /*title*/, const QString& message,
                              const QString& /*button*/) override {
-    std::cerr << shownText(message).toStdString() << '\n';
+    m_messages.alert(message);
     wasShown = true;
   }
   bool wasShown = false;
+
+ private:
+  Messages m_messages;
 };
 
 // The queue that the job is for, and the server that has it unless a PPD file stands for it.
@@ -65,9 +71,10 @@ Outcome findQueue(const Options& options, JobQueue* queue) {
   return openQueue(*queue->server, options.queue.value_or(QString()), queue);
 }
 
-Outcome print(const QMap<QString, QString>& pairs, const char* separator, bool json) {
+// `facts` go beside the pairs in JSON.
+Outcome print(const QMap<QString, QString>& pairs, const char* separator, bool json, QJsonObject facts = {}) {
   if (json) {
-    QJsonObject object;
+    QJsonObject& object = facts;
     for (auto it = pairs.begin(); it != pairs.end(); ++it)
       object.insert(it.key(), it.value());
     std::cout << QJsonDocument(object).toJson().constData();
@@ -128,6 +135,12 @@ class Job {
  private:
   Outcome makePresetToSave(Preset* preset) const;
   Outcome keep(const Preset& preset);
+  // Whether a folder was chosen that the job will not be filed in.
+  bool isUnfiled() const { return m_options.entries.texts[Folder] && !panel().filesDocuments(); }
+  // What JSON says of the job beside its number or its summary.
+  QJsonObject facts() const {
+    return isUnfiled() ? QJsonObject{{QStringLiteral("filed"), false}} : QJsonObject();
+  }
   QString model() const { return panel().property("modelStringRef").toString(); }
 
   const Options& m_options;
@@ -158,6 +171,8 @@ Outcome Job::restore() {
 Outcome Job::enter(const Entries& entries) {
   PanelView& view = *panel().panelView();
   if (Outcome applied = applyEntries(view, entries); !applied) return applied;
+  if (isUnfiled())
+    m_options.messages().warning(QStringLiteral("--folder has no effect: this printer files no documents"));
   if (m_platform.confirmJob(panel())) return Outcome::done();
   return Outcome::failed(panel().panelName() + QStringLiteral(": ") + missingEntry(view));
 }
@@ -181,7 +196,7 @@ Outcome Job::keep(const Preset& preset) {
   }
   Outcome saved = m_options.savePreset ? m_presets.save(*m_options.savePreset, preset) : Outcome::done();
   if (isAsked && !kept) return kept;
-  if (!kept) std::cerr << "kesto-lp: " << shownText(kept.reason()).toStdString() << '\n';
+  if (!kept) m_options.messages().warning(kept.reason());
   return saved;
 }
 
@@ -189,80 +204,101 @@ Outcome Job::finish() {
   Preset preset;
   if (Outcome made = makePresetToSave(&preset); !made) return made;
   if (m_options.task == Task::Print) {
-    Outcome sent = submit(*m_queue.server, *m_queue.destination, m_options, &*m_host.settings);
+    Outcome sent = submit(*m_queue.server, *m_queue.destination, m_options, &*m_host.settings, facts());
     if (!sent) return sent;
     Outcome kept = keep(preset);
     return kept ? kept : Outcome::failed(QStringLiteral("the job is sent; ") + kept.reason());
   }
   if (Outcome kept = keep(preset); !kept) return kept;
-  if (m_options.summary) return print(panel().summaryInfo(), ": ", m_options.json);
+  if (m_options.summary) return print(summaryOf(panel()), ": ", m_options.json, facts());
   return print(m_host.settings->all(), "=", m_options.json);
 }
 
 ExitCode runJob(const Options& options, Entries entries, JobQueue& queue) {
-  StandardErrorAlerts alerts;
+  StandardErrorAlerts alerts(options.messages());
   std::shared_ptr<const Bundle> bundle;
   PrintDialogPlugIn* plugIn = nullptr;
-  if (Outcome loaded = loadJobHandlingBundle(&bundle, &plugIn); !loaded) return ended(loaded);
+  if (Outcome loaded = loadJobHandlingBundle(&bundle, &plugIn); !loaded) return ended(options, loaded);
   GatedPlatform platform(bundle, alerts);
   Job job(options, platform, queue);
-  if (Outcome opened = job.open(*plugIn); !opened) return ended(opened);
-  if (Outcome restored = job.restore(); !restored) return ended(restored);
+  if (Outcome opened = job.open(*plugIn); !opened) return ended(options, opened);
+  if (Outcome restored = job.restore(); !restored) return ended(options, restored);
   if (options.task == Task::ListFolders) {
     const Outcome fetched = fetchFolders(job.panel(), options.address.value_or(QString()));
     if (alerts.wasShown) return ExitFailed;
-    return ended(fetched ? printFolders(job.panel(), options.json) : fetched);
+    return ended(options, fetched ? printFolders(job.panel(), options.json) : fetched);
   }
   const Outcome entered = job.enter(entries);
   // The panel has them now, in their stored forms; an upload can take long.
   for (std::optional<QString>& text : entries.texts) {
     if (text) wipe(*text);
   }
-  if (!entered) return ended(entered, ExitRefused);
-  return ended(job.finish());
+  if (!entered) return ended(options, entered, ExitRefused);
+  return ended(options, job.finish());
 }
 
-// A queue without the panel prints as usual.
-ExitCode runPlainJob(const Options& options, JobQueue& queue) {
-  if (options.task == Task::ListFolders || options.wantsPanel()) {
-    return ended(Outcome::failed(QStringLiteral("the queue %1 does not offer Job Handling").arg(queue.id)));
+// A queue without the panel prints as usual, and so does a job that the panel's driver never sees.
+ExitCode runPlainJob(const Options& options, JobQueue& queue, bool isRaw) {
+  if (isRaw && options.wantsPanel()) {
+    const QString fault = QStringLiteral("a raw job goes past the driver, and Job Handling with it");
+    return ended(options, Outcome::failed(fault), ExitUsage);
   }
-  if (options.task == Task::DryRun) return ended(print({}, "=", options.json));
-  return ended(submit(*queue.server, *queue.destination, options, nullptr));
+  if (options.task == Task::ListFolders || options.wantsPanel()) {
+    return ended(options,
+                 Outcome::failed(QStringLiteral("the queue %1 does not offer Job Handling").arg(queue.id)));
+  }
+  if (options.task == Task::DryRun) return ended(options, print({}, "=", options.json));
+  return ended(options, submit(*queue.server, *queue.destination, options, nullptr));
 }
 
 ExitCode runPresets(const Options& options) {
   JsonUserDefaults defaults(JsonUserDefaults::defaultDirectory());
   PresetStore store(defaults, queueOfFiles(options));
-  return ended(options.deletedPreset ? store.remove(*options.deletedPreset)
-                                     : listPresets(store, options.json));
+  return ended(options, options.deletedPreset ? store.remove(*options.deletedPreset)
+                                              : listPresets(store, options.json));
 }
 
 ExitCode runQueueList(const Options& options) {
   std::unique_ptr<PrintServer> server;
-  if (Outcome connected = connectToServer(options, &server); !connected) return ended(connected);
-  return ended(printQueues(*server, options.jobHandlingOnly, options.json));
+  if (Outcome connected = connectToServer(options, &server); !connected) return ended(options, connected);
+  return ended(options, printQueues(*server, options.jobHandlingOnly, options.json));
 }
 
 ExitCode runCheck(const Options& options) {
   std::unique_ptr<PrintServer> server;
-  if (Outcome connected = connectToServer(options, &server); !connected) return ended(connected);
+  if (Outcome connected = connectToServer(options, &server); !connected) return ended(options, connected);
   bool isOpen = false;
-  const ExitCode code = ended(printPrivacy(*server, *options.queue, options.json, &isOpen));
+  const ExitCode code = ended(options, printPrivacy(*server, *options.queue, options.json, &isOpen));
   return code == ExitDone && isOpen ? ExitFailed : code;
+}
+
+ExitCode runChange(const Options& options) {
+  if (options.mail) options.messages().warning(QStringLiteral("-m is ignored: it goes with a new job"));
+  QMap<QString, QString> changes = options.jobOptions;
+  if (options.title) addJobOption(QStringLiteral("job-name"), *options.title, &changes);
+  std::unique_ptr<PrintServer> server;
+  Outcome done = connectToServer(options, &server);
+  if (done && options.restart) done = restartJob(*server, *options.job);
+  if (done) done = changeJob(*server, *options.job, changes);
+  if (done && options.json && !options.silent) std::cout << "{\"job\":" << options.job->number << "}\n";
+  return ended(options, done);
 }
 
 }  // namespace
 
 ExitCode run(const Options& options) {
+  for (const QString& warning : options.warnings)
+    options.messages().warning(warning);
+  if (options.task == Task::Change) return runChange(options);
   if (options.task == Task::ListPresets || options.task == Task::DeletePreset) return runPresets(options);
   if (options.task == Task::ListQueues) return runQueueList(options);
   if (options.task == Task::Check) return runCheck(options);
   JobQueue queue;
-  if (Outcome found = findQueue(options, &queue); !found) return ended(found);
-  if (!queue.ppd || !offersJobHandling(*queue.ppd)) return runPlainJob(options, queue);
+  if (Outcome found = findQueue(options, &queue); !found) return ended(options, found);
+  const bool isRaw = options.task != Task::ListFolders && goesRaw(options, queue.destination.get());
+  if (isRaw || !queue.ppd || !offersJobHandling(*queue.ppd)) return runPlainJob(options, queue, isRaw);
   Entries entries = options.entries;
-  if (Outcome read = readSecrets(options, &entries); !read) return ended(read);
+  if (Outcome read = readSecrets(options, &entries); !read) return ended(options, read);
   return runJob(options, std::move(entries), queue);
 }
 

@@ -11,5 +11,9 @@ int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   // What could not be kept is said here, once.
   QLoggingCategory::setFilterRules(QStringLiteral("kesto.preferences.changes=false"));
-  return kesto::endOfOutput("kesto-lp", end ? *end : kesto::run(options));
+  const kesto::ExitCode code = end ? *end : kesto::run(options);
+  const kesto::Outcome written = kesto::flushOutput();
+  if (written || code != kesto::ExitDone) return code;
+  options.messages().error(written.reason());
+  return kesto::ExitFailed;
 }

@@ -3,64 +3,17 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <regex>
 #include <string>
 #include <vector>
 
 #include "hosts/command/arguments.h"
 #include "hosts/command/secret_arguments.h"
-#include "hosts/cups/print_job.h"
-#include "platform/shown_text.h"
+#include "hosts/cups/job_options.h"
+#include "hosts/lp/help_text.h"
 
 namespace kesto {
 namespace {
-
-constexpr char helpOfJob[] =
-    R"(Usage: kesto-lp [OPTION]... [FILE]...
-Prints files, or standard input, with a printer's Job Handling.
-
-  -d QUEUE -h HOST[:PORT] -U USER -n COPIES -P PAGES -o NAME=VALUE -t TITLE
-  -q PRIORITY -H WHEN -m -s -c -E   as of the usual print command
-  --ppd FILE --device-uri URI   stand for a queue where no job is sent
-  --dry-run                 print the job's settings and send nothing; keep only
-                            what --remember, --forget or --save-preset ask for
-  --summary                 print the panel's summary, not the settings
-  --list [--job-handling]   list the queues, or those that offer Job Handling
-  --folders [--address A]   fetch, keep and list the printer's folders
-  --check QUEUE             tell what other users of the server see of a job's
-                            options, and how to close it
-  --json                    print JSON;  --timeout SECONDS  (5) wait no longer
-
-  --hold only|after|sample  hold the job: unprinted, after printing it, or after
-                            a sample of it; --no-hold does not hold it
-)";
-
-constexpr char helpOfMemory[] =
-    R"(  --X-file FILE, --ask-X    take X (pin, folder-pin, password) from the first
-                            line of a file or of standard input, "-", or ask at
-                            the terminal: other users may see a command line
-  --remember X,...          keep the value of X (pin, password or another entry)
-  --forget X,...            for this queue's next jobs, or keep it no longer
-
-  --preset NAME             start from a preset of this queue
-  --save-preset NAME        keep the settings as a preset; the pass codes only
-                            together with --with-codes
-  --list-presets, --delete-preset NAME   do this alone, for -d or --ppd
-  --help                    print this text
-Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel.
-)";
-
-std::string helpText() {
-  std::string text = helpOfJob;
-  for (const FieldRow& row : fieldTable()) {
-    if (row.argument == nullptr) continue;
-    std::string line = "  --" + std::string(row.name) + ' ' + row.argument;
-    line.resize(28, ' ');
-    text += line + row.help;
-    if (row.limit != nullptr) text += std::string(", ") + row.limit;
-    text += '\n';
-  }
-  return text + helpOfMemory;
-}
 
 // The options as the parser knows them, and what is looked at once it is done.
 class CommandLine {
@@ -73,9 +26,13 @@ class CommandLine {
   CLI::Option* addName(const std::string& name, std::optional<QString>* value);
   void addTask(const std::string& name, Task task);
   void addNamedTask(const std::string& name, Task task, std::optional<QString>* value);
+  CLI::Option* addUsual(const std::string& names, const std::function<void(const QString&)>& take);
+  CLI::Option* addUsualName(const std::string& name, std::optional<QString>* value);
   void addServer();
   void addJob();
-  CLI::Option* addJobOption(const std::string& name, const char* jobOption);
+  void addIgnored(const std::string& name, const char* what);
+  CLI::Option* addUsualOption(const std::string& names, const char* jobOption);
+  void setHold(const QString& when);
   void addHold();
   void addField(std::size_t field);
   void addMemory(const char* name, bool remember);
@@ -83,6 +40,7 @@ class CommandLine {
   // What is wrong with the arguments, null for nothing.
   QString faultOfAll() const;
   QString faultOfTask() const;
+  QString faultOfChange() const;
   QString faultOfQueue() const;
 
   Options& m_options;
@@ -95,6 +53,20 @@ class CommandLine {
 // An empty name is what an unset variable of a script leaves.
 std::string refuseEmpty(const std::string& value) {
   return value.empty() ? "is empty" : "";
+}
+
+// A word that no server knows would hold the job for ever.
+std::string faultOfHold(const std::string& when) {
+  static const std::regex known(
+      "hold|immediate|resume|release|restart|no-hold|indefinite|day-time|evening|night|second-shift|"
+      "third-shift|weekend|([01]?[0-9]|2[0-3]):[0-5][0-9](:[0-5][0-9])?");
+  return std::regex_match(when, known) ? ""
+                                       : "must be a time such as 18:30 (UTC), hold, immediate, resume, restart "
+                                         "or a word of the print server such as evening";
+}
+
+std::string faultOfJobName(const std::string& name) {
+  return SentJob::of(QString::fromStdString(name)) ? "" : "must be a job such as 12 or QUEUE-12";
 }
 
 CommandLine::CommandLine(Options& options) : m_options(options) {
@@ -144,9 +116,21 @@ void CommandLine::addNamedTask(const std::string& name, Task task, std::optional
   m_app.add_option_function<std::string>(name, choose)->check(refuseEmpty);
 }
 
+// An option of the usual print command. Those are taken in the order in which they stand, and of one that is
+// given again the last counts, as there.
+CLI::Option* CommandLine::addUsual(const std::string& names,
+                                   const std::function<void(const QString&)>& take) {
+  const auto takeText = [take](const std::string& given) { take(QString::fromStdString(given)); };
+  return m_app.add_option_function<std::string>(names, takeText)->trigger_on_parse();
+}
+
+CLI::Option* CommandLine::addUsualName(const std::string& name, std::optional<QString>* value) {
+  return addUsual(name, [value](const QString& given) { *value = given; })->check(refuseEmpty);
+}
+
 void CommandLine::addServer() {
-  addName("-h", &m_options.server.address);
-  addName("-U", &m_options.server.user);
+  addUsualName("-h", &m_options.server.address);
+  addUsualName("-U", &m_options.server.user);
   m_app.add_flag("-E", m_options.server.encrypt);
   const auto setLimit = [this](double seconds) {
     if (std::isnan(seconds)) throw CLI::ValidationError("--timeout", "is no number");
@@ -155,33 +139,61 @@ void CommandLine::addServer() {
   m_app.add_option_function<double>("--timeout", setLimit)->check(CLI::Range(0.1, 3600.0));
   addName("--ppd", &m_options.ppd);
   addName("--device-uri", &m_options.deviceUri);
-  addName("-d", &m_options.queue);
+  addUsualName("-d", &m_options.queue);
   addTask("--list", Task::ListQueues);
   addNamedTask("--check", Task::Check, &m_options.queue);
   m_app.add_flag("--job-handling", m_options.jobHandlingOnly);
 }
 
-CLI::Option* CommandLine::addJobOption(const std::string& name, const char* jobOption) {
-  return m_app.add_option_function<std::string>(name, [this, jobOption](const std::string& value) {
-    m_options.jobOptions.insert(QLatin1String(jobOption), QString::fromStdString(value));
+CLI::Option* CommandLine::addUsualOption(const std::string& names, const char* jobOption) {
+  return addUsual(names, [this, jobOption](const QString& value) {
+    addJobOption(QLatin1String(jobOption), value, &m_options.jobOptions);
   });
 }
 
+// An option that the usual print command takes for the sake of older systems and passes over.
+void CommandLine::addIgnored(const std::string& name, const char* what) {
+  addUsual(name, [this, name, what](const QString& /*value*/) {
+    m_options.warnings += QStringLiteral("%1 is ignored: %2").arg(QLatin1String(name.c_str()), QLatin1String(what));
+  });
+}
+
+void CommandLine::setHold(const QString& when) {
+  static const QMap<QString, QString> words{{QStringLiteral("hold"), QStringLiteral("indefinite")},
+                                            {QStringLiteral("immediate"), QStringLiteral("no-hold")},
+                                            {QStringLiteral("resume"), QStringLiteral("no-hold")},
+                                            {QStringLiteral("release"), QStringLiteral("no-hold")}};
+  if (when == u"restart") {
+    m_options.restart = true;
+    return;
+  }
+  addJobOption(QStringLiteral("job-hold-until"), words.value(when, when), &m_options.jobOptions);
+  // Ahead of the jobs that wait.
+  if (when == u"immediate")
+    addJobOption(QStringLiteral("job-priority"), QStringLiteral("100"), &m_options.jobOptions);
+}
+
 void CommandLine::addJob() {
-  const auto addOptions = [this](const std::vector<std::string>& given) {
-    for (const std::string& options : given)
-      m_options.jobOptions.insert(parseJobOptions(QString::fromStdString(options)));
+  addUsual("-o", [this](const QString& text) { addJobOptions(text, &m_options.jobOptions); });
+  addUsualOption("-P", "page-ranges");
+  addUsualOption("-n", "copies")->transform(wholeNumber(1, 9999));
+  addUsualOption("-q,-p", "job-priority")->transform(wholeNumber(1, 100));
+  addUsual("-H", [this](const QString& when) { setHold(when); })->check(faultOfHold);
+  const auto changeJob = [this](const QString& name) {
+    m_tasks += m_options.job ? 0 : 1;
+    m_options.task = Task::Change;
+    m_options.job = SentJob::of(name);
   };
-  m_app.add_option_function<std::vector<std::string>>("-o", addOptions)->allow_extra_args(false);
-  addJobOption("-P", "page-ranges");
-  addJobOption("-H", "job-hold-until");
-  addJobOption("-n", "copies")->transform(wholeNumber(1, 9999));
-  addJobOption("-q", "job-priority")->transform(wholeNumber(1, 100));
-  m_app.add_flag("-m", m_options.mail);
+  addUsual("-i", changeJob)->check(faultOfJobName);
+  m_app.add_flag("-m,-w", m_options.mail);
   // Files are always sent as they are now, which is what -c asks for.
   m_app.add_flag("-c");
   m_app.add_flag("-s", m_options.silent);
-  addText("-t", &m_options.title);
+  addUsual("-t", [this](const QString& title) { m_options.title = title; });
+  addIgnored("-f", "there are no forms here");
+  addIgnored("-y", "there are no modes here; use -o");
+  addIgnored("-S", "the character set is UTF-8");
+  addIgnored("-T", "the print server finds the content type; use -o document-format=TYPE");
   m_app.add_option_function<std::vector<std::string>>("files", [this](const std::vector<std::string>& given) {
     for (const std::string& file : given)
       m_options.files.append(QByteArray::fromStdString(file));
@@ -260,7 +272,10 @@ std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
     fault = QString::fromUtf8(error.what());
   }
   if (fault.isNull()) return {};
-  std::cerr << "kesto-lp: " << shownText(fault).toStdString() << "\nkesto-lp --help tells more.\n";
+  // The parser may have stopped before it came to it.
+  const bool json = std::ranges::count(argv, argv + argc, std::string_view("--json")) > 0;
+  Messages(json).error(fault);
+  if (!json) std::cerr << "kesto-lp --help tells more.\n";
   return ExitUsage;
 }
 
@@ -278,15 +293,27 @@ QString CommandLine::faultOfTask() const {
   const Task task = m_options.task;
   if (m_tasks > 1)
     return QStringLiteral(
-        "only one of --dry-run, --list, --folders, --check and the presets' two can be done");
+        "only one of -i, --dry-run, --list, --folders, --check and the presets' two can be done");
   if (m_options.jobHandlingOnly && task != Task::ListQueues)
     return QStringLiteral("--job-handling goes with --list");
   if (m_options.address && task != Task::ListFolders) return QStringLiteral("--address goes with --folders");
   if (m_options.summary && task != Task::DryRun) return QStringLiteral("--summary goes with --dry-run");
+  if (m_options.restart && task != Task::Change) return QStringLiteral("-H restart needs -i JOB");
+  if (task == Task::Change) return faultOfChange();
   if (task == Task::Print || task == Task::DryRun) return {};
   const bool hasJob = m_options.wantsPanel() || m_options.title || !m_options.files.isEmpty() ||
                       !m_options.jobOptions.isEmpty();
   return hasJob ? QStringLiteral("a list takes no options of a job") : QString();
+}
+
+// What a job that is sent cannot be given any more.
+QString CommandLine::faultOfChange() const {
+  if (!m_options.files.isEmpty()) return QStringLiteral("-i changes a job that is sent; it takes no files");
+  if (m_options.queue || m_options.ppd)
+    return QStringLiteral("-i changes a job on the queue where it is; leave out -d and --ppd");
+  if (m_options.wantsPanel())
+    return QStringLiteral("-i changes a job that is sent; its Job Handling stays as it is");
+  return {};
 }
 
 QString CommandLine::faultOfQueue() const {

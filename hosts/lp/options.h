@@ -8,7 +8,9 @@
 #include <chrono>
 #include <optional>
 
+#include "hosts/cups/sent_job.h"
 #include "hosts/lp/entries.h"
+#include "hosts/lp/messages.h"
 
 namespace kesto {
 
@@ -23,7 +25,7 @@ struct SecretSource {
 };
 
 /// What there is to do.
-enum class Task { Print, DryRun, ListQueues, ListFolders, ListPresets, DeletePreset, Check };
+enum class Task { Print, Change, DryRun, ListQueues, ListFolders, ListPresets, DeletePreset, Check };
 
 /// Where the job goes.
 struct ServerOptions {
@@ -44,7 +46,10 @@ struct Options {
   QByteArrayList files;               ///< Paths; "-" is standard input, and none means it alone.
   std::optional<QString> title;       ///< The job's own name.
   QMap<QString, QString> jobOptions;  ///< By name.
+  std::optional<SentJob> job;         ///< The job to change.
+  bool restart = false;               ///< Print that job again.
   bool mail = false;                  ///< To the user, when the job has been printed.
+  QStringList warnings;               ///< What of the command line has no effect.
   bool json = false;
   bool silent = false;
   bool summary = false;
@@ -58,6 +63,7 @@ struct Options {
   Entries entries;
   std::array<SecretSource, fieldCount> secrets;
 
+  Messages messages() const { return Messages(json); }
   /// Whether anything is asked of the Job Handling panel.
   bool wantsPanel() const;
 };

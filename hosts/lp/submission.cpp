@@ -2,11 +2,13 @@
 
 #include <unistd.h>
 
+#include <QtCore/QJsonDocument>
 #include <QtCore/QSysInfo>
 #include <algorithm>
 #include <iostream>
 
 #include "hosts/command/held_signals.h"
+#include "hosts/cups/job_options.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -36,8 +38,9 @@ class ProgressLine {
   bool m_isShown = false;
 };
 
-PrintJob jobOf(const Options& options, const PrintSettings* settings) {
+PrintJob jobOf(const Options& options, const PrintSettings* settings, bool isRaw) {
   PrintJob job{.title = titleOf(options), .files = {}, .options = options.jobOptions};
+  job.isRaw = isRaw;
   for (const QByteArray& file : options.files)
     job.files.push_back({.path = file});
   if (options.mail) {
@@ -58,9 +61,19 @@ QString titleOf(const Options& options) {
   return first == "-" ? QStringLiteral("(stdin)") : shownFileName(first);
 }
 
+bool goesRaw(const Options& options, const cups_dest_t* destination) {
+  const OptionArray given(options.jobOptions);
+  const auto value = [&](const char* name) {
+    const char* ofJob = given.value(name);
+    const bool isKept = ofJob == nullptr && destination != nullptr;
+    return isKept ? cupsGetOption(name, destination->num_options, destination->options) : ofJob;
+  };
+  return value("raw") != nullptr || QByteArray(value("document-format")) == CUPS_FORMAT_RAW;
+}
+
 Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
-               const PrintSettings* settings) {
-  const PrintJob job = jobOf(options, settings);
+               const PrintSettings* settings, QJsonObject facts) {
+  const PrintJob job = jobOf(options, settings, goesRaw(options, &destination));
   int id = 0;
   {
     // Ctrl-C cancels a job that is not whole; a second one does not wait for that.
@@ -76,7 +89,8 @@ Outcome submit(PrintServer& server, const cups_dest_t& destination, const Option
   }
   if (options.silent) return Outcome::done();
   if (options.json) {
-    std::cout << "{\"job\":" << id << "}\n";
+    facts.insert(QStringLiteral("job"), id);
+    std::cout << QJsonDocument(facts).toJson(QJsonDocument::Compact).constData() << '\n';
   } else {
     const std::size_t files = std::max(std::size_t{1}, job.files.size());
     std::cout << "request id is " << shownText(QString::fromUtf8(destination.name)).toStdString() << '-' << id

@@ -1,6 +1,8 @@
 // The last step of kesto-lp: the job goes to its queue.
 #pragma once
 
+#include <QtCore/QJsonObject>
+
 #include "hosts/cups/print_job.h"
 #include "hosts/lp/options.h"
 #include "platform/print_settings.h"
@@ -10,9 +12,13 @@ namespace kesto {
 /// The job's own name: the one that was given, else that of its first file, else one for standard input.
 QString titleOf(const Options& options);
 
+/// Whether the job goes past the queue's driver: by an option of the job's, or one that is kept for the queue
+/// (null for none).
+bool goesRaw(const Options& options, const cups_dest_t* destination);
+
 /// Sends the job that the options describe with the panel's settings, tells of a long upload at a terminal,
-/// and prints the job's number unless it is to be silent.
+/// and prints the job's number, in JSON with `facts` beside it, unless it is to be silent.
 Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
-               const PrintSettings* settings);
+               const PrintSettings* settings, QJsonObject facts = {});
 
 }  // namespace kesto

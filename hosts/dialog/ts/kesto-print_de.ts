@@ -273,10 +273,6 @@
         <translation>die Voreinstellung „%1“ ist beschädigt und bleibt, wie sie ist</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read</source>
-        <translation>die Voreinstellungen dieser Warteschlange lassen sich nicht lesen</translation>
-    </message>
-    <message>
         <source>the presets of this queue are damaged and left as they are</source>
         <translation>die Voreinstellungen dieser Warteschlange sind beschädigt und bleiben, wie sie sind</translation>
     </message>
@@ -375,6 +371,18 @@
     <message>
         <source>the queue %1 cannot be had: %2</source>
         <translation>die Warteschlange %1 ist nicht zu bekommen: %2</translation>
+    </message>
+    <message>
+        <source>the print server has ended the job: %1</source>
+        <translation>der Druckserver hat den Auftrag beendet: %1</translation>
+    </message>
+    <message>
+        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <translation>der Name einer Voreinstellung darf höchstens %1 Zeichen haben; wählen Sie einen kürzeren</translation>
+    </message>
+    <message>
+        <source>the presets of this queue cannot be read: %1</source>
+        <translation>die Voreinstellungen dieser Warteschlange lassen sich nicht lesen: %1</translation>
     </message>
 </context>
 <context>

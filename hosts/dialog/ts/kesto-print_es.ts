@@ -273,10 +273,6 @@
         <translation>el preajuste «%1» está dañado y se deja como está</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read</source>
-        <translation>no se pueden leer los preajustes de esta cola</translation>
-    </message>
-    <message>
         <source>the presets of this queue are damaged and left as they are</source>
         <translation>los preajustes de esta cola están dañados y se dejan como están</translation>
     </message>
@@ -375,6 +371,18 @@
     <message>
         <source>the queue %1 cannot be had: %2</source>
         <translation>no se puede obtener la cola %1: %2</translation>
+    </message>
+    <message>
+        <source>the print server has ended the job: %1</source>
+        <translation>el servidor de impresión ha finalizado el trabajo: %1</translation>
+    </message>
+    <message>
+        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <translation>el nombre de un preajuste puede tener como máximo %1 caracteres; elija uno más corto</translation>
+    </message>
+    <message>
+        <source>the presets of this queue cannot be read: %1</source>
+        <translation>no se pueden leer los preajustes de esta cola: %1</translation>
     </message>
 </context>
 <context>

@@ -273,10 +273,6 @@
         <translation>le préréglage «&#xa0;%1&#xa0;» est endommagé et reste tel quel</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read</source>
-        <translation>les préréglages de cette file ne peuvent pas être lus</translation>
-    </message>
-    <message>
         <source>the presets of this queue are damaged and left as they are</source>
         <translation>les préréglages de cette file sont endommagés et restent tels quels</translation>
     </message>
@@ -375,6 +371,18 @@
     <message>
         <source>the queue %1 cannot be had: %2</source>
         <translation>la file %1 n’a pas pu être obtenue&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the print server has ended the job: %1</source>
+        <translation>le serveur d’impression a mis fin à la tâche&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <translation>le nom d’un préréglage compte au plus %1 caractères&#xa0;; choisissez-en un plus court</translation>
+    </message>
+    <message>
+        <source>the presets of this queue cannot be read: %1</source>
+        <translation>les préréglages de cette file ne peuvent pas être lus&#xa0;: %1</translation>
     </message>
 </context>
 <context>

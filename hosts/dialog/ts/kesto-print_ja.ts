@@ -272,10 +272,6 @@
         <translation>プリセット「%1」は壊れているため、そのまま残します</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read</source>
-        <translation>このキューのプリセットを読み取れません</translation>
-    </message>
-    <message>
         <source>the presets of this queue are damaged and left as they are</source>
         <translation>このキューのプリセットは壊れているため、そのまま残します</translation>
     </message>
@@ -374,6 +370,18 @@
     <message>
         <source>the queue %1 cannot be had: %2</source>
         <translation>キュー %1 を取得できません: %2</translation>
+    </message>
+    <message>
+        <source>the print server has ended the job: %1</source>
+        <translation>プリントサーバーがジョブを終了しました: %1</translation>
+    </message>
+    <message>
+        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <translation>プリセット名は最大 %1 文字です。短い名前を選択してください</translation>
+    </message>
+    <message>
+        <source>the presets of this queue cannot be read: %1</source>
+        <translation>このキューのプリセットを読み取れません: %1</translation>
     </message>
 </context>
 <context>

@@ -272,10 +272,6 @@
         <translation>预设“%1”已损坏，保持原样</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read</source>
-        <translation>无法读取此队列的预设</translation>
-    </message>
-    <message>
         <source>the presets of this queue are damaged and left as they are</source>
         <translation>此队列的预设已损坏，保持原样</translation>
     </message>
@@ -374,6 +370,18 @@
     <message>
         <source>the queue %1 cannot be had: %2</source>
         <translation>无法取得队列 %1：%2</translation>
+    </message>
+    <message>
+        <source>the print server has ended the job: %1</source>
+        <translation>打印服务器已结束该作业：%1</translation>
+    </message>
+    <message>
+        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <translation>预设名称最多可有 %1 个字符；请选择较短的名称</translation>
+    </message>
+    <message>
+        <source>the presets of this queue cannot be read: %1</source>
+        <translation>无法读取此队列的预设：%1</translation>
     </message>
 </context>
 <context>

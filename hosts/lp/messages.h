@@ -1,0 +1,26 @@
+// What kesto-lp says on standard error.
+#pragma once
+
+#include <QtCore/QString>
+
+namespace kesto {
+
+/// Lines for people, or with --json one object a line (docs/formats/kesto-lp.md).
+class Messages {
+ public:
+  explicit Messages(bool json) : m_json(json) {}
+
+  /// Why the program fails.
+  void error(const QString& text) const { say("error", {}, text); }
+  /// What it passes over, or does otherwise than it was asked.
+  void warning(const QString& text) const { say("warning", QStringLiteral("warning: "), text); }
+  /// What the panel says to its user, which may be of several lines.
+  void alert(const QString& text) const;
+
+ private:
+  void say(const char* member, const QString& start, const QString& text) const;
+
+  bool m_json;
+};
+
+}  // namespace kesto
