@@ -1,8 +1,8 @@
 // kesto-lp and its print server: what is refused, broken off, kept, checked and listed.
 #include <poll.h>
+
 #include <QtCore/QEventLoop>
 #include <QtNetwork/QTcpServer>
-
 #include <QtNetwork/QTcpSocket>
 #include <future>
 #include <list>

@@ -61,10 +61,10 @@ Outcome HttpConnection::findAddresses(const QByteArray& host, int port) {
                      : Outcome::failed(Faults::tr("there is no print server named %1").arg(m_name));
 }
 
-Outcome HttpConnection::open(std::chrono::milliseconds limit, const std::shared_ptr<Watchdog>& watchdog,
+Outcome HttpConnection::open(std::chrono::milliseconds limit, std::shared_ptr<Watchdog> watchdog,
                              std::unique_ptr<HttpConnection>* connection) {
   connection->reset();
-  std::unique_ptr<HttpConnection> made(new HttpConnection(limit, watchdog));
+  std::unique_ptr<HttpConnection> made(new HttpConnection(limit, std::move(watchdog)));
   const QByteArray host = cupsServer();
   const int port = ippPort();
   made->m_name = QString::fromUtf8(host);
@@ -195,7 +195,7 @@ Outcome HttpConnection::sendPart(const char* bytes, qsizetype count, Watch& watc
 
 Outcome HttpConnection::receive(qsizetype longest, QByteArray* reply) {
   const auto hasField = [&](http_field_t field) { return *httpGetField(m_http.get(), field) != '\0'; };
-  const Outcome brokenOff = Outcome::failed(Faults::tr("the print server's answer breaks off"));
+  Outcome brokenOff = Outcome::failed(Faults::tr("the print server's answer breaks off"));
   reply->clear();
   QByteArray block(blockSize, Qt::Uninitialized);
   for (;;) {

@@ -39,7 +39,7 @@ struct HttpRequest {
 class HttpConnection {
  public:
   /// Connects to the server that libcups has been given for this thread.
-  static Outcome open(std::chrono::milliseconds limit, const std::shared_ptr<Watchdog>& watchdog,
+  static Outcome open(std::chrono::milliseconds limit, std::shared_ptr<Watchdog> watchdog,
                       std::unique_ptr<HttpConnection>* connection);
 
   /// Sends a request and reads the reply; fails unless the server answers that all is well.
@@ -51,8 +51,8 @@ class HttpConnection {
   using Watch = Watchdog::Watch;
   using Clock = std::chrono::steady_clock;
 
-  HttpConnection(std::chrono::milliseconds limit, const std::shared_ptr<Watchdog>& watchdog)
-      : m_limit(limit), m_watchdog(watchdog) {}
+  HttpConnection(std::chrono::milliseconds limit, std::shared_ptr<Watchdog> watchdog)
+      : m_limit(limit), m_watchdog(std::move(watchdog)) {}
   Outcome findAddresses(const QByteArray& host, int port);
   Outcome reconnect();
   Outcome attempt(const HttpRequest& request, QByteArray* reply);

@@ -12,20 +12,20 @@ namespace {
 // How soon a connection is cut that libcups has made anew.
 constexpr std::chrono::milliseconds nextLook(50);
 
-bool isConnectedTo(int descriptor, const http_addrlist_t* addresses) {
+bool isConnectedTo(int descriptor, http_addrlist_t* addresses) {
   http_addr_t peer{};
   socklen_t length = sizeof peer;
   if (::getpeername(descriptor, &peer.addr, &length) != 0) return false;
-  for (const http_addrlist_t* each = addresses; each != nullptr; each = each->next) {
-    auto* address = const_cast<http_addr_t*>(&each->addr);  // libcups's look is one without const
-    if (httpAddrEqual(&peer, address) != 0 && httpAddrPort(&peer) == httpAddrPort(address)) return true;
+  for (http_addrlist_t* each = addresses; each != nullptr; each = each->next) {
+    if (httpAddrEqual(&peer, &each->addr) != 0 && httpAddrPort(&peer) == httpAddrPort(&each->addr))
+      return true;
   }
   return false;
 }
 
 // The number may be another file's by now: libcups closes and opens sockets in its own thread. So it is held
 // first, and cut only if it leads to the print server.
-void cut(http_t* http, const http_addrlist_t* addresses) {
+void cut(http_t* http, http_addrlist_t* addresses) {
   const int held = ::fcntl(httpGetFd(http), F_DUPFD_CLOEXEC, 0);
   if (held < 0) return;
   if (isConnectedTo(held, addresses)) ::shutdown(held, SHUT_RDWR);
@@ -83,7 +83,7 @@ void Watchdog::run() {
   }
 }
 
-Watchdog::Watch::Watch(Watchdog& dog, http_t* http, const http_addrlist_t* addresses,
+Watchdog::Watch::Watch(Watchdog& dog, http_t* http, http_addrlist_t* addresses,
                        std::optional<std::chrono::milliseconds> limit)
     : m_dog(dog) {
   {

@@ -38,7 +38,7 @@ class Watchdog {
   class Watch {
    public:
     /// Without a limit only an interruption ends the wait.
-    Watch(Watchdog& dog, http_t* http, const http_addrlist_t* addresses,
+    Watch(Watchdog& dog, http_t* http, http_addrlist_t* addresses,
           std::optional<std::chrono::milliseconds> limit);
     ~Watch();
     Watch(const Watch&) = delete;
@@ -64,7 +64,7 @@ class Watchdog {
   std::condition_variable m_changed;
   std::thread m_thread;      // from the first watch on
   http_t* m_http = nullptr;  // what is watched
-  const http_addrlist_t* m_addresses = nullptr;
+  http_addrlist_t* m_addresses = nullptr;
   std::optional<Clock::time_point> m_end;
   int m_isInterrupted = 0;
   bool m_hasCut = false;
