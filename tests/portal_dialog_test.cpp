@@ -29,7 +29,7 @@ class PortalDialog : public DialogPrint {
     });
     m_answers.clear();
     say(u"open"_s, {{u"document"_s, hasDocument}, {u"settings"_s, settings}});
-    await([this] { return window() != nullptr; }, u"the dialog"_s);
+    await([] { return window() != nullptr; }, u"the dialog"_s);
   }
   void say(const QString& what, QJsonObject message = {}, int attached = -1) {
     message.insert(u"do"_s, what);
@@ -95,7 +95,8 @@ TEST_F(PortalDialog, EndsWithItsServiceAndItsUser) {
     }
     if (end == u"close") say(end);
     if (end == u"service") m_service.reset();
-    if (end.startsWith(u"user")) QTimer::singleShot(0, [] { QTest::keyClick(window(), Qt::Key_Escape); });
+    if (end.startsWith(u"user"))
+      QTimer::singleShot(0, window(), [] { QTest::keyClick(window(), Qt::Key_Escape); });
     awaitEnd();
     EXPECT_EQ(m_answers, end.startsWith(u"user") ? u"cancelled "_s : QString());
   }
@@ -171,7 +172,7 @@ TEST_F(PortalDialog, ComesBackWithTheReasonWhenThereIsNothingToPrint) {
   EXPECT_EQ(window()->findChild<QLabel*>(u"message"_s)->text(),
             u"Not printed: Report is empty. There is nothing to print."_s);
   EXPECT_FALSE(window()->findChild<QWidget*>(u"print"_s)->isEnabled());
-  QTimer::singleShot(0, [] { QTest::keyClick(window(), Qt::Key_Escape); });
+  QTimer::singleShot(0, window(), [] { QTest::keyClick(window(), Qt::Key_Escape); });
   awaitEnd();
   EXPECT_EQ(m_printer->jobs(), "[]");
 }
