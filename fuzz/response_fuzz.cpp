@@ -24,7 +24,8 @@ void runResponse(const QByteArray& input) {
   const HttpResponse pieces = readInPieces(input, 1);
   require(pieces.isWhole() == whole.isWhole(), "pieces make no difference");
   if (!whole.isWhole()) return;
-  require(pieces.receivedData() == whole.receivedData() && pieces.status() == whole.status(), "pieces make no difference");
+  require(pieces.receivedData() == whole.receivedData() && pieces.status() == whole.status(),
+          "pieces make no difference");
 }
 
 }  // namespace kesto::fuzz
