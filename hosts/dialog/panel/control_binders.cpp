@@ -3,6 +3,7 @@
 #include <QtCore/QEvent>
 #include <QtCore/QPointer>
 #include <QtCore/QScopedValueRollback>
+#include <QtCore/QTimer>
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
 #include <QtGui/QStandardItemModel>
@@ -132,22 +133,24 @@ void bindButton(Button& control, QAbstractButton& widget) {
 // tells that the user has chosen again what was chosen before. Both together are one choice.
 class ChoiceBinder : public QObject {
  public:
-  using QObject::QObject;
+  explicit ChoiceBinder(QObject* parent) : QObject(parent) { m_taken.setSingleShot(true); }
 
  protected:
   // The widget's state differs from the control's.
   void takeChange(const Outcome& chosen) {
-    m_isTaken = true;
-    QMetaObject::invokeMethod(
-        this, [this] { m_isTaken = false; }, Qt::QueuedConnection);
+    m_taken.start(0);
     if (!chosen) show();
   }
   // Whether a click is a choice of its own.
-  bool isNewChoice() { return !std::exchange(m_isTaken, false); }
+  bool isNewChoice() {
+    const bool isTaken = m_taken.isActive();
+    m_taken.stop();
+    return !isTaken;
+  }
   virtual void show() = 0;
 
  private:
-  bool m_isTaken = false;
+  QTimer m_taken;  // runs until what belongs to one operation of the user is over
 };
 
 class CellBinder final : public ChoiceBinder {

@@ -17,7 +17,7 @@ QImage readImage(QIODevice& device, int most) {
   // Images of two colours lose these when they are read smaller.
   if (isLarge && reader.imageFormat() != QImage::Format_Mono)
     reader.setScaledSize(size.scaled(most, most, Qt::KeepAspectRatio));
-  const QImage image = reader.read();
+  QImage image = reader.read();
   if (image.width() <= most && image.height() <= most) return image;
   return image.convertToFormat(QImage::Format_RGB32)
       .scaled(most, most, Qt::KeepAspectRatio, Qt::SmoothTransformation);
