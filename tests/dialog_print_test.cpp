@@ -15,6 +15,7 @@
 #include "dialog_printer.h"
 #include "hosts/dialog/panes/general_pane.h"
 #include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/dialog/widgets/queue_chooser.h"
 #include "support/hostile_server.h"
 
 namespace kesto::test {
@@ -210,11 +211,128 @@ TEST_F(DialogPrint, AThousandQueuesAreListedAndFiltered) {
   EXPECT_EQ(m_dialog->queueName(), u"Office_MFP_0777"_s);
   await([this] { return m_dialog->isQueueReady(); }, u"the other queue"_s);
   EXPECT_FALSE(widget<QAbstractButton>(u"retentionCheckBox"_s)->isChecked()) << "its panel is another";
-  printer->lineEdit()->setText(u"no such queue"_s);
-  QTest::keyClick(printer->lineEdit(), Qt::Key_Return);
-  EXPECT_EQ(m_dialog->queueName(), u"Office_MFP_0777"_s);
-  EXPECT_TRUE(printer->currentText().startsWith(u"Office_MFP_0777"_s));
   EXPECT_EQ(m_dialog->job(), 0) << "Enter takes the name, it does not print";
+}
+
+TEST_F(DialogPrint, WhatThePrinterFieldShowsIsWhatIsPrintedOn) {
+  startPrinter({u"--queues"_s, u"14"_s});
+  openReady();
+  auto* printer = widget<QComboBox>(u"printer"_s);
+  auto* chooser = m_dialog->findChild<QueueChooser*>();
+  const auto press = [](Qt::Key key) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup != nullptr ? popup : QApplication::focusWidget(), key);
+  };
+  QueueSummary late;
+  late.name = u"Attic_Laser"_s;
+  // A way to change the field, the queue that it leads to (null: still the one before), and what is said when
+  // the field shows another text than the queue's.
+  struct Way {
+    const char* what;
+    QString typed;
+    std::function<void()> act;
+    QString queue;
+    QString said;
+  };
+  const Way ways[] = {
+      {"typed alone", u"Office_MFP_0005"_s, [] {}, {}, u"Press Enter to choose Office_MFP_0005."_s},
+      {"the way to Print by its letter",
+       u"mfp_0005"_s,
+       [&] { QTest::keyClick(&*m_dialog, Qt::Key_P, Qt::AltModifier); },
+       {},
+       u"Press Enter to choose Office_MFP_0005."_s},
+      {"a click on Print",
+       u"mfp_0005"_s,
+       [&] { QTest::mouseClick(widget(u"print"_s), Qt::LeftButton); },
+       {},
+       u"Press Enter to choose Office_MFP_0005."_s},
+      {"a text that names none",
+       u"Upstairs"_s,
+       [&] { press(Qt::Key_Return); },
+       {},
+       u"There is no printer named \"Upstairs\"."_s},
+      {"a text that names many",
+       u"mfp"_s,
+       [&] { press(Qt::Key_Return); },
+       {},
+       u"Several printers match. Choose one of them."_s},
+      {"no text", u""_s, [&] { printer->lineEdit()->clear(); }, {}, u"Enter the name of a printer."_s},
+      {"back by Escape", u"Upstairs"_s, [&] { press(Qt::Key_Escape); }, {}, {}},
+      {"back by Escape from the list",
+       u"0005"_s,
+       [&] {
+         press(Qt::Key_Down);
+         press(Qt::Key_Escape);
+       },
+       {},
+       {}},
+      {"Enter", u"0005"_s, [&] { press(Qt::Key_Return); }, u"Office_MFP_0005"_s, {}},
+      {"leaving the field", u"0006"_s, [&] { press(Qt::Key_Tab); }, u"Office_MFP_0006"_s, {}},
+      {"a choice from the list",
+       u"0007"_s,
+       [&] {
+         press(Qt::Key_Down);
+         press(Qt::Key_Return);
+       },
+       u"Office_MFP_0007"_s,
+       {}},
+      {"a text that assistive technology sets",
+       u""_s,
+       [&] { printer->lineEdit()->setText(u"Office_MFP_0008"_s); },
+       u"Office_MFP_0008"_s,
+       {}},
+      {"an item that is set", u""_s, [&] { printer->setCurrentIndex(2); }, u"Office_MFP_0003"_s, {}},
+      {"a queue that comes",
+       u"Attic"_s,
+       [&] { chooser->setQueue(late); },
+       {},
+       u"Press Enter to choose Attic_Laser."_s},
+      {"a queue that goes",
+       u"Attic"_s,
+       [&] { chooser->removeQueue(late.name); },
+       {},
+       u"There is no printer named \"Attic\"."_s},
+      {"the open queue that goes",
+       u"0009"_s,
+       [&] { chooser->removeQueue(u"Office_MFP_0003"_s); },
+       {},
+       u"Press Enter to choose Office_MFP_0009."_s},
+  };
+  QString queue = m_dialog->queueName();
+  for (const Way& way : ways) {
+    SCOPED_TRACE(way.what);
+    if (QWidget* popup = QApplication::activePopupWidget()) popup->hide();
+    printer->setFocus();
+    printer->lineEdit()->selectAll();
+    if (!way.typed.isEmpty()) QTest::keyClicks(QApplication::focusWidget(), way.typed);
+    way.act();
+    if (!way.queue.isNull()) queue = way.queue;
+    EXPECT_EQ(m_dialog->queueName(), queue);
+    EXPECT_TRUE(m_dialog->isVisible());
+    EXPECT_NE(m_dialog->windowTitle().contains(queue), !way.queue.isNull()) << "it goes over at once";
+    await([this] { return m_dialog->isQueueReady(); }, u"the queue"_s);
+    EXPECT_EQ(widget(u"print"_s)->isEnabled(), way.said.isNull());
+    EXPECT_EQ(printer->currentText().section(u' ', 0, 0) == queue, way.said.isNull())
+        << printer->currentText();
+    EXPECT_EQ(text(u"printerState"_s), way.said.isNull() ? u"Ready"_s : way.said);
+    EXPECT_EQ(m_dialog->job(), 0);
+  }
+}
+
+TEST_F(DialogPrint, WhyAQueueTakesNoJobsOrPrintsNoneIsShown) {
+  for (const auto& [edits, said] :
+       Cases{{"s/Accepting Yes/Accepting No\\nStateMessage Closed until Monday/",
+              "Not accepting jobs: Closed until Monday"},
+             {"s/Accepting Yes/Accepting No/", "Not accepting jobs"},
+             {"s/State Idle/State Stopped\\nStateMessage Out of toner/", "Paused: Out of toner"},
+             {"s/State Idle/State Stopped/", "Paused"}}) {
+    m_printer.reset();
+    changeScheduler(edits.toLatin1());
+    startPrinter();
+    openReady();
+    EXPECT_EQ(text(u"printerState"_s), said);
+    EXPECT_EQ(widget(u"print"_s)->isEnabled(), said.startsWith(u"Paused"_s));
+  }
 }
 
 TEST_F(DialogPrint, AQueueWithoutThePanelPrintsByItsOwnOptions) {
@@ -241,8 +359,8 @@ TEST_F(DialogPrint, TheFirstQueueThatTakesJobsStandsInForOneThatIsMissing) {
     openReady();
     EXPECT_EQ(m_dialog->queueName(), u"Office_MFP_0002"_s) << asked;
     const auto tip = [&](int row) { return m_dialog->queues().index(row).data(Qt::ToolTipRole); };
-    EXPECT_EQ(tip(0), u"takes no jobs"_s);
-    EXPECT_EQ(tip(1), u"ready"_s);
+    EXPECT_EQ(tip(0), u"Not accepting jobs"_s);
+    EXPECT_EQ(tip(1), u"Ready"_s);
   }
   DemoProcess program(m_folder, builtProgram("kesto-print"),
                       {u"-h"_s, m_options.server.address, u"--timings"_s});

@@ -27,9 +27,10 @@ using Destination = std::unique_ptr<cups_dest_t, FreeDest>;
 /// What a list of queues shows of one.
 struct QueueSummary {
   QString name;
-  QString info;       ///< The queue's description, as people wrote it.
-  QString deviceUri;  ///< Where it sends its jobs.
-  QString state;      ///< "idle", "processing" or "stopped".
+  QString info;          ///< The queue's description, as people wrote it.
+  QString deviceUri;     ///< Where it sends its jobs.
+  QString state;         ///< "idle", "processing" or "stopped".
+  QString stateMessage;  ///< What the server says of it, such as why it is stopped or takes no jobs.
   bool isAccepting = true;
 };
 

@@ -67,13 +67,32 @@ void PrintDialog::takeQueues(const std::vector<QueueSummary>& queues) {
   m_listFault = QString();
   m_isListed = true;
   m_chooser->setQueues(queues);
-  if (m_session.queue()) m_chooser->showState();
+  showState();
   if (m_wanted.isNull()) settleWithout();
   Q_EMIT listed();
 }
 
+// What the list says of the open queue, else what came with it.
+QueueSummary PrintDialog::openQueue() const {
+  if (!m_session.queue()) return {};
+  const QueueSummary* listed = queues().queue(m_session.queue()->id);
+  if (listed != nullptr) return *listed;
+  QueueSummary queue;
+  if (const Destination& destination = m_session.queue()->destination)
+    queue.isAccepting = optionOf(*destination, "printer-is-accepting-jobs") != u"false";
+  return queue;
+}
+
+void PrintDialog::showState() {
+  if (!m_session.queue()) return;
+  const QueueSummary queue = openQueue();
+  const bool isGone = m_isListed && queue.name.isNull();
+  m_chooser->showText(isGone ? QString() : QueueListModel::stateText(queue), false);
+  updateControls();
+}
+
 void PrintDialog::chooseQueue(const QString& name) {
-  if (m_phase != Phase::Choosing) return;
+  if (m_phase != Phase::Choosing) return m_chooser->setCurrent(m_wanted);
   leaveQueue();
   m_wanted = name;
   m_chooser->setCurrent(name);
@@ -143,8 +162,8 @@ void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
   m_general->setPpd(m_session.ppd(), panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys());
   if (queue->destination) takeKeptOptions(*queue->destination);
   m_otherOptions = takeGeneral(m_options.jobOptions);
-  m_chooser->setCurrent(m_wanted);
-  m_chooser->showState();
+  m_chooser->takeCurrent(m_wanted);
+  showState();
   if (!taken) showMessage(taken.reason());
   // The window handles what has come up before the panel is made visible.
   QMetaObject::invokeMethod(
@@ -354,7 +373,8 @@ void PrintDialog::updateControls() {
   const State state = m_document.state();
   const bool isMissing =
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
-  m_print->setEnabled(isQueueReady() && !isMissing);
+  const bool isTaker = openQueue().isAccepting && !m_chooser->isPending();
+  m_print->setEnabled(isQueueReady() && isTaker && !isMissing);
   m_print->setToolTip(isMissing ? tr("There is no document to print yet.") : QString());
 }
 

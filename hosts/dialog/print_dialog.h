@@ -39,7 +39,7 @@ class PrintDialog : public QDialog {
 
   /// Whether the chosen queue's options and panel are known, or known not to be had.
   bool isSettled() const { return m_isSettled; }
-  /// Whether the Print button can be pressed, but for a document that is missing.
+  /// Whether the chosen queue is open, with its options and its panel to choose from.
   bool isQueueReady() const {
     return m_isSettled && m_session.queue() != nullptr && m_phase == Phase::Choosing;
   }
@@ -82,6 +82,8 @@ class PrintDialog : public QDialog {
   void connectParts();
   void takeQueues(const std::vector<QueueSummary>& queues);
   void chooseQueue(const QString& name);
+  QueueSummary openQueue() const;
+  void showState();
   QString jobName() const;
   QMap<QString, QString> takeGeneral(const QMap<QString, QString>& options);
   void takeKeptOptions(cups_dest_t& destination);

@@ -114,6 +114,7 @@ void PrintDialog::connectParts() {
   connect(m_buttons, &QDialogButtonBox::helpRequested, this, [this] { showHelp(*this); });
   connect(m_chooseDocument, &QPushButton::clicked, this, &PrintDialog::chooseDocument);
   connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);
+  connect(m_chooser, &QueueChooser::pendingChanged, this, &PrintDialog::updateControls);
   connect(m_chooser, &QueueChooser::retryAsked, this, &PrintDialog::retry);
   connect(m_presets, &PresetMenu::loaded, this, [this] {
     if (m_panelPane != nullptr) m_panelPane->alignChoices();
@@ -129,14 +130,12 @@ void PrintDialog::connectParts() {
   connect(&m_document, &Document::changed, this, &PrintDialog::showDocument);
   connect(&m_watch, &QueueWatch::listed, this, &PrintDialog::takeQueues);
   connect(&m_watch, &QueueWatch::changed, this, [this](const QueueSummary& queue) {
-    m_chooser->model().setQueue(queue);
-    if (queue.name == m_wanted && m_session.queue()) m_chooser->showState();
+    m_chooser->setQueue(queue);
+    showState();
   });
   connect(&m_watch, &QueueWatch::removed, this, [this](const QString& name) {
-    m_chooser->model().removeQueue(name);
-    if (name != m_wanted) return;
-    m_chooser->setCurrent(name);  // the list would go on to its neighbour, which nobody has chosen
-    if (m_session.queue()) m_chooser->showState();
+    m_chooser->removeQueue(name);
+    showState();
   });
   connect(&m_watch, &QueueWatch::failed, this, [this](const QString& reason) {
     m_listFault = reason;

@@ -1,6 +1,9 @@
 #include "hosts/dialog/widgets/queue_chooser.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCompleter>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -48,76 +51,173 @@ QueueChooser::QueueChooser(QWidget* parent)
   column->setContentsMargins({});
   column->addWidget(m_combo);
   column->addLayout(line);
-  connect(m_combo, &QComboBox::activated, this, [this](int row) {
+  const auto chooseRow = [this](int row) {
     const QString name = m_model.data(m_model.index(row), QueueListModel::NameRole).toString();
-    if (!name.isEmpty()) Q_EMIT chosen(name);
-  });
+    if (!m_isUpdating && !name.isEmpty()) choose(name);
+  };
+  connect(m_combo, &QComboBox::activated, this, chooseRow);
+  connect(m_combo, &QComboBox::currentIndexChanged, this, chooseRow);
   connect(m_retry, &QPushButton::clicked, this, &QueueChooser::retryAsked);
 }
 
 void QueueChooser::setQueues(const std::vector<QueueSummary>& queues) {
-  m_model.setQueues(queues);
-  offerFilter();
-  setCurrent(m_current);
+  update([&] {
+    m_model.setQueues(queues);
+    offerFilter();
+  });
+}
+
+void QueueChooser::setQueue(const QueueSummary& queue) {
+  update([&] { m_model.setQueue(queue); });
+}
+
+void QueueChooser::removeQueue(const QString& name) {
+  update([&] { m_model.removeQueue(name); });
 }
 
 void QueueChooser::offerFilter() {
   const bool isWanted = m_model.rowCount() > manyQueues;
   if (isWanted == m_combo->isEditable()) return;
   m_combo->setEditable(isWanted);
-  if (!isWanted) return;
+  if (!isWanted) return setTyped({});
   m_combo->setInsertPolicy(QComboBox::NoInsert);
   auto* completer = new QCompleter(&m_model, m_combo);
   completer->setFilterMode(Qt::MatchContains);
   completer->setCaseSensitivity(Qt::CaseInsensitive);
   completer->setCompletionMode(QCompleter::PopupCompletion);
   m_combo->setCompleter(completer);
-  connect(m_combo->lineEdit(), &QLineEdit::editingFinished, this, &QueueChooser::takeTypedName);
-  m_combo->lineEdit()->installEventFilter(this);
-  m_combo->lineEdit()->setAccessibleName(tr("Printer"));
+  QLineEdit* field = m_combo->lineEdit();
+  field->setAccessibleName(tr("Printer"));
+  connect(field, &QLineEdit::textEdited, this, [this](const QString& text) { takeText(text, false); });
+  // The list below the field writes what it only highlights.
+  connect(field, &QLineEdit::textChanged, this, [this, completer](const QString& text) {
+    if (text != m_typed) takeText(text, !completer->popup()->isVisible());
+  });
+  connect(field, &QLineEdit::editingFinished, this, &QueueChooser::confirmText);
+  // Whichever of them a key press reaches first.
+  for (QObject* part : {static_cast<QObject*>(m_combo), static_cast<QObject*>(field),
+                        static_cast<QObject*>(completer->popup())})
+    part->installEventFilter(this);
 }
 
-// Enter takes the name; it does not print.
+// Enter takes the name, it does not print; Escape takes the text back, it does not close the dialog.
 bool QueueChooser::eventFilter(QObject* /*watched*/, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) return false;
+  if (event->type() != QEvent::KeyPress || !m_combo->isEditable()) return false;
+  QAbstractItemView* list = m_combo->completer()->popup();
   const int key = static_cast<QKeyEvent*>(event)->key();
+  if (key == Qt::Key_Escape && (isPending() || list->isVisible())) {
+    list->hide();
+    setCurrent(m_current);
+    return true;
+  }
+  if (list->isVisible() && list->currentIndex().isValid()) return false;  // Enter takes the highlighted one
+  if (list->isVisible() && (key == Qt::Key_Tab || key == Qt::Key_Backtab)) {
+    list->hide();  // it has the keys while it is open
+    confirmText();
+    return QCoreApplication::sendEvent(m_combo, event);
+  }
   if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-  takeTypedName();
+  list->hide();
+  confirmText();
   return true;
 }
 
-// What was typed counts when it leaves one queue, or is the name of one.
-void QueueChooser::takeTypedName() {
-  const QString typed = m_combo->currentText();
-  QString name = m_model.queue(typed) != nullptr ? typed : QString();
-  if (name.isNull()) {
-    const QModelIndexList found =
-        m_model.match(m_model.index(0), Qt::DisplayRole, typed, 2, Qt::MatchContains);
-    if (found.size() == 1 && !typed.isEmpty()) name = found.first().data(QueueListModel::NameRole).toString();
+// The queue that a text names: by its name, or as the list shows it; unless the text is to be whole, also by
+// a part that no other queue has.
+QString QueueChooser::nameFor(const QString& text, bool isWhole, int* matches) const {
+  *matches = 1;
+  if (m_model.queue(text) != nullptr) return text;
+  const Qt::MatchFlags kind = isWhole ? Qt::MatchFixedString : Qt::MatchContains;
+  for (const int role : {static_cast<int>(QueueListModel::NameRole), static_cast<int>(Qt::DisplayRole)}) {
+    const Qt::MatchFlags flags = role == Qt::DisplayRole ? kind : Qt::MatchFixedString;
+    const QModelIndexList found = m_model.match(m_model.index(0), role, text, 2, flags);
+    *matches = static_cast<int>(found.size());
+    if (*matches == 1) return found.first().data(QueueListModel::NameRole).toString();
   }
-  const bool isOther = !name.isNull() && name != m_current;
-  setCurrent(isOther ? name : m_current);
+  return {};
+}
+
+void QueueChooser::takeText(const QString& text, bool isWhole) {
+  if (m_isUpdating) return;
+  int matches = 0;
+  const QString name = isWhole ? nameFor(text, true, &matches) : QString();
+  if (!name.isNull()) return choose(name);
+  setTyped(text == currentText() ? QString() : text.isNull() ? QStringLiteral("") : text);
+}
+
+void QueueChooser::confirmText() {
+  if (!isPending()) return;
+  int matches = 0;
+  const QString name = nameFor(m_typed, false, &matches);
+  if (!name.isNull() && !m_typed.isEmpty()) choose(name);
+}
+
+void QueueChooser::choose(const QString& name) {
+  const bool isOther = name != m_current;
+  setCurrent(name);
   if (isOther) Q_EMIT chosen(name);
 }
 
-void QueueChooser::setCurrent(const QString& name) {
-  m_current = name;
-  const int row = m_model.rowOf(name);
-  m_combo->setPlaceholderText(name.isNull() ? tr("Looking for printers…") : name);
-  m_combo->setCurrentIndex(row);
-  if (m_combo->isEditable()) m_combo->setEditText(row < 0 ? name : m_combo->itemText(row));
+void QueueChooser::setTyped(const QString& text) {
+  const bool wasPending = isPending();
+  m_typed = text;
+  updateLine();
+  if (isPending() != wasPending) Q_EMIT pendingChanged();
 }
 
-void QueueChooser::showState() {
-  const QueueSummary* queue = m_model.queue(m_current);
-  showText(queue == nullptr ? QString() : QueueListModel::stateText(*queue), false);
+void QueueChooser::setCurrent(const QString& name) {
+  setTyped({});
+  takeCurrent(name);
+}
+
+void QueueChooser::takeCurrent(const QString& name) {
+  m_current = name;
+  update();
+}
+
+QString QueueChooser::currentText() const {
+  const int row = m_model.rowOf(m_current);
+  return row < 0 ? m_current : m_combo->itemText(row);
+}
+
+// Changes the list, and brings the field back to the chosen queue, or to what is being typed: the combo box
+// itself would go on to a neighbour, and write that into the field.
+void QueueChooser::update(const std::function<void()>& change) {
+  const QScopedValueRollback guard(m_isUpdating, true);
+  const int cursor = m_combo->isEditable() ? m_combo->lineEdit()->cursorPosition() : 0;
+  if (change) change();
+  m_combo->setPlaceholderText(!m_current.isNull() ? m_current
+                              : m_isFault         ? tr("No printer")
+                                                  : tr("Looking for printers…"));
+  m_combo->setCurrentIndex(m_model.rowOf(m_current));
+  if (m_combo->isEditable()) {
+    m_combo->setEditText(isPending() ? m_typed : currentText());
+    if (isPending()) m_combo->lineEdit()->setCursorPosition(cursor);
+  }
+  updateLine();
+}
+
+// What there is to say of a pending text.
+QString QueueChooser::pendingText() const {
+  if (m_typed.isEmpty()) return tr("Enter the name of a printer.");
+  int matches = 0;
+  const QString name = nameFor(m_typed, false, &matches);
+  if (!name.isNull()) return tr("Press Enter to choose %1.").arg(name);
+  return matches > 1 ? tr("Several printers match. Choose one of them.")
+                     : tr("There is no printer named \"%1\".").arg(m_typed);
+}
+
+void QueueChooser::updateLine() {
+  const QString text = shownText(isPending() ? pendingText() : m_text);
+  m_state->setText(text);
+  m_combo->setAccessibleDescription(text);
+  m_retry->setVisible(m_isFault && !isPending());
 }
 
 void QueueChooser::showText(const QString& text, bool isFault) {
-  m_state->setText(shownText(text));
-  m_retry->setVisible(isFault);
-  if (m_current.isNull())
-    m_combo->setPlaceholderText(isFault ? tr("No printer") : tr("Looking for printers…"));
+  m_text = text;
+  m_isFault = isFault;
+  update();
 }
 
 }  // namespace kesto

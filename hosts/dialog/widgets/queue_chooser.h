@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtWidgets/QComboBox>
+#include <functional>
 
 #include "hosts/dialog/widgets/queue_list_model.h"
 
@@ -11,27 +12,35 @@ class QPushButton;
 namespace kesto {
 
 /// A list of queues, with a filter to type into when there are many, and a line for what there is to say
-/// about the chosen one.
+/// about the chosen one. A text in the field that is not the chosen queue's is pending: it chooses nothing
+/// until it is confirmed by Enter or by leaving the field, or is set whole by other means than typing.
 class QueueChooser : public QWidget {
   Q_OBJECT
 
  public:
   explicit QueueChooser(QWidget* parent);
 
-  QueueListModel& model() { return m_model; }
+  const QueueListModel& model() const { return m_model; }
   /// The field that the label of this choice belongs to.
   QWidget* field() const { return m_combo; }
+  /// What becomes known of the queues. The chosen one and what is being typed stay.
   void setQueues(const std::vector<QueueSummary>& queues);
-  /// Shows `name` as the chosen queue, listed or not; emits nothing.
+  void setQueue(const QueueSummary& queue);
+  void removeQueue(const QString& name);
+  /// Shows `name` as the chosen queue, listed or not, in the place of what was typed; emits nothing.
   void setCurrent(const QString& name);
-  /// Shows the state of the chosen queue.
-  void showState();
-  /// Shows a text in the state's place, with a button to try again behind a fault.
+  /// As `setCurrent`, but what is being typed stays.
+  void takeCurrent(const QString& name);
+  /// Whether the field shows another text than the chosen queue's.
+  bool isPending() const { return !m_typed.isNull(); }
+  /// Shows a text about the chosen queue, with a button to try again after a fault.
   void showText(const QString& text, bool isFault);
 
  Q_SIGNALS:
   /// The user has chosen a queue.
   void chosen(const QString& name);
+  /// The text in the field has become pending, or is not any more.
+  void pendingChanged();
   void retryAsked();
 
  protected:
@@ -39,10 +48,22 @@ class QueueChooser : public QWidget {
 
  private:
   void offerFilter();
-  void takeTypedName();
+  void takeText(const QString& text, bool isWhole);
+  void confirmText();
+  void choose(const QString& name);
+  void setTyped(const QString& text);
+  QString nameFor(const QString& text, bool isWhole, int* matches) const;
+  QString currentText() const;
+  QString pendingText() const;
+  void update(const std::function<void()>& change = {});
+  void updateLine();
 
   QueueListModel m_model;
   QString m_current;
+  QString m_typed;  // the pending text, null when the field shows the chosen queue
+  QString m_text;
+  bool m_isFault = false;
+  bool m_isUpdating = false;  // the field changes because the list does, not by a choice
   QComboBox* m_combo;
   QLabel* m_state;
   QPushButton* m_retry;

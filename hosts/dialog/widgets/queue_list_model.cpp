@@ -71,10 +71,14 @@ void QueueListModel::removeQueue(const QString& name) {
 }
 
 QString QueueListModel::stateText(const QueueSummary& queue) {
-  if (!queue.isAccepting) return tr("takes no jobs");
-  if (queue.state == u"processing") return tr("printing");
-  if (queue.state == u"stopped") return tr("stopped");
-  return tr("ready");
+  // What the scheduler says when nobody has given a reason.
+  const bool hasReason =
+      !QStringList{QString(), QStringLiteral("Rejecting Jobs"), QStringLiteral("Paused")}.contains(
+          queue.stateMessage, Qt::CaseInsensitive);
+  if (!queue.isAccepting)
+    return hasReason ? tr("Not accepting jobs: %1").arg(queue.stateMessage) : tr("Not accepting jobs");
+  if (queue.state == u"stopped") return hasReason ? tr("Paused: %1").arg(queue.stateMessage) : tr("Paused");
+  return queue.state == u"processing" ? tr("Printing") : tr("Ready");
 }
 
 }  // namespace kesto
