@@ -150,6 +150,9 @@ TEST(DialogPages, AreRangesInRisingOrderThatDoNotOverlap) {
   for (const auto& [given, taken] :
        Cases{{"8-, 1–3,5", "1-3,5,8-"}, {"1-3,3", nullptr}, {"7,2-", nullptr}, {"-", nullptr}})
     EXPECT_EQ(pageRangesOf(given).value_or(QString()), taken) << given;
+  for (const auto& [given, taken] :
+       Cases{{"8-12", "8-10"}, {"5,99", "5"}, {"9-", "9-"}, {"99", ""}, {"11-", ""}, {"1-10", "1-10"}})
+    EXPECT_EQ(pageRangesOf(given, 10), taken) << given;
 }
 
 class DialogPreview : public DialogDocument {

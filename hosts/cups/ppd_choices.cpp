@@ -2,67 +2,146 @@
 
 #include <cups/pwg.h>
 
+#include <QtCore/QRegularExpression>
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <span>
 
 namespace kesto {
 namespace {
 
-constexpr std::array usual{"PageSize",   "InputSlot",  "MediaType", "Duplex",
-                           "ColorModel", "Resolution", "OutputBin", "StapleLocation"};
+constexpr std::array usual{"PageSize",         "InputSlot",  "MediaType",  "Duplex",    "ColorModel",
+                           "cupsPrintQuality", "OutputMode", "Resolution", "OutputBin", "StapleLocation"};
 
-PpdOption optionOfPpd(const ppd_option_t& option) {
+// "Custom" stands for values that the user gives, which a list has no fields for.
+bool isCustomChoice(ppd_file_t& ppd, const QString& option, const char* choice) {
+  return QByteArrayView(choice) == "Custom" && hasCustomChoice(ppd, option);
+}
+
+PpdOption optionOfPpd(ppd_file_t& ppd, const ppd_option_t& option) {
   PpdOption made{
       .keyword = QString::fromUtf8(option.keyword), .text = QString::fromUtf8(option.text), .choices = {}};
   for (int i = 0; i < option.num_choices; ++i) {
     const ppd_choice_t& choice = option.choices[i];
-    if (choice.marked != 0) made.marked = i;
+    if (isCustomChoice(ppd, made.keyword, choice.choice)) continue;
+    if (choice.marked != 0) made.marked = static_cast<int>(made.choices.size());
     made.choices.push_back({QString::fromUtf8(choice.choice), QString::fromUtf8(choice.text)});
   }
   return made;
 }
 
-// The standard's values of "sides", and those of the PPD's Duplex.
-struct Sides {
-  const char* standard;
-  const char* duplex;
-};
+// Lengths of paper that count as the same, in points.
+const QString pageSize = QStringLiteral("PageSize");
+constexpr float sizeTolerance = 2;
+constexpr double pointsPerUnit = 72.0 / 2540;  // libcups's units are hundredths of a millimetre
 
-constexpr std::array allSides{Sides{"one-sided", "None"}, Sides{"two-sided-long-edge", "DuplexNoTumble"},
-                              Sides{"two-sided-short-edge", "DuplexTumble"}};
+bool isAbout(float one, double other) {
+  return std::abs(one - other) <= sizeTolerance;
+}
+
+// The PPD's paper of that size, as a choice of PageSize; one of the size's own name first.
+QString choiceOfSize(ppd_file_t& ppd, const char* name, double width, double length) {
+  if (name != nullptr && ppdPageSize(&ppd, name) != nullptr &&
+      choicesOf(ppd, pageSize).contains(QLatin1String(name)))
+    return QLatin1String(name);
+  for (const ppd_size_t& size : std::span(ppd.sizes, static_cast<std::size_t>(ppd.num_sizes))) {
+    const QString choice = QString::fromUtf8(size.name);
+    if (isAbout(size.width, width) && isAbout(size.length, length) &&
+        choicesOf(ppd, pageSize).contains(choice))
+      return choice;
+  }
+  return {};
+}
+
+// A size of the user's own, when the printer takes one.
+QString customPaper(ppd_file_t& ppd, double width, double length, const QString& choice) {
+  const auto fits = [&](int side, double value) {
+    return value > 0 && value >= ppd.custom_min[side] &&
+           (ppd.custom_max[side] <= 0 || value <= ppd.custom_max[side]);
+  };
+  return ppd.variable_sizes != 0 && fits(0, width) && fits(1, length) ? choice : QString();
+}
 
 }  // namespace
 
-PpdChoiceName ppdNameOf(const QString& option, const QString& choice) {
-  if (option == u"sides") {
-    for (const Sides& sides : allSides) {
-      if (choice == QLatin1String(sides.standard))
-        return {QStringLiteral("Duplex"), QLatin1String(sides.duplex)};
-    }
-  }
-  const pwg_media_t* media = option == u"media" ? pwgMediaForPWG(choice.toUtf8().constData()) : nullptr;
-  if (media != nullptr && media->ppd != nullptr)
-    return {QStringLiteral("PageSize"), QString::fromUtf8(media->ppd)};
-  return {option, choice};
+bool hasOption(ppd_file_t& ppd, const QString& option) {
+  const QByteArray keyword = option.toUtf8();
+  // libcups does not look at letter case, but "collate" of a job is not the PPD's "Collate".
+  const ppd_option_t* found = ppdFindOption(&ppd, keyword.constData());
+  return found != nullptr && keyword == found->keyword;
 }
 
-// libcups's own call for a destination's options loses memory each time.
-void markDefaults(ppd_file_t& ppd, const cups_dest_t* destination) {
+bool hasCustomChoice(ppd_file_t& ppd, const QString& option) {
+  return ppdFindCustomOption(&ppd, option.toUtf8().constData()) != nullptr;
+}
+
+QStringList choicesOf(ppd_file_t& ppd, const QString& option) {
+  QStringList choices;
+  const ppd_option_t* found = ppdFindOption(&ppd, option.toUtf8().constData());
+  if (found == nullptr) return choices;
+  for (const ppd_choice_t& each : std::span(found->choices, static_cast<std::size_t>(found->num_choices))) {
+    if (!isCustomChoice(ppd, option, each.choice)) choices.append(QString::fromUtf8(each.choice));
+  }
+  return choices;
+}
+
+std::optional<CustomSize> customSizeOf(const QString& choice) {
+  static const QRegularExpression form(
+      QStringLiteral(R"(^Custom\.(\d+(?:\.\d+)?)x(\d+(?:\.\d+)?)(pt|in|ft|mm|cm|m)?$)"),
+      QRegularExpression::CaseInsensitiveOption);
+  const QRegularExpressionMatch match = form.match(choice);
+  if (!match.hasMatch()) return {};
+  const QString unit = match.captured(3).isEmpty() ? QStringLiteral("pt") : match.captured(3).toLower();
+  return CustomSize{.width = match.captured(1), .length = match.captured(2), .unit = unit};
+}
+
+QString customChoice(double width, double length) {
+  return QStringLiteral("Custom.%1x%2mm").arg(width, 0, 'f', 2).arg(length, 0, 'f', 2);
+}
+
+QString paperChoice(ppd_file_t& ppd, const QString& name) {
+  static const QMap<QString, double> points{
+      {QStringLiteral("pt"), 1},         {QStringLiteral("in"), 72},
+      {QStringLiteral("ft"), 864},       {QStringLiteral("mm"), 72 / 25.4},
+      {QStringLiteral("cm"), 72 / 2.54}, {QStringLiteral("m"), 72 / 0.0254}};
+  const QStringList choices = choicesOf(ppd, pageSize);
+  const auto found = std::ranges::find_if(
+      choices, [&](const QString& each) { return each.compare(name, Qt::CaseInsensitive) == 0; });
+  if (found != choices.end()) return *found;
+  if (const std::optional<CustomSize> size = customSizeOf(name)) {
+    const double width = size->width.toDouble() * points.value(size->unit);
+    const double length = size->length.toDouble() * points.value(size->unit);
+    const QString choice = choiceOfSize(ppd, nullptr, width, length);
+    return choice.isNull() ? customPaper(ppd, width, length, name) : choice;
+  }
+  const QByteArray bytes = name.toUtf8();
+  const pwg_media_t* media = pwgMediaForPWG(bytes.constData());
+  if (media == nullptr) media = pwgMediaForLegacy(bytes.constData());
+  if (media == nullptr) media = pwgMediaForPPD(bytes.constData());
+  if (media == nullptr) return {};
+  const double width = media->width * pointsPerUnit;
+  const double length = media->length * pointsPerUnit;
+  const QString choice = choiceOfSize(ppd, media->ppd, width, length);
+  return choice.isNull() ? customPaper(ppd, width, length,
+                                       QStringLiteral("Custom.%1x%2").arg(qRound(width)).arg(qRound(length)))
+                         : choice;
+}
+
+void markDefaults(ppd_file_t& ppd, const QMap<QString, QString>& kept) {
   ppdLocalize(&ppd);
   ppdMarkDefaults(&ppd);
-  if (destination == nullptr) return;
-  for (int i = 0; i < destination->num_options; ++i) {
-    const cups_option_t& kept = destination->options[i];
-    const PpdChoiceName name = ppdNameOf(QString::fromUtf8(kept.name), QString::fromUtf8(kept.value));
-    ppdMarkOption(&ppd, name.option.toUtf8().constData(), name.choice.toUtf8().constData());
-  }
+  for (auto it = kept.begin(); it != kept.end(); ++it)
+    ppdMarkOption(&ppd, it.key().toUtf8().constData(), it.value().toUtf8().constData());
 }
 
 std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledByPanel) {
   std::vector<PpdOption> options;
   for (const char* keyword : usual) {
     const ppd_option_t* option = ppdFindOption(&ppd, keyword);
-    if (option == nullptr || option->num_choices < 2) continue;
-    if (!handledByPanel.contains(QLatin1String(keyword))) options.push_back(optionOfPpd(*option));
+    if (option == nullptr || handledByPanel.contains(QLatin1String(keyword))) continue;
+    if (PpdOption made = optionOfPpd(ppd, *option); made.choices.size() > 1)
+      options.push_back(std::move(made));
   }
   return options;
 }

@@ -1,6 +1,7 @@
 // The options of a PPD that a print dialog offers by itself.
 #pragma once
 
+#include <QtCore/QMap>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <optional>
@@ -24,22 +25,36 @@ struct PpdOption {
   int marked = -1;  ///< The value in force.
 };
 
-/// Marks the PPD's defaults, and over them the options that the user keeps for the queue.
-void markDefaults(ppd_file_t& ppd, const cups_dest_t* destination);
+/// Marks the PPD's defaults, and over them the values that are kept for the queue, by the PPD's names.
+void markDefaults(ppd_file_t& ppd, const QMap<QString, QString>& kept);
+
+/// Whether the PPD has an option of this name.
+bool hasOption(ppd_file_t& ppd, const QString& option);
+/// Whether the option takes values of the user's own as well, as in "Custom.100x200mm".
+bool hasCustomChoice(ppd_file_t& ppd, const QString& option);
+/// The values of an option by their keywords; without "Custom", which is no value by itself.
+QStringList choicesOf(ppd_file_t& ppd, const QString& option);
+
+/// A paper size of the user's own, as its choice "Custom.WIDTHxLENGTHUNIT" says it.
+struct CustomSize {
+  QString width;
+  QString length;
+  QString unit;  ///< "pt", "in", "ft", "mm", "cm" or "m".
+};
+/// None when the choice is no such size.
+std::optional<CustomSize> customSizeOf(const QString& choice);
+
+/// The choice for a size in millimetres.
+QString customChoice(double width, double length);
+
+/// The choice of PageSize for a paper: by a PPD's name, one of the standard ("iso_a5_148x210mm"), an older
+/// one
+/// ("iso-a5") or a size ("Custom.10x15cm"). Null when the printer has no such paper and takes no such size.
+QString paperChoice(ppd_file_t& ppd, const QString& name);
 
 /// The usual few options that the PPD has, in the order in which a dialog shows them; without those that a
-/// panel handles.
+/// panel handles. "Custom" is not among the choices.
 std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledByPanel);
-
-/// A value of an option by the names of PPDs.
-struct PpdChoiceName {
-  QString option;
-  QString choice;
-};
-
-/// The PPD's names for a job option: "sides" and "media" have standard ones as well, all others stay as they
-/// are.
-PpdChoiceName ppdNameOf(const QString& option, const QString& choice);
 
 /// Marks one value. Answers the texts of the options that do not go together then; empty for none.
 QStringList markChoice(ppd_file_t& ppd, const QString& option, const QString& choice);

@@ -95,8 +95,13 @@ void PortalPrint::open(const QJsonObject& message) {
 
 // What the client asks for of the queue's own options, once these are known.
 void PortalPrint::preset() {
-  if (!m_choice.paper.ppdName.isEmpty())
-    m_dialog->general().choose(QStringLiteral("PageSize"), m_choice.paper.ppdName);
+  const PortalPaper& paper = m_choice.paper;
+  if (ppd_file_t* ppd = m_dialog->ppd()) {
+    QString choice = paperChoice(*ppd, paper.ppdName);
+    if (choice.isNull() && paper.width > 0)
+      choice = paperChoice(*ppd, customChoice(paper.width, paper.height));
+    if (!choice.isNull()) m_dialog->general().choose(QStringLiteral("PageSize"), choice);
+  }
   for (const DuplexChoice& each : duplexChoices) {
     if (each.side == m_choice.duplex && each.side != PortalDuplex::Simplex)
       m_dialog->general().choose(QStringLiteral("Duplex"), each.keyword);

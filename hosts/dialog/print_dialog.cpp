@@ -23,6 +23,9 @@ namespace {
 
 constexpr std::chrono::milliseconds farewell(2500);  // the last message stays that long
 
+// Of the options that the general pane has, those that belong to no queue.
+constexpr std::array ownOptions{"copies", "collate", "page-ranges"};
+
 }  // namespace
 
 PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
@@ -126,44 +129,49 @@ QString PrintDialog::jobName() const {
 QMap<QString, QString> PrintDialog::takeGeneral(const QMap<QString, QString>& options) {
   QMap<QString, QString> others;
   for (auto it = options.begin(); it != options.end(); ++it) {
-    const PpdChoiceName name = ppdNameOf(it.key(), it.value());
-    if (!m_general->choose(name.option, name.choice)) others.insert(it.key(), it.value());
+    if (!m_general->choose(it.key(), it.value())) others.insert(it.key(), it.value());
   }
   return others;
 }
 
-// What the user keeps for the queue is shown, and travels only as it is shown.
+// What is kept for the queue of the options that the pane has on every queue is shown, and travels only as it
+// is shown.
 void PrintDialog::takeKeptOptions(cups_dest_t& destination) {
-  const auto drop = [&](const char* name) {
-    destination.num_options = cupsRemoveOption(name, destination.num_options, &destination.options);
-  };
   const QStringList chosen = m_given + m_general->jobOptions().keys();
-  for (const char* name : {"copies", "collate", "page-ranges"}) {
+  for (const char* name : ownOptions) {
     const QString kept = optionOf(destination, name);
     if (!kept.isEmpty() && !chosen.contains(QLatin1String(name)))
       m_general->choose(QLatin1String(name), kept);
-    drop(name);
+    destination.num_options = cupsRemoveOption(name, destination.num_options, &destination.options);
   }
-  // Under the PPD's name another choice takes their place.
-  for (const char* name : {"sides", "media"}) {
-    const auto [option, choice] = ppdNameOf(QLatin1String(name), optionOf(destination, name));
-    if (m_general->chosen(option).isNull()) continue;
-    drop(name);
-    if (m_general->chosen(option) == choice)
-      destination.num_options = cupsAddOption(option.toUtf8().constData(), choice.toUtf8().constData(),
-                                              destination.num_options, &destination.options);
+}
+
+// Shows what is given for the job, over what is kept for the queue, and says what neither the dialog nor the
+// printer can take: that does not travel.
+QStringList PrintDialog::takeOptions() {
+  const JobChoices& kept = m_session.kept();
+  const JobChoices choices = JobOptionTable(m_session.ppd()).resolve(m_options.jobOptions, kept.options);
+  m_otherOptions = takeGeneral(choices.options);
+  QStringList refused = kept.refused + choices.refused;
+  for (const char* name : ownOptions) {
+    const QString value = m_otherOptions.take(QLatin1String(name));
+    if (!value.isNull()) refused.append(QLatin1String(name) + u'=' + value);
   }
+  return refused;
 }
 
 void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
   m_wanted = queue->id;
   const Outcome taken = m_session.take(queue, jobName());
   PrintDialogPanel* panel = m_session.panel();
-  m_general->setPpd(m_session.ppd(), panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys());
+  m_general->setPpd(m_session.ppd(), panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys(),
+                    m_session.kept().options);
   if (queue->destination) takeKeptOptions(*queue->destination);
-  m_otherOptions = takeGeneral(m_options.jobOptions);
+  const QStringList refused = takeOptions();
   m_chooser->takeCurrent(m_wanted);
   showState();
+  if (!refused.isEmpty())
+    showMessage(tr("This printer cannot do %1. The job is printed without it.").arg(refused.join(u", ")));
   if (!taken) showMessage(taken.reason());
   // The window handles what has come up before the panel is made visible.
   QMetaObject::invokeMethod(
@@ -257,6 +265,7 @@ void PrintDialog::showDocument() {
                          : state == State::Paused  ? tr("The document is long. Print reads the rest.")
                          : m_options.documentLater ? tr("The application draws the pages after the choice.")
                                                    : tr("No document"));
+  takePageCount();
   m_chooseDocument->setVisible(m_options.channel < 0 && !m_options.documentLater &&
                                (state == State::Failed || state == State::None));
   m_session.renameJob(jobName());
@@ -275,6 +284,12 @@ void PrintDialog::showDocumentName(const QString& name) {
   m_documentName->setToolTip(lines.join(u'\n').toHtmlEscaped());
   if (lines.size() > mostLines) lines = lines.first(mostLines) << QStringLiteral("…");
   m_documentName->setText(lines.join(u'\n'));
+}
+
+// Of several documents each has pages of its own, and of one that was drawn as chosen all pages are meant.
+void PrintDialog::takePageCount() {
+  const bool isOne = m_document.files().size() == 1 && !m_options.documentLater;
+  m_general->setPageCount(isOne ? m_preview->pageCount() : 0);
 }
 
 void PrintDialog::chooseDocument() {
@@ -313,6 +328,8 @@ void PrintDialog::print() {
 void PrintDialog::sendExamined() {
   if (!m_preview->isExamined()) return setPhase(Phase::Waiting);
   if (!m_preview->fault().isNull()) return takeSendFailure(m_preview->fault());
+  // Its pages may have been counted since.
+  if (!m_general->fault().isNull()) return takeSendFailure(m_general->fault());
   send();
 }
 

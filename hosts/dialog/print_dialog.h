@@ -87,6 +87,8 @@ class PrintDialog : public QDialog {
   QString jobName() const;
   QMap<QString, QString> takeGeneral(const QMap<QString, QString>& options);
   void takeKeptOptions(cups_dest_t& destination);
+  QStringList takeOptions();
+  void takePageCount();
   void settleWithout();
   void showQueue(const std::shared_ptr<Queue>& queue);
   void takeNoQueue(const QString& reason);

@@ -124,6 +124,7 @@ void PrintDialog::connectParts() {
     if (m_session.panel() != nullptr) m_session.panel()->PPDOptionKeyValueDidChange(option, choice);
   });
   connect(m_preview, &Preview::examined, this, [this] {
+    takePageCount();
     const bool isWaiting = m_phase == Phase::Waiting && m_document.state() == Document::State::Ready;
     if (isWaiting && m_session.queue()) sendExamined();
   });

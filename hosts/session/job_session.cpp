@@ -5,6 +5,22 @@
 #include "panel/model/text_field.h"
 
 namespace kesto {
+namespace {
+
+// Takes the options of the table and of the PPD out of those kept for a queue, which travel by themselves.
+JobChoices takeKeptOptions(cups_dest_t& destination, ppd_file_t* ppd) {
+  QMap<QString, QString> kept;
+  for (int i = destination.num_options - 1; i >= 0; --i) {
+    const cups_option_t& each = destination.options[i];
+    const QString name = QString::fromUtf8(each.name);
+    if (!JobOptionTable(ppd).has(name)) continue;
+    kept.insert(name, QString::fromUtf8(each.value));
+    destination.num_options = cupsRemoveOption(each.name, destination.num_options, &destination.options);
+  }
+  return JobOptionTable(ppd).resolve(kept);
+}
+
+}  // namespace
 
 // The bundle costs time and memory that a queue without the panel need not pay.
 Outcome JobSession::loadPlatform() {
@@ -17,8 +33,9 @@ Outcome JobSession::loadPlatform() {
 Outcome JobSession::take(const std::shared_ptr<Queue>& queue, const QString& jobName) {
   release();
   m_queue = queue;
+  if (queue->destination) m_kept = takeKeptOptions(*queue->destination, queue->ppd.get());
   if (!queue->ppd) return Outcome::done();
-  markDefaults(*queue->ppd, queue->destination.get());
+  markDefaults(*queue->ppd, m_kept.options);
   return offersJobHandling(*queue->ppd) ? openPanel(jobName) : Outcome::done();
 }
 
@@ -43,6 +60,7 @@ void JobSession::release() {
   m_presets.reset();
   m_host.reset();
   m_queue.reset();
+  m_kept = {};
 }
 
 void JobSession::renameJob(const QString& jobName) {

@@ -6,6 +6,7 @@
 
 #include "hosts/cups/queue.h"
 #include "hosts/session/gated_platform.h"
+#include "hosts/session/job_option_table.h"
 #include "hosts/session/panel_host.h"
 #include "hosts/session/preset_store.h"
 
@@ -27,6 +28,9 @@ class JobSession {
   const std::shared_ptr<Queue>& queue() const { return m_queue; }
   /// Null for a queue without one, and while there is no queue.
   ppd_file_t* ppd() const;
+  /// The options with a choice to show that are kept for the queue, by its user or on the server. They are
+  /// taken out of its destination, and travel only as part of a job's own options.
+  const JobChoices& kept() const { return m_kept; }
   /// Null for a queue that offers none.
   PrintDialogPanel* panel() const { return m_host ? m_host->panel() : nullptr; }
   /// The panel's controls, null without a panel.
@@ -57,6 +61,7 @@ class JobSession {
   PrintDialogPlugIn* m_plugIn = nullptr;
   std::unique_ptr<GatedPlatform> m_platform;
   std::shared_ptr<Queue> m_queue;
+  JobChoices m_kept;
   std::unique_ptr<PanelHost> m_host;
   std::optional<PresetStore> m_presets;
 };

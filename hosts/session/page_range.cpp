@@ -39,7 +39,7 @@ QString textOf(const Range& range) {
 
 }  // namespace
 
-std::optional<QString> pageRangesOf(const QString& text) {
+std::optional<QString> pageRangesOf(const QString& text, int pageCount) {
   std::vector<Range> ranges;
   for (const QString& part : text.split(u',')) {
     const std::optional<Range> range = rangeOf(part);
@@ -50,9 +50,12 @@ std::optional<QString> pageRangesOf(const QString& text) {
   const auto overlaps = [](const Range& one, const Range& next) { return next.first <= one.last; };
   if (std::ranges::adjacent_find(ranges, overlaps) != ranges.end()) return {};
   QStringList texts;
-  for (const Range& range : ranges)
+  for (Range range : ranges) {
+    if (pageCount > 0 && range.first > pageCount) break;
+    if (pageCount > 0 && range.last != noEnd) range.last = std::min(range.last, pageCount);
     texts.append(textOf(range));
-  return texts.join(u',');
+  }
+  return texts.isEmpty() ? QStringLiteral("") : texts.join(u',');
 }
 
 }  // namespace kesto

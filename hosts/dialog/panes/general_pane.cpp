@@ -33,6 +33,7 @@ constexpr std::array terms{
     Term{"MediaType", QT_TRANSLATE_NOOP("GeneralPane", "Paper type:")},
     Term{"Duplex", QT_TRANSLATE_NOOP("GeneralPane", "Two-sided:")},
     Term{"ColorModel", QT_TRANSLATE_NOOP("GeneralPane", "Color:")},
+    Term{"cupsPrintQuality", QT_TRANSLATE_NOOP("GeneralPane", "Print quality:")},
     Term{"Resolution", QT_TRANSLATE_NOOP("GeneralPane", "Resolution:")},
     Term{"OutputBin", QT_TRANSLATE_NOOP("GeneralPane", "Output tray:")},
     Term{"StapleLocation", QT_TRANSLATE_NOOP("GeneralPane", "Staple:")},
@@ -45,6 +46,13 @@ QString termFor(const QString& keyword, const QString& text) {
   const auto found =
       std::ranges::find_if(terms, [&](const Term& term) { return keyword == QLatin1String(term.keyword); });
   return found == terms.end() ? text : QCoreApplication::translate("GeneralPane", found->text);
+}
+
+// A value of the user's own, as in "Custom.10x15cm".
+QString customText(const QString& choice) {
+  if (const std::optional<CustomSize> size = customSizeOf(choice))
+    return GeneralPane::tr("Custom %1 x %2 %3").arg(size->width, size->length, size->unit);
+  return GeneralPane::tr("Custom %1").arg(choice.section(u'.', 1));
 }
 
 }  // namespace
@@ -76,6 +84,7 @@ GeneralPane::GeneralPane(QWidget* parent)
   m_form->addRow(pagesLabel, makePages());
   m_form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
   m_note->setWordWrap(true);
+  m_note->setObjectName(QStringLiteral("generalNote"));
   connect(m_copies, &QSpinBox::valueChanged, this, &GeneralPane::update);
   connect(m_collate, &QCheckBox::toggled, this, &GeneralPane::update);
   update();
@@ -130,7 +139,13 @@ bool GeneralPane::hasOwnPages() const {
   return m_ownPages->isChecked();
 }
 
-void GeneralPane::setPpd(ppd_file_t* ppd, const QStringList& handledByPanel) {
+void GeneralPane::setPageCount(int count) {
+  m_pageCount = count;
+  update();
+}
+
+void GeneralPane::setPpd(ppd_file_t* ppd, const QStringList& handledByPanel,
+                         const QMap<QString, QString>& kept) {
   constexpr int ownRows = 2;
   while (m_form->rowCount() > ownRows)
     m_form->removeRow(ownRows);
@@ -140,6 +155,9 @@ void GeneralPane::setPpd(ppd_file_t* ppd, const QStringList& handledByPanel) {
   if (ppd != nullptr) {
     for (const PpdOption& option : usualOptions(*ppd, handledByPanel))
       addOption(option);
+  }
+  for (Row& row : m_rows) {
+    if (kept.contains(row.keyword) && choose(row.keyword, kept.value(row.keyword))) row.initial = -1;
   }
   update();
 }
@@ -172,15 +190,24 @@ void GeneralPane::takeChoice(const Row& row) {
 
 bool GeneralPane::choose(const QString& option, const QString& choice) {
   if (option == u"copies") {
-    m_copies->setValue(choice.toInt());
+    const int copies = choice.toInt();
+    if (copies < m_copies->minimum() || copies > m_copies->maximum()) return false;
+    m_copies->setValue(copies);
   } else if (option == u"collate") {
-    m_collate->setChecked(choice == u"true");
+    static const QStringList words{QStringLiteral("true"),  QStringLiteral("on"),  QStringLiteral("yes"),
+                                   QStringLiteral("false"), QStringLiteral("off"), QStringLiteral("no")};
+    const qsizetype word = words.indexOf(choice.toLower());
+    if (word < 0) return false;
+    m_collate->setChecked(word < 3);
   } else if (option == u"page-ranges") {
     // What the application asks for goes before what is kept for the queue.
     if (!hasOwnPages()) setPages(choice);
   } else {
     const auto row = std::ranges::find(m_rows, option, &Row::keyword);
-    const int index = row == m_rows.end() ? -1 : row->combo->findData(choice);
+    if (row == m_rows.end()) return false;
+    if (row->combo->findData(choice) < 0 && choice.startsWith(u"Custom."))
+      row->combo->addItem(shownText(customText(choice)), choice);
+    const int index = row->combo->findData(choice);
     if (index < 0) return false;
     row->combo->setCurrentIndex(index);
   }
@@ -193,7 +220,9 @@ QString GeneralPane::chosen(const QString& option) const {
 }
 
 QString GeneralPane::pages() const {
-  return m_somePages->isChecked() ? pageRangesOf(m_pages->text()).value_or(QString()) : QString();
+  const QString pages =
+      m_somePages->isChecked() ? pageRangesOf(m_pages->text(), m_pageCount).value_or(QString()) : QString();
+  return pages.isEmpty() ? QString() : pages;
 }
 
 QMap<QString, QString> GeneralPane::jobOptions() const {
@@ -211,9 +240,17 @@ QMap<QString, QString> GeneralPane::jobOptions() const {
 }
 
 QString GeneralPane::fault() const {
-  if (m_somePages->isChecked() && !pageRangesOf(m_pages->text()))
-    return tr("The pages are to be numbers and ranges, such as 1-3, 5.");
+  if (!m_somePages->isChecked()) return {};
+  if (!pageRangesOf(m_pages->text())) return tr("Enter page numbers or ranges, for example 1-3, 5.");
+  if (pages().isNull()) return tr("The document ends with page %1. Enter pages up to it.").arg(m_pageCount);
   return {};
+}
+
+// What is printed when some of the pages asked for are not there.
+QString GeneralPane::cutText() const {
+  if (pages().isNull() || pages() == pageRangesOf(m_pages->text()).value_or(QString())) return {};
+  const QString text = tr("The document ends with page %1. Only %2 will be printed.");
+  return (m_conflict.isEmpty() ? QString() : QStringLiteral("\n")) + text.arg(m_pageCount).arg(pages());
 }
 
 void GeneralPane::showFault() {
@@ -224,7 +261,7 @@ void GeneralPane::showFault() {
 void GeneralPane::update() {
   m_collate->setEnabled(m_copies->value() > 1);
   const bool isFaulty = !fault().isNull() && !m_pages->text().isEmpty();
-  m_note->setText(shownText(isFaulty ? fault() : m_conflict));
+  m_note->setText(isFaulty ? fault() : shownText(m_conflict) + cutText());
   Q_EMIT changed();
 }
 

@@ -29,10 +29,14 @@ class GeneralPane : public QWidget {
   void offerOwnPages(const QString& name);
   /// Whether these are chosen.
   bool hasOwnPages() const;
-  /// Offers the options of a queue; the PPD must outlive them. Null takes them away.
-  void setPpd(ppd_file_t* ppd, const QStringList& handledByPanel);
+  /// How many pages the document has, 0 when that is not known. Only those are asked for.
+  void setPageCount(int count);
+  /// Offers the options of a queue; the PPD must outlive them. Null takes them away. What is kept for the
+  /// queue, by the PPD's names, is chosen, and travels even when it is what the PPD does by itself.
+  void setPpd(ppd_file_t* ppd, const QStringList& handledByPanel, const QMap<QString, QString>& kept = {});
   /// Chooses a value of an offered option of the PPD, or of "copies", "collate" or "page-ranges". Answers
-  /// whether there is such a one: the pane then has it, and `jobOptions` speaks for it.
+  /// whether there is such a one, or it is a value of the user's own ("Custom.10x15cm"): the pane then has
+  /// it, and `jobOptions` speaks for it.
   bool choose(const QString& option, const QString& choice);
 
   /// The value of an offered option, null for one that is not offered.
@@ -61,6 +65,7 @@ class GeneralPane : public QWidget {
   QWidget* makePages();
   void addOption(const PpdOption& option);
   void takeChoice(const Row& row);
+  QString cutText() const;
   void update();
 
   QSpinBox* m_copies;
@@ -74,6 +79,7 @@ class GeneralPane : public QWidget {
   ppd_file_t* m_ppd = nullptr;
   std::vector<Row> m_rows;
   QString m_conflict;
+  int m_pageCount = 0;
 };
 
 }  // namespace kesto

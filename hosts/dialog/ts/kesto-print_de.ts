@@ -85,6 +85,10 @@
         <source>Short edge</source>
         <translation>Kurze Kante</translation>
     </message>
+    <message>
+        <source>Print quality:</source>
+        <translation>Druckqualität:</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>
@@ -424,8 +428,24 @@
         <translation>Diese Einstellungen kann der Drucker nicht kombinieren: %1.</translation>
     </message>
     <message>
-        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
-        <translation>Geben Sie die Seiten als Nummern und Bereiche an, etwa 1-3, 5.</translation>
+        <source>Custom %1 x %2 %3</source>
+        <translation>Eigene Größe %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>Eigener Wert %1</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>Geben Sie Seitenzahlen oder Bereiche ein, zum Beispiel 1-3, 5.</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Enter pages up to it.</source>
+        <translation>Das Dokument endet mit Seite %1. Geben Sie Seiten bis dahin ein.</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Only %2 will be printed.</source>
+        <translation>Das Dokument endet mit Seite %1. Nur %2 wird gedruckt.</translation>
     </message>
 </context>
 <context>
@@ -630,6 +650,10 @@
         <source>The document is long. Print reads the rest.</source>
         <translation>Das Dokument ist lang. Beim Drucken wird der Rest gelesen.</translation>
     </message>
+    <message>
+        <source>This printer cannot do %1. The job is printed without it.</source>
+        <translation>Dieser Drucker kann %1 nicht. Der Auftrag wird ohne dies gedruckt.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -649,24 +673,48 @@
         <source>No printer</source>
         <translation>Kein Drucker</translation>
     </message>
+    <message>
+        <source>Enter the name of a printer.</source>
+        <translation>Geben Sie den Namen eines Druckers ein.</translation>
+    </message>
+    <message>
+        <source>Press Enter to choose %1.</source>
+        <translation>Mit der Eingabetaste wählen Sie %1.</translation>
+    </message>
+    <message>
+        <source>Several printers match. Choose one of them.</source>
+        <translation>Mehrere Drucker passen. Wählen Sie einen davon.</translation>
+    </message>
+    <message>
+        <source>There is no printer named &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Drucker namens „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueListModel</name>
     <message>
-        <source>takes no jobs</source>
-        <translation>nimmt keine Aufträge an</translation>
+        <source>Not accepting jobs: %1</source>
+        <translation>Nimmt keine Aufträge an: %1</translation>
     </message>
     <message>
-        <source>printing</source>
-        <translation>druckt</translation>
+        <source>Not accepting jobs</source>
+        <translation>Nimmt keine Aufträge an</translation>
     </message>
     <message>
-        <source>stopped</source>
-        <translation>angehalten</translation>
+        <source>Paused: %1</source>
+        <translation>Angehalten: %1</translation>
     </message>
     <message>
-        <source>ready</source>
-        <translation>bereit</translation>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
     </message>
 </context>
 <context>

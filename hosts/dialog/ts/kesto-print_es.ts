@@ -85,6 +85,10 @@
         <source>Short edge</source>
         <translation>Borde corto</translation>
     </message>
+    <message>
+        <source>Print quality:</source>
+        <translation>Calidad de impresión:</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>
@@ -424,8 +428,24 @@
         <translation>La impresora no puede combinar estos ajustes: %1.</translation>
     </message>
     <message>
-        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
-        <translation>Indique las páginas con números e intervalos, por ejemplo, 1-3, 5.</translation>
+        <source>Custom %1 x %2 %3</source>
+        <translation>Personalizado %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>Personalizado %1</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>Escriba números o intervalos de páginas, por ejemplo 1-3, 5.</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Enter pages up to it.</source>
+        <translation>El documento termina en la página %1. Escriba páginas hasta ella.</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Only %2 will be printed.</source>
+        <translation>El documento termina en la página %1. Solo se imprimirá %2.</translation>
     </message>
 </context>
 <context>
@@ -630,6 +650,10 @@
         <source>The document is long. Print reads the rest.</source>
         <translation>El documento es largo. El resto se lee al imprimir.</translation>
     </message>
+    <message>
+        <source>This printer cannot do %1. The job is printed without it.</source>
+        <translation>Esta impresora no admite %1. El trabajo se imprime sin ello.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -649,24 +673,48 @@
         <source>No printer</source>
         <translation>Ninguna impresora</translation>
     </message>
+    <message>
+        <source>Enter the name of a printer.</source>
+        <translation>Escriba el nombre de una impresora.</translation>
+    </message>
+    <message>
+        <source>Press Enter to choose %1.</source>
+        <translation>Pulse Intro para elegir %1.</translation>
+    </message>
+    <message>
+        <source>Several printers match. Choose one of them.</source>
+        <translation>Coinciden varias impresoras. Elija una de ellas.</translation>
+    </message>
+    <message>
+        <source>There is no printer named &quot;%1&quot;.</source>
+        <translation>No hay ninguna impresora llamada «%1».</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueListModel</name>
     <message>
-        <source>takes no jobs</source>
-        <translation>no acepta trabajos</translation>
+        <source>Not accepting jobs: %1</source>
+        <translation>No acepta trabajos: %1</translation>
     </message>
     <message>
-        <source>printing</source>
-        <translation>imprimiendo</translation>
+        <source>Not accepting jobs</source>
+        <translation>No acepta trabajos</translation>
     </message>
     <message>
-        <source>stopped</source>
-        <translation>detenida</translation>
+        <source>Paused: %1</source>
+        <translation>En pausa: %1</translation>
     </message>
     <message>
-        <source>ready</source>
-        <translation>lista</translation>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprimiendo</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Lista</translation>
     </message>
 </context>
 <context>

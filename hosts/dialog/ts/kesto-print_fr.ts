@@ -85,6 +85,10 @@
         <source>Short edge</source>
         <translation>Bord court</translation>
     </message>
+    <message>
+        <source>Print quality:</source>
+        <translation>Qualité d’impression :</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>
@@ -424,8 +428,24 @@
         <translation>L’imprimante ne peut pas combiner ces réglages&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
-        <translation>Indiquez les pages par numéros et plages, par exemple 1-3, 5.</translation>
+        <source>Custom %1 x %2 %3</source>
+        <translation>Personnalisé %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>Personnalisé %1</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>Saisissez des numéros ou des plages de pages, par exemple 1-3, 5.</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Enter pages up to it.</source>
+        <translation>Le document se termine à la page %1. Saisissez des pages jusqu’à celle-ci.</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Only %2 will be printed.</source>
+        <translation>Le document se termine à la page %1. Seul %2 sera imprimé.</translation>
     </message>
 </context>
 <context>
@@ -630,6 +650,10 @@
         <source>The document is long. Print reads the rest.</source>
         <translation>Le document est long. Le reste est lu à l’impression.</translation>
     </message>
+    <message>
+        <source>This printer cannot do %1. The job is printed without it.</source>
+        <translation>Cette imprimante ne permet pas %1. La tâche est imprimée sans cela.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -649,24 +673,48 @@
         <source>No printer</source>
         <translation>Aucune imprimante</translation>
     </message>
+    <message>
+        <source>Enter the name of a printer.</source>
+        <translation>Saisissez le nom d’une imprimante.</translation>
+    </message>
+    <message>
+        <source>Press Enter to choose %1.</source>
+        <translation>Appuyez sur Entrée pour choisir %1.</translation>
+    </message>
+    <message>
+        <source>Several printers match. Choose one of them.</source>
+        <translation>Plusieurs imprimantes correspondent. Choisissez-en une.</translation>
+    </message>
+    <message>
+        <source>There is no printer named &quot;%1&quot;.</source>
+        <translation>Il n’y a pas d’imprimante nommée « %1 ».</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueListModel</name>
     <message>
-        <source>takes no jobs</source>
-        <translation>n’accepte pas de travaux</translation>
+        <source>Not accepting jobs: %1</source>
+        <translation>N’accepte pas de tâches : %1</translation>
     </message>
     <message>
-        <source>printing</source>
-        <translation>impression en cours</translation>
+        <source>Not accepting jobs</source>
+        <translation>N’accepte pas de tâches</translation>
     </message>
     <message>
-        <source>stopped</source>
-        <translation>arrêtée</translation>
+        <source>Paused: %1</source>
+        <translation>En pause : %1</translation>
     </message>
     <message>
-        <source>ready</source>
-        <translation>prête</translation>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression en cours</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Prête</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,10 @@
         <source>Short edge</source>
         <translation>短辺とじ</translation>
     </message>
+    <message>
+        <source>Print quality:</source>
+        <translation>印刷品質:</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>
@@ -423,8 +427,24 @@
         <translation>プリンターは次の設定を同時に使えません: %1。</translation>
     </message>
     <message>
-        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
-        <translation>ページは 1-3, 5 のように、番号と範囲で指定してください。</translation>
+        <source>Custom %1 x %2 %3</source>
+        <translation>カスタム %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>カスタム %1</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>ページ番号または範囲を入力してください (例: 1-3, 5)。</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Enter pages up to it.</source>
+        <translation>文書は %1 ページまでです。その範囲のページを入力してください。</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Only %2 will be printed.</source>
+        <translation>文書は %1 ページまでです。%2 だけが印刷されます。</translation>
     </message>
 </context>
 <context>
@@ -629,6 +649,10 @@
         <source>The document is long. Print reads the rest.</source>
         <translation>文書が長いため、残りは「印刷」を押した後に読み取ります。</translation>
     </message>
+    <message>
+        <source>This printer cannot do %1. The job is printed without it.</source>
+        <translation>このプリンターは %1 に対応していません。ジョブはこれなしで印刷されます。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -648,23 +672,47 @@
         <source>No printer</source>
         <translation>プリンターなし</translation>
     </message>
+    <message>
+        <source>Enter the name of a printer.</source>
+        <translation>プリンターの名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>Press Enter to choose %1.</source>
+        <translation>Enter キーで %1 を選択します。</translation>
+    </message>
+    <message>
+        <source>Several printers match. Choose one of them.</source>
+        <translation>複数のプリンターが一致します。1 つ選択してください。</translation>
+    </message>
+    <message>
+        <source>There is no printer named &quot;%1&quot;.</source>
+        <translation>「%1」という名前のプリンターはありません。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueListModel</name>
     <message>
-        <source>takes no jobs</source>
+        <source>Not accepting jobs: %1</source>
+        <translation>ジョブを受け付けていません: %1</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
         <translation>ジョブを受け付けていません</translation>
     </message>
     <message>
-        <source>printing</source>
+        <source>Paused: %1</source>
+        <translation>一時停止中: %1</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Printing</source>
         <translation>印刷中</translation>
     </message>
     <message>
-        <source>stopped</source>
-        <translation>停止中</translation>
-    </message>
-    <message>
-        <source>ready</source>
+        <source>Ready</source>
         <translation>準備完了</translation>
     </message>
 </context>

@@ -85,6 +85,10 @@
         <source>Short edge</source>
         <translation>短边</translation>
     </message>
+    <message>
+        <source>Print quality:</source>
+        <translation>打印质量：</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>
@@ -423,8 +427,24 @@
         <translation>打印机无法同时使用以下设置：%1。</translation>
     </message>
     <message>
-        <source>The pages are to be numbers and ranges, such as 1-3, 5.</source>
-        <translation>请用页码和范围指定页面，例如 1-3, 5。</translation>
+        <source>Custom %1 x %2 %3</source>
+        <translation>自定义 %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>自定义 %1</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>请输入页码或页码范围，例如 1-3, 5。</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Enter pages up to it.</source>
+        <translation>文档到第 %1 页为止。请输入不超过该页的页码。</translation>
+    </message>
+    <message>
+        <source>The document ends with page %1. Only %2 will be printed.</source>
+        <translation>文档到第 %1 页为止。只会打印 %2。</translation>
     </message>
 </context>
 <context>
@@ -629,6 +649,10 @@
         <source>The document is long. Print reads the rest.</source>
         <translation>文档很长，其余部分将在按下“打印”后读取。</translation>
     </message>
+    <message>
+        <source>This printer cannot do %1. The job is printed without it.</source>
+        <translation>此打印机不支持 %1。作业将不使用它打印。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -648,23 +672,47 @@
         <source>No printer</source>
         <translation>没有打印机</translation>
     </message>
+    <message>
+        <source>Enter the name of a printer.</source>
+        <translation>请输入打印机的名称。</translation>
+    </message>
+    <message>
+        <source>Press Enter to choose %1.</source>
+        <translation>按 Enter 键选择 %1。</translation>
+    </message>
+    <message>
+        <source>Several printers match. Choose one of them.</source>
+        <translation>有多台打印机匹配。请选择其中一台。</translation>
+    </message>
+    <message>
+        <source>There is no printer named &quot;%1&quot;.</source>
+        <translation>没有名为“%1”的打印机。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueListModel</name>
     <message>
-        <source>takes no jobs</source>
+        <source>Not accepting jobs: %1</source>
+        <translation>不接受作业：%1</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
         <translation>不接受作业</translation>
     </message>
     <message>
-        <source>printing</source>
+        <source>Paused: %1</source>
+        <translation>已暂停：%1</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>Printing</source>
         <translation>正在打印</translation>
     </message>
     <message>
-        <source>stopped</source>
-        <translation>已停止</translation>
-    </message>
-    <message>
-        <source>ready</source>
+        <source>Ready</source>
         <translation>就绪</translation>
     </message>
 </context>

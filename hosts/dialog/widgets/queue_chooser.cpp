@@ -191,7 +191,8 @@ void QueueChooser::update(const std::function<void()>& change) {
                                                   : tr("Looking for printers…"));
   m_combo->setCurrentIndex(m_model.rowOf(m_current));
   if (m_combo->isEditable()) {
-    m_combo->setEditText(isPending() ? m_typed : currentText());
+    const QString text = isPending() ? m_typed : currentText();
+    if (m_combo->currentText() != text) m_combo->setEditText(text);
     if (isPending()) m_combo->lineEdit()->setCursorPosition(cursor);
   }
   updateLine();
