@@ -164,6 +164,10 @@ TEST_F(PrintTest, WhatAnotherUserSeesOfAJob) {
     EXPECT_EQ(json[u"policy"], u"demo"_s);
     EXPECT_EQ(json[u"closedBy"].toArray().size(), 2);
     EXPECT_EQ(schedulersJobs().count(u"Office_MFP-"_s), 1) << "the job of the check stays";
+    addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
+    EXPECT_EQ(lp(u"--check Plain"_s).out.section(u'\n', 0, 0),
+              isPrivate ? u"Plain: other users see none of a job's options."_s
+                        : u"Plain: other users see of a job the job's options."_s);
   }
   expectRefused(u"--check Nowhere"_s, 1,
                 u"the queue Nowhere takes no job: The printer or class does not exist."_s);
@@ -419,36 +423,33 @@ TEST_F(LpTest, AnEncryptedServerIsAsked) {
   server.join();
 }
 
-// A server that takes jobs and is too busy to say what is in them.
-TEST_F(LpTest, ACheckWithoutAnAnswerIsNone) {
-  QTcpServer server;
-  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
-  const auto check = process(u"-h 127.0.0.1:%1 --check q"_s.arg(server.serverPort()));
-  QEventLoop loop;
-  QObject::connect(check.get(), &QProcess::finished, &loop, &QEventLoop::quit);
-  QObject::connect(&server, &QTcpServer::newConnection, [&server] {
-    QTcpSocket* socket = server.nextPendingConnection();
-    QObject::connect(socket, &QTcpSocket::readyRead, [socket, bytes = QByteArray()]() mutable {
-      bytes += socket->readAll();
-      const qsizetype ipp = bytes.indexOf("\r\n\r\n") + 4;
-      // The end of a message's attributes; what is shorter has only begun.
-      if (ipp < 4 || bytes.size() < ipp + 9 || !bytes.endsWith('\3')) return;
-      const bool isLook = bytes[ipp + 3] == IPP_OP_GET_JOB_ATTRIBUTES;
-      const QByteArray status = isLook ? "\x05\x07"_ba : QByteArray(2, '\0');
-      const QByteArray job = "\x02\x21\0\x06job-id\0\x04\0\0\0\x01"_ba;
-      const QByteArray reply = "\x02\0"_ba + status + bytes.mid(ipp + 4, 4) + job + '\3';
-      socket->write(
-          "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\nContent-Type: "
-          "application/ipp\r\nContent-Length: " +
-          QByteArray::number(reply.size()) + "\r\n\r\n" + reply);
-      bytes.clear();
-    });
-  });
-  check->start();
-  loop.exec();
-  EXPECT_EQ(check->exitCode(), 1);
-  EXPECT_EQ(check->readAllStandardError(), "kesto-lp: what other users see is not told: server-error-busy\n");
-  EXPECT_EQ(check->readAllStandardOutput(), "");
+// Answers that are whole and well-formed, and not what was to be known.
+TEST_F(LpTest, AnAnswerWithoutWhatWasAskedIsNoGoodOne) {
+  const auto reply = [](const QByteArray& status, const QByteArray& attributes) {
+    const QByteArray ipp = "\2\0"_ba + status + "\0\0\0\1"_ba + attributes + '\3';
+    return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(ipp.size()) + "\r\n\r\n" + ipp;
+  };
+  const QByteArray ok(2, '\0');
+  const QByteArray aborted =
+      "\2\x23\0\x09job-state\0\4\0\0\0\x08\x44\0\x11job-state-reasons\0\x11"
+      "aborted-by-system"_ba;
+  const std::tuple<int, QByteArray, QString, QString> cases[] = {
+      {IPP_OP_GET_JOB_ATTRIBUTES, reply("\5\7", {}), u"--check q"_s,
+       u"what other users see is not told: server-error-busy"_s},
+      {IPP_OP_GET_JOB_ATTRIBUTES, reply(ok, {}), u"--check q"_s,
+       u"what other users see is not told: the print server's answer holds no job"_s},
+      {IPP_OP_SEND_DOCUMENT, reply(ok, aborted), u"-d q "_s + m_ppd.path(),
+       u"%1 is not taken: the print server has ended the job: aborted-by-system"_s.arg(
+           QFileInfo(m_ppd.path()).fileName())},
+  };
+  for (const auto& [operation, answer, arguments, fault] : cases) {
+    const HostileServer server(operation, {.once = answer, .closes = true});
+    const LpRun run = this->run(u"-h %1 "_s.arg(server.address()) + arguments);
+    EXPECT_TRUE(server.hasMisbehaved());
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.err, u"kesto-lp: "_s + fault + u'\n');
+    EXPECT_EQ(run.out, QString());
+  }
 }
 
 }  // namespace

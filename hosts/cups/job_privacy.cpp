@@ -1,8 +1,10 @@
 #include "hosts/cups/job_privacy.h"
 
 #include <array>
+#include <span>
 
 #include "hosts/cups/faults.h"
+#include "hosts/cups/ppd_file.h"
 #include "platform/print_settings.h"
 
 namespace kesto {
@@ -11,14 +13,23 @@ namespace {
 constexpr char stranger[] = "kesto-check";
 
 struct OptionRow {
-  const char* key;   // of the print settings, behind their common prefix
-  const char* word;  // what it tells
+  const char* key;   // of the print settings, after their common prefix
+  const char* word;  // what it says of the job
+  const char* prefix = printSettingsPrefix;
+  bool isServers = false;  // which gives it to the job itself
 
-  QByteArray name() const { return QByteArray(printSettingsPrefix) + key; }
+  QByteArray name() const { return QByteArray(prefix) + key; }
 };
 
-// One option of each kind that tells something.
-constexpr std::array options{
+// What any job has.
+constexpr std::array anyOptions{
+    OptionRow{"kesto-option", QT_TRANSLATE_NOOP("kesto::Faults", "the job's options"), ""},
+    OptionRow{"job-originating-user-name", QT_TRANSLATE_NOOP("kesto::Faults", "the user name"), "", true},
+    OptionRow{"job-name", QT_TRANSLATE_NOOP("kesto::Faults", "the job's name"), "", true},
+};
+
+// One option of each kind that says something of a job with Job Handling.
+constexpr std::array panelOptions{
     OptionRow{"jobSuspendKey", QT_TRANSLATE_NOOP("kesto::Faults", "the digest of the pass code")},
     OptionRow{"jobSuspend2Key", QT_TRANSLATE_NOOP("kesto::Faults", "the pass code")},
     OptionRow{"spoolTime", QT_TRANSLATE_NOOP("kesto::Faults", "the spool time")},
@@ -31,12 +42,14 @@ constexpr std::array options{
 };
 
 // Its owner may have to say who they are, which libcups then asks for.
-Outcome createJob(PrintServer& server, const QString& queue, int* job) {
+Outcome createJob(PrintServer& server, const QString& queue, std::span<const OptionRow> options, int* job) {
   const Ipp request = requestTo(IPP_OP_CREATE_JOB, uriOfQueue(queue));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, stranger);
   ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-hold-until", nullptr, "indefinite");
-  for (const OptionRow& row : options)
+  for (const OptionRow& row : options) {
+    if (row.isServers) continue;
     ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_NAME, row.name().constData(), nullptr, "0");
+  }
   Ipp reply;
   Outcome created = server.order(request.get(), "/", &reply);
   ipp_attribute_t* id = ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER);
@@ -58,11 +71,22 @@ Outcome cancelJob(PrintServer& server, const QString& queue, int job) {
       Faults::tr("the job %1-%2 cannot be cancelled: %3").arg(queue).arg(job).arg(cancelled.reason()));
 }
 
-Outcome lookAtJob(PrintServer& server, const QString& queue, int job, QStringList* shown) {
+bool hasJob(ipp_t* reply) {
+  ipp_attribute_t* each = ippFirstAttribute(reply);
+  while (each != nullptr && ippGetGroupTag(each) != IPP_TAG_JOB)
+    each = ippNextAttribute(reply);
+  return each != nullptr;
+}
+
+Outcome lookAtJob(PrintServer& server, const QString& queue, int job, std::span<const OptionRow> options,
+                  QStringList* shown) {
   const Ipp request = requestTo(IPP_OP_GET_JOB_ATTRIBUTES, uriOfQueue(queue), job, stranger);
   Ipp reply;
   // Only a server that forbids it has shown nothing; one that could not answer would have.
   Outcome asked = server.ask(request.get(), &reply, IPP_STATUS_ERROR_FORBIDDEN);
+  // Whoever may see a job sees its number at least.
+  if (asked && ippGetStatusCode(reply.get()) != IPP_STATUS_ERROR_FORBIDDEN && !hasJob(reply.get()))
+    asked = Outcome::failed(Faults::tr("the print server's answer holds no job"));
   if (!asked) return Outcome::failed(Faults::tr("what other users see is not told: %1").arg(asked.reason()));
   for (const OptionRow& row : options) {
     if (ippFindAttribute(reply.get(), row.name().constData(), IPP_TAG_ZERO) != nullptr)
@@ -87,9 +111,15 @@ Outcome askForPolicy(PrintServer& server, const QString& queue, QString* policy)
 Outcome findJobPrivacy(PrintServer& server, const QString& queue, JobPrivacy* privacy) {
   *privacy = {};
   if (Outcome asked = askForPolicy(server, queue, &privacy->policy); !asked) return asked;
+  PpdFile ppd;
+  if (Outcome fetched = fetchPpdFile(server, queue, &ppd); !fetched) return fetched;
+  // What a job never has is not spoken of.
+  const bool hasPanel = ppd && offersJobHandling(*ppd);
+  const auto options =
+      hasPanel ? std::span<const OptionRow>(panelOptions) : std::span<const OptionRow>(anyOptions);
   int job = 0;
-  if (Outcome created = createJob(server, queue, &job); !created) return created;
-  Outcome looked = lookAtJob(server, queue, job, &privacy->shown);
+  if (Outcome created = createJob(server, queue, options, &job); !created) return created;
+  Outcome looked = lookAtJob(server, queue, job, options, &privacy->shown);
   Outcome cancelled = cancelJob(server, queue, job);
   return looked ? cancelled : looked;
 }

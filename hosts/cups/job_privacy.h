@@ -16,9 +16,10 @@ struct JobPrivacy {
 /// The lines of a CUPS policy that keep a job's options to its owner and to administrators.
 inline constexpr char privatePolicyLines[] = "JobPrivateAccess @OWNER @SYSTEM\nJobPrivateValues all\n";
 
-/// Finds out by trial, since no print server tells its policy: creates a job that is held and has no
-/// document, with settings that say nothing, asks for it as a user whom no account has, and cancels it. Fails
-/// when the queue takes no job, or when the server wants to know who asks.
+/// Finds out by trial, since no print server says what its policy is: creates a job that is held and has no
+/// document, with settings that say nothing (those of Job Handling where the queue offers it), asks for it as
+/// a user whom no account has, and cancels it. Fails when the queue takes no job, when the server wants to
+/// know who asks, and when its answer holds no job.
 Outcome findJobPrivacy(PrintServer& server, const QString& queue, JobPrivacy* privacy);
 
 }  // namespace kesto

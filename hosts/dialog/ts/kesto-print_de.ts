@@ -388,6 +388,14 @@
         <source>the presets of this queue cannot be read: %1</source>
         <translation>die Voreinstellungen dieser Warteschlange lassen sich nicht lesen: %1</translation>
     </message>
+    <message>
+        <source>the job&apos;s options</source>
+        <translation>die Optionen des Auftrags</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s answer holds no job</source>
+        <translation>die Antwort des Druckservers enthält keinen Auftrag</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

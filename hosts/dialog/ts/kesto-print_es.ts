@@ -388,6 +388,14 @@
         <source>the presets of this queue cannot be read: %1</source>
         <translation>no se pueden leer los preajustes de esta cola: %1</translation>
     </message>
+    <message>
+        <source>the job&apos;s options</source>
+        <translation>las opciones del trabajo</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s answer holds no job</source>
+        <translation>la respuesta del servidor de impresión no contiene ningún trabajo</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

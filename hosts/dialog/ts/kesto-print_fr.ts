@@ -388,6 +388,14 @@
         <source>the presets of this queue cannot be read: %1</source>
         <translation>les préréglages de cette file ne peuvent pas être lus&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>the job&apos;s options</source>
+        <translation>les options de la tâche</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s answer holds no job</source>
+        <translation>la réponse du serveur d’impression ne contient aucune tâche</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

@@ -387,6 +387,14 @@
         <source>the presets of this queue cannot be read: %1</source>
         <translation>このキューのプリセットを読み取れません: %1</translation>
     </message>
+    <message>
+        <source>the job&apos;s options</source>
+        <translation>ジョブのオプション</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s answer holds no job</source>
+        <translation>プリントサーバーの応答にジョブが含まれていません</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

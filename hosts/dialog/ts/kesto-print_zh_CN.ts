@@ -387,6 +387,14 @@
         <source>the presets of this queue cannot be read: %1</source>
         <translation>无法读取此队列的预设：%1</translation>
     </message>
+    <message>
+        <source>the job&apos;s options</source>
+        <translation>作业的选项</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s answer holds no job</source>
+        <translation>打印服务器的应答中没有作业</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>
