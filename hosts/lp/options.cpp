@@ -60,9 +60,10 @@ std::string faultOfHold(const std::string& when) {
   static const std::regex known(
       "hold|immediate|resume|release|restart|no-hold|indefinite|day-time|evening|night|second-shift|"
       "third-shift|weekend|([01]?[0-9]|2[0-3]):[0-5][0-9](:[0-5][0-9])?");
-  return std::regex_match(when, known) ? ""
-                                       : "must be a time such as 18:30 (UTC), hold, immediate, resume, restart "
-                                         "or a word of the print server such as evening";
+  return std::regex_match(when, known)
+             ? ""
+             : "must be a time such as 18:30 (UTC), hold, immediate, resume, restart "
+               "or a word of the print server such as evening";
 }
 
 std::string faultOfJobName(const std::string& name) {
@@ -154,7 +155,8 @@ CLI::Option* CommandLine::addUsualOption(const std::string& names, const char* j
 // An option that the usual print command takes for the sake of older systems and passes over.
 void CommandLine::addIgnored(const std::string& name, const char* what) {
   addUsual(name, [this, name, what](const QString& /*value*/) {
-    m_options.warnings += QStringLiteral("%1 is ignored: %2").arg(QLatin1String(name.c_str()), QLatin1String(what));
+    m_options.warnings +=
+        QStringLiteral("%1 is ignored: %2").arg(QLatin1String(name.c_str()), QLatin1String(what));
   });
 }
 
