@@ -7,8 +7,8 @@ class QWidget;
 
 namespace kesto {
 
-/// Shows `text` on a label, button or group box as it is, "&" included and in one line (`shownText`). What was shown before, with the
-/// mnemonic it was given, stays when the text is the same.
+/// Shows `text` on a label, button or group box as it is, "&" included and in one line (`shownText`). What
+/// was shown before, with the mnemonic it was given, stays when the text is the same.
 void setPlainText(QWidget& widget, const QString& text);
 /// The text that was shown last by `setPlainText`.
 QString plainText(const QWidget& widget);
