@@ -36,8 +36,8 @@ bool isSpoolTimeRight(const QDateTime& moment) {
 
 int writeInEveryZone() {
   // Before 1972 zones had offsets with seconds.
-  const QDateTime first(QDate(1972, 1, 2), QTime(0, 0), Qt::UTC);
-  const QDateTime last(QDate(2037, 12, 31), QTime(0, 0), Qt::UTC);
+  const QDateTime first(QDate(1972, 1, 2), QTime(0, 0), QTimeZone::utc());
+  const QDateTime last(QDate(2037, 12, 31), QTime(0, 0), QTimeZone::utc());
   const QList<QByteArray> zones = QTimeZone::availableTimeZoneIds();
   int changes = 0;
   for (const QByteArray& id : zones) {

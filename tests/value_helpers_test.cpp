@@ -1,5 +1,7 @@
 #include "settings/value_helpers.h"
 
+#include <QtCore/QTimeZone>
+
 #include "support/guarded_buffer.h"
 #include "support/printing.h"
 
@@ -43,7 +45,7 @@ TEST(SpoolTime, EnglishWithTheZonesOffset) {
         Case{{2000, 9, 30}, 840, "Sat, 30 Sep 2000 07:08:09 +1400"},
         Case{{2038, 1, 20}, -45, "Wed, 20 Jan 2038 07:08:09 -0045"}}) {
     GuardedBuffer<char, 64> text;
-    EXPECT_EQ(GetSpoolTime(text.span(), QDateTime(date, {7, 8, 9}, Qt::OffsetFromUTC, minutes * 60)), 31U);
+    EXPECT_EQ(GetSpoolTime(text.span(), QDateTime(date, {7, 8, 9}, QTimeZone(minutes * 60))), 31U);
     EXPECT_STREQ(text.text(), expected);
     EXPECT_TRUE(text.isGuardIntact());
   }

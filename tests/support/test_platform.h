@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtCore/QMap>
+#include <QtCore/QTimeZone>
 #include <functional>
 #include <vector>
 
@@ -85,7 +86,7 @@ class TestPlatform : public Platform, public AlertPresenter {
 
   std::shared_ptr<const Bundle> bundleOfPanel;
   MemoryUserDefaults defaults;
-  QDateTime clock{QDate(2024, 2, 29), QTime(7, 8, 9), Qt::OffsetFromUTC, -(3 * 60 + 30) * 60};
+  QDateTime clock{QDate(2024, 2, 29), QTime(7, 8, 9), QTimeZone(-(3 * 60 + 30) * 60)};
   QString temporary;
   QString shortName = u"jdoe"_s;
   QString fullName = u"Jane Doe"_s;
