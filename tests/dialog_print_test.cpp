@@ -219,9 +219,9 @@ TEST_F(DialogPrint, WhatThePrinterFieldShowsIsWhatIsPrintedOn) {
   openReady();
   auto* printer = widget<QComboBox>(u"printer"_s);
   auto* chooser = m_dialog->findChild<QueueChooser*>();
-  const auto press = [](Qt::Key key) {
+  const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QWidget* popup = QApplication::activePopupWidget();
-    QTest::keyClick(popup != nullptr ? popup : QApplication::focusWidget(), key);
+    QTest::keyClick(popup != nullptr ? popup : QApplication::focusWidget(), key, modifiers);
   };
   QueueSummary late;
   late.name = u"Attic_Laser"_s;
@@ -236,11 +236,16 @@ TEST_F(DialogPrint, WhatThePrinterFieldShowsIsWhatIsPrintedOn) {
   };
   const Way ways[] = {
       {"typed alone", u"Office_MFP_0005"_s, [] {}, {}, u"Press Enter to choose Office_MFP_0005."_s},
-      {"the way to Print by its letter",
-       u"mfp_0005"_s,
-       [&] { QTest::keyClick(&*m_dialog, Qt::Key_P, Qt::AltModifier); },
+      {"the letter of Print, which is dimmed",
+       u"mfp_0004"_s,
+       [&] { press(Qt::Key_I, Qt::AltModifier); },
+       u"Office_MFP_0004"_s,
+       {}},
+      {"the letter of Print after a text that names none",
+       u"Upstairs"_s,
+       [&] { press(Qt::Key_I, Qt::AltModifier); },
        {},
-       u"Press Enter to choose Office_MFP_0005."_s},
+       u"There is no printer named \"Upstairs\"."_s},
       {"a click on Print",
        u"mfp_0005"_s,
        [&] { QTest::mouseClick(widget(u"print"_s), Qt::LeftButton); },
@@ -302,6 +307,8 @@ TEST_F(DialogPrint, WhatThePrinterFieldShowsIsWhatIsPrintedOn) {
   for (const Way& way : ways) {
     SCOPED_TRACE(way.what);
     if (QWidget* popup = QApplication::activePopupWidget()) popup->hide();
+    m_dialog->activateWindow();
+    await([this] { return m_dialog->isActiveWindow(); }, u"the window"_s);
     printer->setFocus();
     printer->lineEdit()->selectAll();
     if (!way.typed.isEmpty()) QTest::keyClicks(QApplication::focusWidget(), way.typed);

@@ -104,7 +104,8 @@ void QueueChooser::offerFilter() {
 bool QueueChooser::eventFilter(QObject* /*watched*/, QEvent* event) {
   if (event->type() != QEvent::KeyPress || !m_combo->isEditable()) return false;
   QAbstractItemView* list = m_combo->completer()->popup();
-  const int key = static_cast<QKeyEvent*>(event)->key();
+  const auto& press = *static_cast<QKeyEvent*>(event);
+  const int key = press.key();
   if (key == Qt::Key_Escape && (isPending() || list->isVisible())) {
     list->hide();
     setCurrent(m_current);
@@ -116,7 +117,9 @@ bool QueueChooser::eventFilter(QObject* /*watched*/, QEvent* event) {
     confirmText();
     return QCoreApplication::sendEvent(m_combo, event);
   }
-  if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+  // The letter of a button that is dimmed, as Print is until the text is confirmed, is no part of a name.
+  const bool isLetter = press.modifiers() == Qt::AltModifier && !press.text().isEmpty();
+  if (key != Qt::Key_Return && key != Qt::Key_Enter && !isLetter) return false;
   list->hide();
   confirmText();
   return true;
