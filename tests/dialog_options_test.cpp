@@ -100,9 +100,9 @@ TEST_F(DialogPrint, AnOptionGoesByItsNameOnTheQueue) {
   description.replace("*ColorModel Gray", "*ColorModel RGB/Color: \"\"\n*ColorModel Gray");
   m_folder.write(u"more.ppd"_s, description.replace(fixed, moreChoices));
   struct Given {
-    const char* ppd;
-    const char* options;
-    const char* travels;
+    const char* ppd = nullptr;
+    const char* options = "";
+    const char* travels = "";
     const char* refused = "";
   };
   const Given given[] = {
@@ -152,11 +152,11 @@ TEST_F(DialogPrint, AnOptionIsOneChoiceWhereverItComesFrom) {
   startPrinter();
   changePpd(u"Office_MFP"_s, "*VariablePaperSize: False", moreChoices);
   struct Choice {
-    const char* kept;
-    const char* given;
-    int chosen;  // the row of the paper that is chosen in the dialog, -1 for none
-    const char* shown;
-    const char* travels;  // of these options alone
+    const char* kept = "";
+    const char* given = "";
+    int chosen = -1;  // the row of the paper that is chosen in the dialog, -1 for none
+    const char* shown = "";
+    const char* travels = "";  // of these options alone
     const char* said = "";
   };
   const Choice choices[] = {

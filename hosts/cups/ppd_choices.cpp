@@ -46,7 +46,7 @@ QString choiceOfSize(ppd_file_t& ppd, const char* name, double width, double len
       choicesOf(ppd, pageSize).contains(QLatin1String(name)))
     return QLatin1String(name);
   for (const ppd_size_t& size : std::span(ppd.sizes, static_cast<std::size_t>(ppd.num_sizes))) {
-    const QString choice = QString::fromUtf8(size.name);
+    QString choice = QString::fromUtf8(size.name);
     if (isAbout(size.width, width) && isAbout(size.length, length) &&
         choicesOf(ppd, pageSize).contains(choice))
       return choice;

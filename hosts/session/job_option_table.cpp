@@ -13,7 +13,7 @@ namespace {
 
 // One option: its name in PPDs, others there, and those of the standard; the first that is given counts.
 struct Row {
-  const char* option;
+  const char* option = "";
   std::array<const char*, 3> others{};
 };
 
@@ -111,11 +111,11 @@ QString choiceOf(ppd_file_t& ppd, const QString& option, const QString& value) {
   };
   if (choices.contains(value)) return value;
   if (option == u"Resolution") return find(value, bothWays);
-  if (const QString choice = find(value, plain); !choice.isNull()) return choice;
+  if (QString choice = find(value, plain); !choice.isNull()) return choice;
   for (const Value& each : values) {
     if (option != QLatin1String(each.option) || !isSame(value, each.standard)) continue;
     for (const QString& name : QString::fromLatin1(each.choices).split(u' ')) {
-      if (const QString choice = find(name, plain); !choice.isNull()) return choice;
+      if (QString choice = find(name, plain); !choice.isNull()) return choice;
     }
   }
   return hasCustomChoice(ppd, option) && value.startsWith(u"Custom.") ? value : QString();
