@@ -9,7 +9,7 @@
 #include <QtCore/QUrl>
 
 #include "platform/environment.h"
-#include "platform/file_lock.h"
+#include "platform/folder_lock.h"
 #include "platform/private_file.h"
 
 namespace kesto {
@@ -112,16 +112,12 @@ QString JsonUserDefaults::pathForName(const QString& name) const {
   return m_directory + u'/' + QString::fromLatin1(encoded) + extension;
 }
 
-Outcome JsonUserDefaults::lock(FileLock* lock, const QString& path) const {
-  return lock->take(pathBeside(path, QStringLiteral(".lock")), m_limit);
-}
-
 Domain JsonUserDefaults::persistentDomainForName(const QString& name) {
   const QString path = pathForName(name);
   const Reading reading = readDomain(path);
   if (!reading.isDamaged) return reading.domain;
-  FileLock held;
-  if (const Outcome locked = lock(&held, path); !locked)
+  FolderLock held;
+  if (const Outcome locked = held.take(m_directory, m_limit); !locked)
     return {.available = false, .values = {}, .reason = locked.reason()};
   return readOrKeepAside(path);
 }
@@ -137,8 +133,8 @@ Outcome JsonUserDefaults::changeFile(const QString& path, const DomainChange& ch
   if (!makePrivateFolder(m_directory)) {
     return Outcome::failed(QStringLiteral("the folder %1 cannot be made private").arg(m_directory));
   }
-  FileLock held;
-  if (Outcome locked = lock(&held, path); !locked) return locked;
+  FolderLock held;
+  if (Outcome locked = held.take(m_directory, m_limit); !locked) return locked;
   if (Outcome changed = changedBytes(readOrKeepAside(path), change, &bytes); !changed) return changed;
   return writePrivateFile(path, bytes);
 }

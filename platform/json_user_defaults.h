@@ -7,13 +7,11 @@
 
 namespace kesto {
 
-class FileLock;
-
 /// Most bytes of a domain's file. A larger one is neither read nor written.
 inline constexpr qsizetype largestDomain = qsizetype{16} * 1024 * 1024;
 
 /// One file `<domain name>.json` per domain in `directory`: mode 0600 in a folder of mode 0700, written whole
-/// to a temporary file, synced and renamed, under a lock on `<file>.lock`. Characters of the name other than
+/// to a temporary file, synced and renamed, under a lock on the directory. Characters of the name other than
 /// ASCII letters, digits, ".", "_" and "-" are percent-encoded, and a file name beyond 255 bytes is cut and
 /// ends with a digest. A file that does not hold a JSON object is renamed aside and counts as missing; an
 /// empty file counts as missing, too, and is replaced. A change that fails is logged.
@@ -30,7 +28,6 @@ class JsonUserDefaults : public UserDefaults {
   Outcome changePersistentDomain(const QString& name, const DomainChange& change) override;
 
  private:
-  Outcome lock(FileLock* lock, const QString& path) const;
   Outcome changeFile(const QString& path, const DomainChange& change);
   QString pathForName(const QString& name) const;
 

@@ -7,7 +7,7 @@
 #include <QtCore/QSet>
 #include <QtCore/QTemporaryDir>
 
-#include "platform/file_lock.h"
+#include "platform/folder_lock.h"
 #include "platform/json_user_defaults.h"
 #include "support/printing.h"
 #include "support/test_platform.h"
@@ -24,11 +24,9 @@ const QJsonObject values{{u"a"_s, 1}, {u"b"_s, QJsonObject{{u"c"_s, true}}}};
 class JsonUserDefaultsTest : public testing::Test {
  protected:
   QString path(const QString& name) const { return m_folder.filePath(name); }
-  // Without the locks, which stay.
   QSet<QString> files() const {
     const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden);
-    QSet<QString> found(names.begin(), names.end());
-    return found.removeIf([](const QString& name) { return name.endsWith(u".lock"_s); }), found;
+    return {names.begin(), names.end()};
   }
   static void write(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).path());
@@ -59,7 +57,6 @@ TEST_F(JsonUserDefaultsTest, WrittenPrivatelyAndReadByAnother) {
   EXPECT_EQ(JsonUserDefaults(folder).persistentDomainForName(domain).values, values);
   EXPECT_EQ(modeOf(folder), 0700U);
   EXPECT_EQ(modeOf(file), 0600U);
-  EXPECT_EQ(modeOf(file + u".lock"_s), 0600U);
   EXPECT_EQ(files(), QSet{domain + u".json"_s}) << "a temporary file is left";
   ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0755), 0);
   ASSERT_TRUE(put(values, domain));
@@ -121,8 +118,8 @@ TEST_F(JsonUserDefaultsTest, NamesTooLongForAFileEndInADigest) {
 
 TEST_F(JsonUserDefaultsTest, ALockThatIsNotFreeIsAnError) {
   ASSERT_TRUE(put(values, domain));
-  FileLock lock;
-  ASSERT_TRUE(lock.take(file + u".lock"_s, {}));
+  FolderLock lock;
+  ASSERT_TRUE(lock.take(folder, {}));
   JsonUserDefaults impatient(folder, std::chrono::milliseconds(20));
   EXPECT_TRUE(store(std::move(impatient), values, domain)) << "there is nothing to change";
   const ExpectedWarning warning("not kept");

@@ -1,4 +1,4 @@
-#include "platform/file_lock.h"
+#include "platform/folder_lock.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -17,13 +17,12 @@ constexpr unsigned long pause = 5;
 
 }  // namespace
 
-FileLock::~FileLock() {
+FolderLock::~FolderLock() {
   if (m_descriptor >= 0) ::close(m_descriptor);
 }
 
-Outcome FileLock::take(const QString& path, std::chrono::milliseconds limit) {
-  constexpr int flags = O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC;
-  m_descriptor = ::open(QFile::encodeName(path).constData(), flags, 0600);
+Outcome FolderLock::take(const QString& path, std::chrono::milliseconds limit) {
+  m_descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (m_descriptor < 0) return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
   const QDeadlineTimer end(limit);
   while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
