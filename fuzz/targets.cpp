@@ -18,9 +18,12 @@ struct Row {
 };
 
 constexpr std::array targets{
-    Row{"answer", runAnswer},     Row{"layout", runLayout},           Row{"ppd", runPpd},
-    Row{"response", runResponse}, Row{"preferences", runPreferences}, Row{"script", runScript},
-    Row{"settings", runSettings}, Row{"ticket", runTicket},           Row{"values", runValues},
+    Row{"answer", runAnswer},           Row{"head", runHead},
+    Row{"layout", runLayout},           Row{"ppd", runPpd},
+    Row{"preferences", runPreferences}, Row{"reply", runReply},
+    Row{"response", runResponse},       Row{"script", runScript},
+    Row{"settings", runSettings},       Row{"ticket", runTicket},
+    Row{"values", runValues},
 };
 
 const Row* chosen = nullptr;

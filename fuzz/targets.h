@@ -15,9 +15,11 @@ inline void require(bool holds, const char* rule) {
 }
 
 void runAnswer(const QByteArray& input);       ///< A printer's answer into the folder list and the pop-up.
+void runHead(const QByteArray& input);         ///< What a print server answers, through libcups's HTTP.
 void runLayout(const QByteArray& input);       ///< A form into the loader, then every control is used.
 void runPpd(const QByteArray& input);          ///< A PPD's attributes and a device URI into the facts.
 void runPreferences(const QByteArray& input);  ///< A preference file into construction, restore and save.
+void runReply(const QByteArray& input);        ///< A print server's reply in IPP.
 void runResponse(const QByteArray& input);     ///< An HTTP response, whole and in pieces.
 void runScript(const QByteArray& input);       ///< The commands of kesto-panel.
 void runSettings(const QByteArray& input);     ///< Print settings into the reader, then the writer.

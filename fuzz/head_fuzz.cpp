@@ -1,0 +1,88 @@
+// The input is what a print server sends for a request before it closes the connection: head and body of
+// HTTP.
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <array>
+#include <mutex>
+#include <thread>
+
+#include "fuzz/targets.h"
+#include "hosts/cups/print_server.h"
+
+namespace kesto::fuzz {
+namespace {
+
+constexpr qsizetype largestBody = 10'000;
+
+// Answers every connection with the same bytes. It lives as long as the program.
+class Server {
+ public:
+  Server() : m_socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+    const QByteArray path = QFile::encodeName(this->path());
+    require(path.size() < static_cast<qsizetype>(sizeof address.sun_path), "a socket's path is short");
+    path.toStdString().copy(address.sun_path, sizeof address.sun_path - 1);
+    require(::bind(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
+                ::listen(m_socket, SOMAXCONN) == 0,
+            "the server listens");
+    std::thread([this] { serve(); }).detach();
+  }
+  QString path() const { return m_folder.filePath(QStringLiteral("s")); }
+  void answer(const QByteArray& bytes) {
+    const std::lock_guard lock(m_mutex);
+    m_bytes = bytes;
+  }
+
+ private:
+  void serve() {
+    for (;;) {
+      const int client = ::accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
+      if (client < 0) continue;
+      std::array<char, 4096> request{};
+      // Nothing is said before something was asked.
+      bool isOpen = ::recv(client, request.data(), request.size(), 0) > 0;
+      QByteArray bytes;
+      {
+        const std::lock_guard lock(m_mutex);
+        bytes = m_bytes;
+      }
+      while (isOpen && !bytes.isEmpty()) {
+        const ssize_t count =
+            ::send(client, bytes.constData(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL);
+        isOpen = count > 0;
+        if (isOpen) bytes.remove(0, count);
+      }
+      ::shutdown(client, SHUT_WR);
+      while (isOpen && ::recv(client, request.data(), request.size(), 0) > 0) {
+      }
+      ::close(client);
+    }
+  }
+
+  QTemporaryDir m_folder;
+  int m_socket;
+  std::mutex m_mutex;
+  QByteArray m_bytes;
+};
+
+}  // namespace
+
+void runHead(const QByteArray& input) {
+  static auto* server = new Server;  // its thread goes with the program
+  server->answer(input);
+  std::unique_ptr<PrintServer> connection;
+  require(bool(PrintServer::connect(server->path(), std::chrono::seconds(2), &connection)),
+          "there is a connection");
+  QByteArray body;
+  const bool isFetched = bool(connection->fetch("/printers/Office.ppd", largestBody, &body));
+  require(!isFetched || body.size() <= largestBody, "a body is within its limit");
+  std::vector<QueueSummary> queues;
+  const bool isListed = bool(connection->listQueues(&queues));
+  require(isListed || queues.empty(), "a failure lists no queue");
+}
+
+}  // namespace kesto::fuzz
