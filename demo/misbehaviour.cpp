@@ -7,6 +7,9 @@ namespace {
 
 constexpr int manyFolders = 100'000;
 constexpr int manyLevels = 1'000'000;
+constexpr int manyAttributes = 80'000;
+constexpr int manyReferences = 100'000;
+constexpr int longEntity = 4000;
 
 // The list, with a document type and the name of a further folder, in bytes as they are.
 QByteArray listWith(const DemoFolders& folders, const QByteArray& documentType, const QByteArray& name) {
@@ -32,6 +35,18 @@ QByteArray externalEntity(const DemoFolders& folders) {
 QByteArray deepNesting(const DemoFolders& folders) {
   return listWith(folders, "",
                   QByteArray("<n>").repeated(manyLevels) + QByteArray("</n>").repeated(manyLevels));
+}
+
+QByteArray oneElementOfManyAttributes(const DemoFolders& folders) {
+  QByteArray element = "<n";
+  for (int i = 0; i < manyAttributes; ++i)
+    element += " a" + QByteArray::number(i) + "=\"\"";
+  return listWith(folders, "", element + "/>");
+}
+
+QByteArray manyReferencesToOneEntity(const DemoFolders& folders) {
+  return listWith(folders, "<!DOCTYPE many [<!ENTITY e \"" + QByteArray(longEntity, 'e') + "\">]>\n",
+                  QByteArray("&e;").repeated(manyReferences));
 }
 
 QByteArray hundredThousandFolders(const DemoFolders& /*folders*/) {
@@ -76,6 +91,11 @@ std::span<const Misbehaviour> misbehaviours() {
       Misbehaviour{"external-entity", "a folder's name is the content of a file on the reader's machine",
                    externalEntity},
       Misbehaviour{"deep-nesting", "a million elements stand one within the other", deepNesting},
+      Misbehaviour{"many-attributes", "an element has eighty thousand attributes",
+                   oneElementOfManyAttributes},
+      Misbehaviour{"many-references",
+                   "a name refers a hundred thousand times to an entity of four thousand letters",
+                   manyReferencesToOneEntity},
       Misbehaviour{"many-folders", "the list holds a hundred thousand folders", hundredThousandFolders},
       Misbehaviour{"endless", "the body never ends", listWithoutEnd, Delivery::Endless},
       Misbehaviour{"trickle", "the answer comes at one byte a second", listOf, Delivery::Trickle},

@@ -96,12 +96,14 @@ INSTANTIATE_TEST_SUITE_P(
     , FolderMisbehaviour,
     testing::Values(Case{"entity-bomb", false, "kept"},
                     Case{"external-entity", false, listOfNow},  // without the one named so
-                    Case{"deep-nesting", false, "kept"}, Case{"many-folders", false, "100000 Folder 100000"},
-                    Case{"endless", true, "kept"}, Case{"reset", true, "kept"},
-                    Case{"redirect", false, "kept"}, Case{"invalid-utf8", false, "kept"},
-                    Case{"nul-in-name", false, "kept"}, Case{"close", true, "kept"},
-                    Case{"error-status", false, listOfNow}, Case{"failed-result", false, ""},
-                    Case{"not-xml", false, "kept"}, Case{"empty", false, "kept"}),
+                    Case{"deep-nesting", false, "kept"}, Case{"many-attributes", false, "kept"},
+                    Case{"many-references", false, "kept"},
+                    Case{"many-folders", false, "100000 Folder 100000"}, Case{"endless", true, "kept"},
+                    Case{"reset", true, "kept"}, Case{"redirect", false, "kept"},
+                    Case{"invalid-utf8", false, "kept"}, Case{"nul-in-name", false, "kept"},
+                    Case{"close", true, "kept"}, Case{"error-status", false, listOfNow},
+                    Case{"failed-result", false, ""}, Case{"not-xml", false, "kept"},
+                    Case{"empty", false, "kept"}),
     [](const auto& info) { return QString::fromLatin1(info.param.misbehaviour).remove(u'-').toStdString(); });
 
 TEST(DemoFolders, AreGivenToTheirOwnRequestAlone) {
