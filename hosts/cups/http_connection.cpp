@@ -30,6 +30,7 @@ bool isRedirect(http_status_t status) {
 
 void CloseHttp::operator()(http_t* http) const {
   shutDown(http);
+  httpFlush(http);  // Else libcups keeps what it has unpacked of a reply that breaks off.
   httpClose(http);
 }
 
