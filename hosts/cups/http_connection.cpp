@@ -22,6 +22,13 @@ void shutDown(http_t* http) {
   if (httpGetFd(http) >= 0) ::shutdown(httpGetFd(http), SHUT_RDWR);
 }
 
+// libcups takes any number for a status, those with it that its type cannot hold.
+http_status_t nextStatus(http_t* http) {
+  const int status = httpUpdate(http);
+  const bool isOfHttp = status >= HTTP_STATUS_CONTINUE && status < 600;
+  return isOfHttp ? static_cast<http_status_t>(status) : HTTP_STATUS_ERROR;
+}
+
 bool isRedirect(http_status_t status) {
   return status >= HTTP_STATUS_MULTIPLE_CHOICES && status < HTTP_STATUS_BAD_REQUEST;
 }
@@ -125,7 +132,7 @@ Outcome HttpConnection::attempt(const HttpRequest& request, QByteArray* reply) {
     watch.restart(m_limit);
     m_waitBegan = Clock::now();
     do
-      m_status = httpUpdate(m_http.get());
+      m_status = nextStatus(m_http.get());
     while (m_status == HTTP_STATUS_CONTINUE);
   }
   // libcups takes what came before the cut for all of the head, and below for all of the reply.
@@ -165,7 +172,7 @@ Outcome HttpConnection::sendDocument(const HttpRequest& request, Watch& watch) {
   http_t* http = m_http.get();
   if (httpFlushWrite(http) < 0) return noAnswer(watch);
   watch.restart(m_limit + leave);
-  if (httpWait(http, static_cast<int>(leave.count())) != 0) m_status = httpUpdate(http);
+  if (httpWait(http, static_cast<int>(leave.count())) != 0) m_status = nextStatus(http);
   if (m_status != HTTP_STATUS_CONTINUE) return Outcome::done();
   watch.restart({});
   m_hasBegunDocument = true;
@@ -184,7 +191,7 @@ Outcome HttpConnection::sendPart(const char* bytes, qsizetype count, Watch& watc
   m_waitBegan = Clock::now();
   if (httpCheck(http) != 0) {
     watch.restart(m_limit);
-    m_status = httpUpdate(http);
+    m_status = nextStatus(http);
     watch.restart({});
     if (m_status != HTTP_STATUS_CONTINUE)
       return Outcome::failed(Faults::tr("the print server %1 does not want the whole document").arg(m_name));

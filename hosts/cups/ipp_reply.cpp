@@ -11,6 +11,7 @@ namespace kesto {
 namespace {
 
 constexpr qsizetype headerLength = 8;  // version, status, number of the request
+constexpr int highestStatus = 0x05;    // the first byte of the highest statuses there are, of server errors
 constexpr int lastDelimiter = 0x0F;    // tags up to here begin a group or end the message
 
 // Reads on through the bytes; every step fails beyond their end.
@@ -79,6 +80,8 @@ void FreeIpp::operator()(ipp_t* ipp) const {
 
 Outcome checkReply(const QByteArray& bytes) {
   if (bytes.size() > longestReply) return tooLarge();
+  // libcups has a type for statuses that does not hold every number.
+  if (bytes.size() < headerLength || static_cast<uchar>(bytes[2]) > highestStatus) return unreadable();
   Cursor cursor(bytes);
   int depth = 0;
   int values = 0;
