@@ -228,9 +228,9 @@ TEST_F(SettingsReaderTest, HostileValues) {
         fresh.state.prefHoldButtonFlag = mask;
         fresh.reader.getNonPPDSettingsFromPrintSettings();
         for (const QString& name : heldNames) {
-          const TextField& text = field(*fresh.view, name);
-          EXPECT_FALSE(button(*fresh.view, name + u"Button"_s).state() == 1 && isAvailable(text)) << name;
-          EXPECT_TRUE(text.stringValue().size() <= 511 || text.stringValue() == value) << name;
+          const TextField* text = &field(*fresh.view, name);
+          EXPECT_FALSE(button(*fresh.view, name + u"Button"_s).state() == 1 && isAvailable(*text)) << name;
+          EXPECT_TRUE(text->stringValue().size() <= 511 || text->stringValue() == value) << name;
         }
       }
     }
