@@ -23,11 +23,13 @@ void FolderQuery::fetch(const QString& printerAddress) {
   const QString endpoint = QStringLiteral("http://") + printerAddress + QStringLiteral("/kesto-mfp-srv");
   const auto client = KestoPrintPdeVq250nJCSOAPClient::initWithServerName(endpoint, *m_state.platform, this);
   if (client) {
+    m_lastFetch = FolderFetch::Failed;
     const std::shared_ptr<bool> isAlive = m_isAlive;
     m_running = client.get();
     client->sendMessage(m_state.requestData.value_or(QByteArray()));
     if (!*isAlive) return;
     m_running = nullptr;
+    if (client->isAnswered()) m_lastFetch = client->isKept() ? FolderFetch::Listed : FolderFetch::NotKept;
   }
   showProgress(false);
 }
@@ -36,9 +38,11 @@ void FolderQuery::getFolderNameButtonProc(Control* /*sender*/) {
   if (m_state.outlets.getFolderNameButton == nullptr || m_running != nullptr) return;
   const std::shared_ptr<bool> isAlive = m_isAlive;
   const QString printerAddress = textOfField(m_state.outlets.printersAddressEditText);
+  m_lastFetch = FolderFetch::None;
   if (!printerAddress.isEmpty()) fetch(printerAddress);
   if (!*isAlive) return;
-  parseXML(answerFilePath(*m_state.platform));
+  const bool isRead = parseXML(answerFilePath(*m_state.platform));
+  if (m_lastFetch == FolderFetch::Listed && !isRead) m_lastFetch = FolderFetch::NotRead;
   m_store.SaveFolderPreference();
   m_folderPopup.makeFolderPopup();
 }

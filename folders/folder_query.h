@@ -7,6 +7,7 @@
 #include "folders/folder_list_store.h"
 #include "folders/folder_popup.h"
 #include "folders/soap_client.h"
+#include "platform/panel.h"
 
 namespace kesto {
 
@@ -25,6 +26,8 @@ class FolderQuery : public SoapContext {
   /// The button's action. Whatever becomes of the exchange, the answer file, old or new, is read, stored and
   /// offered.
   void getFolderNameButtonProc(Control* sender);
+  /// What became of the last exchange.
+  FolderFetch lastFetch() const { return m_lastFetch; }
   /// Reads an answer file into the folder list. False, with the list unchanged, when it is missing or not
   /// well-formed; false, with an empty list, when it holds no list.
   bool parseXML(const QString& path);
@@ -39,6 +42,7 @@ class FolderQuery : public SoapContext {
   PanelState& m_state;
   FolderPopup& m_folderPopup;
   FolderListStore& m_store;
+  FolderFetch m_lastFetch = FolderFetch::None;
   KestoPrintPdeVq250nJCSOAPClient* m_running = nullptr;            // while an exchange waits
   std::shared_ptr<bool> m_isAlive = std::make_shared<bool>(true);  // outlives this in a waiting exchange
 };

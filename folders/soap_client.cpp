@@ -9,6 +9,7 @@
 #include <QtNetwork/QNetworkProxy>
 #include <QtNetwork/QTcpSocket>
 
+#include "folders/host_lookup.h"
 #include "panel/trace.h"
 #include "platform/platform.h"
 #include "platform/private_file.h"
@@ -33,6 +34,8 @@ class SecondDescriptor {
     m_descriptor = ::fcntl(static_cast<int>(socket.socketDescriptor()), F_DUPFD_CLOEXEC, 0);
   }
 
+  bool isTaken() const { return m_descriptor >= 0; }
+
   // After an orderly end of the peer's alone, this side could still send. Also true when nobody can know.
   bool wasReset() const {
     pollfd state{.fd = m_descriptor, .events = 0, .revents = 0};
@@ -41,6 +44,42 @@ class SecondDescriptor {
 
  private:
   int m_descriptor = -1;
+};
+
+// Connects to the first address of a host that takes the connection.
+class Connector : public QObject {
+ public:
+  explicit Connector(QTcpSocket& socket) : m_socket(socket) {}
+
+  // False when nothing can be tried at all. `onNoAddress` is called when the name is not known.
+  template <class OnNoAddress>
+  bool start(const Endpoint& url, OnNoAddress onNoAddress) {
+    m_port = url.port;
+    QHostAddress numeric;
+    if (numeric.setAddress(url.host)) {
+      m_socket.connectToHost(numeric, m_port);
+      return true;
+    }
+    connect(&m_lookup, &HostLookup::found, this, [this, onNoAddress](const QList<QHostAddress>& addresses) {
+      m_addresses = addresses;
+      if (!goOn()) onNoAddress();
+    });
+    return m_lookup.start(url.host);
+  }
+
+  // Tries the next address; false when there is none. Not before the socket is done with the last one.
+  bool goOn() {
+    if (m_addresses.isEmpty()) return false;
+    QTimer::singleShot(
+        0, this, [this, address = m_addresses.takeFirst()] { m_socket.connectToHost(address, m_port); });
+    return true;
+  }
+
+ private:
+  QTcpSocket& m_socket;
+  quint16 m_port = 0;
+  HostLookup m_lookup;
+  QList<QHostAddress> m_addresses;  // still to be tried
 };
 
 }  // namespace
@@ -84,8 +123,11 @@ void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
     socket.write(request);
   });
   connect(&socket, &QTcpSocket::readyRead, this, [&] { connectionDidReceiveData(socket); });
-  connect(&socket, &QTcpSocket::errorOccurred, this, [&] { connectionDidEnd(socket, second.wasReset()); });
-  socket.connectToHost(m_url.host, m_url.port);
+  Connector connector(socket);
+  connect(&socket, &QTcpSocket::errorOccurred, this, [&] {
+    if (second.isTaken() || !connector.goOn()) connectionDidEnd(socket, second.wasReset());
+  });
+  if (!connector.start(m_url, [this] { connectionDidFailWithError(); })) connectionFail();
   QTimer timer;
   timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);  // any other may come half a second early
@@ -100,8 +142,8 @@ void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   // Only now: who waited may have gone in the very pass of the event loop in which the exchange ended.
   if (m_finished == Finished::Cancelled) return;
   if (m_finished == Finished::Answered) {
-    // Without the file there is nothing new to read; that is not reported.
-    (void)writePrivateFile(answerFilePath(m_platform), m_responseData.receivedData());
+    // Without the file there is nothing new to read; the context is not told.
+    m_isKept = bool(writePrivateFile(answerFilePath(m_platform), m_responseData.receivedData()));
   } else {
     m_context->recieveEndCallback();
   }
@@ -145,16 +187,19 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData(QTcpSocket& socke
 void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(QTcpSocket& socket, bool wasReset) {
   connectionDidReceiveData(socket);
   if (m_finished != Finished::Running) return;
-  if (socket.error() == QAbstractSocket::SocketResourceError) {
-    _PDELog(m_context->controller(), "Connection fail");
-    return cancel();
-  }
+  if (socket.error() == QAbstractSocket::SocketResourceError) return connectionFail();
   if (socket.error() == QAbstractSocket::RemoteHostClosedError && !wasReset) m_responseData.end();
   if (m_responseData.isWhole()) {
     connectionDidFinishLoading();
   } else {
     connectionDidFailWithError();
   }
+}
+
+// No connection could be made at all, which nobody is told.
+void KestoPrintPdeVq250nJCSOAPClient::connectionFail() {
+  _PDELog(m_context->controller(), "Connection fail");
+  cancel();
 }
 
 void KestoPrintPdeVq250nJCSOAPClient::connectionDidFinishLoading() {

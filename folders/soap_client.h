@@ -46,6 +46,9 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
 
   /// Posts `body` and returns when the exchange has ended. Meanwhile it runs the thread's event loop.
   void sendMessage(const QByteArray& body);
+  /// Whether the last exchange had a whole answer, and whether that is in the answer file.
+  bool isAnswered() const { return m_finished == Finished::Answered; }
+  bool isKept() const { return m_isKept; }
   /// Ends the exchange at once, without a word to the context, which is not used any more; also when the
   /// exchange has just ended otherwise and `sendMessage` has yet to return. What came is not kept.
   void cancel();
@@ -62,6 +65,7 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   void connectionDidReceiveResponse();
   void connectionDidReceiveData(QTcpSocket& socket);
   void connectionDidEnd(QTcpSocket& socket, bool wasReset);
+  void connectionFail();
   void connectionDidFinishLoading();
   void connectionDidFailWithError();
   void firedByTimer();
@@ -73,6 +77,7 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   SoapContext* m_context;
   std::chrono::milliseconds m_limit;
   Finished m_finished = Finished::Running;
+  bool m_isKept = false;
   HttpResponse m_responseData{answer_limits::bytes};
 };
 

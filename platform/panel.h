@@ -14,6 +14,15 @@ class Bundle;
 class HostCallback;
 class PanelView;
 
+/// What became of the last fetch of the printer's folders.
+enum class FolderFetch {
+  None,     ///< There was none, or the printer was not asked.
+  Failed,   ///< There was no answer; the user has seen an alert.
+  NotKept,  ///< The answer could not be written to the temporary directory.
+  NotRead,  ///< The answer is not a list of folders.
+  Listed,
+};
+
 /// A panel of a print dialog. The host owns it from the request on and calls it on one thread. The properties
 /// that a panel's own class adds to these are its facts, all read-only.
 class PrintDialogPanel : public QObject {
@@ -35,6 +44,8 @@ class PrintDialogPanel : public QObject {
   /// Whether the printer's model files documents. A model that does not shows and remembers the choice of a
   /// folder like any other, but no job carries it: hosts say so beside it.
   virtual bool filesDocuments() const = 0;
+  /// What became of the last fetch of folders, which the panel itself says only of one without an answer.
+  virtual FolderFetch lastFolderFetch() const = 0;
   /// The host is about to bring the panel to the front.
   virtual void willShow() = 0;
   /// Whether the host may hide the panel.

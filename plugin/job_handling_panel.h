@@ -51,6 +51,7 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   QString panelKind() override;
   QStringList supportedPPDOptionKeys() override;
   bool filesDocuments() const override { return CheckHardDisk(); }
+  FolderFetch lastFolderFetch() const override { return m_folderQuery.lastFetch(); }
   void willShow() override;
   bool shouldHide() override;
   bool shouldShowHelp() override;

@@ -525,6 +525,20 @@ TEST_F(DialogPrint, SaysWhyNobodyIsAskedForFolders) {
   EXPECT_EQ(text(u"message"_s), u""_s);
 }
 
+TEST_F(DialogPrint, SaysWhenFetchedFoldersCannotBeKept) {
+  startPrinter();
+  const QByteArray temporary = qgetenv("TMPDIR");
+  qputenv("TMPDIR", "/nonexistent");
+  openReady();
+  widget<QLineEdit>(u"printersAddressEditText"_s)->setText(m_printer->place(u"folders"_s));
+  click(u"getFolderNameButton"_s);
+  qputenv("TMPDIR", temporary);
+  EXPECT_TRUE(text(u"message"_s).contains(u"cannot be written to the temporary folder"_s))
+      << text(u"message"_s);
+  click(u"getFolderNameButton"_s);
+  EXPECT_EQ(text(u"message"_s), u""_s) << "there is room again";
+}
+
 TEST_F(DialogPrint, SaysThatNothingIsFiled) {
   startPrinter();
   openReady();

@@ -61,16 +61,21 @@ TEST(FolderQuery, WhatTheUserSeesAndWhatTheListHoldsAfterwards) {
     int alerts;
     QString list;       // after an earlier fetch of "Old"
     QString freshList;  // without any
+    FolderFetch result;
   };
   const QList<Row> rows{
-      {"a list", httpAnswer(folders({"Art", "Maps*"})), End::Close, 0, u"Art|Maps"_s, u"Art|Maps"_s},
-      {"transport error", "", End::Reset, 1, u"Old"_s, u""_s},
-      {"body cut short", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\nx", End::Close, 1, u"Old"_s, u""_s},
-      {"not well-formed", httpAnswer("junk"), End::Close, 0, u"Old"_s, u""_s},
-      {"no children at the response", httpAnswer(envelope("")), End::Close, 0, u""_s, u""_s},
-      {"no files", httpAnswer(envelope("<result-code>ok</result-code>")), End::Close, 0, u""_s, u""_s},
-      {"another result", httpAnswer(failed), End::Close, 0, u""_s, u""_s},
-      {"no folders", httpAnswer(folders({})), End::Close, 0, u""_s, u""_s},
+      {"a list", httpAnswer(folders({"Art", "Maps*"})), End::Close, 0, u"Art|Maps"_s, u"Art|Maps"_s,
+       FolderFetch::Listed},
+      {"transport error", "", End::Reset, 1, u"Old"_s, u""_s, FolderFetch::Failed},
+      {"body cut short", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\nx", End::Close, 1, u"Old"_s, u""_s,
+       FolderFetch::Failed},
+      {"not well-formed", httpAnswer("junk"), End::Close, 0, u"Old"_s, u""_s, FolderFetch::NotRead},
+      {"no children at the response", httpAnswer(envelope("")), End::Close, 0, u""_s, u""_s,
+       FolderFetch::NotRead},
+      {"no files", httpAnswer(envelope("<result-code>ok</result-code>")), End::Close, 0, u""_s, u""_s,
+       FolderFetch::NotRead},
+      {"another result", httpAnswer(failed), End::Close, 0, u""_s, u""_s, FolderFetch::NotRead},
+      {"no folders", httpAnswer(folders({})), End::Close, 0, u""_s, u""_s, FolderFetch::Listed},
   };
   for (const Row& row : rows) {
     for (const bool isFirst : {true, false}) {
@@ -86,6 +91,7 @@ TEST(FolderQuery, WhatTheUserSeesAndWhatTheListHoldsAfterwards) {
       EXPECT_EQ(query.platform.alerts, std::vector<QStringList>(static_cast<std::size_t>(row.alerts), alert));
       const QString expected = isFirst ? row.freshList : row.list;
       EXPECT_EQ(query.list(), expected);
+      EXPECT_EQ(query.panel->controller->lastFolderFetch(), row.result);
       // As it then stands, the list is stored with the address and offered.
       EXPECT_EQ(query.record().value(u"address"_s).toString(), server.address());
       EXPECT_EQ(Query::namesOf(query.record().value(u"files"_s).toArray().toVariantList()), expected);
@@ -104,8 +110,19 @@ TEST(FolderQuery, WithoutAnExchangeTheOlderAnswerIsRead) {
     query.ask(QString::fromLatin1(address));
     EXPECT_EQ(query.list(), u"Old"_s);
     EXPECT_TRUE(query.platform.alerts.empty());
+    EXPECT_EQ(query.panel->controller->lastFolderFetch(), FolderFetch::None);
     EXPECT_EQ(query.record().value(u"address"_s).toString(), QString::fromLatin1(address));
   }
+}
+
+TEST(FolderQuery, AnAnswerThatCannotBeKeptIsKnown) {
+  FolderServer server;
+  Query query(oldAnswer);
+  query.ask(QString());
+  query.platform.temporary = u"/nonexistent/"_s;
+  query.ask(server.address());
+  EXPECT_EQ(query.panel->controller->lastFolderFetch(), FolderFetch::NotKept);
+  EXPECT_EQ(query.list(), u"Old"_s);
 }
 
 TEST(FolderQuery, AFailureIsToldInTheUsersLanguage) {

@@ -1,3 +1,5 @@
+#include <dlfcn.h>
+#include <netdb.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -10,6 +12,18 @@
 #include "folders/soap_client.h"
 #include "support/folder_server.h"
 #include "support/test_platform.h"
+
+// Two names stand for what no test can rely on: a name server that never answers, and a host with an address
+// that nobody listens at before one where somebody does.
+extern "C" int getaddrinfo(const char* node, const char* service, const addrinfo* hints, addrinfo** list) {
+  static const auto system = reinterpret_cast<decltype(&::getaddrinfo)>(::dlsym(RTLD_NEXT, "getaddrinfo"));
+  const std::string_view name(node == nullptr ? "" : node);
+  while (name == "silent.test")
+    ::pause();
+  if (name != "two.test") return system(node, service, hints, list);
+  const int status = system("127.0.0.9", service, hints, list);
+  return status != 0 ? status : system("127.0.0.1", service, hints, &(*list)->ai_next);
+}
 
 namespace kesto::test {
 namespace {
@@ -65,6 +79,26 @@ TEST(SoapClient, SendsTheRequestAsItIs) {
     EXPECT_EQ(head.count("Content-"), 2);
     EXPECT_EQ(server.requests[0].mid(head.size() + 4), body);
   }
+}
+
+TEST(SoapClient, TriesTheAddressesOfAName) {
+  FolderServer server;
+  Exchange exchange;
+  ASSERT_TRUE(exchange.run(server.url().replace(u"127.0.0.1"_s, u"two.test"_s)));
+  EXPECT_TRUE(exchange.answer().contains("Maps"));
+  EXPECT_EQ(exchange.failures, 0);
+  EXPECT_TRUE(server.requests[0].contains("Host: two.test:"));
+}
+
+TEST(SoapClient, ASilentNameServerHoldsNobody) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto ask = [] {
+    ::alarm(60);  // in place of a process that never ends
+    Exchange exchange;
+    exchange.run(u"http://silent.test/"_s, 50ms);
+    std::exit(exchange.failures);
+  };
+  EXPECT_EXIT(ask(), testing::ExitedWithCode(1), "");
 }
 
 TEST(SoapClient, TheEventThatEndsTheExchangeDecides) {

@@ -205,6 +205,25 @@ TEST_F(PrintTest, ListsQueuesAndFolders) {
   EXPECT_EQ(unreached.code, 1);
   EXPECT_EQ(unreached.err, u"Could not retrieve Folder Names.\n"_s);
   EXPECT_EQ(unreached.out, QString()) << "the earlier list";
+
+  // An answer in the shared folder is another printer's, or another user's.
+  QFile(m_home.filePath(u"vwxyz.xml"_s)).remove();
+  QFile foreign(m_home.filePath(u"vwxyz.xml"_s));
+  ASSERT_TRUE(foreign.open(QIODevice::WriteOnly));
+  foreign.write("<e><b><r><files><f><name>Foreign</name></f></files></r></b></e>");
+  foreign.close();
+  EXPECT_EQ(lp(u"--folders --address 127.0.0.1:1"_s).code, 1);
+  const Domain kept = preferences().persistentDomainForName(u"kesto.mfp.Office_MFP"_s);
+  EXPECT_EQ(kept.values.value()[u"Job Handling"_s][u"files"_s][0][u"name"_s], u"Invoices"_s)
+      << "the queue has another's folders";
+  const auto unkept = process(command(folders));
+  QProcessEnvironment environment = unkept->processEnvironment();
+  environment.insert(u"TMPDIR"_s, u"/nonexistent"_s);
+  unkept->setProcessEnvironment(environment);
+  unkept->start();
+  EXPECT_EQ(finish(*unkept).err,
+            u"kesto-lp: the printer's answer cannot be written to the temporary folder; is there room on the "
+            "disk?\n"_s);
   expectRefused(u"--folders -d Plain"_s, 1, u"the queue Plain does not offer Job Handling"_s);
 }
 

@@ -228,7 +228,9 @@ void PrintDialog::showPanel() {
   m_panes->addTab(m_panelPane, m_session.panel()->panelName());
   m_panes->addTab(m_summary, tr("Summary"));
   connect(m_panelPane, &PanelPane::panelChanged, this, &PrintDialog::updateSummary);
-  connect(m_panelPane, &PanelPane::addressJudged, this, &PrintDialog::showMessage);
+  connect(m_panelPane, &PanelPane::addressJudged, this, [this](const QString& fault) {
+    showMessage(fault.isNull() ? m_session.outcomeOfFetch().reason() : fault);
+  });
   connect(m_summary, &SummaryPane::privacyAsked, this, [this] { m_client.checkPrivacy(m_wanted); });
   connect(&m_client, &QueueClient::privacyChecked, m_summary, &SummaryPane::showPrivacy);
   updateSummary();

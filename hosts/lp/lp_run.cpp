@@ -214,6 +214,13 @@ Outcome Job::finish() {
   return print(m_host.settings->all(), "=", m_options.json);
 }
 
+Outcome listFolders(PrintDialogPanel& panel, const Options& options) {
+  if (Outcome asked = fetchFolders(panel, options.address.value_or(QString())); !asked) return asked;
+  if (panel.lastFolderFetch() == FolderFetch::Failed) return Outcome::done();  // the alert has said it
+  if (Outcome fetched = outcomeOfFetch(panel); !fetched) return fetched;
+  return printFolders(panel, options.json);
+}
+
 ExitCode runJob(const Options& options, Entries entries, JobQueue& queue) {
   StandardErrorAlerts alerts(options.messages());
   std::shared_ptr<const Bundle> bundle;
@@ -224,9 +231,11 @@ ExitCode runJob(const Options& options, Entries entries, JobQueue& queue) {
   if (Outcome opened = job.open(*plugIn); !opened) return ended(options, opened);
   if (Outcome restored = job.restore(); !restored) return ended(options, restored);
   if (options.task == Task::ListFolders) {
-    const Outcome fetched = fetchFolders(job.panel(), options.address.value_or(QString()));
+    const Outcome listed = listFolders(job.panel(), options);
     if (alerts.wasShown) return ExitFailed;
-    return ended(options, fetched ? printFolders(job.panel(), options.json) : fetched);
+    if (const Outcome kept = platform.takeFault(); listed && !kept)
+      std::cerr << "kesto-lp: the folders are not remembered: " << kept.reason().toStdString() << '\n';
+    return ended(options, listed);
   }
   const Outcome entered = job.enter(entries);
   // The panel has them now, in their stored forms; an upload can take long.

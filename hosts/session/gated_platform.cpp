@@ -38,11 +38,8 @@ Outcome GatedPlatform::Gate::changePersistentDomain(const QString& name, const D
     lay(name, values);
     return change(values);
   });
-  if (changed) {
-    aside.erase(name);
-  } else {
-    lastFault = changed;
-  }
+  if (changed) aside.erase(name);
+  lastFault = changed;
   return changed;
 }
 
@@ -70,9 +67,18 @@ bool GatedPlatform::confirmJob(PrintDialogPanel& panel) {
 }
 
 Outcome GatedPlatform::rememberEntries(PrintDialogPanel& panel) {
-  m_gate.lastFault = Outcome::done();
+  (void)takeFault();
   panel.shouldPrint();
-  return m_gate.lastFault;
+  return takeFault();
+}
+
+QString GatedPlatform::temporaryDirectory() {
+  if (!m_answers || !m_answers->isValid()) {
+    const QString folder = SystemPlatform::temporaryDirectory();
+    m_answers = std::make_unique<QTemporaryDir>((folder.isNull() ? QStringLiteral("/tmp/") : folder) +
+                                                QStringLiteral("kesto-XXXXXX"));
+  }
+  return (m_answers->isValid() ? m_answers->path() : QStringLiteral("/nonexistent")) + u'/';
 }
 
 }  // namespace kesto

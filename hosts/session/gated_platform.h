@@ -1,7 +1,9 @@
 // A platform whose preferences can be kept from changing.
 #pragma once
 
+#include <QtCore/QTemporaryDir>
 #include <map>
+#include <memory>
 
 #include "platform/panel.h"
 #include "platform/system_platform.h"
@@ -28,6 +30,15 @@ class GatedPlatform : public SystemPlatform {
   /// passed.
   Outcome rememberEntries(PrintDialogPanel& panel);
 
+  /// Why the last change of the preferences, or a reading since then, failed; asked once.
+  Outcome takeFault() { return std::exchange(m_gate.lastFault, Outcome::done()); }
+
+  /// A folder of mode 0700 below the user's temporary directory, made when it is first asked for: no answer
+  /// of another printer, and none of another user's, can lie there. Without it, a path that leads nowhere.
+  QString temporaryDirectory() override;
+  /// Removes that folder; another queue's is another one.
+  void leaveQueue() { m_answers.reset(); }
+
   UserDefaults& userDefaults() override { return m_gate; }
 
  private:
@@ -45,6 +56,7 @@ class GatedPlatform : public SystemPlatform {
     std::map<QString, QJsonObject> aside;  // by domain, the top-level keys that were changed
     Outcome lastFault = Outcome::done();   // of reading and writing
   };
+  std::unique_ptr<QTemporaryDir> m_answers;
   Gate m_gate{SystemPlatform::userDefaults()};
 };
 

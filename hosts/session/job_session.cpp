@@ -1,5 +1,6 @@
 #include "hosts/session/job_session.h"
 
+#include "hosts/cups/faults.h"
 #include "hosts/cups/ppd_choices.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/text_field.h"
@@ -59,6 +60,7 @@ ppd_file_t* JobSession::ppd() const {
 void JobSession::release() {
   m_presets.reset();
   m_host.reset();
+  if (m_platform) m_platform->leaveQueue();
   m_queue.reset();
   m_kept = {};
 }
@@ -80,6 +82,13 @@ bool JobSession::confirm() {
 
 Outcome JobSession::remember() {
   return panel() == nullptr ? Outcome::done() : m_platform->rememberEntries(*panel());
+}
+
+Outcome JobSession::outcomeOfFetch() {
+  if (panel() == nullptr) return Outcome::done();
+  if (Outcome fetched = kesto::outcomeOfFetch(*panel()); !fetched) return fetched;
+  const Outcome kept = m_platform->takeFault();
+  return kept ? kept : Outcome::failed(Faults::tr("the folders cannot be remembered: %1").arg(kept.reason()));
 }
 
 QMap<QString, QString> JobSession::settings() const {

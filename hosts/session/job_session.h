@@ -44,6 +44,9 @@ class JobSession {
   bool confirm();
   /// The job has gone out: its entries become the user's for this queue. Fails when they cannot be kept.
   Outcome remember();
+  /// Why the folders that the panel has just fetched are not there, or not remembered; done when there is
+  /// nothing to say that the panel has not said.
+  Outcome outcomeOfFetch();
   /// The job's print settings, as they travel with it.
   QMap<QString, QString> settings() const;
 

@@ -39,6 +39,18 @@ QMap<QString, QString> summaryOf(PrintDialogPanel& panel) {
   return summary;
 }
 
+Outcome outcomeOfFetch(const PrintDialogPanel& panel) {
+  switch (panel.lastFolderFetch()) {
+    case FolderFetch::NotKept:
+      return Outcome::failed(Faults::tr(
+          "the printer's answer cannot be written to the temporary folder; is there room on the disk?"));
+    case FolderFetch::NotRead:
+      return Outcome::failed(Faults::tr("the printer's answer is not a list of folders"));
+    default:
+      return Outcome::done();
+  }
+}
+
 Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialogPlugIn** plugIn) {
   const QString directory = Bundle::find(QStringLiteral("JobHandling.pde"));
   if (directory.isNull()) {

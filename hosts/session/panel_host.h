@@ -53,6 +53,9 @@ class PanelHost : public HostCallback {
 /// none is used. The panel's controls must be made.
 QMap<QString, QString> summaryOf(PrintDialogPanel& panel);
 
+/// Why the panel's last fetch of folders brought no list; done also when the panel has said so itself.
+Outcome outcomeOfFetch(const PrintDialogPanel& panel);
+
 /// Finds and loads the bundle "JobHandling.pde". On failure the outcome says where it was looked for, or why
 /// it does not load.
 Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialogPlugIn** plugIn);

@@ -396,6 +396,18 @@
         <source>the print server&apos;s answer holds no job</source>
         <translation>die Antwort des Druckservers enthält keinen Auftrag</translation>
     </message>
+    <message>
+        <source>the folders cannot be remembered: %1</source>
+        <translation>die Ordner können nicht gemerkt werden: %1</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
+        <translation>die Antwort des Druckers lässt sich nicht in den temporären Ordner schreiben; ist auf dem Datenträger noch Platz?</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer is not a list of folders</source>
+        <translation>die Antwort des Druckers ist keine Ordnerliste</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

@@ -396,6 +396,18 @@
         <source>the print server&apos;s answer holds no job</source>
         <translation>la respuesta del servidor de impresión no contiene ningún trabajo</translation>
     </message>
+    <message>
+        <source>the folders cannot be remembered: %1</source>
+        <translation>no se pueden recordar las carpetas: %1</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
+        <translation>la respuesta de la impresora no se puede escribir en la carpeta temporal; ¿queda espacio en el disco?</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer is not a list of folders</source>
+        <translation>la respuesta de la impresora no es una lista de carpetas</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

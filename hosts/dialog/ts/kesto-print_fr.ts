@@ -396,6 +396,18 @@
         <source>the print server&apos;s answer holds no job</source>
         <translation>la réponse du serveur d’impression ne contient aucune tâche</translation>
     </message>
+    <message>
+        <source>the folders cannot be remembered: %1</source>
+        <translation>les dossiers ne peuvent pas être mémorisés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
+        <translation>la réponse de l’imprimante ne peut pas être écrite dans le dossier temporaire&#xa0;; reste-t-il de la place sur le disque&#xa0;?</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer is not a list of folders</source>
+        <translation>la réponse de l’imprimante n’est pas une liste de dossiers</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

@@ -395,6 +395,18 @@
         <source>the print server&apos;s answer holds no job</source>
         <translation>プリントサーバーの応答にジョブが含まれていません</translation>
     </message>
+    <message>
+        <source>the folders cannot be remembered: %1</source>
+        <translation>フォルダーを記憶できません: %1</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
+        <translation>プリンターの応答を一時フォルダーに書き込めません。ディスクに空きがありますか?</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer is not a list of folders</source>
+        <translation>プリンターの応答はフォルダーの一覧ではありません</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

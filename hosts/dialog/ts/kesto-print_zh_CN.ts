@@ -395,6 +395,18 @@
         <source>the print server&apos;s answer holds no job</source>
         <translation>打印服务器的应答中没有作业</translation>
     </message>
+    <message>
+        <source>the folders cannot be remembered: %1</source>
+        <translation>无法记住文件夹：%1</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
+        <translation>无法将打印机的应答写入临时文件夹；磁盘还有空间吗？</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s answer is not a list of folders</source>
+        <translation>打印机的应答不是文件夹列表</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

@@ -1,0 +1,78 @@
+#include "folders/host_lookup.h"
+
+#include <fcntl.h>
+#include <netdb.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QtCore/QSocketNotifier>
+#include <array>
+#include <atomic>
+#include <csignal>
+#include <string>
+#include <system_error>
+#include <thread>
+
+namespace kesto {
+
+struct HostLookup::Answer {
+  Answer() = default;
+  ~Answer() {
+    if (addrinfo* list = first.load(); list != nullptr) ::freeaddrinfo(list);
+  }
+  Answer(const Answer&) = delete;
+  Answer& operator=(const Answer&) = delete;
+
+  std::atomic<addrinfo*> first = nullptr;
+};
+
+HostLookup::HostLookup() = default;
+
+HostLookup::~HostLookup() {
+  m_notifier.reset();
+  if (m_bell >= 0) ::close(m_bell);
+}
+
+bool HostLookup::start(const QString& host) {
+  std::array<int, 2> ends{};
+  if (::pipe2(ends.data(), O_CLOEXEC) != 0) return false;
+  m_bell = ends[0];
+  m_answer = std::make_shared<Answer>();
+  m_notifier = std::make_unique<QSocketNotifier>(m_bell, QSocketNotifier::Read);
+  connect(m_notifier.get(), &QSocketNotifier::activated, this, &HostLookup::take);
+  // The thread uses nothing of Qt's, which may be gone before it.
+  const auto ask = [answer = m_answer, name = host.toStdString(), bell = ends[1]] {
+    addrinfo hints{};
+    hints.ai_flags = AI_ADDRCONFIG;
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* list = nullptr;
+    if (::getaddrinfo(name.c_str(), nullptr, &hints, &list) == 0) answer->first = list;
+    [[maybe_unused]] const ssize_t written = ::write(bell, "", 1);
+    ::close(bell);
+  };
+  // Signals are for the program's own threads. One of a pipe that nobody reads any more stays here.
+  sigset_t all{};
+  sigset_t before{};
+  ::sigfillset(&all);
+  ::pthread_sigmask(SIG_SETMASK, &all, &before);
+  bool isStarted = true;
+  try {
+    std::thread(ask).detach();
+  } catch (const std::system_error&) {
+    isStarted = false;
+    m_notifier.reset();
+    ::close(ends[1]);
+  }
+  ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+  return isStarted;
+}
+
+void HostLookup::take() {
+  m_notifier->setEnabled(false);
+  QList<QHostAddress> addresses;
+  for (const addrinfo* each = m_answer->first; each != nullptr; each = each->ai_next)
+    addresses.append(QHostAddress(each->ai_addr));
+  Q_EMIT found(addresses);
+}
+
+}  // namespace kesto

@@ -1,0 +1,38 @@
+// The addresses of a host by its name.
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtNetwork/QHostAddress>
+#include <memory>
+
+class QSocketNotifier;
+
+namespace kesto {
+
+/// Asks the system in a thread that nobody waits for. Where name servers are silent the system waits for a
+/// minute and cannot be stopped; a lookup that goes leaves the thread behind, and the process can end before
+/// it. Qt's own lookup has the process wait.
+class HostLookup : public QObject {
+  Q_OBJECT
+
+ public:
+  HostLookup();
+  ~HostLookup() override;
+
+  /// Begins, once. False, with no signal to come, when there is no descriptor or thread for it.
+  bool start(const QString& host);
+
+ Q_SIGNALS:
+  /// In the system's order; empty when the name is not known.
+  void found(const QList<QHostAddress>& addresses);
+
+ private:
+  struct Answer;
+  void take();
+
+  std::shared_ptr<Answer> m_answer;
+  int m_bell = -1;  // readable once the answer is there
+  std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+}  // namespace kesto
