@@ -12,6 +12,7 @@
 #include <string>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 namespace kesto {
 
@@ -28,27 +29,24 @@ struct HostLookup::Answer {
 
 HostLookup::HostLookup() = default;
 
-HostLookup::~HostLookup() {
-  m_notifier.reset();
-  if (m_bell >= 0) ::close(m_bell);
-}
+HostLookup::~HostLookup() = default;
 
 bool HostLookup::start(const QString& host) {
   std::array<int, 2> ends{};
   if (::pipe2(ends.data(), O_CLOEXEC) != 0) return false;
-  m_bell = ends[0];
+  m_bell.reset(ends[0]);
+  Descriptor bell(ends[1]);
   m_answer = std::make_shared<Answer>();
-  m_notifier = std::make_unique<QSocketNotifier>(m_bell, QSocketNotifier::Read);
+  m_notifier = std::make_unique<QSocketNotifier>(m_bell.get(), QSocketNotifier::Read);
   connect(m_notifier.get(), &QSocketNotifier::activated, this, &HostLookup::take);
   // The thread uses nothing of Qt's, which may be gone before it.
-  const auto ask = [answer = m_answer, name = host.toStdString(), bell = ends[1]] {
+  auto ask = [answer = m_answer, name = host.toStdString(), bell = std::move(bell)] {
     addrinfo hints{};
     hints.ai_flags = AI_ADDRCONFIG;
     hints.ai_socktype = SOCK_STREAM;
     addrinfo* list = nullptr;
     if (::getaddrinfo(name.c_str(), nullptr, &hints, &list) == 0) answer->first = list;
-    [[maybe_unused]] const ssize_t written = ::write(bell, "", 1);
-    ::close(bell);
+    [[maybe_unused]] const ssize_t written = ::write(bell.get(), "", 1);
   };
   // Signals are for the program's own threads. One of a pipe that nobody reads any more stays here.
   sigset_t all{};
@@ -57,11 +55,10 @@ bool HostLookup::start(const QString& host) {
   ::pthread_sigmask(SIG_SETMASK, &all, &before);
   bool isStarted = true;
   try {
-    std::thread(ask).detach();
+    std::thread(std::move(ask)).detach();
   } catch (const std::system_error&) {
     isStarted = false;
     m_notifier.reset();
-    ::close(ends[1]);
   }
   ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
   return isStarted;

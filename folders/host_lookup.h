@@ -5,6 +5,8 @@
 #include <QtNetwork/QHostAddress>
 #include <memory>
 
+#include "platform/descriptor.h"
+
 class QSocketNotifier;
 
 namespace kesto {
@@ -31,7 +33,7 @@ class HostLookup : public QObject {
   void take();
 
   std::shared_ptr<Answer> m_answer;
-  int m_bell = -1;  // readable once the answer is there
+  Descriptor m_bell;  // readable once the answer is there
   std::unique_ptr<QSocketNotifier> m_notifier;
 };
 

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <unistd.h>
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
@@ -11,6 +10,7 @@
 
 #include "folders/host_lookup.h"
 #include "panel/trace.h"
+#include "platform/descriptor.h"
 #include "platform/platform.h"
 #include "platform/private_file.h"
 
@@ -23,27 +23,20 @@ constexpr std::chrono::milliseconds slice{1000};
 // descriptor by then; the system still knows from this one which it was.
 class SecondDescriptor {
  public:
-  SecondDescriptor() = default;
-  ~SecondDescriptor() {
-    if (m_descriptor >= 0) ::close(m_descriptor);
-  }
-  SecondDescriptor(const SecondDescriptor&) = delete;
-  SecondDescriptor& operator=(const SecondDescriptor&) = delete;
-
   void take(const QTcpSocket& socket) {
-    m_descriptor = ::fcntl(static_cast<int>(socket.socketDescriptor()), F_DUPFD_CLOEXEC, 0);
+    m_descriptor.reset(::fcntl(static_cast<int>(socket.socketDescriptor()), F_DUPFD_CLOEXEC, 0));
   }
 
-  bool isTaken() const { return m_descriptor >= 0; }
+  bool isTaken() const { return bool(m_descriptor); }
 
   // After an orderly end of the peer's alone, this side could still send. Also true when nobody can know.
   bool wasReset() const {
-    pollfd state{.fd = m_descriptor, .events = 0, .revents = 0};
-    return m_descriptor < 0 || (::poll(&state, 1, 0) > 0 && (state.revents & (POLLHUP | POLLERR)) != 0);
+    pollfd state{.fd = m_descriptor.get(), .events = 0, .revents = 0};
+    return !m_descriptor || (::poll(&state, 1, 0) > 0 && (state.revents & (POLLHUP | POLLERR)) != 0);
   }
 
  private:
-  int m_descriptor = -1;
+  Descriptor m_descriptor;
 };
 
 // Connects to the first address of a host that takes the connection.

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QFile>
@@ -17,15 +16,11 @@ constexpr unsigned long pause = 5;
 
 }  // namespace
 
-FolderLock::~FolderLock() {
-  if (m_descriptor >= 0) ::close(m_descriptor);
-}
-
 Outcome FolderLock::take(const QString& path, std::chrono::milliseconds limit) {
-  m_descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (m_descriptor < 0) return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
+  m_folder.reset(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!m_folder) return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
   const QDeadlineTimer end(limit);
-  while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+  while (::flock(m_folder.get(), LOCK_EX | LOCK_NB) != 0) {
     if (errno == EINTR) continue;
     if (errno != EWOULDBLOCK) break;
     if (end.hasExpired()) {

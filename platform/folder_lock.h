@@ -4,6 +4,7 @@
 #include <QtCore/QString>
 #include <chrono>
 
+#include "platform/descriptor.h"
 #include "platform/outcome.h"
 
 namespace kesto {
@@ -12,17 +13,12 @@ namespace kesto {
 /// process that is killed.
 class FolderLock {
  public:
-  FolderLock() = default;
-  ~FolderLock();
-  FolderLock(const FolderLock&) = delete;
-  FolderLock& operator=(const FolderLock&) = delete;
-
   /// Waits for the lock on an existing folder, at most `limit`; no file is made for it. Fails when the lock
   /// is not free within it, or the folder cannot be opened. On a file system without such locks it succeeds.
   Outcome take(const QString& path, std::chrono::milliseconds limit);
 
  private:
-  int m_descriptor = -1;
+  Descriptor m_folder;
 };
 
 }  // namespace kesto

@@ -13,15 +13,15 @@
 #include <cerrno>
 #include <cstdio>
 
+#include "platform/descriptor.h"
+
 namespace kesto {
 namespace {
 
 // A rename is on disk only once its folder is synced.
 void syncFolder(const QString& path) {
-  const int folder = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (folder < 0) return;
-  ::fsync(folder);
-  ::close(folder);
+  const Descriptor folder(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (folder) ::fsync(folder.get());
 }
 
 const QString temporarySuffix = QStringLiteral(".XXXXXX");
@@ -39,15 +39,13 @@ bool isTemporaryOf(const QString& path, const QString& name) {
 
 // Removes what writers left that were killed: a living one has its temporary file locked.
 void removeAbandoned(const QString& path) {
-  const QFileInfo file(path);
-  const QStringList names = file.dir().entryList(QDir::Files | QDir::Hidden);
+  const QFileInfo kept(path);
+  const QStringList names = kept.dir().entryList(QDir::Files | QDir::Hidden);
   for (const QString& name : names) {
     if (!isTemporaryOf(path, name)) continue;
-    const QByteArray left = QFile::encodeName(file.dir().filePath(name));
-    const int descriptor = ::open(left.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0) continue;
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) ::unlink(left.constData());
-    ::close(descriptor);
+    const QByteArray left = QFile::encodeName(kept.dir().filePath(name));
+    const Descriptor file(::open(left.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (file && ::flock(file.get(), LOCK_EX | LOCK_NB) == 0) ::unlink(left.constData());
   }
 }
 
@@ -113,16 +111,12 @@ Outcome writePrivateFile(const QString& path, const QByteArray& bytes) {
 }
 
 std::optional<QByteArray> readOwnFile(const QString& path, qsizetype limit) {
-  const int descriptor =
-      ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-  if (descriptor < 0) return std::nullopt;
+  const Descriptor descriptor(
+      ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   QFile file;
-  if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-    ::close(descriptor);
-    return std::nullopt;
-  }
+  if (!descriptor || !file.open(descriptor.get(), QIODevice::ReadOnly)) return std::nullopt;
   struct stat info {};
-  if (::fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode) || info.st_uid != getuid() ||
+  if (::fstat(descriptor.get(), &info) != 0 || !S_ISREG(info.st_mode) || info.st_uid != getuid() ||
       info.st_size > limit) {
     return std::nullopt;
   }

@@ -6,7 +6,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QSocketNotifier>
 
-#include "hosts/channel/descriptor.h"
+#include "platform/descriptor.h"
 #include "platform/outcome.h"
 
 namespace kesto {

@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "hosts/command/unseen_terminal.h"
+#include "platform/descriptor.h"
 #include "platform/secret.h"
 
 namespace kesto {
@@ -16,18 +17,6 @@ namespace {
 
 // More than any entry takes. A line that grew beyond what is reserved for it would leave copies behind.
 constexpr qsizetype longestLine = 1024;
-
-class Descriptor {
- public:
-  Descriptor(const char* path, int flags) : m_number(::open(path, flags | O_CLOEXEC)) {}
-  ~Descriptor() { ::close(m_number); }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  int number() const { return m_number; }
-
- private:
-  int m_number;
-};
 
 void show(int terminal, const QByteArray& text) {
   // A terminal that shows nothing is answered all the same.
@@ -59,19 +48,19 @@ Outcome readLine(int descriptor, QString* secret) {
 
 Outcome readSecretLine(const QString& path, QString* secret) {
   if (path == QLatin1String("-")) return readLine(STDIN_FILENO, secret);
-  const Descriptor file(QFile::encodeName(path).constData(), O_RDONLY);
-  if (file.number() >= 0) return readLine(file.number(), secret);
+  const Descriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
+  if (file) return readLine(file.get(), secret);
   return Outcome::failed(path + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errno)));
 }
 
 Outcome askSecret(const QString& prompt, QString* secret) {
-  const Descriptor terminal("/dev/tty", O_RDWR | O_NOCTTY);
-  if (terminal.number() < 0) return Outcome::failed(QStringLiteral("there is no terminal to ask at"));
-  const UnseenTerminal unseen(terminal.number());
-  show(terminal.number(), prompt.toLocal8Bit() + ": ");
+  const Descriptor terminal(::open("/dev/tty", O_RDWR | O_NOCTTY | O_CLOEXEC));
+  if (!terminal) return Outcome::failed(QStringLiteral("there is no terminal to ask at"));
+  const UnseenTerminal unseen(terminal.get());
+  show(terminal.get(), prompt.toLocal8Bit() + ": ");
   Outcome read = Outcome::done();
-  if (unseen.waitForLine()) read = readLine(terminal.number(), secret);
-  show(terminal.number(), "\n");
+  if (unseen.waitForLine()) read = readLine(terminal.get(), secret);
+  show(terminal.get(), "\n");
   return unseen.isInterrupted() ? Outcome::failed(QStringLiteral("interrupted")) : read;
 }
 

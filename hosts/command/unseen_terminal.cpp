@@ -32,9 +32,8 @@ struct Guard {
 
 bool Guard::isProgramStopped() const {
   std::array<char, 256> text{};
-  const int file = ::open(state.data(), O_RDONLY | O_CLOEXEC);
-  const ssize_t count = ::read(file, text.data(), text.size());
-  ::close(file);
+  const Descriptor file(::open(state.data(), O_RDONLY | O_CLOEXEC));
+  const ssize_t count = ::read(file.get(), text.data(), text.size());
   if (count <= 0) return false;
   // The state follows the program's name in brackets.
   const std::string_view line(text.data(), static_cast<std::size_t>(count));
@@ -77,7 +76,7 @@ UnseenTerminal::UnseenTerminal(int terminal) : m_terminal(terminal) {
 UnseenTerminal::~UnseenTerminal() {
   ::tcsetattr(m_terminal, TCSAFLUSH, &m_shown);
   if (m_guard < 0) return;
-  ::close(m_life);
+  m_life.reset();
   while (::waitpid(m_guard, nullptr, 0) < 0 && errno == EINTR) {
   }
 }
@@ -92,18 +91,18 @@ bool UnseenTerminal::waitForLine() const {
 
 // Without a guard the terminal is still unseen.
 void UnseenTerminal::startGuard() {
-  std::array<int, 2> life{};
-  if (::pipe2(life.data(), O_CLOEXEC) != 0) return;
-  Guard guard{.terminal = m_terminal, .life = life[0], .state = {}, .shown = m_shown, .hidden = m_hidden};
+  std::array<int, 2> ends{};
+  if (::pipe2(ends.data(), O_CLOEXEC) != 0) return;
+  const Descriptor life(ends[0]);
+  m_life.reset(ends[1]);
+  Guard guard{.terminal = m_terminal, .life = life.get(), .state = {}, .shown = m_shown, .hidden = m_hidden};
   std::snprintf(guard.state.data(), guard.state.size(), "/proc/%d/stat", static_cast<int>(::getpid()));
   m_guard = ::fork();
   if (m_guard == 0) {
-    ::close(life[1]);
+    m_life.reset();
     guard.run();
   }
-  ::close(life[0]);
-  m_life = life[1];
-  if (m_guard < 0) ::close(m_life);
+  if (m_guard < 0) m_life.reset();
 }
 
 }  // namespace kesto

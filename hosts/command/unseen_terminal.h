@@ -5,6 +5,7 @@
 #include <termios.h>
 
 #include "hosts/command/held_signals.h"
+#include "platform/descriptor.h"
 
 namespace kesto {
 
@@ -30,7 +31,7 @@ class UnseenTerminal {
   int m_terminal;
   termios m_shown{};
   termios m_hidden{};
-  int m_life = -1;  // a pipe that closes with the program
+  Descriptor m_life;  // a pipe that closes with the program
   pid_t m_guard = -1;
 };
 

@@ -2,9 +2,10 @@
 
 #include <fcntl.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include <atomic>
+
+#include "platform/descriptor.h"
 
 namespace kesto {
 namespace {
@@ -26,10 +27,8 @@ bool isConnectedTo(int descriptor, http_addrlist_t* addresses) {
 // The number may be another file's by now: libcups closes and opens sockets in its own thread. So it is held
 // first, and cut only if it leads to the print server.
 void cut(http_t* http, http_addrlist_t* addresses) {
-  const int held = ::fcntl(httpGetFd(http), F_DUPFD_CLOEXEC, 0);
-  if (held < 0) return;
-  if (isConnectedTo(held, addresses)) ::shutdown(held, SHUT_RDWR);
-  ::close(held);
+  const Descriptor held(::fcntl(httpGetFd(http), F_DUPFD_CLOEXEC, 0));
+  if (held && isConnectedTo(held.get(), addresses)) ::shutdown(held.get(), SHUT_RDWR);
 }
 
 }  // namespace

@@ -10,9 +10,9 @@
 #include <thread>
 #include <vector>
 
-#include "hosts/channel/descriptor.h"
 #include "hosts/cups/print_job.h"
 #include "hosts/dialog/private_copy.h"
+#include "platform/descriptor.h"
 
 namespace kesto {
 

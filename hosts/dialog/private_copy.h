@@ -3,7 +3,7 @@
 
 #include <QtCore/QStringList>
 
-#include "hosts/channel/descriptor.h"
+#include "platform/descriptor.h"
 #include "platform/outcome.h"
 
 namespace kesto {

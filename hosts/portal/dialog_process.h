@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "hosts/channel/channel.h"
-#include "hosts/channel/descriptor.h"
+#include "platform/descriptor.h"
 #include "platform/outcome.h"
 
 namespace kesto {
