@@ -1,4 +1,4 @@
-// The print server that a dialog speaks to, and the connections to it.
+// The print server that a program speaks to, and the connections to it.
 #pragma once
 
 #include <chrono>

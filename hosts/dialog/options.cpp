@@ -2,10 +2,10 @@
 
 #include <fcntl.h>
 
-#include <cmath>
 #include <iostream>
 
 #include "hosts/command/arguments.h"
+#include "hosts/command/server_options.h"
 #include "hosts/cups/print_job.h"
 #include "platform/shown_text.h"
 
@@ -41,11 +41,9 @@ class CommandLine {
     m_app.set_help_flag("--help");
     addText("-d", &m_options.queue);
     addText("-t", &m_options.title);
-    addText("-h", &m_options.server.address);
-    addText("-U", &m_options.server.user);
+    addServerOptions(m_app, &m_options.server);
     addText("--screenshot", &m_options.screenshot);
     addText("--pane", &m_options.pane)->check(CLI::IsMember({"general", "job-handling", "summary"}));
-    m_app.add_flag("-E", m_options.server.encrypt);
     m_app.add_flag("--timings", m_options.timings);
     const auto setCopies = [this](const std::string& copies) {
       m_options.jobOptions.insert(QStringLiteral("copies"), QString::fromStdString(copies));
@@ -54,11 +52,6 @@ class CommandLine {
     m_app.add_option("--portal", m_options.channel)
         ->transform(wholeNumber(3, 1 << 20))
         ->check(faultOfDescriptor);
-    const auto setLimit = [this](double seconds) {
-      if (std::isnan(seconds)) throw CLI::ValidationError("--timeout", "is no number");
-      m_options.server.limit = std::chrono::milliseconds(static_cast<int>(seconds * 1000));
-    };
-    m_app.add_option_function<double>("--timeout", setLimit)->check(CLI::Range(0.1, 3600.0));
     const auto addOption = [this](const std::vector<std::string>& texts) {
       for (const std::string& text : texts)
         m_options.jobOptions.insert(parseJobOptions(QString::fromStdString(text)));

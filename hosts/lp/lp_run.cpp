@@ -49,12 +49,6 @@ struct JobQueue : Queue {
   std::unique_ptr<PrintServer> server;
 };
 
-Outcome connectToServer(const Options& options, std::unique_ptr<PrintServer>* server) {
-  if (options.server.encrypt) cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
-  if (options.server.user) cupsSetUser(options.server.user->toUtf8().constData());
-  return PrintServer::connect(options.server.address.value_or(QString()), options.server.limit, server);
-}
-
 // The queue's name without asking a server: as it was written, but for the instance of "queue/instance".
 QString queueOfFiles(const Options& options) {
   const QString file = QFileInfo(options.ppd.value_or(QString())).completeBaseName();
@@ -67,7 +61,7 @@ Outcome findQueue(const Options& options, JobQueue* queue) {
     queue->deviceUri = *options.deviceUri;
     return openPpdFile(*options.ppd, &queue->ppd);
   }
-  if (Outcome connected = connectToServer(options, &queue->server); !connected) return connected;
+  if (Outcome connected = options.server.connect(&queue->server); !connected) return connected;
   return openQueue(*queue->server, options.queue.value_or(QString()), queue);
 }
 
@@ -269,13 +263,13 @@ ExitCode runPresets(const Options& options) {
 
 ExitCode runQueueList(const Options& options) {
   std::unique_ptr<PrintServer> server;
-  if (Outcome connected = connectToServer(options, &server); !connected) return ended(options, connected);
+  if (Outcome connected = options.server.connect(&server); !connected) return ended(options, connected);
   return ended(options, printQueues(*server, options.jobHandlingOnly, options.json));
 }
 
 ExitCode runCheck(const Options& options) {
   std::unique_ptr<PrintServer> server;
-  if (Outcome connected = connectToServer(options, &server); !connected) return ended(options, connected);
+  if (Outcome connected = options.server.connect(&server); !connected) return ended(options, connected);
   bool isOpen = false;
   const ExitCode code = ended(options, printPrivacy(*server, *options.queue, options.json, &isOpen));
   return code == ExitDone && isOpen ? ExitFailed : code;
@@ -286,7 +280,7 @@ ExitCode runChange(const Options& options) {
   QMap<QString, QString> changes = options.jobOptions;
   if (options.title) addJobOption(QStringLiteral("job-name"), *options.title, &changes);
   std::unique_ptr<PrintServer> server;
-  Outcome done = connectToServer(options, &server);
+  Outcome done = options.server.connect(&server);
   if (done && options.restart) done = restartJob(*server, *options.job);
   if (done) done = changeJob(*server, *options.job, changes);
   if (done && options.json && !options.silent) std::cout << "{\"job\":" << options.job->number << "}\n";

@@ -1,7 +1,6 @@
 #include "hosts/lp/options.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iostream>
 #include <regex>
 #include <string>
@@ -9,6 +8,7 @@
 
 #include "hosts/command/arguments.h"
 #include "hosts/command/secret_arguments.h"
+#include "hosts/command/server_options.h"
 #include "hosts/cups/job_options.h"
 #include "hosts/lp/help_text.h"
 
@@ -130,14 +130,8 @@ CLI::Option* CommandLine::addUsualName(const std::string& name, std::optional<QS
 }
 
 void CommandLine::addServer() {
-  addUsualName("-h", &m_options.server.address);
-  addUsualName("-U", &m_options.server.user);
-  m_app.add_flag("-E", m_options.server.encrypt);
-  const auto setLimit = [this](double seconds) {
-    if (std::isnan(seconds)) throw CLI::ValidationError("--timeout", "is no number");
-    m_options.server.limit = std::chrono::milliseconds(static_cast<int>(seconds * 1000));
-  };
-  m_app.add_option_function<double>("--timeout", setLimit)->check(CLI::Range(0.1, 3600.0));
+  for (CLI::Option* usual : addServerOptions(m_app, &m_options.server))
+    usual->trigger_on_parse()->check(refuseEmpty);
   addName("--ppd", &m_options.ppd);
   addName("--device-uri", &m_options.deviceUri);
   addUsualName("-d", &m_options.queue);

@@ -5,10 +5,10 @@
 #include <QtCore/QMap>
 #include <QtCore/QString>
 #include <array>
-#include <chrono>
 #include <optional>
 
 #include "hosts/cups/sent_job.h"
+#include "hosts/cups/server_address.h"
 #include "hosts/lp/entries.h"
 #include "hosts/lp/messages.h"
 
@@ -27,18 +27,10 @@ struct SecretSource {
 /// What there is to do.
 enum class Task { Print, Change, DryRun, ListQueues, ListFolders, ListPresets, DeletePreset, Check };
 
-/// Where the job goes.
-struct ServerOptions {
-  std::optional<QString> address;  ///< "host" or "host:port".
-  std::optional<QString> user;
-  bool encrypt = false;
-  std::chrono::milliseconds limit{5000};  ///< Of each wait for the server.
-};
-
 /// What kesto-lp is to do.
 struct Options {
   Task task = Task::Print;
-  ServerOptions server;
+  ServerAddress server;
   std::optional<QString> ppd;        ///< A PPD file stands for the queue; no server is asked.
   std::optional<QString> deviceUri;  ///< Of the queue that `ppd` stands for.
   std::optional<QString> queue;      ///< Its name; none for the default queue, or for that of the PPD's file.
