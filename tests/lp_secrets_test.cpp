@@ -109,7 +109,7 @@ class LpAtATerminal : public LpSecrets {
     ASSERT_TRUE(m_master >= 0 && ::grantpt(m_master) == 0 && ::unlockpt(m_master) == 0);
     m_terminal = ::open(::ptsname(m_master), O_RDWR | O_NOCTTY);  // so that its modes outlive a program
   }
-  ~LpAtATerminal() override {
+  void TearDown() override {
     ::close(m_terminal);
     ::close(m_master);
   }

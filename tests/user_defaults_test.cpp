@@ -120,13 +120,13 @@ TEST_F(JsonUserDefaultsTest, ALockThatIsNotFreeIsAnError) {
   ASSERT_TRUE(put(values, domain));
   FolderLock lock;
   ASSERT_TRUE(lock.take(folder, {}));
-  JsonUserDefaults impatient(folder, std::chrono::milliseconds(20));
-  EXPECT_TRUE(store(std::move(impatient), values, domain)) << "there is nothing to change";
+  const auto impatient = [&] { return JsonUserDefaults(folder, std::chrono::milliseconds(20)); };
+  EXPECT_TRUE(store(impatient(), values, domain)) << "there is nothing to change";
   const ExpectedWarning warning("not kept");
-  const Outcome written = store(std::move(impatient), {}, domain);
+  const Outcome written = store(impatient(), {}, domain);
   EXPECT_TRUE(written.reason().contains(u"lock"_s)) << written.reason();
   write(file, "damaged");
-  EXPECT_FALSE(impatient.persistentDomainForName(domain).available) << "another may be replacing it";
+  EXPECT_FALSE(impatient().persistentDomainForName(domain).available) << "another may be replacing it";
   EXPECT_EQ(files(), QSet{domain + u".json"_s});
 }
 
@@ -135,7 +135,7 @@ TEST_F(JsonUserDefaultsTest, BeyondTheBoundNothingIsReadOrWritten) {
   const QString huge(largestDomain, u'x');
   EXPECT_TRUE(put({{u"a"_s, huge}}, domain).reason().contains(u"16 MiB"_s));
   EXPECT_EQ(files(), QSet<QString>());
-  write(file, "{\"a\":\"" + huge.toLatin1() + "\"}");
+  write(file, R"({"a":")" + huge.toLatin1() + R"("})");
   EXPECT_TRUE(defaults.persistentDomainForName(domain).reason.contains(u"16 MiB"_s));
   EXPECT_FALSE(put(values, domain));
   EXPECT_GT(QFileInfo(file).size(), largestDomain) << "it was replaced";

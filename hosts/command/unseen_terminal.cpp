@@ -67,7 +67,7 @@ void Guard::run() const {
 
 UnseenTerminal::UnseenTerminal(int terminal) : m_terminal(terminal) {
   ::tcgetattr(m_terminal, &m_shown);
-  m_hidden = m_shown;
+  ::tcgetattr(m_terminal, &m_hidden);
   m_hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
   startGuard();
   ::tcsetattr(m_terminal, TCSAFLUSH, &m_hidden);

@@ -27,7 +27,7 @@ class MemoryUserDefaults : public UserDefaults {
     return {.available = true, .values = found == domains.constEnd() ? std::nullopt : std::optional(*found)};
   }
   Outcome changePersistentDomain(const QString& name, const DomainChange& change) override {
-    const Outcome failed = Outcome::failed(u"the test lets it fail"_s);
+    Outcome failed = Outcome::failed(u"the test lets it fail"_s);
     if (isFailing()) return failed;
     QJsonObject values = domains.value(name);
     if (Outcome changed = change(&values); !changed) return changed;
