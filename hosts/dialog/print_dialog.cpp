@@ -16,6 +16,7 @@
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
+#include "hosts/session/kept_options.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -149,10 +150,9 @@ void PrintDialog::takeKeptOptions(cups_dest_t& destination) {
 // Shows what is given for the job, over what is kept for the queue, and says what neither the dialog nor the
 // printer can take: that does not travel.
 QStringList PrintDialog::takeOptions() {
-  const JobChoices& kept = m_session.kept();
-  const JobChoices choices = JobOptionTable(m_session.ppd()).resolve(m_options.jobOptions, kept.options);
+  const JobChoices choices = JobOptionTable(m_session.ppd()).resolve(m_options.jobOptions, m_kept.options);
   m_otherOptions = takeGeneral(choices.options);
-  QStringList refused = kept.refused + choices.refused;
+  QStringList refused = m_kept.refused + choices.refused;
   for (const char* name : ownOptions) {
     const QString value = m_otherOptions.take(QLatin1String(name));
     if (!value.isNull()) refused.append(QLatin1String(name) + u'=' + value);
@@ -162,17 +162,18 @@ QStringList PrintDialog::takeOptions() {
 
 void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
   m_wanted = queue->id;
-  const Outcome taken = m_session.take(queue, jobName());
+  m_kept = kesto::takeKeptOptions(*queue);
+  const Outcome opened = m_session.open(queue, {.jobName = jobName()});
   PrintDialogPanel* panel = m_session.panel();
   m_general->setPpd(m_session.ppd(), panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys(),
-                    m_session.kept().options);
+                    m_kept.options);
   if (queue->destination) takeKeptOptions(*queue->destination);
   const QStringList refused = takeOptions();
   m_chooser->takeCurrent(m_wanted);
   showState();
   if (!refused.isEmpty())
     showMessage(tr("This printer cannot do %1. The job is printed without it.").arg(refused.join(u", ")));
-  if (!taken) showMessage(taken.reason());
+  if (!opened) showMessage(opened.reason());
   // The window handles what has come up before the panel is made visible.
   QMetaObject::invokeMethod(
       this, [this, queue] { showQueue(queue); }, Qt::QueuedConnection);
@@ -310,8 +311,8 @@ void PrintDialog::print() {
     return showMessage(m_general->fault());
   }
   if (!m_preview->fault().isNull()) return showMessage(m_preview->fault());
-  if (!m_session.confirm()) {
-    if (m_panelPane != nullptr) m_panelPane->showMissingEntry();
+  if (const std::optional<Entry> missing = m_session.confirm()) {
+    if (m_panelPane != nullptr) m_panelPane->showEntry(*missing);
     return;
   }
   const Document::State state = m_document.state();

@@ -9,7 +9,8 @@
 #include "hosts/dialog/document.h"
 #include "hosts/dialog/options.h"
 #include "hosts/dialog/widgets/dialog_alerts.h"
-#include "hosts/session/job_session.h"
+#include "hosts/session/job_option_table.h"
+#include "hosts/session/panel_session.h"
 
 class QDialogButtonBox;
 class QLabel;
@@ -112,7 +113,8 @@ class PrintDialog : public QDialog {
   PrintOptions m_options;
   Document& m_document;
   DialogAlerts m_alerts;
-  JobSession m_session{m_alerts};
+  PanelSession m_session{m_alerts};
+  JobChoices m_kept;                      // for the open queue
   QString m_wanted;                       // the chosen queue, null for the default one
   QStringList m_given;                    // names of options that count more than those kept for the queue
   QMap<QString, QString> m_otherOptions;  // of the job, beside what the panes have

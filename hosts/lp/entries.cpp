@@ -1,6 +1,5 @@
 #include "hosts/lp/entries.h"
 
-#include "hosts/session/panel_host.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/pop_up.h"
@@ -10,18 +9,13 @@
 namespace kesto {
 namespace {
 
-// Rows of the folder matrix; the pop-up begins with the first two as well.
-enum FolderRow { QuickFile, MainFolder, CustomFolder };
-
-enum AuthenticationRow { ByLogin, ByUserNumber };
-
 // A user who sits at the panel.
 class PanelUser {
  public:
   explicit PanelUser(PanelView& view) : m_view(view) {}
 
   Outcome choose(const Entries& entries);
-  Outcome enter(const FieldRow& row, const QString& text);
+  Outcome enter(Entry entry, const QString& text);
   Outcome turnHoldButtons(const Entries& entries, bool on);
 
  private:
@@ -34,7 +28,7 @@ class PanelUser {
   Outcome chooseHold(int choice);
   Outcome chooseFolder(const QString& name);
   int storedFolder(const QString& name) const;
-  Outcome refusal(const QString& option, const FieldRow& row) const;
+  Outcome refusal(const QString& option, Entry entry) const;
 
   PanelView& m_view;
 };
@@ -49,9 +43,10 @@ bool PanelUser::isRetained() const {
   return retention != nullptr && retention->state() == 1;
 }
 
-Outcome PanelUser::refusal(const QString& option, const FieldRow& row) const {
-  const bool wantsHold = row.needsHold && !isRetained();
-  return Outcome::failed(option + u' ' + QLatin1String(wantsHold ? "needs --hold" : row.whenRefused));
+Outcome PanelUser::refusal(const QString& option, Entry entry) const {
+  const bool wantsHold = needsHold(entry) && !isRetained();
+  const char* reason = wantsHold ? "needs --hold" : fieldTable().at(entry).whenRefused;
+  return Outcome::failed(option + u' ' + QLatin1String(reason));
 }
 
 Outcome PanelUser::chooseHold(int choice) {
@@ -79,7 +74,6 @@ int PanelUser::storedFolder(const QString& name) const {
 }
 
 Outcome PanelUser::chooseFolder(const QString& name) {
-  const FieldRow& folder = fieldTable()[Folder];
   FolderRow row = CustomFolder;
   if (name == QLatin1String("quick")) row = QuickFile;
   if (name == QLatin1String("main")) row = MainFolder;
@@ -88,10 +82,10 @@ Outcome PanelUser::chooseFolder(const QString& name) {
   const int item = row == CustomFolder ? storedFolder(name) : static_cast<int>(row);
   auto* popUp = control<PopUp>(QStringLiteral("folderSelectionPopup"));
   if (popUp == nullptr || !popUp->choose(item) || !choosesRow(QStringLiteral("folderSelectionMatrix"), row)) {
-    return refusal(folder.option(), folder);
+    return refusal(fieldTable()[Folder].option(), Folder);
   }
   if (row != CustomFolder) return Outcome::done();
-  return enter(folder, item == MainFolder ? name : popUp->selectedItem()->title);
+  return enter(Folder, item == MainFolder ? name : popUp->selectedItem()->title);
 }
 
 Outcome PanelUser::choose(const Entries& entries) {
@@ -113,13 +107,14 @@ Outcome PanelUser::choose(const Entries& entries) {
   return Outcome::failed(QStringLiteral("this queue does not ask who prints"));
 }
 
-Outcome PanelUser::enter(const FieldRow& row, const QString& text) {
-  auto* field = control<TextField>(row.field());
-  auto* button = control<Button>(row.button());
+Outcome PanelUser::enter(Entry entry, const QString& text) {
+  const FieldRow& row = fieldTable().at(entry);
+  auto* field = control<TextField>(fieldOf(entry));
+  auto* button = control<Button>(holdButtonOf(entry));
   const bool isHeld = button != nullptr && button->state() == 1;
   if ((isHeld && !button->click()) || field == nullptr ||
       !field->placeCaret({0, field->stringValue().size()}) || !field->backspace() || !field->type(text)) {
-    return refusal(row.option(), row);
+    return refusal(row.option(), entry);
   }
   if (field->stringValue() != text) {
     return Outcome::failed(QStringLiteral("%1 takes %2").arg(row.option(), QLatin1String(row.limit)));
@@ -128,19 +123,19 @@ Outcome PanelUser::enter(const FieldRow& row, const QString& text) {
 }
 
 Outcome PanelUser::turnHoldButtons(const Entries& entries, bool on) {
-  for (std::size_t field = 0; field < fieldCount; ++field) {
-    if (entries.remember.at(field) != on) continue;
-    const FieldRow& row = fieldTable().at(field);
-    auto* button = control<Button>(row.button());
+  for (const Entry entry : allEntries) {
+    if (entries.remember.at(entry) != on) continue;
+    auto* button = control<Button>(holdButtonOf(entry));
     if (button != nullptr && ((button->state() == 1) == on || button->click())) continue;
-    return refusal(QString(QLatin1String(on ? "--remember " : "--forget ")) + QLatin1String(row.name), row);
+    const QString option = QLatin1String(on ? "--remember " : "--forget ");
+    return refusal(option + QLatin1String(fieldTable().at(entry).name), entry);
   }
   return Outcome::done();
 }
 
 }  // namespace
 
-const std::array<FieldRow, fieldCount>& fieldTable() {
+const std::array<FieldRow, entryCount>& fieldTable() {
   static constexpr char digits8[] = "at most 8 digits";
   static constexpr char digits5[] = "at most 5 digits";
   static constexpr char quickFile[] = "does not go with --folder quick";
@@ -149,21 +144,16 @@ const std::array<FieldRow, fieldCount>& fieldTable() {
       "needs --folder NAME of a folder with a pass code, or a custom folder";
   static constexpr char byNumber[] = "does not go with a user number";
   static constexpr char notOffered[] = "is not offered by this queue";
-  static constexpr std::array<FieldRow, fieldCount> table{{
-      {"pin", "N", "Pass code", "pass code of the held job", digits8, "suspendKey", true, quickFile},
-      {"folder", "NAME", nullptr, "quick, main or a folder name", "at most 255 characters", "folderName",
-       true, anyFolder},
-      {"folder-pin", "N", "Folder pass code", "pass code of the folder", digits8, "folderPassword", true,
-       codedFolder},
-      {"login", "NAME", nullptr, "login name", nullptr, "loginName", false, byNumber},
-      {"password", nullptr, "Password", "password of the login name", nullptr, "password", false, byNumber},
-      {"user-number", "N", nullptr, "user number instead of a login", digits5, "userNumber", false,
-       notOffered},
-      {"account-number", "N", nullptr, "account number", digits5, "accountNumber", false, notOffered},
-      {"user-name", "NAME", nullptr, "user name at the printer", "at most 32 characters", "userName", false,
-       notOffered},
-      {"job-name", "NAME", nullptr, "job name at the printer", "at most 80 characters", "jobName", false,
-       notOffered},
+  static constexpr std::array<FieldRow, entryCount> table{{
+      {"pin", "N", "Pass code", "pass code of the held job", digits8, quickFile},
+      {"folder", "NAME", nullptr, "quick, main or a folder name", "at most 255 characters", anyFolder},
+      {"folder-pin", "N", "Folder pass code", "pass code of the folder", digits8, codedFolder},
+      {"login", "NAME", nullptr, "login name", nullptr, byNumber},
+      {"password", nullptr, "Password", "password of the login name", nullptr, byNumber},
+      {"user-number", "N", nullptr, "user number instead of a login", digits5, notOffered},
+      {"account-number", "N", nullptr, "account number", digits5, notOffered},
+      {"user-name", "NAME", nullptr, "user name at the printer", "at most 32 characters", notOffered},
+      {"job-name", "NAME", nullptr, "job name at the printer", "at most 80 characters", notOffered},
   }};
   return table;
 }
@@ -173,20 +163,18 @@ Outcome applyEntries(PanelView& view, const Entries& entries) {
   if (Outcome chosen = user.choose(entries); !chosen) return chosen;
   // Turned off, the button of the login name drops the name, so that a new one comes after it.
   if (Outcome forgot = user.turnHoldButtons(entries, false); !forgot) return forgot;
-  for (std::size_t field = 0; field < fieldCount; ++field) {
-    const auto& text = entries.texts.at(field);
-    if (field == Folder || !text) continue;
-    if (Outcome entered = user.enter(fieldTable().at(field), *text); !entered) return entered;
+  for (const Entry entry : allEntries) {
+    const auto& text = entries.texts.at(entry);
+    if (entry == Folder || !text) continue;
+    if (Outcome entered = user.enter(entry, *text); !entered) return entered;
   }
   return user.turnHoldButtons(entries, true);
 }
 
-QString missingEntry(const PanelView& view) {
-  const auto* authentication = view.control<RadioMatrix>(QStringLiteral("authenticationMatrix"));
-  const bool byUserNumber = authentication != nullptr && authentication->selectedRow() == ByUserNumber;
-  const FieldRow& row = fieldTable()[byUserNumber ? UserNumber : Login];
+QString missingEntryText(Entry entry) {
   return QStringLiteral("the %1 is missing; give %2")
-      .arg(QLatin1String(byUserNumber ? "user number" : "login name"), row.option());
+      .arg(QLatin1String(entry == UserNumber ? "user number" : "login name"),
+           fieldTable().at(entry).option());
 }
 
 }  // namespace kesto

@@ -1,12 +1,12 @@
 #include "hosts/lp/listings.h"
 
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
 #include <iostream>
 
 #include "hosts/cups/job_privacy.h"
 #include "hosts/cups/ppd_file.h"
-#include "hosts/session/folder_address.h"
+#include "hosts/session/panel_entries.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/text_field.h"
@@ -41,10 +41,37 @@ Outcome keepJobHandling(PrintServer& server, std::vector<QueueSummary>* queues) 
   return Outcome::done();
 }
 
+Outcome printArray(const QJsonArray& array) {
+  std::cout << QJsonDocument(array).toJson().constData();
+  return Outcome::done();
+}
+
 }  // namespace
 
-Outcome fetchFolders(PrintDialogPanel& panel, const QString& address) {
-  PanelView& view = *panel.panelView();
+Outcome printPairs(const QMap<QString, QString>& pairs, const char* separator, bool json, QJsonObject facts) {
+  if (json) {
+    for (auto it = pairs.begin(); it != pairs.end(); ++it)
+      facts.insert(it.key(), it.value());
+    std::cout << QJsonDocument(facts).toJson().constData();
+    return Outcome::done();
+  }
+  for (auto it = pairs.begin(); it != pairs.end(); ++it) {
+    std::cout << shownText(it.key()).toStdString() << separator << shownText(it.value()).toStdString()
+              << '\n';
+  }
+  return Outcome::done();
+}
+
+Outcome printPresets(const PresetStore& store, bool json) {
+  QStringList names;
+  if (Outcome found = store.names(&names); !found) return found;
+  if (json) return printArray(QJsonArray::fromStringList(names));
+  for (const QString& name : names)
+    std::cout << shownText(name).toStdString() << '\n';
+  return Outcome::done();
+}
+
+Outcome fetchFolders(PanelView& view, const QString& address) {
   auto* field = view.control<TextField>(QStringLiteral("printersAddressEditText"));
   auto* button = view.control<Button>(QStringLiteral("getFolderNameButton"));
   if (field == nullptr || button == nullptr) {
@@ -55,17 +82,12 @@ Outcome fetchFolders(PrintDialogPanel& panel, const QString& address) {
     if (Outcome emptied = field->backspace(); !emptied) return emptied;
     if (Outcome typed = field->type(address); !typed) return typed;
   }
-  const QString known = field->stringValue();
+  const QString known = printerAddress(view);
   if (known.isEmpty()) {
     return Outcome::failed(QStringLiteral("the printer's address is not known; give --address"));
   }
   return isPrinterAddress(known) ? button->click()
                                  : Outcome::failed(QStringLiteral("\"%1\" is no address").arg(known));
-}
-
-Outcome printArray(const QJsonArray& array) {
-  std::cout << QJsonDocument(array).toJson().constData();
-  return Outcome::done();
 }
 
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {

@@ -1,15 +1,22 @@
 // What kesto-lp lists: queues and folders.
 #pragma once
 
-#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QMap>
 
 #include "hosts/cups/print_server.h"
+#include "hosts/session/preset_store.h"
 #include "platform/panel.h"
 
 namespace kesto {
 
-/// Prints a list as JSON.
-Outcome printArray(const QJsonArray& array);
+/// Prints pairs, a line each with `separator` between name and value, or as one JSON object with `facts`
+/// beside them.
+Outcome printPairs(const QMap<QString, QString>& pairs, const char* separator, bool json,
+                   QJsonObject facts = {});
+
+/// Prints the names of a queue's presets, a line each or as one JSON array.
+Outcome printPresets(const PresetStore& store, bool json);
 
 /// Prints the server's queues, a line each or as one JSON array; with `jobHandlingOnly` those alone whose PPD
 /// offers the panel, for which each queue's PPD is asked for.
@@ -21,7 +28,7 @@ Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool*
 
 /// Fetches the printer's folders through the panel, from `address` when it is not null. Fails on an address
 /// that cannot be one, which the panel passes over; a printer that does not answer is told by its alert.
-Outcome fetchFolders(PrintDialogPanel& panel, const QString& address);
+Outcome fetchFolders(PanelView& view, const QString& address);
 
 /// Prints the folders that the panel has, a line each or as one JSON array. A protected folder's line ends in
 /// a tab and "locked".

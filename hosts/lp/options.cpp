@@ -46,7 +46,7 @@ class CommandLine {
   Options& m_options;
   CLI::App m_app;
   int m_tasks = 0;
-  std::array<std::vector<CLI::Option*>, fieldCount> m_ways;  // The options that give one entry.
+  std::array<std::vector<CLI::Option*>, entryCount> m_ways;  // The options that give one entry.
   QString m_contradiction;
 };
 
@@ -77,10 +77,10 @@ CommandLine::CommandLine(Options& options) : m_options(options) {
   addServer();
   addJob();
   addHold();
-  for (std::size_t field = 0; field < fieldCount; ++field)
+  for (std::size_t field = 0; field < entryCount; ++field)
     addField(field);
   for (CLI::Option* byNumber : m_ways[UserNumber]) {
-    for (const Field other : {Login, Password}) {
+    for (const Entry other : {Login, Password}) {
       for (CLI::Option* byLogin : m_ways.at(other))
         byNumber->excludes(byLogin);
     }

@@ -53,7 +53,7 @@ struct Options {
   std::optional<QString> savePreset;
   bool withCodes = false;
   Entries entries;
-  std::array<SecretSource, fieldCount> secrets;
+  std::array<SecretSource, entryCount> secrets;
 
   Messages messages() const { return Messages(json); }
   /// Whether anything is asked of the Job Handling panel.

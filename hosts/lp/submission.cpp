@@ -38,7 +38,7 @@ class ProgressLine {
   bool m_isShown = false;
 };
 
-PrintJob jobOf(const Options& options, const PrintSettings* settings, bool isRaw) {
+PrintJob jobOf(const Options& options, const QMap<QString, QString>& settings, bool isRaw) {
   PrintJob job{.title = titleOf(options), .files = {}, .options = options.jobOptions};
   job.isRaw = isRaw;
   for (const QByteArray& file : options.files)
@@ -49,7 +49,7 @@ PrintJob jobOf(const Options& options, const PrintSettings* settings, bool isRaw
         QStringLiteral("mailto:%1@%2").arg(QString::fromUtf8(cupsUser()), QSysInfo::machineHostName()));
   }
   // The panel's word is the last on its own keys.
-  if (settings != nullptr) job.options.insert(settings->all());
+  job.options.insert(settings);
   return job;
 }
 
@@ -72,7 +72,7 @@ bool goesRaw(const Options& options, const cups_dest_t* destination) {
 }
 
 Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
-               const PrintSettings* settings, QJsonObject facts) {
+               const QMap<QString, QString>& settings, QJsonObject facts) {
   const PrintJob job = jobOf(options, settings, goesRaw(options, &destination));
   int id = 0;
   {

@@ -5,7 +5,6 @@
 
 #include "hosts/cups/print_job.h"
 #include "hosts/lp/options.h"
-#include "platform/print_settings.h"
 
 namespace kesto {
 
@@ -16,9 +15,10 @@ QString titleOf(const Options& options);
 /// (null for none).
 bool goesRaw(const Options& options, const cups_dest_t* destination);
 
-/// Sends the job that the options describe with the panel's settings, tells of a long upload at a terminal,
-/// and prints the job's number, in JSON with `facts` beside it, unless it is to be silent.
+/// Sends the job that the options describe with the panel's settings (none without a panel), tells of a long
+/// upload at a terminal, and prints the job's number, in JSON with `facts` beside it, unless it is to be
+/// silent.
 Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
-               const PrintSettings* settings, QJsonObject facts = {});
+               const QMap<QString, QString>& settings, QJsonObject facts = {});
 
 }  // namespace kesto

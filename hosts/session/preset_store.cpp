@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "hosts/cups/faults.h"
+#include "hosts/session/panel_entries.h"
 #include "hosts/session/panel_host.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/pop_up.h"
@@ -29,12 +30,11 @@ constexpr std::array sealedCodes{QLatin1String("jobSuspend2Key"), QLatin1String(
 
 // A stored name of more bytes is not read back.
 constexpr qsizetype longestFolderName = 127;
-constexpr int customFolderRow = 2;
 
 constexpr qsizetype longestPresetName = 255;
 
-QString textOf(const PanelView& view, const char* field) {
-  const auto* found = view.control<TextField>(QLatin1String(field));
+QString textOf(const PanelView& view, Entry entry) {
+  const auto* found = view.control<TextField>(fieldOf(entry));
   return found == nullptr ? QString() : found->stringValue();
 }
 
@@ -44,10 +44,10 @@ Outcome addFolder(const PanelView& view, QMap<QString, QString>* settings) {
   const auto* matrix = view.control<RadioMatrix>(QStringLiteral("folderSelectionMatrix"));
   if (matrix == nullptr) return Outcome::done();
   settings->insert(prefix + QStringLiteral("filing"), QString::number(matrix->selectedRow() + 1));
-  if (matrix->selectedRow() != customFolderRow) return Outcome::done();
+  if (matrix->selectedRow() != CustomFolder) return Outcome::done();
   const auto* popUp = view.control<PopUp>(QStringLiteral("folderSelectionPopup"));
   const bool isStored = popUp != nullptr && popUp->selectedIndex() >= firstStoredFolder;
-  const QString name = isStored ? popUp->selectedItem()->title : textOf(view, "folderNameEditText");
+  const QString name = isStored ? popUp->selectedItem()->title : textOf(view, Folder);
   const auto bytes = cStringOfText(name, systemEncodingOfEnvironment(), longestFolderName + 1);
   if (!bytes) return Outcome::failed(Faults::tr("a preset cannot keep the name of this folder"));
   settings->insert(prefix + QStringLiteral("folderPath"), QString::fromLatin1(bytes->toHex().toUpper()));
@@ -101,7 +101,7 @@ Outcome mayReplace(const QString& name, const QJsonObject& presets) {
 
 Outcome makePreset(const PrintSettings& settings, const PanelView& view, bool withCodes, Preset* preset) {
   // The panel names a job after itself; the next job has a name of its own.
-  const bool isNamedAfterJob = textOf(view, "jobNameEditText") == settings.jobName().value_or(QString());
+  const bool isNamedAfterJob = textOf(view, JobName) == settings.jobName().value_or(QString());
   const QMap<QString, QString>& all = settings.all();
   for (auto it = all.begin(); it != all.end(); ++it) {
     if (!it.key().startsWith(prefix)) continue;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "hosts/session/panel_entries.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/pop_up.h"
@@ -29,15 +30,16 @@ bool isRetentionOff(const PanelView& view) {
 
 bool isQuickFile(const PanelView& view) {
   const auto* popUp = view.control<PopUp>(QStringLiteral("folderSelectionPopup"));
-  return rowOf(view, "folderSelectionMatrix") == 0 || (popUp != nullptr && popUp->selectedIndex() == 0);
+  return rowOf(view, "folderSelectionMatrix") == QuickFile ||
+         (popUp != nullptr && popUp->selectedIndex() == QuickFile);
 }
 
 bool isNotCustom(const PanelView& view) {
-  return rowOf(view, "folderSelectionMatrix") != 2;
+  return rowOf(view, "folderSelectionMatrix") != CustomFolder;
 }
 
 bool isByUserNumber(const PanelView& view) {
-  return rowOf(view, "authenticationMatrix") != 0;
+  return rowOf(view, "authenticationMatrix") != ByLogin;
 }
 
 // One reason: the controls that it dims begin with `stem`.

@@ -2,16 +2,12 @@
 
 #include <QtCore/QScopedValueRollback>
 
+#include "hosts/session/panel_entries.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/pop_up.h"
 #include "panel/model/radio_matrix.h"
 
 namespace kesto {
-namespace {
-
-enum : int { QuickFile, MainFolder, CustomFolder };  // rows of the matrix; the first two are items as well
-
-}  // namespace
 
 FolderChoice::FolderChoice(PanelView& view)
     : QObject(&view),

@@ -17,10 +17,8 @@
 #include "hosts/dialog/panel/dimming_reasons.h"
 #include "hosts/dialog/panel/folder_choice.h"
 #include "hosts/dialog/widgets/plain_text.h"
-#include "hosts/session/folder_address.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
-#include "panel/model/radio_matrix.h"
 #include "panel/model/text_field.h"
 #include "platform/bundle.h"
 #include "platform/shown_text.h"
@@ -40,17 +38,12 @@ bool isOn(const Control& control) {
   return control.property("state").toInt() == 1;
 }
 
-bool isFirstRow(const Control& control) {
-  return control.property("selectedRow").toInt() == 0;
-}
-
-QString addressOf(const PanelView& view) {
-  const auto* field = view.control<TextField>(QStringLiteral("printersAddressEditText"));
-  return field == nullptr ? QString() : field->stringValue();
+bool isByLogin(const Control& control) {
+  return control.property("selectedRow").toInt() == ByLogin;
 }
 
 bool lacksAddress(const Control& control) {
-  return !isPrinterAddress(addressOf(*control.view()));
+  return !isPrinterAddress(printerAddress(*control.view()));
 }
 
 // Where a user goes on after a choice that asks for an entry.
@@ -62,7 +55,7 @@ struct NextEntry {
 
 constexpr std::array nextEntries{
     NextEntry{"retentionCheckBox", isOn, "suspendKeyEditText"},
-    NextEntry{"authenticationMatrix", isFirstRow, "loginNameEditText"},
+    NextEntry{"authenticationMatrix", isByLogin, "loginNameEditText"},
     NextEntry{"getFolderNameButton", lacksAddress, "printersAddressEditText"},
 };
 
@@ -216,7 +209,7 @@ void PanelPane::alignFirstResponder() {
 }
 
 QString PanelPane::addressFault() const {
-  const QString address = addressOf(*m_view);
+  const QString address = printerAddress(*m_view);
   if (isPrinterAddress(address)) return {};
   return address.isEmpty() ? tr("Enter the printer's address to get the names of its folders.")
                            : tr("\"%1\" is not an address. Enter the printer's name or IP address.")
@@ -255,19 +248,16 @@ void PanelPane::refresh() {
   Q_EMIT panelChanged();
 }
 
-void PanelPane::showMissingEntry() {
-  const auto* authentication = m_view->control<RadioMatrix>(QStringLiteral("authenticationMatrix"));
-  const bool isByLogin = authentication != nullptr && authentication->selectedRow() == 0;
-  const QString stem = isByLogin ? QStringLiteral("loginName") : QStringLiteral("userNumber");
-  QWidget* entry = widgetOf(stem + QStringLiteral("EditText"));
+void PanelPane::showEntry(Entry entry) {
+  QWidget* widget = widgetOf(fieldOf(entry));
   // A locked entry has to be opened first.
-  if (entry != nullptr && !entry->isEnabled()) entry = widgetOf(stem + QStringLiteral("Button"));
-  if (entry == nullptr) return;
-  for (QWidget* each = entry; each->parentWidget() != nullptr; each = each->parentWidget()) {
+  if (widget != nullptr && !widget->isEnabled()) widget = widgetOf(holdButtonOf(entry));
+  if (widget == nullptr) return;
+  for (QWidget* each = widget; each->parentWidget() != nullptr; each = each->parentWidget()) {
     auto* tabs = qobject_cast<QTabWidget*>(each->parentWidget()->parentWidget());
     if (tabs != nullptr) tabs->setCurrentWidget(each);
   }
-  entry->setFocus(Qt::OtherFocusReason);
+  widget->setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace kesto

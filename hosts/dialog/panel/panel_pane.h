@@ -4,6 +4,7 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
+#include "hosts/session/panel_entries.h"
 #include "platform/outcome.h"
 
 namespace kesto {
@@ -31,7 +32,7 @@ class PanelPane : public QWidget {
   /// Says beside the choice of a folder that it has no effect on the job.
   void sayNothingIsFiled();
   /// Shows the page of the entry that a refused job misses, and puts the focus there.
-  void showMissingEntry();
+  void showEntry(Entry entry);
 
  Q_SIGNALS:
   /// Something in the panel has changed; once for all changes of one moment.

@@ -10,7 +10,7 @@
 #include <QtWidgets/QPushButton>
 
 #include "hosts/dialog/widgets/plain_text.h"
-#include "hosts/session/job_session.h"
+#include "hosts/session/panel_session.h"
 
 namespace kesto {
 namespace {
@@ -22,7 +22,7 @@ QString menuText(QString name) {
 
 }  // namespace
 
-PresetMenu::PresetMenu(JobSession& session, QWidget* parent)
+PresetMenu::PresetMenu(PanelSession& session, QWidget* parent)
     : QToolButton(parent), m_session(session), m_menu(new QMenu(this)) {
   setPlainText(*this, tr("Presets"));
   setAccessibleName(tr("Presets"));

@@ -5,7 +5,7 @@
 
 namespace kesto {
 
-class JobSession;
+class PanelSession;
 
 /// Loads, saves and deletes presets of the queue's panel; of use only while there is one.
 class PresetMenu : public QToolButton {
@@ -13,7 +13,7 @@ class PresetMenu : public QToolButton {
 
  public:
   /// `session` must outlive the menu.
-  PresetMenu(JobSession& session, QWidget* parent);
+  PresetMenu(PanelSession& session, QWidget* parent);
 
  Q_SIGNALS:
   /// A preset has been read into the panel.
@@ -25,7 +25,7 @@ class PresetMenu : public QToolButton {
   void save();
   void remove(const QString& name);
 
-  JobSession& m_session;
+  PanelSession& m_session;
   QMenu* m_menu;
 };
 

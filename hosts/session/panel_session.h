@@ -1,4 +1,4 @@
-// What a dialog prints with: the open queue, its panel, and the preferences.
+// A queue and its panel, from the opening to what is remembered of the job.
 #pragma once
 
 #include <memory>
@@ -6,21 +6,28 @@
 
 #include "hosts/cups/queue.h"
 #include "hosts/session/gated_platform.h"
-#include "hosts/session/job_option_table.h"
+#include "hosts/session/panel_entries.h"
 #include "hosts/session/panel_host.h"
 #include "hosts/session/preset_store.h"
 
 namespace kesto {
 
+/// What a panel starts with.
+struct PanelStart {
+  std::optional<QString> jobName;      ///< None for a job that has none.
+  std::optional<QString> preset = {};  ///< To restore, of the queue.
+  bool keepsAside = false;             ///< What the panel remembers before `remember` is not stored.
+};
+
 /// One queue at a time, with its panel where the queue offers one.
-class JobSession {
+class PanelSession {
  public:
   /// `alerts` must outlive the session.
-  explicit JobSession(AlertPresenter& alerts) : m_alerts(alerts) {}
+  explicit PanelSession(AlertPresenter& alerts) : m_alerts(alerts) {}
 
-  /// Goes over to a queue, whose panel is made, restored and ready to be shown. The job has this name. When
-  /// the panel cannot be had the queue prints without it, and the outcome says why.
-  Outcome take(const std::shared_ptr<Queue>& queue, const QString& jobName);
+  /// Goes over to a queue, whose panel is made, restored and ready to be shown. When there is none to be had
+  /// the queue is open without it, and the outcome says why. It also fails on a preset that cannot be loaded.
+  Outcome open(const std::shared_ptr<Queue>& queue, const PanelStart& start);
   /// Lets go of the panel and the queue. Ends what the panel is waiting for.
   void release();
 
@@ -28,9 +35,6 @@ class JobSession {
   const std::shared_ptr<Queue>& queue() const { return m_queue; }
   /// Null for a queue without one, and while there is no queue.
   ppd_file_t* ppd() const;
-  /// The options with a choice to show that are kept for the queue, by its user or on the server. They are
-  /// taken out of its destination, and travel only as part of a job's own options.
-  const JobChoices& kept() const { return m_kept; }
   /// Null for a queue that offers none.
   PrintDialogPanel* panel() const { return m_host ? m_host->panel() : nullptr; }
   /// The panel's controls, null without a panel.
@@ -40,31 +44,39 @@ class JobSession {
 
   /// Another name for the job; the panel shows it unless the user has given one.
   void renameJob(const QString& jobName);
-  /// Writes the panel's entries into the job. Whether the job may go out; if not, the user has been told.
-  bool confirm();
+  /// Writes the panel's entries into the job. None when the job may go out; otherwise the entry that is
+  /// missing, which the panel has said in an alert.
+  std::optional<Entry> confirm();
   /// The job has gone out: its entries become the user's for this queue. Fails when they cannot be kept.
   Outcome remember();
-  /// Why the folders that the panel has just fetched are not there, or not remembered; done when there is
-  /// nothing to say that the panel has not said.
-  Outcome outcomeOfFetch();
   /// The job's print settings, as they travel with it.
   QMap<QString, QString> settings() const;
 
+  /// Why the folders that the panel has just fetched are not there, or not remembered; done when there is
+  /// nothing to say that the panel has not said.
+  Outcome outcomeOfFetch();
+
   /// The presets of the queue; null without a panel.
   PresetStore* presets() { return m_presets ? &*m_presets : nullptr; }
+  /// Restores the panel with a preset.
   Outcome loadPreset(const QString& name);
+  /// Makes a preset of a confirmed job. Fails when it could not be kept under that name.
+  Outcome makePreset(const QString& name, bool withCodes, Preset* preset) const;
+  /// Keeps it.
+  Outcome keepPreset(const QString& name, const Preset& preset);
+  /// Makes and keeps a preset of the panel's entries.
   Outcome savePreset(const QString& name, bool withCodes);
 
  private:
   Outcome loadPlatform();
-  Outcome openPanel(const QString& jobName);
+  Outcome openPanel(const PanelStart& start);
+  QString model() const;
 
   AlertPresenter& m_alerts;
   std::shared_ptr<const Bundle> m_bundle;
   PrintDialogPlugIn* m_plugIn = nullptr;
   std::unique_ptr<GatedPlatform> m_platform;
   std::shared_ptr<Queue> m_queue;
-  JobChoices m_kept;
   std::unique_ptr<PanelHost> m_host;
   std::optional<PresetStore> m_presets;
 };

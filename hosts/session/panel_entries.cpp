@@ -1,0 +1,62 @@
+#include "hosts/session/panel_entries.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtCore/QUrl>
+
+#include "panel/model/panel_view.h"
+#include "panel/model/radio_matrix.h"
+#include "panel/model/text_field.h"
+
+namespace kesto {
+namespace {
+
+struct EntryRow {
+  const char* stem;  // what the names of its controls begin with
+  bool needsHold;
+};
+
+constexpr std::array<EntryRow, entryCount> rows{{
+    {"suspendKey", true},
+    {"folderName", true},
+    {"folderPassword", true},
+    {"loginName", false},
+    {"password", false},
+    {"userNumber", false},
+    {"accountNumber", false},
+    {"userName", false},
+    {"jobName", false},
+}};
+
+}  // namespace
+
+QString fieldOf(Entry entry) {
+  return QLatin1String(rows.at(entry).stem) + QStringLiteral("EditText");
+}
+
+QString holdButtonOf(Entry entry) {
+  return QLatin1String(rows.at(entry).stem) + QStringLiteral("Button");
+}
+
+bool needsHold(Entry entry) {
+  return rows.at(entry).needsHold;
+}
+
+Entry missingEntry(const PanelView& view) {
+  const auto* authentication = view.control<RadioMatrix>(QStringLiteral("authenticationMatrix"));
+  return authentication != nullptr && authentication->selectedRow() == ByLogin ? Login : UserNumber;
+}
+
+QString printerAddress(const PanelView& view) {
+  const auto* field = view.control<TextField>(QStringLiteral("printersAddressEditText"));
+  return field == nullptr ? QString() : field->stringValue();
+}
+
+bool isPrinterAddress(const QString& text) {
+  // Narrower than what a URL may have there: no user, no escapes, nothing beyond ASCII.
+  static const QRegularExpression form(QStringLiteral(
+      R"(\A(?:\[[0-9A-Fa-f:.]+\]|[A-Za-z0-9._~-]+)(?::[0-9]{1,5})?(?:/[A-Za-z0-9._~/-]*)?\z)"));
+  return form.match(text).hasMatch() &&
+         QUrl(QStringLiteral("http://%1/").arg(text), QUrl::StrictMode).isValid();
+}
+
+}  // namespace kesto
