@@ -21,7 +21,7 @@ JobChoices takeFrom(cups_dest_t& destination, ppd_file_t* ppd) {
 }  // namespace
 
 JobChoices takeKeptOptions(Queue& queue) {
-  const JobChoices kept = queue.destination ? takeFrom(*queue.destination, queue.ppd.get()) : JobChoices();
+  JobChoices kept = queue.destination ? takeFrom(*queue.destination, queue.ppd.get()) : JobChoices();
   if (queue.ppd) markDefaults(*queue.ppd, kept.options);
   return kept;
 }
