@@ -208,6 +208,7 @@ TEST_F(DialogPrint, PagesThatTheDocumentHasNotAreNotPrinted) {
   }
   type(u"pages"_s, u"1-3"_s);
   EXPECT_EQ(noteOf(*m_dialog), u""_s);
+  EXPECT_EQ(text(u"message"_s), u""_s);
   type(u"pages"_s, u"2-12"_s);
   EXPECT_EQ(noteOf(*m_dialog), u"The document ends with page 3. Only 2-3 will be printed."_s);
   click(u"print"_s);

@@ -308,7 +308,9 @@ void PrintDialog::print() {
   if (!m_general->fault().isNull()) {
     m_panes->setCurrentWidget(m_general);
     m_general->showFault();
-    return showMessage(m_general->fault());
+    showMessage(m_general->fault());
+    m_choiceFault = m_general->fault();
+    return;
   }
   if (!m_preview->fault().isNull()) return showMessage(m_preview->fault());
   if (const std::optional<Entry> missing = m_session.confirm()) {
@@ -373,7 +375,15 @@ void PrintDialog::setPhase(Phase phase) {
   updateControls();
 }
 
+// A message about a choice goes, or changes, with what it is about.
+void PrintDialog::updateChoiceFault() {
+  if (m_choiceFault.isNull() || m_choiceFault == m_general->fault()) return;
+  showMessage(m_general->fault());
+  m_choiceFault = m_general->fault();
+}
+
 void PrintDialog::showMessage(const QString& message) {
+  m_choiceFault.clear();
   const QString text = shownText(message);
   m_message->setText(text);
   m_message->setAccessibleName(text);

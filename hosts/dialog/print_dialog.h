@@ -106,6 +106,7 @@ class PrintDialog : public QDialog {
   void takeSendFailure(const QString& reason);
   void setPhase(Phase phase);
   void showMessage(const QString& message);
+  void updateChoiceFault();
   void updateControls();
   void updateSummary();
   void giveNames();
@@ -125,6 +126,7 @@ class PrintDialog : public QDialog {
   bool m_isSettled = false;
   Phase m_phase = Phase::Choosing;
   qsizetype m_faultsShown = 0;  // of the document, when Print was pressed
+  QString m_choiceFault;        // the general pane's, while the message shows it
   int m_job = 0;
   QueueChooser* m_chooser = nullptr;
   PresetMenu* m_presets = nullptr;

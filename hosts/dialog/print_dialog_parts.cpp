@@ -120,6 +120,7 @@ void PrintDialog::connectParts() {
     if (m_panelPane != nullptr) m_panelPane->alignChoices();
     updateSummary();
   });
+  connect(m_general, &GeneralPane::changed, this, &PrintDialog::updateChoiceFault);
   connect(m_general, &GeneralPane::optionChosen, this, [this](const QString& option, const QString& choice) {
     if (m_session.panel() != nullptr) m_session.panel()->PPDOptionKeyValueDidChange(option, choice);
   });
