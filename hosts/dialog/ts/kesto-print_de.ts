@@ -238,11 +238,11 @@
     </message>
     <message>
         <source>the bundle gives no panel for the print dialog</source>
-        <translation>das Bündel liefert kein Feld für den Druckdialog</translation>
+        <translation>das Bündel liefert kein Bedienfeld für den Druckdialog</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
-        <translation>das Feld hat kein Layout</translation>
+        <translation>das Bedienfeld hat kein Layout</translation>
     </message>
     <message>
         <source>JobHandling.pde is neither beside the program nor in the library folder</source>
@@ -530,7 +530,7 @@
     </message>
     <message>
         <source>Keep the pass codes, too</source>
-        <translation>Auch die Kennwort-Nummern speichern</translation>
+        <translation>Auch die PINs speichern</translation>
     </message>
     <message>
         <source>Name:</source>

@@ -378,7 +378,7 @@
     </message>
     <message>
         <source>the print server has ended the job: %1</source>
-        <translation>le serveur d’impression a mis fin à la tâche&#xa0;: %1</translation>
+        <translation>le serveur d’impression a mis fin au travail&#xa0;: %1</translation>
     </message>
     <message>
         <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
@@ -390,11 +390,11 @@
     </message>
     <message>
         <source>the job&apos;s options</source>
-        <translation>les options de la tâche</translation>
+        <translation>les options du travail</translation>
     </message>
     <message>
         <source>the print server&apos;s answer holds no job</source>
-        <translation>la réponse du serveur d’impression ne contient aucune tâche</translation>
+        <translation>la réponse du serveur d’impression ne contient aucun travail</translation>
     </message>
     <message>
         <source>the folders cannot be remembered: %1</source>
@@ -672,7 +672,7 @@
     </message>
     <message>
         <source>This printer cannot do %1. The job is printed without it.</source>
-        <translation>Cette imprimante ne permet pas %1. La tâche est imprimée sans cela.</translation>
+        <translation>Cette imprimante ne permet pas %1. Le travail est imprimé sans cela.</translation>
     </message>
 </context>
 <context>
@@ -714,11 +714,11 @@
     <name>kesto::QueueListModel</name>
     <message>
         <source>Not accepting jobs: %1</source>
-        <translation>N’accepte pas de tâches : %1</translation>
+        <translation>N’accepte pas de travaux : %1</translation>
     </message>
     <message>
         <source>Not accepting jobs</source>
-        <translation>N’accepte pas de tâches</translation>
+        <translation>N’accepte pas de travaux</translation>
     </message>
     <message>
         <source>Paused: %1</source>
