@@ -115,6 +115,8 @@ TEST_F(LpEntries, TheHelpFitsAScreen) {
   EXPECT_EQ(help.code, 0);
   EXPECT_TRUE(
       help.out.contains(u"--pin N                   pass code of the held job, at most 8 digits\n"_s));
+  for (const QChar option : u"dhUnPotqHimsEpwcfyST"_s)
+    EXPECT_TRUE(help.out.contains(u" -%1 "_s.arg(option))) << option.toLatin1();
   EXPECT_LE(help.out.count(u'\n'), 45);
   for (const QString& line : help.out.split(u'\n'))
     EXPECT_LE(line.size(), 80) << line.toStdString();

@@ -11,6 +11,7 @@ Prints files, or standard input, with a printer's Job Handling.
 
   -d QUEUE -h HOST[:PORT] -U USER -n COPIES -P PAGES -o NAME=VALUE -t TITLE
   -q PRIORITY -H WHEN -i JOB -m -s -E   as of the usual print command
+  -p and -w                 as -q and -m;  -c -f -y -S -T have no effect
   --ppd FILE --device-uri URI   stand for a queue where no job is sent
   --dry-run                 print the job's settings and send nothing; keep only
                             what --remember, --forget or --save-preset ask for
