@@ -28,7 +28,7 @@ Outcome failedAt(const QString& path) {
   return Outcome::failed(path + QStringLiteral(": ") + qt_error_string(errno));
 }
 
-QString absolute(const QString& path) {
+QString cleanAbsolute(const QString& path) {
   return QDir::cleanPath(QDir(path).absolutePath());
 }
 
@@ -61,7 +61,7 @@ QString RunFolder::standardPath() {
   if (!runtime.isNull() && getuid() != 0) places << runtime + QStringLiteral("/kesto-demo");
   if (!temporary.isEmpty()) places << temporary + name;
   for (const QString& place : places) {
-    if (isUsable(absolute(place))) return place;
+    if (isUsable(cleanAbsolute(place))) return place;
   }
   return QStringLiteral("/tmp") + name;
 }
@@ -82,7 +82,7 @@ QString RunFolder::socketPath(const QString& name) const {
 }
 
 Outcome RunFolder::take(const QString& path) {
-  m_path = absolute(path);
+  m_path = cleanAbsolute(path);
   if (!isUsable(m_path)) {
     return Outcome::failed(
         m_path +

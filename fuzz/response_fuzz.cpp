@@ -5,10 +5,10 @@
 namespace kesto::fuzz {
 namespace {
 
-constexpr qsizetype largestBody = 10'000;
+constexpr qsizetype largestResponse = 10'000;
 
 HttpResponse readInPieces(const QByteArray& input, qsizetype piece) {
-  HttpResponse response(largestBody);
+  HttpResponse response(largestResponse);
   for (qsizetype start = 0; start < input.size() && !response.isBad(); start += piece)
     response.take(input.mid(start, piece));
   response.end();
@@ -20,7 +20,7 @@ HttpResponse readInPieces(const QByteArray& input, qsizetype piece) {
 void runResponse(const QByteArray& input) {
   const HttpResponse whole = readInPieces(input, qMax(qsizetype{1}, input.size()));
   require(whole.isWhole() != whole.isBad(), "a response that has ended is whole or bad");
-  require(!whole.isWhole() || whole.receivedData().size() <= largestBody, "a body is within its limit");
+  require(!whole.isWhole() || whole.receivedData().size() <= largestResponse, "a body is within its limit");
   const HttpResponse pieces = readInPieces(input, 1);
   require(pieces.isWhole() == whole.isWhole(), "pieces make no difference");
   if (!whole.isWhole()) return;

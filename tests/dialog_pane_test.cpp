@@ -278,9 +278,9 @@ void deleteText(QWidget* line, const QString& text) {
 
 TEST_F(DialogPane, AssistiveTechnologyGoesThroughTheFilterAndTheRules) {
   struct Change {
-    const char* field;
+    const char* field = nullptr;
     Text before;
-    void (*change)(QWidget* line, const QString& text);
+    void (*change)(QWidget* line, const QString& text) = nullptr;
     Text given;
     Text after;
   };

@@ -246,7 +246,7 @@ TEST_F(Resources, AMissingImageOrRequestIsDoneWithout) {
     TestPanel panel(platform);
     EXPECT_TRUE(panel.controller->shouldPrint());
     panel.host.expect("jobSuspend=0");
-    const auto& items = popUp(panel.view(), "folderSelectionPopup").items();
+    const auto items = popUp(panel.view(), "folderSelectionPopup").items();
     EXPECT_EQ(items.front().image.has_value(), hasSpace) << missing;
     EXPECT_EQ(items.back().image->name, u"lock"_s);
     EXPECT_EQ(items.back().image->path.isNull(), missing != u"listfiles2.xml") << missing;

@@ -132,9 +132,9 @@ TEST_F(Environment, NamesOfTheAccount) {
 
 TEST(ShownText, NothingOfItIsObeyed) {
   for (const auto& [text, shown] : Cases{{"Größe 印 \U0001F5A8", "Größe 印 \U0001F5A8"},
-                                         {"a\nb\r\tc", "a\\nb\\r\\tc"},
-                                         {"\x1b[2J\x7f\u009b", "\\x1b[2J\\x7f\\x9b"},
-                                         {"x\u202Efdp.exe\u2028\u200F", "x\\u202efdp.exe\\u2028\\u200f"},
+                                         {"a\nb\r\tc", R"(a\nb\r\tc)"},
+                                         {"\x1b[2J\x7f\u009b", R"(\x1b[2J\x7f\x9b)"},
+                                         {"x\u202Efdp.exe\u2028\u200F", R"(x\u202efdp.exe\u2028\u200f)"},
                                          {"می\u200Cخواهم", "می\u200Cخواهم"},
                                          {"", ""}})
     EXPECT_EQ(shownText(text), shown);

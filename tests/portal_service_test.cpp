@@ -18,8 +18,12 @@ namespace kesto::test {
 namespace {
 
 void waitFor(const std::function<bool()>& isReached) {
-  while (!isReached())
+  QTimer wake;  // what is deleted later wakes nobody
+  wake.start(20);
+  while (!isReached()) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
 }
 
 // A dialog that was started, as its user and its window.

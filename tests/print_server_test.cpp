@@ -348,7 +348,8 @@ Outcome askAt(int operation, PrintServer& server) {
   if (operation == IPP_OP_GET_PRINTER_ATTRIBUTES) return server.findQueue(u"q"_s, &queue);
   if (operation == HostileServer::atGet) return fetchPpdFile(server, u"q"_s, &ppd);
   cups_dest_t destination{};
-  destination.name = const_cast<char*>("q");
+  std::string name = "q";
+  destination.name = name.data();
   return sendJob(
       server, destination, {.title = u"t"_s, .files = {{.path = "/dev/zero"}}, .options = {}},
       [](int, qint64, qint64) { return true; }, &job);
@@ -365,7 +366,8 @@ TEST(HostilePrintServer, NothingThatItDoesLastsOrFillsMemory) {
   for (const auto& [what, misbehaviour, fault] : misbehaviours) {
     std::list<HostileServer> servers;
     std::vector<std::future<QString>> reasons;
-    for (const auto& [operation, attempt] : operations) {
+    for (const auto& each : operations) {
+      const int operation = each.first;
       const QString address = servers.emplace_back(operation, misbehaviour).address();
       reasons.push_back(std::async(std::launch::async, [operation, address] {
         std::unique_ptr<PrintServer> server;

@@ -13,8 +13,8 @@ namespace {
 constexpr char stranger[] = "kesto-check";
 
 struct OptionRow {
-  const char* key;   // of the print settings, after their common prefix
-  const char* word;  // what it says of the job
+  const char* key = nullptr;   // of the print settings, after their common prefix
+  const char* word = nullptr;  // what it says of the job
   const char* prefix = printSettingsPrefix;
   bool isServers = false;  // which gives it to the job itself
 

@@ -15,7 +15,7 @@
 namespace kesto {
 namespace {
 
-constexpr qsizetype blockSize = 65536;
+constexpr qsizetype documentBlock = 65536;
 constexpr qsizetype longestName = 255;
 // How often it is asked whether to go on while nobody writes the document.
 constexpr int questionMs = 200;
@@ -94,7 +94,7 @@ ssize_t readSome(int descriptor, QByteArray* block) {
 Outcome copyDocument(const Document& document, const HttpRequest::Sink& sink,
                      const std::function<bool(qint64)>& progress, Outcome* read) {
   qint64 sent = 0;
-  QByteArray block(blockSize, Qt::Uninitialized);
+  QByteArray block(documentBlock, Qt::Uninitialized);
   for (;;) {
     if (!progress(sent)) return *read = Outcome::failed(Faults::tr("the job was stopped"));
     const ssize_t count = readSome(document.file->handle(), &block);
