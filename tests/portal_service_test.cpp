@@ -366,7 +366,8 @@ TEST_F(PortalServiceTest, OneClientHasEightDialogsAtMost) {
     EXPECT_EQ(Answer(prepare(handle(client))).response(), 2U);
   }
   Answer another(print(handle("stranger"), {}));
-  EXPECT_EQ(startedDialog().nextWord(), u"open");
+  Dialog ofAnother = startedDialog();  // which ends when it is let go
+  EXPECT_EQ(ofAnother.nextWord(), u"open");
   dialogs.front().say(R"({"answer":"cancelled"})");
   dialogs.front().say(R"({"exit":0})");
   EXPECT_EQ(answers.front()->response(), 1U);

@@ -15,7 +15,7 @@ struct EntryRow {
   bool needsHold;
 };
 
-constexpr std::array<EntryRow, entryCount> rows{{
+constexpr std::array<EntryRow, entryCount> entryRows{{
     {"suspendKey", true},
     {"folderName", true},
     {"folderPassword", true},
@@ -30,15 +30,15 @@ constexpr std::array<EntryRow, entryCount> rows{{
 }  // namespace
 
 QString fieldOf(Entry entry) {
-  return QLatin1String(rows.at(entry).stem) + QStringLiteral("EditText");
+  return QLatin1String(entryRows.at(entry).stem) + QStringLiteral("EditText");
 }
 
 QString holdButtonOf(Entry entry) {
-  return QLatin1String(rows.at(entry).stem) + QStringLiteral("Button");
+  return QLatin1String(entryRows.at(entry).stem) + QStringLiteral("Button");
 }
 
 bool needsHold(Entry entry) {
-  return rows.at(entry).needsHold;
+  return entryRows.at(entry).needsHold;
 }
 
 Entry missingEntry(const PanelView& view) {
