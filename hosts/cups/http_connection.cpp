@@ -22,6 +22,12 @@ void shutDown(http_t* http) {
   if (httpGetFd(http) >= 0) ::shutdown(httpGetFd(http), SHUT_RDWR);
 }
 
+// Nothing more is wanted of a connection: else libcups keeps what it has unpacked of a reply that breaks off.
+void letGo(http_t* http) {
+  shutDown(http);
+  httpFlush(http);
+}
+
 // libcups takes any number for a status, those with it that its type cannot hold.
 http_status_t nextStatus(http_t* http) {
   const int status = httpUpdate(http);
@@ -36,8 +42,7 @@ bool isRedirect(http_status_t status) {
 }  // namespace
 
 void CloseHttp::operator()(http_t* http) const {
-  shutDown(http);
-  httpFlush(http);  // Else libcups keeps what it has unpacked of a reply that breaks off.
+  letGo(http);
   httpClose(http);
 }
 
@@ -89,7 +94,7 @@ Outcome HttpConnection::open(std::chrono::milliseconds limit, std::shared_ptr<Wa
 
 Outcome HttpConnection::reconnect() {
   http_t* http = m_http.get();
-  shutDown(http);
+  letGo(http);
   m_isSilent = false;
   m_isUsable = false;
   m_waitBegan = Clock::now();
@@ -225,7 +230,7 @@ bool HttpConnection::canTryAgain(const HttpRequest& request) {
   http_t* http = m_http.get();
   if (m_status == HTTP_STATUS_UPGRADE_REQUIRED && httpIsEncrypted(http) == 0) {
     const Watch watch(*m_watchdog, http, m_addresses.get(), m_limit * waitsOfConnect);
-    shutDown(http);
+    letGo(http);
     httpReconnect2(http, static_cast<int>(m_limit.count()), m_watchdog->cancelFlag());
     m_isUsable = httpEncryption(http, HTTP_ENCRYPTION_REQUIRED) == 0;
     return m_isUsable;
