@@ -2,7 +2,7 @@
 
 #include <QtCore/QCryptographicHash>
 
-#include "platform/print_settings.h"
+#include "platform/job_keys.h"
 #include "platform/text_encoding.h"
 
 namespace kesto {
@@ -34,7 +34,7 @@ QByteArray JobTicket::setting(const char* key) const {
 }
 
 Retention JobTicket::retention() const {
-  const QByteArray digit = setting("jobSuspend");
+  const QByteArray digit = setting(job_keys::jobSuspend);
   if (digit == "1") return Retention::PrintAndHold;
   if (digit == "2") return Retention::HoldOnly;
   if (digit == "3") return Retention::PrintSampleAndHold;
@@ -44,27 +44,27 @@ Retention JobTicket::retention() const {
 QString JobTicket::name() const {
   QByteArray hex;
   for (int piece = 1; piece <= mostPieces; ++piece)
-    hex += setting(("jobName3" + QByteArray::number(piece)).constData());
+    hex += setting((job_keys::jobName3 + QByteArray::number(piece)).constData());
   QString name = QString::fromUtf8(QByteArray::fromHex(hex));
   if (name.isEmpty())
-    name = textOfBytes(QByteArray::fromHex(setting("jobName2")), TextEncoding::WindowsLatin1);
+    name = textOfBytes(QByteArray::fromHex(setting(job_keys::jobName2)), TextEncoding::WindowsLatin1);
   return name.isEmpty() ? title : name;
 }
 
 std::optional<QString> JobTicket::account() const {
-  const QByteArray number = setting("accountNumber");
+  const QByteArray number = setting(job_keys::accountNumber);
   return number.isEmpty() ? std::nullopt : std::optional(QString::fromUtf8(number));
 }
 
 bool JobTicket::hasPassCode() const {
-  return !setting("jobSuspendKey").isEmpty();
+  return !setting(job_keys::jobSuspendKey).isEmpty();
 }
 
 bool JobTicket::opensWith(const QString& passCode) const {
   const QByteArray padded = passCode.toUtf8().rightJustified(shortestPassCode, '0');
-  const QByteArray spoolTime = QByteArray::fromHex(setting("spoolTime"));
+  const QByteArray spoolTime = QByteArray::fromHex(setting(job_keys::spoolTime));
   return QCryptographicHash::hash(padded + spoolTime, QCryptographicHash::Md5).toHex() ==
-         setting("jobSuspendKey");
+         setting(job_keys::jobSuspendKey);
 }
 
 }  // namespace kesto

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "panel/folder_entry.h"
+#include "platform/folder_entry.h"
 
 namespace kesto {
 

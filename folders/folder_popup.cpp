@@ -7,7 +7,6 @@
 namespace kesto {
 namespace {
 
-constexpr int mainFolderItem = 1;
 constexpr std::size_t fixedItems = 2;
 
 }  // namespace
@@ -40,13 +39,12 @@ void FolderPopup::makeFolderPopup() {
 }
 
 int FolderPopup::SearchSameFolderName(const QString& name) const {
-  if (name.isNull() || !m_state.folderList) return mainFolderItem;
+  if (name.isNull() || !m_state.folderList) return MainFolder;
   const auto& folders = *m_state.folderList;
   const auto found = std::ranges::find_if(folders, [&](const FolderEntry& folder) {
     return folder.name.compare(name, Qt::CaseInsensitive) == 0;
   });
-  return found == folders.end() ? mainFolderItem
-                                : firstFolderItem + static_cast<int>(found - folders.begin());
+  return found == folders.end() ? MainFolder : firstFolderItem + static_cast<int>(found - folders.begin());
 }
 
 bool FolderPopup::offersAllFolders() const {

@@ -15,7 +15,7 @@ class FolderPopup {
   /// name as `SearchSameFolderName` finds it (else the main folder), and then the pop-up's action is sent, so
   /// that the rules hold.
   void makeFolderPopup();
-  /// The item of the first folder of that name, letter case aside; 1, the main folder, when there is none.
+  /// The item of the first folder of that name, letter case aside; the main folder when there is none.
   int SearchSameFolderName(const QString& name) const;
   /// Whether every folder of the list is in the pop-up. True without a pop-up or without folders.
   bool offersAllFolders() const;

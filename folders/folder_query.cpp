@@ -43,7 +43,7 @@ void FolderQuery::getFolderNameButtonProc(Control* /*sender*/) {
   if (!*isAlive) return;
   const bool isRead = parseXML(answerFilePath(*m_state.platform));
   if (m_lastFetch == FolderFetch::Listed && !isRead) m_lastFetch = FolderFetch::NotRead;
-  m_store.SaveFolderPreference();
+  m_saveFolders();
   m_folderPopup.makeFolderPopup();
 }
 

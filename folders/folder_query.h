@@ -2,9 +2,9 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
-#include "folders/folder_list_store.h"
 #include "folders/folder_popup.h"
 #include "folders/soap_client.h"
 #include "platform/panel.h"
@@ -19,8 +19,9 @@ namespace kesto {
 /// an alert.
 class FolderQuery : public SoapContext {
  public:
-  FolderQuery(PanelState& state, FolderPopup& folderPopup, FolderListStore& store)
-      : m_state(state), m_folderPopup(folderPopup), m_store(store) {}
+  /// `saveFolders` keeps the printer's address and folder list as they then stand.
+  FolderQuery(PanelState& state, FolderPopup& folderPopup, std::function<void()> saveFolders)
+      : m_state(state), m_folderPopup(folderPopup), m_saveFolders(std::move(saveFolders)) {}
   ~FolderQuery() override;
 
   /// The button's action. Whatever becomes of the exchange, the answer file, old or new, is read, stored and
@@ -41,7 +42,7 @@ class FolderQuery : public SoapContext {
 
   PanelState& m_state;
   FolderPopup& m_folderPopup;
-  FolderListStore& m_store;
+  std::function<void()> m_saveFolders;
   FolderFetch m_lastFetch = FolderFetch::None;
   KestoPrintPdeVq250nJCSOAPClient* m_running = nullptr;            // while an exchange waits
   std::shared_ptr<bool> m_isAlive = std::make_shared<bool>(true);  // outlives this in a waiting exchange

@@ -2,8 +2,8 @@
 // system encoding.
 #include "bench/bench_platform.h"
 #include "fuzz/targets.h"
+#include "platform/job_keys.h"
 #include "plugin/job_handling_panel.h"
-#include "settings/job_keys.h"
 
 namespace kesto::fuzz {
 namespace {

@@ -7,9 +7,6 @@ namespace kesto {
 namespace {
 
 constexpr char16_t bullet = 0x2022;
-constexpr int quickFile = 0;
-constexpr int mainFolder = 1;
-constexpr int holdAfterPrint = 1;
 
 using E = EnablingRules;
 
@@ -20,10 +17,6 @@ void ControlActions::runRules(std::initializer_list<Rules> rules) {
     (m_rules.*rule)();
 }
 
-void ControlActions::runIfPresent(const Button* button, Rules rule) {
-  if (button != nullptr) (m_rules.*rule)();
-}
-
 void ControlActions::clearUnlessHeld(Held field) {
   const HeldField& row = rowOf(field);
   TextField* edit = m_state.outlets.*row.edit;
@@ -32,19 +25,19 @@ void ControlActions::clearUnlessHeld(Held field) {
 
 void ControlActions::quickFileChosen() {
   RadioMatrix* matrix = m_state.outlets.suspendMatrix;
-  if (matrix != nullptr) matrix->selectRow(holdAfterPrint);
+  if (matrix != nullptr) matrix->selectRow(HoldAfterPrint);
   clearUnlessHeld(Held::SuspendKey);
 }
 
 void ControlActions::leaveQuickFile() {
   PopUp* popUp = m_state.outlets.folderSelectionPopup;
-  if (popUp != nullptr && popUp->selectedIndex() == quickFile) {
-    popUp->selectItemAtIndex(mainFolder);
+  if (popUp != nullptr && popUp->selectedIndex() == QuickFile) {
+    popUp->selectItemAtIndex(MainFolder);
     folderSelectionPopUpButtonProc(popUp);
   }
   RadioMatrix* matrix = m_state.outlets.folderSelectionMatrix;
-  if (matrix != nullptr && matrix->selectedRow() == quickFile) {
-    matrix->selectRow(mainFolder);
+  if (matrix != nullptr && matrix->selectedRow() == QuickFile) {
+    matrix->selectRow(MainFolder);
     folderSelectionMatrixProc(matrix);
   }
 }
@@ -53,7 +46,7 @@ void ControlActions::retentionCBoxProc(Control* /*sender*/) {
   const Outlets& o = m_state.outlets;
   if (o.retentionCheckBox == nullptr) return;
   if (o.retentionCheckBox->state() != 1) {
-    if (o.suspendMatrix != nullptr) o.suspendMatrix->selectRow(0);
+    if (o.suspendMatrix != nullptr) o.suspendMatrix->selectRow(HoldOnly);
     clearUnlessHeld(Held::SuspendKey);
     leaveQuickFile();
     clearUnlessHeld(Held::FolderPassword);
@@ -68,14 +61,14 @@ void ControlActions::retentionCBoxProc(Control* /*sender*/) {
 
 void ControlActions::suspendKeyMatrixProc(Control* /*sender*/) {
   const RadioMatrix* matrix = m_state.outlets.suspendMatrix;
-  if (matrix == nullptr || matrix->selectedRow() == holdAfterPrint) return;
+  if (matrix == nullptr || matrix->selectedRow() == HoldAfterPrint) return;
   leaveQuickFile();
 }
 
 void ControlActions::folderSelectionPopUpButtonProc(Control* /*sender*/) {
   const PopUp* popUp = m_state.outlets.folderSelectionPopup;
   if (popUp == nullptr) return;
-  if (popUp->selectedIndex() == quickFile) quickFileChosen();
+  if (popUp->selectedIndex() == QuickFile) quickFileChosen();
   runRules({&E::suspendKeyStaticTextEnabled, &E::suspendKeyEditTextEnabled, &E::suspendKeyButtonEnabled,
             &E::folderPasswordStaticTextEnabled, &E::folderPasswordEditTextEnabled,
             &E::folderPasswordButtonEnabled, &E::folderNameButtonEnabled});
@@ -84,8 +77,8 @@ void ControlActions::folderSelectionPopUpButtonProc(Control* /*sender*/) {
 void ControlActions::folderSelectionMatrixProc(Control* /*sender*/) {
   const RadioMatrix* matrix = m_state.outlets.folderSelectionMatrix;
   const int row = matrix == nullptr ? -1 : matrix->selectedRow();
-  if (row == quickFile) quickFileChosen();
-  if (row == quickFile || row == mainFolder) {
+  if (row == QuickFile) quickFileChosen();
+  if (row == QuickFile || row == MainFolder) {
     clearUnlessHeld(Held::FolderPassword);
     clearUnlessHeld(Held::FolderName);
   }
@@ -118,36 +111,11 @@ void ControlActions::loginNameButtonProc(Control* /*sender*/) {
   m_rules.loginNameEditTextEnabled();
 }
 
-void ControlActions::suspendKeyButtonProc(Control* /*sender*/) {
-  runIfPresent(m_state.outlets.suspendKeyButton, &E::suspendKeyEditTextEnabled);
-}
-
-void ControlActions::folderPasswordButtonProc(Control* /*sender*/) {
-  runIfPresent(m_state.outlets.folderPasswordButton, &E::folderPasswordEditTextEnabled);
-}
-
-void ControlActions::folderNameButtonProc(Control* /*sender*/) {
-  runIfPresent(m_state.outlets.folderNameButton, &E::folderNameEditTextEnabled);
-}
-
-void ControlActions::passwordButtonProc(Control* /*sender*/) {
-  runIfPresent(m_state.outlets.passwordButton, &E::passwordEditTextEnabled);
-}
-
-void ControlActions::userNumberButtonProc(Control* /*sender*/) {
-  runIfPresent(m_state.outlets.userNumberButton, &E::userNumberEditTextEnabled);
-}
-
-void ControlActions::userNameButtonProc(Control* /*sender*/) {
-  runIfPresent(m_state.outlets.userNameButton, &E::userNameEditTextEnabled);
-}
-
-void ControlActions::jobNameButtonProc(Control* /*sender*/) {
-  runIfPresent(m_state.outlets.jobNameButton, &E::jobNameEditTextEnabled);
-}
-
-void ControlActions::accountNumberButtonProc(Control* /*sender*/) {
-  runIfPresent(m_state.outlets.accountNumberButton, &E::accountNumberEditTextEnabled);
+void ControlActions::holdButtonProc(Held field) {
+  const HeldField& row = rowOf(field);
+  Button* button = m_state.outlets.*row.button;
+  if (field == Held::LoginName) return loginNameButtonProc(button);
+  if (button != nullptr) (m_rules.*row.rule)();
 }
 
 }  // namespace kesto

@@ -25,16 +25,9 @@ class ControlActions {
   void authenticationMatrixProc(Control* sender);
   /// On: keeps the login name aside and shows bullets. Off: forgets it.
   void loginNameButtonProc(Control* sender);
-
-  // A hold button freezes or frees its field.
-  void suspendKeyButtonProc(Control* sender);
-  void folderPasswordButtonProc(Control* sender);
-  void folderNameButtonProc(Control* sender);
-  void passwordButtonProc(Control* sender);
-  void userNumberButtonProc(Control* sender);
-  void userNameButtonProc(Control* sender);
-  void jobNameButtonProc(Control* sender);
-  void accountNumberButtonProc(Control* sender);
+  /// The action of any field's hold button: freezes or frees the field. That of the login name is
+  /// `loginNameButtonProc`.
+  void holdButtonProc(Held field);
 
   // Controls whose operation changes nothing else.
   void tabProc(Control* /*sender*/) {}
@@ -55,7 +48,6 @@ class ControlActions {
   void quickFileChosen();
   void leaveQuickFile();
   void runRules(std::initializer_list<Rules> rules);
-  void runIfPresent(const Button* button, Rules rule);
 
   PanelState& m_state;
   EnablingRules& m_rules;

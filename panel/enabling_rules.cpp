@@ -17,22 +17,17 @@ struct Conditions {
   bool login;            // authentication by login name
 };
 
-bool isProtectedFolder(const PanelState& state, int item) {
-  if (item < firstFolderItem || !state.folderList) return false;
-  const auto folder = static_cast<std::size_t>(item - firstFolderItem);
-  return folder < state.folderList->size() && (*state.folderList)[folder].password;
-}
-
 Conditions conditionsOf(const PanelState& state) {
   const Outlets& o = state.outlets;
   const int item = o.folderSelectionPopup == nullptr ? -1 : o.folderSelectionPopup->selectedIndex();
+  const FolderEntry* folder = state.folderOfItem(item);
   const int row = o.folderSelectionMatrix == nullptr ? -1 : o.folderSelectionMatrix->selectedRow();
   return {
       .retention = isOn(o.retentionCheckBox),
-      .quickFile = item == 0 || row == 0,
-      .protectedFolder = isProtectedFolder(state, item),
-      .customFolder = row == 2,
-      .login = o.authenticationMatrix == nullptr || o.authenticationMatrix->selectedRow() == 0,
+      .quickFile = item == QuickFile || row == QuickFile,
+      .protectedFolder = folder != nullptr && folder->password,
+      .customFolder = row == CustomFolder,
+      .login = o.authenticationMatrix == nullptr || o.authenticationMatrix->selectedRow() == ByLogin,
   };
 }
 
@@ -70,35 +65,11 @@ bool login(const Conditions& c) {
 
 using O = Outlets;
 
-// In the order of EnablingRules::Rule.
 constexpr std::array table{
-    Row{"suspendMatrixEnabled", &O::suspendMatrix, retention},
-    Row{"suspendKeyStaticTextEnabled", &O::suspendKeyStaticText, passCode},
-    Row{"suspendKeyEditTextEnabled", &O::suspendKeyEditText, passCode, &O::suspendKeyButton},
-    Row{"suspendKeyButtonEnabled", &O::suspendKeyButton, passCode},
-    Row{"folderSelectionStaticTextEnabled", &O::folderSelectionStaticText, retention},
-    Row{"folderSelectionPopupEnabled", &O::folderSelectionPopup, retention},
-    Row{"folderPasswordStaticTextEnabled", &O::folderPasswordStaticText, folderPassCode},
-    Row{"folderPasswordEditTextEnabled", &O::folderPasswordEditText, folderPassCode,
-        &O::folderPasswordButton},
-    Row{"folderPasswordButtonEnabled", &O::folderPasswordButton, folderPassCode},
-    Row{"folderSelectionMatrixEnabled", &O::folderSelectionMatrix, retention},
-    Row{"folderNameEditTextEnabled", &O::folderNameEditText, folderName, &O::folderNameButton},
-    Row{"folderNameButtonEnabled", &O::folderNameButton, folderName},
-    Row{"loginNameStaticTextEnabled", &O::loginNameStaticText, login},
-    Row{"loginNameEditTextEnabled", &O::loginNameEditText, login, &O::loginNameButton},
-    Row{"loginNameButtonEnabled", &O::loginNameButton, login},
-    Row{"passwordStaticTextEnabled", &O::passwordStaticText, login},
-    Row{"passwordEditTextEnabled", &O::passwordEditText, login, &O::passwordButton},
-    Row{"passwordButtonEnabled", &O::passwordButton, login},
-    Row{"userNumberEditTextEnabled", &O::userNumberEditText, always, &O::userNumberButton},
-    Row{"userNumberButtonEnabled", {}, always},
-    Row{"userNameEditTextEnabled", &O::userNameEditText, always, &O::userNameButton},
-    Row{"jobNameEditTextEnabled", &O::jobNameEditText, always, &O::jobNameButton},
-    Row{"accountNumberEditTextEnabled", &O::accountNumberEditText, always, &O::accountNumberButton},
-    Row{"accountNumberButtonEnabled", {}, always},
+#define KESTO_RULE_ROW(name, ...) Row{#name, __VA_ARGS__},
+    KESTO_ENABLING_RULES(KESTO_RULE_ROW)
+#undef KESTO_RULE_ROW
 };
-static_assert(table.size() == EnablingRules::accountNumberButtonEnabledRule + 1);
 
 const Row* rowNamed(const QString& name) {
   for (const Row& row : table) {

@@ -17,32 +17,33 @@ void myVq250nJCHilite(TextField& field, bool dim);
 
 }  // namespace MySetEnabled
 
-// The rules in the order of their declaration. Each is an operation of EnablingRules and a row of its table.
-#define KESTO_ENABLING_RULES(RULE)       \
-  RULE(suspendMatrixEnabled)             \
-  RULE(suspendKeyStaticTextEnabled)      \
-  RULE(suspendKeyEditTextEnabled)        \
-  RULE(suspendKeyButtonEnabled)          \
-  RULE(folderSelectionStaticTextEnabled) \
-  RULE(folderSelectionPopupEnabled)      \
-  RULE(folderPasswordStaticTextEnabled)  \
-  RULE(folderPasswordEditTextEnabled)    \
-  RULE(folderPasswordButtonEnabled)      \
-  RULE(folderSelectionMatrixEnabled)     \
-  RULE(folderNameEditTextEnabled)        \
-  RULE(folderNameButtonEnabled)          \
-  RULE(loginNameStaticTextEnabled)       \
-  RULE(loginNameEditTextEnabled)         \
-  RULE(loginNameButtonEnabled)           \
-  RULE(passwordStaticTextEnabled)        \
-  RULE(passwordEditTextEnabled)          \
-  RULE(passwordButtonEnabled)            \
-  RULE(userNumberEditTextEnabled)        \
-  RULE(userNumberButtonEnabled)          \
-  RULE(userNameEditTextEnabled)          \
-  RULE(jobNameEditTextEnabled)           \
-  RULE(accountNumberEditTextEnabled)     \
-  RULE(accountNumberButtonEnabled)
+// The rules in the order of their declaration: name, control, when it is available, hold button of a field.
+// Each is an operation of EnablingRules and a row of its table.
+#define KESTO_ENABLING_RULES(RULE)                                                                          \
+  RULE(suspendMatrixEnabled, &O::suspendMatrix, retention)                                                  \
+  RULE(suspendKeyStaticTextEnabled, &O::suspendKeyStaticText, passCode)                                     \
+  RULE(suspendKeyEditTextEnabled, &O::suspendKeyEditText, passCode, &O::suspendKeyButton)                   \
+  RULE(suspendKeyButtonEnabled, &O::suspendKeyButton, passCode)                                             \
+  RULE(folderSelectionStaticTextEnabled, &O::folderSelectionStaticText, retention)                          \
+  RULE(folderSelectionPopupEnabled, &O::folderSelectionPopup, retention)                                    \
+  RULE(folderPasswordStaticTextEnabled, &O::folderPasswordStaticText, folderPassCode)                       \
+  RULE(folderPasswordEditTextEnabled, &O::folderPasswordEditText, folderPassCode, &O::folderPasswordButton) \
+  RULE(folderPasswordButtonEnabled, &O::folderPasswordButton, folderPassCode)                               \
+  RULE(folderSelectionMatrixEnabled, &O::folderSelectionMatrix, retention)                                  \
+  RULE(folderNameEditTextEnabled, &O::folderNameEditText, folderName, &O::folderNameButton)                 \
+  RULE(folderNameButtonEnabled, &O::folderNameButton, folderName)                                           \
+  RULE(loginNameStaticTextEnabled, &O::loginNameStaticText, login)                                          \
+  RULE(loginNameEditTextEnabled, &O::loginNameEditText, login, &O::loginNameButton)                         \
+  RULE(loginNameButtonEnabled, &O::loginNameButton, login)                                                  \
+  RULE(passwordStaticTextEnabled, &O::passwordStaticText, login)                                            \
+  RULE(passwordEditTextEnabled, &O::passwordEditText, login, &O::passwordButton)                            \
+  RULE(passwordButtonEnabled, &O::passwordButton, login)                                                    \
+  RULE(userNumberEditTextEnabled, &O::userNumberEditText, always, &O::userNumberButton)                     \
+  RULE(userNumberButtonEnabled, {}, always)                                                                 \
+  RULE(userNameEditTextEnabled, &O::userNameEditText, always, &O::userNameButton)                           \
+  RULE(jobNameEditTextEnabled, &O::jobNameEditText, always, &O::jobNameButton)                              \
+  RULE(accountNumberEditTextEnabled, &O::accountNumberEditText, always, &O::accountNumberButton)            \
+  RULE(accountNumberButtonEnabled, {}, always)
 
 /// The enabling rules: each reads the controls' states and sets its one control. They keep no state; an
 /// absent control is skipped, and a condition on an absent control is false; an absent authentication matrix
@@ -52,14 +53,14 @@ class EnablingRules {
   explicit EnablingRules(PanelState& state) : m_state(state) {}
 
   enum Rule : std::uint8_t {
-#define KESTO_RULE_NAME(name) name##Rule,
+#define KESTO_RULE_NAME(name, ...) name##Rule,
     KESTO_ENABLING_RULES(KESTO_RULE_NAME)
 #undef KESTO_RULE_NAME
   };
 
-#define KESTO_RULE_OPERATION(name) \
-  void name() {                    \
-    run(name##Rule);               \
+#define KESTO_RULE_OPERATION(name, ...) \
+  void name() {                         \
+    run(name##Rule);                    \
   }
   KESTO_ENABLING_RULES(KESTO_RULE_OPERATION)
 #undef KESTO_RULE_OPERATION

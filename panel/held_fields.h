@@ -37,27 +37,46 @@ enum class Held : std::uint8_t {
   FolderName,
 };
 
+/// How a field stands in the job's print settings.
+enum class JobForm : std::uint8_t {
+  ReadOnly,     ///< The panel reads it and never writes it.
+  DigitsFirst,  ///< Sealed, and beside it the digest of the padded digits and the spool time.
+  TimeFirst,    ///< The same, with the digest of the spool time and the padded digits.
+  Number,       ///< Sealed, and beside it the padded digits in clear.
+  Name,         ///< In the system encoding, in Windows Latin-1 and in UTF-8, without control characters.
+  Folder,       ///< In the same three encodings, whole or not at all, while documents are filed.
+};
+
 /// How the preferences store a field's value.
 enum class RememberedForm : std::uint8_t { SealedHex, SealedBase64, SealedAsciiHex, Clear };
 
 /// The filter that watches over the field's typing.
 enum class FilterKind : std::uint8_t { None, Digits, Characters };
 
+class EnablingRules;
+
 /// One field: everything that differs between the nine.
 struct HeldField {
   Held field;
-  int bit;                    ///< Of the hold-button mask.
-  const char* key;            ///< Last component of the print-settings key read back; null for none.
-  const char* recordKey;      ///< Of the preference record.
-  RememberedForm form;        ///< In the preference record.
-  int cipherBytes;            ///< Bytes deciphered of a sealed value in hex; 0 for other forms.
-  int longestPlaintext;       ///< Longest plaintext that the reader accepts; 0 for no limit.
-  int writtenBytes;           ///< Bytes that the writer takes, in the system encoding; 0 for none.
-  FilterKind filter;          ///< While typing.
-  int filterLimit;            ///< UTF-16 units that typing can reach; 0 without a filter.
-  TextField* Outlets::*edit;  ///< The text field.
-  Button* Outlets::*button;   ///< Its hold button.
+  int bit;  ///< Of the hold-button mask.
+
+  JobForm jobForm;       ///< In the job's print settings.
+  const char* key;       ///< Of the value that is read back.
+  const char* second;    ///< Key of what is beside it: digest, digits, Latin-1 form, second half; or null.
+  const char* utf8;      ///< Key of the form in UTF-8; null for none.
+  int writtenBytes;      ///< Bytes that the writer takes, in the system encoding; 0 for no limit of its own.
+  int longestPlaintext;  ///< Longest plaintext that the reader accepts; 0 for no limit.
+
+  const char* recordKey;                  ///< Of the preference record.
+  RememberedForm form;                    ///< In the preference record.
+  int cipherBytes;                        ///< Bytes deciphered of a sealed value in hex; 0 for other forms.
   QString RememberedValues::*remembered;  ///< Its remembered value.
+
+  FilterKind filter;              ///< While typing.
+  int filterLimit;                ///< UTF-16 units that typing can reach; 0 without a filter.
+  TextField* Outlets::*edit;      ///< The text field.
+  Button* Outlets::*button;       ///< Its hold button.
+  void (EnablingRules::*rule)();  ///< Whether the text field is available.
 };
 
 /// All nine, in the order of their bits.

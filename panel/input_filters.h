@@ -12,9 +12,9 @@ class LengthLimitedFilter : public Formatter {
  public:
   /// The length that typing can reach; 0 until it is set, which refuses every insertion.
   void SetmaxCharactersCount(std::int64_t count) { maxValue = count; }
-  /// The format of numbers, which the filter itself never asks for: it watches over text.
+  /// The format of numbers, as any number formatter has one; nothing asks for it: the filter watches over
+  /// text.
   void setFormat(const QString& format) { m_format = format; }
-  QString format() const { return m_format; }
 
   /// An edit whose caret would pass the limit is cut to the limit, never within a surrogate pair, all
   /// selected, and refused. A deletion is accepted. An insertion is accepted when the text before it was
@@ -49,12 +49,11 @@ class LoginnameInputFilterCallback {
   virtual ~LoginnameInputFilterCallback() = default;
 };
 
-/// Accepts every edit. No field of the layouts carries it.
+/// Accepts every edit. It belongs to the panel's filters, though no field of this model's layouts carries it.
 class LoginnameInputFilter : public Formatter {
  public:
   /// `callback` is not owned and never called.
   void setCallback(LoginnameInputFilterCallback* callback) { m_context = callback; }
-  LoginnameInputFilterCallback* callback() const { return m_context; }
 
   bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,
                             const QString& originalString, TextRange originalSelectedRange,

@@ -5,11 +5,12 @@
 #include <memory>
 #include <optional>
 
-#include "panel/folder_entry.h"
 #include "panel/held_fields.h"
 #include "panel/outlets.h"
 #include "platform/bundle.h"
+#include "platform/folder_entry.h"
 #include "platform/host_callback.h"
+#include "platform/panel_choices.h"
 #include "platform/platform.h"
 #include "platform/print_settings.h"
 #include "platform/secret.h"
@@ -30,6 +31,12 @@ struct PanelState {
 
   /// The job's print settings, null when the host has none.
   PrintSettings* printSettings() const { return pdePluginCallbackObject->printSettings(); }
+  /// The printer's folder of a pop-up item; null when the item stands for none.
+  const FolderEntry* folderOfItem(int item) const {
+    if (item < firstFolderItem || !folderList) return nullptr;
+    const auto folder = static_cast<std::size_t>(item - firstFolderItem);
+    return folder < folderList->size() ? &(*folderList)[folder] : nullptr;
+  }
 
   const void* controller = nullptr;         ///< The panel, whose calls the trace names.
   HostCallback* pdePluginCallbackObject;    ///< The host's; outlives the panel.
@@ -56,8 +63,8 @@ struct PanelState {
 
   // Values.
   int presetHoldButtonFlag = 0;  ///< The hold-button mask of the job's print settings.
-  int prefHoldButtonFlag =
-      0;  ///< The hold-button mask of the preferences; a bit goes once its field is restored.
+  /// The hold-button mask of the preferences; a bit goes once its field is restored.
+  int prefHoldButtonFlag = 0;
   RememberedValues remembered;     ///< Of the preferences.
   QString folderNameStringRef;     ///< The custom folder name last restored; null for none.
   QString loginNameStringRef;      ///< The login name while its hold button is on; null for none.

@@ -8,7 +8,12 @@
 #include <optional>
 #include <vector>
 
+#include "platform/folder_entry.h"
+
 namespace kesto {
+
+/// The type identifier of the print dialog, compared exactly.
+inline constexpr char printDialogType[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
 class Bundle;
 class HostCallback;
@@ -24,10 +29,9 @@ enum class FolderFetch {
 };
 
 /// A panel of a print dialog. The host owns it from the request on and calls it on one thread. The properties
-/// that a panel's own class adds to these are its facts, all read-only.
+/// that a panel's own class adds are its facts, all read-only, for hosts that show a panel they do not know.
 class PrintDialogPanel : public QObject {
   Q_OBJECT
-  Q_PROPERTY(bool filesDocuments READ filesDocuments CONSTANT)
 
  public:
   using QObject::QObject;
@@ -41,6 +45,10 @@ class PrintDialogPanel : public QObject {
   virtual QString panelKind() = 0;
   /// The PPD options that the panel handles; the host shows no controls of its own for them.
   virtual QStringList supportedPPDOptionKeys() = 0;
+  /// The model name that the PPD declares; null without one.
+  virtual QString modelName() const = 0;
+  /// The printer's folders as they were last fetched or remembered.
+  virtual FolderList folders() const = 0;
   /// Whether the printer's model files documents. A model that does not shows and remembers the choice of a
   /// folder like any other, but no job carries it: hosts say so beside it.
   virtual bool filesDocuments() const = 0;

@@ -20,30 +20,35 @@ constexpr std::array table{
   ActionRow {                                                                                   \
 #name ":", [](const ActionGroups& groups, Control* sender) { groups.actions.name(sender); } \
   }
+#define HOLD_ACTION(name, field)                                                                        \
+  ActionRow {                                                                                           \
+#name ":", [](const ActionGroups& groups, Control*) { groups.actions.holdButtonProc(Held::field); } \
+  }
     ACTION(tabProc),
     ACTION(retentionCBoxProc),
     ACTION(suspendKeyMatrixProc),
     ACTION(suspendKeyETextProc),
-    ACTION(suspendKeyButtonProc),
+    HOLD_ACTION(suspendKeyButtonProc, SuspendKey),
     ACTION(folderSelectionPopUpButtonProc),
     ACTION(folderPasswordETextProc),
-    ACTION(folderPasswordButtonProc),
-    ACTION(folderNameButtonProc),
+    HOLD_ACTION(folderPasswordButtonProc, FolderPassword),
+    HOLD_ACTION(folderNameButtonProc, FolderName),
     ACTION(folderSelectionMatrixProc),
     ACTION(authenticationMatrixProc),
     ACTION(loginNameETextProc),
     ACTION(loginNameButtonProc),
     ACTION(passwordETextProc),
-    ACTION(passwordButtonProc),
+    HOLD_ACTION(passwordButtonProc, Password),
     ACTION(userNumberETextProc),
-    ACTION(userNumberButtonProc),
+    HOLD_ACTION(userNumberButtonProc, UserNumber),
     ACTION(userNameETextProc),
-    ACTION(userNameButtonProc),
+    HOLD_ACTION(userNameButtonProc, UserName),
     ACTION(jobNameETextProc),
-    ACTION(jobNameButtonProc),
+    HOLD_ACTION(jobNameButtonProc, JobName),
     ACTION(accountNumberETextProc),
-    ACTION(accountNumberButtonProc),
+    HOLD_ACTION(accountNumberButtonProc, AccountNumber),
     ACTION(printersAddressButtonProc),
+#undef HOLD_ACTION
 #undef ACTION
     ActionRow{"getFolderNameButtonProc:",
               [](const ActionGroups& groups, Control* sender) {

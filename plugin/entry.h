@@ -5,9 +5,6 @@
 
 namespace kesto {
 
-/// The type identifier of the print dialog, compared exactly.
-inline constexpr char printDialogType[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
-
 /// Contributes one Job Handling panel to the print dialog, and none to other dialogs. It keeps no state.
 class KestoPrintPdeVq250nJCPDEPlugIn : public QObject, public PrintDialogPlugIn {
   Q_OBJECT

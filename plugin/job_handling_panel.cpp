@@ -226,12 +226,8 @@ QVariant KestoPrintPdeVq250nJC::addressStringRef() const {
 QVariant KestoPrintPdeVq250nJC::folderList() const {
   if (!m_state.folderList) return QVariant::fromValue(nullptr);
   QVariantList list;
-  for (const FolderEntry& folder : *m_state.folderList) {
-    list.append(QVariantMap{{QStringLiteral("name"), folder.name},
-                            {QStringLiteral("password"), folder.password},
-                            {QStringLiteral("dir"), folder.dir},
-                            {QStringLiteral("add"), folder.add}});
-  }
+  for (const FolderEntry& folder : *m_state.folderList)
+    list.append(jsonOf(folder).toVariantMap());
   return list;
 }
 

@@ -50,6 +50,8 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   QString panelName() override;
   QString panelKind() override;
   QStringList supportedPPDOptionKeys() override;
+  QString modelName() const override { return m_state.modelStringRef; }
+  FolderList folders() const override { return m_state.folderList; }
   bool filesDocuments() const override { return CheckHardDisk(); }
   FolderFetch lastFolderFetch() const override { return m_folderQuery.lastFetch(); }
   void willShow() override;
@@ -92,7 +94,7 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   SettingsWriter m_writer{m_state, *this};
   SettingsReader m_reader{m_state, m_actions, m_folderPopup};
   PreferenceStore m_preferences{m_state};
-  FolderQuery m_folderQuery{m_state, m_folderPopup, m_preferences};
+  FolderQuery m_folderQuery{m_state, m_folderPopup, [this] { m_preferences.SaveFolderPreference(); }};
   ppd_file_s* m_ppd = nullptr;  // the host's
   QString m_thePDEName;
   std::unique_ptr<PanelView> m_panelView;

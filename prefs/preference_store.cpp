@@ -30,20 +30,6 @@ QString stringOf(const QJsonObject& record, const QString& key) {
   return text.isNull() ? QStringLiteral("") : text;
 }
 
-QJsonObject jsonOf(const FolderEntry& folder) {
-  return {{QStringLiteral("name"), folder.name},
-          {QStringLiteral("password"), folder.password},
-          {QStringLiteral("dir"), folder.dir},
-          {QStringLiteral("add"), folder.add}};
-}
-
-FolderEntry folderOf(const QJsonObject& entry) {
-  return {.name = entry.value(QStringLiteral("name")).toString(),
-          .password = entry.value(QStringLiteral("password")).toBool(),
-          .dir = entry.value(QStringLiteral("dir")).toBool(),
-          .add = entry.value(QStringLiteral("add")).toBool()};
-}
-
 struct Mask {
   int value = 0;
   bool exact = false;

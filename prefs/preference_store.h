@@ -5,7 +5,6 @@
 #include <functional>
 #include <optional>
 
-#include "folders/folder_list_store.h"
 #include "panel/state.h"
 
 namespace kesto {
@@ -13,7 +12,7 @@ namespace kesto {
 /// Validates, loads and saves what the user let the panel remember for the printer. Every operation reads the
 /// domain afresh, and every write replaces the record and keeps the domain's other keys: the last writer's
 /// record wins. Without a preference domain there is nothing to load, and saving answers false.
-class PreferenceStore : public FolderListStore {
+class PreferenceStore {
  public:
   explicit PreferenceStore(PanelState& state) : m_state(state) {}
 
@@ -27,8 +26,9 @@ class PreferenceStore : public FolderListStore {
   bool SaveUserPreference();
   /// Loads the folder list and the printer's address.
   void GetFolderPreference();
-  bool SaveFolderPreference() override;
-  /// This model keeps nothing of a hard disk.
+  /// Stores both as they stand; false when nothing could be written.
+  bool SaveFolderPreference();
+  /// This model keeps nothing of a hard disk; its controller never asks.
   bool GetHDDPreference() { return true; }
   bool SaveHDDPreference() { return true; }
 

@@ -4,8 +4,8 @@
 #include <limits>
 
 #include "panel/trace.h"
+#include "platform/job_keys.h"
 #include "platform/secret.h"
-#include "settings/job_keys.h"
 #include "settings/stored_forms.h"
 
 namespace kesto {
@@ -13,8 +13,6 @@ namespace {
 
 constexpr qsizetype textBuffer = 256;
 constexpr qsizetype loginNameBuffer = 511;
-
-using A = ControlActions;
 
 // The leading decimal integer of a text, 0 when there is none; beyond 32 bits the nearest that fits.
 int leadingInteger(const QString& text) {
@@ -67,10 +65,10 @@ void SettingsReader::setSealed(const HeldField& row, QByteArray plaintext) {
   wipe(text);
 }
 
-void SettingsReader::setHold(const HeldField& row, bool hold, Action action) {
+void SettingsReader::setHold(const HeldField& row, bool hold) {
   Button* button = m_state.outlets.*row.button;
   if (button != nullptr) button->setState(hold ? 1 : 0);
-  (m_actions.*action)(button);
+  m_actions.holdButtonProc(row.field);
 }
 
 void SettingsReader::getNonPPDSettingsFromPrintSettings() {
@@ -78,17 +76,17 @@ void SettingsReader::getNonPPDSettingsFromPrintSettings() {
   if (m_state.printSettings() != nullptr) {
     readHoldMask();
     readRetention();
-    readSealed(Held::SuspendKey, &A::suspendKeyButtonProc);
+    readSealed(Held::SuspendKey);
     readFiling();
     readAuthentication();
     readLoginName();
-    readSealed(Held::Password, &A::passwordButtonProc);
-    readSealed(Held::UserNumber, &A::userNumberButtonProc);
-    readSealed(Held::AccountNumber, &A::accountNumberButtonProc);
+    readSealed(Held::Password);
+    readSealed(Held::UserNumber);
+    readSealed(Held::AccountNumber);
     m_actions.authenticationMatrixProc(m_state.outlets.authenticationMatrix);
-    readName(Held::UserName, &A::userNameButtonProc);
-    readName(Held::JobName, &A::jobNameButtonProc);
-    readSealed(Held::FolderPassword, &A::folderPasswordButtonProc);
+    readName(Held::UserName);
+    readName(Held::JobName);
+    readSealed(Held::FolderPassword);
     m_actions.retentionCBoxProc(m_state.outlets.retentionCheckBox);
     m_actions.folderSelectionPopUpButtonProc(m_state.outlets.folderSelectionPopup);
   }
@@ -101,29 +99,17 @@ void SettingsReader::readHoldMask() {
 }
 
 void SettingsReader::readRetention() {
-  // 0 off, else the row of the hold choice and one.
-  int choice = 0;
-  switch (firstCharacter(value(job_keys::jobSuspend)).unicode()) {
-    case u'1':
-      choice = 2;
-      break;
-    case u'2':
-      choice = 1;
-      break;
-    case u'3':
-      choice = 3;
-      break;
-    default:
-      break;
-  }
-  if (m_state.active_directory) choice = 1;
+  const auto digit = firstCharacter(value(job_keys::jobSuspend)).unicode();
+  const auto* found = std::ranges::find(job_keys::holdDigits, digit);
+  int row = found == job_keys::holdDigits.end() ? -1 : static_cast<int>(found - job_keys::holdDigits.begin());
+  if (m_state.active_directory) row = HoldOnly;
   const Outlets& o = m_state.outlets;
-  if (o.retentionCheckBox != nullptr) o.retentionCheckBox->setState(choice != 0 ? 1 : 0);
+  if (o.retentionCheckBox != nullptr) o.retentionCheckBox->setState(row >= 0 ? 1 : 0);
   m_actions.retentionCBoxProc(o.retentionCheckBox);
-  if (o.suspendMatrix != nullptr) o.suspendMatrix->selectRow(qMax(0, choice - 1));
+  if (o.suspendMatrix != nullptr) o.suspendMatrix->selectRow(qMax(int{HoldOnly}, row));
 }
 
-void SettingsReader::readSealed(Held field, Action action) {
+void SettingsReader::readSealed(Held field) {
   const HeldField& row = rowOf(field);
   bool hold = takePreferenceBit(row);
   const QString& remembered = m_state.remembered.*row.remembered;
@@ -135,7 +121,7 @@ void SettingsReader::readSealed(Held field, Action action) {
     hold = hold || isPresetHeld(row);
   }
   setSealed(row, plaintextOfSealedHex(stored, row.cipherBytes));
-  setHold(row, hold, action);
+  setHold(row, hold);
 }
 
 void SettingsReader::selectFolder(int item, int row) {
@@ -147,16 +133,16 @@ void SettingsReader::selectFolder(int item, int row) {
 // Whether the keys chose a folder.
 bool SettingsReader::readFilingKeys() {
   const QChar filing = firstCharacter(value(job_keys::filing));
-  if (filing == u'1') {
-    selectFolder(0, 0);
+  if (filing == QLatin1Char(job_keys::filingDigit(QuickFile))) {
+    selectFolder(QuickFile, QuickFile);
     return true;
   }
-  if (filing != u'3') return false;
+  if (filing != QLatin1Char(job_keys::filingDigit(CustomFolder))) return false;
   const std::optional<QString> path = value(job_keys::folderPath);
   const std::optional<QByteArray> hex = path ? asciiOfText(*path, textBuffer) : std::nullopt;
   if (!hex) return false;
   m_state.folderNameStringRef = textOfBytes(textOfHex(*hex), m_state.systemEncoding);
-  selectFolder(m_folderPopup.SearchSameFolderName(m_state.folderNameStringRef), 2);
+  selectFolder(m_folderPopup.SearchSameFolderName(m_state.folderNameStringRef), CustomFolder);
   setText(rowOf(Held::FolderName), m_state.folderNameStringRef);
   return true;
 }
@@ -175,8 +161,8 @@ void SettingsReader::readFiling() {
       hold = true;
     }
   }
-  if (!selected) selectFolder(1, 1);
-  setHold(row, hold, &A::folderNameButtonProc);
+  if (!selected) selectFolder(MainFolder, MainFolder);
+  setHold(row, hold);
 }
 
 void SettingsReader::readAuthentication() {
@@ -190,24 +176,21 @@ void SettingsReader::readAuthentication() {
     isLogin = firstCharacter(stored) == u'1';
   }
   RadioMatrix* matrix = m_state.outlets.authenticationMatrix;
-  if (matrix != nullptr) matrix->selectRow(isLogin ? 0 : 1);
+  if (matrix != nullptr) matrix->selectRow(isLogin ? ByLogin : ByUserNumber);
 }
 
-// The sealed login name of the job; under directory operation the account's name stands in for an incomplete
-// one.
-QByteArray SettingsReader::storedLoginName(bool* useAccountName) const {
-  QByteArray first = asciiValue(job_keys::loginName11, loginNameBuffer);
-  const QByteArray second = asciiValue(job_keys::loginName12, loginNameBuffer);
-  const bool isIncomplete = first.isEmpty() || second.isEmpty();
-  *useAccountName = m_state.active_directory && isIncomplete;
-  if (!isIncomplete) first = (first + second).left(loginNameBuffer - 1);
-  return first;
+SettingsReader::StoredLoginName SettingsReader::storedLoginName() const {
+  const HeldField& row = rowOf(Held::LoginName);
+  const QByteArray first = asciiValue(row.key, loginNameBuffer);
+  const QByteArray second = asciiValue(row.second, loginNameBuffer);
+  if (first.isEmpty() || second.isEmpty()) return {.sealed = first, .isWhole = false};
+  return {.sealed = (first + second).left(loginNameBuffer - 1), .isWhole = true};
 }
 
 void SettingsReader::readLoginName() {
   const HeldField& row = rowOf(Held::LoginName);
   Button* button = m_state.outlets.*row.button;
-  setHold(row, false, &A::loginNameButtonProc);
+  setHold(row, false);
   bool hold = takePreferenceBit(row);
   const QString& remembered = m_state.remembered.*row.remembered;
   QByteArray stored;
@@ -215,7 +198,10 @@ void SettingsReader::readLoginName() {
   if (hold && !remembered.isNull()) {
     stored = asciiOfText(remembered, loginNameBuffer).value_or(QByteArray());
   } else {
-    stored = storedLoginName(&useAccountName);
+    const StoredLoginName ofJob = storedLoginName();
+    stored = ofJob.sealed;
+    // Under directory operation the account's name stands in for an incomplete one.
+    useAccountName = m_state.active_directory && !ofJob.isWhole;
     hold = hold || isPresetHeld(row);
   }
   if (useAccountName) {
@@ -225,7 +211,7 @@ void SettingsReader::readLoginName() {
   }
   wipe(m_state.loginNameStringRef);
   m_state.loginNameLockFlag = false;
-  if (hold || isOn(button)) setHold(row, hold, &A::loginNameButtonProc);
+  if (hold || isOn(button)) setHold(row, hold);
 }
 
 std::optional<QString> SettingsReader::fallbackName(Held field) const {
@@ -235,7 +221,7 @@ std::optional<QString> SettingsReader::fallbackName(Held field) const {
   return name.isNull() ? std::nullopt : std::optional(name);
 }
 
-void SettingsReader::readName(Held field, Action action) {
+void SettingsReader::readName(Held field) {
   const HeldField& row = rowOf(field);
   bool hold = takePreferenceBit(row);
   const QString& remembered = m_state.remembered.*row.remembered;
@@ -250,7 +236,7 @@ void SettingsReader::readName(Held field, Action action) {
       setText(row, *fallback);
     }
   }
-  setHold(row, hold, action);
+  setHold(row, hold);
 }
 
 }  // namespace kesto

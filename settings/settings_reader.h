@@ -19,7 +19,11 @@ class SettingsReader {
   void getNonPPDSettingsFromPrintSettings();
 
  private:
-  using Action = void (ControlActions::*)(Control*);
+  // The sealed login name of the job, which holds it in two pieces.
+  struct StoredLoginName {
+    QByteArray sealed;
+    bool isWhole = false;  // both pieces are there
+  };
 
   void readHoldMask();
   void readRetention();
@@ -28,9 +32,9 @@ class SettingsReader {
   void selectFolder(int item, int row);
   void readAuthentication();
   void readLoginName();
-  QByteArray storedLoginName(bool* useAccountName) const;
-  void readSealed(Held field, Action action);
-  void readName(Held field, Action action);
+  StoredLoginName storedLoginName() const;
+  void readSealed(Held field);
+  void readName(Held field);
   std::optional<QString> fallbackName(Held field) const;
 
   std::optional<QString> value(const char* key) const;
@@ -39,7 +43,7 @@ class SettingsReader {
   bool isPresetHeld(const HeldField& row) const { return (m_state.presetHoldButtonFlag & row.bit) != 0; }
   void setText(const HeldField& row, const QString& text);
   void setSealed(const HeldField& row, QByteArray plaintext);
-  void setHold(const HeldField& row, bool hold, Action action);
+  void setHold(const HeldField& row, bool hold);
 
   PanelState& m_state;
   ControlActions& m_actions;

@@ -21,15 +21,13 @@ class SettingsWriter {
  private:
   QByteArray writeSpoolTime();
   int writeFiling();
-  int filingMode() const;
+  int folderChoice() const;
   void writeFolderPath();
-  std::optional<QString> chosenFolderName(bool* isStandard) const;
   void writeFolderName(const QString& name);
-  bool writeRetention(int filingMode);
-  void writeDigitsDigest(Held field, const char* digestKey, const QByteArray& spoolTime, bool spoolTimeFirst);
-  void writeNumber(Held field, const char* plainKey);
-  void writeName(Held field, const char* latin1Key, const char* utf8Key);
-  QByteArray digitsOf(Held field) const;
+  bool writeRetention(int filing);
+  void writeField(Held field, const QByteArray& spoolTime);
+  void writeDigits(const HeldField& row, const QByteArray& spoolTime);
+  void writeName(const HeldField& row);
   void store(const char* key, const QByteArray& value);
   void storeInPieces(const char* key, const QByteArray& value);
 

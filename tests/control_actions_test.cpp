@@ -131,13 +131,12 @@ TEST(ControlActions, EveryActionToleratesAbsentControls) {
   using A = ControlActions;
   constexpr std::array all{
       &A::retentionCBoxProc,         &A::suspendKeyMatrixProc,     &A::folderSelectionPopUpButtonProc,
-      &A::folderSelectionMatrixProc, &A::authenticationMatrixProc, &A::loginNameButtonProc,
-      &A::suspendKeyButtonProc,      &A::folderPasswordButtonProc, &A::folderNameButtonProc,
-      &A::passwordButtonProc,        &A::userNumberButtonProc,     &A::userNameButtonProc,
-      &A::jobNameButtonProc,         &A::accountNumberButtonProc};
+      &A::folderSelectionMatrixProc, &A::authenticationMatrixProc, &A::loginNameButtonProc};
   for (const QString& layout : {u"JobControl4"_s, u"JobControl5"_s, QString()}) {
     PanelGroups panel(layout.isNull() ? u"JobControl6"_s : layout);
     if (layout.isNull()) panel.state.outlets = {};
+    for (const HeldField& row : heldFields)
+      panel.actions.holdButtonProc(row.field);
     for (const auto action : all)
       (panel.actions.*action)(nullptr);
     EXPECT_EQ(panel.view->firstResponder() == nullptr, layout.isNull());

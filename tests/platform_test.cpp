@@ -194,7 +194,7 @@ TEST(Bundle, LoadedThroughItsPrincipalObjectGivesAPanel) {
   const PpdFixture ppd;
   TestHost host(platform);
   host.ppd = ppd.file();
-  PanelList panels = plugIn->PDEPanelsForType(QLatin1String(printDialogTypeIdentifier), &host);
+  PanelList panels = plugIn->PDEPanelsForType(QLatin1String(printDialogType), &host);
   ASSERT_TRUE(panels && panels->size() == 1);
   EXPECT_EQ(panels->front()->panelName(), u"Job Handling"_s);
   EXPECT_NE(panels->front()->panelView(), nullptr);

@@ -222,9 +222,9 @@ TEST(SettingsWriterOfOtherModels, TheControllerAsksItsCapabilities) {
   TestPlatform platform;
   TestPanel panel(platform);
   panel.restore();
-  EXPECT_EQ(panel.fact("filesDocuments"), QVariant(false));
+  EXPECT_FALSE(panel.controller->filesDocuments());
   panel.controller->hasHardDisk = panel.controller->isVelko = true;
-  EXPECT_EQ(panel.fact("filesDocuments"), QVariant(true));
+  EXPECT_TRUE(panel.controller->filesDocuments());
   setControls(panel.view(), "retentionCheckBox=1 suspendMatrix=1 folderSelectionMatrix=0 suspendKey=7");
   panel.save();
   panel.host.expect("filing=1 jobSuspend=0 jobSuspendKey= jobSuspend2Key=");

@@ -5,7 +5,7 @@
 
 #include "hosts/cups/faults.h"
 #include "hosts/cups/ppd_file.h"
-#include "platform/print_settings.h"
+#include "platform/job_keys.h"
 
 namespace kesto {
 namespace {
@@ -30,15 +30,15 @@ constexpr std::array anyOptions{
 
 // One option of each kind that says something of a job with Job Handling.
 constexpr std::array panelOptions{
-    OptionRow{"jobSuspendKey", QT_TRANSLATE_NOOP("kesto::Faults", "the digest of the pass code")},
-    OptionRow{"jobSuspend2Key", QT_TRANSLATE_NOOP("kesto::Faults", "the pass code")},
-    OptionRow{"spoolTime", QT_TRANSLATE_NOOP("kesto::Faults", "the spool time")},
-    OptionRow{"folderPassword2", QT_TRANSLATE_NOOP("kesto::Faults", "the folder's pass code")},
-    OptionRow{"folderPath", QT_TRANSLATE_NOOP("kesto::Faults", "the folder")},
-    OptionRow{"userNumber", QT_TRANSLATE_NOOP("kesto::Faults", "the user number")},
-    OptionRow{"accountNumber", QT_TRANSLATE_NOOP("kesto::Faults", "the account number")},
-    OptionRow{"userName", QT_TRANSLATE_NOOP("kesto::Faults", "the user name")},
-    OptionRow{"jobName", QT_TRANSLATE_NOOP("kesto::Faults", "the job's name")},
+    OptionRow{job_keys::jobSuspendKey, QT_TRANSLATE_NOOP("kesto::Faults", "the digest of the pass code")},
+    OptionRow{job_keys::jobSuspend2Key, QT_TRANSLATE_NOOP("kesto::Faults", "the pass code")},
+    OptionRow{job_keys::spoolTime, QT_TRANSLATE_NOOP("kesto::Faults", "the spool time")},
+    OptionRow{job_keys::folderPassword2, QT_TRANSLATE_NOOP("kesto::Faults", "the folder's pass code")},
+    OptionRow{job_keys::folderPath, QT_TRANSLATE_NOOP("kesto::Faults", "the folder")},
+    OptionRow{job_keys::userNumber, QT_TRANSLATE_NOOP("kesto::Faults", "the user number")},
+    OptionRow{job_keys::accountNumber, QT_TRANSLATE_NOOP("kesto::Faults", "the account number")},
+    OptionRow{job_keys::userName, QT_TRANSLATE_NOOP("kesto::Faults", "the user name")},
+    OptionRow{job_keys::jobName, QT_TRANSLATE_NOOP("kesto::Faults", "the job's name")},
 };
 
 // Its owner may have to say who they are, which libcups then asks for.

@@ -65,7 +65,7 @@ int PanelUser::storedFolder(const QString& name) const {
   if (popUp == nullptr) return MainFolder;
   const int count = static_cast<int>(popUp->items().size());
   for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
-    for (int item = firstStoredFolder; item < count; ++item) {
+    for (int item = firstFolderItem; item < count; ++item) {
       if (popUp->items().at(static_cast<std::size_t>(item)).title.compare(name, sensitivity) == 0)
         return item;
     }

@@ -136,15 +136,13 @@ Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool*
 }
 
 Outcome printFolders(const PrintDialogPanel& panel, bool json) {
-  const QVariantList folders = panel.property("folderList").toList();
-  if (json) return printArray(QJsonArray::fromVariantList(folders));
-  for (const QVariant& entry : folders) {
-    const QVariantMap folder = entry.toMap();
-    const bool isLocked = folder.value(QStringLiteral("password")).toBool();
-    std::cout << shownText(folder.value(QStringLiteral("name")).toString()).toStdString()
-              << (isLocked ? "\tlocked\n" : "\n");
+  QJsonArray array;
+  for (const FolderEntry& folder : panel.folders().value_or(std::vector<FolderEntry>())) {
+    array.append(jsonOf(folder));
+    if (json) continue;
+    std::cout << shownText(folder.name).toStdString() << (folder.password ? "\tlocked\n" : "\n");
   }
-  return Outcome::done();
+  return json ? printArray(array) : Outcome::done();
 }
 
 }  // namespace kesto

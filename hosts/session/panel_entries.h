@@ -1,10 +1,12 @@
-// What a host knows of the panel's controls: its entries, the rows of its choices, its printer's address.
+// What a host knows of the panel's controls: its entries and its printer's address.
 #pragma once
 
 #include <QtCore/QString>
 #include <array>
 #include <cstddef>
 #include <optional>
+
+#include "platform/panel_choices.h"
 
 namespace kesto {
 
@@ -32,14 +34,6 @@ QString fieldOf(Entry entry);
 QString holdButtonOf(Entry entry);
 /// Whether only a job that is held has the entry.
 bool needsHold(Entry entry);
-
-/// Rows of the folder matrix; the first two are the first items of the folder pop-up as well.
-enum FolderRow : int { QuickFile, MainFolder, CustomFolder };
-/// The item of the folder pop-up where the printer's own folders begin.
-inline constexpr int firstStoredFolder = 3;
-
-/// Rows of the authentication matrix.
-enum AuthenticationRow : int { ByLogin, ByUserNumber };
 
 /// What a panel that does not let the job go misses: the login name or the user number.
 Entry missingEntry(const PanelView& view);

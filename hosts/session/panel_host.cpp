@@ -10,7 +10,7 @@
 namespace kesto {
 
 Outcome PanelHost::openPanel(PrintDialogPlugIn& plugIn) {
-  PanelList panels = plugIn.PDEPanelsForType(QLatin1String(printDialogTypeIdentifier), this);
+  PanelList panels = plugIn.PDEPanelsForType(QLatin1String(printDialogType), this);
   if (!panels || panels->empty())
     return Outcome::failed(Faults::tr("the bundle gives no panel for the print dialog"));
   m_panel = std::move(panels->front());

@@ -12,9 +12,6 @@
 
 namespace kesto {
 
-/// The type of dialog that the Job Handling panel belongs to.
-inline constexpr char printDialogTypeIdentifier[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
-
 /// One dialog on one queue: lends printer, PPD and print settings to the panel, and owns all of them. Members
 /// are set before `openPanel`.
 class PanelHost : public HostCallback {

@@ -40,7 +40,7 @@ ppd_file_t* PanelSession::ppd() const {
 }
 
 QString PanelSession::model() const {
-  return panel()->property("modelStringRef").toString();
+  return panel()->modelName();
 }
 
 void PanelSession::release() {

@@ -12,6 +12,7 @@
 #include "panel/model/radio_matrix.h"
 #include "panel/model/text_field.h"
 #include "platform/environment.h"
+#include "platform/job_keys.h"
 #include "platform/text_encoding.h"
 
 namespace kesto {
@@ -23,10 +24,11 @@ constexpr QLatin1String modelKey("model");
 constexpr QLatin1String settingsKey("settings");
 
 // What is bound to the moment of one job, and the plain text of numbers that are read from their sealed form.
-constexpr std::array ofOneJob{QLatin1String("spoolTime"), QLatin1String("jobSuspendKey"),
-                              QLatin1String("folderPassword"), QLatin1String("userNumber"),
-                              QLatin1String("accountNumber")};
-constexpr std::array sealedCodes{QLatin1String("jobSuspend2Key"), QLatin1String("folderPassword2")};
+constexpr std::array ofOneJob{QLatin1String(job_keys::spoolTime), QLatin1String(job_keys::jobSuspendKey),
+                              QLatin1String(job_keys::folderPassword), QLatin1String(job_keys::userNumber),
+                              QLatin1String(job_keys::accountNumber)};
+constexpr std::array sealedCodes{QLatin1String(job_keys::jobSuspend2Key),
+                                 QLatin1String(job_keys::folderPassword2)};
 
 // A stored name of more bytes is not read back.
 constexpr qsizetype longestFolderName = 127;
@@ -43,14 +45,15 @@ QString textOf(const PanelView& view, Entry entry) {
 Outcome addFolder(const PanelView& view, QMap<QString, QString>* settings) {
   const auto* matrix = view.control<RadioMatrix>(QStringLiteral("folderSelectionMatrix"));
   if (matrix == nullptr) return Outcome::done();
-  settings->insert(prefix + QStringLiteral("filing"), QString::number(matrix->selectedRow() + 1));
+  settings->insert(job_keys::whole(job_keys::filing),
+                   QString(QLatin1Char(job_keys::filingDigit(matrix->selectedRow()))));
   if (matrix->selectedRow() != CustomFolder) return Outcome::done();
   const auto* popUp = view.control<PopUp>(QStringLiteral("folderSelectionPopup"));
-  const bool isStored = popUp != nullptr && popUp->selectedIndex() >= firstStoredFolder;
+  const bool isStored = popUp != nullptr && popUp->selectedIndex() >= firstFolderItem;
   const QString name = isStored ? popUp->selectedItem()->title : textOf(view, Folder);
   const auto bytes = cStringOfText(name, systemEncodingOfEnvironment(), longestFolderName + 1);
   if (!bytes) return Outcome::failed(Faults::tr("a preset cannot keep the name of this folder"));
-  settings->insert(prefix + QStringLiteral("folderPath"), QString::fromLatin1(bytes->toHex().toUpper()));
+  settings->insert(job_keys::whole(job_keys::folderPath), QString::fromLatin1(bytes->toHex().toUpper()));
   return Outcome::done();
 }
 
@@ -108,7 +111,7 @@ Outcome makePreset(const PrintSettings& settings, const PanelView& view, bool wi
     const QString name = it.key().sliced(prefix.size());
     if (std::ranges::find(ofOneJob, name) != ofOneJob.end()) continue;
     if (!withCodes && std::ranges::find(sealedCodes, name) != sealedCodes.end()) continue;
-    if (isNamedAfterJob && name.startsWith(QLatin1String("jobName"))) continue;
+    if (isNamedAfterJob && name.startsWith(QLatin1String(job_keys::jobName))) continue;
     preset->settings.insert(it.key(), it.value());
   }
   return addFolder(view, &preset->settings);

@@ -1,6 +1,7 @@
 // One document-filing folder of the printer.
 #pragma once
 
+#include <QtCore/QJsonObject>
 #include <QtCore/QString>
 #include <optional>
 #include <vector>
@@ -17,10 +18,12 @@ struct FolderEntry {
   bool operator==(const FolderEntry&) const = default;
 };
 
+/// A folder as records, facts and listings show it, with the members "name", "password", "dir" and "add".
+QJsonObject jsonOf(const FolderEntry& folder);
+/// The folder of such an object; a member that is absent or of another type is empty or false.
+FolderEntry folderOf(const QJsonObject& object);
+
 /// The printer's folders in its order: none until loaded or fetched, empty when a fetch found nothing.
 using FolderList = std::optional<std::vector<FolderEntry>>;
-
-/// The index of the first folder in the folder pop-up, behind quick file, main folder and a separator.
-inline constexpr int firstFolderItem = 3;
 
 }  // namespace kesto
