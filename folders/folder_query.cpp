@@ -13,9 +13,7 @@ FolderQuery::~FolderQuery() {
 
 void FolderQuery::showProgress(bool isRunning) {
   ProgressIndicator* arrow = m_state.outlets.chasingArrow;
-  if (arrow == nullptr) return;
-  arrow->setAnimating(isRunning);
-  arrow->setHidden(!isRunning);
+  if (arrow != nullptr) arrow->setHidden(!isRunning);
 }
 
 void FolderQuery::fetch(const QString& printerAddress) {

@@ -52,7 +52,7 @@ class LoginnameInputFilterCallback {
 /// Accepts every edit. It belongs to the panel's filters, though no field of this model's layouts carries it.
 class LoginnameInputFilter : public Formatter {
  public:
-  /// `callback` is not owned and never called.
+  /// `callback` is not owned and never called, as the filter has nothing to tell.
   void setCallback(LoginnameInputFilterCallback* callback) { m_context = callback; }
 
   bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,

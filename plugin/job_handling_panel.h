@@ -76,6 +76,7 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   bool isActiveDirectory() const { return m_state.active_directory; }
   bool usesConstraintHandling() const { return m_state.useConstraintHandling; }
   bool hasInited() const { return m_state.hasInited; }
+  /// Whether a restore made the view; the panel owns the view either way.
   bool isPanelViewRetained() const { return m_isPanelViewRetain; }
   int prefHoldButtonFlag() const { return m_state.prefHoldButtonFlag; }
   int presetHoldButtonFlag() const { return m_state.presetHoldButtonFlag; }

@@ -45,7 +45,8 @@ void MyPMPrintSetAsciiCStrValue(PrintSettings* settings, const QString& key, con
 /// settings or with a base key that is null, empty or longer than 98 characters.
 void MyMultiPMPrintSetAsciiCStrValue(PrintSettings* settings, const char* baseKey, const char* value);
 
-/// Joins the pieces of a multi-key value, at most ten, into `destination`, NUL-terminated; a piece that is
+/// Joins the pieces of a multi-key value, the inverse for whoever reads a job: the panel restores names from
+/// their form in the system encoding. Joins at most ten, into `destination`, NUL-terminated; a piece that is
 /// not ASCII or does not fit is left out. Does nothing without settings or room, or with a base key as above.
 void MyMultiPMPrintGetAsciiCStrValue(const PrintSettings* settings, const char* baseKey,
                                      std::span<char> destination);

@@ -206,45 +206,18 @@ TEST(SoapClient, AValidUrlGoesOutUnchanged) {
   }
 }
 
-TEST(SoapClient, PortThatRefuses) {
-  QString url;
-  {
-    const FolderServer gone;
-    url = gone.url();
-  }
-  Exchange exchange;
-  ASSERT_TRUE(exchange.run(url));
-  EXPECT_EQ(exchange.failures, 1);
-}
-
 TEST(SoapClient, InvalidUrlsGiveNoClient) {
-  for (const QString& url : {u"http://bad address/x"_s,
-                             u"http://host: /x"_s,
-                             u"http://127.0.0.1:99999/x"_s,
-                             u"http://[::1/x"_s,
-                             u"http://[1.2.3.4]/x"_s,
-                             u"http://[::1]x/"_s,
-                             u"http://a]/x"_s,
-                             u"http://host/[1]"_s,
-                             u"http://host/a|b"_s,
-                             u"http://host/%4"_s,
-                             u"http://host/%zz"_s,
-                             u"http://drück/x"_s,
-                             u"http://host/ä"_s,
-                             u"http://host/?\""_s,
-                             u"http://host/#<"_s,
-                             u"http://host/x\n"_s,
-                             u"http://fe80::1/x"_s,
-                             u"http:///x"_s,
-                             u"http://u@:80/x"_s,
-                             u"http://"_s,
-                             u"ftp://host/"_s,
-                             u"host"_s,
-                             u""_s,
-                             u"http://"_s + QString(1000000, u'a') + u" /x"_s}) {
-    SCOPED_TRACE(url.left(40).toStdString());
+  // "_" stands for a blank, the last is empty.
+  QStringList urls =
+      u"http://bad_address/x http://host:_/x http://127.0.0.1:99999/x http://[::1/x http://[1.2.3.4]/x "
+      "http://[::1]x/ http://a]/x http://host/[1] http://host/a|b http://host/%4 http://host/%zz "
+      "http://dr\u00FCck/x http://host/\u00E4 http://host/?\" http://host/#< http://host/x\n "
+      "http://fe80::1/x "
+      "http:///x http://u@:80/x http:// ftp://host/ host "_s.split(u' ');
+  urls << u"http://"_s + QString(1000000, u'a') + u"_/x"_s;
+  for (QString& url : urls) {
     Exchange exchange;
-    EXPECT_FALSE(exchange.run(url));
+    EXPECT_FALSE(exchange.run(url.replace(u'_', u' '))) << url.left(40).toStdString();
     EXPECT_EQ(exchange.failures, 0);
   }
 }

@@ -39,7 +39,23 @@ const QSet<QString> withPopUp =
                "getFolderNameButton:pushButton") -
     QSet{u"printersAddressButton:holdButton"_s};
 
-TEST(Layouts, HoldTheControlsOfTheirModeAllFree) {
+// The action that a control of a layout is wired to.
+QString actionOf(const Control& control) {
+  static const QMap<QString, QString> others{
+      {u"retentionCheckBox"_s, u"retentionCBoxProc:"_s},
+      {u"suspendMatrix"_s, u"suspendKeyMatrixProc:"_s},
+      {u"folderSelectionPopup"_s, u"folderSelectionPopUpButtonProc:"_s},
+      {u"printersAddressEditText"_s, u"printersAddressButtonProc:"_s},
+      {u"folderNameEditText"_s, u""_s},
+      {u"tabView"_s, u"tabProc:"_s}};
+  const QString name = control.objectName();
+  if (others.contains(name)) return others.value(name);
+  if (control.kind() == u"textField") return QString(name).replace(u"EditText"_s, u"ETextProc:"_s);
+  const bool isOperated = QStringList{u"holdButton"_s, u"pushButton"_s, u"matrix"_s}.contains(control.kind());
+  return isOperated ? name + u"Proc:"_s : QString();
+}
+
+TEST(Layouts, HoldTheControlsOfTheirModeAllFreeAndWired) {
   struct Case {
     Text name;
     QSet<QString> controls;
@@ -56,6 +72,7 @@ TEST(Layouts, HoldTheControlsOfTheirModeAllFree) {
     for (const Control* control : panel.view->controls()) {
       const QString kind = control->kind();
       controls.insert(control->objectName() + u':' + kind);
+      EXPECT_EQ(control->action(), actionOf(*control)) << control->objectName();
       EXPECT_TRUE(isAvailable(*control) || kind == u"box" || kind == u"tabView" || kind == u"progress");
       EXPECT_TRUE(kind != u"textField" || valueOf(*panel.view, control->objectName()).isEmpty());
       EXPECT_TRUE(kind != u"holdButton" || control->property("state") == 0);

@@ -16,6 +16,8 @@ namespace {
 
 using namespace test;
 
+const QString bundleName = u"JobHandling.pde"_s;
+
 // Sets environment variables for one test; a null value unsets one.
 class Environment : public testing::Test {
  protected:
@@ -69,9 +71,9 @@ TEST_F(Environment, TheFirstLanguageOfTheUsersThatThereIsDecides) {
     for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"})
       set(variable, values.at(static_cast<std::size_t>(number++)));
     EXPECT_EQ(QLocale::languageToCode(userLanguage().language()), language) << values[2] << values[3];
-    const bool isGerman =
-        Bundle(Bundle::find(u"JobHandling.pde"_s)).localizedStringForKey(u"Retention"_s) == u"Zurückhalten"_s;
-    EXPECT_EQ(isGerman, language == u"de"_s);
+    const Bundle bundle(Bundle::find(bundleName));
+    EXPECT_EQ(bundle.localizedStringForKey(u"Retention"_s) == u"Zurückhalten"_s, language == u"de"_s);
+    EXPECT_EQ(bundle.localizedStringForKey(u"No such text"_s), u"No such text"_s);
   }
 }
 
@@ -121,15 +123,6 @@ TEST_F(Environment, FoldersOfVariablesAreAbsoluteOrIgnored) {
   EXPECT_TRUE(userRuntimeDirectory().isNull() && userTemporaryDirectory().isNull()) << relative.constData();
 }
 
-TEST_F(Environment, NamesOfTheAccount) {
-  const passwd* entry = getpwuid(getuid());
-  EXPECT_EQ(accountShortName(), entry == nullptr ? QString() : QString::fromLocal8Bit(entry->pw_name));
-  const QString full =
-      entry == nullptr ? QString() : QString::fromLocal8Bit(entry->pw_gecos).section(u',', 0, 0);
-  const bool isPlain = !full.contains(u'&');  // which stands for the short name
-  EXPECT_TRUE(!isPlain || accountFullName() == (full.isEmpty() ? QString() : full));
-}
-
 TEST(ShownText, NothingOfItIsObeyed) {
   for (const auto& [text, shown] : Cases{{"Größe 印 \U0001F5A8", "Größe 印 \U0001F5A8"},
                                          {"a\nb\r\tc", R"(a\nb\r\tc)"},
@@ -145,21 +138,6 @@ TEST(ShownText, NothingOfItIsObeyed) {
   EXPECT_EQ(shownPath("/gr\xf6n/a\n"), u"/gr\\xf6n/a\\n"_s);
 }
 
-TEST(PrintSettings, PresentAndEmptyAreDifferent) {
-  PrintSettings settings;
-  EXPECT_EQ(settings.value(u"b"_s), std::nullopt);
-  settings.setValue(u"b"_s, u"1"_s);
-  settings.setValue(u"b"_s, u""_s);
-  settings.setValue(u"a"_s, u"2"_s);
-  EXPECT_EQ(settings.value(u"b"_s), u""_s);
-  EXPECT_EQ(settings.all().keys(), (QStringList{u"a"_s, u"b"_s}));
-  for (int time = 0; time < 2; ++time)
-    settings.setValue(u"b"_s, std::nullopt);
-  EXPECT_EQ(settings.all().keys(), QStringList{u"a"_s});
-}
-
-const QString bundleName = u"JobHandling.pde"_s;
-
 TEST(Bundle, ResourcesByNameAndType) {
   const QString path = Bundle::find(bundleName);
   const Bundle bundle(path);
@@ -169,20 +147,6 @@ TEST(Bundle, ResourcesByNameAndType) {
   EXPECT_TRUE(bundle.pathForResource(u"../Resources/"_s, u""_s).isNull()) << "a folder is no resource";
   EXPECT_EQ(bundle.resource(u"missing"_s, u"xml"_s), std::nullopt);
   EXPECT_TRUE(Bundle::find(u"NoSuch.pde"_s).isNull());
-}
-
-TEST(Bundle, TextsInTheLanguageElseTheKey) {
-  using Case = std::pair<QLocale, Text>;
-  for (const auto& [locale, text] :
-       {Case{QLocale(QLocale::German), "Zurückhalten"},
-        Case{QLocale(QLocale::German, QLocale::Switzerland), "Zurückhalten"},
-        Case{QLocale(QLocale::English), "Retention"}, Case{QLocale(QLocale::Korean), "Retention"},
-        Case{QLocale::c(), "Retention"}}) {
-    const Bundle bundle(Bundle::find(bundleName), locale);
-    EXPECT_EQ(bundle.localizedStringForKey(u"Retention"_s), text);
-    EXPECT_EQ(bundle.localizedStringForKey(u"No such text"_s), u"No such text"_s);
-    EXPECT_EQ(bundle.localizedStringForKey(u""_s), u""_s);
-  }
 }
 
 TEST(Bundle, LoadedThroughItsPrincipalObjectGivesAPanel) {

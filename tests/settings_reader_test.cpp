@@ -1,5 +1,6 @@
 #include "settings/settings_reader.h"
 
+#include "platform/job_keys.h"
 #include "support/availability.h"
 #include "support/test_panel.h"
 
@@ -26,6 +27,8 @@ class SettingsReaderTest : public testing::Test {
       fresh.host.put(settings);
       fresh.reader.getNonPPDSettingsFromPrintSettings();
       expectControls(*fresh.view, controls);
+      if (valueOf(*fresh.view, "authenticationMatrix") == u"0")
+        expectRulesHold(*fresh.view, {firstFolderItem});
     }
   }
 
@@ -199,39 +202,25 @@ TEST_F(SettingsReaderTest, WithoutPrintSettingsOrControls) {
 
 // Whatever a job or a preference file holds, the panel comes up, and a held field is closed.
 TEST_F(SettingsReaderTest, HostileValues) {
-  const QStringList keys =
-      u"holdButton jobSuspend jobSuspend2Key filing folderPath Authentication loginName11 loginName12 "
-      u"password2 "
-      "userNumber2 accountNumber2 userName jobName folderPassword2"_s.split(u' ');
-  const QStringList values{QString(100000, u'A'),
-                           QString(255, u'F'),
-                           QString(256, u'9'),
-                           QString(510, u'+'),
-                           u"zz"_s.repeated(64),
-                           u"é😀"_s,
-                           u"FFFE81"_s,
-                           QChar(0xD800),
-                           QString(64, QChar(0)),
-                           u"3"_s,
-                           u"-"_s,
-                           u""_s};
-  for (const TextEncoding encoding :
-       {TextEncoding::MacRoman, TextEncoding::MacJapanese, TextEncoding::MacKorean}) {
-    for (const QString& value : values) {
-      PanelGroups fresh;
-      fresh.state.systemEncoding = encoding;
-      for (const QString& key : keys)
-        fresh.host.put(key, value);
-      for (const HeldField& row : heldFields)
-        fresh.state.remembered.*row.remembered = value;
-      for (const int mask : {0, 511}) {
-        fresh.state.prefHoldButtonFlag = mask;
-        fresh.reader.getNonPPDSettingsFromPrintSettings();
-        for (const QString& name : heldNames) {
-          const TextField* text = &field(*fresh.view, name);
-          EXPECT_FALSE(button(*fresh.view, name + u"Button"_s).state() == 1 && isAvailable(*text)) << name;
-          EXPECT_TRUE(text->stringValue().size() <= 511 || text->stringValue() == value) << name;
-        }
+  for (const QString& value :
+       {QString(100000, u'A'), QString(256, u'9'), QString(510, u'+'), u"zz"_s.repeated(64),
+        u"\u00E9\U0001F600"_s, u"FFFE81"_s, QString(QChar(0xD800)), QString(64, QChar(0)), u""_s}) {
+    PanelGroups fresh;
+    fresh.state.systemEncoding = TextEncoding::MacJapanese;
+    for (const char* key : {job_keys::holdButton, job_keys::jobSuspend, job_keys::filing,
+                            job_keys::authentication, job_keys::loginName12})
+      fresh.host.put(key, value);
+    for (const HeldField& row : heldFields) {
+      fresh.host.put(row.key, value);
+      fresh.state.remembered.*row.remembered = value;
+    }
+    for (const int mask : {0, 511}) {
+      fresh.state.prefHoldButtonFlag = mask;
+      fresh.reader.getNonPPDSettingsFromPrintSettings();
+      for (const HeldField& row : heldFields) {
+        const TextField& text = *(fresh.state.outlets.*row.edit);
+        EXPECT_FALSE(isOn(fresh.state.outlets.*row.button) && isAvailable(text)) << row.recordKey;
+        EXPECT_TRUE(text.stringValue().size() <= 511 || text.stringValue() == value) << row.recordKey;
       }
     }
   }

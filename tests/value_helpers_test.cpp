@@ -67,16 +67,6 @@ TEST(ReplaceSpaceCode, ControlCharactersAndQuotesBecomeBlanks) {
   ReplaceSpaceCode({});
 }
 
-TEST(WindowsLatin1, NotOnEastAsianSystems) {
-  using enum TextEncoding;
-  for (const TextEncoding encoding : {MacJapanese, MacTraditionalChinese, MacKorean, MacSimplifiedChinese}) {
-    EXPECT_FALSE(encodingWindowsLatin1(encoding));
-  }
-  for (const TextEncoding encoding : {MacRoman, MacGreek, MacCyrillic, MacCentralEurope, MacTurkish}) {
-    EXPECT_TRUE(encodingWindowsLatin1(encoding));
-  }
-}
-
 TEST(AsciiValue, StoredOrTheKeyRemoved) {
   PrintSettings settings;
   for (const char* value : {static_cast<const char*>(nullptr), "", "\xE9", "abc\x80"}) {

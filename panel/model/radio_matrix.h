@@ -49,7 +49,6 @@ class RadioMatrix : public Control {
 
   /// Appends a row; the view owns the cell.
   RadioCell* addCell(const QString& name, const QString& title);
-  const std::vector<RadioCell*>& cells() const { return m_cells; }
   /// The cell of the selected row, null when none is selected.
   const RadioCell* selectedCell() const;
 

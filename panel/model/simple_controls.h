@@ -46,11 +46,6 @@ class ProgressIndicator : public Control {
  public:
   using Control::Control;
   QString kind() const override { return QStringLiteral("progress"); }
-  bool isAnimating() const { return m_animating; }
-  void setAnimating(bool animating) { assign(m_animating, animating); }
-
- private:
-  bool m_animating = false;
 };
 
 }  // namespace kesto

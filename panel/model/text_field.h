@@ -16,7 +16,8 @@ struct TextRange {
   bool operator==(const TextRange&) const = default;
 };
 
-/// Judges every edit of the user before it happens.
+/// Judges every edit of the user before it happens. A field shows its value as it is: the conversions of a
+/// value are part of the protocol of formatters, and no field asks for them.
 class Formatter {
  public:
   virtual ~Formatter() = default;

@@ -50,9 +50,32 @@ inline QMap<QString, bool> availabilityOf(const Choices& c) {
   };
 }
 
-/// The nine fields that a hold button can freeze, without "EditText" and "Button".
+/// The nine fields that a hold button can freeze, without "EditText" and "Button", in the order of their
+/// bits.
 inline const QStringList heldNames{u"suspendKey"_s, u"loginName"_s,     u"password"_s,
                                    u"userName"_s,   u"jobName"_s,       u"folderPassword"_s,
                                    u"userNumber"_s, u"accountNumber"_s, u"folderName"_s};
+
+/// Expects every control of a view to be as available as the values of the others make it, when the folders
+/// of the items in `protectedItems` ask for a pass code.
+inline void expectRulesHold(const PanelView& view, const QSet<int>& protectedItems) {
+  Choices choices;
+  choices.isRetained = valueOf(view, "retentionCheckBox") != u"0";
+  if (view.control(u"folderSelectionPopup"_s) != nullptr)
+    choices.item = popUp(view, "folderSelectionPopup").selectedIndex();
+  if (view.control(u"folderSelectionMatrix"_s) != nullptr)
+    choices.row = matrix(view, "folderSelectionMatrix").selectedRow();
+  choices.isFolderProtected = protectedItems.contains(choices.item);
+  choices.isLogin = matrix(view, "authenticationMatrix").selectedRow() == 0;
+  for (const QString& name : heldNames) {
+    const auto* hold = view.control<Button>(name + u"Button"_s);
+    if (hold != nullptr && hold->state() == 1) choices.held.insert(name);
+  }
+  const QMap<QString, bool> expected = availabilityOf(choices);
+  for (auto it = expected.begin(); it != expected.end(); ++it) {
+    const Control* control = view.control(it.key());
+    EXPECT_EQ(control == nullptr ? it.value() : isAvailable(*control), it.value()) << it.key();
+  }
+}
 
 }  // namespace kesto::test
