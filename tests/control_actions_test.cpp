@@ -89,6 +89,11 @@ const std::array actionCases{
     ActionCase{"accountNumber=4", "accountNumberButton;accountNumberButton", "focus=accountNumber"},
     ActionCase{"", "userNameButton;userNameButton", "focus=userName"},
     ActionCase{"", "jobNameButton;jobNameButton;userNameButton", "focus="},
+    ActionCase{
+        "",
+        "folderSelectionMatrix=2;suspendKeyButton;folderPasswordButton;folderNameButton;passwordButton;"
+        "userNumberButton;userNameButton;jobNameButton;accountNumberButton",
+        "focus="},
 };
 
 TEST_F(ControlActionsTest, OneByOne) {

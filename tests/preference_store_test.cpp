@@ -52,27 +52,37 @@ TEST_F(PreferenceStoreTest, ARecordOfAnotherModelOrReleaseIsReset) {
   }
 }
 
-TEST_F(PreferenceStoreTest, AResetThatCannotBeWrittenHoldsAllTheSame) {
-  const QJsonObject foreign{{u"Model Name"_s, u"KESTO VQ-900"_s},
-                            {u"Release Number"_s, u"2.00"_s},
-                            {u"hold button"_s, 257},
-                            {u"pass code"_s, u"x"_s},
-                            {u"folder name"_s, u"Akten"_s},
-                            {u"address"_s, u"there"_s},
-                            {u"files"_s, QJsonArray{QJsonObject{{u"name"_s, u"Akten"_s}}}}};
-  platform.defaults.domains.insert(printerDomain, {{u"Job Handling"_s, foreign}});
-  platform.defaults.shallFail = [](int access) { return access == 2; };  // the write
-  store.CheckPreference();
-  EXPECT_EQ(platform.remembered(), foreign);
-  store.GetUserPreference();
-  store.GetFolderPreference();
-  EXPECT_EQ(panel.state.prefHoldButtonFlag, 0);
-  EXPECT_EQ(loaded(), u""_s);
-  EXPECT_TRUE(panel.state.folderList && panel.state.folderList->empty());
-  EXPECT_TRUE(panel.state.addressStringRef.isNull());
-  EXPECT_TRUE(store.SaveFolderPreference());
-  EXPECT_EQ(stored(u"Model Name"_s), model);
-  EXPECT_TRUE(stored(u"pass code"_s).isUndefined()) << "another model's entry was kept";
+// The store fails in the read of the check or in its write: another model's record counts as reset all the
+// same, and the printer's own is loaded.
+TEST_F(PreferenceStoreTest, ACheckThatCannotBeWrittenHoldsAllTheSame) {
+  for (const auto& [failing, name] :
+       {std::pair(1, u"KESTO VQ-900"_s), {2, u"KESTO VQ-900"_s}, {1, model}, {2, model}}) {
+    SCOPED_TRACE(testing::Message() << failing << ' ' << name);
+    const bool isOwn = name == model;
+    const QJsonObject before{{u"Model Name"_s, name},
+                             {u"Release Number"_s, u"2.00"_s},
+                             {u"hold button"_s, 257},
+                             {u"pass code"_s, u"x"_s},
+                             {u"folder name"_s, u"Akten"_s},
+                             {u"address"_s, u"there"_s},
+                             {u"files"_s, QJsonArray{jsonOf({.name = u"Akten"_s})}}};
+    platform.defaults.domains.insert(printerDomain, {{u"Job Handling"_s, before}});
+    platform.defaults.accesses = 0;
+    platform.defaults.shallFail = [failing = failing](int access) { return access == failing; };
+    store.CheckPreference();
+    EXPECT_EQ(platform.remembered(), before);
+    platform.defaults.shallFail = nullptr;
+    store.GetUserPreference();
+    store.GetFolderPreference();
+    EXPECT_EQ(panel.state.prefHoldButtonFlag, isOwn ? 257 : 0);
+    EXPECT_EQ(loaded(), isOwn ? u"pass code, folder name"_s : u""_s);
+    ASSERT_TRUE(panel.state.folderList);
+    EXPECT_EQ(panel.state.folderList->size(), isOwn ? 1U : 0U);
+    EXPECT_EQ(panel.state.addressStringRef, isOwn ? u"there"_s : QString());
+    EXPECT_TRUE(store.SaveFolderPreference());
+    EXPECT_EQ(stored(u"Model Name"_s), model);
+    EXPECT_EQ(stored(u"pass code"_s).isUndefined(), !isOwn) << "another model's entry was kept";
+  }
 }
 
 TEST_F(PreferenceStoreTest, TheFirstUseMakesTheDomain) {
