@@ -405,6 +405,11 @@ TEST_F(DialogPrint, WhatIsMissingOfTheDocumentsIsNamedAndTheRestPrinted) {
   open({m_folder.path(u"none.pdf"_s)});
   await([this] { return m_dialog->isQueueReady() || m_dialog->isSettled(); }, u"the queue"_s);
   EXPECT_TRUE(text(u"documentName"_s).startsWith(m_folder.path(u"none.pdf"_s)));
+  const auto isWhole = [this] {
+    const auto* label = widget<QLabel>(u"documentName"_s);
+    return label->height() >= label->heightForWidth(label->width());
+  };
+  await(isWhole, u"room for all lines beside the button"_s);
   EXPECT_FALSE(widget(u"print"_s)->isEnabled());
 }
 

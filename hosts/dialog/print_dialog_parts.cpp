@@ -18,6 +18,7 @@
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
 #include "hosts/dialog/widgets/tab_order.h"
+#include "hosts/dialog/widgets/wrapped_label.h"
 
 namespace kesto {
 namespace {
@@ -53,10 +54,9 @@ QWidget* PrintDialog::makeHead() {
   auto* head = new QWidget(this);
   m_presets = new PresetMenu(m_session, head);
   m_chooser = new QueueChooser(head);
-  m_documentName = new QLabel(head);
+  m_documentName = new WrappedLabel(head);
   m_documentName->setObjectName(QStringLiteral("documentName"));
   m_documentName->setTextFormat(Qt::PlainText);
-  m_documentName->setWordWrap(true);
   m_chooseDocument = new QPushButton(head);
   setPlainText(*m_chooseDocument, tr("Choose…"));
   m_chooseDocument->setAccessibleName(tr("Choose the document"));

@@ -13,6 +13,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/dialog/widgets/wrapped_label.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -25,7 +26,7 @@ constexpr int manyQueues = 12;
 QueueChooser::QueueChooser(QWidget* parent)
     : QWidget(parent),
       m_combo(new QComboBox(this)),
-      m_state(new QLabel(this)),
+      m_state(new WrappedLabel(this)),
       m_retry(new QPushButton(this)) {
   // Neither the width of the field nor the height of a row is measured on every queue.
   m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -39,7 +40,6 @@ QueueChooser::QueueChooser(QWidget* parent)
   m_combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   m_state->setObjectName(QStringLiteral("printerState"));
   m_state->setTextFormat(Qt::PlainText);
-  m_state->setWordWrap(true);
   setPlainText(*m_retry, tr("Try again"));
   m_retry->setAutoDefault(false);
   m_retry->setObjectName(QStringLiteral("retry"));
