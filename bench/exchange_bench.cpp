@@ -7,8 +7,8 @@
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
 
-#include "bench/bench_platform.h"
 #include "folders/soap_client.h"
+#include "tests/support/bench_platform.h"
 
 namespace {
 

@@ -10,12 +10,12 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "bench/bench_platform.h"
-#include "fuzz/panel_user.h"
 #include "hosts/session/panel_host.h"
 #include "platform/json_user_defaults.h"
 #include "plugin/entry.h"
 #include "settings/value_helpers.h"
+#include "tests/support/bench_platform.h"
+#include "tests/support/panel_user.h"
 
 namespace {
 

@@ -4,13 +4,13 @@
 
 #include <QtCore/QXmlStreamReader>
 
-#include "bench/bench_platform.h"
 #include "folders/folder_answer.h"
 #include "panel/initialize_ui.h"
 #include "panel/layout_loader.h"
 #include "panel/localized.h"
 #include "plugin/job_handling_panel.h"
 #include "settings/stored_forms.h"
+#include "tests/support/bench_platform.h"
 
 namespace {
 

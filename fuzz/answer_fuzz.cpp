@@ -1,9 +1,9 @@
 // The input is the printer's answer.
-#include "bench/bench_platform.h"
 #include "folders/folder_answer.h"
 #include "folders/folder_popup.h"
 #include "fuzz/targets.h"
 #include "panel/model/panel_view.h"
+#include "tests/support/bench_platform.h"
 
 namespace kesto::fuzz {
 

@@ -1,8 +1,8 @@
 // The input is the form of the panel.
-#include "bench/bench_platform.h"
-#include "fuzz/panel_user.h"
 #include "fuzz/targets.h"
 #include "plugin/job_handling_panel.h"
+#include "tests/support/bench_platform.h"
+#include "tests/support/panel_user.h"
 
 namespace kesto::fuzz {
 

@@ -5,10 +5,10 @@
 
 #include <QtCore/QMetaProperty>
 
-#include "bench/bench_platform.h"
 #include "fuzz/targets.h"
 #include "hosts/cups/ppd_file.h"
 #include "plugin/job_handling_panel.h"
+#include "tests/support/bench_platform.h"
 
 namespace kesto::fuzz {
 namespace {

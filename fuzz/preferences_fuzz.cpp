@@ -1,11 +1,11 @@
 // The input is the preference file of the demo queue.
 #include <QtCore/QJsonDocument>
 
-#include "bench/bench_platform.h"
 #include "fuzz/targets.h"
 #include "hosts/cups/ppd_file.h"
 #include "platform/json_user_defaults.h"
 #include "plugin/job_handling_panel.h"
+#include "tests/support/bench_platform.h"
 
 namespace kesto::fuzz {
 namespace {

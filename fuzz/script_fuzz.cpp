@@ -3,9 +3,9 @@
 
 #include <QtCore/QJsonDocument>
 
-#include "bench/bench_platform.h"
 #include "fuzz/targets.h"
 #include "plugin/entry.h"
+#include "tests/support/bench_platform.h"
 
 namespace kesto::fuzz {
 namespace {

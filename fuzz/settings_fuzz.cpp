@@ -1,9 +1,9 @@
 // Lines "key=value", the key by its last component, are the print settings; a first line "@CODE" chooses the
 // system encoding.
-#include "bench/bench_platform.h"
 #include "fuzz/targets.h"
 #include "platform/job_keys.h"
 #include "plugin/job_handling_panel.h"
+#include "tests/support/bench_platform.h"
 
 namespace kesto::fuzz {
 namespace {

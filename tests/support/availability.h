@@ -4,7 +4,7 @@
 #include <QtCore/QMap>
 #include <QtCore/QSet>
 
-#include "support/controls.h"
+#include "tests/support/controls.h"
 
 namespace kesto::test {
 

@@ -10,7 +10,7 @@
 #include "panel/model/radio_matrix.h"
 #include "panel/model/simple_controls.h"
 #include "panel/model/text_field.h"
-#include "support/printing.h"
+#include "tests/support/printing.h"
 
 namespace kesto::test {
 

@@ -8,7 +8,7 @@
 #include <QtNetwork/QTcpSocket>
 #include <functional>
 
-#include "support/printing.h"
+#include "tests/support/printing.h"
 
 namespace kesto::test {
 

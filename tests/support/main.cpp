@@ -1,6 +1,6 @@
 #include <QtCore/QCoreApplication>
 
-#include "support/warnings.h"
+#include "tests/support/warnings.h"
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);  // for what is found beside the program

@@ -7,7 +7,7 @@
 #include "hosts/cups/ppd_file.h"
 #include "platform/host_callback.h"
 #include "platform/print_settings.h"
-#include "support/test_platform.h"
+#include "tests/support/test_platform.h"
 
 namespace kesto::test {
 

@@ -3,8 +3,8 @@
 
 #include "panel/layout_loader.h"
 #include "plugin/job_handling_panel.h"
-#include "support/controls.h"
-#include "support/test_host.h"
+#include "tests/support/controls.h"
+#include "tests/support/test_host.h"
 
 namespace kesto::test {
 

@@ -10,7 +10,7 @@
 #include "platform/bundle.h"
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
-#include "support/printing.h"
+#include "tests/support/printing.h"
 
 namespace kesto::test {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "support/printing.h"
+#include "tests/support/printing.h"
 
 namespace kesto::test {
 

@@ -1,0 +1,138 @@
+#include "crypto/base64.h"
+#include "crypto/credential_cipher.h"
+#include "crypto/md5_text.h"
+#include "tests/support/guarded_buffer.h"
+#include "tests/support/printing.h"
+
+namespace kesto {
+namespace {
+
+using namespace test;
+
+std::span<const std::uint8_t> bytesOf(const QByteArray& array) {
+  return {reinterpret_cast<const std::uint8_t*>(array.constData()), static_cast<std::size_t>(array.size())};
+}
+
+// Each plaintext, completed with zero bytes, through
+// openssl enc -aes-128-ecb -nopad -K 5e2b90c4710da633e8194fb207cd6a58
+constexpr std::array<std::pair<const char*, const char*>, 7> cipherCases{{
+    {"1", "742c2a7c1de1db6fb2d37ab6b69e4858"},
+    {"12345", "14b7eeee335a1c6f80913c213fc87ac6"},
+    {"12345678", "b70a9dc22c0094ffbca920d972ec3098"},
+    {"\xE9\xFF", "04828c22349e478882a9ef63a1018170"},
+    {"0123456789abcdef", "c604cf6e588747093b725502e4c1a943"},
+    {"0123456789abcdef0", "c604cf6e588747093b725502e4c1a943f9a551cc984d50cd08c4f1092031dae4"},
+    {"0123456789abcdef0123456789ABCDEF", "c604cf6e588747093b725502e4c1a94317ee51593c583158cfaa7b43f3efdd65"},
+}};
+
+TEST(CredentialCipher, KnownAnswersBothWays) {
+  for (const auto& [plaintext, cipherText] : cipherCases) {
+    GuardedBuffer<std::uint8_t, 48> output;
+    my_aes_encrypt(plaintext, output.span());
+    const QByteArray expected = QByteArray::fromHex(cipherText);
+    EXPECT_EQ(QByteArray(output.text(), 48), expected.leftJustified(48, '\0')) << plaintext;
+    std::array<std::uint8_t, 49> deciphered{};
+    my_aes_decrypt(output.span().first(static_cast<std::size_t>(expected.size())), deciphered);
+    EXPECT_STREQ(reinterpret_cast<const char*>(deciphered.data()), plaintext);
+    EXPECT_TRUE(output.isGuardIntact());
+  }
+}
+
+TEST(CredentialCipher, WholeBlocksOnlyAndNeverPastTheOutput) {
+  GuardedBuffer<std::uint8_t, 20> small;
+  my_aes_encrypt("0123456789abcdef0", small.span());
+  EXPECT_EQ(QByteArray(small.text(), 20).toHex(), QByteArray(cipherCases[4].second) + "00000000");
+  GuardedBuffer<std::uint8_t, 20> plaintext;
+  my_aes_decrypt(bytesOf(QByteArray::fromHex(cipherCases[6].second)), plaintext.span());
+  EXPECT_EQ(QByteArray(plaintext.text(), 17), "0123456789abcdef\xAA")
+      << "a block that does not fit was begun";
+  EXPECT_TRUE(small.isGuardIntact() && plaintext.isGuardIntact());
+}
+
+TEST(CredentialCipher, EmptyOrMissingArguments) {
+  GuardedBuffer<std::uint8_t, 16> output;
+  my_aes_encrypt(nullptr, output.span());
+  my_aes_decrypt({}, output.span());
+  EXPECT_EQ(output[0], 0xAA) << "written to without an input";
+  my_aes_encrypt("", output.span());
+  EXPECT_EQ(QByteArray(output.text(), 16), QByteArray(16, '\0'));
+  my_aes_encrypt("1", {});
+  my_aes_decrypt(output.span(), {});
+}
+
+TEST(Base64, VectorsOfRfc4648BothWays) {
+  forEachValue(u"= f=Zg== fo=Zm8= foo=Zm9v foob=Zm9vYg== fooba=Zm9vYmE= foobar=Zm9vYmFy"_s,
+               [](const QString& plain, const QString& encoded) {
+                 std::array<char, 16> text{};
+                 EXPECT_EQ(Base64encode(text, bytesOf(plain.toLatin1())), encoded.size() + 1U);
+                 EXPECT_EQ(QString::fromLatin1(text.data()), encoded);
+                 std::array<std::uint8_t, 16> bytes{};
+                 EXPECT_EQ(Base64decode(bytes, encoded.toLatin1()), static_cast<std::size_t>(plain.size()));
+                 EXPECT_STREQ(reinterpret_cast<const char*>(bytes.data()), qPrintable(plain));
+               });
+}
+
+TEST(Base64, AllByteValuesReturn) {
+  QByteArray all;
+  for (int byte = 0; byte < 256; ++byte)
+    all.append(static_cast<char>(byte));
+  std::array<char, 345> text{};
+  EXPECT_EQ(Base64encode(text, bytesOf(all)), 345U);
+  EXPECT_EQ(QByteArray(text.data()), all.toBase64());
+  std::array<std::uint8_t, 259> bytes{};
+  EXPECT_EQ(Base64decode(bytes, text.data()), 256U);
+  EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(bytes.data()), 256), all);
+}
+
+TEST(Base64, DecodingEndsAtTheFirstCharacterOutsideTheAlphabet) {
+  for (const auto& [text, plain] : Cases{{"Zm8", "fo"},
+                                         {"Zg", "f"},
+                                         {"Z", ""},
+                                         {"Zm9vZ", "foo"},
+                                         {"Zm8=Zm9v", "fo"},
+                                         {"Zm9v\nYmFy", "foo"},
+                                         {"Zm9v-YmFy", "foo"},
+                                         {"\u00C3Zm9v", ""},
+                                         {"====", ""}}) {
+    GuardedBuffer<std::uint8_t, 16> bytes;
+    EXPECT_EQ(Base64decode(bytes.span(), text.toUtf8()), static_cast<std::size_t>(plain.size())) << text;
+    EXPECT_EQ(QString::fromUtf8(bytes.text()), plain);
+  }
+}
+
+TEST(Base64, OutputThatIsTooSmallIsNeverOverrun) {
+  GuardedBuffer<char, 8> text;
+  EXPECT_EQ(Base64encode(text.span(), bytesOf("foobar")), 5U);
+  EXPECT_STREQ(text.text(), "Zm9v");
+  GuardedBuffer<std::uint8_t, 4> bytes;
+  EXPECT_EQ(Base64decode(bytes.span(), "Zm9vYmFy"), 3U);
+  EXPECT_STREQ(bytes.text(), "foo");
+  EXPECT_TRUE(text.isGuardIntact() && bytes.isGuardIntact());
+  EXPECT_EQ(Base64encode({}, bytesOf("foo")) + Base64decode({}, "Zm9v") + Base64decode(bytes.span(), nullptr),
+            0U);
+}
+
+TEST(Md5Text, SuiteOfRfc1321) {
+  const QString digits = u"1234567890"_s.repeated(8);
+  for (const auto& [input, digest] : Cases{{"", "d41d8cd98f00b204e9800998ecf8427e"},
+                                           {"a", "0cc175b9c0f1b6a831c399e269772661"},
+                                           {"abc", "900150983cd24fb0d6963f7d28e17f72"},
+                                           {"message digest", "f96b697d7cb7938d525a2f31aaf161d0"},
+                                           {"abcdefghijklmnopqrstuvwxyz", "c3fcd3d76192e4007dfb496cca67e13b"},
+                                           {"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789",
+                                            "d174ab98d277d9f5a5611c2c9f419d9f"},
+                                           {digits, "57edf4a22be3c955ac49da2e2107b67a"}}) {
+    GuardedBuffer<char, digestTextSize> text;
+    calcMD5(text.span(), input.toLatin1());
+    EXPECT_EQ(QString::fromLatin1(text.text()), digest);
+    EXPECT_TRUE(text.isGuardIntact());
+  }
+  GuardedBuffer<char, digestTextSize - 1> small;
+  calcMD5(small.span(), "abc");
+  calcMD5(small.span(), nullptr);
+  calcMD5({}, "abc");
+  EXPECT_EQ(small[0], static_cast<char>(0xAA)) << "written to without room or input";
+}
+
+}  // namespace
+}  // namespace kesto

@@ -1,0 +1,284 @@
+#include "prefs/preference_store.h"
+
+#include <QtCore/QJsonArray>
+
+#include "tests/support/test_panel.h"
+
+namespace kesto {
+namespace {
+
+using namespace test;
+
+const QString model = u"KESTO VQ-250n"_s;
+const QJsonObject freshRecord{{u"Model Name"_s, model}, {u"Release Number"_s, u"2.00"_s}};
+
+class PreferenceStoreTest : public testing::Test {
+ protected:
+  PreferenceStoreTest() {
+    panel.state.preferenceName = printerDomain;
+    panel.state.modelStringRef = model;
+  }
+  // The keys of the record whose values were loaded.
+  QString loaded() const {
+    QStringList keys;
+    for (const HeldField& row : heldFields) {
+      if (!(panel.state.remembered.*row.remembered).isNull()) keys.append(Text(row.recordKey));
+    }
+    if (panel.state.remembered.prefAuthenticationBooleanRef) keys.append(u"authentication"_s);
+    return keys.join(u", "_s);
+  }
+  QJsonValue stored(const QString& key) { return platform.remembered().value(key); }
+
+  PanelGroups panel;
+  TestPlatform& platform = panel.platform;
+  PreferenceStore& store = panel.preferences;
+};
+
+TEST_F(PreferenceStoreTest, ARecordOfAnotherModelOrReleaseIsReset) {
+  using Case = std::pair<QJsonValue, bool>;
+  const auto record = [](const QJsonValue& model, const QJsonValue& release) {
+    return QJsonObject{{u"Model Name"_s, model}, {u"Release Number"_s, release}, {u"hold button"_s, 1}};
+  };
+  for (const auto& [before, isKept] :
+       {Case{record(model, u"2.00"_s), true}, Case{record(model, u"2.0"_s), false},
+        Case{record(model, u"2.00 "_s), false}, Case{record(model, 2.00), false},
+        Case{record(model.toLower(), u"2.00"_s), false}, Case{record(250, u"2.00"_s), false},
+        Case{QJsonObject{{u"Release Number"_s, u"2.00"_s}}, false}, Case{u"record"_s, false},
+        Case{QJsonArray{1}, false}, Case{QJsonValue::Null, false}}) {
+    platform.defaults.domains.insert(printerDomain, {{u"Job Handling"_s, before}, {u"Other"_s, 7}});
+    store.CheckPreference();
+    EXPECT_EQ(platform.remembered(), isKept ? before.toObject() : freshRecord);
+    EXPECT_EQ(platform.defaults.domains.value(printerDomain).value(u"Other"_s), 7) << "another key is gone";
+  }
+}
+
+// The store fails in the read of the check or in its write: another model's record counts as reset all the
+// same, and the printer's own is loaded.
+TEST_F(PreferenceStoreTest, ACheckThatCannotBeWrittenHoldsAllTheSame) {
+  for (const auto& [failing, name] :
+       {std::pair(1, u"KESTO VQ-900"_s), {2, u"KESTO VQ-900"_s}, {1, model}, {2, model}}) {
+    SCOPED_TRACE(testing::Message() << failing << ' ' << name);
+    const bool isOwn = name == model;
+    const QJsonObject before{{u"Model Name"_s, name},
+                             {u"Release Number"_s, u"2.00"_s},
+                             {u"hold button"_s, 257},
+                             {u"pass code"_s, u"x"_s},
+                             {u"folder name"_s, u"Akten"_s},
+                             {u"address"_s, u"there"_s},
+                             {u"files"_s, QJsonArray{jsonOf({.name = u"Akten"_s})}}};
+    platform.defaults.domains.insert(printerDomain, {{u"Job Handling"_s, before}});
+    platform.defaults.accesses = 0;
+    platform.defaults.shallFail = [failing = failing](int access) { return access == failing; };
+    store.CheckPreference();
+    EXPECT_EQ(platform.remembered(), before);
+    platform.defaults.shallFail = nullptr;
+    store.GetUserPreference();
+    store.GetFolderPreference();
+    EXPECT_EQ(panel.state.prefHoldButtonFlag, isOwn ? 257 : 0);
+    EXPECT_EQ(loaded(), isOwn ? u"pass code, folder name"_s : u""_s);
+    ASSERT_TRUE(panel.state.folderList);
+    EXPECT_EQ(panel.state.folderList->size(), isOwn ? 1U : 0U);
+    EXPECT_EQ(panel.state.addressStringRef, isOwn ? u"there"_s : QString());
+    EXPECT_TRUE(store.SaveFolderPreference());
+    EXPECT_EQ(stored(u"Model Name"_s), model);
+    EXPECT_EQ(stored(u"pass code"_s).isUndefined(), !isOwn) << "another model's entry was kept";
+  }
+}
+
+TEST_F(PreferenceStoreTest, TheFirstUseMakesTheDomain) {
+  store.GetFolderPreference();
+  EXPECT_FALSE(panel.state.folderList) << "there is no record yet";
+  store.CheckPreference();
+  EXPECT_EQ(platform.remembered(), freshRecord);
+  store.GetUserPreference();
+  EXPECT_EQ(panel.state.prefHoldButtonFlag, 0);
+  store.GetFolderPreference();
+  EXPECT_TRUE(panel.state.folderList && panel.state.folderList->empty());
+  EXPECT_TRUE(panel.state.addressStringRef.isNull());
+}
+
+// Sealed values by openssl enc -aes-128-ecb; "_" stands for a blank in keys.
+TEST_F(PreferenceStoreTest, EntriesAreStoredInTheirForms) {
+  const QString zeros = u"0"_s.repeated(32);
+  const auto expectRecord = [&](const QString& controls, const QString& values) {
+    setControls(*panel.view, controls);
+    EXPECT_TRUE(store.SaveUserPreference());
+    forEachValue(values, [&](QString key, const QString& value) {
+      EXPECT_EQ(stored(key.replace(u'_', u' ')), QJsonValue(value)) << controls;
+    });
+  };
+  for (const auto& [controls, values] : Cases{
+           {"suspendKey=12345", "pass_code=14B7EEEE335A1C6F80913C213FC87AC6"},
+           {"suspendKey=0123456789abcdefX", "pass_code=C604CF6E588747093B725502E4C1A943"},
+           {"suspendKey=", "pass_code="},
+           {"suspendKey=漢", "pass_code="},
+           {"password=s3cr", u"user_password=6C5D5CE2349D0D3454E276F4FF4EAC7C"_s + zeros},
+           {"password=0123456789abcdef", u"user_password=C604CF6E588747093B725502E4C1A943"_s + zeros},
+           {"password=0123456789abcdef0123456789ABCDEFX",
+            "user_password=C604CF6E588747093B725502E4C1A94317EE51593C583158CFAA7B43F3EFDD65"},
+           {"password=a漢b", u"user_password=77F113BE1F8A9F11AB5FCCA2B778E206"_s + zeros},
+           {"loginName=jdoe", "user_login_name=J715aTy6C1tJPaVj4yTI/Q=="},
+           {"loginName=0123456789abcdefghij", "user_login_name=xgTPbliHRwk7clUC5MGpQ8o/mQ3kPAx9auS4EgYyTzs="},
+           {"loginName=", "user_login_name="},
+           {"userNumber=42", "user_number=D4C886221F974CE34F262182C082702D"},
+           {"accountNumber=7", "account_number=898A6A33D5CDC2286B1F5D0458FBA991"},
+           {"folderPassword=1234", "folder_pass_code=3F3FA6A226B041DE0CA8F37F0E03543E"},
+           {"folderPassword=12é", "folder_pass_code="},
+           {"userName=Jürgen\"漢\" jobName= folderName=Akten",
+            "user_name=Jürgen\"漢\" job_name= folder_name=Akten"}}) {
+    expectRecord(controls, values);
+  }
+  panel.state.systemEncoding = TextEncoding::MacJapanese;
+  expectRecord(u"password=漢"_s, u"user_password=B6360A871E810F5DDC8150BF859A77BF"_s + zeros);
+}
+
+TEST_F(PreferenceStoreTest, EveryEntryIsStoredAndTheMaskTellsWhichReturn) {
+  setControls(*panel.view, "suspendKeyButton=1 folderNameButton=1 folderName=Akten userName=x");
+  EXPECT_TRUE(store.SaveUserPreference());
+  EXPECT_EQ(platform.remembered().size(), 11);
+  EXPECT_EQ(stored(u"hold button"_s), 257);
+  EXPECT_EQ(stored(u"user name"_s), u"x"_s);
+  EXPECT_EQ(stored(u"authentication"_s), true);
+  store.GetUserPreference();
+  EXPECT_EQ(loaded(), u"pass code, folder name, authentication"_s);
+  EXPECT_EQ(panel.state.remembered.prefSuspendKeyStringRef, u""_s);
+
+  setControls(*panel.view,
+              "suspendKeyButton=0 folderNameButton=0 accountNumberButton=1 authenticationMatrix=1");
+  EXPECT_TRUE(store.SaveUserPreference());
+  store.GetUserPreference();
+  EXPECT_EQ(panel.state.prefHoldButtonFlag, 128);
+  EXPECT_EQ(loaded(), u"account number, authentication"_s);
+  EXPECT_EQ(panel.state.remembered.prefAuthenticationBooleanRef, false);
+}
+
+TEST_F(PreferenceStoreTest, AHeldLoginNameIsStoredFromBehindItsBullets) {
+  setControls(*panel.view, "loginName=•• loginNameButton=1");
+  panel.state.loginNameStringRef = u"jdoe"_s;
+  EXPECT_TRUE(store.SaveUserPreference());
+  EXPECT_EQ(stored(u"user login name"_s), u"J715aTy6C1tJPaVj4yTI/Q=="_s);
+  panel.state.loginNameStringRef = u""_s;
+  panel.state.outlets.userNameEditText = nullptr;
+  EXPECT_TRUE(store.SaveUserPreference());
+  EXPECT_EQ(stored(u"user login name"_s), u"J715aTy6C1tJPaVj4yTI/Q=="_s)
+      << "an empty held name replaces nothing";
+}
+
+TEST_F(PreferenceStoreTest, MasksOfEveryKind) {
+  using Case = std::tuple<QJsonValue, int, int>;
+  for (const auto& [mask, flag, values] :
+       {Case{257, 257, 3}, Case{511, 511, 10}, Case{0, 0, 1}, Case{-1, -1, 10},
+        Case{2147483647, 2147483647, 10}, Case{257.5, 257, 0}, Case{4294967296.0 + 5, 5, 0},
+        Case{3000000000.0, -1294967296, 0}, Case{1e300, 0, 0}, Case{u"257"_s, 0, 0}, Case{true, 0, 0},
+        Case{QJsonValue::Null, 0, 0}, Case{QJsonArray{257}, 0, 0}}) {
+    QJsonObject record{{u"hold button"_s, mask}, {u"authentication"_s, true}};
+    for (const HeldField& field : heldFields)
+      record.insert(Text(field.recordKey), u"value"_s);
+    platform.remember(record);
+    panel.state.remembered.prefJobNameStringRef = u"of before"_s;
+    store.GetUserPreference();
+    EXPECT_EQ(panel.state.prefHoldButtonFlag, flag) << mask.toDouble();
+    EXPECT_EQ(loaded().split(u", "_s, Qt::SkipEmptyParts).size(), values) << mask.toDouble();
+  }
+}
+
+TEST_F(PreferenceStoreTest, ValuesOfAnotherTypeAreAbsent) {
+  platform.remember({{u"hold button"_s, 511},
+                     {u"pass code"_s, 1},
+                     {u"user name"_s, QJsonArray{u"x"_s}},
+                     {u"job name"_s, QJsonValue::Null},
+                     {u"authentication"_s, 1},
+                     {u"address"_s, 2},
+                     {u"files"_s, u"f"_s},
+                     {u"user number"_s, u""_s}});
+  store.GetUserPreference();
+  EXPECT_EQ(loaded(), u"user number"_s);
+  store.GetFolderPreference();
+  EXPECT_TRUE(panel.state.folderList && panel.state.folderList->empty());
+  EXPECT_TRUE(panel.state.addressStringRef.isNull());
+}
+
+TEST_F(PreferenceStoreTest, FoldersAndAddress) {
+  const std::vector<FolderEntry> folders{{.name = u"Akten"_s, .password = true},
+                                         {.name = u"Zwei"_s, .dir = true}};
+  panel.state.folderList = folders;
+  EXPECT_TRUE(store.SaveFolderPreference());
+  QJsonArray files = stored(u"files"_s).toArray();
+  EXPECT_EQ(
+      files[0].toObject(),
+      (QJsonObject{{u"name"_s, u"Akten"_s}, {u"password"_s, true}, {u"dir"_s, false}, {u"add"_s, false}}));
+  panel.state.folderList.reset();
+  setControls(*panel.view, "printersAddress=there");
+  EXPECT_TRUE(store.SaveFolderPreference());
+  EXPECT_EQ(stored(u"files"_s), files) << "without a list the stored one stays";
+
+  for (const QJsonValue& useless :
+       {QJsonValue(QJsonObject{{u"name"_s, u""_s}}), QJsonValue(QJsonObject()), QJsonValue(1)}) {
+    files.append(useless);
+  }
+  files.append(QJsonObject{{u"name"_s, u"Drei"_s}, {u"password"_s, u"true"_s}});
+  platform.remember({{u"files"_s, files}, {u"address"_s, stored(u"address"_s)}});
+  store.GetFolderPreference();
+  EXPECT_EQ(panel.state.addressStringRef, u"there"_s);
+  ASSERT_EQ(panel.state.folderList->size(), 3U);
+  EXPECT_TRUE(std::equal(folders.begin(), folders.end(), panel.state.folderList->begin()));
+  EXPECT_TRUE(panel.state.folderList->back() == FolderEntry{.name = u"Drei"_s});
+}
+
+TEST_F(PreferenceStoreTest, AStoreThatFailsLeavesEverythingAsItWas) {
+  platform.remember({{u"hold button"_s, 1}, {u"pass code"_s, u"x"_s}});
+  const auto before = platform.defaults.domains;
+  panel.state.folderList.emplace();
+  setControls(*panel.view, "userName=new userNameButton=1");
+  for (const int failing : {1, 2}) {  // the read, then the write
+    for (const bool isOfFolders : {false, true}) {
+      platform.defaults.accesses = 0;
+      platform.defaults.shallFail = [failing](int access) { return access == failing; };
+      EXPECT_FALSE(isOfFolders ? store.SaveFolderPreference() : store.SaveUserPreference());
+      EXPECT_EQ(platform.defaults.accesses, failing) << "went on after a failure";
+    }
+  }
+  panel.state.remembered.prefUserNameStringRef = u"old"_s;
+  panel.state.folderList.reset();
+  platform.defaults.shallFail = [](int) { return true; };
+  store.CheckPreference();
+  store.GetUserPreference();
+  store.GetFolderPreference();
+  EXPECT_EQ(loaded(), u""_s);
+  EXPECT_EQ(panel.state.prefHoldButtonFlag, 0);
+  EXPECT_FALSE(panel.state.folderList);
+  EXPECT_EQ(platform.defaults.domains, before);
+}
+
+TEST_F(PreferenceStoreTest, WithoutAPrinterNothingIsTouched) {
+  panel.state.preferenceName = QString();
+  store.CheckPreference();
+  store.GetUserPreference();
+  store.GetFolderPreference();
+  EXPECT_FALSE(store.SaveUserPreference() || store.SaveFolderPreference());
+  EXPECT_TRUE(store.GetHDDPreference() && store.SaveHDDPreference());
+  EXPECT_EQ(platform.defaults.accesses, 0);
+}
+
+TEST(TwoPanels, TheLastWritersRecordWinsWhole) {
+  TestPlatform platform;
+  platform.defaults.domains.insert(printerDomain, {{u"Other"_s, 7}});
+  TestPanel first(platform);
+  TestPanel second(platform);
+  first.restore();
+  second.restore();
+  setControls(first.view(), "userName=first userNameButton=1 jobName=kept jobNameButton=1");
+  setControls(second.view(), "userName=second userNameButton=1");
+  EXPECT_TRUE(first.controller->shouldPrint());
+  EXPECT_EQ(first.fact("prefHoldButtonFlag"), 24) << "the entries are read back at once";
+  EXPECT_TRUE(second.controller->shouldPrint());
+  EXPECT_EQ(platform.remembered().value(u"job name"_s), u""_s);
+  EXPECT_EQ(platform.remembered().value(u"hold button"_s), 8);
+  EXPECT_EQ(platform.defaults.domains.value(printerDomain).value(u"Other"_s), 7);
+  TestPanel third(platform);
+  third.restore();
+  expectControls(third.view(), "userName=second userNameButton=1 jobNameButton=0");
+}
+
+}  // namespace
+}  // namespace kesto

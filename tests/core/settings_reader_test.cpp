@@ -1,0 +1,230 @@
+#include "settings/settings_reader.h"
+
+#include "platform/job_keys.h"
+#include "tests/support/availability.h"
+#include "tests/support/test_panel.h"
+
+namespace kesto {
+namespace {
+
+using namespace test;
+
+class SettingsReaderTest : public testing::Test {
+ protected:
+  SettingsReaderTest() {
+    panel.state.folderList = {
+        {.name = u"Akten"_s, .password = true}, {.name = u"akten"_s}, {.name = u"Zwei"_s}};
+  }
+  void read() { panel.reader.getNonPPDSettingsFromPrintSettings(); }
+
+  // Print settings, and the controls of a new panel that has read them.
+  void expectCases(Cases cases) {
+    for (const auto& [settings, controls] : cases) {
+      SCOPED_TRACE(settings);
+      PanelGroups fresh;
+      fresh.state.folderList = panel.state.folderList;
+      fresh.state.active_directory = panel.state.active_directory;
+      fresh.host.put(settings);
+      fresh.reader.getNonPPDSettingsFromPrintSettings();
+      expectControls(*fresh.view, controls);
+      if (valueOf(*fresh.view, "authenticationMatrix") == u"0")
+        expectRulesHold(*fresh.view, {firstFolderItem});
+    }
+  }
+
+  PanelGroups panel;
+  TestHost& host = panel.host;
+};
+
+TEST_F(SettingsReaderTest, ChoicesAndDefaults) {
+  expectCases(
+      {{"",
+        "retentionCheckBox=0 suspendMatrix=0 suspendKey= suspendKeyButton=0 authenticationMatrix=0 focus="},
+       {"", "folderSelectionPopup=1 folderSelectionMatrix=1 userName=Jane_Doe jobName="},
+       {"jobSuspend=2", "retentionCheckBox=1 suspendMatrix=0"},
+       {"jobSuspend=1", "retentionCheckBox=1 suspendMatrix=1"},
+       {"jobSuspend=3x", "retentionCheckBox=1 suspendMatrix=2"},
+       {"jobSuspend=0", "retentionCheckBox=0 suspendMatrix=0"},
+       {"jobSuspend=4", "retentionCheckBox=0"},
+       {"jobSuspend=\u0663", "retentionCheckBox=0"},
+       {"Authentication=1", "authenticationMatrix=0"},
+       {"Authentication=0", "authenticationMatrix=1 focus="},
+       {"Authentication=", "authenticationMatrix=1"},
+       {"jobSuspend=1 filing=1", "folderSelectionPopup=0 folderSelectionMatrix=0 suspendMatrix=1"},
+       {"jobSuspend=3 filing=1", "folderSelectionPopup=0 folderSelectionMatrix=0 suspendMatrix=1"},
+       {"jobSuspend=0 filing=1", "folderSelectionPopup=1 folderSelectionMatrix=1"},
+       {"jobSuspend=1 filing=2", "folderSelectionPopup=1 folderSelectionMatrix=1"},
+       {"jobSuspend=1 filing=3", "folderSelectionPopup=1 folderSelectionMatrix=1"},
+       {"jobSuspend=1 filing=3 folderPath=5A576549",
+        "folderSelectionPopup=5 folderSelectionMatrix=2 folderName=ZWeI focus=folderPassword"},
+       {"jobSuspend=1 filing=3 folderPath=616B74656E", "folderSelectionPopup=3 focus=folderPassword"},
+       {"jobSuspend=1 filing=3 folderPath=8E",
+        "folderSelectionPopup=1 folderSelectionMatrix=2 folderName=\u00E9"},
+       {"jobSuspend=0 filing=3 folderPath=5A576549", "folderSelectionMatrix=2 folderName="},
+       {"jobSuspend=0 filing=3 folderPath=5A576549 holdButton=256", "folderName=ZWeI folderNameButton=1"}});
+}
+
+// Sealed by openssl enc -aes-128-ecb.
+TEST_F(SettingsReaderTest, SealedFields) {
+  expectCases(
+      {{"jobSuspend=2 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991", "suspendKey=7 suspendKeyButton=0"},
+       {"jobSuspend=2 jobSuspend2Key=B70A9DC22C0094FFBCA920D972EC3098 holdButton=1",
+        "suspendKey=12345678 suspendKeyButton=1"},
+       {"jobSuspend=2 jobSuspend2Key=AF545963687A84AFEC6B471B38AEA7CC holdButton=1",
+        "suspendKey= suspendKeyButton=1"},
+       {"jobSuspend=0 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991", "suspendKey="},
+       {"jobSuspend=2 holdButton=1", "suspendKey= suspendKeyButton=0"},
+       {"jobSuspend=2 jobSuspend2Key= holdButton=1", "suspendKey= suspendKeyButton=1"},
+       {"jobSuspend=2 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA9", "suspendKey="},
+       {"jobSuspend=2 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991FF", "suspendKey=7"},
+       {"userNumber2=AF545963687A84AFEC6B471B38AEA7CC holdButton=64",
+        "userNumber=123456789 userNumberButton=1"},
+       {"userNumber2=C604CF6E588747093B725502E4C1A943", "userNumber=0123456789abcdef userNumberButton=0"},
+       {"accountNumber2=14B7EEEE335A1C6F80913C213FC87AC6 holdButton=128",
+        "accountNumber=12345 accountNumberButton=1"},
+       {"accountNumber2=BDD2763479D559E89A55CC4BB3E1E136", "accountNumber="},
+       {"jobSuspend=2 folderPassword2=3F3FA6A226B041DE0CA8F37F0E03543E holdButton=32",
+        "folderPassword=1234 folderPasswordButton=1"},
+       {"jobSuspend=2 folderPassword2=AF545963687A84AFEC6B471B38AEA7CC", "folderPassword="},
+       {"password2=42A8039B150545E873199E0B2A645FB300000000000000000000000000000000 holdButton=4",
+        "password=secret passwordButton=1"},
+       {"password2=C604CF6E588747093B725502E4C1A94300000000000000000000000000000000",
+        "password=0123456789abcdef"},
+       {"password2=C604CF6E588747093B725502E4C1A943A490E3E9BA0E3E79B7A9E0E91EC7F553",
+        "password=0123456789abcdefgh12"},
+       {"password2=42A8039B150545E873199E0B2A645FB3", "password="}});
+}
+
+TEST_F(SettingsReaderTest, NamesAndLoginNames) {
+  expectCases(
+      {{"userName=418E jobName=6A holdButton=24",
+        "userName=A\u00E9 userNameButton=1 jobName=j jobNameButton=1"},
+       {"userName= holdButton=8", "userName=Jane_Doe userNameButton=0"},
+       {"userName=00414243", "userName=Jane_Doe"},
+       {"loginName11=J715aTy6C1tJPaVj loginName12=4yTI/Q==", "loginName=jdoe loginNameButton=0"},
+       {"loginName11=J715aTy6C1tJPaVj loginName12=4yTI/Q== holdButton=2", "loginName=•••• loginNameButton=1"},
+       {"loginName11=J715aTy6C1tJPaVj4yTI/Q==", "loginName=jdoe"},
+       {"loginName12=J715aTy6C1tJPaVj4yTI/Q==", "loginName="},
+       {"loginName11=!", "loginName="}});
+  host.settings->setJobName(u"report"_s);
+  panel.platform.fullName = QString();
+  setControls(*panel.view, "userName=kept");
+  read();
+  expectControls(*panel.view, "userName=kept jobName=report");
+
+  panel.state.active_directory = true;
+  expectCases({{"jobSuspend=0", "retentionCheckBox=1 suspendMatrix=0 userName=jdoe loginName=jdoe"},
+               {"jobSuspend=3 userName=41", "suspendMatrix=0 userName=A"},
+               {"loginName12=J715aTy6C1tJPaVj4yTI/Q== holdButton=2", "loginName=•••• loginNameButton=1"},
+               {"loginName11=s3bezgBn+w9AsV4L loginName12=UZX8fw==", "loginName=jdoe1"}});
+}
+
+TEST_F(SettingsReaderTest, TheHoldMaskIsTheLeadingInteger) {
+  panel.state.presetHoldButtonFlag = 3;
+  read();
+  EXPECT_EQ(panel.state.presetHoldButtonFlag, 3) << "kept while the key is absent";
+  using Case = std::pair<Text, int>;
+  for (const auto& [text, mask] :
+       {Case{" +17 4", 17}, Case{"-1", -1}, Case{"511x", 511}, Case{"x", 0}, Case{"", 0}, Case{"\u0661", 0},
+        Case{"99999999999999999999", 2147483647}, Case{"-99999999999999999999", -2147483647 - 1}}) {
+    host.put("holdButton", text);
+    read();
+    EXPECT_EQ(panel.state.presetHoldButtonFlag, mask) << text;
+  }
+}
+
+TEST_F(SettingsReaderTest, ARememberedValueWinsOnce) {
+  host.put(
+      "jobSuspend=2 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991 userName=41 filing=3 "
+      "folderPath=5A776569");
+  RememberedValues& remembered = panel.state.remembered;
+  remembered.prefSuspendKeyStringRef = u"BDD2763479D559E89A55CC4BB3E1E136"_s;
+  remembered.prefLoginNameStringRef = u"J715aTy6C1tJPaVj4yTI/Q=="_s;
+  remembered.prefPasswordStringRef = u"42A8039B150545E873199E0B2A645FB3"_s + u"0"_s.repeated(32);
+  remembered.prefUserNameStringRef = u"held-name"_s;
+  remembered.prefFolderNameStringRef = u"held-folder"_s;
+  remembered.prefAuthenticationBooleanRef = false;
+  panel.state.prefHoldButtonFlag = 511;
+  read();
+  EXPECT_EQ(panel.state.prefHoldButtonFlag, 0);
+  EXPECT_EQ(panel.state.loginNameStringRef, u"jdoe"_s);
+  expectControls(*panel.view,
+                 "suspendKey=123456 suspendKeyButton=1 loginName=•••• password=secret passwordButton=1");
+  expectControls(*panel.view,
+                 "userName=held-name folderName=held-folder folderSelectionMatrix=2 folderNameButton=1");
+  // Held without a remembered value: the button is on, the value comes from the job.
+  expectControls(*panel.view,
+                 "authenticationMatrix=1 jobName= jobNameButton=1 userNumber= userNumberButton=1");
+  read();
+  expectControls(*panel.view,
+                 "suspendKey=7 suspendKeyButton=0 loginName= loginNameButton=0 password= passwordButton=0");
+  expectControls(*panel.view,
+                 "userName=A userNameButton=0 folderName=Zwei folderNameButton=0 authenticationMatrix=0");
+  EXPECT_TRUE(panel.state.loginNameStringRef.isNull());
+}
+
+TEST_F(SettingsReaderTest, BitsThatConcernMoreThanTheirField) {
+  for (const int bit : {1, 2, 4, 8, 16, 32, 64, 128, 256}) {
+    for (const char* layout : {"JobControl5", "JobControl6"}) {
+      PanelGroups fresh(layout);
+      fresh.state.remembered.prefAuthenticationBooleanRef = false;
+      fresh.state.prefHoldButtonFlag = bit;
+      fresh.reader.getNonPPDSettingsFromPrintSettings();
+      const bool isOfAuthentication = bit == 2 || bit == 4 || bit == 64;
+      EXPECT_EQ(matrix(*fresh.view, "authenticationMatrix").selectedRow(), isOfAuthentication ? 1 : 0) << bit;
+      const bool isLeft = bit == 256 && fresh.state.outlets.folderSelectionMatrix == nullptr;
+      EXPECT_EQ(fresh.state.prefHoldButtonFlag, isLeft ? bit : 0)
+          << "the folder name's bit waits for its matrix";
+    }
+  }
+}
+
+TEST_F(SettingsReaderTest, TheLongestPathAndName) {
+  for (const auto& [bytes, isRead] : {std::pair(127, true), std::pair(128, false)}) {
+    host.put(u"jobSuspend=1 filing=3 folderPath=%1 jobName=%1"_s.arg(u"61"_s.repeated(bytes)));
+    read();
+    EXPECT_EQ(matrix(*panel.view, "folderSelectionMatrix").selectedRow(), isRead ? 2 : 1);
+    EXPECT_EQ(field(*panel.view, "jobName").stringValue().size(), isRead ? bytes : 0);
+  }
+}
+
+TEST_F(SettingsReaderTest, WithoutPrintSettingsOrControls) {
+  setControls(*panel.view, "retentionCheckBox=1 userName=kept");
+  host.settings.reset();
+  read();
+  expectControls(*panel.view, "retentionCheckBox=1 userName=kept");
+  host.settings.emplace();
+  panel.state.outlets = {};
+  panel.state.prefHoldButtonFlag = 511;
+  read();
+  EXPECT_EQ(panel.state.prefHoldButtonFlag, 256);
+}
+
+// Whatever a job or a preference file holds, the panel comes up, and a held field is closed.
+TEST_F(SettingsReaderTest, HostileValues) {
+  for (const QString& value :
+       {QString(100000, u'A'), QString(256, u'9'), QString(510, u'+'), u"zz"_s.repeated(64),
+        u"\u00E9\U0001F600"_s, u"FFFE81"_s, QString(QChar(0xD800)), QString(64, QChar(0)), u""_s}) {
+    PanelGroups fresh;
+    fresh.state.systemEncoding = TextEncoding::MacJapanese;
+    for (const char* key : {job_keys::holdButton, job_keys::jobSuspend, job_keys::filing,
+                            job_keys::authentication, job_keys::loginName12})
+      fresh.host.put(key, value);
+    for (const HeldField& row : heldFields) {
+      fresh.host.put(row.key, value);
+      fresh.state.remembered.*row.remembered = value;
+    }
+    for (const int mask : {0, 511}) {
+      fresh.state.prefHoldButtonFlag = mask;
+      fresh.reader.getNonPPDSettingsFromPrintSettings();
+      for (const HeldField& row : heldFields) {
+        const TextField& text = *(fresh.state.outlets.*row.edit);
+        EXPECT_FALSE(isOn(fresh.state.outlets.*row.button) && isAvailable(text)) << row.recordKey;
+        EXPECT_TRUE(text.stringValue().size() <= 511 || text.stringValue() == value) << row.recordKey;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kesto

@@ -1,0 +1,129 @@
+#include "platform/text_encoding.h"
+
+#include "tests/support/printing.h"
+
+namespace kesto {
+namespace {
+
+using enum TextEncoding;
+using namespace test;
+
+constexpr qsizetype noLimit = 1000;
+
+struct EncodingCase {
+  TextEncoding encoding{};
+  int systemCode = 0;
+  int stringCode = 0;
+  Text text;
+  const char* bytes = "";  // hexadecimal
+};
+
+// The bytes as Python's codecs mac_roman, cp932, cp950, euc_kr, mac_greek, mac_cyrillic, gb2312, mac_latin2,
+// mac_turkish, latin-1, cp1252 and utf-8 give them.
+const std::array encodingCases{
+    EncodingCase{MacRoman, 0, 30, "Aé†ﬁ", "418ea0de"},
+    EncodingCase{MacJapanese, 1, -1, "Aｶ漢表", "41b68abf955c"},
+    EncodingCase{MacTraditionalChinese, 2, -1, "A漢字", "41ba7ea672"},
+    EncodingCase{MacKorean, 3, -1, "A한글", "41c7d1b1db"},
+    EncodingCase{MacGreek, 6, -1, "AΩλ", "41bfec"},
+    EncodingCase{MacCyrillic, 7, -1, "AЖя", "4186df"},
+    EncodingCase{MacSimplifiedChinese, 25, -1, "A汉字", "41babad7d6"},
+    EncodingCase{MacCentralEurope, 29, -1, "AŁőž", "41fcceec"},
+    EncodingCase{MacTurkish, 35, -1, "AĞış", "41dadddf"},
+    EncodingCase{IsoLatin1, -1, 5, "Aéÿ", "41e9ff"},
+    EncodingCase{WindowsLatin1, -1, 12, "A€é", "4180e9"},
+    EncodingCase{ShiftJis, -1, 8, "Aｶ漢表", "41b68abf955c"},
+    EncodingCase{Utf8, -1, 4, "Aé漢😀", "41c3a9e6bca2f09f9880"},
+};
+
+TEST(TextEncoding, EveryEncodingConvertsBothWays) {
+  QString ascii;  // control characters included, the same bytes everywhere
+  for (char16_t unit = 1; unit < 0x80; ++unit)
+    ascii.append(unit);
+  for (const EncodingCase& row : encodingCases) {
+    SCOPED_TRACE(row.text);
+    const QByteArray bytes = QByteArray::fromHex(row.bytes);
+    EXPECT_EQ(systemEncodingCode(row.encoding), row.systemCode);
+    EXPECT_EQ(stringEncodingCode(row.encoding), row.stringCode);
+    EXPECT_EQ(bytesOfText(row.text, row.encoding, noLimit, noLimit), bytes);
+    EXPECT_EQ(cStringOfText(row.text, row.encoding, bytes.size() + 1), bytes);
+    EXPECT_EQ(cStringOfText(row.text, row.encoding, bytes.size()), std::nullopt) << "no room for the NUL";
+    EXPECT_EQ(textOfBytes(bytes, row.encoding), row.text);
+    EXPECT_EQ(bytesOfText(ascii, row.encoding, noLimit, noLimit), ascii.toLatin1());
+    EXPECT_EQ(textOfBytes(ascii.toLatin1(), row.encoding), ascii);
+  }
+}
+
+TEST(TextEncoding, WhatDoesNotConvertStopsOrIsSubstituted) {
+  const QString high(QChar(0xD83D));
+  const QString low(QChar(0xDE00));
+  using Case = std::tuple<Text, TextEncoding, const char*, const char*>;
+  for (const auto& [text, encoding, stopped, substituted] :
+       {Case{"ab漢cd", MacRoman, "ab", "ab cd"}, Case{"漢", MacRoman, "", " "},
+        Case{"a😀b", WindowsLatin1, "a", "a b"}, Case{"aéb", MacJapanese, "a", "a b"},
+        Case{u'a' + high, Utf8, "a", "a "}, Case{u'a' + high + u'b', Utf8, "a", "a b"},
+        Case{low + high, Utf8, "", "  "}, Case{u'a' + high + u'b', MacKorean, "a", "a b"}}) {
+    EXPECT_EQ(bytesOfText(text, encoding, noLimit, noLimit), stopped) << text;
+    EXPECT_EQ(bytesOfText(text, encoding, noLimit, noLimit, ' '), substituted) << text;
+    EXPECT_EQ(cStringOfText(text, encoding, noLimit), std::nullopt) << text;
+  }
+}
+
+TEST(TextEncoding, LimitsNeverSplitACharacter) {
+  // One, two, three and four bytes in UTF-8; one, one, one and two units.
+  const QString text = u"aé漢😀"_s;
+  qsizetype limit = 0;
+  for (const int within : {0, 1, 1, 3, 3, 3, 6, 6, 6, 6, 10, 10}) {
+    EXPECT_EQ(bytesOfText(text, Utf8, noLimit, limit).size(), within) << limit;
+    ++limit;
+  }
+  limit = 0;
+  for (const int within : {0, 1, 3, 6, 6, 10, 10}) {
+    EXPECT_EQ(bytesOfText(text, Utf8, limit, noLimit).size(), within) << limit;
+    ++limit;
+  }
+  EXPECT_EQ(bytesOfText(u"漢漢"_s, MacJapanese, noLimit, 3).toHex(), "8abf");
+  EXPECT_EQ(bytesOfText(u"漢漢"_s, MacRoman, noLimit, 1, ' '), " ");
+}
+
+TEST(TextEncoding, NulsEndStringsButNotByteRuns) {
+  const QString text = u"a\0b"_s;
+  EXPECT_EQ(bytesOfText(text, MacRoman, noLimit, noLimit), QByteArray("a\0b", 3));
+  EXPECT_EQ(cStringOfText(text, MacRoman, 2), "a");
+  EXPECT_EQ(asciiOfText(text, 2), "a");
+  EXPECT_EQ(asciiOfText(u"abc"_s, 3), std::nullopt);
+  EXPECT_EQ(asciiOfText(u"abé"_s, 10), std::nullopt);
+  EXPECT_EQ(textOfBytes(QByteArray("a\0\xFF", 3), Utf8), u"a"_s);
+}
+
+TEST(TextEncoding, UndecodableBytesGiveNull) {
+  using Bytes = std::pair<TextEncoding, const char*>;
+  for (const auto& [encoding, bytes] :
+       {Bytes{Utf8, "a\xFF"}, Bytes{Utf8, "\xE6\xBC"}, Bytes{Utf8, "\xED\xA0\x80"},
+        Bytes{MacJapanese, "\x8A"}, Bytes{ShiftJis, "a\xFF"}, Bytes{MacKorean, "a\xC7"},
+        Bytes{MacSimplifiedChinese, "\xFF\xFF"}}) {
+    EXPECT_TRUE(textOfBytes(bytes, encoding).isNull()) << QByteArray(bytes).toHex().toStdString();
+  }
+  const QString empty = textOfBytes("", Utf8);
+  EXPECT_TRUE(empty.isEmpty() && !empty.isNull()) << "no characters are a text all the same";
+}
+
+TEST(SystemEncoding, FollowsTheLanguageOfTheLocale) {
+  using Locales = std::pair<TextEncoding, Text>;
+  for (const auto& [encoding, locales] :
+       {Locales{MacJapanese, "ja ja_JP ja_JP.UTF-8 ja_JP.eucJP"},
+        Locales{MacTraditionalChinese, "zh_TW.UTF-8 zh_HK zh_MO"}, Locales{MacKorean, "ko_KR.UTF-8"},
+        Locales{MacSimplifiedChinese, "zh zh_CN.GB18030 zh_SG"}, Locales{MacGreek, "el_GR.UTF-8 el_CY"},
+        Locales{MacCyrillic, "ru_RU.UTF-8 uk_UA bg_BG be_BY mk_MK sr_RS kk_KZ ky_KG mn_MN tg_TJ tt_RU"},
+        Locales{MacCyrillic, "cv_RU.UTF-8 os_RU ce sah_RU av kv uz_UZ@cyrillic az@cyrillic sr_ME@cyrillic"},
+        Locales{MacRoman, "tt_RU@iqtelif be_BY@latin uz_UZ sr_ME.UTF-8 mn_CN kk_CN"},
+        Locales{MacCentralEurope, "pl_PL cs_CZ sk_SK hu_HU et_EE lv_LV lt_LT.UTF-8"},
+        Locales{MacTurkish, "tr_TR.UTF-8"},
+        Locales{MacRoman, "en_US.UTF-8 de_DE@euro fr C C.UTF-8 POSIX sr_RS@latin x_JP JA_JP "}}) {
+    for (const QString& locale : locales.split(u' '))
+      EXPECT_EQ(systemEncodingForLocale(locale), encoding) << locale;
+  }
+}
+
+}  // namespace
+}  // namespace kesto

@@ -1,0 +1,283 @@
+// A document before it is printed: how it comes, what of it is shown, and which pages are asked for.
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+
+#include <QtGui/QImage>
+#include <QtWidgets/QToolButton>
+
+#include "hosts/dialog/preview/preview.h"
+#include "hosts/session/page_range.h"
+#include "tests/support/dialog_printer.h"
+
+namespace kesto::test {
+namespace {
+
+class DialogDocument : public testing::Test {
+ protected:
+  using State = Document::State;
+  DialogDocument() {
+    qputenv("TMPDIR", m_folder.path(u""_s).toUtf8());
+    m_folder.write(u"report.pdf"_s, pdfDocument());
+    m_folder.write(u"empty"_s, {});
+  }
+  QByteArray path(const QString& name) const { return QFile::encodeName(m_folder.path(name)); }
+  void awaitState(State state) {
+    EXPECT_TRUE(DialogUser::waitUntil([&] { return m_document.state() == state; }, u"the document"_s));
+  }
+  QByteArray bytes(std::size_t file = 0) const {
+    return bytesOf(QString::fromLatin1(m_document.files().at(file).path));
+  }
+  // The end to read of a pipe that is written and closed.
+  static Descriptor pipeOf(const QByteArray& bytes) {
+    std::array<int, 2> ends{};
+    EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
+    QFile pipe;
+    EXPECT_TRUE(pipe.open(ends[1], QIODevice::WriteOnly, QFile::AutoCloseHandle));
+    pipe.write(bytes);
+    return Descriptor(ends[0]);
+  }
+
+  ScratchFolder m_folder;
+  Document m_document{{.beforePrint = 100'000, .whole = 300'000}};
+};
+
+TEST_F(DialogDocument, WhatCanBeReadIsOfferedAndTheRestNamed) {
+  const Descriptor pipe = pipeOf("piped");
+  const QByteArray piped = "/dev/fd/" + QByteArray::number(pipe.get());
+  ASSERT_EQ(::mkfifo(path(u"fifo"_s).constData(), 0600), 0);
+  const QByteArray odd = path(u""_s) + "/gr\xf6n\n";
+  ASSERT_EQ(::link(path(u"report.pdf"_s).constData(), odd.constData()), 0);
+  m_document.openFiles(
+      {path(u"missing"_s), odd, path(u"empty"_s), piped, path(u""_s), "/proc/self/comm", path(u"fifo"_s)});
+  EXPECT_EQ(m_document.state(), State::Reading);
+  const int writer = ::open(path(u"fifo"_s).constData(), O_WRONLY | O_CLOEXEC);  // and now it has one
+  EXPECT_EQ(::write(writer, "late", 4), 4);
+  ::close(writer);
+  awaitState(State::Ready);
+  EXPECT_EQ(m_document.faults(),
+            (QStringList{m_folder.path(u"missing"_s) + u" cannot be read: No such file or directory"_s,
+                         m_folder.path(u""_s) + u" is a folder"_s,
+                         u"empty is empty. There is nothing to print."_s}));
+  EXPECT_EQ(m_document.name(), u"gr\\xf6n\\n and 3 more"_s);
+  EXPECT_EQ(::unlink(odd.constData()), 0);  // it is printed as it was chosen
+  const QByteArray contents[] = {pdfDocument(), "piped", "dialog_test\n", "late"};
+  for (std::size_t i = 0; i < std::size(contents); ++i)
+    EXPECT_EQ(bytes(i), contents[i]);
+  EXPECT_EQ(QDir(m_folder.path(u""_s)).entryList(QDir::Files | QDir::System),
+            (QStringList{u"empty"_s, u"fifo"_s, u"report.pdf"_s}))
+      << "a copy can be found";
+  m_document.openFiles({path(u"missing"_s), path(u"empty"_s)});
+  awaitState(State::Failed);
+  EXPECT_EQ(m_document.name(), QString());
+}
+
+TEST_F(DialogDocument, WhatHasNoEndIsReadInBounds) {
+  m_document.openFiles({"/dev/zero"});
+  awaitState(State::Paused);
+  m_document.readOn();
+  awaitState(State::Failed);
+  EXPECT_EQ(m_document.faults(), QStringList{u"zero is larger than 293 KiB, the most that is read."_s});
+}
+
+TEST_F(DialogDocument, TheEndOfAnotherProgramsPipeIsConfirmed) {
+  int ends = 0;
+  QObject::connect(&m_document, &Document::ended, [&] { ++ends; });
+  m_document.readFromClient(pipeOf("half").release(), u"Report"_s);
+  EXPECT_TRUE(DialogUser::waitUntil([&] { return ends == 1; }, u"the end"_s));
+  EXPECT_EQ(m_document.state(), State::Reading);
+  EXPECT_TRUE(m_document.isOpenEnded());
+  m_document.confirmEnd();
+  EXPECT_EQ(m_document.state(), State::Ready);
+  m_document.readFromClient(::open(path(u"report.pdf"_s).constData(), O_RDONLY | O_CLOEXEC), u"Report"_s);
+  EXPECT_FALSE(m_document.isOpenEnded());
+  m_document.readOn();
+  awaitState(State::Ready);
+  EXPECT_EQ(bytes(), pdfDocument());
+  EXPECT_EQ(ends, 1);
+}
+
+TEST_F(DialogDocument, ACopyGoesWhereThereIsRoom) {
+  qputenv("TMPDIR", path(u"missing"_s));
+  m_document.readDescriptor(pipeOf("elsewhere").release(), {});
+  awaitState(State::Ready);
+  EXPECT_EQ(bytes(), "elsewhere");
+  PrivateCopy nowhere({m_folder.path(u"missing/"_s), u"/proc/"_s});
+  EXPECT_FALSE(nowhere.append("x", 1).reason().isEmpty());
+  if (::unshare(CLONE_NEWNS) != 0) GTEST_SKIP() << "only root can fill a folder";
+  QDir(m_folder.path(u""_s)).mkdir(u"small"_s);
+  ASSERT_EQ(::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
+  ASSERT_EQ(::mount("none", path(u"small"_s).constData(), "tmpfs", 0, "size=64k"), 0);
+  PrivateCopy copy({m_folder.path(u"small/"_s), m_folder.path(u""_s)});
+  for (const char* part = "a"; copy.size() < 100'000;)
+    ASSERT_TRUE(copy.append(QByteArray(999, *part).constData(), 999));
+  ::umount(path(u"small"_s).constData());
+  QFile file;
+  ASSERT_TRUE(file.open(copy.take().release(), QIODevice::ReadOnly, QFile::AutoCloseHandle));
+  EXPECT_TRUE(file.seek(0) && file.readAll() == QByteArray(copy.size(), 'a'));
+}
+
+TEST_F(DialogDocument, WhatAnEarlierVersionLeftIsRemoved) {
+  m_folder.write(u"kesto-document.left12"_s, "secret");
+  m_folder.write(u"kesto-document.inUse1"_s, "secret");
+  QFile inUse(m_folder.path(u"kesto-document.inUse1"_s));
+  ASSERT_TRUE(inUse.open(QIODevice::ReadOnly));
+  removeLeftCopies();
+  EXPECT_FALSE(QFile::exists(m_folder.path(u"kesto-document.left12"_s)));
+  EXPECT_TRUE(inUse.exists());
+}
+
+TEST_F(DialogDocument, AFileTakesThePlaceOfADocumentThatIsStillRead) {
+  for (const bool isWhole : {false, true}) {  // or it is read whole, and nobody has been told
+    std::array<int, 2> ends{};
+    ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()), 0);
+    m_document.readDescriptor(ends[0], u"(stdin)"_s);
+    if (isWhole) ::shutdown(ends[1], SHUT_WR);
+    char byte = 0;
+    if (!isWhole) m_document.openFiles({path(u"report.pdf"_s)});
+    EXPECT_EQ(::read(ends[1], &byte, 1), 0) << "waits for the end of the reading";
+    if (isWhole) m_document.openFiles({path(u"report.pdf"_s)});
+    ::close(ends[1]);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_document.state(), State::Ready);
+    EXPECT_EQ(bytes(), pdfDocument());
+  }
+}
+
+TEST(DialogPages, AreRangesInRisingOrderThatDoNotOverlap) {
+  for (const auto& [given, taken] :
+       Cases{{"8-, 1–3,5", "1-3,5,8-"}, {"1-3,3", nullptr}, {"7,2-", nullptr}, {"-", nullptr}})
+    EXPECT_EQ(pageRangesOf(given).value_or(QString()), taken) << given;
+  for (const auto& [given, taken] :
+       Cases{{"8-12", "8-10"}, {"5,99", "5"}, {"9-", "9-"}, {"99", ""}, {"11-", ""}, {"1-10", "1-10"}})
+    EXPECT_EQ(pageRangesOf(given, 10), taken) << given;
+}
+
+class DialogPreview : public DialogDocument {
+ protected:
+  DialogPreview() { m_preview.QWidget::show(); }
+  // The sheet once what is wanted is on it.
+  QImage sheet(const QString& what = u"Preview of the page"_s) {
+    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isSettled(); }, u"the page"_s));
+    return widgetNamed(m_preview, what)->grab().toImage();
+  }
+
+  Preview m_preview{nullptr};
+};
+
+TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
+  const std::vector<JobFile> report{{KESTO_TEST_DATA "/../../demo/quarterly-report.pdf"}};
+  auto* back = widgetNamed<QToolButton>(m_preview, u"Previous page"_s);
+  auto* forward = widgetNamed<QToolButton>(m_preview, u"Next page"_s);
+  const auto* position = m_preview.findChild<QLabel*>();
+  m_preview.show(report);
+  m_preview.resize(2 * m_preview.size());  // while the page is drawn for the size before
+  const QImage first = sheet();
+  EXPECT_TRUE(DialogUser::waitUntil([&] { return position->text() == u"Page 1 of 3"_s; }, u"the number"_s));
+  EXPECT_EQ(m_preview.pageCount(), 3);
+  EXPECT_FALSE(back->isEnabled());
+  forward->click();
+  EXPECT_NE(sheet(), first);
+  EXPECT_EQ(position->text(), u"Page 2 of 3"_s);
+  forward->click();
+  EXPECT_FALSE(forward->isEnabled());
+  back->click();
+  qputenv("LC_ALL", "ja_JP.UTF-8");  // where other fonts are preferred
+  back->click();
+  EXPECT_EQ(sheet(), first);
+  qunsetenv("LC_ALL");
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", "/nowhere");
+  m_preview.show(report);
+  sheet(u"There is no preview: the program pdftoppm of poppler-utils is missing."_s);
+  qputenv("PATH", path);
+}
+
+TEST_F(DialogPreview, AnImageIsAPageOfItsShape) {
+  for (const auto& [width, format] : {std::pair(40, QImage::Format_Indexed8),
+                                      {5000, QImage::Format_Indexed8},
+                                      {5000, QImage::Format_Mono}}) {
+    QImage image(width, width / 2, format);
+    image.setColorTable({qRgb(0, 0, 255), qRgb(255, 0, 0)});
+    image.fill(0);
+    ASSERT_TRUE(image.save(m_folder.path(u"image.png"_s)));
+    m_preview.show({{QFile::encodeName(m_folder.path(u"image.png"_s))}});
+    const QImage shown = sheet();
+    EXPECT_EQ(m_preview.findChild<QLabel*>()->text(), u"Page 1 of 1"_s);
+    const QPoint middle = shown.rect().center();
+    EXPECT_EQ(shown.pixelColor(middle), QColor(Qt::blue));
+    EXPECT_NE(shown.pixelColor(middle - QPoint(0, shown.width() * 3 / 8)), QColor(Qt::blue));
+  }
+}
+
+TEST_F(DialogPreview, WhatCannotBePrintedIsSaidInItsPlace) {
+  const QByteArray folder(KESTO_TEST_DATA "/");
+  const JobFile plain{QFile::encodeName(m_folder.path(u"report.pdf"_s)), u"report.pdf"_s};
+  const JobFile locked{folder + "protected.pdf", u"locked.pdf"_s};
+  const std::pair<std::vector<JobFile>, const char*> cases[] = {
+      {{locked}, "The document is protected by a password"},
+      {{plain, locked}, "locked.pdf: The document is protected by a password"},
+      {{{folder + "no-pages.pdf"}}, "The document has no pages."},
+      {{{QFile::encodeName(m_folder.path(u"empty"_s))}}, "The document has no pages."},
+      {{plain}, ""},  // damaged, but perhaps not for the printer
+  };
+  for (const auto& [files, fault] : cases) {
+    SCOPED_TRACE(files.back().path.toStdString());
+    m_preview.show(files);
+    EXPECT_FALSE(m_preview.isExamined());
+    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isSettled(); }, u"the page"_s));
+    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isExamined(); }, u"the look"_s));
+    EXPECT_TRUE((m_preview.fault() + u'.').startsWith(QLatin1String(fault))) << m_preview.fault();
+    EXPECT_EQ(m_preview.fault().isNull(), *fault == 0);
+    if (!m_preview.fault().isNull()) sheet(m_preview.fault());
+  }
+}
+
+TEST_F(DialogPreview, AProgramIsBoundedInTimeAndMemory) {
+  PageProgram hasty(std::chrono::milliseconds(1));
+  PageProgram patient;
+  const auto run = [&](PageProgram& program, const QString& name, const QStringList& arguments) {
+    std::optional<PageProgram::End> end;
+    QObject::connect(&program, &PageProgram::ended, &program, [&](PageProgram::End how) { end = how; });
+    program.start(name, arguments, m_folder.path(u"report.pdf"_s));
+    EXPECT_TRUE(DialogUser::waitUntil([&] { return end.has_value(); }, name));
+    program.disconnect();
+    return end;
+  };
+  EXPECT_EQ(run(hasty, u"sleep"_s, {u"600"_s}), PageProgram::End::Late);
+  EXPECT_EQ(run(patient, u"no-such-program"_s, {}), PageProgram::End::Missing);
+  const QStringList script{u"-c"_s, u"ulimit -c; ulimit -v; head -c 4; exit 3"_s};
+  EXPECT_EQ(run(patient, u"sh"_s, script), PageProgram::End::Failed);
+#ifdef __SANITIZE_ADDRESS__
+  EXPECT_EQ(patient.output(), "0\nunlimited\n%PDF");  // the sanitizer reserves far more for itself
+#else
+  EXPECT_EQ(patient.output(), "0\n1048576\n%PDF");
+#endif
+}
+
+// The process that a program has written to a file.
+bool isAlive(const QByteArray& process) {
+  QFile file(u"/proc/%1/stat"_s.arg(QLatin1String(process.trimmed())));
+  return file.open(QIODevice::ReadOnly) && !file.readAll().contains(") Z ");
+}
+
+TEST_F(DialogPreview, AProgramEndsWithTheDialogHoweverThatEnds) {
+  m_folder.write(u"pdftoppm"_s, "#!/bin/sh\necho $$ >" + QFile::encodeName(m_folder.path(u"process"_s)) +
+                                    "\nexec sleep 600\n");
+  QFile::setPermissions(m_folder.path(u"pdftoppm"_s), QFile::ReadOwner | QFile::ExeOwner);
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", QFile::encodeName(m_folder.path(u""_s)) + ':' + path);
+  DemoProcess dialog(m_folder, builtProgram("kesto-print"),
+                     {u"-h"_s, u"127.0.0.1:9"_s, m_folder.path(u"report.pdf"_s)});
+  qputenv("PATH", path);
+  const QString file = m_folder.path(u"process"_s);
+  EXPECT_TRUE(DialogUser::waitUntil([&] { return QFileInfo(file).size() > 0; }, u"the drawing"_s));
+  EXPECT_TRUE(isAlive(bytesOf(file)));
+  dialog.kill();
+  EXPECT_TRUE(DialogUser::waitUntil([&] { return !isAlive(bytesOf(file)); }, u"its end"_s));
+}
+
+}  // namespace
+}  // namespace kesto::test

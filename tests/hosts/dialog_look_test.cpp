@@ -1,0 +1,214 @@
+// How the dialog looks in a language and at a scale: everything inside its place, whole and named. Pictures
+// of all pages go to the build's folder "screenshots".
+#include <QtCore/QDir>
+#include <QtGui/QAccessible>
+#include <QtGui/QKeySequence>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QTabWidget>
+
+#include "hosts/dialog/preview/preview.h"
+#include "hosts/dialog/print_dialog.h"
+#include "hosts/dialog/translations.h"
+#include "tests/support/dialog_support.h"
+
+namespace kesto::test {
+namespace {
+
+// The parts of a combined widget are its own affair.
+bool isPart(const QWidget& widget) {
+  const QWidget* parent = widget.parentWidget();
+  if (parent == nullptr) return false;
+  for (const char* whole : {"QComboBox", "QAbstractSpinBox", "QTabBar", "QLineEdit", "QAbstractScrollArea"}) {
+    if (parent->inherits(whole)) return true;
+  }
+  return isPart(*parent);
+}
+
+QString nameOf(const QWidget& widget) {
+  return widget.objectName().isEmpty() ? QString::fromLatin1(widget.metaObject()->className())
+                                       : widget.objectName();
+}
+
+QList<QWidget*> seenIn(const QWidget& window) {
+  QList<QWidget*> seen = window.findChildren<QWidget*>();
+  seen.removeIf([](const QWidget* widget) { return !widget->isVisible() || isPart(*widget); });
+  return seen;
+}
+
+bool showsWholeText(const QWidget& widget) {
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+    if (label->text().isEmpty()) return true;
+    return label->wordWrap() ? label->heightForWidth(label->width()) <= label->height()
+                             : label->sizeHint().width() <= label->width();
+  }
+  if (const auto* tabs = qobject_cast<const QTabBar*>(&widget))
+    return tabs->sizeHint().width() <= tabs->width();
+  if (const auto* box = qobject_cast<const QGroupBox*>(&widget))
+    return box->fontMetrics().horizontalAdvance(box->title()) <= box->width();
+  if (const auto* list = qobject_cast<const QComboBox*>(&widget)) {
+    const int arrow = list->style()->pixelMetric(QStyle::PM_MenuButtonIndicator) + 12;
+    return list->fontMetrics().horizontalAdvance(list->currentText()) + arrow <= list->width();
+  }
+  const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+  if (button != nullptr && !button->text().isEmpty())
+    return widget.sizeHint().width() <= widget.width() && widget.fontMetrics().height() <= widget.height();
+  return true;
+}
+
+void expectInPlace(const QWidget& window) {
+  const QList<QWidget*> seen = seenIn(window);
+  for (const QWidget* widget : seen) {
+    const QWidget* parent = widget->parentWidget();
+    EXPECT_TRUE(parent->rect().contains(widget->geometry()))
+        << nameOf(*widget) << " leaves " << nameOf(*parent);
+    EXPECT_TRUE(showsWholeText(*widget)) << nameOf(*widget) << " does not show its whole text";
+    for (const QWidget* other : seen) {
+      if (other <= widget || other->parentWidget() != parent) continue;
+      EXPECT_FALSE(other->geometry().intersects(widget->geometry()))
+          << nameOf(*widget) << " and " << nameOf(*other) << " overlap";
+    }
+  }
+}
+
+void expectNamed(const QWidget& window) {
+  for (QWidget* widget : seenIn(window)) {
+    if (widget->focusPolicy() == Qt::NoFocus || widget->inherits("QAbstractScrollArea")) continue;
+    const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(accessible, nullptr) << nameOf(*widget);
+    if (accessible->role() == QAccessible::PageTabList || accessible->role() == QAccessible::Client) continue;
+    EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << nameOf(*widget) << " has no name";
+  }
+}
+
+void expectMnemonics(const QWidget& window) {
+  QMap<QString, QString> owners;
+  const auto take = [&](const QString& text) {
+    const QString key = QKeySequence::mnemonic(text).toString();
+    EXPECT_FALSE(key.isEmpty()) << text << " has no mnemonic";
+    EXPECT_FALSE(owners.contains(key)) << text << " and " << owners.value(key) << " share " << key;
+    owners.insert(key, text);
+  };
+  for (const QWidget* widget : seenIn(window)) {
+    if (const auto* label = qobject_cast<const QLabel*>(widget);
+        label != nullptr && label->buddy() != nullptr)
+      take(label->text());
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        button != nullptr && !button->text().isEmpty())
+      take(button->text());
+    if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
+      for (int i = 0; i < tabs->count(); ++i)
+        take(tabs->tabText(i));
+    }
+  }
+}
+
+// The labels before the fields of a pane: how they end, and where.
+void expectAligned(const QWidget& pane) {
+  QSet<int> ends;
+  for (const auto* label : pane.findChildren<QLabel*>()) {
+    if (!label->isVisible() || label->buddy() == nullptr) continue;
+    ends.insert(label->mapTo(&pane, QPoint(label->width(), 0)).x());
+    const bool hasColon = label->text().endsWith(QLocale().language() == QLocale::French ? u"\u00A0:" : u":");
+    EXPECT_TRUE(hasColon) << label->text();
+  }
+  EXPECT_LE(ends.size(), 1);
+}
+
+QPalette darkPalette() {
+  QPalette palette(QColor(50, 50, 52), QColor(43, 43, 45));
+  palette.setColor(QPalette::Base, QColor(32, 32, 34));
+  return palette;
+}
+
+std::shared_ptr<Queue> demoQueue() {
+  auto queue = std::make_shared<Queue>();
+  queue->id = u"Office_MFP"_s;
+  queue->deviceUri = u"socket://192.0.2.20:9100"_s;
+  EXPECT_TRUE(openPpdFile(demoPpd(), &queue->ppd));
+  return queue;
+}
+
+class DialogLook : public testing::Test {
+ protected:
+  DialogLook() {
+    qputenv("XDG_CONFIG_HOME", m_home.path().toUtf8());
+    installTranslations();
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * m_percent / 100);
+    QApplication::setFont(font);
+    QDir().mkpath(m_pictures);
+    m_document.openFiles({KESTO_TEST_DATA "/../../demo/quarterly-report.pdf"});
+    PrintOptions options;
+    options.server.address = u"127.0.0.1:9"_s;
+    m_dialog.emplace(options, m_document);
+    m_dialog->show();
+    m_dialog->takeQueue(demoQueue());
+    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_dialog->isQueueReady(); }, u"the queue"_s));
+    DialogUser user(*m_dialog);
+    EXPECT_TRUE(user.click(u"retentionCheckBox"_s));
+    EXPECT_TRUE(user.click(u"customFolderRadioButton"_s));
+    EXPECT_TRUE(user.type(u"suspendKeyEditText"_s, u"2468"_s));
+    EXPECT_TRUE(user.click(u"userNumberRadioButton"_s));
+    EXPECT_TRUE(user.type(u"userNumberEditText"_s, u"42"_s));
+    EXPECT_TRUE(user.click(u"userNumberButton"_s));
+    m_dialog->findChild<QWidget*>(u"chasingArrow"_s)->show();
+    const auto* retry = m_dialog->findChild<QWidget*>(u"retry"_s);
+    EXPECT_TRUE(DialogUser::waitUntil([&] { return retry->isVisible(); }, u"the missing server"_s));
+  }
+
+  void expectPage(const char* theme, const QString& page) {
+    SCOPED_TRACE(page.toStdString() + ' ' + theme);
+    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_dialog->preview().isSettled(); }, u"the preview"_s));
+    expectInPlace(*m_dialog);
+    expectNamed(*m_dialog);
+    expectMnemonics(*m_dialog);
+    expectAligned(*m_dialog->findChild<PanelPane*>());
+    const QString file = u"%1/%2-%3-%4-%5.png"_s.arg(m_pictures, QLocale().name())
+                             .arg(m_percent)
+                             .arg(QLatin1String(theme), page);
+    EXPECT_TRUE(m_dialog->grab().save(file)) << file;
+  }
+
+  void expectPages(const char* theme) {
+    auto* inner = m_dialog->findChild<QTabWidget*>(u"tabView"_s);
+    auto* outer =
+        qobject_cast<QTabWidget*>(m_dialog->findChild<PanelPane*>()->parentWidget()->parentWidget());
+    ASSERT_NE(outer, nullptr);
+    for (const auto& [pane, page, name] :
+         {std::tuple(0, 0, "general"), {1, 0, "storage"}, {1, 1, "account"}, {2, 0, "summary"}}) {
+      outer->setCurrentIndex(pane);
+      inner->setCurrentIndex(page);
+      QCoreApplication::processEvents();
+      expectPage(theme, QLatin1String(name));
+    }
+  }
+
+  QTemporaryDir m_home;
+  int m_percent = qEnvironmentVariableIsSet("KESTO_TEST_PERCENT")
+                      ? qEnvironmentVariableIntValue("KESTO_TEST_PERCENT")
+                      : 100;
+  QString m_pictures = QCoreApplication::applicationDirPath() + u"/../screenshots"_s;
+  Document m_document;
+  std::optional<PrintDialog> m_dialog;
+};
+
+TEST_F(DialogLook, IsWholeInLightAndDark) {
+  if (QLocale().language() != QLocale::English) {
+    EXPECT_NE(m_dialog->windowTitle(), u"Print"_s) << "not translated";
+    EXPECT_FALSE(m_dialog->findChild<QLabel*>(u"printerState"_s)->text().contains(u"does not answer"));
+  }
+  expectPages("light");
+  QApplication::setPalette(darkPalette());
+  expectPages("dark");
+}
+
+}  // namespace
+}  // namespace kesto::test

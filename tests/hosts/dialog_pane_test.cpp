@@ -1,0 +1,405 @@
+// The panel in widgets: what a user does with keys and mouse, in the controls and in the job's settings.
+#include <QtCore/QMimeData>
+#include <QtGui/QAccessible>
+#include <QtGui/QClipboard>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QToolButton>
+
+#include "panel/model/button.h"
+#include "panel/model/pop_up.h"
+#include "panel/model/radio_matrix.h"
+#include "panel/model/simple_controls.h"
+#include "panel/model/text_field.h"
+#include "tests/support/dialog_support.h"
+
+namespace kesto::test {
+namespace {
+
+class DialogPane : public testing::Test {
+ protected:
+  void turnRetentionOn() { ASSERT_TRUE(m_window.user.click(u"retentionCheckBox"_s)); }
+
+  PaneWindow m_window;
+  DialogUser& m_user = m_window.user;
+};
+
+TEST_F(DialogPane, EveryControlHasItsWidget) {
+  for (const Control* control : m_window.view->controls())
+    EXPECT_NE(m_window.findChild<QWidget*>(control->objectName()), nullptr) << control->objectName();
+}
+
+TEST_F(DialogPane, WhatAUserDoesReachesTheJob) {
+  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
+  ASSERT_TRUE(m_user.click(u"retentionCheckBox"_s));
+  ASSERT_TRUE(m_user.click(u"samplePrintRadioButton"_s));
+  ASSERT_TRUE(m_user.type(u"suspendKeyEditText"_s, u"13579"_s));
+  ASSERT_TRUE(m_user.click(u"userNumberRadioButton"_s));
+  ASSERT_TRUE(m_user.type(u"userNumberEditText"_s, u"42"_s));
+  ASSERT_TRUE(m_user.replace(u"jobNameEditText"_s, u"Plan"_s));
+  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"3"_s);
+  EXPECT_EQ(m_window.setting(u"userNumber"_s), u"00042"_s);
+  EXPECT_EQ(m_window.setting(u"jobName"_s), QString::fromLatin1(QByteArray("Plan").toHex().toUpper()));
+  EXPECT_EQ(m_window.setting(u"jobSuspendKey"_s).size(), 32) << "the digest of the pass code";
+  ASSERT_TRUE(m_user.click(u"retentionCheckBox"_s));
+  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
+  EXPECT_EQ(m_window.widget<QLineEdit>(u"suspendKeyEditText"_s)->text(), u""_s);
+}
+
+void paste(QLineEdit& line, const QString& text) {
+  QApplication::clipboard()->setText(text);
+  QTest::keyClick(&line, Qt::Key_V, Qt::ControlModifier);
+}
+
+void drop(QLineEdit& line, const QString& text) {
+  QMimeData data;
+  data.setText(text);
+  const QPoint end = line.rect().center();
+  QDragEnterEvent enter(end, Qt::CopyAction, &data, Qt::LeftButton, {});
+  QApplication::sendEvent(&line, &enter);
+  QDropEvent event(end, Qt::CopyAction, &data, Qt::LeftButton, {});
+  QApplication::sendEvent(&line, &event);
+}
+
+void compose(QLineEdit& line, const QString& text) {
+  QInputMethodEvent event;
+  event.setCommitString(text);
+  QApplication::sendEvent(&line, &event);
+}
+
+void pressKeys(QLineEdit& line, const QString& text) {
+  QTest::keyClicks(&line, text);
+}
+
+void undo(QLineEdit& line, const QString& /*text*/) {
+  QTest::keyClick(&line, Qt::Key_Z, Qt::ControlModifier);
+}
+
+void erase(QLineEdit& line, const QString& /*text*/) {
+  QTest::keyClick(&line, Qt::Key_Backspace);
+}
+
+struct Edit {
+  const char* what = nullptr;
+  Text before;
+  void (*edit)(QLineEdit& line, const QString& text) = nullptr;
+  Text given;
+  Text after;
+  TextRange selection;
+};
+
+TEST_F(DialogPane, EveryWayToEditGoesThroughTheFilter) {
+  turnRetentionOn();
+  auto* line = m_window.widget<QLineEdit>(u"suspendKeyEditText"_s);
+  auto* field = m_window.control<TextField>(u"suspendKeyEditText"_s);
+  const Edit edits[] = {
+      {"keys: digits pass, letters do not", "", pressKeys, "1a2b3", "123", {3, 0}},
+      {"keys: a ninth digit selects the eight", "12345678", pressKeys, "9", "12345678", {0, 8}},
+      {"paste: from a digit on", "12", paste, "345", "12345", {5, 0}},
+      {"paste: not from a letter on", "12", paste, "x3", "12", {2, 0}},
+      {"paste: cut to eight and selected", "12345", paste, "6789", "12345678", {0, 8}},
+      {"drop: from a digit on", "12", drop, "34", "1234", {4, 0}},
+      {"drop: not from a letter on", "12", drop, "x34", "12", {2, 0}},
+      {"input method: a digit", "12", compose, "3", "123", {3, 0}},
+      {"input method: a letter", "12", compose, "é", "12", {2, 0}},
+      {"undo: of a deletion", "1", undo, "", "1", {1, 0}},
+      {"backspace", "123", erase, "", "12", {2, 0}},
+  };
+  for (const Edit& edit : edits) {
+    SCOPED_TRACE(edit.what);
+    field->setStringValue(edit.before);
+    ASSERT_TRUE(m_user.click(u"suspendKeyEditText"_s));
+    line->end(false);
+    line->setEchoMode(QLineEdit::Normal);  // nothing is undone in a field that hides its text
+    edit.edit(*line, edit.given);
+    EXPECT_EQ(line->text(), edit.after);
+    EXPECT_EQ(field->stringValue(), edit.after);
+    EXPECT_EQ(field->selection(), edit.selection);
+    EXPECT_EQ(line->selectedText().size(), edit.selection.length);
+  }
+}
+
+TEST_F(DialogPane, UndoCannotBringBackMoreThanTheFilterLets) {
+  auto* line = m_window.widget<QLineEdit>(u"jobNameEditText"_s);
+  auto* field = m_window.control<TextField>(u"jobNameEditText"_s);
+  ASSERT_TRUE(m_user.replace(u"jobNameEditText"_s, u"First"_s));
+  QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(line, Qt::Key_Delete);
+  EXPECT_EQ(field->stringValue(), u""_s);
+  QTest::keyClick(line, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(line->text(), u"First"_s);
+  EXPECT_EQ(field->stringValue(), u"First"_s);
+}
+
+TEST_F(DialogPane, AHoldButtonLocksItsField) {
+  auto* line = m_window.widget<QLineEdit>(u"jobNameEditText"_s);
+  auto* button = m_window.widget<QToolButton>(u"jobNameButton"_s);
+  const auto state = [&] { return QAccessible::queryAccessibleInterface(button)->state(); };
+  EXPECT_TRUE(line->isEnabled());
+  EXPECT_FALSE(state().checked);
+  const QImage open = button->grab().toImage();
+  ASSERT_TRUE(m_user.click(u"jobNameButton"_s));
+  EXPECT_FALSE(line->isEnabled());
+  EXPECT_TRUE(state().checked);
+  EXPECT_TRUE(state().checkable);
+  EXPECT_EQ(button->accessibleName(), u"Lock Job Name"_s);
+  EXPECT_NE(button->grab().toImage(), open);
+  ASSERT_TRUE(DialogUser::waitUntil([&] { return !line->toolTip().isEmpty(); }, u"the reason"_s));
+  EXPECT_TRUE(button->accessibleDescription().startsWith(u"On"_s));
+  // By its key, too: Alt and Shift with the letter of the field.
+  QTest::keySequence(&m_window, button->shortcut());
+  ASSERT_TRUE(DialogUser::waitUntil([&] { return line->isEnabled(); }, u"the lock to open"_s));
+  EXPECT_TRUE(line->hasFocus()) << "an opened field takes the focus";
+  EXPECT_EQ(line->text(), u"report.pdf"_s);
+}
+
+TEST_F(DialogPane, SecretsHideThemselves) {
+  auto* login = m_window.widget<QLineEdit>(u"loginNameEditText"_s);
+  auto* password = m_window.widget<QLineEdit>(u"passwordEditText"_s);
+  auto* code = m_window.widget<QLineEdit>(u"suspendKeyEditText"_s);
+  ASSERT_TRUE(m_user.type(u"loginNameEditText"_s, u"anna"_s));
+  ASSERT_TRUE(m_user.type(u"passwordEditText"_s, u"secret"_s));
+  EXPECT_EQ(password->displayText(), QString(6, password->displayText().at(0)));
+  EXPECT_NE(password->displayText().at(0), u's');
+  ASSERT_TRUE(m_user.click(u"loginNameButton"_s));
+  EXPECT_EQ(login->text(), QString(4, QChar(0x2022)));
+  turnRetentionOn();
+  ASSERT_TRUE(m_user.type(u"suspendKeyEditText"_s, u"24"_s));
+  EXPECT_NE(code->displayText(), u"24"_s);
+  QTest::keyClick(code, Qt::Key_R, Qt::ControlModifier);
+  EXPECT_EQ(code->displayText(), u"24"_s);
+  QTest::keyClick(code, Qt::Key_R, Qt::ControlModifier);
+  EXPECT_NE(code->displayText(), u"24"_s);
+  const QImage eye = code->actions().constFirst()->icon().pixmap(16, QIcon::Disabled).toImage();
+  EXPECT_EQ(eye.pixelColor(2, 8).rgb(), code->palette().color(QPalette::Disabled, QPalette::Text).rgb());
+}
+
+struct FolderCase {
+  const char* what;
+  bool isByMatrix;
+  int chosen;
+  int row;
+  int index;
+};
+
+TEST_F(DialogPane, PopUpAndMatrixOfFoldersStayInStep) {
+  turnRetentionOn();
+  auto* popUp = m_window.control<PopUp>(u"folderSelectionPopup"_s);
+  const auto* matrix = m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s);
+  std::vector<PopUpItem> items = popUp->items();
+  items.push_back({.title = {}, .image = {}, .separator = true});
+  items.push_back({.title = u"Invoices"_s, .image = {}});
+  popUp->setItems(items);
+  const char* cells[] = {"quickFileRadioButton", "mainFolderRadioButton", "customFolderRadioButton"};
+  const FolderCase cases[] = {
+      {"a folder is a custom one", false, 3, 2, 3},
+      {"main folder", false, 1, 1, 1},
+      {"quick file by row", true, 0, 0, 0},
+      {"custom moves off quick file", true, 2, 2, 1},
+      {"quick file by item", false, 0, 0, 0},
+      {"a folder again", false, 3, 2, 3},
+      {"custom leaves a chosen folder", true, 2, 2, 3},
+      {"main folder by row", true, 1, 1, 1},
+  };
+  for (const FolderCase& each : cases) {
+    SCOPED_TRACE(each.what);
+    const Outcome done = each.isByMatrix ? m_user.click(QLatin1String(cells[each.chosen]))
+                                         : m_user.choose(u"folderSelectionPopup"_s, each.chosen);
+    ASSERT_TRUE(done) << done.reason();
+    EXPECT_EQ(matrix->selectedRow(), each.row);
+    EXPECT_EQ(popUp->selectedIndex(), each.index);
+    EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), each.index);
+  }
+}
+
+TEST_F(DialogPane, FocusFollowsTheModelAndBack) {
+  auto* name = m_window.widget<QLineEdit>(u"folderNameEditText"_s);
+  turnRetentionOn();
+  auto* code = m_window.widget<QLineEdit>(u"suspendKeyEditText"_s);
+  EXPECT_TRUE(code->hasFocus());
+  QCoreApplication::processEvents();
+  QTest::keyClicks(m_window.focusWidget(), u"24"_s);
+  EXPECT_EQ(code->text(), u"24"_s) << "it keeps the focus";
+  EXPECT_EQ(m_window.view->firstResponder()->objectName(), u"suspendKeyEditText"_s);
+  ASSERT_TRUE(m_user.click(u"suspendKeyButton"_s));
+  for (int i = 0; i < 2; ++i)
+    ASSERT_TRUE(m_user.click(u"retentionCheckBox"_s));
+  EXPECT_TRUE(m_window.widget(u"retentionCheckBox"_s)->hasFocus()) << "the pass code is locked";
+  ASSERT_TRUE(m_user.click(u"suspendKeyButton"_s));
+  ASSERT_TRUE(m_user.click(u"customFolderRadioButton"_s));
+  EXPECT_TRUE(name->hasFocus());
+  QTest::keyClicks(name, u"Plans"_s);
+  EXPECT_EQ(m_window.view->firstResponder()->objectName(), u"folderNameEditText"_s);
+  QTest::keyClick(name, Qt::Key_Tab);
+  EXPECT_FALSE(name->hasFocus());
+  EXPECT_EQ(m_window.view->firstResponder(), nullptr) << "a button has the focus";
+  ASSERT_TRUE(m_user.type(u"suspendKeyEditText"_s, u"1"_s));
+  restorePanel(*m_window.host, {});
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(code->hasFocus()) << "it is dimmed";
+  EXPECT_EQ(m_window.view->firstResponder()->objectName(), m_window.focusWidget()->objectName());
+  ASSERT_TRUE(m_user.click(u"userNumberRadioButton"_s));
+  EXPECT_TRUE(m_window.widget(u"userNumberEditText"_s)->hasFocus());
+  ASSERT_TRUE(m_user.click(u"authenticationRadioButton"_s));
+  EXPECT_TRUE(m_window.widget(u"loginNameEditText"_s)->hasFocus());
+}
+
+// What assistive technology asks of a widget, by the names of the widgets.
+QAccessibleInterface& accessible(QWidget* widget) {
+  return *QAccessible::queryAccessibleInterface(widget);
+}
+
+void toggle(QWidget* widget) {
+  accessible(widget).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+}
+
+void insertText(QWidget* line, const QString& text) {
+  accessible(line).editableTextInterface()->insertText(0, text);
+}
+
+void replaceText(QWidget* line, const QString& text) {
+  const int end = accessible(line).textInterface()->characterCount();
+  accessible(line).editableTextInterface()->replaceText(0, end, text);
+}
+
+void setValue(QWidget* line, const QString& text) {
+  accessible(line).setText(QAccessible::Value, text);
+}
+
+void deleteText(QWidget* line, const QString& text) {
+  accessible(line).editableTextInterface()->deleteText(0, static_cast<int>(text.size()));
+}
+
+TEST_F(DialogPane, AssistiveTechnologyGoesThroughTheFilterAndTheRules) {
+  struct Change {
+    const char* field = nullptr;
+    Text before;
+    void (*change)(QWidget* line, const QString& text) = nullptr;
+    Text given;
+    Text after;
+  };
+  const Change changes[] = {
+      {"suspendKeyEditText", "", setValue, "13579", "13579"},
+      {"suspendKeyEditText", "13579", setValue, "2x", "2x"},  // as pasted over the rest: its first counts
+      {"suspendKeyEditText", "12", setValue, "x3", "12"},
+      {"suspendKeyEditText", "", setValue, "123456789", "12345678"},
+      {"suspendKeyEditText", "12345678", setValue, "12", "12"},
+      {"suspendKeyEditText", "12345678", setValue, "1234x678", "12345678"},
+      {"suspendKeyEditText", "12345678", setValue, "", ""},
+      {"suspendKeyEditText", "34", insertText, "12", "1234"},
+      {"suspendKeyEditText", "34", insertText, "é", "34"},
+      {"suspendKeyEditText", "1234", deleteText, "12", "34"},
+      {"suspendKeyEditText", "12", replaceText, "34", "34"},
+      {"folderNameEditText", "", setValue, "Plans", ""},  // dimmed
+      {"userNameEditText", "😀", setValue, "😁", "😁"},
+      {"userNameEditText", "", setValue, "Anna", "Anna"},
+  };
+  turnRetentionOn();
+  for (const Change& change : changes) {
+    SCOPED_TRACE(testing::Message() << change.field << ' ' << QString(change.given));
+    auto* line = m_window.widget<QLineEdit>(QLatin1String(change.field));
+    auto* field = m_window.control<TextField>(QLatin1String(change.field));
+    field->setStringValue(change.before);
+    change.change(line, change.given);
+    EXPECT_EQ(line->text(), change.after);
+    EXPECT_EQ(field->stringValue(), change.after);
+  }
+  EXPECT_TRUE(m_window.widget(u"suspendKeyEditText"_s)->hasFocus()) << "the focus stays where it is";
+  // A caret that was moved without the focus is where the next key goes.
+  auto* line = m_window.widget<QLineEdit>(u"userNameEditText"_s);
+  line->setCursorPosition(0);
+  accessible(line).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+  EXPECT_EQ(m_window.control<TextField>(u"userNameEditText"_s)->selection(), TextRange());
+  toggle(m_window.widget(u"quickFileRadioButton"_s));
+  EXPECT_EQ(m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s)->selectedRow(), 0);
+  EXPECT_EQ(m_window.control<RadioMatrix>(u"suspendMatrix"_s)->selectedRow(), 1) << "the rules have run";
+  EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), 0);
+  m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->setCurrentIndex(1);
+  EXPECT_EQ(m_window.control<PopUp>(u"folderSelectionPopup"_s)->selectedIndex(), 1);
+  EXPECT_EQ(m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s)->selectedRow(), 1);
+  toggle(m_window.widget(u"retentionCheckBox"_s));
+  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
+  toggle(m_window.widget(u"holdAfterRadioButton"_s));  // dimmed
+  m_window.widget<QAbstractButton>(u"samplePrintRadioButton"_s)->setChecked(true);
+  m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->setCurrentIndex(0);
+  EXPECT_TRUE(m_window.widget<QAbstractButton>(u"holdOnlyRadioButton"_s)->isChecked());
+  EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), 1);
+}
+
+TEST_F(DialogPane, TabsAndProgressFollow) {
+  auto* tabs = m_window.widget<QTabWidget>(u"tabView"_s);
+  auto* arrow = m_window.control<ProgressIndicator>(u"chasingArrow"_s);
+  auto* bar = m_window.widget<QProgressBar>(u"chasingArrow"_s);
+  EXPECT_FALSE(bar->isVisible());
+  arrow->setHidden(false);
+  EXPECT_TRUE(bar->isVisible());
+  tabs->setCurrentIndex(1);
+  EXPECT_EQ(m_window.control<TabView>(u"tabView"_s)->selectedTab(), 1);
+}
+
+TEST_F(DialogPane, ATipSaysWhyAControlIsDimmed) {
+  struct Tip {
+    const char* widget;
+    const char* part;
+  };
+  const auto expectTips = [&](const std::vector<Tip>& tips) {
+    QCoreApplication::processEvents();  // tips follow once a moment is over
+    for (const Tip& tip : tips) {
+      const QString text = m_window.widget(QLatin1String(tip.widget))->toolTip();
+      EXPECT_TRUE(tip.part == nullptr ? text.isEmpty() : text.contains(QLatin1String(tip.part)))
+          << tip.widget << ": " << text;
+    }
+  };
+  expectTips({{"suspendKeyEditText", "not held"},
+              {"folderSelectionPopup", "not held"},
+              {"holdOnlyRadioButton", "not held"},
+              {"userNumberEditText", nullptr}});
+  turnRetentionOn();
+  ASSERT_TRUE(m_user.click(u"userNumberRadioButton"_s));
+  expectTips({{"suspendKeyEditText", nullptr},
+              {"folderNameEditText", "custom folder"},
+              {"folderPasswordStaticText", "guarded"},
+              {"loginNameEditText", "user number"}});
+  ASSERT_TRUE(m_user.click(u"quickFileRadioButton"_s));
+  ASSERT_TRUE(m_user.click(u"userNumberButton"_s));
+  expectTips({{"suspendKeyEditText", "quick file"}, {"userNumberEditText", "Locked"}});
+}
+
+TEST_F(DialogPane, TheTestsUserFailsWhereAPersonWould) {
+  EXPECT_FALSE(m_user.click(u"noSuchButton"_s));
+  EXPECT_FALSE(m_user.click(u"holdOnlyRadioButton"_s)) << "it is dimmed";
+  EXPECT_FALSE(m_user.type(u"jobNameStaticText"_s, u"x"_s)) << "a label takes no keys";
+  EXPECT_FALSE(m_user.choose(u"jobNameEditText"_s, 0)) << "a line has no items";
+}
+
+TEST_F(DialogPane, OutlivesItsPanel) {
+  turnRetentionOn();
+  m_window.host.reset();
+  QTest::mouseClick(m_window.widget(u"retentionCheckBox"_s), Qt::LeftButton);
+  QTest::keyClicks(m_window.widget(u"suspendKeyEditText"_s), u"12"_s);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(m_window.isVisible());
+}
+
+TEST(PlainText, TextsForWhichNoLetterIsLeftStayAsTheyAre) {
+  QWidget window;
+  for (int i = 0; i < 30; ++i)
+    setPlainText(*new QCheckBox(&window), u"用&户"_s);
+  assignMnemonics(window);
+  QSet<QString> keys;
+  for (const auto* button : window.findChildren<QCheckBox*>()) {
+    const QString key = QKeySequence::mnemonic(button->text()).toString();
+    EXPECT_EQ(button->text(), key.isEmpty() ? u"用&&户"_s : u"用&&户(&%1)"_s.arg(key.right(1)));
+    keys.insert(key);
+  }
+  EXPECT_EQ(keys.size(), 27) << "the letters, and none";
+}
+
+}  // namespace
+}  // namespace kesto::test

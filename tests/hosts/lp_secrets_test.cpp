@@ -1,0 +1,178 @@
+// How kesto-lp takes secrets: from files, standard input and the terminal, and where they must not be seen.
+#include <elf.h>
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <sys/ptrace.h>
+#include <sys/user.h>
+#include <sys/wait.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include "tests/support/lp_program.h"
+
+namespace kesto::test {
+namespace {
+
+const QString pin1234 = u"jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E"_s;
+
+class LpSecrets : public LpTest {
+ protected:
+  std::unique_ptr<QProcess> job(const QString& entries) const {
+    return process(u"--dry-run --device-uri lpd://x --hold only --ppd %1 %2"_s.arg(m_ppd.path(), entries));
+  }
+};
+
+TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
+  const QPair<QByteArray, QString> cases[] = {
+      {"1234\n", {}},
+      {"1234", {}},
+      {"1234\r\nmore\n", {}},
+      {"", u"kesto-lp: --pin-file: the line is empty\n"_s},
+      {"\n1234\n", u"kesto-lp: --pin-file: the line is empty\n"_s},
+      {QByteArray(1024, 'x') + 'y', u"kesto-lp: --pin-file: the line is too long\n"_s},
+      {"12\xFF", u"kesto-lp: --pin-file: the line is no UTF-8 text\n"_s},
+  };
+  const QString file = m_home.filePath(u"code"_s);
+  for (const auto& [bytes, fault] : cases) {
+    QFile code(file);
+    ASSERT_TRUE(code.open(QIODevice::WriteOnly) && code.write(bytes) == bytes.size());
+    code.close();
+    for (const QString& source : {u"-"_s, file}) {
+      const LpRun run = dryRun(u"--hold only --pin-file "_s + source, bytes);
+      EXPECT_EQ(run.code, fault.isNull() ? 0 : 1) << bytes.constData();
+      EXPECT_EQ(run.values(u"jobSuspend2Key"_s), fault.isNull() ? pin1234 : u"jobSuspend2Key"_s);
+      EXPECT_EQ(run.err, fault.isNull() ? u""_s : fault);
+    }
+  }
+  EXPECT_EQ(dryRun(u"--password-file /no/file"_s).err,
+            u"kesto-lp: --password-file: /no/file: No such file or directory\n"_s);
+  EXPECT_EQ(dryRun(u"--password-file /"_s).err, u"kesto-lp: --password-file: Is a directory\n"_s);
+}
+
+TEST_F(LpSecrets, NoMessageTellsThem) {
+  for (const auto& arguments :
+       {u"--pin-file -"_s, u"--hold only --folder X --folder-pin-file -"_s,
+        u"--hold after --pin-file - --folder quick"_s, u"--hold only --pin 471147114711"_s}) {
+    const LpRun run = dryRun(arguments, "471147114711\n");
+    EXPECT_EQ(run.code, 3) << arguments.toStdString();
+    EXPECT_FALSE((run.out + run.err).contains(u"4711"_s)) << arguments.toStdString();
+  }
+}
+
+#ifdef __x86_64__
+// Runs a program that is started for tracing up to its entry point, where its libraries are initialised and
+// nothing of its own has run, and answers its command line as other users see it. It then runs on.
+QByteArray commandLineAtEntry(pid_t process) {
+  const auto ofProcess = [process](const char* name) {
+    QFile file(u"/proc/%1/%2"_s.arg(process).arg(QLatin1String(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  };
+  EXPECT_EQ(::waitpid(process, nullptr, 0), process);
+  const QByteArray facts = ofProcess("auxv");
+  const auto* fact = reinterpret_cast<const Elf64_auxv_t*>(facts.constData());
+  while (fact->a_type != AT_ENTRY)
+    ++fact;
+  const auto entry = fact->a_un.a_val;
+  const long code = ::ptrace(PTRACE_PEEKTEXT, process, entry, nullptr);
+  ::ptrace(PTRACE_POKETEXT, process, entry, (code & ~0xFFL) | 0xCC);
+  ::ptrace(PTRACE_CONT, process, nullptr, nullptr);
+  EXPECT_EQ(::waitpid(process, nullptr, 0), process);
+  QByteArray line = ofProcess("cmdline");
+  user_regs_struct registers{};
+  ::ptrace(PTRACE_GETREGS, process, nullptr, &registers);
+  EXPECT_EQ(registers.rip, entry + 1);
+  registers.rip = entry;
+  ::ptrace(PTRACE_SETREGS, process, nullptr, &registers);
+  ::ptrace(PTRACE_POKETEXT, process, entry, code);
+  ::ptrace(PTRACE_DETACH, process, nullptr, nullptr);
+  return line;
+}
+
+TEST_F(LpSecrets, TheListOfProcessesDoesNotShowThem) {
+  const auto lp = job(u"--pin 1234 --folder X --folder-pin=1234"_s);
+  lp->setChildProcessModifier([] { ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr); });
+  lp->start();
+  const QByteArray line = commandLineAtEntry(static_cast<pid_t>(lp->processId()));
+  EXPECT_TRUE(line.contains("--pin") && line.contains("--folder-pin="));
+  EXPECT_FALSE(line.contains("1234"));
+  const LpRun run = finish(*lp);
+  EXPECT_EQ(run.values(u"jobSuspend2Key"_s), pin1234) << run.err;
+  EXPECT_EQ(run.values(u"folderPassword2"_s).section(u'=', 1), pin1234.section(u'=', 1));
+}
+#endif
+
+// A terminal at which a program asks for a pass code.
+class LpAtATerminal : public LpSecrets {
+ protected:
+  void SetUp() override {
+    m_master = ::posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_TRUE(m_master >= 0 && ::grantpt(m_master) == 0 && ::unlockpt(m_master) == 0);
+    m_terminal = ::open(::ptsname(m_master), O_RDWR | O_NOCTTY);  // so that its modes outlive a program
+  }
+  void TearDown() override {
+    ::close(m_terminal);
+    ::close(m_master);
+  }
+  std::unique_ptr<QProcess> ask() {
+    auto lp = job(u"--ask-pin"_s);
+    lp->setChildProcessModifier([name = std::string(::ptsname(m_master))] {
+      ::setsid();
+      ::ioctl(::open(name.c_str(), O_RDWR), TIOCSCTTY, 0);
+    });
+    lp->start();
+    EXPECT_EQ(read(), "Pass code: ");
+    return lp;
+  }
+  QByteArray read() const {
+    std::array<char, 100> seen{};
+    return {seen.data(), ::read(m_master, seen.data(), seen.size())};
+  }
+  void expectEcho(bool isOn, int after) const {
+    termios modes{};
+    for (int tries = 0; tries < 500; ++tries, ::usleep(10000)) {
+      ASSERT_EQ(::tcgetattr(m_master, &modes), 0);
+      if (((modes.c_lflag & ECHO) != 0) == isOn) return;
+    }
+    ADD_FAILURE() << "echo " << (isOn ? "stays off" : "comes back") << " after signal " << after;
+  }
+
+  int m_master = -1;
+  int m_terminal = -1;
+};
+
+TEST_F(LpAtATerminal, AnswersWithoutShowingThem) {
+  const auto lp = ask();
+  expectEcho(false, 0);
+  ASSERT_EQ(::write(m_master, "1234\n", 5), 5);
+  EXPECT_EQ(finish(*lp).values(u"jobSuspend2Key"_s), pin1234);
+  EXPECT_EQ(read(), "\r\n");
+  expectEcho(true, 0);
+}
+
+TEST_F(LpAtATerminal, AProgramThatGoesLeavesItItsEcho) {
+  for (const int signal : {SIGTERM, SIGALRM, SIGSEGV, SIGKILL}) {
+    const auto lp = ask();
+    expectEcho(false, 0);
+    ASSERT_EQ(::kill(static_cast<pid_t>(lp->processId()), signal), 0);
+    ASSERT_TRUE(lp->waitForFinished());
+    expectEcho(true, signal);
+    ::tcflush(m_master, TCIOFLUSH);
+  }
+  const auto lp = ask();
+  ::kill(static_cast<pid_t>(lp->processId()), SIGSTOP);
+  expectEcho(true, SIGSTOP);
+  ::kill(static_cast<pid_t>(lp->processId()), SIGCONT);
+  expectEcho(false, SIGCONT);
+  ASSERT_EQ(::write(m_master, "1234\n", 5), 5);
+  EXPECT_EQ(finish(*lp).values(u"jobSuspend2Key"_s), pin1234);
+}
+
+TEST_F(LpSecrets, WithoutATerminalNothingIsAsked) {
+  const auto lp = job(u"--ask-pin"_s);
+  lp->setChildProcessModifier([] { ::setsid(); });
+  lp->start();
+  EXPECT_EQ(finish(*lp).err, u"kesto-lp: --ask-pin: there is no terminal to ask at\n"_s);
+}
+
+}  // namespace
+}  // namespace kesto::test

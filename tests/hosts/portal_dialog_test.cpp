@@ -1,0 +1,181 @@
+// The dialog of kesto-print --portal: what it says to its service, what ends it, and what is printed then.
+#include <fcntl.h>
+
+#include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/portal_print.h"
+#include "tests/support/dialog_printer.h"
+
+namespace kesto::test {
+namespace {
+
+class PortalDialog : public DialogPrint {
+ protected:
+  PortalDialog() {
+    QApplication::setQuitOnLastWindowClosed(false);
+    m_folder.write(u"empty"_s, {});
+  }
+  // Starts the dialog, and waits for its window.
+  void open(bool hasDocument, const QJsonObject& settings = {}) {
+    Descriptor ours;
+    Descriptor theirs;
+    ASSERT_TRUE(PrintChannel::makePair(&ours, &theirs));
+    m_options.channel = theirs.release();
+    m_print.emplace(m_options);
+    m_service = std::make_unique<PrintChannel>(std::move(ours));
+    m_said = {};
+    QObject::connect(m_service.get(), &PrintChannel::received, [this](const QJsonObject& message) {
+      m_said = message;
+      m_answers += message.value(u"answer"_s).toString() + u' ';
+    });
+    m_answers.clear();
+    say(u"open"_s, {{u"document"_s, hasDocument}, {u"settings"_s, settings}});
+    await([] { return window() != nullptr; }, u"the dialog"_s);
+  }
+  void say(const QString& what, QJsonObject message = {}, int attached = -1) {
+    message.insert(u"do"_s, what);
+    ASSERT_TRUE(m_service->send(message, attached));
+  }
+  // Hands over a file, or a pipe that holds part of a document; gives the pipe's other end.
+  Descriptor print(const QString& document) {
+    if (document != u"pipe") {
+      const Descriptor file(::open(m_folder.path(document).toUtf8().constData(), O_RDONLY | O_CLOEXEC));
+      say(u"print"_s, {{u"title"_s, u"Report"_s}}, file.get());
+      return {};
+    }
+    std::array<int, 2> ends{};
+    EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
+    Descriptor written(ends[1]);
+    EXPECT_EQ(::write(written.get(), "half", 4), 4);
+    const Descriptor read(ends[0]);
+    say(u"print"_s, {{u"title"_s, u"Report"_s}}, read.get());
+    return written;
+  }
+  void awaitAnswers(const QString& answers) {
+    await([&] { return m_answers == answers; }, answers);
+  }
+  void awaitEnd() {
+    QTimer::singleShot(30000, &*m_print, [] { QApplication::exit(1); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    QCoreApplication::processEvents();
+    m_print.reset();
+  }
+  static PrintDialog* window() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (auto* dialog = qobject_cast<PrintDialog*>(window)) return dialog;
+    }
+    return nullptr;
+  }
+  void pressPrint() {
+    await([] { return window()->isQueueReady(); }, u"the queue"_s);
+    ASSERT_TRUE(DialogUser(*window()).click(u"print"_s));
+  }
+
+  std::optional<PortalPrint> m_print;
+  std::unique_ptr<PrintChannel> m_service;
+  QJsonObject m_said;
+  QString m_answers;
+};
+
+TEST_F(PortalDialog, EndsWithItsServiceAndItsUser) {
+  const QJsonObject settings{{u"n-copies"_s, u"2"_s}, {u"collate"_s, u"false"_s}};
+  for (const QString& end : {u"close"_s, u"service"_s, u"user"_s, u"user after a failure"_s}) {
+    SCOPED_TRACE(end.toStdString());
+    open(true, settings);
+    EXPECT_EQ(window()->general().jobOptions(),
+              (QMap<QString, QString>{{u"copies"_s, u"2"_s}, {u"collate"_s, u"false"_s}}));
+    if (end == u"user after a failure") {
+      print(u"empty"_s);
+      awaitAnswers(u"failed "_s);
+      say(u"close"_s);
+      const auto isTold = [] {
+        return window()->findChild<QLabel*>(u"documentName"_s)->text().contains(u"is empty"_s);
+      };
+      await(isTold, u"the reason"_s);
+      m_answers.clear();
+    }
+    if (end == u"close") say(end);
+    if (end == u"service") m_service.reset();
+    if (end.startsWith(u"user"))
+      QTimer::singleShot(0, window(), [] { QTest::keyClick(window(), Qt::Key_Escape); });
+    awaitEnd();
+    EXPECT_EQ(m_answers, end.startsWith(u"user") ? u"cancelled "_s : QString());
+  }
+}
+
+TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
+  startPrinter();
+  struct Case {
+    const char* name;
+    QString document;
+    bool isClosed;        // by the client
+    QString answers;      // until the service speaks
+    QStringList service;  // what it says then
+    QString last;         // what is answered to that
+    int jobs;
+  };
+  int jobs = 0;
+  for (const Case& row :
+       {Case{"a file of a client that ends",
+             u"report.pdf"_s,
+             false,
+             u"chosen "_s,
+             {u"close"_s},
+             u"taken "_s,
+             1},
+        Case{"a pipe of a living client", u"pipe"_s, true, u"chosen read "_s, {u"whole"_s}, u"taken "_s, 1},
+        Case{"a pipe of a dead client", u"pipe"_s, true, u"chosen read "_s, {u"close"_s}, {}, 0},
+        Case{"a dead client's pipe in other hands", u"pipe"_s, false, u"chosen "_s, {u"close"_s}, {}, 0}}) {
+    SCOPED_TRACE(row.name);
+    open(false);
+    pressPrint();
+    awaitAnswers(u"chosen "_s);
+    EXPECT_FALSE(window()->isVisible());
+    Descriptor written = print(row.document);
+    if (row.isClosed) written.reset();
+    awaitAnswers(row.answers);
+    for (const QString& word : row.service)
+      say(word);
+    awaitEnd();
+    EXPECT_EQ(m_answers, row.answers + row.last);
+    jobs += row.jobs;
+    if (row.jobs > 0) m_printer->waitForLog("job " + QByteArray::number(jobs) + " from ");
+    EXPECT_EQ(QJsonDocument::fromJson(m_printer->jobs()).array().size(), jobs);
+  }
+}
+
+TEST_F(PortalDialog, TheClientsOwnPagesStayUnlessOthersAreChosen) {
+  startPrinter();
+  for (const auto& [asked, isChanged, answered] : {std::tuple("current", false, "current"),
+                                                   {"selection", false, "selection"},
+                                                   {"selection", true, "all"}}) {
+    open(false, {{u"print-pages"_s, QLatin1String(asked)}});
+    await([] { return window()->isQueueReady(); }, u"the queue"_s);
+    if (isChanged) {
+      EXPECT_TRUE(DialogUser(*window()).click(u"allPages"_s));
+    }
+    pressPrint();
+    awaitAnswers(u"chosen "_s);
+    EXPECT_EQ(m_said[u"settings"_s][u"print-pages"_s].toString(), QLatin1String(answered));
+    say(u"close"_s);
+    awaitEnd();
+  }
+}
+
+TEST_F(PortalDialog, ComesBackWithTheReasonWhenThereIsNothingToPrint) {
+  startPrinter();
+  open(false);
+  pressPrint();
+  awaitAnswers(u"chosen "_s);
+  print(u"empty"_s);
+  awaitAnswers(u"chosen failed "_s);
+  await([] { return window()->isVisible(); }, u"the dialog"_s);
+  EXPECT_EQ(window()->findChild<QLabel*>(u"message"_s)->text(),
+            u"Not printed: Report is empty. There is nothing to print."_s);
+  EXPECT_FALSE(window()->findChild<QWidget*>(u"print"_s)->isEnabled());
+  QTimer::singleShot(0, window(), [] { QTest::keyClick(window(), Qt::Key_Escape); });
+  awaitEnd();
+  EXPECT_EQ(m_printer->jobs(), "[]");
+}
+
+}  // namespace
+}  // namespace kesto::test

@@ -1,0 +1,446 @@
+// The portal's service on a private bus: a front end that calls it, clients that come and go, and dialogs
+// that the test plays the user of.
+#include <fcntl.h>
+
+#include <QtCore/QCryptographicHash>
+#include <QtCore/QEventLoop>
+#include <QtDBus/QDBusPendingCallWatcher>
+#include <QtDBus/QDBusPendingReply>
+#include <QtNetwork/QLocalServer>
+#include <QtNetwork/QLocalSocket>
+#include <thread>
+
+#include "hosts/portal/service.h"
+#include "tests/support/demo_process.h"
+#include "tests/support/warnings.h"
+
+namespace kesto::test {
+namespace {
+
+void waitFor(const std::function<bool()>& isReached) {
+  QTimer wake;  // what is deleted later wakes nobody
+  wake.start(20);
+  while (!isReached()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+// A dialog that was started, as its user and its window.
+class Dialog {
+ public:
+  explicit Dialog(QLocalSocket* socket) : m_socket(socket), m_self(next()) {}
+
+  /// What the service says next.
+  QJsonObject next() {
+    waitFor([&] { return m_socket->canReadLine(); });
+    return QJsonDocument::fromJson(m_socket->readLine()).object();
+  }
+  QString nextWord() { return next().value(u"do"_s).toString(); }
+  void say(const QByteArray& line) {
+    m_socket->write(line + '\n');
+    m_socket->flush();
+  }
+  const QJsonObject& self() const { return m_self; }
+
+ private:
+  std::unique_ptr<QLocalSocket> m_socket;
+  QJsonObject m_self;
+};
+
+// The answer that a call gets some time.
+class Answer {
+ public:
+  explicit Answer(const QDBusPendingCall& call) : m_watcher(call) {}
+  uint response() {
+    waitFor([&] { return m_watcher.isFinished(); });
+    const QDBusPendingReply<uint, QVariantMap> reply = m_watcher;
+    EXPECT_FALSE(reply.isError()) << reply.error().message();
+    return reply.isError() ? 99 : reply.argumentAt<0>();
+  }
+  QVariantMap results() {
+    EXPECT_EQ(response(), 0U);
+    const QDBusPendingReply<uint, QVariantMap> reply = m_watcher;
+    return reply.argumentAt<1>();
+  }
+  bool isThere() const { return m_watcher.isFinished(); }
+
+ private:
+  QDBusPendingCallWatcher m_watcher;
+};
+
+class PortalServiceTest : public testing::Test {
+ protected:
+  PortalServiceTest() {
+    EXPECT_TRUE(m_dialogs.listen(m_folder.path(u"dialogs"_s)));
+    qputenv("KESTO_STAND_IN", QFile::encodeName(m_dialogs.fullServerName()));
+    qputenv("KESTO_STAND_IN_DOCUMENT", QFile::encodeName(m_folder.path(u"printed"_s)));
+    m_folder.write(u"document"_s, m_document);
+    startService();
+  }
+  void TearDown() override {
+    for (const char* name : {"service", "front end", "client", "stranger"})
+      QDBusConnection::disconnectFromBus(QLatin1String(name));
+  }
+  void startService(std::chrono::milliseconds lifetime = PortalService::ticketLifetime) {
+    m_service.reset();
+    QDBusConnection bus = connection("service");
+    bus.unregisterService(QLatin1String(PortalService::busName));
+    m_service.emplace(bus, m_program, lifetime);
+    const Outcome started = m_service->start();
+    ASSERT_TRUE(started) << started.reason();
+  }
+  QDBusConnection connection(const char* name) const {
+    return QDBusConnection::connectToBus(m_address, QLatin1String(name));
+  }
+  // A new handle of a client's.
+  QString handle(const char* client = "client") {
+    QString sender = connection(client).baseService().mid(1);
+    return u"/org/freedesktop/portal/desktop/request/%1/t%2"_s.arg(sender.replace(u'.', u'_'))
+        .arg(++m_handles);
+  }
+  QDBusPendingCall call(const QString& method, const QVariantList& arguments) const {
+    QDBusMessage message = QDBusMessage::createMethodCall(QLatin1String(PortalService::busName),
+                                                          QLatin1String(PortalService::objectPath),
+                                                          u"org.freedesktop.impl.portal.Print"_s, method);
+    message.setArguments(arguments);
+    return connection("front end").asyncCall(message);
+  }
+  QDBusPendingCall prepare(const QString& handle, const QVariantMap& settings = {},
+                           const QVariantMap& pageSetup = {}) const {
+    return call(u"PreparePrint"_s,
+                {QVariant::fromValue(QDBusObjectPath(handle)), u"org.example.App"_s, u"x11:2a"_s, u"Report"_s,
+                 settings, pageSetup, QVariantMap{{u"modal"_s, false}}});
+  }
+  QDBusPendingCall print(const QString& handle, const QVariant& token, int descriptor = -1) const {
+    QFile file(m_folder.path(u"document"_s));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QVariantMap options = token.isValid() ? QVariantMap{{u"token"_s, token}} : QVariantMap();
+    return call(
+        u"Print"_s,
+        {QVariant::fromValue(QDBusObjectPath(handle)), u""_s, u""_s, u"Job"_s,
+         QVariant::fromValue(QDBusUnixFileDescriptor(descriptor < 0 ? file.handle() : descriptor)), options});
+  }
+  QDBusPendingCall close(const QString& handle) const {
+    return connection("front end")
+        .asyncCall(QDBusMessage::createMethodCall(QLatin1String(PortalService::busName), handle,
+                                                  u"org.freedesktop.impl.portal.Request"_s, u"Close"_s));
+  }
+  Dialog startedDialog() {
+    waitFor([&] { return m_dialogs.hasPendingConnections(); });
+    return Dialog(m_dialogs.nextPendingConnection());
+  }
+  // A dialog whose user has chosen; gives the token, too.
+  Dialog chosenDialog(uint* token) {
+    Answer answer(prepare(handle()));
+    Dialog dialog = startedDialog();
+    EXPECT_EQ(dialog.nextWord(), u"open");
+    dialog.say(R"({"answer":"chosen","settings":{},"pageSetup":{}})");
+    *token = answer.results().value(u"token"_s).toUInt();
+    EXPECT_NE(*token, 0U);
+    return dialog;
+  }
+  void expectDocumentDialog(Dialog dialog, Answer& answer) {
+    EXPECT_EQ(dialog.next().value(u"document"_s), true);
+    EXPECT_EQ(dialog.next().value(u"document"_s), hash(m_document));
+    EXPECT_FALSE(answer.isThere()) << "the user has not chosen";
+    dialog.say(R"({"answer":"taken"})");
+    EXPECT_EQ(answer.response(), 0U);
+  }
+  static QString hash(const QByteArray& bytes) {
+    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex());
+  }
+
+  ScratchFolder m_folder;
+  const QByteArray m_document = pdfDocument();
+  QString m_program = builtProgram("portal-dialog-stand-in");
+  DemoProcess m_bus{m_folder, u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s}};
+  const QString m_address = QString::fromLatin1(m_bus.readOutLine().trimmed());
+  QLocalServer m_dialogs;
+  std::optional<PortalService> m_service;
+  int m_handles = 0;
+};
+
+TEST_F(PortalServiceTest, AsksAndHandsTheDocumentOn) {
+  qputenv("GTK_USE_PORTAL", "1");
+  qputenv("QT_QPA_PLATFORMTHEME", "xdgdesktopportal:gtk3");
+  const QString secret = u"kesto.print.PrintSettings.userNumber"_s;
+  Answer asked(prepare(handle(), {{u"n-copies"_s, u"3"_s}, {u"my-key"_s, u"Größe"_s}, {secret, u"42"_s}},
+                       {{u"PPDName"_s, u"A4"_s}, {u"Width"_s, 210.0}}));
+  Dialog dialog = startedDialog();
+  EXPECT_EQ(dialog.self(),
+            (QJsonObject{{u"arguments"_s, QJsonArray{u"--portal"_s, u"3"_s}},
+                         {u"environment"_s, QJsonObject{{u"QT_QPA_PLATFORMTHEME"_s, u"gtk3"_s}}}}));
+  EXPECT_EQ(dialog.next(),
+            (QJsonObject{{u"do"_s, u"open"_s},
+                         {u"title"_s, u"Report"_s},
+                         {u"parentWindow"_s, u"x11:2a"_s},
+                         {u"appId"_s, u"org.example.App"_s},
+                         {u"modal"_s, false},
+                         {u"document"_s, false},
+                         {u"settings"_s, QJsonObject{{u"n-copies"_s, u"3"_s}, {u"my-key"_s, u"Größe"_s}}},
+                         {u"pageSetup"_s, QJsonObject{{u"PPDName"_s, u"A4"_s}, {u"Width"_s, 210}}}}));
+  dialog.say(R"({"answer":"chosen","settings":{"n-copies":"1","cups-job-password":"7"},
+                 "pageSetup":{"PPDName":"A5","Width":148}})"_ba.replace('\n', ""));
+  const QVariantMap results = asked.results();
+  const auto part = [&](const QString& name) { return qdbus_cast<QVariantMap>(results.value(name)); };
+  EXPECT_EQ(part(u"settings"_s), (QVariantMap{{u"n-copies"_s, u"1"_s}}));
+  EXPECT_EQ(part(u"page-setup"_s), (QVariantMap{{u"PPDName"_s, u"A5"_s}, {u"Width"_s, 148.0}}));
+  EXPECT_EQ(part(u"page-setup"_s).value(u"Width"_s).typeId(), QMetaType::Double) << "a client takes no other";
+
+  const QVariant token = results.value(u"token"_s);
+  Answer printed(print(handle(), token));
+  EXPECT_EQ(dialog.next(),
+            (QJsonObject{{u"do"_s, u"print"_s}, {u"title"_s, u"Job"_s}, {u"document"_s, hash(m_document)}}));
+  EXPECT_FALSE(printed.isThere());
+  dialog.say(R"({"answer":"taken"})");
+  EXPECT_EQ(printed.response(), 0U);
+  Answer again(print(handle(), token));
+  expectDocumentDialog(startedDialog(), again);
+}
+
+TEST_F(PortalServiceTest, SettingsAndPageSetupAreAlwaysThere) {
+  Answer answer(prepare(handle()));
+  Dialog dialog = startedDialog();
+  dialog.say(R"({"answer":"chosen"})");
+  EXPECT_EQ(answer.results().keys(), (QStringList{u"page-setup"_s, u"settings"_s, u"token"_s}));
+}
+
+TEST_F(PortalServiceTest, ATokenThatIsNotGoodOpensTheDialogAndSpendsNoOther) {
+  uint good = 0;
+  Dialog chosen = chosenDialog(&good);
+  struct Case {
+    const char* client;
+    QVariant token;
+  };
+  for (const Case& row : {Case{"client", {}}, Case{"client", 0U}, Case{"client", good ^ 1U},
+                          Case{"client", u"text"_s}, Case{"stranger", good}}) {
+    SCOPED_TRACE(std::string(row.client) + " " + row.token.toString().toStdString());
+    Answer answer(print(handle(row.client), row.token));
+    expectDocumentDialog(startedDialog(), answer);
+  }
+  Answer printed(print(handle(), good));
+  EXPECT_EQ(chosen.nextWord(), u"print");
+}
+
+TEST_F(PortalServiceTest, ATokenEndsWithItsDialogAndWithItsTime) {
+  uint token = 0;
+  Dialog killed = chosenDialog(&token);
+  killed.say(R"({"kill":1})");
+  waitFor([&] { return m_service->findChildren<DialogSession*>().isEmpty(); });
+  Answer afterEnd(print(handle(), token));
+  expectDocumentDialog(startedDialog(), afterEnd);
+
+  startService(std::chrono::milliseconds(0));
+  Dialog expired = chosenDialog(&token);
+  EXPECT_EQ(expired.nextWord(), u"close");
+  Answer afterTime(print(handle(), token));
+  expectDocumentDialog(startedDialog(), afterTime);
+}
+
+TEST_F(PortalServiceTest, ATokenWhoseDialogIsAboutToEndOpensAnother) {
+  uint token = 0;
+  Dialog ending = chosenDialog(&token);
+  ending.say(R"({"leave":1})");
+  EXPECT_EQ(ending.next(), (QJsonObject{{u"closed"_s, true}}));
+  Answer answer(print(handle(), token));
+  expectDocumentDialog(startedDialog(), answer);
+}
+
+TEST_F(PortalServiceTest, ARequestIsAnsweredOnceAndByWhatWasAsked) {
+  const ExpectedWarning twice("there is a request of this handle");
+  const ExpectedWarning unasked("answers what it was not asked");
+  const QString path = handle();
+  Answer asked(prepare(path));
+  Dialog dialog = startedDialog();
+  EXPECT_EQ(Answer(prepare(path)).response(), 2U);
+  dialog.say(R"({"answer":"taken"})");
+  dialog.say(R"({"answer":"chosen"})");
+  EXPECT_TRUE(asked.results().contains(u"token"_s));
+}
+
+TEST_F(PortalServiceTest, WhatEndsADialogAnswersTheRequest) {
+  struct Case {
+    QByteArray line;
+    uint whileAsking;
+    uint whilePrinting;
+  };
+  for (const Case& row : {Case{R"({"answer":"cancelled"})", 1, 1}, Case{R"({"exit":0})", 1, 1},
+                          Case{R"({"exit":3})", 2, 2}, Case{R"({"kill":1})", 2, 2}}) {
+    SCOPED_TRACE(row.line.toStdString());
+    Answer asked(prepare(handle()));
+    Dialog asking = startedDialog();
+    asking.say(row.line);
+    EXPECT_EQ(asked.response(), row.whileAsking);
+    uint token = 0;
+    Dialog dialog = chosenDialog(&token);
+    Answer printing(print(handle(), token));
+    EXPECT_EQ(dialog.nextWord(), u"print");
+    dialog.say(row.line);
+    EXPECT_EQ(printing.response(), row.whilePrinting);
+  }
+  Answer failed(print(handle(), {}));
+  Dialog dialog = startedDialog();
+  dialog.say(R"({"answer":"failed"})");
+  EXPECT_EQ(failed.response(), 2U);
+}
+
+TEST_F(PortalServiceTest, AWithdrawnRequestClosesTheDialog) {
+  for (const bool hasDocument : {false, true}) {
+    const QString path = handle();
+    Answer answer(hasDocument ? print(path, {}) : prepare(path));
+    Dialog dialog = startedDialog();
+    EXPECT_EQ(dialog.nextWord(), u"open");
+    if (hasDocument) {
+      EXPECT_EQ(dialog.nextWord(), u"print");
+    }
+    const QDBusPendingCall closing = close(path);
+    EXPECT_EQ(answer.response(), 2U);
+    EXPECT_EQ(dialog.nextWord(), u"close");
+    QDBusPendingCallWatcher again(close(path));
+    waitFor([&] { return again.isFinished(); });
+    EXPECT_TRUE(again.isError()) << "the request is still on the bus";
+  }
+  uint token = 0;
+  Dialog dialog = chosenDialog(&token);
+  const QString path = handle();
+  Answer printing(print(path, token));
+  EXPECT_EQ(dialog.nextWord(), u"print");
+  const QDBusPendingCall closing = close(path);
+  EXPECT_EQ(printing.response(), 2U);
+  EXPECT_EQ(dialog.nextWord(), u"close") << "it knows whether its document is whole";
+}
+
+TEST_F(PortalServiceTest, TheClientsEndClosesTheDialog) {
+  for (const QString& stage : {u"asked"_s, u"chosen"_s, u"asked with a document"_s, u"printing"_s}) {
+    SCOPED_TRACE(stage.toStdString());
+    std::optional<Dialog> dialog;
+    std::optional<Answer> answer;
+    uint token = 0;
+    if (stage == u"chosen" || stage == u"printing") {
+      dialog = chosenDialog(&token);
+    } else {
+      answer.emplace(stage == u"asked" ? prepare(handle()) : print(handle(), {}));
+      dialog = startedDialog();
+      EXPECT_EQ(dialog->nextWord(), u"open");
+      if (stage != u"asked") {
+        EXPECT_EQ(dialog->nextWord(), u"print");
+      }
+    }
+    if (stage == u"printing") {
+      answer.emplace(print(handle(), token));
+      EXPECT_EQ(dialog->nextWord(), u"print");
+    }
+    QDBusConnection::disconnectFromBus(u"client"_s);
+    if (answer) {
+      EXPECT_EQ(answer->response(), 2U);
+    }
+    EXPECT_EQ(dialog->nextWord(), u"close");
+    dialog->say(R"({"answer":"taken"})");  // a file may be printed all the same
+  }
+}
+
+TEST_F(PortalServiceTest, TheEndOfADocumentIsWholeWhileItsClientLives) {
+  for (const bool lives : {true, false}) {
+    uint token = 0;
+    Dialog dialog = chosenDialog(&token);
+    Answer printing(print(handle(), token));
+    EXPECT_EQ(dialog.nextWord(), u"print");
+    dialog.say(R"({"answer":"read"})");
+    if (!lives) QDBusConnection::disconnectFromBus(u"client"_s);
+    EXPECT_EQ(dialog.nextWord(), lives ? u"whole" : u"close");
+    dialog.say(R"({"answer":"taken"})");
+    EXPECT_EQ(printing.response(), lives ? 0U : 2U);
+  }
+}
+
+TEST_F(PortalServiceTest, OneClientHasEightDialogsAtMost) {
+  std::vector<std::unique_ptr<Answer>> answers;
+  std::vector<Dialog> dialogs;
+  for (int i = 0; i < PortalService::mostDialogs; ++i) {
+    answers.push_back(std::make_unique<Answer>(prepare(handle())));
+    dialogs.push_back(startedDialog());
+  }
+  for (const char* client : {"client", "stranger"}) {  // the same application, under another name
+    const ExpectedWarning warning("a client has 8 print dialogs already, and gets no more");
+    EXPECT_EQ(Answer(prepare(handle(client))).response(), 2U);
+  }
+  Answer another(print(handle("stranger"), {}));
+  Dialog ofAnother = startedDialog();  // which ends when it is let go
+  EXPECT_EQ(ofAnother.nextWord(), u"open");
+  dialogs.front().say(R"({"answer":"cancelled"})");
+  dialogs.front().say(R"({"exit":0})");
+  EXPECT_EQ(answers.front()->response(), 1U);
+  waitFor([this] { return m_service->findChildren<DialogSession*>().size() == PortalService::mostDialogs; });
+  Answer again(prepare(handle()));
+  EXPECT_EQ(startedDialog().nextWord(), u"open");
+}
+
+TEST_F(PortalServiceTest, ALargePipeArrivesByteForByte) {
+  uint token = 0;
+  Dialog dialog = chosenDialog(&token);
+  const QByteArray bytes = m_document.repeated(16);
+  ASSERT_GT(bytes.size(), 3'000'000);
+  std::array<int, 2> ends{};
+  ASSERT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
+  Answer printed(print(handle(), token, ends[0]));
+  ::close(ends[0]);
+  std::thread writer([&] {
+    QFile end;
+    ASSERT_TRUE(end.open(ends[1], QIODevice::WriteOnly, QFileDevice::AutoCloseHandle));
+    EXPECT_EQ(end.write(bytes), bytes.size());
+  });
+  EXPECT_EQ(dialog.next().value(u"document"_s), hash(bytes));
+  writer.join();
+}
+
+TEST_F(PortalServiceTest, ARequestThatCannotBeServedFails) {
+  {
+    const ExpectedWarning warning("names no client");
+    EXPECT_EQ(Answer(prepare(u"/org/freedesktop/portal/desktop/request/other"_s)).response(), 2U);
+  }
+  EXPECT_EQ(Answer(prepare(u"/org/freedesktop/portal/desktop/request/1_999999/t"_s)).response(), 2U);
+  const ExpectedWarning warning("the print dialog cannot be opened: /no/such/kesto-print: ");
+  m_program = u"/no/such/kesto-print"_s;
+  startService();
+  EXPECT_EQ(Answer(prepare(handle())).response(), 2U);
+}
+
+TEST_F(PortalServiceTest, AServiceThatCannotStartSaysWhy) {
+  for (const auto& [name, reason] :
+       Cases{{"service", "the portal's object is taken"}, {"client", "the portal's name is taken"}}) {
+    PortalService second(connection(name.toLatin1().constData()), m_program);
+    EXPECT_EQ(second.start().reason(), reason);
+  }
+  qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/such/bus");
+  const auto expectEnd = [this](const QStringList& arguments, int code, const char* error) {
+    DemoProcess program(m_folder, builtProgram("kesto-portal"), arguments);
+    EXPECT_EQ(program.code(), code);
+    EXPECT_TRUE(program.log().startsWith(error)) << program.log();
+  };
+  expectEnd({u"--help"_s}, 2, "Usage: kesto-portal\n");
+  expectEnd({}, 1, "kesto-portal: there is no session bus: ");
+}
+
+TEST(PortalDialog, ItsEnvironmentLeadsNotBackToThePortal) {
+  const QString variable = u"QT_QPA_PLATFORMTHEME"_s;
+  for (const auto& [given, kept] : Cases{{"gtk3", "gtk3"},
+                                         {"xdgdesktopportal", nullptr},
+                                         {"XdgDesktopPortal:snap", nullptr},
+                                         {"flatpak:kde:gtk3", "kde:gtk3"},
+                                         {"qt5ct:xdgdesktopportal", "qt5ct"},
+                                         {nullptr, nullptr}}) {
+    QProcessEnvironment environment;
+    environment.insert(u"GTK_USE_PORTAL"_s, u"1"_s);
+    environment.insert(u"DISPLAY"_s, u":7"_s);
+    if (!given.isNull()) environment.insert(variable, given);
+    environment = dialogEnvironment(environment);
+    EXPECT_FALSE(environment.contains(u"GTK_USE_PORTAL"_s));
+    EXPECT_EQ(environment.value(u"DISPLAY"_s), u":7"_s);
+    EXPECT_EQ(environment.contains(variable), !kept.isNull()) << given;
+    EXPECT_EQ(environment.value(variable), kept.isNull() ? Text("") : kept) << given;
+  }
+}
+
+}  // namespace
+}  // namespace kesto::test

@@ -1,0 +1,477 @@
+// kesto-lp and its print server: what is refused, broken off, kept, checked and listed.
+#include <poll.h>
+
+#include <QtCore/QEventLoop>
+#include <QtNetwork/QTcpServer>
+#include <QtNetwork/QTcpSocket>
+#include <future>
+#include <list>
+
+#include "hosts/cups/bounds.h"
+#include "tests/support/hostile_server.h"
+#include "tests/support/print_program.h"
+
+namespace kesto::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
+  addQueue(u"Print_System"_s, "*ARKestoPrintSystem: \"False\"", "*ARKestoPrintSystem: \"True\"");
+  addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
+  addQueue(u"Raw"_s, {}, {});
+  ofPrintSystem(u"/usr/sbin/cupsreject Raw"_s);
+  const QString missing = u"The printer or class does not exist."_s;
+  const std::tuple<QString, int, QString> cases[] = {
+      {u"-d Print_System"_s, 3, u"Job Handling: the login name is missing; give --login"_s},
+      {u"-d Print_System --user-number {}"_s, 3,
+       u"Job Handling: the user number is missing; give --user-number"_s},
+      {u"--pin 1"_s, 3, u"--pin needs --hold"_s},
+      {u"--hold only --pin 123456789"_s, 3, u"--pin takes at most 8 digits"_s},
+      {u"--hold only --folder-pin 1"_s, 3,
+       u"--folder-pin needs --folder NAME of a folder with a pass code, or a custom folder"_s},
+      {u"--preset none"_s, 1, u"there is no preset \"none\"; this queue has none"_s},
+      {u"/no/file"_s, 1, u"/no/file: No such file or directory"_s},
+      {u"/no/\u001b[2J\u202e"_s, 1, u"/no/\\x1b[2J\\u202e: No such file or directory"_s},
+      {u"/dev"_s, 1, u"/dev: is a folder"_s},
+      {u"-d Nowhere"_s, 1, u"the queue Nowhere cannot be had: "_s + missing},
+      {u"-d \"No where\" --hold only"_s, 1, u"the queue No where cannot be had: "_s + missing},
+      {u"-d Plain --hold only"_s, 1, u"the queue Plain does not offer Job Handling"_s},
+      {u"-d Raw --pin-file -"_s, 1, u"the queue Raw does not offer Job Handling"_s},
+  };
+  for (const auto& [arguments, code, message] : cases) {
+    const QString memory = u" DOCUMENT --job-name x --remember job-name --save-preset p"_s;
+    expectRefused(arguments + memory, code, message);
+  }
+  expectRefused(u"-d Raw DOCUMENT"_s, 1,
+                u"the job is not taken: Destination \"Raw\" is not accepting jobs."_s);
+  EXPECT_EQ(schedulersJobs(), QString());
+  for (const auto& queue : {u"-d Office_MFP "_s, u"-d Print_System --login x "_s}) {
+    EXPECT_EQ(lp(queue + u"--dry-run"_s).values(u"holdButton=0"_s), u"holdButton=0"_s);
+    EXPECT_EQ(lp(queue.section(u"--"_s, 0, 0) + u"--list-presets"_s).out, QString());
+  }
+
+  EXPECT_EQ(lp(u"-d Plain -t letter DOCUMENT"_s).out, u"request id is Plain-1 (1 file(s))\n"_s);
+  ofPrintSystem(u"/usr/sbin/lpadmin -x Office_MFP"_s);
+  expectRefused(u"DOCUMENT"_s, 1,
+                u"there is no default queue, or LPDEST or PRINTER names none; choose one with -d"_s);
+}
+
+TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
+  const QString job = u"--hold only --pin 1234 --remember pin --save-preset p DOCUMENT -"_s;
+  const auto kept = [this] {
+    return lp(u"--dry-run --hold only"_s).values(u"holdButton jobSuspend2Key"_s) + u' ' +
+           lp(u"-d Office_MFP --list-presets"_s).out.trimmed();
+  };
+  const QString nothing = u"holdButton=0 jobSuspend2Key "_s;
+  const int scheduler = bytesOf(m_folder.path(u"run/cups/state/cupsd.pid"_s)).trimmed().toInt();
+  for (const bool isSilent : {true, false}) {  // or it is gone
+    const auto unfinished = process(command(u"--timeout 0.5 "_s + job));
+    unfinished->start();
+    waitUntilListed(isSilent ? 1 : 2);
+    EXPECT_EQ(kept(), nothing);
+    if (isSilent) {
+      ::kill(scheduler, SIGSTOP);
+    } else {
+      m_printer->signal(SIGTERM);
+      EXPECT_EQ(m_printer->code(), 0);
+    }
+    unfinished->write("too late");
+    unfinished->closeWriteChannel();
+    const LpRun broken = finish(*unfinished);
+    EXPECT_EQ(broken.code, 1) << isSilent;
+    EXPECT_TRUE(broken.err.startsWith(u"kesto-lp: (stdin) is not taken: "_s)) << broken.err;
+    EXPECT_EQ(broken.out, QString()) << isSilent;
+    if (isSilent) ::kill(scheduler, SIGCONT);
+  }
+
+  const QString server = m_printer->place(u"server"_s);
+  expectRefused(job, 1, u"cannot connect to the print server %1; is it running?"_s.arg(server));
+  startPrinter();
+  EXPECT_EQ(kept(), nothing);
+  expectPrinted(job);
+  EXPECT_EQ(kept(), u"holdButton=1 jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E p"_s);
+}
+
+TEST_F(PrintTest, WhatCannotBeKeptOfAJobIsTold) {
+  ASSERT_TRUE(store(preferences(), {{u"Presets"_s, u"x"_s}}, u"kesto.presets.Office_MFP"_s));
+  expectRefused(u"DOCUMENT --save-preset p"_s, 1,
+                u"the presets of this queue are damaged and left as they are"_s);
+  EXPECT_EQ(schedulersJobs(), QString());
+  forgetAll();
+  ASSERT_TRUE(QFile::link(u"/dev/null"_s, m_home.filePath(u"kesto"_s)));
+  const QString why = u"the folder %1/kesto cannot be made private\n"_s.arg(m_home.path());
+  const std::tuple<QString, int, QString> cases[] = {
+      {u""_s, 0, u"warning: the entries are not remembered: "_s},
+      {u"--remember job-name"_s, 1, u"the job is sent; the entries are not remembered: "_s},
+  };
+  for (const auto& [arguments, code, message] : cases) {
+    const LpRun sent = lp(u"DOCUMENT "_s + arguments);
+    EXPECT_EQ(sent.code, code) << arguments;
+    EXPECT_EQ(sent.err, u"kesto-lp: "_s + message + why);
+    EXPECT_TRUE(sent.out.startsWith(u"request id is "_s)) << sent.out;
+  }
+}
+
+TEST_F(PrintTest, ASignalCancelsAJobThatIsNotWhole) {
+  const std::pair<int, bool> cases[] = {{SIGINT, false}, {SIGTERM, false}, {SIGHUP, true}};
+  int job = 0;
+  for (const auto& [signal, isIgnored] : cases) {
+    const auto unfinished = process(command(u"DOCUMENT -"_s));
+    unfinished->setChildProcessModifier(
+        [signal = signal, isIgnored = isIgnored] { ::signal(signal, isIgnored ? SIG_IGN : SIG_DFL); });
+    unfinished->start();
+    waitUntilListed(++job);
+    ::kill(static_cast<pid_t>(unfinished->processId()), signal);
+    unfinished->write("the end");
+    if (isIgnored) unfinished->closeWriteChannel();
+    ASSERT_TRUE(unfinished->waitForFinished());
+    EXPECT_EQ(unfinished->exitStatus(), isIgnored ? QProcess::NormalExit : QProcess::CrashExit) << signal;
+    EXPECT_TRUE(isIgnored || ofPrintSystem(u"lpstat -o"_s).isEmpty()) << signal;
+  }
+  waitForJob(job, 2);
+  EXPECT_EQ(m_printer->printouts(), QStringList({u"job-3-1"_s, u"job-3-2"_s}));
+}
+
+TEST_F(PrintTest, WhatAnotherUserSeesOfAJob) {
+  const auto seenBy = [this](const char* user) {
+    const Ipp reply = attributesOfJob(user);
+    QStringList settings;
+    for (auto* each = ippFirstAttribute(reply.get()); each != nullptr; each = ippNextAttribute(reply.get()))
+      settings += QString::fromUtf8(ippGetName(each));
+    return settings.filter(QLatin1String(printSettingsPrefix)).size();
+  };
+  const QString sees = u"Office_MFP: other users see of a job the digest of the pass code, the pass code, "_s;
+  for (const bool isPrivate : {true, false}) {
+    if (!isPrivate) changeConfiguration("/JobPrivate/d");
+    if (!isPrivate) startPrinter();
+    ofPrintSystem(u"/usr/sbin/cupsdisable Office_MFP"_s);
+    expectPrinted(u"--hold only --pin 1234 --user-number 42 DOCUMENT"_s);
+    EXPECT_GT(seenBy("anna"), 5);
+    EXPECT_EQ(seenBy("berta") > 0, !isPrivate);
+    const LpRun check = lp(u"--check Office_MFP"_s);
+    EXPECT_EQ(check.code, isPrivate ? 0 : 1) << check.err;
+    EXPECT_TRUE(
+        check.out.startsWith(isPrivate ? u"Office_MFP: other users see none of a job's options.\n"_s : sees))
+        << check.out;
+    EXPECT_EQ(check.out.contains(
+                  u"in <Policy demo>:\n  JobPrivateAccess @OWNER @SYSTEM\n  JobPrivateValues all\n"_s),
+              !isPrivate)
+        << check.out;
+    const QJsonObject json =
+        QJsonDocument::fromJson(lp(u"--check Office_MFP --json"_s).out.toUtf8()).object();
+    EXPECT_EQ(json[u"shown"].toArray().isEmpty(), isPrivate);
+    EXPECT_EQ(json[u"policy"], u"demo"_s);
+    EXPECT_EQ(json[u"closedBy"].toArray().size(), 2);
+    EXPECT_EQ(schedulersJobs().count(u"Office_MFP-"_s), 1) << "the job of the check stays";
+    addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
+    EXPECT_EQ(lp(u"--check Plain"_s).out.section(u'\n', 0, 0),
+              isPrivate ? u"Plain: other users see none of a job's options."_s
+                        : u"Plain: other users see of a job the job's options."_s);
+  }
+  expectRefused(u"--check Nowhere"_s, 1,
+                u"the queue Nowhere takes no job: The printer or class does not exist."_s);
+}
+
+TEST_F(PrintTest, ListsQueuesAndFolders) {
+  addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
+  addQueue(u"A_Raw"_s, {}, {});
+  ofPrintSystem(u"/usr/sbin/cupsreject Plain"_s);
+  const QString address = ofPrintSystem(u"lpstat -v Office_MFP"_s).trimmed().section(u' ', -1);
+  const QString office = u"Office_MFP\tidle\t%1\n"_s.arg(address);
+  EXPECT_EQ(lp(u"--list"_s).out, u"A_Raw\tidle\tsocket://127.0.0.1:9\n"_s + office +
+                                     u"Plain\tidle, takes no jobs\tsocket://127.0.0.1:9\n"_s);
+  EXPECT_EQ(lp(u"--list --job-handling"_s).out, office);
+  const auto json = [this](const QString& arguments) {
+    return QJsonDocument::fromJson(lp(arguments).out.toUtf8()).array();
+  };
+  EXPECT_EQ(json(u"--list --json"_s).size(), 3);
+  EXPECT_EQ(json(u"--list --json"_s)[2][u"accepting"], false);
+  const char described[] = R"~([{"accepting":true,"address":"%1","info":"Kesto VQ-250n (demo)",)~"
+                           R"("queue":"Office_MFP","state":"idle"}])";
+  EXPECT_EQ(QJsonDocument(json(u"--list --json --job-handling"_s)).toJson(QJsonDocument::Compact),
+            QString::fromLatin1(described).arg(address).toUtf8());
+
+  const QString saved = u"--dry-run --hold only --save-preset p --folder invoices"_s;
+  EXPECT_EQ(lp(saved).code, 0);
+  EXPECT_EQ(presetFolder(u"Office_MFP"_s), "invoices") << "it is not known yet";
+  const QString folders = u"--folders --address "_s + m_printer->place(u"folders"_s);
+  EXPECT_EQ(lp(folders).out, u"Invoices\nPlans & <Papers>\tlocked\n"_s);
+  EXPECT_EQ(lp(saved).code, 0);
+  EXPECT_EQ(presetFolder(u"Office_MFP"_s), "Invoices");
+  EXPECT_EQ(json(folders + u" --json"_s)[1][u"name"], u"Plans & <Papers>"_s);
+  EXPECT_EQ(json(folders + u" --json"_s)[1][u"password"], true);
+  const LpRun unreached = lp(u"--folders --address 127.0.0.1:1"_s);
+  EXPECT_EQ(unreached.code, 1);
+  EXPECT_EQ(unreached.err, u"Could not retrieve Folder Names.\n"_s);
+  EXPECT_EQ(unreached.out, QString()) << "the earlier list";
+
+  // An answer in the shared folder is another printer's, or another user's.
+  QFile(m_home.filePath(u"vwxyz.xml"_s)).remove();
+  QFile foreign(m_home.filePath(u"vwxyz.xml"_s));
+  ASSERT_TRUE(foreign.open(QIODevice::WriteOnly));
+  foreign.write("<e><b><r><files><f><name>Foreign</name></f></files></r></b></e>");
+  foreign.close();
+  EXPECT_EQ(lp(u"--folders --address 127.0.0.1:1"_s).code, 1);
+  const Domain kept = preferences().persistentDomainForName(u"kesto.mfp.Office_MFP"_s);
+  EXPECT_EQ(kept.values.value()[u"Job Handling"_s][u"files"_s][0][u"name"_s], u"Invoices"_s)
+      << "the queue has another's folders";
+  const auto unkept = process(command(folders));
+  QProcessEnvironment environment = unkept->processEnvironment();
+  environment.insert(u"TMPDIR"_s, u"/nonexistent"_s);
+  unkept->setProcessEnvironment(environment);
+  unkept->start();
+  EXPECT_EQ(finish(*unkept).err,
+            u"kesto-lp: the printer's answer cannot be written to the temporary folder; is there room on the "
+            "disk?\n"_s);
+  expectRefused(u"--folders -d Plain"_s, 1, u"the queue Plain does not offer Job Handling"_s);
+}
+
+// Replies as bytes: a value is its tag, its name and its value, each behind its length.
+TEST(IppReply, IsReadOnlyWithinItsBounds) {
+  const auto value = [](int tag, const QByteArray& name, const QByteArray& bytes) {
+    const auto part = [](const QByteArray& text) {
+      return QByteArray(1, static_cast<char>(text.size() >> 8)) + static_cast<char>(text.size()) + text;
+    };
+    return static_cast<char>(tag) + part(name) + part(bytes);
+  };
+  const QByteArray head = "\2\0\0\0\0\0\0\1\2"_ba;
+  const QByteArray opened = value(IPP_TAG_MEMBERNAME, "", "x") + value(IPP_TAG_BEGIN_COLLECTION, "", "");
+  const QByteArray first = value(IPP_TAG_BEGIN_COLLECTION, "c", "");
+  const QByteArray closed = value(IPP_TAG_END_COLLECTION, "", "");
+  const auto nested = [&](int depth) {
+    return head + first + opened.repeated(depth - 1) + closed.repeated(depth) + '\3';
+  };
+  const QByteArray values = value(IPP_TAG_INTEGER, "i", "1234").repeated(mostValues);
+  const QString unreadable = u"the print server's answer is not readable"_s;
+  const QString tooLarge = u"the print server's answer is too large"_s;
+  const std::tuple<const char*, QByteArray, QString> cases[] = {
+      {"whole", head + value(IPP_TAG_KEYWORD, "k", "v") + '\3', {}},
+      {"empty", "", unreadable},
+      {"without its end", head, unreadable},
+      {"a name beyond the end", head + "\x44\0\x09k"_ba, unreadable},
+      {"a value beyond the end", head + "\x44\0\1k\0\7v\3"_ba, unreadable},
+      {"an integer of two bytes", head + value(IPP_TAG_INTEGER, "i", "12") + '\3', unreadable},
+      {"an extended tag", head + '\x7f' + "\0\0\0"_ba + first + closed + '\3', unreadable},
+      {"a collection that is not closed", head + first + '\3', unreadable},
+      {"an end without a collection", head + closed + '\3', unreadable},
+      {"a collection with a value", head + value(IPP_TAG_BEGIN_COLLECTION, "c", "v") + closed + '\3',
+       unreadable},
+      {"collections as deep as allowed", nested(deepestCollection), {}},
+      {"one deeper", nested(deepestCollection + 1), tooLarge},
+      {"fifty thousand deep", nested(50'000), tooLarge},
+      {"as many values as allowed", head + values + '\3', {}},
+      {"one more", head + values + value(IPP_TAG_INTEGER, "i", "1234") + '\3', tooLarge},
+      {"too long", head + '\3' + QByteArray(longestReply, ' '), tooLarge},
+  };
+  for (const auto& [what, bytes, fault] : cases) {
+    Ipp reply;
+    const Outcome read = readReply(bytes, &reply);
+    EXPECT_EQ(read.reason(), fault) << what;
+    EXPECT_EQ(reply != nullptr, fault.isNull()) << what;
+  }
+}
+
+// A server that takes connections and never answers, then an address where there is none.
+TEST_F(LpTest, GivesUpOnASilentServer) {
+  QTcpServer server;
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  const QString address = u"127.0.0.1:%1"_s.arg(server.serverPort());
+  for (const QString& fault : {u"the print server %1 does not answer within 0.3 s\n"_s.arg(address),
+                               u"cannot connect to the print server %1; is it running?\n"_s.arg(address)}) {
+    for (const auto& arguments :
+         {u"--list"_s, u"-d q -"_s, u"-"_s, u"-d q --dry-run"_s, u"-d q --folders"_s}) {
+      const LpRun ended = run(u"--timeout 0.3 -h %1 "_s.arg(address) + arguments);
+      EXPECT_EQ(ended.code, 1) << arguments;
+      EXPECT_EQ(ended.err, u"kesto-lp: "_s + fault) << arguments;
+      EXPECT_EQ(ended.out, QString()) << arguments;
+    }
+    server.close();
+  }
+}
+
+QByteArray okWith(const QByteArray& fields) {
+  return "HTTP/1.1 200 OK\r\n" + fields + "\r\n";
+}
+
+QByteArray chunk(const QByteArray& bytes) {
+  return QByteArray::number(bytes.size(), 16) + "\r\n" + bytes + "\r\n";
+}
+
+// Twenty megabytes in a few kilobytes: what Qt packs, in gzip's frame.
+QByteArray gzipBomb() {
+  const QByteArray packed = qCompress(QByteArray(20'000'000, ' ')).mid(4 + 2);
+  return "\x1f\x8b\x08\0\0\0\0\0\0\3"_ba + packed;
+}
+
+constexpr auto limit = 500ms;
+const QString lateAnswer = u"the print server %1 does not answer within 0.5 s"_s;
+const QByteArray chunked = okWith("Transfer-Encoding: chunked\r\n");
+
+// Each way to go wrong, and how every operation says so; "%1" is the server.
+const std::tuple<const char*, Misbehaviour, QString> misbehaviours[] = {
+    {"silent", {}, lateAnswer},
+    {"a field that never ends", {okWith("X: ").chopped(2), "x", 20ms}, lateAnswer},
+    {"fields that never end", {okWith("").chopped(2), "Allow: GET\r\n"}, lateAnswer},
+    {"leave to go on, over and over", {"", "HTTP/1.1 100 Continue\r\n\r\n"}, lateAnswer},
+    {"a body that stops", {okWith("Content-Length: 9\r\n") + "x"}, lateAnswer},
+    {"a body that trickles", {chunked, chunk("x"), 20ms}, lateAnswer},
+    {"a body that never ends",
+     {chunked, chunk(QByteArray(60'000, 'x'))},
+     u"the print server's answer is too large"_s},
+    {"a packed body",
+     {okWith("Content-Encoding: gzip\r\nTransfer-Encoding: chunked\r\n"), chunk(gzipBomb())},
+     u"the print server's answer is too large"_s},
+    {"broken off", {.closes = true}, u"the print server %1 broke the connection off"_s},
+    {"no HTTP", {"SSH-2.0-x\r\n"}, u"the print server %1 broke the connection off"_s},
+    {"busy",
+     {"HTTP/1.1 503 Busy\r\nContent-Length: 9\r\n\r\n"},
+     u"the print server %1 answers: Service Unavailable (HTTP status 503)"_s},
+    {"secret",
+     {"HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: X\r\nContent-Length: 9\r\n\r\n"},
+     u"the print server %1 asks for a password"_s},
+    {"301",
+     {"HTTP/1.1 301 Moved\r\nLocation: /\r\nContent-Length: 0\r\n\r\n"},
+     u"the print server %1 points to another address (HTTP status 301), which is not followed"_s},
+    {"308",
+     {"HTTP/1.1 308 Moved\r\nLocation: http://192.0.2.1/\r\nContent-Length: 0\r\n\r\n"},
+     u"the print server %1 points to another address (HTTP status 308), which is not followed"_s},
+};
+
+// What is asked of a server, by what it goes wrong at.
+Outcome askAt(int operation, PrintServer& server) {
+  std::vector<QueueSummary> queues;
+  Destination queue;
+  PpdFile ppd;
+  int job = 0;
+  if (operation == IPP_OP_CUPS_GET_PRINTERS) return server.listQueues(&queues);
+  if (operation == IPP_OP_GET_PRINTER_ATTRIBUTES) return server.findQueue(u"q"_s, &queue);
+  if (operation == HostileServer::atGet) return fetchPpdFile(server, u"q"_s, &ppd);
+  cups_dest_t destination{};
+  std::string name = "q";
+  destination.name = name.data();
+  return sendJob(
+      server, destination, {.title = u"t"_s, .files = {{.path = "/dev/zero"}}, .options = {}},
+      [](int, qint64, qint64) { return true; }, &job);
+}
+
+TEST(HostilePrintServer, NothingThatItDoesLastsOrFillsMemory) {
+  const std::pair<int, QString> operations[] = {
+      {IPP_OP_CUPS_GET_PRINTERS, {}},
+      {IPP_OP_GET_PRINTER_ATTRIBUTES, {}},
+      {HostileServer::atGet, u"the PPD of q cannot be had: "_s},
+      {IPP_OP_CREATE_JOB, u"the job is not taken: "_s},
+      {IPP_OP_SEND_DOCUMENT, u"zero is not taken: "_s},
+  };
+  for (const auto& [what, misbehaviour, fault] : misbehaviours) {
+    std::list<HostileServer> servers;
+    std::vector<std::future<QString>> reasons;
+    for (const auto& each : operations) {
+      const int operation = each.first;
+      const QString address = servers.emplace_back(operation, misbehaviour).address();
+      reasons.push_back(std::async(std::launch::async, [operation, address] {
+        std::unique_ptr<PrintServer> server;
+        Outcome asked = PrintServer::connect(address, limit, &server);
+        if (asked) asked = askAt(operation, *server);
+        return QString(asked.reason()).replace(address, u"%1"_s);
+      }));
+    }
+    for (std::size_t i = 0; i < reasons.size(); ++i)
+      EXPECT_EQ(reasons[i].get(), operations[i].second + fault) << what;
+  }
+}
+
+TEST(HostilePrintServer, AHandshakeEndsToo) {
+  const QByteArray leave =
+      "HTTP/1.1 101 Switching Protocols\r\nConnection: Upgrade\r\nUpgrade: TLS/1.2\r\n\r\n";
+  const QByteArray record = "\x16\3\3\x40\0"_ba;  // of sixteen kilobytes
+  const std::tuple<const char*, http_encryption_t, Misbehaviour> cases[] = {
+      {"silent", HTTP_ENCRYPTION_ALWAYS, {}},
+      {"a record that trickles", HTTP_ENCRYPTION_ALWAYS, {record, "x", 20ms}},
+      {"silent after its leave", HTTP_ENCRYPTION_REQUIRED, {leave}},
+      {"leave without end", HTTP_ENCRYPTION_REQUIRED, {"", "HTTP/1.1 100 Continue\r\n\r\n"}},
+  };
+  for (const auto& [what, encryption, misbehaviour] : cases) {
+    const HostileServer hostile(HostileServer::atConnect, misbehaviour);
+    cupsSetEncryption(encryption);
+    std::unique_ptr<PrintServer> server;
+    const Outcome connected = PrintServer::connect(hostile.address(), limit, &server);
+    EXPECT_EQ(connected.reason(), lateAnswer.arg(hostile.address())) << what;
+  }
+  cupsSetEncryption(HTTP_ENCRYPTION_IF_REQUESTED);
+}
+
+// Goes over to TLS and lists one queue; libcups is the server, too.
+void listEncrypted(int listener) {
+  pollfd waiting{.fd = listener, .events = POLLIN, .revents = 0};
+  ::poll(&waiting, 1, -1);
+  const std::unique_ptr<http_t, CloseHttp> client(httpAcceptConnection(listener, 1));
+  http_t* http = client.get();
+  const auto readHead = [http] {
+    std::array<char, 256> resource{};
+    httpReadRequest(http, resource.data(), resource.size());
+    while (httpUpdate(http) == HTTP_STATUS_CONTINUE)
+      continue;
+  };
+  readHead();
+  httpSetField(http, HTTP_FIELD_CONNECTION, "Upgrade");
+  httpWriteResponse(http, HTTP_STATUS_SWITCHING_PROTOCOLS);
+  ASSERT_EQ(httpEncryption(http, HTTP_ENCRYPTION_REQUIRED), 0);
+  httpClearFields(http);
+  httpSetLength(http, 0);
+  httpSetField(http, HTTP_FIELD_CONTENT_LENGTH, "0");
+  httpWriteResponse(http, HTTP_STATUS_OK);
+  readHead();
+  const Ipp request(ippNew());
+  while (ippRead(http, request.get()) > IPP_STATE_IDLE && ippGetState(request.get()) != IPP_STATE_DATA)
+    continue;
+  const Ipp reply(ippNewResponse(request.get()));
+  ippAddString(reply.get(), IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, "q");
+  const QByteArray bytes = bytesOfRequest(reply.get());
+  httpClearFields(http);
+  httpSetLength(http, static_cast<std::size_t>(bytes.size()));
+  httpWriteResponse(http, HTTP_STATUS_OK);
+  httpWrite2(http, bytes.constData(), static_cast<std::size_t>(bytes.size()));
+  httpFlushWrite(http);
+}
+
+TEST_F(LpTest, AnEncryptedServerIsAsked) {
+  ASSERT_EQ(cupsSetServerCredentials(m_home.path().toUtf8().constData(), "localhost", 1), 1);
+  QTcpServer listener;
+  ASSERT_TRUE(listener.listen(QHostAddress::LocalHost));
+  std::thread server(listEncrypted, static_cast<int>(listener.socketDescriptor()));
+  EXPECT_EQ(run(u"-E -h 127.0.0.1:%1 --list"_s.arg(listener.serverPort())).out, u"q\t\t\n"_s);
+  server.join();
+}
+
+// Answers that are whole and well-formed, and not what was to be known.
+TEST_F(LpTest, AnAnswerWithoutWhatWasAskedIsNoGoodOne) {
+  const auto reply = [](const QByteArray& status, const QByteArray& attributes) {
+    const QByteArray ipp = "\2\0"_ba + status + "\0\0\0\1"_ba + attributes + '\3';
+    return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(ipp.size()) + "\r\n\r\n" + ipp;
+  };
+  const QByteArray ok(2, '\0');
+  const QByteArray aborted =
+      "\2\x23\0\x09job-state\0\4\0\0\0\x08\x44\0\x11job-state-reasons\0\x11"
+      "aborted-by-system"_ba;
+  const std::tuple<int, QByteArray, QString, QString> cases[] = {
+      {IPP_OP_GET_JOB_ATTRIBUTES, reply("\5\7", {}), u"--check q"_s,
+       u"what other users see is not told: server-error-busy"_s},
+      {IPP_OP_GET_JOB_ATTRIBUTES, reply(ok, {}), u"--check q"_s,
+       u"what other users see is not told: the print server's answer holds no job"_s},
+      {IPP_OP_SEND_DOCUMENT, reply(ok, aborted), u"-d q "_s + m_ppd.path(),
+       u"%1 is not taken: the print server has ended the job: aborted-by-system"_s.arg(
+           QFileInfo(m_ppd.path()).fileName())},
+  };
+  for (const auto& [operation, answer, arguments, fault] : cases) {
+    const HostileServer server(operation, {.once = answer, .closes = true});
+    const LpRun run = this->run(u"-h %1 "_s.arg(server.address()) + arguments);
+    EXPECT_TRUE(server.hasMisbehaved());
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.err, u"kesto-lp: "_s + fault + u'\n');
+    EXPECT_EQ(run.out, QString());
+  }
+}
+
+}  // namespace
+}  // namespace kesto::test

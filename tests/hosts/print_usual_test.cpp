@@ -1,0 +1,235 @@
+// kesto-lp beside the print system's own command: the same command lines on the same scheduler.
+#include <QtCore/QRegularExpression>
+#include <QtCore/QThread>
+
+#include "tests/support/print_program.h"
+
+namespace kesto::test {
+namespace {
+
+// What a command line came to.
+struct Result {
+  int code = -1;
+  QString out;
+  int job = 0;
+  QMap<QString, QString> attributes{};
+  QList<QByteArray> arrived{};  // the backend's arguments, and the bytes that it got
+};
+
+class BesideTheUsualCommand : public PrintTest {
+ protected:
+  BesideTheUsualCommand() {
+    changeConfiguration("/AuthType/d; /Require user @SYSTEM$/d; s/PreserveJobFiles No/PreserveJobFiles Yes/");
+    startPrinter();
+    const QString backend = m_folder.path(u"run/cups/bin/backend/record"_s);
+    m_folder.write(u"run/cups/bin/backend/record"_s,
+                   "#!/bin/sh\n[ $# = 0 ] && exit\nprintf '%s\\0' \"$2\" \"$3\" \"$4\" \"$5\" > "
+                   "\"$TMPDIR/arguments-$1\"\n"
+                   "cat ${6:+\"$6\"} > \"$TMPDIR/part-$1\" && mv \"$TMPDIR/part-$1\" \"$TMPDIR/bytes-$1\"\n");
+    QFile::setPermissions(backend, QFile::permissions(m_folder.path(u"run/cups/bin/backend/socket"_s)));
+    for (const auto& queue : {u"one"_s, u"two"_s}) {
+      addQueue(queue, "*APDialogExtension: \"JobHandling.pde\"\n", "");
+      ofPrintSystem(u"/usr/sbin/lpadmin -p %1 -v record:/x"_s.arg(queue));
+      ofPrintSystem(u"lpoptions -p %1/own -o sides=two-sided-short-edge -o media=A5"_s.arg(queue));
+    }
+  }
+
+  // A job that waits, or one that has ended.
+  int sentBefore(const QString& queue, bool isDone) const {
+    const QString out =
+        ofPrintSystem(u"lp -U anna -d %1 -H hold %2"_s.arg(queue, m_folder.path(u"second"_s)));
+    const QString job = out.section(u' ', 3, 3).section(u'-', -1);
+    if (isDone) ofPrintSystem(u"cancel -U anna "_s + job);
+    return job.toInt();
+  }
+  static QString wordOfState(int state) {
+    if (state == IPP_JSTATE_HELD) return u"held"_s;
+    return state == IPP_JSTATE_CANCELED ? u"canceled"_s : u"goes to the backend"_s;
+  }
+  QMap<QString, QString> attributesOf(int job) const {
+    static const QRegularExpression varying(
+        u"^(job-(id|uri|uuid|printer-up-time|k-octets.*|more-info|state.*|p.*)|printer-uri|.*-at-.*|"
+        u"attributes-.*|"
+        "document-metadata)$"_s);
+    const Ipp reply = attributesOfJob("anna", job);
+    QMap<QString, QString> attributes;
+    for (auto* each = ippFirstAttribute(reply.get()); each != nullptr; each = ippNextAttribute(reply.get())) {
+      std::array<char, 2048> value{};
+      ippAttributeString(each, value.data(), value.size());
+      const QString name = QString::fromUtf8(ippGetName(each));
+      if (!varying.match(name).hasMatch() || name == u"job-priority"_s)
+        attributes.insert(name, QString::fromUtf8(value.data()));
+      if (name == u"job-state"_s) attributes.insert(name, wordOfState(ippGetInteger(each, 0)));
+    }
+    return attributes;
+  }
+  Result run(const QString& program, const QString& queue, QString line) const {
+    Result result;
+    if (line.contains(u"JOB"_s)) result.job = sentBefore(queue, line.contains(u"DONE"_s));
+    line.replace(u"QJOB"_s, queue + u"-JOB"_s)
+        .remove(u"DONE"_s)
+        .replace(u"JOB"_s, QString::number(result.job));
+    if (result.job == 0 && !QRegularExpression(u"(^| )-[di]"_s).match(line).hasMatch())
+      line.prepend(u"-d QUEUE "_s);
+    line.replace(u"QUEUE"_s, queue).replace(u"FILE"_s, m_folder.path(u"second"_s));
+    DemoProcess process(m_folder, program,
+                        QStringList{u"-h"_s, m_printer->place(u"server"_s), u"-U"_s, u"anna"_s} +
+                            QProcess::splitCommand(line));
+    process.write("typed\n");
+    process.closeWriteChannel();
+    result.code = process.code();
+    result.out = QString::fromUtf8(process.readAllStandardOutput());
+    const QRegularExpression request(u"^request id is %1-(\\d+) "_s.arg(queue));
+    if (const auto match = request.match(result.out); match.hasMatch()) {
+      result.job = match.captured(1).toInt();
+      result.out.replace(match.captured(), u"request id is QUEUE-JOB "_s);
+    }
+    if (result.job > 0) result.attributes = attributesOf(result.job);
+    return result;
+  }
+  // Waits until the backend has had the job, and reads what it got.
+  void readArrived(Result* result) const {
+    if (!result->attributes[u"job-state"_s].startsWith(u"goes"_s)) return;
+    const QString bytes = m_folder.path(u"run/cups/spool/tmp/bytes-%1"_s.arg(result->job));
+    const QDeadlineTimer deadline(std::chrono::seconds(20));
+    while (!QFile::exists(bytes) && !deadline.hasExpired())
+      QThread::msleep(5);
+    static const QRegularExpression varying(u" (job-uuid|(date-)?time-at-\\w+)=\\S*"_s);
+    result->arrived = {
+        QString::fromUtf8(bytesOf(m_folder.path(u"run/cups/spool/tmp/arguments-%1"_s.arg(result->job))))
+            .remove(varying)
+            .toUtf8(),
+        bytesOf(bytes).replace("@KESTO job=" + QByteArray::number(result->job), "@KESTO job=N")};
+  }
+};
+
+// How kesto-lp differs: not at all; it refuses as wrong usage; it counts standard input as a file; or it does
+// what is stated.
+enum Difference { Same, Usage, Counts, Own };
+
+TEST_F(BesideTheUsualCommand, TheSameLinesComeToTheSame) {
+  const struct {
+    Text line;
+    Difference difference = Same;
+    Text own = "";  // "attribute=value" of kesto-lp's job, or its exit code
+  } cases[] = {
+      {"FILE"},
+      {"-- FILE FILE"},
+      {"-", Counts},
+      {"-n3 FILE"},
+      {"-n 2 -n 5 FILE -q 30 -q71"},
+      {"-p 20 FILE"},
+      {"-sHhold -n 4 FILE"},
+      {"-m FILE"},
+      {"-w FILE"},
+      {"-E FILE"},
+      {"-c -f form -y mode -S utf-8 -T text/plain FILE"},
+      {"-t a -t \"-x y\" FILE"},
+      {"-P 1 -P 2-4,7 FILE"},
+      {"-P x FILE"},
+      {"-U nobody -Uanna FILE"},
+      {"-H hold FILE"},
+      {"-H immediate FILE"},
+      {"-H immediate -q 5 FILE"},
+      {"-q 5 -H immediate FILE"},
+      {"-H resume FILE"},
+      {"-H release FILE"},
+      {"-H indefinite FILE"},
+      {"-H evening -H no-hold FILE"},
+      {"-H weekend FILE"},
+      {"-H 13:45 FILE"},
+      {"-H 23:59:59 FILE"},
+      {"-H hold -H immediate FILE"},
+      {"-o raw FILE"},
+      {"-o raw", Counts},
+      {"-o noraw FILE"},
+      {"-o RAW=false FILE"},
+      {"-o document-format=application/vnd.cups-raw FILE"},
+      {"-o document-format=text/plain FILE"},
+      {"-o document-format=no/such FILE"},
+      {"-o landscape -o fit-to-page -o nofoo FILE"},
+      {"-o sides=two-sided-short-edge -o Sides=one-sided FILE"},
+      {"-o job-hold-until=hold FILE"},
+      {"-o job-hold-until=indefinite -n 2 -o copies=4 FILE"},
+      {"-o MEDIA=A4,Tray1 -o PageSize=A5 FILE"},
+      {"-o media=Custom.100x200mm -o number-up=2 -o orientation-requested=5 FILE"},
+      {R"(-o "a=b c=d  nocollate" -o "e='f g' h=i\ j k=l,m" FILE)"},
+      {"-o \"media-col={media-size={x-dimension=21000 y-dimension=29700} media-type=stationery}\" FILE"},
+      {R"(-o "{media=A4}" -o "" -o x= FILE)"},
+      // Not alone: libcups loses the array whose only option it replaces.
+      {"-o media=A4 -o print-quality=5 -o cupsPrintQuality=Draft FILE"},
+      {"-o media=A4 -o cupsPrintQuality=Draft -o print-quality=5 FILE"},
+      {"-o number-up=none FILE"},
+      {"-o job-name=other FILE"},
+      {"-o job-name=other -t mine FILE"},
+      {"-o job-sheets=none,none -o page-ranges=1-2 -o job-priority=33 -o finishings=4 FILE"},
+      {"-dQUEUE/own FILE"},
+      {"-d QUEUE/own -o sides=one-sided FILE"},
+      {"-d QUEUE/none FILE"},
+      {"-d one -d QUEUE FILE"},
+      {"-d none FILE"},
+      {"-d none/own FILE"},
+      {"no-such-file"},
+      {"FILE no-such-file"},
+      {"-i JOB -n 2 -H hold"},
+      {"-iQJOB -q 80"},
+      {"-i JOB -H resume"},
+      {"-i QJOB -H immediate"},
+      {"-i JOB -P 1-2 -o media=A4 -o nonsense=7"},
+      {"-i JOB -o job-name=new -s"},
+      {"-i JOB"},
+      {"-i JOB -H restart"},
+      {"-i DONEJOB -H restart"},
+      {"-i DONEJOB -H restart -n 2"},
+      {"-i DONEJOB -H resume"},
+      {"-i 99999 -n 2"},
+      {"-i JOB -t new", Own, "job-name=new"},
+      {"-i JOB -H 13:45", Own, "job-hold-until=13:45"},
+      {"-i QJOB -H night -n 2", Own, "job-hold-until=night"},
+      {"-i none-JOB -n 2", Own, "1"},
+      {"- FILE", Own, "number-of-documents=2"},
+      {"FILE -", Own, "number-of-documents=2"},
+      {"-n 0 FILE", Usage},
+      {"-n 3x FILE", Usage},
+      {"-q 101 FILE", Usage},
+      {"-n", Usage},
+      {"-H restart FILE", Usage},
+      {"-H nonsense FILE", Usage},
+      {"-H 25:00 FILE", Usage},
+      {"-i JOB FILE", Usage},
+      {"-i JOB -d QUEUE -n 2", Usage},
+      {"-i 0", Usage},
+      {"-i none", Usage},
+      {"-r FILE", Usage},
+      {"-u x FILE", Usage},
+  };
+  std::vector<std::pair<Result, Result>> results;
+  for (const auto& row : cases)
+    results.emplace_back(run(u"lp"_s, u"one"_s, row.line), run(builtProgram("kesto-lp"), u"two"_s, row.line));
+  std::size_t i = 0;
+  for (const auto& [line, difference, own] : cases) {
+    SCOPED_TRACE(line.toStdString());
+    auto& [usual, ours] = results[i++];
+    if (difference == Usage) {
+      EXPECT_EQ(ours.code, 2);
+      EXPECT_EQ(ours.out, QString());
+      continue;
+    }
+    if (difference == Own) {
+      const bool fails = !own.contains(u'=');
+      EXPECT_EQ(ours.code, fails ? own.toInt() : 0);
+      EXPECT_EQ(ours.attributes.value(own.section(u'=', 0, 0)), fails ? QString() : own.section(u'=', 1));
+      continue;
+    }
+    if (difference == Counts) usual.out.replace(u"(0 "_s, u"(1 "_s);
+    readArrived(&usual);
+    readArrived(&ours);
+    EXPECT_EQ(ours.code, usual.code);
+    EXPECT_EQ(ours.out, usual.out);
+    EXPECT_EQ(ours.attributes, usual.attributes);
+    EXPECT_EQ(ours.arrived, usual.arrived);
+  }
+}
+
+}  // namespace
+}  // namespace kesto::test

@@ -1,0 +1,143 @@
+// The real kesto-demo-printer, and the programs that deal with it, in a folder of the test's own.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <csignal>
+
+#include "tests/support/printing.h"
+
+namespace kesto::test {
+
+using namespace Qt::StringLiterals;
+
+inline QByteArray bytesOf(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+  return file.readAll();
+}
+
+/// A document that begins as a PDF does and holds every byte.
+inline QByteArray pdfDocument() {
+  QByteArray document = "%PDF-1.4\n";
+  for (unsigned i = 0; i < 200'000; ++i)
+    document += static_cast<char>(i * i % 251);
+  return document;
+}
+
+/// A place of its own for everything that the programs write.
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    // A scheduler that root starts runs its jobs as another account, which passes through here.
+    QFile::setPermissions(m_folder.path(),
+                          QFile::permissions(m_folder.path()) | QFile::ExeGroup | QFile::ExeOther);
+  }
+  QString path(const QString& name) const { return m_folder.filePath(name); }
+  void write(const QString& name, const QByteArray& bytes) const {
+    QFile file(path(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+  }
+
+ private:
+  QTemporaryDir m_folder;
+};
+
+/// A process that is waited for by what it prints, and ended with its object.
+class DemoProcess : public QProcess {
+ public:
+  DemoProcess(const ScratchFolder& folder, const QString& program, const QStringList& arguments) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto* place : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"}) {
+      environment.insert(QLatin1String(place), folder.path(u""_s));
+    }
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    setProcessEnvironment(environment);
+    start(program, arguments);
+  }
+  ~DemoProcess() override {
+    terminate();
+    waitForFinished();
+  }
+
+  /// The next line on standard output; empty when the process ends before.
+  QByteArray readOutLine() {
+    setReadChannel(StandardOutput);
+    while (!canReadLine() && waitForReadyRead()) {
+    }
+    return readLine();
+  }
+  /// Waits until a line on standard error contains `part`.
+  void waitForLog(const QByteArray& part) {
+    setReadChannel(StandardError);
+    do {
+      while (canReadLine()) {
+        m_log += readLine();
+        if (m_log.endsWith('\n') && m_log.contains(part)) return;
+      }
+    } while (waitForReadyRead());
+    ADD_FAILURE() << part.toStdString() << " is not in the log:\n" << m_log.toStdString();
+  }
+  /// How it ended; waits for the end.
+  int code() {
+    EXPECT_TRUE(waitForFinished()) << errorString().toStdString();
+    return exitStatus() == NormalExit ? exitCode() : -1;
+  }
+  void signal(int number) { ::kill(static_cast<pid_t>(processId()), number); }
+  QByteArray log() {
+    m_log += readAllStandardError();
+    return m_log;
+  }
+
+ private:
+  QByteArray m_log;
+};
+
+inline QString builtProgram(const char* name) {
+  return QCoreApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(name);
+}
+
+/// A running demo printer.
+class RunningPrinter : public DemoProcess {
+ public:
+  explicit RunningPrinter(const ScratchFolder& folder, const QStringList& arguments = {})
+      : DemoProcess(folder, builtProgram("kesto-demo-printer"),
+                    QStringList{u"--dir"_s, folder.path(u"run"_s), u"--folder-port"_s, u"0"_s, u"--json"_s} +
+                        arguments),
+        m_folder(folder),
+        m_places(QJsonDocument::fromJson(readOutLine()).object()) {
+    EXPECT_FALSE(m_places.isEmpty()) << log().toStdString();
+  }
+
+  /// Where it says it is: "server", "folders" and so on.
+  QString place(const QString& name) const { return m_places.value(name).toString(); }
+  QStringList printouts() const { return QDir(place(u"output"_s)).entryList(QDir::Files); }
+  /// Its jobs, as it lists them in JSON.
+  QByteArray jobs() const {
+    DemoProcess jobs(m_folder, builtProgram("kesto-demo-printer"),
+                     {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s), u"--json"_s});
+    EXPECT_EQ(jobs.code(), 0);
+    return jobs.readAllStandardOutput().trimmed();
+  }
+  /// How the program ends that is to release a job.
+  int release(const QStringList& arguments) const {
+    DemoProcess release(m_folder, builtProgram("kesto-demo-printer"),
+                        QStringList{u"release"_s, u"--dir"_s, m_folder.path(u"run"_s)} + arguments);
+    return release.code();
+  }
+
+ private:
+  const ScratchFolder& m_folder;
+  QJsonObject m_places;
+};
+
+}  // namespace kesto::test

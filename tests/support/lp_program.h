@@ -1,0 +1,98 @@
+// The real kesto-lp, run for a queue and a user of its own.
+#pragma once
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+
+#include "platform/json_user_defaults.h"
+#include "tests/support/printing.h"
+#include "tests/support/test_host.h"
+
+namespace kesto::test {
+
+/// How a run ended and what it printed.
+struct LpRun {
+  int code = -1;
+  QString out;
+  QString err;
+
+  /// The values printed for some keys, given by their last components with or without a value, as
+  /// "key=value"; the key alone when it is absent.
+  QString values(const QString& pattern) const {
+    QStringList values = pattern.split(u' ');
+    for (QString& value : values) {
+      value = value.section(u'=', 0, 0);
+      const QString start = u"\nkesto.print.PrintSettings.%1="_s.arg(value);
+      const qsizetype found = (u'\n' + out).indexOf(start);
+      if (found >= 0) value += u'=' + out.sliced(found + start.size() - 1).section(u'\n', 0, 0);
+    }
+    return values.join(u' ');
+  }
+};
+
+/// The lines of a PPD whose queue offers Job Handling.
+inline const QByteArray ppdOfJobHandling = ppdOfModel + "*APDialogExtension: \"/Library/JobHandling.pde\"\n";
+
+/// What kesto-lp says of --folder.
+inline const QString unfiled =
+    u"kesto-lp: warning: --folder has no effect: this printer files no documents\n"_s;
+
+class LpTest : public testing::Test {
+ protected:
+  explicit LpTest(const QByteArray& ppdLines = ppdOfJobHandling) : m_ppd(ppdLines) {}
+
+  /// A process ready to start. `arguments` as a shell would split them; "{}" is an empty one.
+  std::unique_ptr<QProcess> process(const QString& arguments) const {
+    auto process = std::make_unique<QProcess>();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto* place : {"HOME", "TMPDIR", "XDG_CONFIG_HOME"}) {
+      environment.insert(QLatin1String(place), m_home.path());
+    }
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    process->setProcessEnvironment(environment);
+    process->setProgram(QCoreApplication::applicationDirPath() + u"/kesto-lp"_s);
+    process->setArguments(QProcess::splitCommand(arguments).replaceInStrings(u"{}"_s, u""_s));
+    return process;
+  }
+  static LpRun finish(QProcess& process) {
+    EXPECT_TRUE(process.waitForFinished()) << process.errorString().toStdString();
+    const auto text = [](const QByteArray& bytes) { return QString::fromUtf8(bytes); };
+    return {process.exitCode(), text(process.readAllStandardOutput()), text(process.readAllStandardError())};
+  }
+  LpRun run(const QString& arguments, const QByteArray& input = {}) const {
+    const auto lp = process(arguments);
+    lp->start();
+    lp->write(input);
+    lp->closeWriteChannel();
+    return finish(*lp);
+  }
+  /// A dry run for the queue "office".
+  LpRun dryRun(const QString& arguments, const QByteArray& input = {}) const {
+    return run(u"--dry-run -d office --device-uri lpd://x --ppd %1 "_s.arg(m_ppd.path()) + arguments, input);
+  }
+  void expectFailure(const QString& arguments, int code, const QString& message) const {
+    const LpRun run = dryRun(arguments);
+    EXPECT_EQ(run.code, code) << arguments.toStdString();
+    EXPECT_EQ(run.err.section(u'\n', 0, 0), u"kesto-lp: "_s + message) << arguments.toStdString();
+    EXPECT_EQ(run.out, u""_s) << arguments.toStdString();
+  }
+  JsonUserDefaults preferences() const { return JsonUserDefaults(m_home.filePath(u"kesto"_s)); }
+  /// The folder that the preset "p" of a queue has.
+  QByteArray presetFolder(const QString& queue) const {
+    const QJsonValue presets =
+        preferences().persistentDomainForName(u"kesto.presets."_s + queue).values->value(u"Presets"_s);
+    const QJsonValue settings = presets[u"p"_s][u"settings"_s];
+    return QByteArray::fromHex(settings[u"kesto.print.PrintSettings.folderPath"_s].toString().toLatin1());
+  }
+  void forgetAll() const { QDir(m_home.filePath(u"kesto"_s)).removeRecursively(); }
+
+  PpdFixture m_ppd;
+  QTemporaryDir m_home;
+};
+
+}  // namespace kesto::test
