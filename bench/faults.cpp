@@ -65,11 +65,13 @@ struct Holdings {
 };
 
 int usePanel(PrintDialogPlugIn& plugIn, Platform& platform) {
+  PpdFile ppd;
   PanelHost host(platform);
   host.settings.emplace().setJobName(QStringLiteral("Letter"));
   host.session.currentPrinter = {.id = QStringLiteral("Office_MFP"), .deviceUri = QStringLiteral("lpd://x")};
-  if (!openPpdFile(QStringLiteral(KESTO_DEMO_PPD), &host.ppd) || !host.openPanel(plugIn))
-    return fail("does not open", "panel");
+  const bool hasPpd = bool(openPpdFile(QStringLiteral(KESTO_DEMO_PPD), &ppd));
+  host.ppd = ppd.get();
+  if (!hasPpd || !host.openPanel(plugIn)) return fail("does not open", "panel");
   PrintDialogPanel& panel = *host.panel();
   const PanelView* view = panel.panelView();
   if (view == nullptr) return fail("has no view", "panel");

@@ -6,15 +6,19 @@
 
 namespace kesto {
 
-/// All that a host needs of a queue to print on it.
+/// All that a host needs of a queue to print on it. It has one owner at a time, who alone uses and changes
+/// it.
 struct Queue {
-  QString id;         ///< The queue's name.
-  QString deviceUri;  ///< Where it sends its jobs; null when the server does not tell.
-  PpdFile ppd;        ///< Null for a queue without a PPD.
-  Destination destination;
+  QString id{};         ///< The queue's name.
+  QString deviceUri{};  ///< Where it sends its jobs; null when the server does not tell.
+  PpdFile ppd{};        ///< Null for a queue without a PPD.
+  Destination destination{};
 };
 
 /// Fetches the queue `name`, or the user's default queue when it is null, and its PPD.
 Outcome openQueue(PrintServer& server, const QString& name, Queue* queue);
+
+/// A copy of a queue's destination for another owner, such as a thread.
+Destination copyOf(cups_dest_t& destination);
 
 }  // namespace kesto

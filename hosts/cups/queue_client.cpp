@@ -5,11 +5,11 @@ namespace kesto {
 void QueueClient::open(const QString& name) {
   const int request = ++m_request;
   m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, server = m_server, name, request] {
-    auto queue = std::make_shared<Queue>();
+    Queue queue;
     std::unique_ptr<PrintServer> connection;
     Outcome opened = server.connect(&connection, watchdog);
-    if (opened) opened = openQueue(*connection, name, queue.get());
-    mailbox->answer([this, request, queue, opened] {
+    if (opened) opened = openQueue(*connection, name, &queue);
+    mailbox->answer([this, request, queue = std::move(queue), opened]() mutable {
       if (request != m_request) return;
       if (opened) {
         Q_EMIT this->opened(queue);
@@ -30,10 +30,10 @@ void QueueClient::checkPrivacy(const QString& name) {
   });
 }
 
-void QueueClient::send(const std::shared_ptr<Queue>& queue, const PrintJob& job) {
+void QueueClient::send(const Queue& queue, const PrintJob& job) {
   *m_isStopped = false;
   m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, isStopped = m_isStopped, server = m_server,
-                 queue, job] {
+                 destination = copyOf(*queue.destination), job] {
     int id = 0;
     const auto progress = [&](int /*document*/, qint64 sent, qint64 total) {
       mailbox->answer([this, sent, total] { Q_EMIT progressed(sent, total); });
@@ -41,7 +41,7 @@ void QueueClient::send(const std::shared_ptr<Queue>& queue, const PrintJob& job)
     };
     std::unique_ptr<PrintServer> connection;
     Outcome sent = server.connect(&connection, watchdog);
-    if (sent) sent = sendJob(*connection, *queue->destination, job, progress, &id);
+    if (sent) sent = sendJob(*connection, *destination, job, progress, &id);
     mailbox->answer([this, id, sent] {
       if (sent) {
         Q_EMIT this->sent(id);

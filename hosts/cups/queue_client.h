@@ -13,8 +13,7 @@
 
 namespace kesto {
 
-/// Opens one queue after the other, and sends jobs to the one that is open. Signals come in the thread of
-/// this object.
+/// Opens one queue after the other, and sends jobs to them. Signals come in the thread of this object.
 class QueueClient : public QObject {
   Q_OBJECT
 
@@ -25,16 +24,16 @@ class QueueClient : public QObject {
   /// Opens a queue, the user's default one when `name` is null. What an earlier call is still waiting for is
   /// not told any more.
   void open(const QString& name);
-  /// Sends a job to `queue`.
-  void send(const std::shared_ptr<Queue>& queue, const PrintJob& job);
+  /// Sends a job to a queue, as that is now.
+  void send(const Queue& queue, const PrintJob& job);
   /// Finds out what other users see of a job on the queue `name`.
   void checkPrivacy(const QString& name);
   /// Stops the job that is being sent; it then fails.
   void stopSending() { *m_isStopped = true; }
 
  Q_SIGNALS:
-  /// The queue is open. Its PPD is the receiver's; its destination is used by this object alone.
-  void opened(const std::shared_ptr<kesto::Queue>& queue);
+  /// The queue is open, and the receiver's who moves it away.
+  void opened(kesto::Queue& queue);
   void openFailed(const QString& reason);
   /// Bytes of the document that have gone out, and all of them (-1 when not known).
   void progressed(qint64 sent, qint64 total);

@@ -31,7 +31,10 @@ class WorkerThread {
   WorkerThread(const WorkerThread&) = delete;
   WorkerThread& operator=(const WorkerThread&) = delete;
 
-  void post(const std::function<void()>& work) { QMetaObject::invokeMethod(&m_parts->context, work); }
+  template <class Work>
+  void post(Work work) {
+    QMetaObject::invokeMethod(&m_parts->context, std::move(work));
+  }
 
  private:
   // A dialog has two threads, and is to be gone within a second.
@@ -51,9 +54,10 @@ class Mailbox {
   explicit Mailbox(QObject* receiver) : m_receiver(receiver) {}
 
   /// Does `work` in the receiver's thread, unless that is gone by then. For any thread.
-  void answer(const std::function<void()>& work) {
+  template <class Work>
+  void answer(Work work) {
     const std::lock_guard lock(m_mutex);
-    if (m_receiver != nullptr) QMetaObject::invokeMethod(m_receiver, work, Qt::QueuedConnection);
+    if (m_receiver != nullptr) QMetaObject::invokeMethod(m_receiver, std::move(work), Qt::QueuedConnection);
   }
   /// The receiver is about to go.
   void close() {

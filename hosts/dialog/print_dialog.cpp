@@ -160,14 +160,14 @@ QStringList PrintDialog::takeOptions() {
   return refused;
 }
 
-void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
-  m_wanted = queue->id;
-  m_kept = kesto::takeKeptOptions(*queue);
-  const Outcome opened = m_session.open(queue, {.jobName = jobName()});
+void PrintDialog::takeQueue(Queue queue) {
+  m_wanted = queue.id;
+  m_kept = kesto::takeKeptOptions(queue);
+  const Outcome opened = m_session.open(std::move(queue), {.jobName = jobName()});
   PrintDialogPanel* panel = m_session.panel();
   m_general->setPpd(m_session.ppd(), panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys(),
                     m_kept.options);
-  if (queue->destination) takeKeptOptions(*queue->destination);
+  if (const Destination& destination = m_session.queue()->destination) takeKeptOptions(*destination);
   const QStringList refused = takeOptions();
   m_chooser->takeCurrent(m_wanted);
   showState();
@@ -175,14 +175,13 @@ void PrintDialog::takeQueue(const std::shared_ptr<Queue>& queue) {
     showMessage(tr("This printer cannot do %1. The job is printed without it.").arg(refused.join(u", ")));
   if (!opened) showMessage(opened.reason());
   // The window handles what has come up before the panel is made visible.
-  QMetaObject::invokeMethod(
-      this, [this, queue] { showQueue(queue); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &PrintDialog::showQueue, Qt::QueuedConnection);
 }
 
-void PrintDialog::showQueue(const std::shared_ptr<Queue>& queue) {
-  if (m_session.queue() != queue) return;
+void PrintDialog::showQueue() {
+  if (m_session.queue() == nullptr || m_isSettled) return;
   if (m_session.view() != nullptr) showPanel();
-  setWindowTitle(tr("Print on %1").arg(shownText(queue->id)));
+  setWindowTitle(tr("Print on %1").arg(shownText(m_session.queue()->id)));
   m_isSettled = true;
   giveNames();
   updateControls();
@@ -345,7 +344,7 @@ void PrintDialog::send() {
   // Whoever drew the document has left out the other pages.
   if (m_options.documentLater) job.options.remove(QStringLiteral("page-ranges"));
   setPhase(Phase::Sending);
-  m_client.send(m_session.queue(), job);
+  m_client.send(*m_session.queue(), job);
 }
 
 void PrintDialog::takeSent(int job) {

@@ -57,7 +57,7 @@ class PrintDialog : public QDialog {
   ppd_file_t* ppd() const { return m_session.ppd(); }
 
   /// Goes over to a queue that is open.
-  void takeQueue(const std::shared_ptr<Queue>& queue);
+  void takeQueue(Queue queue);
   void reject() override;
 
  Q_SIGNALS:
@@ -91,7 +91,7 @@ class PrintDialog : public QDialog {
   QStringList takeOptions();
   void takePageCount();
   void settleWithout();
-  void showQueue(const std::shared_ptr<Queue>& queue);
+  void showQueue();
   void takeNoQueue(const QString& reason);
   void showPanel();
   void leaveQueue();

@@ -145,7 +145,7 @@ void PrintDialog::connectParts() {
     m_chooser->showText(reason, true);
     settleWithout();
   });
-  connect(&m_client, &QueueClient::opened, this, &PrintDialog::takeQueue);
+  connect(&m_client, &QueueClient::opened, this, [this](Queue& queue) { takeQueue(std::move(queue)); });
   connect(&m_client, &QueueClient::openFailed, this, &PrintDialog::takeNoQueue);
   connect(&m_client, &QueueClient::progressed, this, [this](qint64 sent, qint64 total) {
     m_progress->setRange(0, total > 0 ? 1000 : 0);

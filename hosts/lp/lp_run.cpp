@@ -41,7 +41,7 @@ class StandardErrorAlerts : public AlertPresenter {
 // The queue that the job is for, and the server that has it unless a PPD file stands for it.
 struct JobQueue {
   std::unique_ptr<PrintServer> server;
-  std::shared_ptr<Queue> queue = std::make_shared<Queue>();
+  Queue queue;
 };
 
 // The queue's name without asking a server: as it was written, but for the instance of "queue/instance".
@@ -51,7 +51,7 @@ QString queueOfFiles(const Options& options) {
 }
 
 Outcome findQueue(const Options& options, JobQueue* found) {
-  Queue& queue = *found->queue;
+  Queue& queue = found->queue;
   if (options.ppd) {
     queue.id = queueOfFiles(options);
     queue.deviceUri = *options.deviceUri;
@@ -166,10 +166,11 @@ PanelStart startOf(const Options& options) {
           .keepsAside = options.task == Task::DryRun};
 }
 
-ExitCode runJob(const Options& options, Entries entries, const JobQueue& queue) {
+ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
   StandardErrorAlerts alerts(options.messages());
   PanelSession session(alerts);
-  if (Outcome opened = session.open(queue.queue, startOf(options)); !opened) return ended(options, opened);
+  if (Outcome opened = session.open(std::move(queue.queue), startOf(options)); !opened)
+    return ended(options, opened);
   if (options.task == Task::ListFolders) {
     const Outcome listed = listFolders(session, options);
     if (alerts.wasShown) return ExitFailed;
@@ -196,10 +197,10 @@ ExitCode runPlainJob(const Options& options, const JobQueue& queue, bool isRaw) 
   if (options.task == Task::ListFolders || options.wantsPanel()) {
     return ended(
         options,
-        Outcome::failed(QStringLiteral("the queue %1 does not offer Job Handling").arg(queue.queue->id)));
+        Outcome::failed(QStringLiteral("the queue %1 does not offer Job Handling").arg(queue.queue.id)));
   }
   if (options.task == Task::DryRun) return ended(options, printPairs({}, "=", options.json));
-  return ended(options, submit(*queue.server, *queue.queue->destination, options, {}));
+  return ended(options, submit(*queue.server, *queue.queue.destination, options, {}));
 }
 
 ExitCode runPresets(const Options& options) {
@@ -246,12 +247,12 @@ ExitCode run(const Options& options) {
   if (options.task == Task::Check) return runCheck(options);
   JobQueue queue;
   if (Outcome found = findQueue(options, &queue); !found) return ended(options, found);
-  const PpdFile& ppd = queue.queue->ppd;
-  const bool isRaw = options.task != Task::ListFolders && goesRaw(options, queue.queue->destination.get());
+  const PpdFile& ppd = queue.queue.ppd;
+  const bool isRaw = options.task != Task::ListFolders && goesRaw(options, queue.queue.destination.get());
   if (isRaw || !ppd || !offersJobHandling(*ppd)) return runPlainJob(options, queue, isRaw);
   Entries entries = options.entries;
   if (Outcome read = readSecrets(options, &entries); !read) return ended(options, read);
-  return runJob(options, std::move(entries), queue);
+  return runJob(options, std::move(entries), std::move(queue));
 }
 
 }  // namespace kesto

@@ -41,7 +41,7 @@ Outcome readSettings(const QString& path, kesto::PrintSettings* settings) {
   return Outcome::done();
 }
 
-Outcome prepare(const CLI::App& app, const Options& options, kesto::PanelHost* host) {
+Outcome prepare(const CLI::App& app, const Options& options, kesto::PpdFile* ppd, kesto::PanelHost* host) {
   host->handlesConstraints = !options.noConstraintHandling;
   if (app.count("--queue") > 0) {
     kesto::Printer printer{.id = QString::fromStdString(options.queue), .deviceUri = {}};
@@ -57,7 +57,9 @@ Outcome prepare(const CLI::App& app, const Options& options, kesto::PanelHost* h
     }
   }
   if (app.count("--ppd") == 0) return Outcome::done();
-  return kesto::openPpdFile(QString::fromStdString(options.ppd), &host->ppd);
+  Outcome opened = kesto::openPpdFile(QString::fromStdString(options.ppd), ppd);
+  host->ppd = ppd->get();
+  return opened;
 }
 
 int serve(kesto::ScriptSession& session) {
@@ -99,8 +101,9 @@ int run(int argc, char** argv) {
   };
   if (Outcome loaded = kesto::loadJobHandlingBundle(&bundle, &plugIn); !loaded) return fail(loaded);
   kesto::SystemPlatform platform(bundle, alerts);
+  kesto::PpdFile ppd;
   kesto::PanelHost host(platform);
-  if (Outcome prepared = prepare(app, options, &host); !prepared) return fail(prepared);
+  if (Outcome prepared = prepare(app, options, &ppd, &host); !prepared) return fail(prepared);
   if (Outcome opened = host.openPanel(*plugIn); !opened) return fail(opened);
   kesto::ScriptSession session(host, *plugIn, alerts);
   return serve(session);

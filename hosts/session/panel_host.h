@@ -12,15 +12,15 @@
 
 namespace kesto {
 
-/// One dialog on one queue: lends printer, PPD and print settings to the panel, and owns all of them. Members
-/// are set before `openPanel`.
+/// One dialog on one queue: lends printer, PPD and print settings to the panel, and owns all but the PPD.
+/// Members are set before `openPanel`.
 class PanelHost : public HostCallback {
  public:
   explicit PanelHost(Platform& platform) : m_platform(platform) {}
 
   PrintSession session;                   ///< With the current printer, if any.
   std::optional<PrintSettings> settings;  ///< None for a host without print settings.
-  PpdFile ppd;                            ///< Null without a PPD.
+  ppd_file_t* ppd = nullptr;              ///< Outlives this object; null without a PPD.
   bool handlesConstraints = true;
 
   /// Makes the Job Handling panel from the bundle's entry object. The outcome says why there is none.
@@ -34,7 +34,7 @@ class PanelHost : public HostCallback {
 
   const PrintSession& printSession() const override { return session; }
   PrintSettings* printSettings() override { return settings ? &*settings : nullptr; }
-  ppd_file_s* ppdFile() override { return ppd.get(); }
+  ppd_file_s* ppdFile() override { return ppd; }
   bool answersWillChangePPDOptionKeyValue() const override { return handlesConstraints; }
   Platform& platform() override { return m_platform; }
 

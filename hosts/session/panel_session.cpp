@@ -14,17 +14,17 @@ Outcome PanelSession::loadPlatform() {
   return Outcome::done();
 }
 
-Outcome PanelSession::open(const std::shared_ptr<Queue>& queue, const PanelStart& start) {
+Outcome PanelSession::open(Queue queue, const PanelStart& start) {
   release();
-  m_queue = queue;
-  return queue->ppd && offersJobHandling(*queue->ppd) ? openPanel(start) : Outcome::done();
+  m_queue = std::move(queue);
+  return ppd() != nullptr && offersJobHandling(*ppd()) ? openPanel(start) : Outcome::done();
 }
 
 Outcome PanelSession::openPanel(const PanelStart& start) {
   if (Outcome loaded = loadPlatform(); !loaded) return loaded;
   if (start.keepsAside) m_platform->close();
   m_host = std::make_unique<PanelHost>(*m_platform);
-  m_host->ppd = std::move(m_queue->ppd);
+  m_host->ppd = ppd();
   m_host->session.currentPrinter = Printer{.id = m_queue->id, .deviceUri = m_queue->deviceUri};
   m_host->settings.emplace().setJobName(start.jobName);
   if (Outcome opened = m_host->openShownPanel(*m_plugIn); !opened) return opened;
@@ -32,11 +32,6 @@ Outcome PanelSession::openPanel(const PanelStart& start) {
   if (start.preset) return loadPreset(*start.preset);
   restorePanel(*m_host, {});
   return Outcome::done();
-}
-
-ppd_file_t* PanelSession::ppd() const {
-  if (m_host) return m_host->ppd.get();
-  return m_queue ? m_queue->ppd.get() : nullptr;
 }
 
 QString PanelSession::model() const {

@@ -27,14 +27,14 @@ class PanelSession {
 
   /// Goes over to a queue, whose panel is made, restored and ready to be shown. When there is none to be had
   /// the queue is open without it, and the outcome says why. It also fails on a preset that cannot be loaded.
-  Outcome open(const std::shared_ptr<Queue>& queue, const PanelStart& start);
+  Outcome open(Queue queue, const PanelStart& start);
   /// Lets go of the panel and the queue. Ends what the panel is waiting for.
   void release();
 
   /// Null while there is no queue.
-  const std::shared_ptr<Queue>& queue() const { return m_queue; }
+  const Queue* queue() const { return m_queue ? &*m_queue : nullptr; }
   /// Null for a queue without one, and while there is no queue.
-  ppd_file_t* ppd() const;
+  ppd_file_t* ppd() const { return m_queue ? m_queue->ppd.get() : nullptr; }
   /// Null for a queue that offers none.
   PrintDialogPanel* panel() const { return m_host ? m_host->panel() : nullptr; }
   /// The panel's controls, null without a panel.
@@ -76,7 +76,7 @@ class PanelSession {
   std::shared_ptr<const Bundle> m_bundle;
   PrintDialogPlugIn* m_plugIn = nullptr;
   std::unique_ptr<GatedPlatform> m_platform;
-  std::shared_ptr<Queue> m_queue;
+  std::optional<Queue> m_queue;
   std::unique_ptr<PanelHost> m_host;
   std::optional<PresetStore> m_presets;
 };

@@ -128,11 +128,9 @@ QPalette darkPalette() {
   return palette;
 }
 
-std::shared_ptr<Queue> demoQueue() {
-  auto queue = std::make_shared<Queue>();
-  queue->id = u"Office_MFP"_s;
-  queue->deviceUri = u"socket://192.0.2.20:9100"_s;
-  EXPECT_TRUE(openPpdFile(demoPpd(), &queue->ppd));
+Queue demoQueue() {
+  Queue queue{.id = u"Office_MFP"_s, .deviceUri = u"socket://192.0.2.20:9100"_s};
+  EXPECT_TRUE(openPpdFile(demoPpd(), &queue.ppd));
   return queue;
 }
 

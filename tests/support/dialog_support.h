@@ -39,7 +39,8 @@ class PaneWindow : public QWidget {
     host.emplace(*m_platform);
     host->session.currentPrinter = Printer{.id = u"Office_MFP"_s, .deviceUri = u"socket://192.0.2.1"_s};
     host->settings.emplace().setJobName(u"report.pdf"_s);
-    EXPECT_TRUE(openPpdFile(demoPpd(), &host->ppd));
+    EXPECT_TRUE(openPpdFile(demoPpd(), &m_ppd));
+    host->ppd = m_ppd.get();
     EXPECT_TRUE(host->openPanel(*plugIn));
     view = host->panel()->panelView();
     restorePanel(*host, {});
@@ -73,6 +74,7 @@ class PaneWindow : public QWidget {
 
  private:
   QTemporaryDir m_home;
+  PpdFile m_ppd;
   NoAlerts m_alerts;
   std::shared_ptr<const Bundle> m_bundle;
   std::unique_ptr<SystemPlatform> m_platform;
