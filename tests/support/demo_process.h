@@ -5,13 +5,16 @@
 #include <unistd.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
+#include <QtCore/QEventLoop>
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
 #include <csignal>
 
 #include "tests/support/printing.h"
@@ -24,6 +27,18 @@ inline QByteArray bytesOf(const QString& path) {
   QFile file(path);
   EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
   return file.readAll();
+}
+
+/// Handles events until something is so; what is deleted later and what other processes do wakes nobody.
+inline void waitFor(const std::function<bool()>& isSo) {
+  const QDeadlineTimer deadline(std::chrono::seconds(30));
+  QTimer wake;
+  wake.start(20);
+  while (!isSo()) {
+    ASSERT_FALSE(deadline.hasExpired()) << "waited in vain";
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
 }
 
 /// A document that begins as a PDF does and holds every byte.

@@ -1,5 +1,5 @@
-// Stands in for the dialog that kesto-portal starts: a test on the other end of a local socket plays the
-// user. It tells the test what comes from the service, one JSON object a line, and does what the test says in
+// Stands in for the dialog that kesto-portal starts: a test at the other end of a local socket plays its
+// user. It passes on what comes from the service, one JSON object a line, and does what the test says in
 // return.
 #include <unistd.h>
 
@@ -26,14 +26,10 @@ QJsonObject self() {
           {u"environment"_s, environment}};
 }
 
-// Reads the document whole, keeps it where the test wants it, and gives its hash.
-QString readDocument(const kesto::Descriptor& document) {
+QString hashOf(const kesto::Descriptor& document) {
   QFile file;
   if (!file.open(document.get(), QIODevice::ReadOnly)) return file.errorString();
-  const QByteArray bytes = file.readAll();
-  if (QFile kept(qEnvironmentVariable("KESTO_STAND_IN_DOCUMENT")); kept.open(QIODevice::WriteOnly))
-    kept.write(bytes);
-  return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex());
+  return QString::fromLatin1(QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha1).toHex());
 }
 
 }  // namespace
@@ -53,7 +49,7 @@ int main(int argc, char** argv) {
   const auto tellEnd = [&] { tell({{u"closed"_s, true}}); };
   QObject::connect(channel.get(), &kesto::PrintChannel::received,
                    [&](QJsonObject message, const kesto::Descriptor& document) {
-                     if (document) message.insert(u"document"_s, readDocument(document));
+                     if (document) message.insert(u"document"_s, hashOf(document));
                      tell(message);
                    });
   QObject::connect(channel.get(), &kesto::PrintChannel::closed, tellEnd);
