@@ -333,7 +333,7 @@ TEST_F(DialogPrint, WhyAQueueTakesNoJobsOrPrintsNoneIsShown) {
              {"s/State Idle/State Stopped\\nStateMessage Out of toner/", "Paused: Out of toner"},
              {"s/State Idle/State Stopped/", "Paused"}}) {
     m_printer.reset();
-    changeScheduler(edits.toLatin1());
+    changeScheduler(m_folder, edits.toLatin1());
     startPrinter();
     openReady();
     EXPECT_EQ(text(u"printerState"_s), said);
@@ -357,7 +357,7 @@ TEST_F(DialogPrint, AQueueWithoutThePanelPrintsByItsOwnOptions) {
 }
 
 TEST_F(DialogPrint, TheFirstQueueThatTakesJobsStandsInForOneThatIsMissing) {
-  changeScheduler("s/DefaultPrinter/Printer/; 0,/Accepting Yes/s//Accepting No/");
+  changeScheduler(m_folder, "s/DefaultPrinter/Printer/; 0,/Accepting Yes/s//Accepting No/");
   startPrinter({u"--queues"_s, u"2"_s});
   for (const QString& asked : {QString(), u"Gone"_s}) {
     m_options.queue = asked;
@@ -612,7 +612,7 @@ TEST_F(DialogPrint, TheSummaryTellsWhatOthersSee) {
   for (const auto& [edits, part] : Cases{
            {"", "and no more of it."}, {"/JobPrivate/d", "These lines in its policy demo hide it:\n\nJob"}}) {
     m_printer.reset();
-    changeScheduler(edits.toLatin1());
+    changeScheduler(m_folder, edits.toLatin1());
     startPrinter();
     openReady();
     click(u"privacy"_s);

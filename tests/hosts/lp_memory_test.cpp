@@ -51,7 +51,7 @@ TEST_F(LpMemory, RememberedOnceOfferedUntilForgotten) {
 TEST_F(LpMemory, ADryRunKeepsWhatItIsAskedForAndNothingElse) {
   const QString domain = u"kesto.mfp.office"_s;
   dryRun(u"--hold only --pin 1234 letter"_s);
-  EXPECT_FALSE(QFile::exists(m_home.filePath(u"kesto"_s)));
+  EXPECT_FALSE(QFile::exists(m_folder.path(u"kesto"_s)));
   const QJsonObject record{{u"Model Name"_s, u"KESTO VQ-900"_s}, {u"folder name"_s, u"x"_s}};
   const QJsonObject another{{u"Job Handling"_s, record}, {u"note"_s, 1}};
   ASSERT_TRUE(store(preferences(), another, domain));
@@ -66,7 +66,7 @@ TEST_F(LpMemory, ADryRunKeepsWhatItIsAskedForAndNothingElse) {
 }
 
 TEST_F(LpMemory, WhatCannotBeKeptIsTold) {
-  ASSERT_TRUE(QFile::link(u"/dev/null"_s, m_home.filePath(u"kesto"_s)));
+  ASSERT_TRUE(QFile::link(u"/dev/null"_s, m_folder.path(u"kesto"_s)));
   const LpRun run = dryRun(u"--job-name x --remember job-name"_s);
   EXPECT_EQ(run.code, 1);
   EXPECT_TRUE(run.err.startsWith(u"kesto-lp: the entries are not remembered: the folder "_s)) << run.err;

@@ -32,7 +32,7 @@ TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
       {QByteArray(1024, 'x') + 'y', u"kesto-lp: --pin-file: the line is too long\n"_s},
       {"12\xFF", u"kesto-lp: --pin-file: the line is no UTF-8 text\n"_s},
   };
-  const QString file = m_home.filePath(u"code"_s);
+  const QString file = m_folder.path(u"code"_s);
   for (const auto& [bytes, fault] : cases) {
     QFile code(file);
     ASSERT_TRUE(code.open(QIODevice::WriteOnly) && code.write(bytes) == bytes.size());

@@ -19,7 +19,8 @@ struct Result {
 class BesideTheUsualCommand : public PrintTest {
  protected:
   BesideTheUsualCommand() {
-    changeConfiguration("/AuthType/d; /Require user @SYSTEM$/d; s/PreserveJobFiles No/PreserveJobFiles Yes/");
+    changeScheduler(m_folder,
+                    "/AuthType/d; /Require user @SYSTEM$/d; s/PreserveJobFiles No/PreserveJobFiles Yes/");
     startPrinter();
     const QString backend = m_folder.path(u"run/cups/bin/backend/record"_s);
     m_folder.write(u"run/cups/bin/backend/record"_s,

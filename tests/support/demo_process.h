@@ -67,16 +67,31 @@ class ScratchFolder {
   QTemporaryDir m_folder;
 };
 
+/// Puts a scheduler before the system's that edits its configuration and its list of queues first.
+inline void changeScheduler(const ScratchFolder& folder, const QByteArray& edits) {
+  QDir().mkdir(folder.path(u"bin"_s));
+  QFile::remove(folder.path(u"bin/cupsd"_s));
+  folder.write(u"bin/cupsd"_s, "#!/bin/sh\nsed -i '" + edits +
+                                   "' \"$3\" \"${3%cupsd.conf}printers.conf\"\n"
+                                   "cp /usr/sbin/cupsd \"$0-copy\" && exec \"$0-copy\" \"$@\"\n");
+  QFile::setPermissions(folder.path(u"bin/cupsd"_s), QFile::ReadOwner | QFile::ExeOwner);
+  qputenv("PATH", QFile::encodeName(folder.path(u"bin:"_s)) + qgetenv("PATH"));
+}
+
+/// An environment whose every place to write is a folder.
+inline QProcessEnvironment environmentIn(const ScratchFolder& folder) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const auto* place : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+    environment.insert(QLatin1String(place), folder.path(u""_s));
+  environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+  return environment;
+}
+
 /// A process that is waited for by what it prints, and ended with its object.
 class DemoProcess : public QProcess {
  public:
   DemoProcess(const ScratchFolder& folder, const QString& program, const QStringList& arguments) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const auto* place : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"}) {
-      environment.insert(QLatin1String(place), folder.path(u""_s));
-    }
-    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-    setProcessEnvironment(environment);
+    setProcessEnvironment(environmentIn(folder));
     start(program, arguments);
   }
   ~DemoProcess() override {

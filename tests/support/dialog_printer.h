@@ -59,15 +59,6 @@ class DialogPrint : public testing::Test {
     m_options.server.limit = std::chrono::seconds(20);
   }
 
-  // Puts a scheduler before the system's that edits its configuration and its list of queues first.
-  void changeScheduler(const QByteArray& edits) const {
-    QDir().mkdir(m_folder.path(u"bin"_s));
-    m_folder.write(u"bin/cupsd"_s, "#!/bin/sh\nsed -i '" + edits +
-                                       "' \"$3\" \"${3%cupsd.conf}printers.conf\"\n"
-                                       "cp /usr/sbin/cupsd \"$0-copy\" && exec \"$0-copy\" \"$@\"\n");
-    QFile::setPermissions(m_folder.path(u"bin/cupsd"_s), QFile::ReadOwner | QFile::ExeOwner);
-    qputenv("PATH", QFile::encodeName(m_folder.path(u"bin:"_s)) + qgetenv("PATH"));
-  }
   void startPrinter(const QStringList& arguments = {}) {
     m_printer.emplace(m_folder, arguments);
     m_options.server.address = m_printer->place(u"server"_s);

@@ -1,16 +1,8 @@
 // The real kesto-lp, run for a queue and a user of its own.
 #pragma once
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
-
 #include "platform/json_user_defaults.h"
-#include "tests/support/printing.h"
+#include "tests/support/demo_process.h"
 #include "tests/support/test_host.h"
 
 namespace kesto::test {
@@ -49,13 +41,8 @@ class LpTest : public testing::Test {
   /// A process ready to start. `arguments` as a shell would split them; "{}" is an empty one.
   std::unique_ptr<QProcess> process(const QString& arguments) const {
     auto process = std::make_unique<QProcess>();
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const auto* place : {"HOME", "TMPDIR", "XDG_CONFIG_HOME"}) {
-      environment.insert(QLatin1String(place), m_home.path());
-    }
-    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-    process->setProcessEnvironment(environment);
-    process->setProgram(QCoreApplication::applicationDirPath() + u"/kesto-lp"_s);
+    process->setProcessEnvironment(m_environment);
+    process->setProgram(builtProgram("kesto-lp"));
     process->setArguments(QProcess::splitCommand(arguments).replaceInStrings(u"{}"_s, u""_s));
     return process;
   }
@@ -71,17 +58,20 @@ class LpTest : public testing::Test {
     lp->closeWriteChannel();
     return finish(*lp);
   }
-  /// A dry run for the queue "office".
+  /// A command line for a dry run on the queue "office".
+  QString dry(const QString& arguments) const {
+    return u"--dry-run -d office --device-uri lpd://x --ppd %1 "_s.arg(m_ppd.path()) + arguments;
+  }
   LpRun dryRun(const QString& arguments, const QByteArray& input = {}) const {
-    return run(u"--dry-run -d office --device-uri lpd://x --ppd %1 "_s.arg(m_ppd.path()) + arguments, input);
+    return run(dry(arguments), input);
   }
   void expectFailure(const QString& arguments, int code, const QString& message) const {
     const LpRun run = dryRun(arguments);
-    EXPECT_EQ(run.code, code) << arguments.toStdString();
-    EXPECT_EQ(run.err.section(u'\n', 0, 0), u"kesto-lp: "_s + message) << arguments.toStdString();
-    EXPECT_EQ(run.out, u""_s) << arguments.toStdString();
+    EXPECT_EQ(run.code, code) << arguments;
+    EXPECT_EQ(run.err.section(u'\n', 0, 0), u"kesto-lp: "_s + message) << arguments;
+    EXPECT_EQ(run.out, u""_s) << arguments;
   }
-  JsonUserDefaults preferences() const { return JsonUserDefaults(m_home.filePath(u"kesto"_s)); }
+  JsonUserDefaults preferences() const { return JsonUserDefaults(m_folder.path(u"kesto"_s)); }
   /// The folder that the preset "p" of a queue has.
   QByteArray presetFolder(const QString& queue) const {
     const QJsonValue presets =
@@ -89,10 +79,11 @@ class LpTest : public testing::Test {
     const QJsonValue settings = presets[u"p"_s][u"settings"_s];
     return QByteArray::fromHex(settings[u"kesto.print.PrintSettings.folderPath"_s].toString().toLatin1());
   }
-  void forgetAll() const { QDir(m_home.filePath(u"kesto"_s)).removeRecursively(); }
+  void forgetAll() const { QDir(m_folder.path(u"kesto"_s)).removeRecursively(); }
 
   PpdFixture m_ppd;
-  QTemporaryDir m_home;
+  ScratchFolder m_folder;
+  QProcessEnvironment m_environment = environmentIn(m_folder);
 };
 
 }  // namespace kesto::test

@@ -1,10 +1,7 @@
 // kesto-lp at the demo printer: the real scheduler, the queue's filter, and the printer behind it.
 #pragma once
 
-#include <QtCore/QDeadlineTimer>
-
 #include "hosts/cups/print_job.h"
-#include "tests/support/demo_process.h"
 #include "tests/support/lp_program.h"
 
 namespace kesto::test {
@@ -17,19 +14,10 @@ class PrintTest : public LpTest {
     m_folder.write(u"folders"_s, "Invoices\nPlans & <Papers>\tlocked\n");
     startPrinter();
   }
-  // Puts a scheduler before the system's that edits its configuration first.
-  void changeConfiguration(const QByteArray& edits) const {
-    QDir().mkdir(m_folder.path(u"bin"_s));
-    QFile::remove(m_folder.path(u"bin/cupsd"_s));
-    m_folder.write(u"bin/cupsd"_s, "#!/bin/sh\nsed -i '" + edits +
-                                       "' \"$3\"\n"
-                                       "cp /usr/sbin/cupsd \"$0-copy\" && exec \"$0-copy\" \"$@\"\n");
-    QFile::setPermissions(m_folder.path(u"bin/cupsd"_s), QFile::ReadOwner | QFile::ExeOwner);
-    qputenv("PATH", QFile::encodeName(m_folder.path(u"bin:"_s)) + qgetenv("PATH"));
-  }
   void startPrinter() {
     m_printer.reset();
-    m_printer.emplace(m_folder, QStringList{u"--folders"_s, m_folder.path(u"folders"_s)});
+    m_printer.emplace(m_folder,
+                      QStringList{u"--port"_s, u"0"_s, u"--folders"_s, m_folder.path(u"folders"_s)});
   }
 
   // kesto-lp for the demo printer's server; "DOCUMENT" and "SECOND" stand for files.
@@ -40,6 +28,10 @@ class PrintTest : public LpTest {
   }
   LpRun lp(const QString& arguments, const QByteArray& input = {}) const {
     return run(command(arguments), input);
+  }
+  QJsonValue jsonOf(const QString& arguments) const {
+    const auto json = QJsonDocument::fromJson(lp(arguments).out.toUtf8());
+    return json.isArray() ? QJsonValue(json.array()) : QJsonValue(json.object());
   }
   void expectPrinted(const QString& arguments, const QByteArray& input = {}) const {
     const LpRun printed = lp(arguments, input);
@@ -62,9 +54,7 @@ class PrintTest : public LpTest {
   }
   QString schedulersJobs() const { return ofPrintSystem(u"lpstat -W all -o"_s); }
   void waitUntilListed(int job) const {
-    const QDeadlineTimer deadline(std::chrono::seconds(20));
-    while (!schedulersJobs().contains(u"Office_MFP-%1 "_s.arg(job)))
-      ASSERT_FALSE(deadline.hasExpired()) << "there is no job " << job;
+    waitFor([&] { return schedulersJobs().contains(u"Office_MFP-%1 "_s.arg(job)); });
   }
   // Adds a queue with the demo queue's PPD, one text in it replaced; without a PPD when that is empty.
   void addQueue(const QString& name, const QByteArray& before, const QByteArray& after) const {
@@ -114,7 +104,6 @@ class PrintTest : public LpTest {
       m_printer->waitForLog("job %1 from anna: "_ba.replace("%1", QByteArray::number(job)));
   }
 
-  ScratchFolder m_folder;
   const QByteArray m_document = pdfDocument();
   std::optional<RunningPrinter> m_printer;
 };
