@@ -1,0 +1,258 @@
+#include "hosts/session/sheet_plan.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <utility>
+
+#include "hosts/session/sheet_settings.h"
+
+namespace kesto {
+namespace {
+
+// Turns are quarters clockwise; the axes go right and down.
+int quarters(int turns) {
+  return ((turns % 4) + 4) % 4;
+}
+
+QSizeF turned(const QSizeF& size, int turns) {
+  return turns % 2 == 0 ? size : size.transposed();
+}
+
+QRectF turned(QRectF area, QSizeF space, int turns) {
+  for (; turns > 0; --turns) {
+    area = QRectF(space.height() - area.bottom(), area.left(), area.height(), area.width());
+    space.transpose();
+  }
+  return area;
+}
+
+QRectF centred(const QSizeF& size, const QPointF& centre) {
+  return {centre - QPointF(size.width(), size.height()) / 2, size};
+}
+
+bool isLandscape(const QSizeF& size) {
+  return size.width() > size.height();
+}
+
+constexpr double borderDistance = 2.25;  // points from the edge
+constexpr double lineDistance = 2;
+
+constexpr int blank = -1;
+
+// The pages of a booklet: sheets of two pages on each side, folded together in the middle.
+QList<int> bookletOrder(int pages) {
+  QList<int> order;
+  int first = 0;
+  for (int last = (pages + 3) / 4 * 4 - 1; first < last;) {
+    for (const int page : {last, first, first + 1, last - 1})
+      order.push_back(page < pages ? page : blank);
+    first += 2;
+    last -= 2;
+  }
+  return order;
+}
+
+// Where the filter counts in whole points.
+QSizeF whole(const QSizeF& size) {
+  return {std::trunc(size.width()), std::trunc(size.height())};
+}
+
+// Whether the paper is too small for a page, whichever way it lies, with two per cent to spare.
+bool isTooLarge(const QSizeF& page, const QSizeF& paper) {
+  const QSizeF size = whole(page * 100 / 102);
+  const auto isBeyond = [&](const QSizeF& other) {
+    return size.width() > other.width() || size.height() > other.height();
+  };
+  return isBeyond(paper) && isBeyond(paper.transposed());
+}
+
+SheetScaling chosen(SheetScaling scaling, const QList<QSizeF>& pages, const SheetPaper& paper) {
+  if (scaling != SheetScaling::Auto && scaling != SheetScaling::AutoFit) return scaling;
+  if (std::ranges::none_of(pages, [&](const QSizeF& page) { return isTooLarge(page, paper.size); }))
+    return SheetScaling::None;
+  const bool isBorderless = whole(paper.size.shrunkBy(paper.margins)) == paper.size;
+  return scaling == SheetScaling::Auto && isBorderless ? SheetScaling::Fill : SheetScaling::Fit;
+}
+
+// The sides of one file. Its pages are laid out on a space that is the side, or the side turned so that more
+// pages lie beside than above each other; all pages lie the same way there, those that do not are turned.
+class Layout {
+ public:
+  Layout(const QList<QSizeF>& pages, int document, const SheetPaper& paper, const SheetSettings& settings);
+
+  QList<SheetSide> sides() const;
+
+ private:
+  int turnOf(int page) const;
+  QSizeF shown(const QSizeF& page) const;
+  SheetCell cell(int page, int place) const;
+  SheetSide side(const QList<int>& order, int first) const;
+
+  const QList<QSizeF>& m_pages;
+  const int m_document;
+  const SheetSettings& m_settings;
+  const SheetScaling m_scaling;
+  const int m_pageTurn;
+  const bool m_isPagesLandscape;
+  SheetGrid m_grid;
+  QSizeF m_space;
+  QRectF m_area;  // in the space, where pages are laid out
+  int m_turn;     // from the space to how the printer takes the paper
+};
+
+Layout::Layout(const QList<QSizeF>& pages, int document, const SheetPaper& paper,
+               const SheetSettings& settings)
+    : m_pages(pages),
+      m_document(document),
+      m_settings(settings),
+      m_scaling(chosen(settings.scaling, pages, paper)),
+      m_pageTurn(paper.isLandscapeMinus90 ? 1 : 3),
+      m_isPagesLandscape(isLandscape(paper.size) == (settings.turn % 2 == 0)),
+      m_grid(settings.grid),
+      m_space(paper.size),
+      m_turn(settings.turn) {
+  bool isTurned = m_grid.columns > m_grid.rows || settings.isBooklet;
+  if (isLandscape(paper.size)) std::swap(m_grid.columns, m_grid.rows);
+  if (settings.isBooklet) m_grid = {2, 1};
+  if (settings.turn % 2 != 0) {
+    std::swap(m_grid.columns, m_grid.rows);
+    isTurned = !isTurned;
+    m_turn -= m_pageTurn;
+  }
+  const QMarginsF margins = m_scaling == SheetScaling::None ? QMarginsF() : paper.margins;
+  const QRectF printable = QRectF({}, paper.size).marginsRemoved(margins);
+  m_area = printable;
+  if (!isTurned) return;
+  m_turn += m_pageTurn;
+  m_space.transpose();
+  // The filter takes these two margins, whichever way it turns.
+  m_area = QRectF({margins.top(), margins.right()}, printable.size().transposed());
+}
+
+int Layout::turnOf(int page) const {
+  return isLandscape(m_pages.at(page)) == m_isPagesLandscape ? 0 : m_pageTurn;
+}
+
+// What there is of a page around its middle: all of it, as much as the paper is large, or what has the
+// paper's form.
+QSizeF Layout::shown(const QSizeF& page) const {
+  if (m_scaling == SheetScaling::Fit) return page;
+  const QSizeF form =
+      isLandscape(page) == isLandscape(m_area.size()) ? m_area.size() : m_area.size().transposed();
+  return m_scaling == SheetScaling::None ? form : form.scaled(page, Qt::KeepAspectRatio);
+}
+
+SheetCell Layout::cell(int page, int place) const {
+  const auto [column, row] = m_settings.columnAndRow(m_grid, place);
+  const QSizeF cell(m_area.width() / m_grid.columns, m_area.height() / m_grid.rows);
+  const QPointF middle =
+      m_area.topLeft() + QPointF(cell.width() * (column + 0.5), cell.height() * (row + 0.5));
+  const int turn = turnOf(page);
+  const QSizeF size = m_pages.at(page);
+  const QSizeF part = turned(shown(size), turn);
+  const double scale = std::min(cell.width() / part.width(), cell.height() / part.height());
+  SheetCell result{.document = m_document,
+                   .page = page,
+                   .area = centred(turned(size, turn) * scale, middle),
+                   .visible = centred(part * scale, middle),
+                   .rotation = turn,
+                   .border = {}};
+  for (int line = 0; line < m_settings.border.lines; ++line) {
+    const double distance = borderDistance + line * lineDistance;
+    result.border.push_back(result.visible.adjusted(distance, distance, -distance, -distance));
+  }
+  return result;
+}
+
+// `first`: of the pages in `order`; a side begins there. A side without pages lies as the file's first page.
+SheetSide Layout::side(const QList<int>& order, int first) const {
+  QList<SheetCell> cells;
+  const int count = std::min(m_grid.columns * m_grid.rows, static_cast<int>(order.size()) - first);
+  for (int place = 0; place < count; ++place) {
+    const int page = order.at(first + place);
+    if (page != blank) cells.push_back(cell(page, place));
+  }
+  const int turn = quarters(-(cells.isEmpty() ? turnOf(0) : cells.front().rotation));
+  for (SheetCell& each : cells) {
+    each.area = turned(each.area, m_space, turn);
+    each.visible = turned(each.visible, m_space, turn);
+    for (QRectF& line : each.border)
+      line = turned(line, m_space, turn);
+    each.rotation = 90 * quarters(each.rotation + turn);
+  }
+  return {.size = turned(m_space, turn), .turn = 90 * quarters(turn - m_turn), .cells = std::move(cells)};
+}
+
+QList<SheetSide> Layout::sides() const {
+  const int pages = static_cast<int>(m_pages.size());
+  QList<int> order(m_pages.size());
+  std::iota(order.begin(), order.end(), 0);
+  if (m_settings.isBooklet) order = bookletOrder(pages);
+  QList<SheetSide> sides;
+  const int step = m_grid.columns * m_grid.rows;
+  for (int first = 0; first < std::ssize(order); first += step)
+    if (m_settings.isSelected(first / step + 1)) sides.push_back(side(order, first));
+  // The filter adds a blank side for the printer, which comes first when the order is reversed.
+  const bool isEven = sides.size() % 2 == 0;
+  if (!isEven && (!m_settings.hasOdd || (m_settings.isTwoSided && m_settings.isReversed)))
+    sides.push_back(side({}, 0));
+  if (m_settings.isReversed) std::ranges::reverse(sides);
+  return sides;
+}
+
+// The back as it lies when the sheet is turned over around its upright middle.
+int rotationOfBack(const SheetSide& front, const SheetSide& back, bool isShortEdge) {
+  return 90 * quarters(((isShortEdge ? 180 : 0) - front.turn - back.turn) / 90);
+}
+
+QList<Sheet> sheetsOf(QList<SheetSide> sides, const SheetSettings& settings) {
+  QList<Sheet> sheets;
+  for (SheetSide& side : sides) {
+    if (settings.isTwoSided && !sheets.isEmpty() && sheets.back().sides.size() == 1) {
+      side.rotation = rotationOfBack(sheets.back().sides.front(), side, settings.isShortEdge);
+      sheets.back().sides.push_back(std::move(side));
+    } else {
+      sheets.push_back({.cover = {}, .sides = {std::move(side)}});
+    }
+  }
+  return sheets;
+}
+
+QList<Sheet> coverOf(const QString& name, const SheetPaper& paper) {
+  if (name.isEmpty() || name == u"none") return {};
+  return {Sheet{.cover = name, .sides = {SheetSide{.size = paper.size, .cells = {}}}}};
+}
+
+}  // namespace
+
+SheetPlan::SheetPlan(const QList<SheetDocument>& documents, const SheetPaper& paper,
+                     const QMap<QString, QString>& options) {
+  const OptionArray array(options);
+  const SheetSettings settings(array);
+  const QString covers = QString::fromUtf8(array.value("job-sheets"));
+  m_borderWidth = settings.border.width;
+  m_sheets = coverOf(covers.section(u',', 0, 0), paper);
+  for (int document = 0; document < documents.size(); ++document)
+    m_sheets += sheetsOf(Layout(documents[document].pages, document, paper, settings).sides(), settings);
+  m_sheets += coverOf(covers.section(u',', 1, 1), paper);
+  const int copies = std::max(QByteArray(array.value("copies")).toInt(), 1);
+  for (const Sheet& sheet : m_sheets)
+    m_paperCount += sheet.cover.isNull() ? copies : 1;
+}
+
+int SheetPlan::sideCount() const {
+  return std::accumulate(m_sheets.begin(), m_sheets.end(), 0, [](int count, const Sheet& sheet) {
+    return count + static_cast<int>(sheet.sides.size());
+  });
+}
+
+std::optional<SheetPlace> SheetPlan::placeOf(int document, int page) const {
+  for (int sheet = 0; sheet < m_sheets.size(); ++sheet)
+    for (int side = 0; side < m_sheets[sheet].sides.size(); ++side)
+      for (const SheetCell& cell : m_sheets[sheet].sides[side].cells)
+        if (cell.document == document && cell.page == page) return SheetPlace{sheet, side};
+  return {};
+}
+
+}  // namespace kesto
