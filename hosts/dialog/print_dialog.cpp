@@ -32,7 +32,6 @@ constexpr std::array ownOptions{"copies", "collate", "page-ranges"};
 PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
     : m_options(options),
       m_document(document),
-      m_wanted(options.queue),
       m_given(options.jobOptions.keys()),
       m_watch(options.server),
       m_client(options.server) {
@@ -40,7 +39,7 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
   build();
   connectParts();
   m_options.jobOptions = takeGeneral(options.jobOptions);
-  m_chooser->setCurrent(m_wanted);
+  m_chooser->setCurrent(options.queue);
   showDocument();
   updateControls();
 }
@@ -58,55 +57,29 @@ void PrintDialog::paintEvent(QPaintEvent* event) {
 }
 
 void PrintDialog::start() {
-  m_chooser->showText(tr("Asking the print server…"), false);
-  m_watch.start();
-  m_client.open(m_wanted);
+  m_options.documentLater ? m_opening->suggest(m_options.queue) : m_opening->start(m_options.queue);
 }
 
 const QueueListModel& PrintDialog::queues() const {
   return m_chooser->model();
 }
 
-void PrintDialog::takeQueues(const std::vector<QueueSummary>& queues) {
-  m_listFault = QString();
-  m_isListed = true;
-  m_chooser->setQueues(queues);
-  showState();
-  if (m_wanted.isNull()) settleWithout();
-  Q_EMIT listed();
-}
-
-// What the list says of the open queue, else what came with it.
-QueueSummary PrintDialog::openQueue() const {
-  if (!m_session.queue()) return {};
-  const QueueSummary* listed = queues().queue(m_session.queue()->id);
-  if (listed != nullptr) return *listed;
-  QueueSummary queue;
-  if (const Destination& destination = m_session.queue()->destination)
-    queue.isAccepting = optionOf(*destination, "printer-is-accepting-jobs") != u"false";
-  return queue;
-}
-
-void PrintDialog::showState() {
-  if (!m_session.queue()) return;
-  const QueueSummary queue = openQueue();
-  const bool isGone = m_isListed && queue.name.isNull();
-  m_chooser->showText(isGone ? QString() : QueueListModel::stateText(queue), false);
+// What there is to say of the queue, beside its choice.
+void PrintDialog::showOpening() {
+  const bool isFault = !m_opening->fault().isNull();
+  QString text = m_opening->fault();
+  if (!isFault && m_opening->state() == QueueOpening::State::Asked) text = tr("Asking the print server…");
+  if (m_opening->state() == QueueOpening::State::Open) text = QueueListModel::stateText(m_opening->summary());
+  m_chooser->showText(text, isFault);
   updateControls();
 }
 
 void PrintDialog::chooseQueue(const QString& name) {
-  if (m_phase != Phase::Choosing) return m_chooser->setCurrent(m_wanted);
-  leaveQueue();
-  m_wanted = name;
-  m_chooser->setCurrent(name);
-  m_chooser->showText(tr("Asking the print server…"), false);
-  m_client.open(name);
+  if (m_phase == Phase::Choosing) return m_opening->want(name);
+  m_chooser->setCurrent(m_opening->wanted());
 }
 
 void PrintDialog::leaveQueue() {
-  m_isSettled = false;
-  m_openFault = QString();
   setWindowTitle(tr("Print"));
   m_general->setPpd(nullptr, {});
   for (QWidget* pane : {static_cast<QWidget*>(m_panelPane), static_cast<QWidget*>(m_summary)}) {
@@ -160,8 +133,7 @@ QStringList PrintDialog::takeOptions() {
   return refused;
 }
 
-void PrintDialog::takeQueue(Queue queue) {
-  m_wanted = queue.id;
+void PrintDialog::openQueue(Queue& queue) {
   m_kept = kesto::takeKeptOptions(queue);
   const Outcome opened = m_session.open(std::move(queue), {.jobName = jobName()});
   PrintDialogPanel* panel = m_session.panel();
@@ -169,51 +141,20 @@ void PrintDialog::takeQueue(Queue queue) {
                     m_kept.options);
   if (const Destination& destination = m_session.queue()->destination) takeKeptOptions(*destination);
   const QStringList refused = takeOptions();
-  m_chooser->takeCurrent(m_wanted);
-  showState();
+  m_chooser->takeCurrent(m_opening->wanted());
   if (!refused.isEmpty())
     showMessage(tr("This printer cannot do %1. The job is printed without it.").arg(refused.join(u", ")));
   if (!opened) showMessage(opened.reason());
-  // The window handles what has come up before the panel is made visible.
-  QMetaObject::invokeMethod(this, &PrintDialog::showQueue, Qt::QueuedConnection);
 }
 
-void PrintDialog::showQueue() {
-  if (m_session.queue() == nullptr || m_isSettled) return;
-  if (m_session.view() != nullptr) showPanel();
-  setWindowTitle(tr("Print on %1").arg(shownText(m_session.queue()->id)));
-  m_isSettled = true;
-  giveNames();
-  updateControls();
+void PrintDialog::settleQueue() {
+  if (m_opening->isOpen()) {
+    if (m_session.view() != nullptr) showPanel();
+    setWindowTitle(tr("Print on %1").arg(shownText(m_opening->wanted())));
+    giveNames();
+    updateControls();
+  }
   Q_EMIT settled();
-}
-
-void PrintDialog::takeNoQueue(const QString& reason) {
-  if (m_options.documentLater && !m_wanted.isNull() && m_wanted == m_options.queue) {
-    // The application named a queue of another time.
-    m_options.queue.clear();
-    return chooseQueue({});
-  }
-  m_openFault = reason;
-  settleWithout();
-}
-
-// The queue that was asked for is not there. Without a default queue the first one that takes jobs is as good
-// as any, once the list is there.
-void PrintDialog::settleWithout() {
-  if (m_openFault.isNull()) return;
-  QString fault = m_openFault;
-  if (m_wanted.isNull() && !m_listFault.isNull()) {
-    fault = m_listFault;
-  } else if (m_wanted.isNull()) {
-    if (!m_isListed) return;
-    for (const QueueSummary& queue : m_chooser->model().queues()) {
-      if (queue.isAccepting) return chooseQueue(queue.name);
-    }
-    fault = tr("There is no printer that takes jobs.");
-  }
-  m_chooser->showText(fault, true);
-  if (!std::exchange(m_isSettled, true)) Q_EMIT settled();
 }
 
 void PrintDialog::showPanel() {
@@ -231,7 +172,8 @@ void PrintDialog::showPanel() {
   connect(m_panelPane, &PanelPane::addressJudged, this, [this](const QString& fault) {
     showMessage(fault.isNull() ? m_session.outcomeOfFetch().reason() : fault);
   });
-  connect(m_summary, &SummaryPane::privacyAsked, this, [this] { m_client.checkPrivacy(m_wanted); });
+  connect(m_summary, &SummaryPane::privacyAsked, this,
+          [this] { m_client.checkPrivacy(m_opening->wanted()); });
   connect(&m_client, &QueueClient::privacyChecked, m_summary, &SummaryPane::showPrivacy);
   updateSummary();
   if (m_options.pane != u"general") m_panes->setCurrentWidget(m_panelPane);
@@ -240,20 +182,6 @@ void PrintDialog::showPanel() {
 
 void PrintDialog::updateSummary() {
   if (m_summary != nullptr && m_session.panel() != nullptr) m_summary->show(summaryOf(*m_session.panel()));
-}
-
-void PrintDialog::retry() {
-  if (!m_listFault.isNull()) {
-    m_listFault = QString();
-    m_isListed = false;
-    m_watch.start();
-  }
-  m_chooser->showText(tr("Asking the print server…"), false);
-  if (m_session.queue()) return;
-  // The default queue may be there by now: the list is no answer before that is known.
-  m_openFault = QString();
-  m_isSettled = false;
-  m_client.open(m_wanted);
 }
 
 void PrintDialog::showDocument() {
@@ -402,7 +330,7 @@ void PrintDialog::updateControls() {
   const State state = m_document.state();
   const bool isMissing =
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
-  const bool isTaker = openQueue().isAccepting && !m_chooser->isPending();
+  const bool isTaker = m_opening->summary().isAccepting && !m_chooser->isPending();
   m_print->setEnabled(isQueueReady() && isTaker && !isMissing);
   m_print->setToolTip(isMissing ? tr("There is no document to print yet.") : QString());
 }
@@ -413,7 +341,7 @@ void PrintDialog::reject() {
     return showMessage(tr("Stopping the job…"));
   }
   if (m_phase == Phase::Sent) return accept();
-  leaveQueue();
+  m_opening->leave();
   QDialog::reject();
 }
 

@@ -4,10 +4,9 @@
 #include <QtWidgets/QDialog>
 #include <memory>
 
-#include "hosts/cups/queue_client.h"
-#include "hosts/cups/queue_watch.h"
 #include "hosts/dialog/document.h"
 #include "hosts/dialog/options.h"
+#include "hosts/dialog/queue_opening.h"
 #include "hosts/dialog/widgets/dialog_alerts.h"
 #include "hosts/session/job_option_table.h"
 #include "hosts/session/panel_session.h"
@@ -25,7 +24,6 @@ class PanelPane;
 class PresetMenu;
 class Preview;
 class QueueChooser;
-class QueueListModel;
 class SummaryPane;
 
 /// The dialog for one document: choose a queue, its options and the panel's entries, and print. It asks the
@@ -39,10 +37,10 @@ class PrintDialog : public QDialog {
   ~PrintDialog() override;
 
   /// Whether the chosen queue's options and panel are known, or known not to be had.
-  bool isSettled() const { return m_isSettled; }
+  bool isSettled() const { return m_opening->isSettled(); }
   /// Whether the chosen queue is open, with its options and its panel to choose from.
   bool isQueueReady() const {
-    return m_isSettled && m_session.queue() != nullptr && m_phase == Phase::Choosing;
+    return m_opening->isSettled() && m_opening->isOpen() && m_phase == Phase::Choosing;
   }
   const Preview& preview() const { return *m_preview; }
   /// The job's number once it is sent, else 0.
@@ -50,14 +48,14 @@ class PrintDialog : public QDialog {
   const QueueListModel& queues() const;
   /// The print settings that travel with the job, as the panel last wrote them.
   QMap<QString, QString> jobSettings() const { return m_session.settings(); }
-  QString queueName() const { return m_wanted; }
+  QString queueName() const { return m_opening->wanted(); }
   /// What is chosen of copies, pages and the queue's options.
   GeneralPane& general() { return *m_general; }
   /// The PPD of the chosen queue, null without one.
   ppd_file_t* ppd() const { return m_session.ppd(); }
 
   /// Goes over to a queue that is open.
-  void takeQueue(Queue queue);
+  void takeQueue(Queue queue) { m_opening->take(std::move(queue)); }
   void reject() override;
 
  Q_SIGNALS:
@@ -81,21 +79,18 @@ class PrintDialog : public QDialog {
   QWidget* makePanes();
   QWidget* makeFoot();
   void connectParts();
-  void takeQueues(const std::vector<QueueSummary>& queues);
+  void connectQueues();
   void chooseQueue(const QString& name);
-  QueueSummary openQueue() const;
-  void showState();
+  void openQueue(Queue& queue);
+  void settleQueue();
+  void showOpening();
   QString jobName() const;
   QMap<QString, QString> takeGeneral(const QMap<QString, QString>& options);
   void takeKeptOptions(cups_dest_t& destination);
   QStringList takeOptions();
   void takePageCount();
-  void settleWithout();
-  void showQueue();
-  void takeNoQueue(const QString& reason);
   void showPanel();
   void leaveQueue();
-  void retry();
   void showDocument();
   void showDocumentName(const QString& name);
   void chooseDocument();
@@ -116,14 +111,9 @@ class PrintDialog : public QDialog {
   DialogAlerts m_alerts;
   PanelSession m_session{m_alerts};
   JobChoices m_kept;                      // for the open queue
-  QString m_wanted;                       // the chosen queue, null for the default one
   QStringList m_given;                    // names of options that count more than those kept for the queue
   QMap<QString, QString> m_otherOptions;  // of the job, beside what the panes have
-  QString m_openFault;                    // why the wanted queue is not there, null while it may be
-  QString m_listFault;
-  bool m_isListed = false;
   bool m_isStarted = false;
-  bool m_isSettled = false;
   Phase m_phase = Phase::Choosing;
   qsizetype m_faultsShown = 0;  // of the document, when Print was pressed
   QString m_choiceFault;        // the general pane's, while the message shows it
@@ -143,6 +133,7 @@ class PrintDialog : public QDialog {
   QPushButton* m_print = nullptr;
   QueueWatch m_watch;
   QueueClient m_client;
+  std::optional<QueueOpening> m_opening;  // from the chooser on
 };
 
 }  // namespace kesto

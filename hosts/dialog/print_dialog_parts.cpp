@@ -109,13 +109,11 @@ QWidget* PrintDialog::makeFoot() {
 }
 
 void PrintDialog::connectParts() {
+  connectQueues();
   connect(m_buttons, &QDialogButtonBox::accepted, this, &PrintDialog::print);
   connect(m_buttons, &QDialogButtonBox::rejected, this, &PrintDialog::reject);
   connect(m_buttons, &QDialogButtonBox::helpRequested, this, [this] { showHelp(*this); });
   connect(m_chooseDocument, &QPushButton::clicked, this, &PrintDialog::chooseDocument);
-  connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);
-  connect(m_chooser, &QueueChooser::pendingChanged, this, &PrintDialog::updateControls);
-  connect(m_chooser, &QueueChooser::retryAsked, this, &PrintDialog::retry);
   connect(m_presets, &PresetMenu::loaded, this, [this] {
     if (m_panelPane != nullptr) m_panelPane->alignChoices();
     updateSummary();
@@ -130,29 +128,41 @@ void PrintDialog::connectParts() {
     if (isWaiting && m_session.queue()) sendExamined();
   });
   connect(&m_document, &Document::changed, this, &PrintDialog::showDocument);
-  connect(&m_watch, &QueueWatch::listed, this, &PrintDialog::takeQueues);
-  connect(&m_watch, &QueueWatch::changed, this, [this](const QueueSummary& queue) {
-    m_chooser->setQueue(queue);
-    showState();
-  });
-  connect(&m_watch, &QueueWatch::removed, this, [this](const QString& name) {
-    m_chooser->removeQueue(name);
-    showState();
-  });
-  connect(&m_watch, &QueueWatch::failed, this, [this](const QString& reason) {
-    m_listFault = reason;
-    if (m_session.queue()) return;
-    m_chooser->showText(reason, true);
-    settleWithout();
-  });
-  connect(&m_client, &QueueClient::opened, this, [this](Queue& queue) { takeQueue(std::move(queue)); });
-  connect(&m_client, &QueueClient::openFailed, this, &PrintDialog::takeNoQueue);
   connect(&m_client, &QueueClient::progressed, this, [this](qint64 sent, qint64 total) {
     m_progress->setRange(0, total > 0 ? 1000 : 0);
     if (total > 0) m_progress->setValue(static_cast<int>(1000 * sent / total));
   });
   connect(&m_client, &QueueClient::sent, this, &PrintDialog::takeSent);
   connect(&m_client, &QueueClient::sendFailed, this, &PrintDialog::takeSendFailure);
+}
+
+// The list is brought up to date before the wanted queue is looked up in it.
+void PrintDialog::connectQueues() {
+  m_opening.emplace(m_watch, m_client, m_chooser->model());
+  connect(&m_watch, &QueueWatch::listed, this, [this](const std::vector<QueueSummary>& queues) {
+    m_chooser->setQueues(queues);
+    m_opening->takeList();
+    Q_EMIT listed();
+  });
+  connect(&m_watch, &QueueWatch::changed, this, [this](const QueueSummary& queue) {
+    m_chooser->setQueue(queue);
+    m_opening->takeChange();
+  });
+  connect(&m_watch, &QueueWatch::removed, this, [this](const QString& name) {
+    m_chooser->removeQueue(name);
+    m_opening->takeChange();
+  });
+  connect(&m_watch, &QueueWatch::failed, &*m_opening, &QueueOpening::takeListFault);
+  connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);
+  connect(m_chooser, &QueueChooser::pendingChanged, this, &PrintDialog::updateControls);
+  connect(m_chooser, &QueueChooser::retryAsked, &*m_opening, &QueueOpening::retry);
+  connect(&*m_opening, &QueueOpening::left, this, [this] {
+    leaveQueue();
+    m_chooser->setCurrent(m_opening->wanted());
+  });
+  connect(&*m_opening, &QueueOpening::opened, this, &PrintDialog::openQueue);
+  connect(&*m_opening, &QueueOpening::changed, this, &PrintDialog::showOpening);
+  connect(&*m_opening, &QueueOpening::settled, this, &PrintDialog::settleQueue);
 }
 
 void PrintDialog::giveNames() {

@@ -17,6 +17,7 @@
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/translations.h"
+#include "hosts/dialog/widgets/queue_chooser.h"
 #include "tests/support/dialog_support.h"
 
 namespace kesto::test {
@@ -148,6 +149,9 @@ class DialogLook : public testing::Test {
     options.server.address = u"127.0.0.1:9"_s;
     m_dialog.emplace(options, m_document);
     m_dialog->show();
+    const auto* retry = m_dialog->findChild<QWidget*>(u"retry"_s);
+    EXPECT_TRUE(DialogUser::waitUntil([&] { return retry->isVisible(); }, u"the missing server"_s));
+    const QString fault = m_dialog->findChild<QLabel*>(u"printerState"_s)->text();
     m_dialog->takeQueue(demoQueue());
     EXPECT_TRUE(DialogUser::waitUntil([this] { return m_dialog->isQueueReady(); }, u"the queue"_s));
     DialogUser user(*m_dialog);
@@ -158,8 +162,7 @@ class DialogLook : public testing::Test {
     EXPECT_TRUE(user.type(u"userNumberEditText"_s, u"42"_s));
     EXPECT_TRUE(user.click(u"userNumberButton"_s));
     m_dialog->findChild<QWidget*>(u"chasingArrow"_s)->show();
-    const auto* retry = m_dialog->findChild<QWidget*>(u"retry"_s);
-    EXPECT_TRUE(DialogUser::waitUntil([&] { return retry->isVisible(); }, u"the missing server"_s));
+    m_dialog->findChild<QueueChooser*>()->showText(fault, true);
   }
 
   void expectPage(const char* theme, const QString& page) {

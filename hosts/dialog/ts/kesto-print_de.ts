@@ -659,10 +659,6 @@
         <translation>Die Anwendung zeichnet die Seiten nach der Auswahl.</translation>
     </message>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>Es gibt keinen Drucker, der Aufträge annimmt.</translation>
-    </message>
-    <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>Auftrag %1 an %2 gesendet; die Einträge können nicht gemerkt werden</translation>
     </message>
@@ -735,6 +731,13 @@
     <message>
         <source>Ready</source>
         <translation>Bereit</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueOpening</name>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>Es gibt keinen Drucker, der Aufträge annimmt.</translation>
     </message>
 </context>
 <context>

@@ -659,10 +659,6 @@
         <translation>La aplicación dibuja las páginas después de la selección.</translation>
     </message>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>No hay ninguna impresora que acepte trabajos.</translation>
-    </message>
-    <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>Trabajo %1 enviado a %2; sus datos no se pueden recordar</translation>
     </message>
@@ -735,6 +731,13 @@
     <message>
         <source>Ready</source>
         <translation>Lista</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueOpening</name>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>No hay ninguna impresora que acepte trabajos.</translation>
     </message>
 </context>
 <context>

@@ -659,10 +659,6 @@
         <translation>L’application dessine les pages après le choix.</translation>
     </message>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>Aucune imprimante n’accepte de travaux.</translation>
-    </message>
-    <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>Travail %1 envoyé à %2&#xa0;; ses entrées ne peuvent pas être mémorisées</translation>
     </message>
@@ -735,6 +731,13 @@
     <message>
         <source>Ready</source>
         <translation>Prête</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueOpening</name>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>Aucune imprimante n’accepte de travaux.</translation>
     </message>
 </context>
 <context>

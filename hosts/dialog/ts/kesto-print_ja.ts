@@ -658,10 +658,6 @@
         <translation>ページは選択の後にアプリケーションが描画します。</translation>
     </message>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>ジョブを受け付けるプリンターがありません。</translation>
-    </message>
-    <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>ジョブ %1 を %2 に送信しましたが、入力内容は記憶できません</translation>
     </message>
@@ -734,6 +730,13 @@
     <message>
         <source>Ready</source>
         <translation>準備完了</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueOpening</name>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>ジョブを受け付けるプリンターがありません。</translation>
     </message>
 </context>
 <context>

@@ -658,10 +658,6 @@
         <translation>应用程序在选择之后绘制页面。</translation>
     </message>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>没有可接受作业的打印机。</translation>
-    </message>
-    <message>
         <source>Job %1 sent to %2; its entries cannot be remembered</source>
         <translation>作业 %1 已发送到 %2；无法记住其条目</translation>
     </message>
@@ -734,6 +730,13 @@
     <message>
         <source>Ready</source>
         <translation>就绪</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::QueueOpening</name>
+    <message>
+        <source>There is no printer that takes jobs.</source>
+        <translation>没有可接受作业的打印机。</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,133 @@
+#include "hosts/dialog/queue_opening.h"
+
+#include <utility>
+
+namespace kesto {
+
+QueueOpening::QueueOpening(QueueWatch& watch, QueueClient& client, const QueueListModel& queues)
+    : m_watch(watch), m_client(client), m_queues(queues) {
+  connect(&client, &QueueClient::opened, this, [this](Queue& queue) { take(std::move(queue)); });
+  connect(&client, &QueueClient::openFailed, this, &QueueOpening::takeOpenFault);
+}
+
+void QueueOpening::start(const QString& name) {
+  m_wanted = name;
+  m_watch.start();
+  ask();
+}
+
+void QueueOpening::suggest(const QString& name) {
+  m_suggested = name;
+  start(name);
+}
+
+void QueueOpening::want(const QString& name) {
+  m_wanted = name;
+  leave();
+  ask();
+}
+
+void QueueOpening::leave() {
+  reset();
+  Q_EMIT left();
+}
+
+void QueueOpening::retry() {
+  if (!m_listFault.isNull()) {
+    m_listFault = QString();
+    m_isListed = false;
+    m_watch.start();
+  }
+  // The default queue may be there by now: the list is no answer before that is known.
+  reset();
+  ask();
+}
+
+void QueueOpening::reset() {
+  m_state = State::Asked;
+  m_isSettled = false;
+  m_fault = QString();
+  m_openFault = QString();
+}
+
+void QueueOpening::ask() {
+  Q_EMIT changed();
+  m_client.open(m_wanted);
+}
+
+void QueueOpening::take(Queue queue) {
+  reset();
+  m_wanted = queue.id;
+  m_isAccepting = !queue.destination || optionOf(*queue.destination, "printer-is-accepting-jobs") != u"false";
+  m_state = State::Open;
+  Q_EMIT opened(queue);
+  takeChange();
+  // The window handles what has come up before the panel is made visible.
+  QMetaObject::invokeMethod(this, &QueueOpening::settle, Qt::QueuedConnection);
+}
+
+void QueueOpening::takeList() {
+  m_listFault = QString();
+  m_isListed = true;
+  takeChange();
+  if (m_wanted.isNull()) settleWithout();
+}
+
+void QueueOpening::takeChange() {
+  if (!isOpen()) return;
+  m_state = m_isListed && m_queues.rowOf(m_wanted) < 0 ? State::Gone : State::Open;
+  Q_EMIT changed();
+}
+
+void QueueOpening::takeListFault(const QString& reason) {
+  m_listFault = reason;
+  if (isOpen()) return;
+  m_fault = reason;
+  Q_EMIT changed();
+  settleWithout();
+}
+
+void QueueOpening::takeOpenFault(const QString& reason) {
+  if (!m_suggested.isNull() && m_suggested == m_wanted) {
+    m_suggested = QString();
+    return want({});
+  }
+  m_openFault = reason;
+  settleWithout();
+}
+
+// The queue that was asked for is not there. Without a default queue the first one that takes jobs is as good
+// as any, once the list is there.
+void QueueOpening::settleWithout() {
+  if (m_openFault.isNull()) return;
+  QString fault = m_openFault;
+  if (m_wanted.isNull() && !m_listFault.isNull()) {
+    fault = m_listFault;
+  } else if (m_wanted.isNull()) {
+    if (!m_isListed) return;
+    for (const QueueSummary& queue : m_queues.queues()) {
+      if (queue.isAccepting) return want(queue.name);
+    }
+    fault = tr("There is no printer that takes jobs.");
+  }
+  m_state = State::Failed;
+  m_fault = fault;
+  Q_EMIT changed();
+  settle();
+}
+
+void QueueOpening::settle() {
+  if (m_state == State::Asked || std::exchange(m_isSettled, true)) return;
+  Q_EMIT settled();
+}
+
+QueueSummary QueueOpening::summary() const {
+  if (!isOpen()) return {};
+  const QueueSummary* listed = m_queues.queue(m_wanted);
+  if (listed != nullptr) return *listed;
+  QueueSummary summary;
+  summary.isAccepting = m_isAccepting;
+  return summary;
+}
+
+}  // namespace kesto
