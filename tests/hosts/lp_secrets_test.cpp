@@ -15,12 +15,7 @@ namespace {
 
 const QString pin1234 = u"jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E"_s;
 
-class LpSecrets : public LpTest {
- protected:
-  std::unique_ptr<QProcess> job(const QString& entries) const {
-    return process(u"--dry-run --device-uri lpd://x --hold only --ppd %1 %2"_s.arg(m_ppd.path(), entries));
-  }
-};
+class LpSecrets : public LpTest {};
 
 TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
   const QPair<QByteArray, QString> cases[] = {
@@ -32,12 +27,9 @@ TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
       {QByteArray(1024, 'x') + 'y', u"kesto-lp: --pin-file: the line is too long\n"_s},
       {"12\xFF", u"kesto-lp: --pin-file: the line is no UTF-8 text\n"_s},
   };
-  const QString file = m_folder.path(u"code"_s);
   for (const auto& [bytes, fault] : cases) {
-    QFile code(file);
-    ASSERT_TRUE(code.open(QIODevice::WriteOnly) && code.write(bytes) == bytes.size());
-    code.close();
-    for (const QString& source : {u"-"_s, file}) {
+    m_folder.write(u"code"_s, bytes);
+    for (const QString& source : {u"-"_s, m_folder.path(u"code"_s)}) {
       const LpRun run = dryRun(u"--hold only --pin-file "_s + source, bytes);
       EXPECT_EQ(run.code, fault.isNull() ? 0 : 1) << bytes.constData();
       EXPECT_EQ(run.values(u"jobSuspend2Key"_s), fault.isNull() ? pin1234 : u"jobSuspend2Key"_s);
@@ -89,7 +81,7 @@ QByteArray commandLineAtEntry(pid_t process) {
 }
 
 TEST_F(LpSecrets, TheListOfProcessesDoesNotShowThem) {
-  const auto lp = job(u"--pin 1234 --folder X --folder-pin=1234"_s);
+  const auto lp = process(dry(u"--hold only --pin 1234 --folder X --folder-pin=1234"_s));
   lp->setChildProcessModifier([] { ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr); });
   lp->start();
   const QByteArray line = commandLineAtEntry(static_cast<pid_t>(lp->processId()));
@@ -114,7 +106,7 @@ class LpAtATerminal : public LpSecrets {
     ::close(m_master);
   }
   std::unique_ptr<QProcess> ask() {
-    auto lp = job(u"--ask-pin"_s);
+    auto lp = process(dry(u"--hold only --ask-pin"_s));
     lp->setChildProcessModifier([name = std::string(::ptsname(m_master))] {
       ::setsid();
       ::ioctl(::open(name.c_str(), O_RDWR), TIOCSCTTY, 0);
@@ -168,7 +160,7 @@ TEST_F(LpAtATerminal, AProgramThatGoesLeavesItItsEcho) {
 }
 
 TEST_F(LpSecrets, WithoutATerminalNothingIsAsked) {
-  const auto lp = job(u"--ask-pin"_s);
+  const auto lp = process(dry(u"--hold only --ask-pin"_s));
   lp->setChildProcessModifier([] { ::setsid(); });
   lp->start();
   EXPECT_EQ(finish(*lp).err, u"kesto-lp: --ask-pin: there is no terminal to ask at\n"_s);

@@ -65,11 +65,19 @@ class LpTest : public testing::Test {
   LpRun dryRun(const QString& arguments, const QByteArray& input = {}) const {
     return run(dry(arguments), input);
   }
+  /// A dry run that fails, and says so in JSON as well.
   void expectFailure(const QString& arguments, int code, const QString& message) const {
     const LpRun run = dryRun(arguments);
     EXPECT_EQ(run.code, code) << arguments;
     EXPECT_EQ(run.err.section(u'\n', 0, 0), u"kesto-lp: "_s + message) << arguments;
     EXPECT_EQ(run.out, u""_s) << arguments;
+    const LpRun json = dryRun(u"--json "_s + arguments);
+    EXPECT_EQ(json.code, code) << arguments;
+    EXPECT_EQ(json.err.section(u'\n', -2).trimmed(), jsonLine({{u"error"_s, message}})) << arguments;
+    EXPECT_EQ(json.out, u""_s) << arguments;
+  }
+  static QString jsonLine(const QJsonObject& object) {
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
   }
   JsonUserDefaults preferences() const { return JsonUserDefaults(m_folder.path(u"kesto"_s)); }
   /// The folder that the preset "p" of a queue has.
