@@ -1,94 +1,50 @@
-// The scripted panel as a process of its own: its options, its memory shared with others, its sudden death.
-#include <QtCore/QCoreApplication>
-#include <QtCore/QDir>
-#include <QtCore/QJsonArray>
-#include <QtCore/QProcess>
+// The scripted panel as a process of its own: its options, its answers, its log, its sudden death.
 #include <random>
 
+#include "tests/support/demo_process.h"
 #include "tests/support/test_host.h"
 
-namespace kesto {
+namespace kesto::test {
 namespace {
-
-using namespace test;
 
 // A home without preferences, and a PPD.
 class PanelProcess : public testing::Test {
  protected:
-  std::unique_ptr<QProcess> start(const QStringList& arguments) const {
-    auto process = std::make_unique<QProcess>();
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const QString& variable : {u"HOME"_s, u"XDG_CONFIG_HOME"_s, u"XDG_RUNTIME_DIR"_s, u"TMPDIR"_s}) {
-      environment.insert(variable, m_home.path());
-    }
-    environment.insert(u"LC_ALL"_s, u"C"_s);
-    process->setProcessEnvironment(environment);
-    process->start(QCoreApplication::applicationDirPath() + u"/kesto-panel"_s, arguments);
-    EXPECT_TRUE(process->waitForStarted());
-    return process;
+  std::unique_ptr<DemoProcess> startPanel(const QStringList& more = {}) const {
+    const QStringList queue{u"--queue"_s, u"Office"_s,       u"--ppd"_s,
+                            m_ppd.path(), u"--device-uri"_s, u"ipp://x"_s};
+    return std::make_unique<DemoProcess>(m_folder, builtProgram("kesto-panel"), queue + more);
   }
-  std::unique_ptr<QProcess> startPanel(const QStringList& more = {}) const {
-    return start(QStringList{u"--queue"_s, u"Office"_s, u"--ppd"_s, ppd.path(), u"--device-uri"_s,
-                             u"ipp://printer.example"_s} +
-                 more);
-  }
-  QString write(const QString& name, const QByteArray& bytes) const {
-    QFile file(m_home.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    return file.fileName();
-  }
-  static QJsonObject readAnswer(QProcess& process) {
-    while (!process.canReadLine()) {
-      if (!process.waitForReadyRead()) {
-        ADD_FAILURE() << "no answer: " << process.readAllStandardError();
-        return {};
-      }
-    }
-    return QJsonDocument::fromJson(process.readLine()).object();
-  }
-  static QJsonObject ask(QProcess& process, const QByteArray& command) {
+  static QJsonObject ask(DemoProcess& process, const QByteArray& command) {
     process.write(command + '\n');
-    return readAnswer(process);
-  }
-  static int exitCodeOf(QProcess& process) {
-    EXPECT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    return process.exitCode();
-  }
-  QString preferenceFile() const { return m_home.filePath(u"kesto/kesto.mfp.Office.json"_s); }
-  QJsonObject record() const {
-    QFile file(preferenceFile());
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return QJsonDocument::fromJson(file.readAll()).object().value(u"Job Handling"_s).toObject();
+    return QJsonDocument::fromJson(process.readOutLine()).object();
   }
 
-  QTemporaryDir m_home;
-  PpdFixture ppd;
+  ScratchFolder m_folder;
+  PpdFixture m_ppd;
 };
 
 TEST_F(PanelProcess, BadOptionsAndBadFilesEndIt) {
-  const QString damaged = write(
-      u"damaged.ppd"_s, "*PPD-Adobe: \"4.3\"\n*OpenUI *PageSize: PickOne\nno keyword\n*ModelName \"x\n");
-  const QString numbers = write(u"numbers.json"_s, R"({"a":"1","b":2})");
-  struct Case {
-    QStringList arguments;
-    int exitCode;
-    QString message;
+  m_folder.write(u"damaged"_s,
+                 "*PPD-Adobe: \"4.3\"\n*OpenUI *PageSize: PickOne\nno keyword\n*ModelName \"x\n");
+  m_folder.write(u"numbers"_s, R"({"a":"1","b":2})");
+  const std::tuple<QString, int, QString> cases[] = {
+      {u"--no-such"_s, 2, u"--no-such"_s},
+      {u"--ppd"_s, 2, u"--ppd"_s},
+      {u"stray"_s, 2, u"stray"_s},
+      {u"--ppd %1/damaged"_s, 1, u"%1/damaged: line 3: "_s},
+      {u"--ppd %1"_s, 1, u"%1: is a folder"_s},
+      {u"--ppd /no/such.ppd"_s, 1, u"/no/such.ppd: "_s},
+      {u"--settings %1/damaged"_s, 1, u"%1/damaged: not a JSON object"_s},
+      {u"--settings %1/numbers"_s, 1, u"%1/numbers: the value of b is no text"_s},
+      {u"--settings /no/such"_s, 1, u"/no/such: "_s},
   };
-  for (const Case& row :
-       {Case{{u"--no-such"_s}, 2, u"--no-such"_s}, Case{{u"--ppd"_s}, 2, u"--ppd"_s},
-        Case{{u"stray"_s}, 2, u"stray"_s}, Case{{u"--ppd"_s, damaged}, 1, damaged + u": line 3: "_s},
-        Case{{u"--ppd"_s, m_home.path()}, 1, m_home.path() + u": is a folder"_s},
-        Case{{u"--ppd"_s, u"/no/such.ppd"_s}, 1, u"/no/such.ppd: "_s},
-        Case{{u"--settings"_s, damaged}, 1, damaged + u": not a JSON object"_s},
-        Case{{u"--settings"_s, numbers}, 1, numbers + u": the value of b is no text"_s},
-        Case{{u"--settings"_s, u"/no/such"_s}, 1, u"/no/such: "_s}}) {
-    SCOPED_TRACE(row.arguments.join(u' ').toStdString());
-    const auto process = start(row.arguments);
-    process->closeWriteChannel();
-    EXPECT_EQ(exitCodeOf(*process), row.exitCode);
-    const QString message = QString::fromUtf8(process->readAllStandardError());
-    EXPECT_TRUE(message.contains(row.message)) << message;
+  const auto inFolder = [this](QString text) { return text.replace(u"%1"_s, m_folder.path(u""_s)); };
+  for (const auto& [arguments, code, message] : cases) {
+    DemoProcess process(m_folder, builtProgram("kesto-panel"), inFolder(arguments).split(u' '));
+    process.closeWriteChannel();
+    EXPECT_EQ(process.code(), code) << arguments;
+    EXPECT_TRUE(process.log().contains(inFolder(message).toUtf8())) << process.log();
   }
 }
 
@@ -113,45 +69,27 @@ TEST_F(PanelProcess, BadLinesAreAnsweredAndTheNextIsHeard) {
   EXPECT_EQ(
       ask(*process, R"({"do":"panels","type":"BDB091F4-E57F-11D3-B5CC-0050E4603277"})").value(u"panels"_s),
       1);
-  EXPECT_EQ(ask(*process, R"({"do":"quit"})"), QJsonObject());
-  EXPECT_EQ(exitCodeOf(*process), 0);
-}
-
-TEST_F(PanelProcess, AnswersTheMembersOfItsProtocolAlone) {
-  const auto process = startPanel();
-  ask(*process, R"({"do":"show"})");
   EXPECT_EQ(
       ask(*process, R"({"do":"facts"})").keys().join(u' '),
       u"active_directory addressStringRef folderList hasInited kesto_print_system mfpURL modelStringRef "
       "panelKind panelName ppdEncoding prefHoldButtonFlag preferenceName presetHoldButtonFlag shouldHide "
       "shouldShowHelp supportedPPDOptionKeys systemEncoding useConstraintHandling"_s);
-  QJsonObject members;
-  const QJsonObject controls = ask(*process, R"({"do":"controls"})").value(u"controls"_s).toObject();
-  for (const QJsonValue control : controls) {
-    const QStringList names = control.toObject().keys();
-    for (const QString& name : names)
-      members.insert(name, true);
-  }
-  EXPECT_EQ(members.keys().join(u' '),
-            u"alternateImage editable enabled hidden image items kind selectable selectedIndex selectedRow "
-            "selectedTab selection state stringValue tabs tag textColor title"_s);
-  process->closeWriteChannel();
-  EXPECT_EQ(exitCodeOf(*process), 0);
+  EXPECT_EQ(ask(*process, R"({"do":"quit"})"), QJsonObject());
+  EXPECT_EQ(process->code(), 0);
 }
 
 TEST_F(PanelProcess, StartsFromTheSettingsOfAFile) {
-  const QString settings =
-      write(u"settings.json"_s, R"({"kesto.print.PrintSettings.jobSuspend":"3","of.another":""})");
-  const auto process = startPanel({u"--settings"_s, settings});
+  m_folder.write(u"settings"_s, R"({"kesto.print.PrintSettings.jobSuspend":"3","of.another":""})");
+  const auto process = startPanel({u"--settings"_s, m_folder.path(u"settings"_s)});
   ask(*process, R"({"do":"restore"})");
-  const QJsonObject controls = ask(*process, R"({"do":"controls"})").value(u"controls"_s).toObject();
-  EXPECT_EQ(controls.value(u"suspendMatrix"_s).toObject().value(u"selectedRow"_s), 2);
+  const QJsonValue controls = ask(*process, R"({"do":"controls"})")[u"controls"_s];
+  EXPECT_EQ(controls[u"suspendMatrix"_s][u"selectedRow"_s], 2);
   ask(*process, R"({"do":"save"})");
-  const QJsonObject saved = ask(*process, R"({"do":"settings"})").value(u"settings"_s).toObject();
-  EXPECT_EQ(saved.value(u"of.another"_s), QString(u""_s));
-  EXPECT_EQ(saved.value(u"kesto.print.PrintSettings.jobSuspend"_s), u"3"_s);
+  const QJsonValue saved = ask(*process, R"({"do":"settings"})")[u"settings"_s];
+  EXPECT_EQ(saved[u"of.another"_s], QString(u""_s));
+  EXPECT_EQ(saved[u"kesto.print.PrintSettings.jobSuspend"_s], u"3"_s);
   process->closeWriteChannel();
-  EXPECT_EQ(exitCodeOf(*process), 0);
+  EXPECT_EQ(process->code(), 0);
 }
 
 #ifndef NDEBUG
@@ -167,8 +105,8 @@ TEST_F(PanelProcess, ItsTraceTellsTheCallsAndNoSecret) {
                               R"({"do":"shouldPrint"})", R"({"do":"summary"})", R"({"do":"quit"})"}) {
     EXPECT_FALSE(ask(*process, command).contains(u"error")) << command;
   }
-  EXPECT_EQ(exitCodeOf(*process), 0);
-  const QString trace = QString::fromUtf8(process->readAllStandardError());
+  EXPECT_EQ(process->code(), 0);
+  const QString trace = QString::fromUtf8(process->log());
   for (const auto& line :
        {u"enter initWithCallback:(HostCallback, 0x"_s, u"note Constraint Handling Available: YES"_s,
         u"leave initWithCallback:=id(self)"_s})
@@ -176,10 +114,9 @@ TEST_F(PanelProcess, ItsTraceTellsTheCallsAndNoSecret) {
   // One panel, which all calls name but those of the entry object.
   QSet<QString> objects;
   for (const QString& line : trace.split(u'\n')) {
-    const QString object = line.section(u' ', 1, 1);
     if (line.startsWith(u"kesto.pde: ") && !line.contains(u"PDEPanelsForType") &&
         !line.contains(u"initWithBundle"))
-      objects.insert(object);
+      objects.insert(line.section(u' ', 1, 1));
   }
   EXPECT_EQ(objects.size(), 1) << trace;
   for (const auto& secret : {u"47114711"_s, u"jdoe-of"_s, u"open-sesame"_s})
@@ -187,63 +124,33 @@ TEST_F(PanelProcess, ItsTraceTellsTheCallsAndNoSecret) {
 }
 #endif
 
-TEST_F(PanelProcess, TheLastWritersRecordWinsWhole) {
-  const auto first = startPanel();
-  const auto second = startPanel();
-  for (QProcess* process : {first.get(), second.get()}) {
-    ask(*process, R"({"do":"restore"})");
-    ask(*process, R"({"do":"paste","control":"userNumberEditText","text":")" +
-                      QByteArray(process == first.get() ? "11" : "22") + "\"}");
-    ask(*process, R"({"do":"click","control":"userNumberButton"})");
-  }
-  ask(*first, R"({"do":"type","control":"loginNameEditText","text":"jdoe"})");
-  ask(*first, R"({"do":"click","control":"loginNameButton"})");
-  EXPECT_EQ(ask(*first, R"({"do":"shouldPrint"})"), (QJsonObject{{u"answer"_s, true}}));
-  EXPECT_EQ(record().value(u"hold button"_s), 66);
-  EXPECT_EQ(ask(*second, R"({"do":"shouldPrint"})"), (QJsonObject{{u"answer"_s, true}}));
-  EXPECT_EQ(record().value(u"hold button"_s), 64);
-  EXPECT_EQ(record().value(u"user login name"_s), u""_s);
-
-  const auto third = startPanel();
-  ask(*third, R"({"do":"restore"})");
-  const QJsonObject controls = ask(*third, R"({"do":"controls"})").value(u"controls"_s).toObject();
-  EXPECT_EQ(controls.value(u"userNumberEditText"_s).toObject().value(u"stringValue"_s), u"22"_s);
-  EXPECT_EQ(controls.value(u"loginNameButton"_s).toObject().value(u"state"_s), 0);
-  for (QProcess* process : {first.get(), second.get(), third.get()}) {
-    process->closeWriteChannel();
-    EXPECT_EQ(exitCodeOf(*process), 0);
-  }
-}
-
 // Each process is killed somewhere in a row of saves, in which user name and job name change together.
 TEST_F(PanelProcess, AKilledSaveLeavesTheOldRecordOrTheNew) {
-  QStringList script;
-  for (int time = 0; time < 15; ++time) {
-    for (const QString& edit : {u"type"_s, u"backspace"_s}) {
-      for (const QString& name : {u"userNameEditText"_s, u"jobNameEditText"_s}) {
-        script.append(uR"({"do":"%1","control":"%2","text":"x"})"_s.arg(edit, name));
-      }
-      script.append(uR"({"do":"shouldPrint"})"_s);
-    }
+  QByteArray script;
+  for (const char* edit : {"type", "backspace"}) {
+    for (const char* name : {"userName", "jobName"})
+      script += QByteArray(R"({"do":")") + edit + R"(","control":")" + name + "EditText\",\"text\":\"x\"}\n";
+    script += R"({"do":"shouldPrint"})"
+              "\n";
   }
   std::mt19937 random(2024);
-  for (int kill = 0; kill < 36; ++kill) {
+  for (int kill = 0; kill < 12; ++kill) {
     const auto process = startPanel();
     ask(*process, R"({"do":"restore"})");
     ask(*process, R"({"do":"caret","control":"userNameEditText","location":0,"length":255})");
     ask(*process, R"({"do":"backspace","control":"userNameEditText"})");
-    process->write(script.join(u'\n').toLatin1() + '\n');
+    process->write(script.repeated(15));
     for (unsigned answers = 1 + random() % 50; answers > 0; --answers)
-      readAnswer(*process);
-    process->kill();
-    EXPECT_TRUE(process->waitForFinished());
-    EXPECT_EQ(process->exitStatus(), QProcess::CrashExit);
-    const QJsonObject left = record();
-    EXPECT_EQ(left.value(u"Release Number"_s), u"2.00"_s) << "kill " << kill;
-    EXPECT_EQ(left.value(u"user name"_s), left.value(u"job name"_s)) << "a record of both, in kill " << kill;
+      process->readOutLine();
+    process->signal(SIGKILL);
+    EXPECT_EQ(process->code(), -1);
+    const QByteArray file = bytesOf(m_folder.path(u"kesto/kesto.mfp.Office.json"_s));
+    const QJsonValue record = QJsonDocument::fromJson(file)[u"Job Handling"_s];
+    EXPECT_EQ(record[u"Release Number"_s], u"2.00"_s) << "kill " << kill;
+    EXPECT_EQ(record[u"user name"_s], record[u"job name"_s]) << "a record of both, in kill " << kill;
   }
-  EXPECT_EQ(QDir(m_home.filePath(u"kesto"_s)).entryList({u"*.damaged-*"_s}), QStringList());
+  EXPECT_EQ(QDir(m_folder.path(u"kesto"_s)).entryList({u"*.damaged-*"_s}), QStringList());
 }
 
 }  // namespace
-}  // namespace kesto
+}  // namespace kesto::test

@@ -169,9 +169,10 @@ TEST_F(PrintTest, ListsQueues) {
   addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
   addQueue(u"A_Raw"_s, {}, {});
   ofPrintSystem(u"/usr/sbin/cupsreject Plain"_s);
+  ofPrintSystem(u"/usr/sbin/cupsdisable A_Raw"_s);
   const QString address = ofPrintSystem(u"lpstat -v Office_MFP"_s).trimmed().section(u' ', -1);
   const QString office = u"Office_MFP\tidle\t%1\n"_s.arg(address);
-  EXPECT_EQ(lp(u"--list"_s).out, u"A_Raw\tidle\tsocket://127.0.0.1:9\n"_s + office +
+  EXPECT_EQ(lp(u"--list"_s).out, u"A_Raw\tstopped\tsocket://127.0.0.1:9\n"_s + office +
                                      u"Plain\tidle, takes no jobs\tsocket://127.0.0.1:9\n"_s);
   EXPECT_EQ(lp(u"--list --job-handling"_s).out, office);
   EXPECT_EQ(jsonOf(u"--list --json"_s)[2][u"accepting"], false);

@@ -123,24 +123,7 @@ TEST_F(PrintTest, DocumentsAndOptionsOfTheJobArrive) {
   EXPECT_EQ(odd.code(), 0) << odd.log();
   waitForJob(++job);
   EXPECT_EQ(filterArguments(job).value(2), u"gr\\xf6n\\x1b"_s);
-}
-
-TEST_F(PrintTest, AJobIsHeldUntilItsPassCode) {
-  m_folder.write(u"pin"_s, "2468\n");
-  EXPECT_EQ(lp(u"--hold only --pin-file - --account-number 7 --job-name \"Zwölf 12\" DOCUMENT -"_s,
-               "2468\nfrom standard input")
-                .out,
-            u"request id is Office_MFP-1 (2 file(s))\n"_s);
-  waitForJob(1, 2);
-  EXPECT_EQ(m_printer->jobs(),
-            R"([{"account":"00007","job":1,"name":"Zwölf 12","state":"held","user":"anna"}])");
-  for (const auto& wrong : {u"2469"_s, u"246"_s, u"24680"_s})
-    EXPECT_EQ(m_printer->release({u"1"_s, u"--pin"_s, wrong}), 3) << wrong;
-  EXPECT_EQ(m_printer->printouts(), QStringList());
-  EXPECT_EQ(m_printer->release({u"1"_s, u"--pin-file"_s, m_folder.path(u"pin"_s)}), 0);
-  EXPECT_EQ(m_printer->printouts(), QStringList({u"job-1-1"_s, u"job-1-2"_s}));
-  EXPECT_EQ(bytesOf(m_printer->place(u"output"_s) + u"/job-1-1"_s), m_document);
-  EXPECT_EQ(bytesOf(m_printer->place(u"output"_s) + u"/job-1-2"_s), "from standard input");
+  EXPECT_EQ(lp(u"--json SECOND"_s).out, u"{\"job\":%1}\n"_s.arg(job + 1));
 }
 
 TEST_F(PrintTest, WhatCannotBePrintedOrReadIsAFault) {
@@ -172,20 +155,6 @@ TEST_F(PrintTest, WhatCannotBePrintedOrReadIsAFault) {
   const QString unread = u"exec %1%2 - <&-"_s.arg(builtProgram("kesto-lp"), server);
   DemoProcess shell(m_folder, u"sh"_s, {u"-c"_s, unread});
   EXPECT_EQ(shell.code(), 1);
-}
-
-TEST_F(PrintTest, AStoppedQueueTakesJobsAndLetsThemWait) {
-  ofPrintSystem(u"/usr/sbin/cupsdisable Office_MFP"_s);
-  EXPECT_EQ(lp(u"--json -q 71 DOCUMENT"_s).out, u"{\"job\":1}\n"_s);
-  const Ipp job = attributesOfJob("anna");
-  EXPECT_EQ(ippGetInteger(ippFindAttribute(job.get(), "job-priority", IPP_TAG_INTEGER), 0), 71);
-  EXPECT_EQ(lp(u"-s DOCUMENT"_s).out, QString());
-  EXPECT_TRUE(lp(u"--list"_s).out.startsWith(u"Office_MFP\tstopped\tsocket://127.0.0.1/"_s));
-  EXPECT_EQ(schedulersJobs().count(u"anna"_s), 2);
-  EXPECT_EQ(m_printer->jobs(), "[]");
-  ofPrintSystem(u"/usr/sbin/cupsenable Office_MFP"_s);
-  waitForJob(2);
-  EXPECT_EQ(m_printer->printouts(), QStringList({u"job-1-1"_s, u"job-2-1"_s}));
 }
 
 }  // namespace
