@@ -1,7 +1,7 @@
 #include "crypto/credential_cipher.h"
 
-// The printer's driver reads single blocks under a fixed key, which the legacy interface gives as it is. Its
-// deprecation is known; this file alone uses it.
+// The printer's driver reads single blocks under a fixed key. The legacy interface does exactly that, without
+// a context to allocate, so its deprecation is accepted in this file alone.
 #define OPENSSL_SUPPRESS_DEPRECATED
 #include <openssl/aes.h>
 #include <openssl/crypto.h>

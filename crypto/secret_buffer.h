@@ -9,7 +9,7 @@
 
 namespace kesto {
 
-/// A zero-filled byte buffer of a fixed size that wipes itself at its end.
+/// A zero-filled byte buffer of a fixed size that wipes itself when it is destroyed.
 template <std::size_t Size>
 class SecretBuffer : public std::array<std::uint8_t, Size> {
  public:

@@ -7,8 +7,8 @@
 namespace kesto::answer_limits {
 namespace {
 
-// Counts what looks like the beginning of an attribute's value, from each "<" to the next. No "<" stands
-// within a tag, so no comment, quotation mark or section can hide a tag's attributes from the count.
+// Counts what looks like the beginning of an attribute's value, from each "<" to the next. A tag cannot
+// contain "<", so no comment, quotation mark or section can hide a tag's attributes from the count.
 bool hasTooManyAttributes(QStringView text) {
   qsizetype count = 0;
   bool isAfterSign = false;
@@ -23,8 +23,8 @@ bool hasTooManyAttributes(QStringView text) {
 // The entities that a document declares, and what references to them expand to.
 class Entities {
  public:
-  // Takes every declaration, wherever it stands: one that is only commented out does no harm. False when one
-  // is beyond the bounds or is none.
+  // Takes every declaration, wherever it is; one in a comment does no harm. False when one is malformed or
+  // exceeds the limits.
   bool declareAll(const QString& xml) {
     constexpr QLatin1String start("<!ENTITY");
     qsizetype count = 0;
@@ -34,8 +34,8 @@ class Entities {
     return true;
   }
 
-  // The characters, and the references themselves, that the references in a text stand for; at most one more
-  // than the bound.
+  // The number of characters that the references in a text stand for, counting the references themselves; at
+  // most one more than the limit.
   qsizetype expansionOf(QStringView text) {
     qsizetype sum = 0;
     qsizetype start = -1;
@@ -69,7 +69,7 @@ class Entities {
     return true;
   }
 
-  // An entity's value as it is parsed once it is referred to: the references to characters have gone by then.
+  // An entity's value as it is parsed when it is referred to, with its character references resolved.
   static QString withMarkup(QString value) {
     static const QRegularExpression ampersand(QStringLiteral("&#(?:0*+38|x0*+26);"));
     static const QRegularExpression less(QStringLiteral("&#(?:0*+60|x0*+3[Cc]);"));
@@ -80,7 +80,7 @@ class Entities {
     const auto entity = m_entities.find(name);
     if (entity == m_entities.end()) return 0;
     if (entity->expansion < 0) {
-      entity->expansion = expandedText + 1;  // of one that refers to itself
+      entity->expansion = expandedText + 1;  // while it is computed: catches an entity that refers to itself
       entity->expansion =
           std::min(1 + entity->value.size() + expansionOf(QStringView(entity->value)), expandedText + 1);
     }

@@ -6,10 +6,11 @@
 namespace kesto {
 namespace {
 
-// What may stand anywhere in a URL that has no meaning of its own there, and an escape.
+// A character without a special meaning in a URL, or an escape.
 constexpr QLatin1String plain("(?:[A-Za-z0-9\\-._~!$&'()*+,;=]|%[0-9A-Fa-f]{2})");
 
-// The address within the brackets of a host: of colons, with or without a zone, or of a later version.
+// The address in a host's brackets: a numeric one with colons, with or without a zone, or one of a later
+// version.
 bool isBracketedAddress(const QString& text) {
   static const QRegularExpression later(QStringLiteral("\\Av[0-9A-Fa-f]++\\.(?:%1|:)++\\z").arg(plain));
   static const QRegularExpression zone(QStringLiteral("\\A(?:[A-Za-z0-9\\-._~]|%[0-9A-Fa-f]{2})++\\z"));

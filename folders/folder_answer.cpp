@@ -17,8 +17,8 @@ bool isBlank(QChar c) {
   return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
 }
 
-// Follows the document in one pass. Which child of a node is the last is known only at the node's end, so
-// each new child of the envelope and of the body starts afresh what was read below its elder sibling.
+// Reads the document in one pass. Which child of a node is the last is known only at the node's end, so each
+// new child of the envelope and of the body discards what was read below the previous child.
 class AnswerReader {
  public:
   explicit AnswerReader(QXmlStreamReader& xml) : m_xml(xml) {}
@@ -35,7 +35,7 @@ class AnswerReader {
 
  private:
   struct ResponseState {
-    bool isOk = true;  // also without a result-code
+    bool isOk = true;  // true without a result-code
     bool hasFiles = false;
     std::vector<FolderEntry> folders;
   };
@@ -57,7 +57,7 @@ class AnswerReader {
         MyGetChild(m_depth + 1);
         break;
       case QXmlStreamReader::DTD:
-        // The reader takes several, and takes them anywhere.
+        // The reader accepts several document types, anywhere.
         m_isBeyond = m_isBeyond || m_isPastProlog;
         m_isPastProlog = true;
         break;
@@ -66,8 +66,8 @@ class AnswerReader {
     }
   }
 
-  // A child begins at the level. It is the last one so far: what was read below its elder sibling is not of
-  // the body, or of the response, after all.
+  // A child begins at the level and is the last one so far. What was read below the previous child was
+  // therefore not the body or the response.
   void MyGetChild(int level) {
     if (level == Body || level == Response) m_response = {};
   }
@@ -134,7 +134,7 @@ class AnswerReader {
 
   void characters() {
     if (m_valueLevel != 0) m_text += m_xml.text();
-    // The reader's own word on blanks does not hold for those that are written as references.
+    // The reader's own test for blanks fails for blanks that are written as references.
     if (m_xml.isCDATA() || !std::ranges::all_of(m_xml.text(), isBlank)) MyGetChild(m_depth + 1);
   }
 
@@ -142,28 +142,29 @@ class AnswerReader {
   int m_depth = 0;
   bool m_inFiles = false;
   bool m_isPastProlog = false;
-  bool m_isBeyond = false;  // the bounds of an answer
-  int m_valueLevel = 0;     // of the element whose text is wanted, at any depth; 0 while there is none
+  bool m_isBeyond = false;  // a limit is exceeded
+  int m_valueLevel = 0;     // of the element whose whole text is being collected; 0 for none
   QString m_text;
   FolderEntry m_folder;
   ResponseState m_response;
 };
 
-// The encoding that the document declares in its first line; empty when it declares none, or not in ASCII.
+// The encoding that the document declares in its first line; empty when it declares none or the line is not
+// ASCII.
 QByteArray declaredEncoding(const QByteArray& xml) {
   static const QRegularExpression declaration(
       QStringLiteral("^<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([A-Za-z][-A-Za-z0-9._]*)[\"']"));
   return declaration.match(QString::fromLatin1(xml.left(200))).captured(1).toLatin1();
 }
 
-// The document's text; null when its bytes are no text in its encoding.
+// The document's text; null when its bytes are not valid in its encoding.
 QString decoded(const QByteArray& xml) {
   const QByteArray declared = declaredEncoding(xml);
   auto encoding = QStringConverter::encodingForData(xml, u'<');
   if (!encoding)
     encoding =
         declared.isEmpty() ? QStringConverter::Utf8 : QStringConverter::encodingForName(declared.constData());
-  // Of the encodings beyond Unicode and Latin-1 the decoder knows none.
+  // Qt's decoder knows only Unicode and Latin-1.
   if (!encoding) return textOfBytesIn(xml, declared);
   QStringDecoder decoder(*encoding, QStringConverter::Flag::Stateless);
   QString text = decoder(xml);

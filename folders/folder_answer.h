@@ -11,16 +11,15 @@ namespace kesto {
 
 /// What an answer says.
 struct FolderAnswer {
-  bool isList = false;               ///< A folder list was read; else the printer gave none.
-  std::vector<FolderEntry> folders;  ///< In the answer's order; empty when it is no list.
+  bool isList = false;               ///< A folder list was read; otherwise the printer sent none.
+  std::vector<FolderEntry> folders;  ///< In the answer's order; empty when there is no list.
 };
 
 /// Reads the document by position and name: the envelope's last child is the body, its last child the
 /// response; there "result-code" other than "ok" fails the answer, and each child of the last "files" is a
-/// folder. Comments, instructions and CDATA sections are nodes like any other; blank text is none. Names are
-/// compared as written, with their prefix. Folders without a name are left out. None when the document is not
-/// well-formed or goes beyond the bounds (folders/answer_limits.h). Nothing outside the document is ever
-/// read.
+/// folder. Comments, instructions and CDATA sections count as nodes; blank text does not. Names are compared
+/// as written, with their prefix. Folders without a name are left out. None when the document is not
+/// well-formed or exceeds the limits (folders/answer_limits.h). Nothing outside the document is ever read.
 std::optional<FolderAnswer> readFolderAnswer(const QByteArray& xml);
 
 }  // namespace kesto

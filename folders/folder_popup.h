@@ -11,11 +11,11 @@ class FolderPopup {
  public:
   FolderPopup(PanelState& state, ControlActions& actions) : m_state(state), m_actions(actions) {}
 
-  /// Rebuilds the items from the list. The choice stays: the first two items by their place, a folder by its
-  /// name as `SearchSameFolderName` finds it (else the main folder), and then the pop-up's action is sent, so
-  /// that the rules hold.
+  /// Rebuilds the items from the list. The choice stays: one of the first two items by its index, a folder by
+  /// its name (with `SearchSameFolderName`; the main folder when it is gone), and in that case the pop-up's
+  /// action is sent, so that the rules hold.
   void makeFolderPopup();
-  /// The item of the first folder of that name, letter case aside; the main folder when there is none.
+  /// The item of the first folder with that name in any letter case; the main folder when there is none.
   int SearchSameFolderName(const QString& name) const;
   /// Whether every folder of the list is in the pop-up. True without a pop-up or without folders.
   bool offersAllFolders() const;

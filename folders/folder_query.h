@@ -11,20 +11,20 @@
 
 namespace kesto {
 
-/// The folder button: asks the printer at the address shown, reads the answer, stores it and offers it in the
-/// pop-up.
+/// The folder button: asks the printer at the shown address, reads the answer, stores it and offers the
+/// folders in the pop-up.
 ///
-/// The exchange runs the event loop, so the user and the host can do other things meanwhile: a second press
-/// does nothing, a save or a restore works as ever, and a panel that is destroyed ends the exchange without
-/// an alert.
+/// The exchange runs the event loop, so the user and the host can do other things meanwhile. A second press
+/// does nothing, a save or restore works as usual, and destroying the panel ends the exchange without an
+/// alert.
 class FolderQuery : public SoapContext {
  public:
-  /// `saveFolders` keeps the printer's address and folder list as they then stand.
+  /// `saveFolders` stores the current printer address and folder list.
   FolderQuery(PanelState& state, FolderPopup& folderPopup, std::function<void()> saveFolders)
       : m_state(state), m_folderPopup(folderPopup), m_saveFolders(std::move(saveFolders)) {}
   ~FolderQuery() override;
 
-  /// The button's action. Whatever becomes of the exchange, the answer file, old or new, is read, stored and
+  /// The button's action. Even after a failed exchange the answer file, old or new, is read, stored and
   /// offered.
   void getFolderNameButtonProc(Control* sender);
   /// What became of the last exchange.
@@ -32,7 +32,7 @@ class FolderQuery : public SoapContext {
   /// Reads an answer file into the folder list. False, with the list unchanged, when it is missing or not
   /// well-formed; false, with an empty list, when it holds no list.
   bool parseXML(const QString& path);
-  /// Stops the progress indicator and tells the user that the exchange failed.
+  /// Stops the progress indicator and shows an alert that the exchange failed.
   void recieveEndCallback() override;
   const void* controller() const override { return m_state.controller; }
 

@@ -39,7 +39,7 @@ bool HostLookup::start(const QString& host) {
   m_answer = std::make_shared<Answer>();
   m_notifier = std::make_unique<QSocketNotifier>(m_bell.get(), QSocketNotifier::Read);
   connect(m_notifier.get(), &QSocketNotifier::activated, this, &HostLookup::take);
-  // The thread uses nothing of Qt's, which may be gone before it.
+  // The thread does not use Qt, because it may outlive Qt's objects.
   auto ask = [answer = m_answer, name = host.toStdString(), bell = std::move(bell)] {
     addrinfo hints{};
     hints.ai_flags = AI_ADDRCONFIG;
@@ -48,7 +48,8 @@ bool HostLookup::start(const QString& host) {
     if (::getaddrinfo(name.c_str(), nullptr, &hints, &list) == 0) answer->first = list;
     [[maybe_unused]] const ssize_t written = ::write(bell.get(), "", 1);
   };
-  // Signals are for the program's own threads. One of a pipe that nobody reads any more stays here.
+  // The thread blocks all signals: they are for the program's own threads, and SIGPIPE must not end the
+  // program when nobody reads the answer any more.
   sigset_t all{};
   sigset_t before{};
   ::sigfillset(&all);

@@ -11,9 +11,9 @@ class QSocketNotifier;
 
 namespace kesto {
 
-/// Asks the system in a thread that nobody waits for. Where name servers are silent the system waits for a
-/// minute and cannot be stopped; a lookup that goes leaves the thread behind, and the process can end before
-/// it. Qt's own lookup has the process wait.
+/// Asks the system in a thread that nobody waits for. Where name servers are silent the system's look-up
+/// takes a minute and cannot be stopped. Destroying this object abandons the thread, and the process can end
+/// before it; with Qt's own look-up the process would wait.
 class HostLookup : public QObject {
   Q_OBJECT
 
@@ -21,7 +21,8 @@ class HostLookup : public QObject {
   HostLookup();
   ~HostLookup() override;
 
-  /// Begins, once. False, with no signal to come, when there is no descriptor or thread for it.
+  /// Starts the look-up; call it once. False, without a later signal, when no descriptor or thread is
+  /// available.
   bool start(const QString& host);
 
  Q_SIGNALS:

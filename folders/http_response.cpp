@@ -6,13 +6,13 @@
 namespace kesto {
 namespace {
 
-// A head or a line longer than this is no printer's.
+// No printer sends a longer head or line.
 constexpr qsizetype longestHead = 65536;
 
 constexpr int noContent = 204;
 constexpr int notModified = 304;
 
-// The elements of a header's lists, of all its lines; in lower case.
+// The elements of all lines of a header that is a list, in lower case.
 QByteArrayList headerOf(const QByteArrayList& lines, const QByteArray& name) {
   QByteArrayList elements;
   for (const QByteArray& line : lines) {
@@ -24,7 +24,7 @@ QByteArrayList headerOf(const QByteArrayList& lines, const QByteArray& name) {
   return elements;
 }
 
-// A length in bytes as one number; none when it is no number, too large for one, or told in several ways.
+// A length in bytes; none when it is not a number, is too large, or is given as several different numbers.
 std::optional<qsizetype> lengthOf(const QByteArrayList& elements) {
   const QByteArray& text = elements.first();
   const bool isOne = elements.count(text) == elements.size() &&
@@ -47,7 +47,7 @@ void HttpResponse::end() {
   if (m_state != State::Whole) m_state = m_state == State::UntilEnd ? State::Whole : State::Bad;
 }
 
-// Takes what it can; false when it needs more bytes or is done.
+// Takes one element of the response; false when it needs more bytes or is done.
 bool HttpResponse::step() {
   QByteArray line;
   switch (m_state) {
@@ -124,7 +124,7 @@ HttpResponse::State HttpResponse::stateBehindHead(const QByteArrayList& lines) {
 
 HttpResponse::State HttpResponse::stateOfChunk(const QByteArray& line) {
   bool isHex = false;
-  m_remaining = line.split(';').first().trimmed().toLongLong(&isHex, 16);  // extensions mean nothing here
+  m_remaining = line.split(';').first().trimmed().toLongLong(&isHex, 16);  // chunk extensions are ignored
   if (!isHex || m_remaining < 0 || m_remaining > m_largestBody) return State::Bad;
   return m_remaining == 0 ? State::Trailer : State::Chunk;
 }

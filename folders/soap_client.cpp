@@ -19,8 +19,8 @@ namespace {
 
 constexpr std::chrono::milliseconds slice{1000};
 
-// A second descriptor of a connection. Qt reports a reset as an orderly end, and has closed its own
-// descriptor by then; the system still knows from this one which it was.
+// A second descriptor of a connection. Qt reports a reset as an orderly end and has closed its own descriptor
+// by then; through this one the system still shows which of the two it was.
 class SecondDescriptor {
  public:
   void take(const QTcpSocket& socket) {
@@ -29,7 +29,7 @@ class SecondDescriptor {
 
   bool isTaken() const { return bool(m_descriptor); }
 
-  // After an orderly end of the peer's alone, this side could still send. Also true when nobody can know.
+  // After an orderly end by the peer, this side can still send. True also when it cannot be known.
   bool wasReset() const {
     pollfd state{.fd = m_descriptor.get(), .events = 0, .revents = 0};
     return !m_descriptor || (::poll(&state, 1, 0) > 0 && (state.revents & (POLLHUP | POLLERR)) != 0);
@@ -39,12 +39,12 @@ class SecondDescriptor {
   Descriptor m_descriptor;
 };
 
-// Connects to the first address of a host that takes the connection.
+// Connects to the first address of a host that accepts the connection.
 class Connector : public QObject {
  public:
   explicit Connector(QTcpSocket& socket) : m_socket(socket) {}
 
-  // False when nothing can be tried at all. `onNoAddress` is called when the name is not known.
+  // False when nothing can be tried. `onNoAddress` is called when the name is unknown.
   template <class OnNoAddress>
   bool start(const Endpoint& url, OnNoAddress onNoAddress) {
     m_port = url.port;
@@ -60,7 +60,7 @@ class Connector : public QObject {
     return m_lookup.start(url.host);
   }
 
-  // Tries the next address; false when there is none. Not before the socket is done with the last one.
+  // Tries the next address, when the socket is done with the last one; false when there is none.
   bool goOn() {
     if (m_addresses.isEmpty()) return false;
     QTimer::singleShot(
@@ -95,7 +95,7 @@ KestoPrintPdeVq250nJCSOAPClient::KestoPrintPdeVq250nJCSOAPClient(Endpoint url, P
                                                                  std::chrono::milliseconds limit)
     : m_url(std::move(url)), m_platform(platform), m_context(context), m_limit(limit) {}
 
-// The values keep their quotation marks; the printer's service compares them as they are.
+// The values keep their quotation marks, because the printer's service compares them as they are.
 QByteArray KestoPrintPdeVq250nJCSOAPClient::requestFor(const QByteArray& body) const {
   return "POST " + m_url.target + " HTTP/1.1\r\n" + "Host: " + m_url.hostField + "\r\n" +
          "SOAPAction: \"SoapActionDummy\"\r\n"
@@ -123,7 +123,7 @@ void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   if (!connector.start(m_url, [this] { connectionDidFailWithError(); })) connectionFail();
   QTimer timer;
   timer.setSingleShot(true);
-  timer.setTimerType(Qt::PreciseTimer);  // any other may come half a second early
+  timer.setTimerType(Qt::PreciseTimer);  // other timers may fire half a second early
   connect(&timer, &QTimer::timeout, this, &KestoPrintPdeVq250nJCSOAPClient::firedByTimer);
   timer.start(m_limit);
 
@@ -132,10 +132,11 @@ void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   timer.stop();
   socket.disconnect(this);
   socket.abort();
-  // Only now: who waited may have gone in the very pass of the event loop in which the exchange ended.
+  // Checked only now, because the waiting panel may have been destroyed in the same pass of the event loop in
+  // which the exchange ended.
   if (m_finished == Finished::Cancelled) return;
   if (m_finished == Finished::Answered) {
-    // Without the file there is nothing new to read; the context is not told.
+    // Without the file there is nothing new to read, so the context is not notified.
     m_isKept = bool(writePrivateFile(answerFilePath(m_platform), m_responseData.receivedData()));
   } else {
     m_context->recieveEndCallback();
@@ -155,14 +156,14 @@ void KestoPrintPdeVq250nJCSOAPClient::cancel() {
   finish(Finished::Cancelled);
 }
 
-// The first event that ends the exchange decides; cancelling goes before all of them.
+// The first event that ends the exchange decides; cancelling overrides it.
 void KestoPrintPdeVq250nJCSOAPClient::finish(Finished state) {
   if (m_finished != Finished::Running && state != Finished::Cancelled) return;
   m_finished = state;
   Q_EMIT finishedChanged();
 }
 
-// Whatever its status, the response counts by its body.
+// The body counts, whatever the status of the response.
 void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveResponse() {
   _PDELog(m_context->controller(), "HTTP status %@", QString::number(m_responseData.status()));
 }
@@ -176,7 +177,8 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData(QTcpSocket& socke
   if (m_responseData.isBad()) connectionDidFailWithError();
 }
 
-// The end of the connection ends an answer without a length; any other error, a reset too, breaks it.
+// The end of the connection completes an answer without a length. Any other error, including a reset, breaks
+// it.
 void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(QTcpSocket& socket, bool wasReset) {
   connectionDidReceiveData(socket);
   if (m_finished != Finished::Running) return;
@@ -189,7 +191,7 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(QTcpSocket& socket, bool 
   }
 }
 
-// No connection could be made at all, which nobody is told.
+// No connection could be made at all; nobody is notified.
 void KestoPrintPdeVq250nJCSOAPClient::connectionFail() {
   _PDELog(m_context->controller(), "Connection fail");
   cancel();

@@ -16,12 +16,12 @@ namespace kesto {
 
 class Platform;
 
-/// Told when an exchange fails or times out.
+/// Notified when an exchange fails or times out.
 class SoapContext {
  public:
   virtual ~SoapContext() = default;
   virtual void recieveEndCallback() = 0;
-  /// The panel that asks, for the trace; null without one.
+  /// The requesting panel, for the trace; null without one.
   virtual const void* controller() const { return nullptr; }
 };
 
@@ -30,27 +30,29 @@ class SoapContext {
 QString answerFilePath(Platform& platform);
 
 /// One exchange with one endpoint. The whole answer, whatever its HTTP status, replaces the answer file; a
-/// failure leaves it as it was. Redirects are not followed, and no proxy stands between panel and printer.
-/// When there is no descriptor left for a connection, nobody is told.
+/// failure leaves it as it was. Redirects are not followed and no proxy is used. When no descriptor is left
+/// for a connection, nobody is notified.
 class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   Q_OBJECT
 
  public:
   static constexpr std::chrono::milliseconds timeLimit{20000};
 
-  /// A client for the URL `serverName`; null when that is no valid URL. `context` is not owned, and told of a
-  /// failure before `sendMessage` returns unless the exchange is cancelled; `limit` bounds the wait.
+  /// A client for the URL `serverName`; null when that is not a valid URL. `context` is not owned; it is
+  /// notified of a failure before `sendMessage` returns, unless the exchange is cancelled. `limit` is the
+  /// longest wait.
   static std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> initWithServerName(
       const QString& serverName, Platform& platform, SoapContext* context,
       std::chrono::milliseconds limit = timeLimit);
 
   /// Posts `body` and returns when the exchange has ended. Meanwhile it runs the thread's event loop.
   void sendMessage(const QByteArray& body);
-  /// Whether the last exchange had a whole answer, and whether that is in the answer file.
+  /// Whether the last exchange had a complete answer, and whether that is in the answer file.
   bool isAnswered() const { return m_finished == Finished::Answered; }
   bool isKept() const { return m_isKept; }
-  /// Ends the exchange at once, without a word to the context, which is not used any more; also when the
-  /// exchange has just ended otherwise and `sendMessage` has yet to return. What came is not kept.
+  /// Ends the exchange at once; the context is neither notified nor used any more. This holds even when the
+  /// exchange has just ended in another way and `sendMessage` has yet to return. What has arrived is not
+  /// kept.
   void cancel();
 
  Q_SIGNALS:

@@ -1,4 +1,4 @@
-// What this model of printer can do, as the panel asks it.
+// What this model of printer can do.
 #pragma once
 
 namespace kesto {

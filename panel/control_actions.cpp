@@ -103,7 +103,7 @@ void ControlActions::loginNameButtonProc(Control* /*sender*/) {
     m_state.loginNameLockFlag = false;
   } else if (!m_state.loginNameLockFlag) {
     const QString name = textOfField(field);
-    // An empty name is held as a name all the same.
+    // An empty name is held like any other.
     m_state.loginNameStringRef = name.isNull() ? QStringLiteral("") : name;
     if (field != nullptr && !name.isEmpty()) field->setStringValue(QString(name.size(), QChar(bullet)));
     m_state.loginNameLockFlag = true;

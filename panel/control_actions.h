@@ -1,32 +1,34 @@
-// What the panel's controls do when the user operates them.
+// What happens when the user operates the panel's controls.
 #pragma once
 
 #include "panel/enabling_rules.h"
 
 namespace kesto {
 
-/// The actions of the panel's controls. They keep the choices consistent, clear the fields whose value no
-/// longer applies unless they are held, and run the enabling rules that the change concerns. The sender is
-/// never looked at; absent controls are tolerated. The settings reader sends the same actions after it has
-/// set the controls.
+/// The actions of the panel's controls. They keep the choices consistent, clear fields whose value no longer
+/// applies unless they are held, and run the enabling rules that the change affects. They ignore the sender
+/// and tolerate absent controls. The settings reader sends the same actions after it has set the controls.
 class ControlActions {
  public:
   ControlActions(PanelState& state, EnablingRules& rules) : m_state(state), m_rules(rules) {}
 
-  /// Switched off: the first hold choice, no quick file, and the storage fields that are not held cleared.
+  /// Switching retention off selects the first hold choice, leaves quick file and clears the storage fields
+  /// that are not held.
   void retentionCBoxProc(Control* sender);
-  /// A hold choice other than "after print" does not go with quick file, which gives way to the main folder.
+  /// Only "hold after print" can be combined with quick file. With another choice the main folder replaces
+  /// quick file.
   void suspendKeyMatrixProc(Control* sender);
-  /// Quick file goes with "hold after print" and no pass code.
+  /// Quick file selects "hold after print" and clears the pass code unless it is held.
   void folderSelectionPopUpButtonProc(Control* sender);
-  /// As in the pop-up; quick file and main folder also clear folder name and folder pass code.
+  /// Does the same as the pop-up's action. Quick file and main folder also clear folder name and folder pass
+  /// code.
   void folderSelectionMatrixProc(Control* sender);
-  /// The user number takes keyboard focus, whichever choice was made.
+  /// The user number takes the keyboard focus after either choice.
   void authenticationMatrixProc(Control* sender);
-  /// On: keeps the login name aside and shows bullets. Off: forgets it.
+  /// On: keeps the login name and shows bullets instead. Off: forgets it.
   void loginNameButtonProc(Control* sender);
-  /// The action of any field's hold button: freezes or frees the field. That of the login name is
-  /// `loginNameButtonProc`.
+  /// The action of every hold button except the login name's (`loginNameButtonProc`): freezes or frees the
+  /// field.
   void holdButtonProc(Held field);
 
   // Controls whose operation changes nothing else.

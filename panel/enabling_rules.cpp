@@ -8,11 +8,11 @@
 namespace kesto {
 namespace {
 
-// What the rules read, worked out once per run.
+// The conditions of the rules, computed once for each run.
 struct Conditions {
   bool retention;        // the retention check box is on
   bool quickFile;        // chosen in the pop-up or in the matrix
-  bool protectedFolder;  // a printer's folder that asks for a pass code is chosen in the pop-up
+  bool protectedFolder;  // a folder that asks for a pass code is chosen in the pop-up
   bool customFolder;     // chosen in the matrix
   bool login;            // authentication by login name
 };
@@ -36,7 +36,7 @@ using Target = std::variant<std::monostate, TextField * Outlets::*, Button * Out
 using Condition = bool (*)(const Conditions&);
 
 // A button, matrix or pop-up is enabled while its condition holds. A label or field is undimmed while its
-// condition holds and its hold button, when it has one, is not on.
+// condition holds and its hold button, if any, is off.
 struct Row {
   const char* name;
   Target target;

@@ -1,4 +1,4 @@
-// Which controls the user may change, as a table of rules: one control and one condition each.
+// Which controls the user may change, as a table of rules with one control and one condition each.
 #pragma once
 
 #include <cstdint>
@@ -10,15 +10,15 @@ namespace kesto {
 /// What the panel adds to every text field.
 namespace MySetEnabled {
 
-/// Shows a label or text field as available or not. A label (tag 0) turns black or gray. A text field,
-/// dimmed, is neither editable nor selectable, gray, and no field of the window keeps keyboard focus;
-/// undimmed it is editable and selectable, black, and takes keyboard focus.
+/// Shows a label or text field as available or not. A label (tag 0) turns black or gray. A dimmed text field
+/// is gray and neither editable nor selectable, and no field of the window keeps the keyboard focus. An
+/// undimmed one is black, editable and selectable, and takes the keyboard focus.
 void myVq250nJCHilite(TextField& field, bool dim);
 
 }  // namespace MySetEnabled
 
-// The rules in the order of their declaration: name, control, when it is available, hold button of a field.
-// Each is an operation of EnablingRules and a row of its table.
+// The rules: name, control, condition of its availability, hold button of a field. Each row becomes an
+// operation of EnablingRules and a row of its table.
 #define KESTO_ENABLING_RULES(RULE)                                                                          \
   RULE(suspendMatrixEnabled, &O::suspendMatrix, retention)                                                  \
   RULE(suspendKeyStaticTextEnabled, &O::suspendKeyStaticText, passCode)                                     \
@@ -45,9 +45,9 @@ void myVq250nJCHilite(TextField& field, bool dim);
   RULE(accountNumberEditTextEnabled, &O::accountNumberEditText, always, &O::accountNumberButton)            \
   RULE(accountNumberButtonEnabled, {}, always)
 
-/// The enabling rules: each reads the controls' states and sets its one control. They keep no state; an
-/// absent control is skipped, and a condition on an absent control is false; an absent authentication matrix
-/// reads as its first row.
+/// The enabling rules. Each reads the controls' states and sets its one control; none keeps a state. An
+/// absent control is skipped, and a condition on an absent control is false. An absent authentication matrix
+/// counts as one with its first row selected.
 class EnablingRules {
  public:
   explicit EnablingRules(PanelState& state) : m_state(state) {}
@@ -65,7 +65,7 @@ class EnablingRules {
   KESTO_ENABLING_RULES(KESTO_RULE_OPERATION)
 #undef KESTO_RULE_OPERATION
 
-  /// Runs the rule of that name, as a layout asks for it; false when there is none.
+  /// Runs the rule of that name, which a layout asks for; false when there is none.
   bool runByName(const QString& name);
   /// Whether there is a rule of that name.
   static bool exists(const QString& name);

@@ -9,8 +9,8 @@
 
 namespace kesto {
 
-/// The values that the preferences hold for one printer, as they were stored: enciphered ones still
-/// enciphered. Each is null unless its bit was set when they were loaded.
+/// The values in the preferences for one printer, as they are stored, some of them enciphered. A value is
+/// null unless its bit was set when the values were loaded.
 struct RememberedValues {
   QString prefSuspendKeyStringRef;
   QString prefLoginNameStringRef;
@@ -40,9 +40,9 @@ enum class Held : std::uint8_t {
 /// How a field stands in the job's print settings.
 enum class JobForm : std::uint8_t {
   ReadOnly,     ///< The panel reads it and never writes it.
-  DigitsFirst,  ///< Sealed, and beside it the digest of the padded digits and the spool time.
+  DigitsFirst,  ///< Sealed, with the digest of the padded digits and the spool time.
   TimeFirst,    ///< The same, with the digest of the spool time and the padded digits.
-  Number,       ///< Sealed, and beside it the padded digits in clear.
+  Number,       ///< Sealed, with the padded digits in the clear.
   Name,         ///< In the system encoding, in Windows Latin-1 and in UTF-8, without control characters.
   Folder,       ///< In the same three encodings, whole or not at all, while documents are filed.
 };
@@ -50,30 +50,30 @@ enum class JobForm : std::uint8_t {
 /// How the preferences store a field's value.
 enum class RememberedForm : std::uint8_t { SealedHex, SealedBase64, SealedAsciiHex, Clear };
 
-/// The filter that watches over the field's typing.
+/// The filter for what is typed into the field.
 enum class FilterKind : std::uint8_t { None, Digits, Characters };
 
 class EnablingRules;
 
-/// One field: everything that differs between the nine.
+/// Everything that differs between the nine fields.
 struct HeldField {
   Held field;
   int bit;  ///< Of the hold-button mask.
 
   JobForm jobForm;       ///< In the job's print settings.
   const char* key;       ///< Of the value that is read back.
-  const char* second;    ///< Key of what is beside it: digest, digits, Latin-1 form, second half; or null.
+  const char* second;    ///< Key of its companion: digest, digits, Latin-1 form, second half; or null.
   const char* utf8;      ///< Key of the form in UTF-8; null for none.
-  int writtenBytes;      ///< Bytes that the writer takes, in the system encoding; 0 for no limit of its own.
+  int writtenBytes;      ///< Most bytes that the writer uses, in the system encoding; 0 for no limit.
   int longestPlaintext;  ///< Longest plaintext that the reader accepts; 0 for no limit.
 
   const char* recordKey;                  ///< Of the preference record.
   RememberedForm form;                    ///< In the preference record.
-  int cipherBytes;                        ///< Bytes deciphered of a sealed value in hex; 0 for other forms.
+  int cipherBytes;                        ///< Bytes to decipher of a sealed value in hex; 0 for other forms.
   QString RememberedValues::*remembered;  ///< Its remembered value.
 
   FilterKind filter;              ///< While typing.
-  int filterLimit;                ///< UTF-16 units that typing can reach; 0 without a filter.
+  int filterLimit;                ///< Most UTF-16 units that can be typed; 0 without a filter.
   TextField* Outlets::*edit;      ///< The text field.
   Button* Outlets::*button;       ///< Its hold button.
   void (EnablingRules::*rule)();  ///< Whether the text field is available.

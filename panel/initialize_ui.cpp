@@ -62,7 +62,7 @@ void initializeUI(PanelState& state) {
   for (const HeldField& row : heldFields) {
     installFilter(row, o.*row.edit);
     Button* button = o.*row.button;
-    // The login row's buttons keep what the layout gives them.
+    // The hold buttons of login name and password keep the images of the layout.
     if (button == nullptr || row.field == Held::LoginName || row.field == Held::Password) continue;
     button->setImage(initWithSystemIconType(bundle, typeCode("ulck")));
     button->setAlternateImage(initWithSystemIconType(bundle, typeCode("lock")));

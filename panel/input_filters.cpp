@@ -7,7 +7,7 @@ namespace kesto {
 bool LengthLimitedFilter::isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,
                                                const QString& originalString, TextRange originalSelectedRange,
                                                QString* /*errorDescription*/) const {
-  // All comparisons are unsigned: a negative limit is a very large one.
+  // All comparisons are unsigned, so a negative limit is a very large one.
   const auto limit = static_cast<std::uint64_t>(maxValue);
   const auto caret = static_cast<std::uint64_t>(proposedSelectedRange.location);
   if (caret > limit) {

@@ -1,4 +1,4 @@
-// The filters that watch over typing in the panel's fields. Lengths count UTF-16 code units.
+// The filters for what is typed into the panel's fields. Lengths count UTF-16 code units.
 #pragma once
 
 #include <cstdint>
@@ -7,18 +7,18 @@
 
 namespace kesto {
 
-/// What both number formatters share: the limit, and the cut of an edit whose caret would pass it.
+/// What both number formatters share: the limit, and how they cut an edit that would move the caret beyond
+/// it.
 class LengthLimitedFilter : public Formatter {
  public:
-  /// The length that typing can reach; 0 until it is set, which refuses every insertion.
+  /// The greatest length of a typed text. It is 0 until it is set, so every insertion is refused.
   void SetmaxCharactersCount(std::int64_t count) { maxValue = count; }
-  /// The format of numbers, as any number formatter has one; nothing asks for it: the filter watches over
-  /// text.
+  /// The number format that every number formatter has. Nothing uses it, because the filter judges text.
   void setFormat(const QString& format) { m_format = format; }
 
-  /// An edit whose caret would pass the limit is cut to the limit, never within a surrogate pair, all
-  /// selected, and refused. A deletion is accepted. An insertion is accepted when the text before it was
-  /// shorter than the limit and its first character may begin one.
+  /// An edit that would move the caret beyond the limit is refused, and its text is cut to the limit (never
+  /// within a surrogate pair) and selected whole. A deletion is accepted. An insertion is accepted when the
+  /// text before it was shorter than the limit and its first character is allowed there.
   bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,
                             const QString& originalString, TextRange originalSelectedRange,
                             QString* errorDescription) const override;
@@ -31,13 +31,13 @@ class LengthLimitedFilter : public Formatter {
   QString m_format;
 };
 
-/// Lets in what begins with a decimal digit.
+/// Accepts text that begins with a decimal digit.
 class MyIntegerNumberFilter : public LengthLimitedFilter {
  protected:
   bool mayBeginInsertion(QChar first) const override { return first >= u'0' && first <= u'9'; }
 };
 
-/// Lets in any text.
+/// Accepts any text.
 class MyRomanFilter : public LengthLimitedFilter {
  protected:
   bool mayBeginInsertion(QChar /*first*/) const override { return true; }
@@ -49,10 +49,10 @@ class LoginnameInputFilterCallback {
   virtual ~LoginnameInputFilterCallback() = default;
 };
 
-/// Accepts every edit. It belongs to the panel's filters, though no field of this model's layouts carries it.
+/// Accepts every edit. It is one of the panel's filters, although no field of this model's layouts uses it.
 class LoginnameInputFilter : public Formatter {
  public:
-  /// `callback` is not owned and never called, as the filter has nothing to tell.
+  /// `callback` is neither owned nor called, because the filter has nothing to report.
   void setCallback(LoginnameInputFilterCallback* callback) { m_context = callback; }
 
   bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,

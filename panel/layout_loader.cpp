@@ -11,7 +11,7 @@
 namespace kesto {
 namespace {
 
-// Forms nest two dozen elements; far more is no form.
+// A form nests about two dozen elements. What nests far more is not a form.
 constexpr int deepestElement = 100;
 
 // The value of a property or attribute of a widget.
@@ -21,18 +21,18 @@ struct FormValue {
   bool isLeftToPanel = false;  // the panel's initialisation translates it
 };
 
-// A widget of the form with what stands in it; also an item of a pop-up, which has properties alone.
+// A widget of the form with the widgets in it, or an item of a pop-up, which has only properties.
 struct FormWidget {
   QString type;
   QString name;
   qint64 line = 0;
   std::vector<FormValue> properties;
   std::vector<FormValue> attributes;
-  std::vector<FormWidget> children;  // directly in it, whatever layouts stand between
+  std::vector<FormWidget> children;  // its direct children, however many layouts are in between
   std::vector<FormWidget> items;
 };
 
-// Reads the elements of a form; the first fault ends the reading.
+// Reads the elements of a form up to the first fault.
 class FormReader {
  public:
   explicit FormReader(const QByteArray& ui) : m_xml(ui) {}
@@ -48,7 +48,7 @@ class FormReader {
         m_xml.skipCurrentElement();
       }
     }
-    // What follows the form must be well-formed, too.
+    // What follows the form must be well-formed as well.
     while (!m_xml.atEnd())
       m_xml.readNext();
     if (m_xml.hasError()) {
@@ -65,7 +65,7 @@ class FormReader {
     readContents(widget, depth, true);
   }
 
-  // `isDirect`: the elements stand in the widget itself rather than in a layout of it.
+  // `isDirect`: the elements belong to the widget itself, not to a layout in it.
   void readContents(FormWidget& widget, int depth, bool isDirect) {
     if (depth > deepestElement) return m_xml.raiseError(QStringLiteral("elements nested too deep"));
     while (m_xml.readNextStartElement()) {
@@ -98,7 +98,7 @@ class FormReader {
   QXmlStreamReader m_xml;
 };
 
-// The value of that name; one without a text when there is none.
+// The value of that name; a value without a text when there is none.
 const FormValue& valueOf(const std::vector<FormValue>& values, QStringView name) {
   static const FormValue none;
   const auto found = std::ranges::find_if(values, [&](const FormValue& value) { return value.name == name; });
@@ -109,7 +109,7 @@ const QString& property(const FormWidget& widget, QStringView name) {
   return valueOf(widget.properties, name).text;
 }
 
-// Makes the controls of a form's widgets; the first fault ends the making.
+// Creates the controls for a form's widgets up to the first fault.
 class ControlMaker {
  public:
   ControlMaker(PanelView& view, const Bundle& bundle) : m_view(view), m_bundle(bundle) {}
@@ -131,7 +131,7 @@ class ControlMaker {
     m_names.insert(widget.name);
   }
 
-  // A text that the user sees.
+  // The text of a control as the user sees it, translated unless the panel does that.
   QString visibleText(const FormValue& value) const {
     return value.isLeftToPanel ? value.text : localizedStringValue(m_bundle, value.text);
   }
@@ -166,7 +166,7 @@ class ControlMaker {
       return box;
     }
     if (type == u"QWidget") return makeMatrix(widget);
-    return nullptr;  // the cells of a matrix are made with it
+    return nullptr;  // the matrix creates its own cells
   }
 
   Control* makeButton(const FormWidget& widget, Button::Type type) {

@@ -10,8 +10,8 @@
 namespace kesto {
 
 /// The localised form of a text: leading white space is skipped, the text up to the first ":" is the key into
-/// the bundle's default table, and one ":" is put back when the text had one. Comes back unchanged when no
-/// key can be taken, null when `source` is null.
+/// the bundle's default table, and one ":" is put back when the text had one. The text is unchanged when it
+/// has no key, and null when `source` is null.
 QString localizedStringValue(const Bundle& bundle, const QString& source);
 
 /// A four-character type code.

@@ -1,4 +1,4 @@
-// The panel's controls, each under its name; absent ones are null.
+// The panel's controls by their names; absent ones are null.
 #pragma once
 
 #include "panel/model/button.h"

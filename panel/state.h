@@ -38,7 +38,7 @@ struct PanelState {
     return folder < folderList->size() ? &(*folderList)[folder] : nullptr;
   }
 
-  const void* controller = nullptr;         ///< The panel, whose calls the trace names.
+  const void* controller = nullptr;         ///< The panel, for the trace.
   HostCallback* pdePluginCallbackObject;    ///< The host's; outlives the panel.
   Platform* platform;                       ///< The host's.
   std::shared_ptr<const Bundle> pdeBundle;  ///< The panel's own bundle.

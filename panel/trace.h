@@ -1,8 +1,8 @@
-// The trace hooks of the panel: they log to the category "kesto.pde" in debug builds and are nothing in
-// release.
+// The trace hooks of the panel. They log to the category "kesto.pde" in debug builds and compile to nothing
+// in release builds.
 //
-// Formats use %@ (text or object), %p (address) and %s (C string), one argument each. No argument may carry a
-// secret.
+// Formats use %@ (text or object), %p (address) and %s (C string), one argument each. No argument may contain
+// a secret.
 #pragma once
 
 #ifndef NDEBUG

@@ -1,4 +1,4 @@
-// The one way in which the panel speaks to the user on its own account.
+// How the panel shows an alert to the user.
 #pragma once
 
 #include <QtCore/QString>

@@ -11,7 +11,7 @@
 namespace kesto {
 
 Bundle::Bundle(QString directory, const QLocale& locale) : m_directory(std::move(directory)) {
-  // Without a translation for the language the table is empty, and every text is its own key.
+  // Without a translation for the language the table is empty, so every text is its own key.
   (void)m_translator.load(locale, QStringLiteral("Localizable"), QStringLiteral("_"),
                           m_directory + QStringLiteral("/Resources"));
 }

@@ -13,7 +13,7 @@ namespace kesto {
 
 class PrintDialogPlugIn;
 
-/// The bundle directory holds `<base name>.so` and `Resources/`, there the resources and the compiled
+/// The bundle directory contains `<base name>.so` and `Resources/` with the resources and the compiled
 /// translations `Localizable_<language>.qm`.
 class Bundle {
  public:
@@ -32,8 +32,8 @@ class Bundle {
   std::optional<QByteArray> resource(const QString& name, const QString& ofType) const;
   /// The text of the default localisation table for `key`; the key itself when it has no entry.
   QString localizedStringForKey(const QString& key) const;
-  /// Loads the bundle's code, makes its principal object and initialises it. The object lives as long as the
-  /// process. On failure `*plugIn` is null and the outcome says why.
+  /// Loads the bundle's code, creates its principal object and initialises it. The object lives as long as
+  /// the process. On failure `*plugIn` is null and the outcome says why.
   Outcome loadPrincipalObject(PrintDialogPlugIn** plugIn) const;
 
  private:

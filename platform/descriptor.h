@@ -7,7 +7,7 @@
 
 namespace kesto {
 
-/// Owns a descriptor and closes it at its end; -1 stands for none. It moves and is never copied.
+/// Owns a descriptor and closes it when it is destroyed; -1 means none. It can be moved but not copied.
 class Descriptor {
  public:
   Descriptor() = default;
@@ -24,9 +24,9 @@ class Descriptor {
   explicit operator bool() const { return m_number >= 0; }
   /// The number, still owned here; -1 for none.
   int get() const { return m_number; }
-  /// The number, which the caller closes from now on.
+  /// Gives the number up to the caller, who has to close it.
   int release() { return std::exchange(m_number, -1); }
-  /// Closes what is owned and owns `number` instead.
+  /// Closes the owned descriptor and owns `number` instead.
   void reset(int number = -1) {
     if (m_number >= 0) ::close(m_number);
     m_number = number;

@@ -22,13 +22,13 @@ QString accountField(char* passwd::*field) {
   return QString::fromLocal8Bit(found->*field);
 }
 
-// A folder that a variable names, without a "/" at its end; null unless the path is absolute.
+// The folder that a variable names, without a "/" at its end; null unless the path is absolute.
 QString folderOfVariable(const char* variable) {
   const QString path = QFile::decodeName(qgetenv(variable));
   return path.startsWith(u'/') ? QDir::cleanPath(path) : QString();
 }
 
-// Whether the path is a folder of this user's that nobody else may enter; makes it when it is missing.
+// Whether the path is a folder of this user that nobody else may enter; creates it when it is missing.
 bool isPrivateFolder(const QByteArray& path) {
   if (::mkdir(path.constData(), 0700) != 0 && errno != EEXIST) return false;
   struct stat info {};

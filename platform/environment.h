@@ -12,12 +12,12 @@ QString accountShortName();
 /// The full name of the account, from the password file; null when it has none.
 QString accountFullName();
 /// The user's folder for configuration: `$XDG_CONFIG_HOME`, else `.config` in `$HOME`, else in the account's
-/// home folder; ends in "/". A variable that is no absolute path is ignored.
+/// home folder; ends in "/". A variable that is not an absolute path is ignored.
 QString userConfigurationDirectory();
-/// `$XDG_RUNTIME_DIR`, without a "/" at its end; null when it is no absolute path.
+/// `$XDG_RUNTIME_DIR`, without a "/" at its end; null when it is not an absolute path.
 QString userRuntimeDirectory();
 /// `$TMPDIR` when set, else a private folder of mode 0700 below `$XDG_RUNTIME_DIR`; ends in "/". Null when
-/// neither can be had.
+/// neither is available.
 QString userTemporaryDirectory();
 /// The system encoding of the user's language, taken from LC_ALL, LC_CTYPE or LANG, the first that is set.
 TextEncoding systemEncodingOfEnvironment();

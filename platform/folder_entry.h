@@ -8,7 +8,7 @@
 
 namespace kesto {
 
-/// A folder of the printer's list, which always has a name.
+/// A folder of the printer's list; it always has a name.
 struct FolderEntry {
   QString name;           ///< As the printer gives it.
   bool password = false;  ///< Protected by a pass code.

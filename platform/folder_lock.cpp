@@ -11,7 +11,7 @@
 namespace kesto {
 namespace {
 
-// The kernel has no wait for a lock that ends by itself. A change takes some milliseconds.
+// flock() has no time limit, so the lock is tried at intervals. A change takes a few milliseconds.
 constexpr unsigned long pause = 5;
 
 }  // namespace

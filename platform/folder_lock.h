@@ -9,12 +9,13 @@
 
 namespace kesto {
 
-/// Held by one process at a time, and by one FolderLock within it. It goes with its object, and with a
-/// process that is killed.
+/// Held by one process at a time, and by one FolderLock within it. It is released with the object, and when
+/// the process is killed.
 class FolderLock {
  public:
-  /// Waits for the lock on an existing folder, at most `limit`; no file is made for it. Fails when the lock
-  /// is not free within it, or the folder cannot be opened. On a file system without such locks it succeeds.
+  /// Waits at most `limit` for the lock on an existing folder; no file is created for it. Fails when the lock
+  /// does not become free in time or the folder cannot be opened. Succeeds on a file system without such
+  /// locks.
   Outcome take(const QString& path, std::chrono::milliseconds limit);
 
  private:

@@ -1,4 +1,4 @@
-// What the host of a panel lends to it for the time of one dialog.
+// What a host lends to its panel for the duration of one dialog.
 #pragma once
 
 #include <QtCore/QString>
@@ -22,7 +22,7 @@ struct PrintSession {
   std::optional<Printer> currentPrinter;  ///< None when no printer is chosen.
 };
 
-/// The host's callback object. The host owns it and all that it gives; it outlives the panel.
+/// The host's callback object. The host owns it and everything that it returns; it outlives the panel.
 class HostCallback {
  public:
   virtual ~HostCallback() = default;

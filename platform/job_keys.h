@@ -1,5 +1,5 @@
-// The print-settings keys of Job Handling by their last component (docs/formats/print-settings.md explains
-// every key and form). Which keys a field has is in the table of held fields.
+// The last components of Job Handling's print-settings keys (docs/formats/print-settings.md explains every
+// key and form). The table of held fields says which keys a field has.
 #pragma once
 
 #include <array>
@@ -34,10 +34,10 @@ inline constexpr char folderPassword[] = "folderPassword";
 inline constexpr char folderPassword2[] = "folderPassword2";
 inline constexpr char holdButton[] = "holdButton";
 
-/// The value of `jobSuspend` by the row of the hold choice; without retention it is "0".
+/// The value of `jobSuspend` for each row of the hold choice; without retention it is "0".
 inline constexpr std::array holdDigits{'2', '1', '3'};
 
-/// The value of `filing` by the row of the folder choice; "0" for -1, no filing.
+/// The value of `filing` for a row of the folder choice; "0" for -1, no filing.
 constexpr char filingDigit(int row) {
   return static_cast<char>('1' + row);
 }

@@ -16,7 +16,7 @@ namespace kesto {
 namespace {
 
 Q_LOGGING_CATEGORY(store, "kesto.preferences")
-// Apart, for programs that say themselves what they could not keep.
+// A category of its own, so that programs which report failures themselves can switch it off.
 Q_LOGGING_CATEGORY(changes, "kesto.preferences.changes")
 
 constexpr QFile::Permissions ownerFile = QFile::ReadOwner | QFile::WriteOwner;
@@ -24,17 +24,17 @@ constexpr QFile::Permissions ownerFolder = ownerFile | QFile::ExeOwner;
 
 constexpr qsizetype digestDigits = 16;
 
-// Makes the folder and what is missing above it, for the owner alone.
+// Creates the folder, and missing folders above it, for the owner alone.
 bool makePrivateFolder(const QString& path) {
   const QFileInfo info(path);
   if (info.isDir()) return isPrivate(path) || QFile::setPermissions(path, ownerFolder);
   const QString parent = info.absolutePath();
   if (!QFileInfo(parent).isDir() && parent != path && !makePrivateFolder(parent)) return false;
-  // Another process may have made it meanwhile.
+  // Another process may have created it meanwhile.
   return QDir().mkdir(path, ownerFolder) || QFileInfo(path).isDir();
 }
 
-// What cannot be read as a domain is the user's all the same: it goes on under another name.
+// A file that cannot be read as a domain may still be of use to the user, so it is renamed, not deleted.
 bool keepAside(const QString& path) {
   for (int number = 1; number < 10000; ++number) {
     const QString aside = pathBeside(path, QStringLiteral(".damaged-%1").arg(number));
@@ -76,14 +76,14 @@ Reading readDomain(const QString& path) {
   return {unavailable(path, QStringLiteral("it holds no preferences")), true};
 }
 
-// Under the lock: another process may just be replacing what is damaged.
+// Needs the lock, because another process may be replacing the damaged file at this moment.
 Domain readOrKeepAside(const QString& path) {
   const Reading reading = readDomain(path);
   if (reading.isDamaged && keepAside(path)) return {.available = true, .values = {}};
   return reading.domain;
 }
 
-// The domain's file as it becomes by the change.
+// The domain's file after the change.
 Outcome changedBytes(const Domain& domain, const DomainChange& change, QByteArray* bytes) {
   if (!domain.available) return Outcome::failed(domain.reason);
   QJsonObject values = domain.values.value_or(QJsonObject());
@@ -123,7 +123,7 @@ Domain JsonUserDefaults::persistentDomainForName(const QString& name) {
 }
 
 Outcome JsonUserDefaults::changeFile(const QString& path, const DomainChange& change) {
-  // Most changes change nothing, and then nobody need be waited for.
+  // Most changes change nothing; those need not wait for the lock.
   QByteArray bytes;
   const Reading reading = readDomain(path);
   if (!reading.isDamaged) {

@@ -7,21 +7,21 @@
 
 namespace kesto {
 
-/// Most bytes of a domain's file. A larger one is neither read nor written.
+/// The largest size of a domain's file in bytes. A larger file is neither read nor written.
 inline constexpr qsizetype largestDomain = qsizetype{16} * 1024 * 1024;
 
 /// One file `<domain name>.json` per domain in `directory`: mode 0600 in a folder of mode 0700, written whole
 /// to a temporary file, synced and renamed, under a lock on the directory. Characters of the name other than
 /// ASCII letters, digits, ".", "_" and "-" are percent-encoded, and a file name beyond 255 bytes is cut and
 /// ends with a digest. A file that does not hold a JSON object is renamed aside and counts as missing; an
-/// empty file counts as missing, too, and is replaced. A change that fails is logged.
+/// empty file also counts as missing, and is replaced. A change that fails is logged.
 class JsonUserDefaults : public UserDefaults {
  public:
   static constexpr std::chrono::milliseconds lockLimit{10000};
 
-  /// `directory` need not exist; the first write makes it. `limit` bounds the wait for another process.
+  /// `directory` need not exist; the first write creates it. `limit` is the longest wait for another process.
   explicit JsonUserDefaults(QString directory, std::chrono::milliseconds limit = lockLimit);
-  /// "kesto" in the user's folder for configuration.
+  /// The folder "kesto" in the user's configuration folder.
   static QString defaultDirectory();
 
   Domain persistentDomainForName(const QString& name) override;

@@ -22,7 +22,7 @@ constexpr std::array modifiers{
     ModifierRow{QLatin1String("latin"), QLatin1String("Latn")},
 };
 
-// ICU has the scripts of every language of CLDR, Qt only of those whose formats it knows.
+// ICU knows the script of every language in CLDR; Qt knows only those languages whose formats it has.
 QString likelyScript(const QString& name) {
   std::array<char, ULOC_FULLNAME_CAPACITY> likely{};
   std::array<char, ULOC_SCRIPT_CAPACITY> script{};
@@ -32,7 +32,7 @@ QString likelyScript(const QString& name) {
   return U_SUCCESS(status) ? QString::fromLatin1(script.data()) : QString();
 }
 
-// English: the texts themselves.
+// English needs no translation.
 bool isUntranslated(const LocaleName& name) {
   return name.language.isEmpty() || name.language == u"C" || name.language == u"POSIX" ||
          name.language == u"en";

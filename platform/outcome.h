@@ -1,4 +1,4 @@
-// The result of an operation that can fail: done, or refused with a reason that a person can read.
+// The result of an operation that can fail: done, or failed with a reason that a person can read.
 #pragma once
 
 #include <QtCore/QString>
@@ -6,7 +6,7 @@
 
 namespace kesto {
 
-/// Done, or failed with a reason. A value to look at, never a sticky state of some object.
+/// Done, or failed with a reason. It is a value to check, not a state that sticks to an object.
 class [[nodiscard]] Outcome {
  public:
   /// The operation was carried out.

@@ -21,15 +21,16 @@ class PanelView;
 
 /// What became of the last fetch of the printer's folders.
 enum class FolderFetch {
-  None,     ///< There was none, or the printer was not asked.
-  Failed,   ///< There was no answer; the user has seen an alert.
+  None,     ///< There was no fetch, or the printer was not asked.
+  Failed,   ///< No answer arrived; the user has seen an alert.
   NotKept,  ///< The answer could not be written to the temporary directory.
   NotRead,  ///< The answer is not a list of folders.
   Listed,
 };
 
-/// A panel of a print dialog. The host owns it from the request on and calls it on one thread. The properties
-/// that a panel's own class adds are its facts, all read-only, for hosts that show a panel they do not know.
+/// A panel of a print dialog. The host owns it as soon as it is returned, and calls it on one thread.
+/// Properties that a panel's own class adds are its facts: read-only, for hosts that show a panel without
+/// knowing its class.
 class PrintDialogPanel : public QObject {
   Q_OBJECT
 
@@ -37,7 +38,7 @@ class PrintDialogPanel : public QObject {
   using QObject::QObject;
   /// The panel's controls; null when the layout cannot be loaded. The panel owns them.
   virtual PanelView* panelView() = 0;
-  /// The panel's controls once they are made, else null. Looking never loads the layout.
+  /// The panel's controls once they exist, else null. This call never loads the layout.
   virtual PanelView* loadedView() const = 0;
   /// The name shown for the panel, localised.
   virtual QString panelName() = 0;
@@ -47,32 +48,32 @@ class PrintDialogPanel : public QObject {
   virtual QStringList supportedPPDOptionKeys() = 0;
   /// The model name that the PPD declares; null without one.
   virtual QString modelName() const = 0;
-  /// The printer's folders as they were last fetched or remembered.
+  /// The printer's folders, as last fetched or remembered.
   virtual FolderList folders() const = 0;
-  /// Whether the printer's model files documents. A model that does not shows and remembers the choice of a
-  /// folder like any other, but no job carries it: hosts say so beside it.
+  /// Whether the printer's model files documents. Other models show and remember the choice of a folder as
+  /// well, but no job carries it; hosts say so beside the choice.
   virtual bool filesDocuments() const = 0;
-  /// What became of the last fetch of folders, which the panel itself says only of one without an answer.
+  /// What became of the last fetch of folders. The panel itself reports only a missing answer.
   virtual FolderFetch lastFolderFetch() const = 0;
-  /// The host is about to bring the panel to the front.
+  /// Called when the host is about to bring the panel to the front.
   virtual void willShow() = 0;
   /// Whether the host may hide the panel.
   virtual bool shouldHide() = 0;
   /// Whether the host shows its help button.
   virtual bool shouldShowHelp() = 0;
-  /// A PPD option of the host changed.
+  /// Called when a PPD option has changed in the host.
   virtual void PPDOptionKeyValueDidChange(const QString& optionKey, const QString& ppdChoice) = 0;
   /// Reads the job's print settings into the panel. `error` is never set.
   virtual bool restoreValuesAndReturnError(QString* error) = 0;
   /// Writes the panel into the job's print settings. `error` is never set.
   virtual bool saveValuesAndReturnError(QString* error) = 0;
-  /// Whether the job may go out; says no only after an alert.
+  /// Whether the job may go out; the answer is no only after an alert.
   virtual bool shouldPrint() = 0;
-  /// Label and value of the panel's main choices, for the dialog's summary.
+  /// Labels and values of the panel's main choices, for the dialog's summary.
   virtual QMap<QString, QString> summaryInfo() = 0;
 };
 
-/// The panels that an entry object gives for one request; none when a panel could not be made.
+/// The panels that an entry object returns for one request; none when a panel could not be created.
 using PanelList = std::optional<std::vector<std::unique_ptr<PrintDialogPanel>>>;
 
 /// The principal object of a bundle.

@@ -1,4 +1,4 @@
-// What the operating system gives to a panel, behind one interface. Tests have their own double of it.
+// What the operating system provides to a panel, behind one interface. Tests implement it with a double.
 #pragma once
 
 #include <QtCore/QDateTime>
@@ -13,7 +13,8 @@ class AlertPresenter;
 class Bundle;
 class UserDefaults;
 
-/// The services of the operating system. The host owns it; it outlives every panel made with it.
+/// The services of the operating system. The host owns the platform, which outlives every panel created with
+/// it.
 class Platform {
  public:
   virtual ~Platform() = default;
@@ -23,7 +24,7 @@ class Platform {
   virtual UserDefaults& userDefaults() = 0;
   /// The presenter of the panel's alerts.
   virtual AlertPresenter& alertPresenter() = 0;
-  /// This moment, in the local time zone.
+  /// The current time, in the local time zone.
   virtual QDateTime now() = 0;
   /// The user's temporary directory, ending in "/"; null when there is none.
   virtual QString temporaryDirectory() = 0;

@@ -8,11 +8,10 @@
 
 namespace kesto {
 
-/// What every key of Job Handling begins with.
+/// The prefix of every key of Job Handling.
 inline constexpr char printSettingsPrefix[] = "kesto.print.PrintSettings.";
 
-/// Key to value, both text. The host owns it and lends it to the panel. An empty value is a value: "present"
-/// and "not empty" are different questions.
+/// Key to value, both text. The host owns it and lends it to the panel. A key with an empty value is present.
 class PrintSettings {
  public:
   /// Stores `value` under `key`, replacing any earlier value; none removes the key.

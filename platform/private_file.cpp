@@ -26,8 +26,8 @@ void syncFolder(const QString& path) {
 
 const QString temporarySuffix = QStringLiteral(".XXXXXX");
 
-// A temporary file of `path`: its name, a dot and random letters. No other file that is written here has such
-// a name, since their own ends in an extension.
+// The name of a temporary file for `path`: the file's name, a dot and random letters. It cannot be mistaken
+// for another file of the folder, because their names end in an extension.
 bool isTemporaryOf(const QString& path, const QString& name) {
   const auto isLetter = [](QChar c) { return c.unicode() < 0x80 && c.isLetter(); };
   const QString pattern = QFileInfo(pathBeside(path, temporarySuffix)).fileName();
@@ -37,7 +37,7 @@ bool isTemporaryOf(const QString& path, const QString& name) {
   return std::all_of(random.begin(), random.end(), isLetter);
 }
 
-// Removes what writers left that were killed: a living one has its temporary file locked.
+// Removes temporary files whose writers were killed; a running writer holds a lock on its file.
 void removeAbandoned(const QString& path) {
   const QFileInfo kept(path);
   const QStringList names = kept.dir().entryList(QDir::Files | QDir::Hidden);
@@ -51,17 +51,18 @@ void removeAbandoned(const QString& path) {
 
 enum class Replaced { Done, Failed, Taken };
 
-// Fails with the reason, or because the temporary file was gone again.
+// Fails with the reason, or when the temporary file has disappeared.
 Replaced replaceFile(const QString& path, const QByteArray& bytes, QString* reason) {
-  // A QTemporaryFile has mode 0600 from its creation on, and goes with its object unless it is renamed. Where
-  // the file system can, it has no name before it is asked for: a writer that is killed then leaves nothing.
+  // A QTemporaryFile has mode 0600 from its creation, and is removed with its object unless it is renamed.
+  // Where the file system supports it, the file has no name until one is asked for, so that a killed writer
+  // leaves nothing.
   QTemporaryFile file(pathBeside(path, temporarySuffix));
   const auto failed = [&](const QString& text) {
     *reason = text;
     return Replaced::Failed;
   };
   if (!file.open()) return failed(file.errorString());
-  // Where files cannot be locked none is ever taken for abandoned.
+  // Where files cannot be locked, none is ever considered abandoned.
   ::flock(file.handle(), LOCK_EX | LOCK_NB);
   if (file.write(bytes) != bytes.size() || !file.flush()) return failed(file.errorString());
   if (::fsync(file.handle()) != 0) return failed(qt_error_string(errno));
@@ -91,7 +92,7 @@ QString pathBeside(const QString& path, const QString& suffix) {
   return path.first(slash + 1) + name + suffix;
 }
 
-// A file that is as it is to become needs no sync of the disk, which costs more than all the rest.
+// A file that would not change is not written: syncing the disk costs more than everything else.
 bool holdsPrivately(const QString& path, const QByteArray& bytes) {
   return isPrivate(path) && readOwnFile(path, bytes.size()) == bytes;
 }
@@ -99,7 +100,7 @@ bool holdsPrivately(const QString& path, const QByteArray& bytes) {
 Outcome writePrivateFile(const QString& path, const QByteArray& bytes) {
   if (holdsPrivately(path, bytes)) return Outcome::done();
   removeAbandoned(path);
-  // A temporary file that has a name from the start can be taken for abandoned before it is locked.
+  // A temporary file that has a name from the start can be considered abandoned before it is locked.
   constexpr int mostTries = 100;
   QString reason = qt_error_string(ENOENT);
   for (int tries = 0; tries < mostTries; ++tries) {

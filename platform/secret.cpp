@@ -8,8 +8,8 @@ namespace {
 template <class Buffer>
 void wipeOwn(Buffer& buffer) {
   if (buffer.isDetached()) {
-    // All that is allocated: around its text a buffer can hold parts of a longer one. Its text need not begin
-    // where the storage does, which its capacity counts from.
+    // Wipes everything that is allocated, because a buffer can hold parts of a longer text around its own.
+    // The text need not begin at the start of the storage, from which the capacity is counted.
     auto& storage = buffer.data_ptr();
     OPENSSL_cleanse(storage.data() - storage.freeSpaceAtBegin(),
                     static_cast<std::size_t>(storage.constAllocatedCapacity()) * sizeof *storage.data());

@@ -1,4 +1,4 @@
-// Wiping of what held a pass code, a login name or a password.
+// Wiping memory that held a pass code, a login name or a password.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -6,8 +6,8 @@
 
 namespace kesto {
 
-/// Overwrites the storage and makes the buffer null. Storage that another buffer shares stays as it is: it is
-/// that one's to wipe.
+/// Overwrites the storage and makes the buffer null. Storage that is shared with another buffer stays as it
+/// is, for that buffer to wipe.
 void wipe(QByteArray& bytes);
 void wipe(QString& text);
 

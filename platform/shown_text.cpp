@@ -19,7 +19,7 @@ QString escapeOf(QChar c) {
          QString::number(c.unicode(), 16).rightJustified(isByte ? 2 : 4, u'0');
 }
 
-// Joiners are letters' own in several scripts, and stay.
+// Joiners stay, because several scripts need them within words.
 bool isObeyed(QChar c) {
   constexpr char16_t nonJoiner = 0x200C;
   constexpr char16_t joiner = 0x200D;
@@ -35,7 +35,7 @@ bool isObeyed(QChar c) {
   }
 }
 
-// How many bytes from `start` on are one character in UTF-8; 0 when they are none.
+// The number of bytes at `start` that form one character in UTF-8; 0 when they do not form one.
 qsizetype lengthOfCharacter(const QByteArray& bytes, qsizetype start) {
   constexpr qsizetype longest = 4;
   for (qsizetype length = 1; length <= qMin(longest, bytes.size() - start); ++length) {

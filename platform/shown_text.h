@@ -1,4 +1,4 @@
-// Texts that others have written, as one line of a terminal or a label shows them.
+// Texts from outside, made safe for one line of a terminal or a label.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -6,14 +6,14 @@
 
 namespace kesto {
 
-/// A text of a server's, a printer's or a user's, with control characters, line ends and direction marks as
-/// escapes ("\n", "\x1b", "\u202e"): neither does a terminal obey it nor does it break or turn its line.
+/// A text from a server, a printer or a user, with control characters, line ends and direction marks as
+/// escapes ("\n", "\x1b", "\u202e"), so that it cannot control a terminal, break its line or reverse it.
 QString shownText(const QString& text);
 
-/// The name of a file without its folders, from the bytes that the file system has, as `shownText`; bytes
-/// that are not UTF-8 are escapes, too ("\xf6").
+/// The name of a file without its folders, from the file system's bytes, escaped like `shownText`. Bytes that
+/// are not UTF-8 are escaped too ("\xf6").
 QString shownFileName(const QByteArray& path);
-/// The whole path, likewise.
+/// The whole path, escaped in the same way.
 QString shownPath(const QByteArray& path);
 
 }  // namespace kesto

@@ -1,4 +1,4 @@
-// Characters of two UTF-16 code units.
+// Characters that consist of two UTF-16 code units.
 #pragma once
 
 #include <QtCore/QStringView>

@@ -1,4 +1,4 @@
-// The platform that the hosts run on: the real account, clock, folders and preferences.
+// The platform of our hosts: the real account, clock, folders and preferences.
 #pragma once
 
 #include "platform/json_user_defaults.h"

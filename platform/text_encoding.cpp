@@ -23,8 +23,8 @@ struct EncodingRow {
 
 constexpr int none = -1;
 
-// In the order of TextEncoding. ICU has no converters for the four East Asian ones of the platform; see
-// docs/decisions.md for those that stand in.
+// In the order of TextEncoding. ICU has no converters for the platform's four East Asian encodings;
+// docs/decisions.md explains which are used instead.
 constexpr std::array rows{
     EncodingRow{"macos-0_2-10.2", 0, 30},
     EncodingRow{"ibm-943_P15A-2003", 1, none},
@@ -51,7 +51,7 @@ struct CloseConverter {
 
 using Converter = std::unique_ptr<UConverter, CloseConverter>;
 
-// A converter that stops at what does not convert; null when ICU has none of the name.
+// A converter that stops at a character it cannot convert; null when ICU does not know the name.
 Converter openConverter(const char* name) {
   UErrorCode status = U_ZERO_ERROR;
   Converter converter(ucnv_open(name, &status));
@@ -64,7 +64,7 @@ Converter openConverter(const char* name) {
   return converter;
 }
 
-// Opened once in a thread: opening a converter is far dearer than using it.
+// Opened once for each thread, because opening a converter costs far more than using it.
 UConverter* converterOf(TextEncoding encoding) {
   thread_local std::array<Converter, rows.size()> open;
   Converter& converter = open.at(static_cast<std::size_t>(encoding));
@@ -78,8 +78,8 @@ UConverter* converterOf(TextEncoding encoding) {
 // The text of all bytes; null when they are not valid.
 QString decoded(UConverter* converter, QByteArrayView bytes) {
   if (converter == nullptr) return {};
-  // No byte of these encodings stands for more than two units. No second copy is made: the text can be
-  // secret.
+  // In these encodings no byte stands for more than two units, so the text never grows: growing would leave a
+  // copy of a text that can be secret.
   QString text(bytes.size() * 2 + 1, Qt::Uninitialized);
   UErrorCode status = U_ZERO_ERROR;
   const int32_t count =
@@ -93,7 +93,7 @@ QString decoded(UConverter* converter, QByteArrayView bytes) {
   return text;
 }
 
-// One character in some encoding; of no bytes when it does not convert.
+// One character in some encoding; without bytes when it does not convert.
 struct CharacterBytes {
   std::array<char, 16> bytes{};
   qsizetype size = 0;
@@ -102,7 +102,7 @@ struct CharacterBytes {
 // `character` is one unit or a surrogate pair.
 CharacterBytes bytesOfCharacter(QStringView character, TextEncoding encoding) {
   CharacterBytes result;
-  // ASCII is the same in every one of them; ICU's Shift JIS swaps three control characters.
+  // ASCII is the same in every encoding, except that ICU's Shift JIS swaps three control characters.
   if (character.size() == 1 && character.front().unicode() < 0x80) {
     result.bytes[0] = static_cast<char>(character.front().unicode());
     result.size = 1;
@@ -118,12 +118,13 @@ CharacterBytes bytesOfCharacter(QStringView character, TextEncoding encoding) {
   return result;
 }
 
-// Room for so many units in any of the encodings. Text that grows without room leaves copies behind.
+// The most bytes that this many units can have in any of the encodings. They are reserved in advance, because
+// a text that outgrows its room leaves copies in memory.
 qsizetype mostBytesOf(qsizetype units) {
   return 4 * units;
 }
 
-// The character that begins at `position`: a surrogate pair is one.
+// The character that begins at `position`; a surrogate pair is one character.
 QStringView characterAt(QStringView text, qsizetype position) {
   const bool pair = isWithinPair(text, position + 1);
   return text.sliced(position, pair ? 2 : 1);

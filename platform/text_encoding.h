@@ -1,4 +1,4 @@
-// Byte encodings of text, with the conversions that the stored forms of names and codes are made by.
+// Byte encodings of text, with the conversions for the stored forms of names and codes.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -24,20 +24,21 @@ enum class TextEncoding {
   Utf8,
 };
 
-/// The platform's number of a system encoding (0 Mac Roman, 1 Mac Japanese, ...); -1 for the encodings that
-/// are never the system's.
+/// The platform's number of a system encoding (0 Mac Roman, 1 Mac Japanese, ...); -1 for encodings that are
+/// never the system encoding.
 int systemEncodingCode(TextEncoding encoding);
 /// The platform's number of an encoding that a PPD can declare (30 Mac Roman, 5 ISO Latin-1, 4 UTF-8, ...);
 /// -1 for the others.
 int stringEncodingCode(TextEncoding encoding);
 
-/// The system encoding of a locale name such as "ja_JP.UTF-8"; Mac Roman for every language without its own.
+/// The system encoding of a locale name such as "ja_JP.UTF-8"; Mac Roman for every language that has no
+/// encoding of its own.
 TextEncoding systemEncodingForLocale(const QString& locale);
 
-/// The bytes of the first `maxUnits` UTF-16 units of `text`, at most `maxBytes`. A character whose bytes
-/// would pass the limit ends the conversion before it. A character that does not convert gives `substitute`
-/// as one byte, or ends the conversion when there is no substitute. A surrogate pair counts as one character
-/// and is taken whole.
+/// The bytes of the first `maxUnits` UTF-16 units of `text`, at most `maxBytes`. The conversion ends before a
+/// character whose bytes would exceed the limit. A character that does not convert becomes `substitute`, one
+/// byte; without a substitute it ends the conversion. A surrogate pair counts as one character and is never
+/// split.
 QByteArray bytesOfText(QStringView text, TextEncoding encoding, qsizetype maxUnits, qsizetype maxBytes,
                        std::optional<char> substitute = std::nullopt);
 

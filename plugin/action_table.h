@@ -7,16 +7,15 @@
 
 namespace kesto {
 
-/// The groups whose operations are actions or rules; they outlive the view that is bound to them.
+/// The groups whose operations are actions or rules. They outlive the view that is bound to them.
 struct ActionGroups {
   EnablingRules& rules;
   ControlActions& actions;
   FolderQuery& folderQuery;
 };
 
-/// Connects every control of `view` to the action that its layout names, and every matrix to the rules that
-/// its layout asks for. A name without an operation is reported in the log, and the control then does
-/// nothing.
+/// Connects every control of `view` to the action that the layout names for it, and every matrix to its
+/// rules. A name without an operation is reported in the log, and the control does nothing.
 void bindActions(const PanelView& view, const ActionGroups& groups);
 
 }  // namespace kesto

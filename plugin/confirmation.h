@@ -1,4 +1,4 @@
-// What the panel checks before the job goes out, and how it sums itself up.
+// What the panel checks before the job goes out, and its summary.
 #pragma once
 
 #include <QtCore/QMap>
@@ -8,8 +8,8 @@
 
 namespace kesto {
 
-/// Whether the entry that the choice in force asks for is there: the login name, also while it is held, or
-/// the user number. A control that the layout leaves out is not asked for.
+/// Whether the entry that the current choice requires is present: the login name, even while it is held, or
+/// the user number. A control that the layout leaves out is not required.
 bool isAuthenticationEntered(const PanelState& state);
 
 /// Shows the alert that asks for the authentication entries.

@@ -1,4 +1,4 @@
-// The bundle's principal object, which makes the panels.
+// The bundle's principal object, which creates the panels.
 #pragma once
 
 #include "platform/panel.h"
@@ -14,8 +14,8 @@ class KestoPrintPdeVq250nJCPDEPlugIn : public QObject, public PrintDialogPlugIn 
  public:
   /// Does nothing with the bundle; always succeeds.
   bool initWithBundle(const Bundle& bundle) override;
-  /// One new panel for the print dialog, no panel for another type; none when the panel cannot be made, as
-  /// without a host.
+  /// One new panel for the print dialog, no panel for another type; none when the panel cannot be created,
+  /// for example without a host.
   PanelList PDEPanelsForType(const QString& type, HostCallback* withHostInfo) override;
 };
 

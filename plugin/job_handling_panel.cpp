@@ -63,13 +63,12 @@ void KestoPrintPdeVq250nJC::gatherPrinterFacts() {
     m_preferences.GetFolderPreference();
   }
   m_state.requestData = m_state.pdeBundle->resource(QStringLiteral("listfiles2"), QStringLiteral("xml"));
-  // Only now: the preferences are loaded as for a printer without features.
+  // Read only now, because the preferences are loaded as if the printer had no features.
   m_state.kesto_print_system = declaresKestoPrintSystem(m_ppd);
   m_state.active_directory = declaresActiveDirectory(m_ppd);
 }
 
-// The host is copied as it is written, so it is cut from the text rather than asked of a URL class, which
-// changes its case.
+// The host is copied as it is written. A URL class would change its letter case, so it is cut from the text.
 void KestoPrintPdeVq250nJC::keepPrinterAddress(const QString& deviceUri) {
   const QString scheme = deviceUri.section(u':', 0, 0);
   if (scheme != u"ipp" && scheme != u"lpd" && scheme != u"socket") return;

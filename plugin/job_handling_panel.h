@@ -1,4 +1,4 @@
-// The Job Handling panel: the controller that gathers the groups and answers the host.
+// The Job Handling panel: the controller that joins the groups and answers the host.
 #pragma once
 
 #include <memory>
@@ -19,10 +19,10 @@ namespace kesto {
 /// The host's callback object, as the panel knows it.
 using KestoPrintPdeVq250nJCPDEPluginCallback = HostCallback;
 
-/// One panel of one print dialog. Construction gathers the facts about the current printer, which stay as
-/// they are; the controls are made when the host first wants them. Everything runs on the dialog's thread,
-/// and nothing is reported but by the two alerts. The properties are the panel's facts; encodings are
-/// numbers, none is null.
+/// One panel of one print dialog. Construction gathers the facts about the current printer, which do not
+/// change later; the controls are created when the host first needs them. Everything runs on the dialog's
+/// thread, and the panel reports only through its two alerts. The properties are the panel's facts; encodings
+/// are numbers, none is null.
 class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries {
   Q_OBJECT
   Q_PROPERTY(QVariant ppdEncoding READ ppdEncoding CONSTANT)
@@ -76,7 +76,7 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   bool isActiveDirectory() const { return m_state.active_directory; }
   bool usesConstraintHandling() const { return m_state.useConstraintHandling; }
   bool hasInited() const { return m_state.hasInited; }
-  /// Whether a restore made the view; the panel owns the view either way.
+  /// Whether a restore created the view; the panel owns the view in either case.
   bool isPanelViewRetained() const { return m_isPanelViewRetain; }
   int prefHoldButtonFlag() const { return m_state.prefHoldButtonFlag; }
   int presetHoldButtonFlag() const { return m_state.presetHoldButtonFlag; }
@@ -99,7 +99,7 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   ppd_file_s* m_ppd = nullptr;  // the host's
   QString m_thePDEName;
   std::unique_ptr<PanelView> m_panelView;
-  bool m_isPanelViewRetain = false;  // the view was first made by a restore
+  bool m_isPanelViewRetain = false;  // a restore created the view
 };
 
 }  // namespace kesto

@@ -32,7 +32,7 @@ constexpr std::array encodingNames{
 }  // namespace
 
 TextEncoding getEncodingFromPPD(ppd_file_t* ppd) {
-  // libcups claims UTF-8 for every PPD in its record; the attribute holds what the file declares.
+  // libcups's record says UTF-8 for every PPD; the attribute contains what the file declares.
   const std::optional<QByteArray> declared = attributeOf(ppd, "LanguageEncoding");
   for (const EncodingName& row : encodingNames) {
     if (declared == row.name) return row.encoding;

@@ -16,10 +16,10 @@ TextEncoding getEncodingFromPPD(ppd_file_s* ppd);
 /// The PPD's model name decoded with `encoding`; null when it has none or it does not decode.
 QString modelNameOfPPD(ppd_file_s* ppd, TextEncoding encoding);
 
-/// Attribute "ARKestoPrintSystem": present, and neither "False" nor "FALSE".
+/// True when the attribute "ARKestoPrintSystem" is present and neither "False" nor "FALSE".
 bool declaresKestoPrintSystem(ppd_file_s* ppd);
 
-/// Attribute "ARActiveDirectory": "True" or "TRUE".
+/// True when the attribute "ARActiveDirectory" is "True" or "TRUE".
 bool declaresActiveDirectory(ppd_file_s* ppd);
 
 }  // namespace kesto

@@ -35,10 +35,10 @@ struct Mask {
   bool exact = false;
 };
 
-// A number as a signed 32-bit integer; inexact when that loses something.
+// A number as a signed 32-bit integer; not exact when a part is lost.
 Mask maskOf(const QJsonValue& stored) {
   const double number = stored.toDouble();
-  // Beyond these a double has no integer to speak of.
+  // Beyond these limits a double is not converted to an integer.
   constexpr double limit = 9.0e18;
   if (!(std::abs(number) < limit)) return {};
   const auto whole = static_cast<std::int64_t>(number);
@@ -129,7 +129,7 @@ void PreferenceStore::storeEntry(const HeldField& row, QJsonObject* record) cons
   if (field == nullptr) return;
   QString text = field->stringValue();
   if (row.field == Held::LoginName && isExactlyOn(m_state.outlets.*row.button)) {
-    // The field shows bullets.
+    // The field itself shows bullets.
     text = m_state.loginNameStringRef;
     if (text.isEmpty()) return;
   }

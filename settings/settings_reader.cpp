@@ -130,7 +130,7 @@ void SettingsReader::selectFolder(int item, int row) {
   if (o.folderSelectionMatrix != nullptr) o.folderSelectionMatrix->selectRow(row);
 }
 
-// Whether the keys chose a folder.
+// Whether the keys choose a folder.
 bool SettingsReader::readFilingKeys() {
   const QChar filing = firstCharacter(value(job_keys::filing));
   if (filing == QLatin1Char(job_keys::filingDigit(QuickFile))) {
@@ -150,7 +150,7 @@ bool SettingsReader::readFilingKeys() {
 void SettingsReader::readFiling() {
   const HeldField& row = rowOf(Held::FolderName);
   bool hold = isPresetHeld(row);
-  // The remembered folders are offered without a fetch, and no choice may lie beyond the items.
+  // Remembered folders are offered without a fetch, so that no stored choice lies beyond the pop-up's items.
   if (!m_folderPopup.offersAllFolders()) m_folderPopup.makeFolderPopup();
   bool selected = readFilingKeys();
   if (m_state.outlets.folderSelectionMatrix != nullptr && takePreferenceBit(row)) {
@@ -200,7 +200,7 @@ void SettingsReader::readLoginName() {
   } else {
     const StoredLoginName ofJob = storedLoginName();
     stored = ofJob.sealed;
-    // Under directory operation the account's name stands in for an incomplete one.
+    // Under directory operation the account's name replaces an incomplete one.
     useAccountName = m_state.active_directory && !ofJob.isWhole;
     hold = hold || isPresetHeld(row);
   }

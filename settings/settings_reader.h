@@ -7,8 +7,8 @@
 namespace kesto {
 
 /// Sets every control from the job's print settings and the remembered values, and sends the controls'
-/// actions, so that the enabling rules hold. A remembered value wins over the print settings once: its bit of
-/// `prefHoldButtonFlag` goes with it.
+/// actions, so that the enabling rules hold. A remembered value takes precedence over the print settings
+/// once, and its bit of `prefHoldButtonFlag` is then cleared.
 class SettingsReader {
  public:
   SettingsReader(PanelState& state, ControlActions& actions, FolderPopup& folderPopup)
@@ -19,10 +19,10 @@ class SettingsReader {
   void getNonPPDSettingsFromPrintSettings();
 
  private:
-  // The sealed login name of the job, which holds it in two pieces.
+  // The job's sealed login name, which is stored in two pieces.
   struct StoredLoginName {
     QByteArray sealed;
-    bool isWhole = false;  // both pieces are there
+    bool isWhole = false;  // both pieces are present
   };
 
   void readHoldMask();

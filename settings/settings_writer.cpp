@@ -24,7 +24,7 @@ QByteArray scrubbed(QByteArray bytes) {
   return bytes;
 }
 
-// What is beside sealed digits: their digest, bound to the job by its spool time, or the digits themselves.
+// The companion of sealed digits: their digest, bound to the job by its spool time, or the digits themselves.
 QByteArray besideSealed(JobForm form, const QByteArray& digits, const QByteArray& spoolTime) {
   if (digits.isEmpty()) return {};
   if (form == JobForm::Number) return paddedDigits(digits);
@@ -66,7 +66,7 @@ void SettingsWriter::writeNonPPDSettingsToPrintSettings() {
 // The spool time of the job's first write, as plain text.
 QByteArray SettingsWriter::writeSpoolTime() {
   const std::optional<QString> stored = m_state.printSettings()->value(job_keys::whole(job_keys::spoolTime));
-  // The length counts as it stands: a NUL hides nothing behind it.
+  // The whole stored length counts, even beyond a NUL.
   if (stored && stored->size() % 2 == 0 && stored->size() <= longestSpoolTimeHex) {
     const std::optional<QByteArray> hex = asciiOfText(*stored, longestSpoolTimeHex + 1);
     if (hex) return textOfHex(*hex);
@@ -86,7 +86,7 @@ int SettingsWriter::writeFiling() {
   return row;
 }
 
-// The row of the folder choice, by the pop-up when the layout has no matrix.
+// The row of the folder choice, taken from the pop-up when the layout has no matrix.
 int SettingsWriter::folderChoice() const {
   const Outlets& o = m_state.outlets;
   if (o.folderSelectionMatrix != nullptr) return o.folderSelectionMatrix->selectedRow();
@@ -94,7 +94,7 @@ int SettingsWriter::folderChoice() const {
                                            : qMin(o.folderSelectionPopup->selectedIndex(), int{CustomFolder});
 }
 
-// A folder of the printer's list, else the typed name; the standard folder when the layout has no matrix.
+// A folder of the printer's list or the typed name; the standard folder when the layout has no matrix.
 void SettingsWriter::writeFolderPath() {
   const Outlets& o = m_state.outlets;
   const int item = o.folderSelectionPopup == nullptr ? -1 : o.folderSelectionPopup->selectedIndex();
@@ -123,7 +123,7 @@ void SettingsWriter::writeFolderName(const QString& name) {
   if (fits(bytes)) storeInPieces(row.utf8, hexText(*bytes));
 }
 
-// Whether a suspend key applies.
+// Returns whether the job is held, in which case it has a pass code.
 bool SettingsWriter::writeRetention(int filing) {
   const Outlets& o = m_state.outlets;
   const bool quickFileInstead = m_capabilities.isVelkoMorra() && filing == QuickFile;
@@ -151,7 +151,7 @@ void SettingsWriter::writeDigits(const HeldField& row, const QByteArray& spoolTi
 
 void SettingsWriter::writeName(const HeldField& row) {
   const int limit = row.writtenBytes;
-  // Under directory operation the printer knows the user; the panel sends no user name.
+  // Under directory operation the printer knows the user, so the panel sends no user name.
   const bool isUnknown = row.field == Held::UserName && m_state.active_directory;
   const QString name = isUnknown ? QString() : textOfField(m_state.outlets.*row.edit);
   QByteArray bytes = bytesOfText(name, m_state.systemEncoding, limit, limit);

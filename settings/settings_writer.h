@@ -6,16 +6,16 @@
 
 namespace kesto {
 
-/// Turns the controls into the keys that the printer driver's filter reads. Every run rewrites the keys
-/// from the controls; the spool time stays, the pass code's keys without retention, and `folderPath` without
-/// filing.
+/// Turns the controls into the keys that the printer driver's filter reads. Every run rewrites all keys from
+/// the controls, with three exceptions: the spool time stays, without retention the pass code's keys stay,
+/// and without filing `folderPath` stays.
 class SettingsWriter {
  public:
   SettingsWriter(PanelState& state, const CapabilityQueries& capabilities)
       : m_state(state), m_capabilities(capabilities) {}
 
   /// Does nothing without print settings or before the controls are initialised. Changes nothing in the panel
-  /// and reports no error: what cannot be converted is stored as far as it goes, or its key is removed.
+  /// and reports no error: a value that cannot be converted is stored in part, or its key is removed.
   void writeNonPPDSettingsToPrintSettings();
 
  private:

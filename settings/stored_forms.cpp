@@ -20,7 +20,7 @@ std::span<const std::uint8_t> bytesOf(const QByteArray& array) {
   return {reinterpret_cast<const std::uint8_t*>(array.constData()), static_cast<std::size_t>(array.size())};
 }
 
-// Holds the bytes that myatoi makes of the text, and its NUL.
+// Room for the bytes that myatoi makes of the text, and its NUL.
 QByteArray bytesOfHex(const QByteArray& hex) {
   QByteArray bytes(hex.size() / 2 + 1, '\0');
   myatoi({hex.constData(), static_cast<std::size_t>(hex.size())},

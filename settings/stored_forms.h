@@ -1,5 +1,5 @@
-// The stored forms of codes, numbers and names, built from the value helpers and the cipher. Both the print
-// settings and the preferences use them.
+// The stored forms of codes, numbers and names, built from the value helpers and the cipher, for print
+// settings and preferences alike.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -8,7 +8,7 @@
 
 namespace kesto {
 
-/// Most bytes of a name that fit a stored form.
+/// The longest name that fits into a stored form, in bytes.
 inline constexpr qsizetype longestNameBytes = 774;
 
 /// All bytes as upper-case hexadecimal text.
@@ -22,9 +22,9 @@ QByteArray jobDigest(const QByteArray& first, const QByteArray& second);
 
 /// The first `cipherBytes` bytes of the enciphered text as hexadecimal text; empty for an empty text.
 QByteArray sealedHex(const QByteArray& plaintext, int cipherBytes);
-/// The plaintext of a sealed hexadecimal value, up to its first zero byte; empty when the value has less than
-/// `2 * cipherBytes` characters. A second block that is all "0" is no cipher text: a plaintext that filled
-/// the first block left it.
+/// The plaintext of a sealed hexadecimal value, up to its first zero byte; empty when the value has fewer
+/// than `2 * cipherBytes` characters. A second block of "0" only is not cipher text: it remains when the
+/// plaintext filled just the first block.
 QByteArray plaintextOfSealedHex(const QByteArray& hex, int cipherBytes);
 
 /// The enciphered text in Base64; empty for an empty text. At most 255 bytes.

@@ -40,7 +40,7 @@ class Button : public Control {
   const std::optional<Image>& alternateImage() const { return m_alternateImage; }
   void setAlternateImage(const std::optional<Image>& image) { assign(m_alternateImage, image); }
 
-  /// The user's click: toggles the state (not of a push button) and sends the action. Fails when disabled.
+  /// The user clicks: toggles the state, except of a push button, and sends the action. Fails when disabled.
   Outcome click();
 
  private:
@@ -55,7 +55,7 @@ class Button : public Control {
   std::optional<Image> m_alternateImage;
 };
 
-/// The name of an image for hosts that only tell it; null without an image.
+/// The name of an image, for hosts that do not show it; null without an image.
 QVariant nameOfImage(const std::optional<Image>& image);
 
 }  // namespace kesto

@@ -1,4 +1,4 @@
-// The base of every control of a panel: an observable object with a name, a kind and an action.
+// The base of all controls: an observable object with a name, a kind and an action.
 #pragma once
 
 #include <QtCore/QObject>
@@ -10,7 +10,7 @@ namespace kesto {
 
 class PanelView;
 
-/// A picture that a control shows. The model only knows its name, file and size in points.
+/// A picture that a control shows. The model knows only its name, file and size in points.
 struct Image {
   QString name;  ///< "ulck", "lock" or "space".
   QString path;  ///< The image file; null when the bundle has none.
@@ -19,8 +19,8 @@ struct Image {
   bool operator==(const Image&) const = default;
 };
 
-/// A control. The readable properties are what a host shows; `changed()` follows every change of one of them.
-/// Setting a property from code sends no action; only the operations of the user do.
+/// A control. Its properties are what a host shows, and `changed()` is emitted after a change of any of them.
+/// Only the user's operations send the action; setting a property from code does not.
 class Control : public QObject {
   Q_OBJECT
   Q_PROPERTY(QString kind READ kind CONSTANT)
@@ -47,7 +47,7 @@ class Control : public QObject {
  Q_SIGNALS:
   /// A property has changed.
   void changed();
-  /// The user has operated the control; its action is to run.
+  /// The user has operated the control, and its action is to run.
   void actionSent(kesto::Control* sender);
 
  protected:

@@ -17,7 +17,7 @@ class PanelView : public QObject {
  public:
   using QObject::QObject;
 
-  /// All controls, in the order in which they were made.
+  /// All controls, in the order of their creation.
   QList<Control*> controls() const;
   /// The control of that name and type; null when there is none.
   template <class T = Control>
@@ -25,14 +25,14 @@ class PanelView : public QObject {
     return findChild<T*>(name, Qt::FindDirectChildrenOnly);
   }
 
-  /// The form that the controls were made from, a Qt Designer form in UTF-8: a host with a window shows it,
-  /// each widget bound to the control of its name.
+  /// The Qt Designer form in UTF-8 from which the controls were created. A host with a window shows it and
+  /// binds each widget to the control of the same name.
   const QByteArray& form() const { return m_form; }
   void setForm(const QByteArray& form) { m_form = form; }
 
   /// The field that has keyboard focus, null for none.
   TextField* firstResponder() const { return m_firstResponder; }
-  /// Gives keyboard focus to a field, or takes it from whichever has it (null).
+  /// Gives the keyboard focus to a field, or to none (null).
   void makeFirstResponder(TextField* field);
 
  Q_SIGNALS:

@@ -34,17 +34,18 @@ class PopUp : public Control {
   void setEnabled(bool enabled) { assign(m_enabled, enabled); }
 
   const std::vector<PopUpItem>& items() const { return m_items; }
-  /// Replaces all items. The selected index stays, or falls to the last item when it lies beyond.
+  /// Replaces all items. The selected index stays the same, or becomes that of the last item when it would
+  /// lie beyond.
   void setItems(std::vector<PopUpItem> items);
 
   int selectedIndex() const { return m_selectedIndex; }
-  /// Selects an item that exists and is no separator; another number changes nothing.
+  /// Selects an item that exists and is not a separator; another index changes nothing.
   void selectItemAtIndex(int index);
   /// The selected item, null when none is.
   const PopUpItem* selectedItem() const;
 
-  /// The user's choice of an item, also of the one chosen before; sends the action. Fails when disabled, out
-  /// of range or a separator.
+  /// The user chooses an item, possibly the selected one: sends the action. Fails when disabled, out of range
+  /// or on a separator.
   Outcome choose(int index);
 
  private:

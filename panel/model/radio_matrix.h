@@ -18,14 +18,14 @@ class RadioCell : public Control {
   Q_PROPERTY(int state READ state NOTIFY changed)
 
  public:
-  /// Made by RadioMatrix::addCell.
+  /// Called by RadioMatrix::addCell.
   RadioCell(const QString& name, RadioMatrix* matrix, int row);
 
   QString kind() const override { return QStringLiteral("radio"); }
   const QString& title() const { return m_title; }
   void setTitle(const QString& title) { assign(m_title, title); }
   int state() const;
-  /// As the matrix.
+  /// Like the matrix.
   bool isEnabled() const;
   RadioMatrix* matrix() const { return m_matrix; }
   int row() const { return m_row; }
@@ -63,12 +63,12 @@ class RadioMatrix : public Control {
   const QStringList& rules() const { return m_rules; }
   void setRules(const QStringList& rules) { m_rules = rules; }
 
-  /// The user's choice of a row, also of the one chosen before; sends the action. Fails when disabled or out
-  /// of range.
+  /// The user chooses a row, possibly the selected one: sends the action. Fails when disabled or out of
+  /// range.
   Outcome choose(int row);
 
  Q_SIGNALS:
-  /// Another row is selected, by the user or from code.
+  /// Emitted when another row is selected, by the user or from code.
   void selectedRowChanged(kesto::RadioMatrix* matrix);
 
  private:

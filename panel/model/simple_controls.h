@@ -39,7 +39,7 @@ class TabView : public Control {
   int m_selectedTab = 0;
 };
 
-/// A spinning indicator of work that has no known end.
+/// A spinning indicator for work of unknown duration.
 class ProgressIndicator : public Control {
   Q_OBJECT
 

@@ -47,7 +47,7 @@ void TextField::insert(QStringView text) {
 
 Outcome TextField::type(const QString& text) {
   if (Outcome begun = beginEdit(); !begun) return begun;
-  // Without a filter, which keeps a text short, each character would copy and wipe all before it.
+  // Without a filter a text can be long, and typing it by characters would copy and wipe it for each of them.
   if (!m_formatter) {
     insert(text);
     return Outcome::done();

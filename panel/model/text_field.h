@@ -1,4 +1,4 @@
-// Labels and text fields, and the formatter that watches over what the user types.
+// Labels and text fields, and the formatter that judges what the user types.
 #pragma once
 
 #include <memory>
@@ -16,8 +16,8 @@ struct TextRange {
   bool operator==(const TextRange&) const = default;
 };
 
-/// Judges every edit of the user before it happens. A field shows its value as it is: the conversions of a
-/// value are part of the protocol of formatters, and no field asks for them.
+/// Judges every edit of the user before it happens. A field shows its value unchanged: the conversions of
+/// values belong to the protocol of formatters, but no field uses them.
 class Formatter {
  public:
   virtual ~Formatter() = default;
@@ -26,15 +26,16 @@ class Formatter {
   virtual QString stringForObjectValue(const QVariant& value) const;
   /// The value of a text; `errorDescription` is never set. Succeeds for every text.
   virtual bool getObjectValue(QVariant* value, const QString& forString, QString* errorDescription) const;
-  /// Whether the field may become `partialString` with `proposedSelectedRange` selected. On refusal the two
-  /// may have been replaced by what the field is to show instead; otherwise it stays as it was.
+  /// Whether the field may become `partialString` with `proposedSelectedRange` selected. On refusal both
+  /// arguments may have been replaced by what the field is to show instead; unchanged ones leave the field as
+  /// it was.
   virtual bool isPartialStringValid(QString& partialString, TextRange& proposedSelectedRange,
                                     const QString& originalString, TextRange originalSelectedRange,
                                     QString* errorDescription) const = 0;
 };
 
 /// A line of text: a label (tag 0) or a field that the user can edit (any other tag). Positions and lengths
-/// count UTF-16 code units. A text that is replaced, or goes with its field, is wiped.
+/// count UTF-16 code units. A text is wiped when it is replaced or its field is destroyed.
 class TextField : public Control {
   Q_OBJECT
   Q_PROPERTY(QString stringValue READ stringValue NOTIFY changed)
@@ -55,7 +56,7 @@ class TextField : public Control {
   int tag() const { return m_tag; }
 
   const QString& stringValue() const { return m_stringValue; }
-  /// Sets the text from code: past the formatter, and with the caret at the end.
+  /// Sets the text from code, without the formatter and with the caret at the end.
   void setStringValue(const QString& text);
 
   bool isEditable() const { return m_editable; }
@@ -69,18 +70,18 @@ class TextField : public Control {
   const Formatter* formatter() const { return m_formatter.get(); }
   void setFormatter(std::unique_ptr<Formatter> formatter) { m_formatter = std::move(formatter); }
 
-  /// The user types at the selection, character by character, each through the formatter if there
-  /// is one. Like the three that
-  /// follow, it makes the field the first responder, and fails when the field does not take it.
+  /// The user types at the selection, character by character, each through the formatter if there is one.
+  /// This and the next three operations make the field the first responder, and fail when the field does not
+  /// accept them.
   Outcome type(const QString& text);
-  /// The user inserts a text at the selection at once.
+  /// The user inserts a text at the selection in one step.
   Outcome paste(const QString& text);
   /// The user deletes the selection, or the character before it.
   Outcome backspace();
-  /// The user sets the selection, clamped to the text. It takes a surrogate pair whole.
+  /// The user sets the selection, which is clamped to the text and never splits a surrogate pair.
   Outcome placeCaret(TextRange range);
-  /// One edit of the user, already worked out by a toolkit: the text as it would become and the selection in
-  /// it. The formatter decides what the field then holds.
+  /// Applies one edit that a toolkit has computed: the resulting text and the selection in it. The formatter
+  /// decides what the field then contains.
   void edit(QString proposed, TextRange proposedSelection);
 
  private:
