@@ -1,10 +1,6 @@
 #include "hosts/dialog/print_dialog.h"
 
-#include <QtGui/QAccessible>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
 #include <utility>
@@ -13,6 +9,8 @@
 #include "hosts/dialog/panes/general_pane.h"
 #include "hosts/dialog/panes/summary_pane.h"
 #include "hosts/dialog/preview/preview.h"
+#include "hosts/dialog/widgets/dialog_foot.h"
+#include "hosts/dialog/widgets/document_line.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
@@ -190,30 +188,20 @@ void PrintDialog::showDocument() {
   const std::vector<JobFile> files = state == State::Ready ? m_document.files() : std::vector<JobFile>();
   QString text = m_document.name();
   if (state == State::None) text = m_options.documentLater ? shownText(m_options.title) : tr("none chosen");
-  showDocumentName(text);
+  m_documentLine->show(text, m_document.faults());
   m_preview->show(files, state == State::Reading   ? tr("The document is being read…")
                          : state == State::Paused  ? tr("The document is long. Print reads the rest.")
                          : m_options.documentLater ? tr("The application draws the pages after the choice.")
                                                    : tr("No document"));
   takePageCount();
-  m_chooseDocument->setVisible(m_options.channel < 0 && !m_options.documentLater &&
-                               (state == State::Failed || state == State::None));
+  m_documentLine->offerChoice(m_options.channel < 0 && !m_options.documentLater &&
+                              (state == State::Failed || state == State::None));
   m_session.renameJob(jobName());
   const bool isAsShown = state == State::Ready && m_document.faults().size() == m_faultsShown;
   if (m_phase == Phase::Waiting && isAsShown) return sendExamined();
   if (m_phase == Phase::Waiting && (state == State::Ready || state == State::Failed))
     return takeSendFailure(m_document.faults().join(u' '));
   updateControls();
-}
-
-// Its name, and below it what is missing of it.
-void PrintDialog::showDocumentName(const QString& name) {
-  constexpr qsizetype mostLines = 4;
-  QStringList lines = m_document.faults();
-  if (!name.isEmpty()) lines.prepend(name);
-  m_documentName->setToolTip(lines.join(u'\n').toHtmlEscaped());
-  if (lines.size() > mostLines) lines = lines.first(mostLines) << QStringLiteral("…");
-  m_documentName->setText(lines.join(u'\n'));
 }
 
 // Of several documents each has pages of its own, and of one that was drawn as chosen all pages are meant.
@@ -230,7 +218,7 @@ void PrintDialog::chooseDocument() {
 }
 
 void PrintDialog::print() {
-  if (!m_print->isEnabled()) return;
+  if (!m_foot->printButton().isEnabled()) return;
   showMessage({});
   if (!m_general->fault().isNull()) {
     m_panes->setCurrentWidget(m_general);
@@ -296,9 +284,8 @@ void PrintDialog::takeSendFailure(const QString& reason) {
 
 void PrintDialog::setPhase(Phase phase) {
   m_phase = phase;
-  m_progress->setRange(0, 0);
-  m_progress->setVisible(phase == Phase::Sending);
-  if (phase == Phase::Sent) setPlainText(*m_buttons->button(QDialogButtonBox::Cancel), tr("Close"));
+  m_foot->showProgress(phase == Phase::Sending);
+  if (phase == Phase::Sent) m_foot->offerClose();
   updateControls();
 }
 
@@ -311,28 +298,22 @@ void PrintDialog::updateChoiceFault() {
 
 void PrintDialog::showMessage(const QString& message) {
   m_choiceFault.clear();
-  const QString text = shownText(message);
-  m_message->setText(text);
-  m_message->setAccessibleName(text);
-  if (text.isEmpty()) return;
-  QAccessibleEvent event(m_message, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+  m_foot->showMessage(message);
 }
 
 void PrintDialog::updateControls() {
   const bool isChoosing = m_phase == Phase::Choosing;
-  // With the chooser, its label and the document's.
+  // With the chooser, its label and the document.
   for (QWidget* part : {m_chooser->parentWidget(), static_cast<QWidget*>(m_panes)})
     part->setEnabled(isChoosing);
   m_presets->setEnabled(isChoosing && m_session.presets() != nullptr);
-  m_chooseDocument->setEnabled(isChoosing);
   using State = Document::State;
   const State state = m_document.state();
   const bool isMissing =
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
   const bool isTaker = m_opening->summary().isAccepting && !m_chooser->isPending();
-  m_print->setEnabled(isQueueReady() && isTaker && !isMissing);
-  m_print->setToolTip(isMissing ? tr("There is no document to print yet.") : QString());
+  m_foot->printButton().setEnabled(isQueueReady() && isTaker && !isMissing);
+  m_foot->printButton().setToolTip(isMissing ? tr("There is no document to print yet.") : QString());
 }
 
 void PrintDialog::reject() {

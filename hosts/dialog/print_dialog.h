@@ -11,14 +11,12 @@
 #include "hosts/session/job_option_table.h"
 #include "hosts/session/panel_session.h"
 
-class QDialogButtonBox;
-class QLabel;
-class QProgressBar;
-class QPushButton;
 class QTabWidget;
 
 namespace kesto {
 
+class DialogFoot;
+class DocumentLine;
 class GeneralPane;
 class PanelPane;
 class PresetMenu;
@@ -77,7 +75,6 @@ class PrintDialog : public QDialog {
   void build();
   QWidget* makeHead();
   QWidget* makePanes();
-  QWidget* makeFoot();
   void connectParts();
   void connectQueues();
   void chooseQueue(const QString& name);
@@ -92,7 +89,6 @@ class PrintDialog : public QDialog {
   void showPanel();
   void leaveQueue();
   void showDocument();
-  void showDocumentName(const QString& name);
   void chooseDocument();
   void print();
   void sendExamined();
@@ -120,17 +116,13 @@ class PrintDialog : public QDialog {
   int m_job = 0;
   QueueChooser* m_chooser = nullptr;
   PresetMenu* m_presets = nullptr;
-  QLabel* m_documentName = nullptr;
-  QPushButton* m_chooseDocument = nullptr;
+  DocumentLine* m_documentLine = nullptr;
   Preview* m_preview = nullptr;
   QTabWidget* m_panes = nullptr;
   GeneralPane* m_general = nullptr;
   PanelPane* m_panelPane = nullptr;
   SummaryPane* m_summary = nullptr;
-  QLabel* m_message = nullptr;
-  QProgressBar* m_progress = nullptr;
-  QDialogButtonBox* m_buttons = nullptr;
-  QPushButton* m_print = nullptr;
+  DialogFoot* m_foot = nullptr;
   QueueWatch m_watch;
   QueueClient m_client;
   std::optional<QueueOpening> m_opening;  // from the chooser on

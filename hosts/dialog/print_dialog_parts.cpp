@@ -1,10 +1,8 @@
 // The parts of the print dialog, where they stand and what they call.
 #include <QtGui/QShortcut>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
@@ -13,12 +11,13 @@
 #include "hosts/dialog/panes/general_pane.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
+#include "hosts/dialog/widgets/dialog_foot.h"
+#include "hosts/dialog/widgets/document_line.h"
 #include "hosts/dialog/widgets/help.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
 #include "hosts/dialog/widgets/tab_order.h"
-#include "hosts/dialog/widgets/wrapped_label.h"
 
 namespace kesto {
 namespace {
@@ -38,12 +37,13 @@ void PrintDialog::build() {
   auto* side = new QVBoxLayout;
   side->addWidget(makeHead());
   side->addWidget(makePanes(), 1);
+  m_foot = new DialogFoot(this);
   auto* body = new QHBoxLayout;
   body->addWidget(m_preview, 1);
   body->addLayout(side);
   auto* column = new QVBoxLayout(this);
   column->addLayout(body, 1);
-  column->addWidget(makeFoot());
+  column->addWidget(m_foot);
   // Room for the panel, so that the window need not grow when that comes.
   resize(fontMetrics().horizontalAdvance(u'0') * 110, fontMetrics().height() * 42);
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
@@ -54,16 +54,7 @@ QWidget* PrintDialog::makeHead() {
   auto* head = new QWidget(this);
   m_presets = new PresetMenu(m_session, head);
   m_chooser = new QueueChooser(head);
-  m_documentName = new WrappedLabel(head);
-  m_documentName->setObjectName(QStringLiteral("documentName"));
-  m_documentName->setTextFormat(Qt::PlainText);
-  m_chooseDocument = new QPushButton(head);
-  setPlainText(*m_chooseDocument, tr("Choose…"));
-  m_chooseDocument->setAccessibleName(tr("Choose the document"));
-  m_chooseDocument->setAutoDefault(false);
-  auto* document = new QHBoxLayout;
-  document->addWidget(m_documentName, 1);
-  document->addWidget(m_chooseDocument);
+  m_documentLine = new DocumentLine(head);
   auto* presets = new QHBoxLayout;
   presets->addWidget(m_presets);
   presets->addStretch();
@@ -72,7 +63,7 @@ QWidget* PrintDialog::makeHead() {
   form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
   form->addRow(QString(), presets);
   form->addRow(labelFor(m_chooser->field(), tr("Printer:")), m_chooser);
-  form->addRow(new QLabel(tr("Document:")), document);
+  form->addRow(new QLabel(tr("Document:")), m_documentLine);
   return head;
 }
 
@@ -84,36 +75,12 @@ QWidget* PrintDialog::makePanes() {
   return m_panes;
 }
 
-QWidget* PrintDialog::makeFoot() {
-  auto* foot = new QWidget(this);
-  m_message = new QLabel(foot);
-  m_message->setTextFormat(Qt::PlainText);
-  m_message->setWordWrap(true);
-  m_message->setObjectName(QStringLiteral("message"));
-  m_progress = new QProgressBar(foot);
-  m_progress->setAccessibleName(tr("Sending the job"));
-  m_progress->hide();
-  m_buttons = new QDialogButtonBox(QDialogButtonBox::Help | QDialogButtonBox::Cancel, foot);
-  m_print = m_buttons->addButton(QString(), QDialogButtonBox::AcceptRole);
-  m_print->setObjectName(QStringLiteral("print"));
-  m_print->setDefault(true);
-  setPlainText(*m_print, tr("Print"));
-  setPlainText(*m_buttons->button(QDialogButtonBox::Help), tr("Help"));
-  setPlainText(*m_buttons->button(QDialogButtonBox::Cancel), tr("Cancel"));
-  auto* column = new QVBoxLayout(foot);
-  column->setContentsMargins({});
-  column->addWidget(m_message);
-  column->addWidget(m_progress);
-  column->addWidget(m_buttons);
-  return foot;
-}
-
 void PrintDialog::connectParts() {
   connectQueues();
-  connect(m_buttons, &QDialogButtonBox::accepted, this, &PrintDialog::print);
-  connect(m_buttons, &QDialogButtonBox::rejected, this, &PrintDialog::reject);
-  connect(m_buttons, &QDialogButtonBox::helpRequested, this, [this] { showHelp(*this); });
-  connect(m_chooseDocument, &QPushButton::clicked, this, &PrintDialog::chooseDocument);
+  connect(m_foot, &DialogFoot::printPressed, this, &PrintDialog::print);
+  connect(m_foot, &DialogFoot::cancelPressed, this, &PrintDialog::reject);
+  connect(m_foot, &DialogFoot::helpPressed, this, [this] { showHelp(*this); });
+  connect(m_documentLine, &DocumentLine::choiceAsked, this, &PrintDialog::chooseDocument);
   connect(m_presets, &PresetMenu::loaded, this, [this] {
     if (m_panelPane != nullptr) m_panelPane->alignChoices();
     updateSummary();
@@ -128,10 +95,7 @@ void PrintDialog::connectParts() {
     if (isWaiting && m_session.queue()) sendExamined();
   });
   connect(&m_document, &Document::changed, this, &PrintDialog::showDocument);
-  connect(&m_client, &QueueClient::progressed, this, [this](qint64 sent, qint64 total) {
-    m_progress->setRange(0, total > 0 ? 1000 : 0);
-    if (total > 0) m_progress->setValue(static_cast<int>(1000 * sent / total));
-  });
+  connect(&m_client, &QueueClient::progressed, m_foot, &DialogFoot::setProgress);
   connect(&m_client, &QueueClient::sent, this, &PrintDialog::takeSent);
   connect(&m_client, &QueueClient::sendFailed, this, &PrintDialog::takeSendFailure);
 }
@@ -169,7 +133,7 @@ void PrintDialog::giveNames() {
   assignMnemonics(*this);
   // Enter prints, wherever the focus is.
   for (auto* button : findChildren<QPushButton*>())
-    button->setAutoDefault(button == m_print);
+    button->setAutoDefault(button == &m_foot->printButton());
   if (m_panelPane != nullptr) m_panelPane->alignLabels();
   orderTabStops(*this);
 }

@@ -146,6 +146,29 @@
     </message>
 </context>
 <context>
+    <name>kesto::DialogFoot</name>
+    <message>
+        <source>Sending the job</source>
+        <translation>Envío del trabajo</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>kesto::Document</name>
     <message>
         <source>%1 is a folder</source>
@@ -192,6 +215,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::DocumentLine</name>
+    <message>
+        <source>Choose…</source>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>Choose the document</source>
+        <translation>Elegir el documento</translation>
     </message>
 </context>
 <context>
@@ -579,10 +613,6 @@
         <translation>Imprimir</translation>
     </message>
     <message>
-        <source>Choose…</source>
-        <translation>Elegir…</translation>
-    </message>
-    <message>
         <source>Choose the document</source>
         <translation>Elegir el documento</translation>
     </message>
@@ -597,18 +627,6 @@
     <message>
         <source>General</source>
         <translation>General</translation>
-    </message>
-    <message>
-        <source>Sending the job</source>
-        <translation>Envío del trabajo</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ayuda</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Asking the print server…</source>
@@ -637,10 +655,6 @@
     <message>
         <source>Not printed: %1</source>
         <translation>No se ha impreso: %1</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Cerrar</translation>
     </message>
     <message>
         <source>There is no document to print yet.</source>

@@ -146,6 +146,29 @@
     </message>
 </context>
 <context>
+    <name>kesto::DialogFoot</name>
+    <message>
+        <source>Sending the job</source>
+        <translation>Envoi du travail</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>kesto::Document</name>
     <message>
         <source>%1 is a folder</source>
@@ -192,6 +215,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::DocumentLine</name>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Choose the document</source>
+        <translation>Choisir le document</translation>
     </message>
 </context>
 <context>
@@ -579,10 +613,6 @@
         <translation>Imprimer</translation>
     </message>
     <message>
-        <source>Choose…</source>
-        <translation>Choisir…</translation>
-    </message>
-    <message>
         <source>Choose the document</source>
         <translation>Choisir le document</translation>
     </message>
@@ -597,18 +627,6 @@
     <message>
         <source>General</source>
         <translation>Général</translation>
-    </message>
-    <message>
-        <source>Sending the job</source>
-        <translation>Envoi du travail</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
     </message>
     <message>
         <source>Asking the print server…</source>
@@ -637,10 +655,6 @@
     <message>
         <source>Not printed: %1</source>
         <translation>Non imprimé&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
     </message>
     <message>
         <source>There is no document to print yet.</source>

@@ -146,6 +146,29 @@
     </message>
 </context>
 <context>
+    <name>kesto::DialogFoot</name>
+    <message>
+        <source>Sending the job</source>
+        <translation>ジョブを送信中</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>kesto::Document</name>
     <message>
         <source>%1 is a folder</source>
@@ -191,6 +214,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::DocumentLine</name>
+    <message>
+        <source>Choose…</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>Choose the document</source>
+        <translation>文書を選択</translation>
     </message>
 </context>
 <context>
@@ -578,10 +612,6 @@
         <translation>印刷</translation>
     </message>
     <message>
-        <source>Choose…</source>
-        <translation>選択…</translation>
-    </message>
-    <message>
         <source>Choose the document</source>
         <translation>文書を選択</translation>
     </message>
@@ -596,18 +626,6 @@
     <message>
         <source>General</source>
         <translation>全般</translation>
-    </message>
-    <message>
-        <source>Sending the job</source>
-        <translation>ジョブを送信中</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Asking the print server…</source>
@@ -636,10 +654,6 @@
     <message>
         <source>Not printed: %1</source>
         <translation>印刷されませんでした: %1</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>閉じる</translation>
     </message>
     <message>
         <source>There is no document to print yet.</source>

@@ -146,6 +146,29 @@
     </message>
 </context>
 <context>
+    <name>kesto::DialogFoot</name>
+    <message>
+        <source>Sending the job</source>
+        <translation>正在发送作业</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>kesto::Document</name>
     <message>
         <source>%1 is a folder</source>
@@ -191,6 +214,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::DocumentLine</name>
+    <message>
+        <source>Choose…</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>Choose the document</source>
+        <translation>选择文档</translation>
     </message>
 </context>
 <context>
@@ -578,10 +612,6 @@
         <translation>打印</translation>
     </message>
     <message>
-        <source>Choose…</source>
-        <translation>选择…</translation>
-    </message>
-    <message>
         <source>Choose the document</source>
         <translation>选择文档</translation>
     </message>
@@ -596,18 +626,6 @@
     <message>
         <source>General</source>
         <translation>常规</translation>
-    </message>
-    <message>
-        <source>Sending the job</source>
-        <translation>正在发送作业</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>帮助</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
     </message>
     <message>
         <source>Asking the print server…</source>
@@ -636,10 +654,6 @@
     <message>
         <source>Not printed: %1</source>
         <translation>未打印：%1</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
     </message>
     <message>
         <source>There is no document to print yet.</source>
