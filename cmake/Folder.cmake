@@ -1,5 +1,5 @@
-# One folder, one target. A folder's headers are seen by other targets only through a link of the folder's
-# name in an include directory of its own, so an include of a folder that a target does not link fails to build.
+# One folder, one target. Other targets see a folder's headers only through a link of the folder's name in a separate
+# include directory, so including from a folder that the target does not link fails to build.
 
 # kesto_headers(TARGET SCOPE FOLDER): gives TARGET the include directory of FOLDER.
 function(kesto_headers target scope folder)
@@ -17,12 +17,12 @@ function(kesto_folder target folder)
   add_library(${target} STATIC ${arg_SOURCES})
   kesto_headers(${target} PUBLIC ${folder})
   target_link_libraries(${target} PUBLIC ${arg_LINKS})
-  # The core is linked into the bundle alone; nothing of it may be shared with another copy in the process.
+  # Only the bundle links the core, and it must not share symbols with another copy in the process.
   set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   kesto_precompile(${target})
 endfunction()
 
-# kesto_precompile(TARGET): precompiles the Qt headers that nearly every source of TARGET reads.
+# kesto_precompile(TARGET): precompiles the Qt headers that nearly every source of TARGET includes.
 function(kesto_precompile target)
   target_precompile_headers(${target} PRIVATE
     <QtCore/QObject> <QtCore/QString> <QtCore/QStringList> <QtCore/QByteArray> <QtCore/QVariant>
