@@ -1,6 +1,6 @@
-// kesto-bench-dialog: what the first painting of kesto-print is measured against. Shows an empty dialog of
-// the toolkit ("empty") or the toolkit's own print dialog ("print"), prints "paint_ms=N", milliseconds from
-// the beginning of main to the end of the first painting, and ends.
+// kesto-bench-dialog: the peers of kesto-print's first painting. Shows an empty dialog ("empty") or the
+// toolkit's own print dialog ("print"), prints "paint_ms=N", the milliseconds from the beginning of main to
+// the end of the first painting, and exits.
 #include <QtPrintSupport/QPrintDialog>
 #include <QtPrintSupport/QPrinter>
 #include <QtWidgets/QApplication>

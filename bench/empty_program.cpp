@@ -1,5 +1,4 @@
-// A program that loads what each of ours on a print server loads, and does nothing: no change of ours can
-// save that time.
+// A program that loads the libraries of our programs and does nothing. No change of ours can save its time.
 #include <cups/cups.h>
 
 #include <QtCore/QCoreApplication>

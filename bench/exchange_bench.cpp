@@ -1,4 +1,4 @@
-// What the folder exchange adds to the time that the printer takes: one exchange through the client against
+// Measures what the folder exchange adds to the printer's own time: one exchange through the client against
 // the same bytes over a bare socket, both with a printer that answers after a fixed delay.
 #include <benchmark/benchmark.h>
 
@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 constexpr auto printerDelay = 20ms;
 const QByteArray answer = "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: 4\r\n\r\n<e/>";
 
-// A printer in a thread of its own.
+// A printer in a separate thread.
 class Printer {
  public:
   Printer() {

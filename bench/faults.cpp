@@ -1,6 +1,6 @@
-// The faults that need a process of our own; tools/faults runs them. "zones" writes the spool time around
-// every change of the clock in every zone, "soak N" opens, uses and closes N panels. Prints one line, or says
-// what broke.
+// The faults that need a program of their own; tools/faults runs them. "zones" writes the spool time around
+// every clock change in every time zone; "soak N" opens, uses and closes N panels. Prints one line, or what
+// broke.
 #include <malloc.h>
 
 #include <QtCore/QDateTime>
@@ -26,7 +26,7 @@ int fail(const char* what, const QByteArray& where) {
   return 1;
 }
 
-// Whether the spool time, read as the mail format that it is, gives the moment back.
+// Whether the spool time, read as the mail format that it is, gives the same time again.
 bool isSpoolTimeRight(const QDateTime& moment) {
   std::array<char, 64> text{};
   const std::size_t length = GetSpoolTime(text, moment);
@@ -58,7 +58,7 @@ int writeInEveryZone() {
   return 0;
 }
 
-// What a process holds.
+// The resources of a process.
 struct Holdings {
   std::size_t heap = mallinfo2().uordblks;
   qsizetype descriptors = QDir(QStringLiteral("/proc/self/fd")).count();
@@ -90,7 +90,7 @@ int soak(int count) {
   bench::BenchPlatform platform;
   platform.setUserDefaults(defaults);
   KestoPrintPdeVq250nJCPDEPlugIn plugIn;
-  // What is made once is made by then.
+  // By then everything that exists only once has been created.
   const int warmUp = count / 10;
   std::optional<Holdings> before;
   for (int i = 0; i < count; ++i) {
@@ -101,7 +101,7 @@ int soak(int count) {
   const auto growth = static_cast<long>(after.heap) - static_cast<long>(before->heap);
   std::printf("%d panels: heap %+ld bytes, %+d descriptors since panel %d\n", count, growth,
               static_cast<int>(after.descriptors - before->descriptors), warmUp);
-  // A leak is at least the smallest allocation for each panel; caches of libraries come and go.
+  // A leak is at least the smallest allocation for each panel; less comes from the libraries' caches.
   constexpr long smallestAllocation = 24;
   const bool leaks = growth >= (count - warmUp) * smallestAllocation / 2;
   return !leaks && after.descriptors == before->descriptors ? 0 : 1;

@@ -1,5 +1,5 @@
-// The panel's own work against the bare cost of what it must do: writing the settings against its cipher,
-// digest and conversions, reading an answer against the XML reader alone, and how lists grow.
+// Measures the panel's work against the bare cost of its parts: writing the settings against cipher, digest
+// and conversions; reading an answer against the XML reader alone; and how the cost of lists grows.
 #include <benchmark/benchmark.h>
 
 #include <QtCore/QXmlStreamReader>
@@ -46,8 +46,7 @@ void writeAllSettings(benchmark::State& state) {
     filled.panel.saveValuesAndReturnError(nullptr);
 }
 
-// What one write cannot do without: four sealed codes, two digests, six name forms and their hexadecimal
-// texts.
+// What every write needs: four sealed codes, two digests, six name forms and their hexadecimal texts.
 void primitivesOfAWrite(benchmark::State& state) {
   const QByteArray spoolTime = "Tue, 24 Nov 2026 12:00:00 +0000";
   for ([[maybe_unused]] auto _ : state) {

@@ -1,5 +1,5 @@
-// socket: a backend that carries a job to the printer's own socket, for a scheduler that has none. The path
-// of the device URI is that of the socket; its host is for those who look for the printer's services.
+// The backend "socket": carries a job to the printer's own socket. The path of the device URI is that of the
+// socket; its host is for clients that look for the printer's services.
 #include <cups/backend.h>
 #include <cups/cups.h>
 #include <fcntl.h>
@@ -15,7 +15,7 @@
 
 namespace {
 
-// The socket that leads to the printer, negative when there is none.
+// A socket that is connected to the printer; negative on failure.
 int connectTo(const char* uri) {
   std::array<char, 32> scheme{};
   std::array<char, 256> user{};
@@ -56,7 +56,7 @@ bool copyAll(int from, int to) {
   }
 }
 
-// What the printer says of the job, a line without its end; empty when it says nothing.
+// The printer's answer about the job, a line without its end; empty without an answer.
 std::string answerOf(int printer) {
   std::string answer;
   std::array<char, 256> bytes{};
@@ -74,14 +74,14 @@ int fail(const char* reason) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc == 1) return CUPS_BACKEND_OK;  // Asked for the printers it sees: none.
+  if (argc == 1) return CUPS_BACKEND_OK;  // Asked to list devices: there are none.
   if (argc != 6 && argc != 7) return fail("usage: socket JOB USER TITLE COPIES OPTIONS [FILE]");
   const char* uri = cupsBackendDeviceURI(argv);
   const int printer = uri == nullptr ? -1 : connectTo(uri);
   if (printer < 0) return fail("the printer cannot be reached");
   const int document = argc == 7 ? ::open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
   if (document < 0) return fail("the document cannot be opened");
-  // Only what the printer says it has taken is printed: a connection that ends says nothing.
+  // A job counts as printed only when the printer says so; the end of the connection proves nothing.
   const bool isSent = copyAll(document, printer) && sendAll(printer, "@END\n");
   const std::string answer = answerOf(printer);
   if (isSent && answer == "taken") return CUPS_BACKEND_OK;

@@ -37,7 +37,7 @@ bool isPassCode(const std::string& text) {
   return !text.empty() && text.size() <= longestPassCode && std::all_of(text.begin(), text.end(), isDigit);
 }
 
-// What a person sees when the text is none; without the text.
+// The error message for a text that is not a pass code; it does not repeat the text.
 std::string faultOfPassCode(const std::string& text) {
   return isPassCode(text) ? "" : "is not 1 to 8 digits";
 }
@@ -118,7 +118,7 @@ Outcome readPassCode(const QString& path, QString* passCode) {
   return Outcome::done();
 }
 
-// The program's end when there is nothing to do, the help or the fault having been printed.
+// The exit status when the program is to end, after the help or a fault has been printed.
 std::optional<int> parse(CLI::App& app, int argc, char** argv) {
   std::string fault;
   try {
@@ -136,7 +136,7 @@ std::optional<int> parse(CLI::App& app, int argc, char** argv) {
   return exitUsage;
 }
 
-// Turns the arguments into what they stand for.
+// Converts the arguments, and reads the files that they name.
 Outcome complete(const Arguments& arguments, DemoCommand* command) {
   DemoSetup& setup = command->setup;
   setup.directory = arguments.directory.empty() ? RunFolder::standardPath() : textOf(arguments.directory);

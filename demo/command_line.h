@@ -9,20 +9,19 @@
 
 namespace kesto {
 
-/// What the program is to do.
+/// What the program has to do.
 struct DemoCommand {
   enum class Kind : std::uint8_t { Run, ListMisbehaviours, Jobs, Release };
 
   Kind kind = Kind::Run;
-  DemoSetup setup;  ///< Of Jobs and Release only the directory.
+  DemoSetup setup;  ///< For Jobs and Release only the directory.
   bool json = false;
-  int job = 0;       ///< Of Release, as the rest.
+  int job = 0;       ///< For Release, as is the pass code.
   QString passCode;  ///< Empty for none.
 };
 
-/// Reads the command line, and the files that it names, and hides a pass code in it from other users' eyes.
-/// None when there is something to do; otherwise the program ends with this code, the help or the fault
-/// having been printed.
+/// Reads the command line and the files that it names, and hides a pass code on it from other users. None
+/// when there is something to do; otherwise the exit status, after the help or a fault has been printed.
 std::optional<int> parseDemoCommand(int argc, char** argv, DemoCommand* command);
 
 }  // namespace kesto

@@ -1,6 +1,6 @@
-// How the other commands speak with the running printer: through a socket in its run folder, one JSON object
-// a line each way. {"do":"jobs"} is answered by {"jobs":[...]}, {"do":"release","job":N,"passCode":"..."} by
-// {"release":WORD}.
+// How the other commands talk to the running printer: through a socket in its run folder, with one JSON
+// object a line in each direction. {"do":"jobs"} is answered by {"jobs":[...]},
+// {"do":"release","job":N,"passCode":"..."} by {"release":WORD}.
 #pragma once
 
 #include <QtCore/QJsonObject>
@@ -12,7 +12,7 @@
 
 namespace kesto {
 
-/// The running printer's end.
+/// The end of the running printer.
 class ControlServer : public QObject {
   Q_OBJECT
 
@@ -31,10 +31,10 @@ class ControlServer : public QObject {
   QLocalServer m_server;
 };
 
-/// Asks the printer that listens at `path`, and waits for its answer.
+/// Sends a command to the printer that listens at `path`, and waits for the answer.
 Outcome askPrinter(const QString& path, const QJsonObject& request, QJsonObject* answer);
 
-/// The word for what came of a release, as it is in the answer.
+/// The word for the result of a release in the answer.
 QString wordOf(Release release);
 
 }  // namespace kesto

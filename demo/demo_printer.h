@@ -13,7 +13,7 @@
 
 namespace kesto {
 
-/// How a demo printer is to be.
+/// How to set up a demo printer.
 struct DemoSetup {
   QString directory;  ///< Its run folder.
   QString output;     ///< Where printed documents go; null for a folder in the run folder.
@@ -21,23 +21,24 @@ struct DemoSetup {
   Misbehaviour behaviour;
   std::optional<quint16> folderPort;  ///< As in `FolderService::listen`.
   std::optional<quint16> port;        ///< Of the scheduler, as in `Scheduler::start`.
-  int queues = 1;                     ///< All of them the same printer's.
+  int queues = 1;                     ///< They all lead to the same printer.
   bool foldersOnly = false;           ///< Neither scheduler nor printer, and no run folder.
 };
 
 /// Name of the control socket in the run folder.
 QString controlPath(const QString& directory);
 
-/// Runs from `start` to its end, and then leaves nothing behind but printed documents in a folder of the
+/// Runs from `start` until it is destroyed, and then leaves only printed documents in a folder of the
 /// caller's.
 class DemoPrinter {
  public:
   explicit DemoPrinter(const DemoSetup& setup);
 
-  /// Starts all parts. They work while the event loop runs; when the scheduler dies, the loop ends with
-  /// code 1.
+  /// Starts all parts. They work while the event loop runs. When the scheduler ends unexpectedly, the loop
+  /// ends with code 1.
   Outcome start();
-  /// Where it is: "server", "queue", "folders" and "output", with a port "port", or "folders" alone.
+  /// Its places: "server", "queue", "folders" and "output", and "port" if there is one; "folders" alone
+  /// without a scheduler.
   QJsonObject whereabouts() const;
 
  private:

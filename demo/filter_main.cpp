@@ -1,5 +1,5 @@
-// kesto-demo-filter: the demo queue's filter. Puts what the printer is to know of the job in front of its
-// document, in the form that printer.h tells.
+// kesto-demo-filter: the demo queue's filter. Writes the job's settings in front of its document, in the form
+// that printer.h describes.
 #include <array>
 #include <cstdio>
 #include <string>
@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::size_t pieceSize = 65536;
 
-// Without its last line the document counts as broken off, so that is left out when it could not be read to
-// its end.
+// A document without its last line counts as broken off, so the line is left out when the document could not
+// be read to its end.
 bool printDocument(std::FILE* document) {
   std::array<char, pieceSize> piece{};
   while (const std::size_t size = std::fread(piece.data(), 1, piece.size(), document)) {

@@ -8,7 +8,7 @@
 namespace kesto {
 namespace {
 
-// The folder of one line; a reason in `fault` when it has none.
+// The folder of one line; on failure `fault` says why.
 DemoFolder folderOfLine(const QString& line, QString* fault) {
   const QStringList columns = line.split(QLatin1Char('\t'));
   DemoFolder folder{.name = columns.front(), .isLocked = columns.size() == 2 && columns.back() == u"locked"};

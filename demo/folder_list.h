@@ -1,4 +1,4 @@
-// The document-filing folders that the demo printer offers, and the list of them that goes over the wire.
+// The document-filing folders of the demo printer, and the answer that lists them.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -12,23 +12,22 @@ namespace kesto {
 /// One folder of the printer.
 struct DemoFolder {
   QString name;
-  bool isLocked = false;  ///< Guarded by a pass code.
+  bool isLocked = false;  ///< Protected by a pass code.
 };
 
 using DemoFolders = std::vector<DemoFolder>;
 
-/// The folders of a printer that was given no file.
+/// The folders of a printer without a file of folders.
 DemoFolders sampleFolders();
 
-/// Reads a file of folders in UTF-8: one a line, its name, and for a locked one then a tab and "locked".
-/// Empty lines and lines that begin with "#" count for nothing. The outcome names the line that cannot be
-/// read.
+/// Reads a file of folders in UTF-8, one name a line, followed by a tab and "locked" for a protected one.
+/// Empty lines and lines that begin with "#" are ignored. On failure the outcome names the faulty line.
 Outcome readFolders(const QString& path, DemoFolders* folders);
 
-/// The answer's envelope around the children of its response.
+/// The whole answer around the given children of its response.
 QByteArray envelopeOf(const QByteArray& responseChildren);
 
-/// One folder as the answer writes it.
+/// The element for one folder.
 QByteArray elementOf(const DemoFolder& folder);
 
 /// The answer with all folders.

@@ -12,7 +12,7 @@ namespace {
 constexpr qsizetype largestRequest = qsizetype{64} * 1024;
 constexpr std::chrono::seconds requestTimeOut{30};
 
-// A request as far as the service reads it.
+// The parts of a request that the service reads.
 struct Request {
   QByteArray method;
   QByteArray path;
@@ -20,7 +20,7 @@ struct Request {
   qsizetype bodySize = 0;
 };
 
-// None until the head is there; a request without a body has the size 0.
+// None until the head is complete; a request without a body has the size 0.
 std::optional<Request> headOf(const QByteArray& bytes) {
   const qsizetype end = bytes.indexOf("\r\n\r\n");
   if (end < 0) return std::nullopt;
@@ -35,7 +35,7 @@ std::optional<Request> headOf(const QByteArray& bytes) {
   return request;
 }
 
-// Whether the body asks for the folders: it is an envelope whose body holds the operation.
+// Whether the body asks for the folders: an envelope whose body contains the operation.
 bool asksForFolders(const QByteArray& body) {
   QXmlStreamReader xml(body);
   while (!xml.atEnd()) {
@@ -45,7 +45,7 @@ bool asksForFolders(const QByteArray& body) {
   return false;
 }
 
-// The answer's head; without a size the body lasts as long as the connection.
+// The answer's head; without a size the end of the connection ends the body.
 QByteArray headOfAnswer(const char* status, std::optional<qsizetype> bodySize, const char* header) {
   QByteArray head = QByteArray("HTTP/1.1 ") + status + "\r\n" + header;
   if (bodySize) head += "Content-Length: " + QByteArray::number(*bodySize) + "\r\n";
@@ -141,7 +141,7 @@ void FolderConnection::sendWhole(const char* status, const char* header, const Q
 }
 
 void FolderConnection::sendEndless(const QByteArray& body) {
-  // What never ends has no length: the end of the connection would be that of the body.
+  // An endless body is sent without a length.
   m_socket->write(headOfAnswer("200 OK", std::nullopt, "") + body);
   const QByteArray more = elementOf({QStringLiteral("One more"), false}).repeated(1000);
   connect(m_socket, &QIODevice::bytesWritten, this, [this, more] {
@@ -166,7 +166,7 @@ void FolderConnection::sendHalf(const QByteArray& body) {
   m_socket->write(headOfAnswer("200 OK", body.size(), "") + body.left(body.size() / 2));
   connect(m_socket, &QIODevice::bytesWritten, this, [this] {
     if (m_socket->bytesToWrite() > 0) return;
-    // A connection that may not linger ends with a reset.
+    // Closing a connection with a linger time of zero resets it.
     const linger none{.l_onoff = 1, .l_linger = 0};
     ::setsockopt(static_cast<int>(m_socket->socketDescriptor()), SOL_SOCKET, SO_LINGER, &none, sizeof none);
     m_socket->abort();

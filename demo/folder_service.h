@@ -13,16 +13,16 @@
 
 namespace kesto {
 
-/// Listens and answers every request with its folders, in the way of its behaviour. Each connection carries
-/// one request and one answer. Requests and faults are logged.
+/// Listens and answers every request with its folders, or misbehaves as it is told to. Each connection
+/// carries one request and one answer. Requests and faults are logged.
 class FolderService : public QObject {
   Q_OBJECT
 
  public:
   FolderService(DemoFolders folders, const Misbehaviour& behaviour);
 
-  /// Listens on `port` of 127.0.0.1, where 0 is any free one; none asks for 80, and takes any where that may
-  /// not be had.
+  /// Listens on `port` of 127.0.0.1; 0 means any free port. None means 80, or any free port when 80 is not
+  /// available.
   Outcome listen(std::optional<quint16> port);
   /// "127.0.0.1:PORT".
   QString address() const;
@@ -35,7 +35,7 @@ class FolderService : public QObject {
   QTcpServer m_server;
 };
 
-/// One connection to the service. Owned by its socket, which goes when the connection has ended.
+/// One connection to the service. Owned by its socket, which is deleted when the connection has ended.
 class FolderConnection : public QObject {
   Q_OBJECT
 

@@ -17,7 +17,7 @@ void logJob(const JobTicket& ticket, const QString& event) {
   logLine(labelOf(ticket) + QStringLiteral(": ") + event);
 }
 
-// Throws the document away that the job came with.
+// Deletes the document that the job arrived with.
 Outcome refuse(const JobTicket& ticket, const QString& path, const QString& reason) {
   logJob(ticket, QStringLiteral("thrown away: ") + reason);
   QFile::remove(path);
@@ -57,7 +57,7 @@ Outcome JobStore::accept(const JobTicket& ticket, const QString& path) {
 }
 
 bool JobStore::print(Job& job, const QString& document) {
-  // The folder may hold the printouts of an earlier printer.
+  // The folder may contain printouts of an earlier printer.
   QString printout;
   do {
     printout = QStringLiteral("%1/job-%2-%3").arg(m_outputFolder).arg(job.ticket.job).arg(++job.printouts);

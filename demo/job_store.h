@@ -1,4 +1,4 @@
-// The jobs at the demo printer: those it holds and those it printed.
+// The jobs of the demo printer: those that it holds and those that it has printed.
 #pragma once
 
 #include <QtCore/QJsonArray>
@@ -10,23 +10,24 @@
 
 namespace kesto {
 
-/// What came of asking for a held job.
+/// The result of releasing a held job.
 enum class Release : std::uint8_t { Printed, Refused, NotHeld, NoSuchJob, Failed };
 
 /// Keeps held documents in one folder and puts printed ones into another, as "job-N-M" for the Mth printout
 /// of job N. Everything that happens to a job is logged, without its pass code.
 class JobStore {
  public:
-  /// Both folders are there already.
+  /// Both folders must exist.
   JobStore(QString heldFolder, QString outputFolder)
       : m_heldFolder(std::move(heldFolder)), m_outputFolder(std::move(outputFolder)) {}
 
-  /// A path in the folder of held documents that is not in use yet.
+  /// An unused path in the folder of held documents.
   QString newDocumentPath();
-  /// Takes the document at `path`, one of `newDocumentPath`, and prints or holds it. A second document of a
-  /// job joins it. One that only claims to be of the job, or cannot be printed, is thrown away: a failure.
+  /// Takes the document at `path`, which `newDocumentPath` returned, and prints or holds it. A second
+  /// document of a job is added to it. Fails, and deletes the document, when it does not really belong to the
+  /// job or cannot be printed.
   Outcome accept(const JobTicket& ticket, const QString& path);
-  /// Prints a held job; one with a pass code only with this.
+  /// Prints a held job; one with a pass code needs the right one.
   Release release(int job, const QString& passCode);
   /// An object for each job, in order of arrival: "job", "user", "name", "account" (or null) and "state".
   QJsonArray list() const;

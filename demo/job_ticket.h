@@ -1,4 +1,4 @@
-// What the printer knows of a job: the lines that stand in front of its document.
+// What the printer knows about a job: the lines in front of its document.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -12,14 +12,14 @@ namespace kesto {
 /// What the printer does with a job when it arrives.
 enum class Retention : std::uint8_t { PrintAtOnce, PrintAndHold, HoldOnly, PrintSampleAndHold };
 
-/// The settings of one job, by the printer's own reading of them.
+/// The settings of one job, as the printer reads them.
 class JobTicket {
  public:
   int job = 0;   ///< The scheduler's number.
-  QString user;  ///< The scheduler's name of the user.
+  QString user;  ///< The scheduler's name for the user.
   QString title;
 
-  /// Takes one line "name=value", the value percent-encoded. False when it is none.
+  /// Takes one line "name=value" with a percent-encoded value. False when it is malformed.
   bool addLine(const QByteArray& line);
 
   Retention retention() const;
@@ -27,7 +27,7 @@ class JobTicket {
   QString name() const;
   std::optional<QString> account() const;
   bool hasPassCode() const;
-  /// Whether the pass code is the one that the job was sent with.
+  /// Whether the job was sent with this pass code.
   bool opensWith(const QString& passCode) const;
 
   bool operator==(const JobTicket&) const = default;

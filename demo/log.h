@@ -1,11 +1,11 @@
-// What happens at the demo printer, told on standard error.
+// The log of the demo printer, on standard error.
 #pragma once
 
 #include <QtCore/QString>
 
 namespace kesto {
 
-/// Writes one line, with what a terminal would obey escaped.
+/// Writes one line with control characters escaped.
 void logLine(const QString& line);
 
 }  // namespace kesto

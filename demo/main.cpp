@@ -1,4 +1,4 @@
-// kesto-demo-printer: a printer to try the Job Handling panel with, and the commands to look at its jobs.
+// kesto-demo-printer: a printer to try the Job Handling panel on, and the commands for its jobs.
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
 #include <cstdio>

@@ -11,7 +11,7 @@ constexpr int manyAttributes = 80'000;
 constexpr int manyReferences = 100'000;
 constexpr int longEntity = 4000;
 
-// The list, with a document type and the name of a further folder, in bytes as they are.
+// The list with a document type and the name of one more folder, as raw bytes.
 QByteArray listWith(const DemoFolders& folders, const QByteArray& documentType, const QByteArray& name) {
   QByteArray list = listOf(folders);
   list.replace("</files>", "<folder><name>" + name + "</name></folder>\n</files>");

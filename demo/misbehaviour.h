@@ -1,5 +1,4 @@
-// The ways in which the folder service can misbehave, so that people and tests see what a panel makes of
-// each.
+// The ways in which the folder service can misbehave, so that people and tests can see how a panel reacts.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -10,13 +9,13 @@
 
 namespace kesto {
 
-/// How an answer travels.
+/// How an answer is delivered.
 enum class Delivery : std::uint8_t {
-  Whole,        ///< At once, then the connection ends.
-  Endless,      ///< The body, then its padding without end.
+  Whole,        ///< At once; then the connection ends.
+  Endless,      ///< The body, then padding without end.
   Trickle,      ///< One byte a second.
-  Reset,        ///< Half of it, then the connection is reset.
-  Never,        ///< Not at all, and the connection stays.
+  Reset,        ///< Half of it; then the connection is reset.
+  Never,        ///< Not at all, and the connection stays open.
   CloseAtOnce,  ///< Not at all: the connection ends before the request is read.
 };
 

@@ -97,7 +97,7 @@ Outcome PrinterConnection::takePiece() {
 }
 
 Outcome PrinterConnection::endDocument() {
-  // What is still in the buffer is written here, and may find no room.
+  // The rest of the buffer is written here, which fails when the disk is full.
   if (!m_document.flush()) return Outcome::failed(m_document.errorString());
   m_document.close();
   Outcome accepted = m_store.accept(m_ticket, m_document.fileName());

@@ -1,11 +1,10 @@
-// The printer itself: takes jobs on a socket of its owner's.
+// The printer itself, which takes jobs on its owner's socket.
 //
-// What arrives is what the demo filter writes, and the backend's last line. Each document begins with lines
-// "@KESTO name=value", in which the value is percent-encoded, up to an empty line. Then the document comes in
-// pieces: the piece's size in decimal on a line, 65536 at most, and as many bytes; a size of 0 ends the
-// document. The next document may follow. After the last one comes the line "@END", which the printer answers
-// with the line "taken" when it has every document; otherwise it says "refused: REASON" as soon as it knows,
-// and ends the connection.
+// It receives what the demo filter writes, and a last line from the backend. Each document begins with lines
+// "@KESTO name=value", with percent-encoded values, and an empty line. Then the document follows in pieces: a
+// line with the piece's size in decimal, at most 65536, and that many bytes. A size of 0 ends the document.
+// Another document may follow. After the last one comes the line "@END". The printer answers "taken" when it
+// has every document. Otherwise it answers "refused: REASON" as soon as it knows, and ends the connection.
 #pragma once
 
 #include <QtCore/QFile>
@@ -17,8 +16,8 @@
 
 namespace kesto {
 
-/// Listens, and hands each whole document to the store. A document that breaks off, or has no lines in front,
-/// is thrown away, and its job is not taken.
+/// Listens, and hands each complete document to the store. A document that breaks off or has no lines in
+/// front is deleted, and its job is refused.
 class RawPrinter : public QObject {
   Q_OBJECT
 
@@ -26,7 +25,7 @@ class RawPrinter : public QObject {
   /// `store` outlives the printer.
   explicit RawPrinter(JobStore& store);
 
-  /// Listens at `path`, where nobody but the owner may connect.
+  /// Listens at `path`, where only the owner may connect.
   Outcome listen(const QString& path);
 
  private:
@@ -36,7 +35,7 @@ class RawPrinter : public QObject {
   QLocalServer m_server;
 };
 
-/// One connection to the printer. Owned by its socket, which goes when the connection has ended.
+/// One connection to the printer. Owned by its socket, which is deleted when the connection has ended.
 class PrinterConnection : public QObject {
   Q_OBJECT
 

@@ -14,10 +14,10 @@
 namespace kesto {
 namespace {
 
-// Nobody keeps a file of this name: by it a folder is known as one that may be emptied.
+// A file that nobody else would create. It marks a folder as one that may be emptied.
 constexpr char lockName[] = "kesto-demo-printer.lock";
 constexpr char socketFolder[] = "sockets";
-// A socket's path has 107 bytes at most, and the folder holds "/sockets/printer".
+// A socket's path has at most 107 bytes, and the folder contains "/sockets/printer".
 constexpr qsizetype longestPath = 90;
 
 QByteArray encoded(const QString& path) {
@@ -33,7 +33,7 @@ QString cleanAbsolute(const QString& path) {
 }
 
 bool isUsable(const QString& path) {
-  // What the scheduler's configuration has its own meaning for.
+  // Characters with a special meaning in the scheduler's configuration.
   static const QRegularExpression special(QStringLiteral("[#\\\\\"<>\\x00-\\x1f]"));
   return encoded(path).size() <= longestPath && !path.contains(special);
 }
@@ -57,7 +57,7 @@ QString RunFolder::standardPath() {
   const QString runtime = userRuntimeDirectory();
   const QString temporary = qEnvironmentVariable("TMPDIR");
   QStringList places;
-  // Root's jobs run as another account, which that folder keeps out.
+  // Root's jobs run under another account, which cannot reach that folder.
   if (!runtime.isNull() && getuid() != 0) places << runtime + QStringLiteral("/kesto-demo");
   if (!temporary.isEmpty()) places << temporary + name;
   for (const QString& place : places) {
@@ -111,14 +111,14 @@ Outcome RunFolder::make() const {
 
 Outcome RunFolder::lock() {
   m_lock.setFileName(path(QString::fromLatin1(lockName)));
-  // The kernel lets go of the lock however the process ends.
+  // The kernel releases the lock however the process ends.
   if (!m_lock.open(QIODevice::ReadWrite))
     return Outcome::failed(m_lock.fileName() + QStringLiteral(": ") + m_lock.errorString());
   if (::flock(m_lock.handle(), LOCK_EX | LOCK_NB) != 0) {
     m_lock.close();
     return Outcome::failed(m_path + QStringLiteral(": a demo printer is running there"));
   }
-  // Only now: the printer that runs there may have opened it to the account of its jobs.
+  // Done only now, because a printer that was running there may have opened it to the account of its jobs.
   if (::chmod(encoded(m_path).constData(), 0700) != 0) return failedAt(m_path);
   removeAll(QDir(m_path), QString::fromLatin1(lockName));
   return Outcome::done();

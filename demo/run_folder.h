@@ -1,4 +1,4 @@
-// The folder that a running demo printer keeps everything in, and by which the other commands find it.
+// The folder where a running demo printer keeps everything, and where the other commands find it.
 #pragma once
 
 #include <QtCore/QFile>
@@ -8,8 +8,8 @@
 
 namespace kesto {
 
-/// A folder taken by one process at a time. It is made when it is not there, and removed with all that is in
-/// it by the destructor; what a printer left in it that was ended hard goes first.
+/// A folder that one process uses at a time. It is created if necessary, and the destructor removes it with
+/// everything in it. What a killed printer left in it is removed first.
 class RunFolder {
  public:
   RunFolder() = default;
@@ -17,22 +17,20 @@ class RunFolder {
   RunFolder(const RunFolder&) = delete;
   RunFolder& operator=(const RunFolder&) = delete;
 
-  /// Where a printer runs that was given no folder: "kesto-demo" in an ordinary user's runtime folder, else a
-  /// folder with the user's number where temporary files are, in /tmp when the path would be too long for the
-  /// sockets in it.
+  /// The default folder: "kesto-demo" in an ordinary user's runtime folder, else a folder with the user's
+  /// number in the temporary directory, or in /tmp when the path would be too long for sockets.
   static QString standardPath();
 
-  /// Takes `path`. Fails when a printer runs there, when it is not this user's, or when it holds anything of
-  /// others.
+  /// Takes `path`. Fails when a printer runs there, when it belongs to another user, or when it contains
+  /// other files.
   Outcome take(const QString& path);
-  /// The path of something in the folder.
+  /// The path of a file in the folder.
   QString path(const QString& name) const;
-  /// The path of a socket in a folder that nobody but the owner passes, which `take` makes.
+  /// The path of a socket in a subfolder that only the owner can enter, which `take` creates.
   QString socketPath(const QString& name) const;
-  /// Makes a folder in it, with this mode whatever the process masks.
+  /// Creates a folder in it with this mode, whatever the process's mask.
   Outcome makeFolder(const QString& name, unsigned int mode) const;
-  /// Lets a group pass through the folder, though not look around in it. Fails when a folder above keeps it
-  /// out.
+  /// Lets a group pass through the folder, but not list it. Fails when a parent folder keeps the group out.
   Outcome admitGroup(unsigned int group) const;
 
  private:

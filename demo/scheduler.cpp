@@ -18,7 +18,7 @@
 
 namespace kesto {
 
-// Whom cupsd runs jobs as, and who alone may administrate it.
+// The account for cupsd's jobs, and the only one that may administer it.
 struct Scheduler::Identity {
   unsigned int user;
   unsigned int group;
@@ -125,7 +125,7 @@ OpPolicy demo
 </DefaultPrinter>
 )";
 
-// Queues beside the first are like it, but for their number.
+// Further queues are like the first, except for their number.
 QByteArray moreQueues(int queues) {
   QByteArray text;
   for (int number = 2; number <= queues; ++number) {
@@ -147,7 +147,7 @@ Outcome copyFile(const QString& from, const QString& to, QFile::Permissions perm
              : Outcome::failed(to + QStringLiteral(": its mode cannot be set"));
 }
 
-// What lies beside the programs, in a build as in an installation.
+// A file beside the programs, in a build as well as when installed.
 QString besidePrograms(const QString& name) {
   return QCoreApplication::applicationDirPath() + QStringLiteral("/../") + name;
 }
@@ -155,13 +155,13 @@ QString besidePrograms(const QString& name) {
 QString findServer() {
   QString onPath = QStandardPaths::findExecutable(QStringLiteral("cupsd"));
   if (!onPath.isEmpty()) return onPath;
-  // An ordinary user's PATH does not lead there.
+  // These folders are not in an ordinary user's PATH.
   return QStandardPaths::findExecutable(QStringLiteral("cupsd"),
                                         {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/local/sbin")});
 }
 
-// In the child, between fork and exec: it follows its parent however that ends, and a Ctrl-C at the terminal
-// is not for it.
+// Runs in the child, between fork and exec: lets it end with its parent, however that ends, and keeps a
+// Ctrl-C at the terminal from it.
 void followParent() {
   ::prctl(PR_SET_PDEATHSIG, SIGTERM);
   ::setpgid(0, 0);
@@ -177,7 +177,7 @@ std::optional<Scheduler::Identity> Scheduler::Identity::ofProcess() {
   }
   const passwd* own = ::getpwuid(getuid());
   const QByteArray name = own == nullptr ? "" : own->pw_name;
-  // One whose name the configuration could take for something else administrates nothing.
+  // A user whose name has a special meaning in the configuration does not become administrator.
   static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_][A-Za-z0-9._-]*$"));
   const bool isPlain = plain.match(QString::fromLocal8Bit(name)).hasMatch();
   return Identity{getuid(), getgid(), isPlain ? name : "root"};
@@ -229,7 +229,7 @@ Outcome Scheduler::start(const QString& printerSocket, int queues, std::optional
   return startServer();
 }
 
-// The kernel gives a port that is bound to nobody else, and lets cupsd share it as long as nobody listens.
+// The kernel gives a bound port to no other process, and lets cupsd share it as long as nobody listens.
 Outcome Scheduler::reservePort(quint16 port) {
   if (!m_reservation.bind(QHostAddress::LocalHost, port,
                           QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint)) {
@@ -241,8 +241,8 @@ Outcome Scheduler::reservePort(quint16 port) {
 }
 
 Outcome Scheduler::makeFolders() const {
-  // The jobs' programs, which may run as another user, pass through these; the run folder above keeps others
-  // out.
+  // The programs of jobs may run as another user, who must reach these folders; the run folder keeps all
+  // others out.
   constexpr mode_t mode = 0755;
   for (const char* name : {"", "bin", "bin/daemon", "bin/filter", "bin/backend", "ppd", "spool", "spool/tmp",
                            "cache", "state"}) {
@@ -252,7 +252,7 @@ Outcome Scheduler::makeFolders() const {
   return Outcome::done();
 }
 
-// Where the system confines its own cupsd by path, that one may not work in this folder: a copy may.
+// Where the system confines its own cupsd by its path, only a copy can work in this folder.
 Outcome Scheduler::copyPrograms(int queues) const {
   constexpr QFile::Permissions program = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                          QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
@@ -268,8 +268,8 @@ Outcome Scheduler::copyPrograms(int queues) const {
   if (!QFile::link(launcher, path("bin/daemon/cups-exec"))) {
     return Outcome::failed(path("bin/daemon/cups-exec") + QStringLiteral(": the link cannot be made"));
   }
-  // The scheduler runs a backend that is its own user's alone as that user: the printer listens to nobody
-  // else.
+  // The scheduler runs a backend that only its own user can execute as that user, and the printer listens to
+  // nobody else.
   constexpr QFile::Permissions ownProgram = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
   for (const auto& [name, mode] :
        {std::pair("filter/kesto-demo-filter", program), std::pair("backend/socket", ownProgram)}) {
@@ -286,7 +286,7 @@ Outcome Scheduler::copyPrograms(int queues) const {
 
 Outcome Scheduler::writeConfiguration(const Identity& identity, const QString& printerSocket,
                                       int queues) const {
-  // The socket comes last: when it answers, the port does.
+  // The socket comes last, so that the port is ready when the socket answers.
   const QByteArray port = m_port == 0 ? "" : "Listen " + portAddress().toLatin1() + '\n';
   // The panel takes the printer's address from the URI's host, the backend its socket from the path.
   const QByteArray uri =
@@ -297,7 +297,7 @@ Outcome Scheduler::writeConfiguration(const Identity& identity, const QString& p
     text.replace("@GROUP@", QByteArray::number(identity.group));
     text.replace("@OWNERNAME@", identity.owner);
     text.replace("@PRINTER@", uri);
-    // At the end, since a path may hold anything.
+    // Replaced last, since a path may contain any of the other marks.
     text.replace("@LISTEN@", port + "Listen " + QFile::encodeName(address()));
     text.replace("@ROOT@", QFile::encodeName(path("")).chopped(1));
     return writePrivateFile(path(name), text);
@@ -309,7 +309,7 @@ Outcome Scheduler::writeConfiguration(const Identity& identity, const QString& p
 
 Outcome Scheduler::startServer() {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  // The system's bus would tell its colour manager of the queue.
+  // On the system's bus cupsd would register the queue with the colour manager.
   environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
                      QStringLiteral("unix:path=") + path("no-bus"));
   m_server.setProcessEnvironment(environment);

@@ -1,4 +1,4 @@
-// A print scheduler of the demo printer's own: the real cupsd, away from the system's.
+// The demo printer's own print scheduler: the real cupsd, separate from the system's.
 #pragma once
 
 #include <QtCore/QProcess>
@@ -10,13 +10,13 @@
 
 namespace kesto {
 
-/// The name of the scheduler's first queue, its default one.
+/// The name of the scheduler's first and default queue.
 inline constexpr char demoQueue[] = "Office_MFP";
 /// The names of its queues, counted from 1: "Office_MFP", "Office_MFP_0002" and so on.
 QString demoQueueNumbered(int number);
 
-/// Runs cupsd in a run folder, for root as root with its jobs as "lp", else as the user alone. It ends with
-/// its object, or with the process, however that ends.
+/// Runs cupsd in a run folder: as root with jobs as "lp" when root starts it, else as the user. cupsd ends
+/// with this object, or with the process, however that ends.
 class Scheduler : public QObject {
   Q_OBJECT
 
@@ -25,17 +25,17 @@ class Scheduler : public QObject {
   explicit Scheduler(const RunFolder& folder);
   ~Scheduler() override;
 
-  /// Sets everything up in the folder and returns when cupsd answers at its socket. That many queues print to
-  /// the printer at `printerSocket`. With `port`, cupsd listens on that port of loopback as well, where 0 is
-  /// any free one.
+  /// Sets everything up in the folder and returns when cupsd answers on its socket. Creates `queues` queues
+  /// that print on the printer at `printerSocket`. With `port`, cupsd also listens on that port of loopback;
+  /// 0 means any free port.
   Outcome start(const QString& printerSocket, int queues, std::optional<quint16> port);
-  /// The path of its socket, which its owner alone reaches.
+  /// The path of its socket, which only its owner can reach.
   QString address() const;
   /// "127.0.0.1:PORT", null without a port.
   QString portAddress() const;
 
  Q_SIGNALS:
-  /// cupsd ended without being asked to.
+  /// cupsd ended unexpectedly.
   void died();
 
  private:

@@ -14,7 +14,7 @@ namespace {
 
 int stopEvent = -1;
 
-// A signal may come between any two instructions: all that happens here is a system call.
+// A signal can arrive between any two instructions, so the handler makes only a system call.
 void noteSignal(int /*signal*/) {
   const std::uint64_t one = 1;
   [[maybe_unused]] const ssize_t written = ::write(stopEvent, &one, sizeof one);

@@ -1,12 +1,12 @@
-// Ctrl-C and the other polite ways of ending a program, as an event of Qt's loop.
+// Ctrl-C and the other signals that ask a program to end, as events of Qt's loop.
 #pragma once
 
 #include <QtCore/QObject>
 
 namespace kesto {
 
-/// From its creation on, SIGINT, SIGTERM and SIGHUP quit the application's event loop instead of ending the
-/// process, also when one came before the loop ran. One for a process, made after the application object.
+/// While it exists, SIGINT, SIGTERM and SIGHUP quit the application's event loop instead of ending the
+/// process, even if they arrive before the loop runs. Create one for a process, after the application object.
 class StopSignal : public QObject {
   Q_OBJECT
 

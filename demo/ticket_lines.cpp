@@ -7,7 +7,7 @@
 namespace kesto {
 namespace {
 
-// As in platform/print_settings.h: a filter knows nothing of Qt.
+// The same as in platform/print_settings.h, which a filter cannot include because it does not use Qt.
 constexpr std::string_view settingPrefix = "kesto.print.PrintSettings.";
 constexpr std::string_view hexDigits = "0123456789ABCDEF";
 

@@ -1,5 +1,4 @@
-// The input is what a print server sends for a request before it closes the connection: head and body of
-// HTTP.
+// The input is a print server's answer to a request, head and body of HTTP, up to the end of the connection.
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -18,7 +17,7 @@ namespace {
 
 constexpr qsizetype largestBody = 10'000;
 
-// Answers every connection with the same bytes. It lives as long as the program.
+// Answers every connection with the same bytes, until the program ends.
 class Server {
  public:
   Server() : m_socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
@@ -43,7 +42,7 @@ class Server {
       const int client = ::accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
       if (client < 0) continue;
       std::array<char, 4096> request{};
-      // Nothing is said before something was asked.
+      // A server does not answer before it is asked.
       bool isOpen = ::recv(client, request.data(), request.size(), 0) > 0;
       QByteArray bytes;
       {
@@ -72,7 +71,7 @@ class Server {
 }  // namespace
 
 void runHead(const QByteArray& input) {
-  static auto* server = new Server;  // its thread goes with the program
+  static auto* server = new Server;  // its thread ends with the program
   server->answer(input);
   std::unique_ptr<PrintServer> connection;
   require(bool(PrintServer::connect(server->path(), std::chrono::seconds(2), &connection)),

@@ -1,4 +1,4 @@
-// The input is the form of the panel.
+// The input is the panel's form.
 #include "fuzz/targets.h"
 #include "plugin/job_handling_panel.h"
 #include "tests/support/bench_platform.h"

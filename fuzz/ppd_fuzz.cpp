@@ -1,5 +1,5 @@
-// The first line is the device URI, the second the queue's identifier, each further one "attribute: value" of
-// the PPD.
+// The first line is the device URI, the second the queue's identifier, and each further line an attribute of
+// the PPD, "attribute: value".
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -13,7 +13,7 @@
 namespace kesto::fuzz {
 namespace {
 
-// A PPD with the attributes, as libcups reads it; null when it does not.
+// A PPD with the attributes, read by libcups; null when libcups rejects it.
 PpdFile ppdOf(const QList<QByteArray>& lines) {
   QByteArray text = "*PPD-Adobe: \"4.3\"\n";
   for (const QByteArray& line : lines)

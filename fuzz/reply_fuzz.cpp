@@ -6,7 +6,7 @@
 namespace kesto::fuzz {
 namespace {
 
-// Every value as text, as far as it goes down.
+// Reads every value as text, including those of nested collections.
 void readAll(ipp_t* message, int depth) {
   require(depth <= deepestCollection, "collections stay within their depth");
   for (ipp_attribute_t* each = ippFirstAttribute(message); each != nullptr;

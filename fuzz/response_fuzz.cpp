@@ -1,4 +1,4 @@
-// The input is what a connection brings before it ends.
+// The input is everything that a connection delivers before it ends.
 #include "folders/http_response.h"
 #include "fuzz/targets.h"
 

@@ -10,7 +10,7 @@
 namespace kesto::fuzz {
 namespace {
 
-// A fuzzer asks no printer: the address could be anybody's.
+// A fuzzer must not contact printers, because an address could be anybody's.
 bool asksPrinter(const QByteArray& line) {
   return QJsonDocument::fromJson(line).object().value(QStringLiteral("control")).toString() ==
          u"getFolderNameButton";

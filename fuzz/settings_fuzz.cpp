@@ -1,5 +1,5 @@
-// Lines "key=value", the key by its last component, are the print settings; a first line "@CODE" chooses the
-// system encoding.
+// The input is the print settings in lines "key=value", with the keys' last components. A first line "@CODE"
+// chooses the system encoding.
 #include "fuzz/targets.h"
 #include "platform/job_keys.h"
 #include "plugin/job_handling_panel.h"
@@ -16,8 +16,8 @@ void put(const QByteArray& lines, PrintSettings* settings) {
   }
 }
 
-// Sealed values have the length of whole cipher blocks in hexadecimal, or are not there. The suspend key of a
-// job that is not held stays as the host set it.
+// Sealed values are absent or have the length of whole cipher blocks in hexadecimal. The suspend key of a job
+// that is not held stays as the host set it.
 void checkSealed(const PrintSettings& settings) {
   std::vector<Held> sealed{Held::UserNumber, Held::AccountNumber, Held::FolderPassword};
   if (settings.value(job_keys::whole(job_keys::jobSuspend)) != u"0") sealed.push_back(Held::SuspendKey);

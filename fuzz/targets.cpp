@@ -1,4 +1,4 @@
-// What libFuzzer calls.
+// The functions that libFuzzer calls.
 #include "fuzz/targets.h"
 
 #include <QtCore/QLoggingCategory>
@@ -32,7 +32,7 @@ void beSilent(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const Q
 
 }  // namespace
 
-// Takes the first argument, the target's name, out of the command line.
+// Removes the first argument, the target's name, from the command line.
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   for (const Row& row : targets) {
     if (*argc > 1 && std::strcmp((*argv)[1], row.name) == 0) chosen = &row;
@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   (*argv)[1] = (*argv)[0];
   ++*argv;
   --*argc;
-  // Bad input is reported in the log by right.
+  // Reports of bad input in the log are expected.
   qInstallMessageHandler(beSilent);
   kesto::bench::application();
   return 0;

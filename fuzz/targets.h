@@ -1,4 +1,4 @@
-// The fuzz targets: each takes any bytes and must neither crash, leak nor break what it checks.
+// The fuzz targets. Each accepts any bytes and must not crash, leak or fail its checks.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -7,7 +7,7 @@
 
 namespace kesto::fuzz {
 
-/// Ends the program when what must hold does not.
+/// Ends the program when a condition does not hold.
 inline void require(bool holds, const char* rule) {
   if (holds) return;
   std::fprintf(stderr, "broken: %s\n", rule);

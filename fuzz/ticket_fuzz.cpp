@@ -1,4 +1,4 @@
-// The first line is the job's title, the rest its options as a filter gets them.
+// The first line is the job's title, the rest its options as a filter receives them.
 #include <cstring>
 
 #include "demo/job_ticket.h"
@@ -9,7 +9,7 @@ namespace kesto::fuzz {
 
 void runTicket(const QByteArray& input) {
   const qsizetype end = qMax(qsizetype{0}, input.indexOf('\n'));
-  // Arguments of a program end at their NUL.
+  // A program's arguments end at their NUL.
   const QByteArray title(input.left(end).constData());
   const QByteArray options(input.mid(end).constData());
   const QByteArray lines =

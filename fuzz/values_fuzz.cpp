@@ -17,7 +17,7 @@ std::span<const std::uint8_t> bytesOf(const QByteArray& array) {
   return {reinterpret_cast<const std::uint8_t*>(array.constData()), static_cast<std::size_t>(array.size())};
 }
 
-// Buffers on the heap, of just the size: a byte too far is seen.
+// Buffers on the heap with exactly this size, so that the sanitizers notice a byte beyond.
 void useSmallBuffers(const QByteArray& value, std::size_t size) {
   std::vector<char> text(size);
   Bytes bytes(size);

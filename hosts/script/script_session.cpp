@@ -37,7 +37,7 @@ QJsonObject propertiesOf(const QObject& object, const QMetaObject& base = QObjec
   return properties;
 }
 
-// What a member of a command holds.
+// The value of a command's member.
 enum class Member : std::uint8_t { Text, TextOrNull, Whole };
 
 bool holds(const QJsonValue& value, Member member) {

@@ -10,7 +10,7 @@
 
 namespace kesto {
 
-/// Collects the alerts instead of showing them; each counts as dismissed at once.
+/// Collects the alerts instead of showing them, and dismisses each at once.
 class AlertRecorder : public AlertPresenter {
  public:
   void runInformationalAlert(const QString& title, const QString& message, const QString& button) override;
@@ -28,8 +28,8 @@ class ScriptSession {
   ScriptSession(PanelHost& host, PrintDialogPlugIn& plugIn, AlertRecorder& alerts)
       : m_host(host), m_plugIn(plugIn), m_alerts(alerts) {}
 
-  /// Carries out one line and answers one object; `{"error":...}` for a line that is no command or cannot be
-  /// done.
+  /// Carries out one line and returns the answer: `{"error":...}` for a line that is not a command or cannot
+  /// be carried out.
   QJsonObject answer(const QByteArray& line);
   /// Whether `quit` was asked for.
   bool isOver() const { return m_isOver; }
