@@ -11,7 +11,7 @@
 namespace kesto {
 namespace {
 
-// Room for the control data of one descriptor, aligned as the system wants it.
+// Room for the control data of one descriptor, aligned as the system requires.
 union ControlBuffer {
   cmsghdr header;
   std::array<char, CMSG_SPACE(sizeof(int))> bytes;
@@ -21,7 +21,7 @@ Outcome systemFailure(const QString& attempt) {
   return Outcome::failed(attempt + QStringLiteral(": ") + qt_error_string(errno));
 }
 
-// The descriptor that came with a message; none when there was none.
+// The descriptor that arrived with a message, if any.
 Descriptor attachedTo(msghdr* message) {
   for (cmsghdr* part = CMSG_FIRSTHDR(message); part != nullptr; part = CMSG_NXTHDR(message, part)) {
     if (part->cmsg_level != SOL_SOCKET || part->cmsg_type != SCM_RIGHTS) continue;
@@ -49,7 +49,8 @@ PrintChannel::PrintChannel(Descriptor socket, QObject* parent)
       m_notifier(m_socket.get(), QSocketNotifier::Read),
       m_buffer(largestMessage, Qt::Uninitialized) {
   ::fcntl(m_socket.get(), F_SETFD, FD_CLOEXEC);
-  // The system counts its own bookkeeping against the buffer and doubles what it is asked for.
+  // The system counts its own bookkeeping against the buffer, and doubles the requested size to make up for
+  // it.
   const int room = largestMessage;
   ::setsockopt(m_socket.get(), SOL_SOCKET, SO_SNDBUF, &room, sizeof room);
   connect(&m_notifier, &QSocketNotifier::activated, this, &PrintChannel::readMessage);
@@ -89,14 +90,14 @@ void PrintChannel::readMessage() {
   if (size < 0 && (errno == EAGAIN || errno == EINTR)) return;
   Descriptor attached = size < 0 ? Descriptor() : attachedTo(&datagram);
   const bool isWhole = size > 0 && (datagram.msg_flags & (MSG_TRUNC | MSG_CTRUNC)) == 0;
-  const QJsonDocument document =
-      isWhole ? QJsonDocument::fromJson(m_buffer.left(size)) : QJsonDocument();  // a copy: slots may end this
+  const QJsonDocument document = isWhole ? QJsonDocument::fromJson(m_buffer.left(size))
+                                         : QJsonDocument();  // a copy, because slots may destroy this object
   if (!document.isObject()) return close();
   Q_EMIT received(document.object(), attached);
 }
 
 void PrintChannel::close() {
-  // The notifier goes before its descriptor does.
+  // The notifier must be destroyed before its descriptor.
   m_notifier.setEnabled(false);
   m_socket.reset();
   Q_EMIT closed();

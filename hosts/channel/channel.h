@@ -1,5 +1,5 @@
-// The channel between kesto-portal and the print dialog that it started. docs/formats/print-channel.md tells
-// the messages; this is their transport.
+// The channel between kesto-portal and the print dialog that it started. docs/formats/print-channel.md
+// describes the messages; this is their transport.
 #pragma once
 
 #include <QtCore/QJsonObject>
@@ -12,29 +12,30 @@
 namespace kesto {
 
 /// One end of the channel: JSON objects as datagrams of at most 256 KiB, each with at most one descriptor.
-/// Nothing waits: what the other end does not take at once is refused, what it sends arrives as a signal.
+/// Nothing here waits: sending fails when the other end has no room, and what it sends arrives as a signal.
 class PrintChannel : public QObject {
   Q_OBJECT
 
  public:
-  /// The most bytes of a message in UTF-8.
+  /// The largest message in bytes of UTF-8.
   static constexpr qsizetype largestMessage = qsizetype{256} * 1024;
 
-  /// Makes two connected ends, neither of which is inherited by a program that is started.
+  /// Creates two connected ends. Programs that this process starts do not inherit them.
   static Outcome makePair(Descriptor* one, Descriptor* other);
 
-  /// Takes over `socket`, one of such two ends; programs that this one starts do not inherit it.
+  /// Takes over `socket`, one of two such ends. Programs that this process starts do not inherit it.
   explicit PrintChannel(Descriptor socket, QObject* parent = nullptr);
 
   /// Sends one message and a copy of the descriptor `attached` with it; -1 attaches none and the caller keeps
-  /// its own. Fails when the message is too large, the other end is gone or has too much to read.
+  /// its own. Fails when the message is too large, the other end is closed or has too much to read.
   Outcome send(const QJsonObject& message, int attached = -1);
 
  Q_SIGNALS:
-  /// One message has arrived. Who wants the descriptor that came with it moves it out; else it is closed once
-  /// all have been told. For direct connections alone.
+  /// Emitted when a message has arrived. A receiver that wants the descriptor moves it out; otherwise it is
+  /// closed after the last receiver. For direct connections only.
   void received(const QJsonObject& message, kesto::Descriptor& attached);
-  /// The other end is closed, or sent what is no message. Comes once, after the last message.
+  /// Emitted once, after the last message, when the other end is closed or has sent something that is not a
+  /// message.
   void closed();
 
  private:

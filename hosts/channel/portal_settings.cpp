@@ -43,7 +43,7 @@ void put(QJsonObject* object, const char* key, const QJsonValue& value) {
   object->insert(QLatin1String(key), value);
 }
 
-// A whole number from 1 to 9999; else 1.
+// A whole number from 1 to 9999, or 1 for anything else.
 int count(const QJsonObject& settings, const char* key) {
   const int number = text(settings, key).toInt();
   return number >= 1 && number <= 9999 ? number : 1;
@@ -55,7 +55,7 @@ bool flag(const QJsonObject& settings, const char* key, bool isMissing) {
   return value.isEmpty() ? isMissing : value == u"true";
 }
 
-// What a number too large to be a page stands for: up to the end.
+// A number too large for a page means "to the end".
 constexpr int lastPage = std::numeric_limits<int>::max() - 1;
 
 struct PageRange {
@@ -63,7 +63,7 @@ struct PageRange {
   int last;
 };
 
-// The parts of a list of ranges, whose pages count from `origin` on; none when a part is no range.
+// The parts of a list of ranges whose pages count from `origin`; none when a part is not a range.
 std::optional<QList<PageRange>> parseRanges(const QString& ranges, int origin) {
   QList<PageRange> parsed;
   for (const QString& part : ranges.split(u',', Qt::SkipEmptyParts)) {
@@ -78,7 +78,7 @@ std::optional<QList<PageRange>> parseRanges(const QString& ranges, int origin) {
     }
     if (!part.contains(u'-')) {
       range.last = range.first;
-    } else if (!last.isEmpty() && last != u"-1") {  // -1 is GTK's word for up to the end
+    } else if (!last.isEmpty() && last != u"-1") {  // in GTK, -1 means "to the end"
       range.last = last.toInt(&isLast);
     }
     if (!isFirst || !isLast || range.first < origin || range.last < range.first) return std::nullopt;
@@ -102,7 +102,7 @@ QString formatRanges(const QList<PageRange>& ranges, int shift, const QString& e
   return parts.join(u',');
 }
 
-// The ranges of a choice as GTK counts them, from 0 on; none unless the choice is made of ranges.
+// The ranges of a choice as GTK counts them, from 0; none unless the choice consists of ranges.
 std::optional<QString> rangesToDraw(const PortalChoice& choice) {
   if (choice.pages != PortalPages::Ranges) return std::nullopt;
   const auto ranges = parseRanges(choice.pageRanges, 1);
@@ -125,7 +125,7 @@ constexpr std::array lengths{
     Length{"MarginLeft", &PortalPaper::marginLeft}, Length{"MarginRight", &PortalPaper::marginRight},
 };
 
-// A page setup's paper; without one, the paper that the settings name.
+// The paper of a page setup, or else the one that the settings name.
 PortalPaper paperAskedFor(const QJsonObject& settings, const QJsonObject& pageSetup) {
   PortalPaper paper;
   paper.ppdName = text(pageSetup, "PPDName");
@@ -141,7 +141,7 @@ PortalPaper paperAskedFor(const QJsonObject& settings, const QJsonObject& pageSe
   return paper;
 }
 
-// A word of the orientation of a page setup, or of settings, which join its words by another sign.
+// An orientation from a page setup or from settings, which separate its words differently.
 bool isLandscapeWord(const QString& word) {
   return word.endsWith(u"landscape");
 }
@@ -150,7 +150,7 @@ bool isPrivateKey(const QString& key) {
   static constexpr std::array names{"job-password",   "job-password-encryption", "auth-info",
                                     "job-account-id", "job-accounting-user-id",  "requesting-user-name"};
   QStringView name = key;
-  // GTK names an option of a queue so.
+  // GTK's prefix for options of a queue.
   if (name.startsWith(u"cups-", Qt::CaseInsensitive)) name = name.mid(5);
   if (name.startsWith(u"kesto.", Qt::CaseInsensitive)) return true;
   return isOneOf(name, names);
@@ -184,7 +184,7 @@ QJsonObject settingsToReturn(const QJsonObject& settings, const PortalChoice& ch
   QJsonObject returned = withoutPrivateKeys(settings);
   for (const char* key : {"output-uri", "output-dir", "output-basename", "page-ranges"})
     returned.remove(QLatin1String(key));
-  // What the print system does for the client; values at which the client does nothing itself.
+  // What the print system does for the client. With these values the client does nothing itself.
   static constexpr std::array<std::array<const char*, 2>, 7> neutral{{
       {"n-copies", "1"},
       {"collate", "true"},
@@ -220,7 +220,7 @@ QJsonObject pageSetupToReturn(const QJsonObject& pageSetup, const PortalChoice& 
   put(&returned, "Orientation", QLatin1String(choice.isLandscape ? "landscape" : "portrait"));
   const PortalPaper& paper = choice.paper;
   if (paper.width <= 0 || paper.height <= 0) return returned;
-  // A name without a value would be looked up before the lengths are.
+  // GTK would look a name up before it considers the lengths.
   const auto putName = [&](const char* key, const QString& value) {
     returned.remove(QLatin1String(key));
     if (!value.isEmpty()) put(&returned, key, value);

@@ -1,4 +1,4 @@
-// What the command lines have in common beside the parser.
+// What the command lines share besides the parser.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -7,7 +7,7 @@
 
 namespace kesto {
 
-/// Lets no flag of the parser take a value: "--dry-run=no" would print nothing, or all, or the job.
+/// Refuses values for all flags of the parser. What "--dry-run=no" does would be hard to guess.
 inline void refuseFlagValues(CLI::App& app) {
   for (CLI::Option* option : app.get_options()) {
     if (option->get_expected_max() == 0) option->disable_flag_override();
@@ -16,7 +16,7 @@ inline void refuseFlagValues(CLI::App& app) {
     refuseFlagValues(*command);
 }
 
-/// Takes decimal digits alone. Numbers are otherwise read as C has them, where 010 is eight.
+/// Accepts decimal digits only. The parser itself reads numbers as C does, where 010 is eight.
 inline CLI::Validator wholeNumber(int least, int most) {
   const std::string range = std::to_string(least) + " to " + std::to_string(most);
   const auto read = [least, most, range](std::string& text) -> std::string {
@@ -31,11 +31,11 @@ inline CLI::Validator wholeNumber(int least, int most) {
   return {read, range};
 }
 
-/// What is wrong with the arguments that the parser does not know; empty for nothing. An option is named, an
-/// argument too many is not: what stands there may be a secret.
+/// The error message for arguments that the parser does not know; empty when there are none. It names an
+/// unknown option, but not an unexpected argument, which may be a secret.
 inline std::string faultOfUnknown(const CLI::App& app) {
   for (const std::string& argument : app.remaining(true)) {
-    if (argument == "--") continue;  // All behind it are files.
+    if (argument == "--") continue;  // All arguments after it are files.
     if (!argument.starts_with('-')) return "there is an argument too many";
     return (argument.starts_with("--") ? argument.substr(0, argument.find('=')) : argument.substr(0, 2)) +
            " is no option";

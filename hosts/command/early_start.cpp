@@ -1,5 +1,6 @@
-// What a program does before all else: the dynamic linker calls it ahead of every library's initialisation.
-// Nothing is initialised then but the C library, and nothing else is used. Each program links this object.
+// What a program does before anything else: the dynamic linker calls it ahead of every library's
+// initialisation. Only the C library is initialised by then, so nothing else is used. Each program links this
+// object.
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -12,8 +13,8 @@ namespace {
 
 constexpr int exitFailed = 1;
 
-// Whatever is opened first would take a closed stream's place, and what is meant for a person would go there.
-// Opened the wrong way round, a stream that was closed still cannot be read or written.
+// The first file to be opened would take the place of a closed stream and receive its output. So closed
+// streams are opened in the wrong direction, in which they still cannot be read or written.
 void fillClosedStreams() {
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
     if (::fcntl(stream, F_GETFD) >= 0) continue;
@@ -21,10 +22,10 @@ void fillClosedStreams() {
   }
 }
 
-// Leaves the program its values and the list of processes blanks.
+// Blanks the secrets out in the list of processes, and leaves the program a copy.
 void hideSecrets(int argc, char** argv) {
   forEachSecretArgument(argc, argv, [](char*& argument, std::size_t start) {
-    char* copy = ::strdup(argument);  // Lives as long as the program's arguments.
+    char* copy = ::strdup(argument);  // Never freed, like the program's own arguments.
     if (copy == nullptr) ::_exit(exitFailed);
     ::explicit_bzero(argument + start, std::strlen(argument + start));
     argument = copy;

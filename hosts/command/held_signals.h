@@ -1,4 +1,4 @@
-// Signals that would end the program, held back until what they interrupt has been put right.
+// Signals that would end the program, held back until the program has cleaned up.
 #pragma once
 
 #include <array>
@@ -6,19 +6,19 @@
 
 namespace kesto {
 
-/// While it lives, such a signal is noted and interrupts a wait; at its end it is sent again. One that the
-/// program was started to ignore stays ignored. One at a time.
+/// While it exists, such a signal is recorded and interrupts a wait; the destructor sends it again. A signal
+/// that the program was started to ignore stays ignored. Only one may exist at a time.
 class HeldSignals {
  public:
-  /// `flags` as of sigaction: with SA_RESETHAND a signal that comes twice ends the program at once.
+  /// `flags` as for sigaction: with SA_RESETHAND a signal that arrives twice ends the program at once.
   explicit HeldSignals(int flags = 0);
   ~HeldSignals();
   HeldSignals(const HeldSignals&) = delete;
   HeldSignals& operator=(const HeldSignals&) = delete;
 
-  /// Whether one has come.
+  /// Whether a signal has arrived.
   bool hasCome() const;
-  /// It came too late, and is not sent again.
+  /// Call this when a signal arrived too late to matter; it is not sent again.
   void drop();
 
  private:

@@ -1,15 +1,15 @@
-// Whether what a program prints has arrived.
+// Checks that the output of a program was written.
 #pragma once
 
 #include "platform/outcome.h"
 
 namespace kesto {
 
-/// Fails when standard output has not taken all that was printed, by whatever means.
+/// Fails when anything that was printed could not be written to standard output.
 Outcome flushOutput();
 
-/// How a program ends that would end with `code`: with 1 instead of 0, and a message, when standard output
-/// has not taken all that was printed.
+/// The exit status of a program that would end with `code`: 1 instead of 0, with a message, when its output
+/// could not be written.
 int endOfOutput(const char* program, int code);
 
 }  // namespace kesto

@@ -1,4 +1,4 @@
-// Secrets that stand on a command line all the same, where other users can see them.
+// Secrets that a user has given on the command line, where other users can see them.
 #pragma once
 
 #include <array>
@@ -11,7 +11,7 @@ namespace kesto {
 /// The options of our programs whose value is a secret, in the forms "--pin 1" and "--pin=1".
 inline constexpr std::array<std::string_view, 2> secretOptions{"--pin", "--folder-pin"};
 
-/// Calls `visit(char*& argument, std::size_t start)` for each argument that holds such a value; the value
+/// Calls `visit(char*& argument, std::size_t start)` for each argument that contains such a value; the value
 /// begins at `start`.
 template <class Visit>
 void forEachSecretArgument(int argc, char** argv, const Visit& visit) {
@@ -28,7 +28,7 @@ void forEachSecretArgument(int argc, char** argv, const Visit& visit) {
   }
 }
 
-/// Overwrites the values. A program calls it once it has read them.
+/// Overwrites the values. A program calls it after it has read them.
 inline void wipeSecretArguments(int argc, char** argv) {
   forEachSecretArgument(argc, argv, [](char* argument, std::size_t start) {
     ::explicit_bzero(argument + start, std::strlen(argument + start));

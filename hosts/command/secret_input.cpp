@@ -15,16 +15,16 @@
 namespace kesto {
 namespace {
 
-// More than any entry takes. A line that grew beyond what is reserved for it would leave copies behind.
+// Longer than any entry. A line that outgrew its reserved memory would leave copies behind.
 constexpr qsizetype longestLine = 1024;
 
 void show(int terminal, const QByteArray& text) {
-  // A terminal that shows nothing is answered all the same.
+  // The user can answer even if the terminal does not show the question.
   [[maybe_unused]] const ssize_t written =
       ::write(terminal, text.constData(), static_cast<std::size_t>(text.size()));
 }
 
-// Reads byte by byte: what follows the line is not ours to take.
+// Reads byte by byte, because what follows the line belongs to others.
 Outcome readLine(int descriptor, QString* secret) {
   QByteArray line;
   const WipedAtEnd wiped(line);
@@ -40,7 +40,7 @@ Outcome readLine(int descriptor, QString* secret) {
   QStringDecoder decoder(QStringDecoder::Utf8);
   *secret = decoder.decode(line);
   if (decoder.hasError()) return Outcome::failed(QStringLiteral("the line is no UTF-8 text"));
-  // No code at all would print what was to be guarded by one.
+  // With an empty code the job would go out unprotected.
   return secret->isEmpty() ? Outcome::failed(QStringLiteral("the line is empty")) : Outcome::done();
 }
 

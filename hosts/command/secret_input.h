@@ -1,4 +1,4 @@
-// Secrets that are not given on the command line, where other users could see them.
+// Reads secrets that are not given on the command line, where other users could see them.
 #pragma once
 
 #include <QtCore/QString>
@@ -8,13 +8,12 @@
 namespace kesto {
 
 /// Reads the first line of a file, or of standard input for "-", without its end. What follows the line in
-/// standard input is left there. Fails when there is no file, no text in the line, or no UTF-8, and when the
-/// line is longer than any entry.
+/// standard input is left there. Fails when the file cannot be read, and when the line is empty, not UTF-8 or
+/// longer than any entry.
 Outcome readSecretLine(const QString& path, QString* secret);
 
 /// Asks at the terminal of the process, without showing what is typed. Fails when there is no terminal, and
-/// when nothing is typed. A terminal whose program ends or is stopped meanwhile
-/// gets its echo back.
+/// when nothing is typed. When the program ends or is stopped meanwhile, the terminal's echo is restored.
 Outcome askSecret(const QString& prompt, QString* secret);
 
 }  // namespace kesto

@@ -1,4 +1,4 @@
-// The options by which a command line names the print server.
+// The options of a command line that name the print server.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -11,7 +11,7 @@
 namespace kesto {
 
 /// Adds "-h HOST[:PORT]", "-U USER", "-E" and "--timeout SECONDS". They fill the members `address`, `user`,
-/// `encrypt` and `limit` of `server`, which must outlive the parsing. Answers the options that take a name.
+/// `encrypt` and `limit` of `server`, which must outlive the parsing. Returns the options that take a name.
 template <class Server>
 std::array<CLI::Option*, 2> addServerOptions(CLI::App& app, Server* server) {
   const auto addName = [&app](const std::string& option, QString* name) {

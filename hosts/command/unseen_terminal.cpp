@@ -13,11 +13,11 @@
 namespace kesto {
 namespace {
 
-// No call lets a child wait for its parent to be stopped; looking so often costs nothing that can be
-// measured.
+// A child cannot wait for its parent to be stopped, so it checks regularly, at no measurable cost.
 constexpr int lookEvery = 100;  // milliseconds
 
-// What a guard needs. It is forked from a program with threads, and only calls what is safe there.
+// What a guard needs. It is forked from a program with threads, so it calls only functions that are safe
+// there.
 struct Guard {
   int terminal = -1;
   int life = -1;
@@ -41,14 +41,15 @@ bool Guard::isProgramStopped() const {
   return name != std::string_view::npos && line.substr(name).starts_with(") T");
 }
 
-// Modes that somebody else has set meanwhile, such as a shell, stay. What was typed unseen is dropped.
+// Leaves modes alone that another program, such as a shell, has set meanwhile. Discards what was typed
+// unseen.
 void Guard::change(const termios& from, const termios& to) const {
   termios now{};
   if (::tcgetattr(terminal, &now) == 0 && now.c_lflag == from.c_lflag) ::tcsetattr(terminal, TCSAFLUSH, &to);
 }
 
 void Guard::run() const {
-  // It goes on in the background whatever the terminal's keys send to the program.
+  // Keeps running in the background, whatever signals the terminal's keys send to the program.
   ::setpgid(0, 0);
   for (const int signal : {SIGINT, SIGQUIT, SIGHUP, SIGTERM, SIGTSTP, SIGTTIN, SIGTTOU})
     ::signal(signal, SIG_IGN);
@@ -82,14 +83,14 @@ UnseenTerminal::~UnseenTerminal() {
 }
 
 bool UnseenTerminal::waitForLine() const {
-  // A signal that comes just before a wait does not interrupt it.
+  // A signal that arrives just before a wait does not interrupt it.
   pollfd input{.fd = m_terminal, .events = POLLIN, .revents = 0};
   while (!isInterrupted() && ::poll(&input, 1, lookEvery) <= 0) {
   }
   return !isInterrupted();
 }
 
-// Without a guard the terminal is still unseen.
+// Without a guard the echo is still off.
 void UnseenTerminal::startGuard() {
   std::array<int, 2> ends{};
   if (::pipe2(ends.data(), O_CLOEXEC) != 0) return;

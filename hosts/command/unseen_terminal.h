@@ -1,4 +1,4 @@
-// A terminal that does not show what is typed, for as long as a secret is asked for.
+// A terminal that does not show what is typed while a secret is asked for.
 #pragma once
 
 #include <sys/types.h>
@@ -9,9 +9,9 @@
 
 namespace kesto {
 
-/// While it lives, the terminal has no echo. A signal that would end the program ends a reading from the
-/// terminal, and is sent again once the echo is back. A child process gives the echo back when the program
-/// ends in any other way, and for as long as it is stopped.
+/// While it exists, the terminal has no echo. A signal that would end the program ends the reading, and is
+/// sent again after the echo is restored. A child process restores the echo when the program ends in any
+/// other way, and while it is stopped.
 class UnseenTerminal {
  public:
   /// `terminal` is an open descriptor, which must outlive this.
@@ -20,7 +20,7 @@ class UnseenTerminal {
   UnseenTerminal(const UnseenTerminal&) = delete;
   UnseenTerminal& operator=(const UnseenTerminal&) = delete;
 
-  /// Waits until a line can be read. False once a signal has come that ends the program.
+  /// Waits until a line can be read. False when a signal has arrived that ends the program.
   bool waitForLine() const;
   bool isInterrupted() const { return m_signals.hasCome(); }
 

@@ -1,4 +1,4 @@
-// What a print server can make its clients take: each bound of hosts/cups, in one place.
+// The limits of hosts/cups on what a print server can make its clients accept.
 #pragma once
 
 #include <QtCore/QtGlobal>
@@ -9,13 +9,14 @@ namespace kesto {
 constexpr qsizetype longestReply = qsizetype{16} << 20;
 /// A PPD, in bytes, packed and unpacked.
 constexpr qsizetype longestPpd = qsizetype{8} << 20;
-/// Collections inside one another in a reply. The deepest in use has three.
+/// Nested collections in a reply. The deepest in use has three.
 constexpr int deepestCollection = 16;
 /// Values of a reply in all. A list of ten thousand queues has fifty thousand.
 constexpr int mostValues = 400'000;
 /// How long a reply may take in all, as a multiple of the limit for a wait.
 constexpr int waitsOfReply = 10;
-/// How long connecting may take in all, the handshake of an encrypted connection included, likewise.
+/// How long connecting may take in all, including the handshake of an encrypted connection, as such a
+/// multiple.
 constexpr int waitsOfConnect = 2;
 /// How often a request is sent again with other credentials or encrypted.
 constexpr int mostAttempts = 4;

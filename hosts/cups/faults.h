@@ -1,11 +1,11 @@
-// The texts of faults, in the user's language where the program has a translator for them.
+// The texts of faults, in the user's language if the program installs a translator.
 #pragma once
 
 #include <QtCore/QCoreApplication>
 
 namespace kesto {
 
-/// Gives its texts by `tr`. The command line, which installs no translator, says them in English.
+/// The translation context of these texts. Command-line programs install no translator and use English.
 struct Faults {
   Q_DECLARE_TR_FUNCTIONS(kesto::Faults)
 };

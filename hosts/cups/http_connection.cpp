@@ -12,23 +12,23 @@ namespace kesto {
 namespace {
 
 constexpr qsizetype blockSize = 65536;
-// How long a document waits for the server's leave, which old servers do not give.
+// How long a document waits for the server's "100 Continue", which old servers do not send.
 constexpr std::chrono::milliseconds leave(1000);
-// How often it is asked whether the wait for an address is to be given up.
+// How often the wait for an address checks whether to give up.
 constexpr std::chrono::milliseconds look(50);
 
-// Else the end of an encrypted connection waits for the other side's.
+// Without this, closing an encrypted connection waits for the other side.
 void shutDown(http_t* http) {
   if (httpGetFd(http) >= 0) ::shutdown(httpGetFd(http), SHUT_RDWR);
 }
 
-// Nothing more is wanted of a connection: else libcups keeps what it has unpacked of a reply that breaks off.
+// Gives a connection up. Without the flush libcups would keep what it has unpacked of a reply that broke off.
 void letGo(http_t* http) {
   shutDown(http);
   httpFlush(http);
 }
 
-// libcups takes any number for a status, those with it that its type cannot hold.
+// libcups accepts any number as a status, even one that its type cannot hold.
 http_status_t nextStatus(http_t* http) {
   const int status = httpUpdate(http);
   const bool isOfHttp = status >= HTTP_STATUS_CONTINUE && status < 600;
@@ -46,17 +46,17 @@ void CloseHttp::operator()(http_t* http) const {
   httpClose(http);
 }
 
-// libcups calls it when a wait was as long as the limit, but also when an encrypted record holds nothing for
-// it; then the wait goes on.
+// libcups calls this when a wait has reached the limit, but also when an encrypted record contains nothing
+// for it. In the latter case the wait goes on.
 int HttpConnection::giveUp(http_t* http, void* connection) {
   auto* self = static_cast<HttpConnection*>(connection);
-  if (Clock::now() < self->m_waitBegan + self->m_limit * 9 / 10) return 1;  // its clock counts roughly
+  if (Clock::now() < self->m_waitBegan + self->m_limit * 9 / 10) return 1;  // libcups's clock is coarse
   self->m_isSilent = true;
   shutDown(http);
   return 0;
 }
 
-// Nothing ends a look-up that is under way: it has a thread of its own, which is left to itself.
+// A look-up cannot be interrupted, so it runs in a thread of its own, which is abandoned if necessary.
 Outcome HttpConnection::findAddresses(const QByteArray& host, int port) {
   std::packaged_task<Addresses()> task([host, port] {
     return Addresses(httpAddrGetList(host.constData(), AF_UNSPEC, QByteArray::number(port).constData()));
@@ -113,7 +113,7 @@ Outcome HttpConnection::reconnect() {
 
 Outcome HttpConnection::exchange(const HttpRequest& request, QByteArray* reply) {
   for (int tries = 1;; ++tries) {
-    // What can be read before anything was asked is the end of the connection.
+    // If something can be read before a request, it is the end of the connection.
     if (m_isUsable && httpCheck(m_http.get()) != 0) m_isUsable = false;
     if (!m_isUsable) {
       if (Outcome connected = reconnect(); !connected) return connected;
@@ -124,7 +124,7 @@ Outcome HttpConnection::exchange(const HttpRequest& request, QByteArray* reply) 
   }
 }
 
-// Leaves the connection usable only when all of the reply is read.
+// Leaves the connection usable only if the whole reply was read.
 Outcome HttpConnection::attempt(const HttpRequest& request, QByteArray* reply) {
   m_isUsable = false;
   m_isSilent = false;
@@ -140,7 +140,7 @@ Outcome HttpConnection::attempt(const HttpRequest& request, QByteArray* reply) {
       m_status = nextStatus(m_http.get());
     while (m_status == HTTP_STATUS_CONTINUE);
   }
-  // libcups takes what came before the cut for all of the head, and below for all of the reply.
+  // libcups takes what arrived before the cut for the whole head, and below for the whole reply.
   if (m_isSilent || watch.hasCut()) m_status = HTTP_STATUS_ERROR;
   if (m_status == HTTP_STATUS_ERROR) return noAnswer(watch);
   if (m_status != HTTP_STATUS_OK) return Outcome::done();
@@ -152,11 +152,12 @@ Outcome HttpConnection::attempt(const HttpRequest& request, QByteArray* reply) {
   return Outcome::done();
 }
 
-// Afterwards the status is that the server may go on, or what it says before the request is all out.
+// Afterwards the status is HTTP_STATUS_CONTINUE, or an early answer that arrived before the whole request was
+// sent.
 Outcome HttpConnection::send(const HttpRequest& request, Watch& watch) {
   http_t* http = m_http.get();
   httpClearFields(http);
-  // A single user of the connection is known by now, or nobody.
+  // Credentials from an earlier attempt on this connection, if any.
   if (const char* user = httpGetAuthString(http); user != nullptr)
     httpSetField(http, HTTP_FIELD_AUTHORIZATION, user);
   if (request.body.isEmpty()) {
@@ -183,7 +184,7 @@ Outcome HttpConnection::sendDocument(const HttpRequest& request, Watch& watch) {
   m_hasBegunDocument = true;
   Outcome sent =
       request.document([&](const char* bytes, qsizetype count) { return sendPart(bytes, count, watch); });
-  // The server may have answered in between.
+  // The server may have answered already.
   if (m_status != HTTP_STATUS_CONTINUE)
     return m_status == HTTP_STATUS_ERROR ? noAnswer(watch) : Outcome::done();
   if (!sent) m_status = HTTP_STATUS_ERROR;
@@ -219,13 +220,13 @@ Outcome HttpConnection::receive(qsizetype longest, QByteArray* reply) {
     reply->append(block.constData(), count);
     if (reply->size() > longest) return Outcome::failed(Faults::tr("the print server's answer is too large"));
   }
-  // Without a length the end of the connection is the end.
+  // Without a length the end of the connection ends the reply.
   const bool hasLength = hasField(HTTP_FIELD_CONTENT_LENGTH) || hasField(HTTP_FIELD_TRANSFER_ENCODING);
   const bool isWhole = !hasLength || httpGetState(m_http.get()) == HTTP_STATE_WAITING;
   return isWhole ? Outcome::done() : brokenOff;
 }
 
-// Whether the server may answer otherwise now that it knows who asks, or that nobody overhears.
+// Whether another attempt may succeed, now with credentials or with encryption.
 bool HttpConnection::canTryAgain(const HttpRequest& request) {
   http_t* http = m_http.get();
   if (m_status == HTTP_STATUS_UPGRADE_REQUIRED && httpIsEncrypted(http) == 0) {
@@ -258,7 +259,7 @@ Outcome HttpConnection::outcomeOfStatus() const {
             .arg(m_name)
             .arg(m_status));
   }
-  // Beyond HTTP's own, libcups has a status for a password that was not given.
+  // libcups has a status of its own for a password that was not given.
   const bool isPassword =
       m_status == HTTP_STATUS_UNAUTHORIZED || m_status >= HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
   if (isPassword) return Outcome::failed(Faults::tr("the print server %1 asks for a password").arg(m_name));

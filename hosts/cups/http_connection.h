@@ -1,4 +1,4 @@
-// An HTTP connection to a print server on which every wait ends, whatever the server does.
+// An HTTP connection to a print server, on which every wait ends whatever the server does.
 #pragma once
 
 #include <cups/cups.h>
@@ -27,24 +27,25 @@ struct HttpRequest {
   QByteArray body{};
   /// Sends what follows the body, part by part.
   std::function<Outcome(const Sink& sink)> document{};
-  /// The longest reply that is taken, in bytes.
+  /// The longest accepted reply, in bytes.
   qsizetype longestReply = 0;
   /// Whether the user may be asked for a password.
   bool mayAskPassword = false;
 };
 
-/// One connection. libcups speaks HTTP, encrypts and knows who asks; every wait is watched. Without progress
-/// a request fails after the limit; the head of a reply must be there within the limit, and all of it within
-/// `waitsOfReply` times the limit. A document goes on while it moves. Redirects are not followed.
+/// One connection. libcups does HTTP, encryption and authentication; a watchdog limits every wait. Without
+/// progress a request fails after the limit. The head of a reply must arrive within the limit, the whole
+/// reply within `waitsOfReply` times the limit. A document may take any time while it moves. Redirects are
+/// not followed.
 class HttpConnection {
  public:
   /// Connects to the server that libcups has been given for this thread.
   static Outcome open(std::chrono::milliseconds limit, std::shared_ptr<Watchdog> watchdog,
                       std::unique_ptr<HttpConnection>* connection);
 
-  /// Sends a request and reads the reply; fails unless the server answers that all is well.
+  /// Sends a request and reads the reply; fails unless the server reports success.
   Outcome exchange(const HttpRequest& request, QByteArray* reply);
-  /// How the server answered last; HTTP_STATUS_ERROR when it did not.
+  /// The status of the last answer; HTTP_STATUS_ERROR without one.
   http_status_t status() const { return m_status; }
 
  private:
@@ -65,7 +66,7 @@ class HttpConnection {
   Outcome outcomeOfStatus() const;
   static int giveUp(http_t* http, void* connection);
 
-  QString m_name;  // as people know the server
+  QString m_name;  // the server's name for the user
   std::chrono::milliseconds m_limit;
   std::shared_ptr<Watchdog> m_watchdog;
   Addresses m_addresses;
@@ -74,7 +75,7 @@ class HttpConnection {
   Clock::time_point m_waitBegan;
   bool m_isUsable = false;          // for another request
   bool m_isSilent = false;          // a wait was given up
-  bool m_hasBegunDocument = false;  // which is read only once
+  bool m_hasBegunDocument = false;  // it can be read only once
 };
 
 }  // namespace kesto

@@ -11,10 +11,10 @@ namespace kesto {
 namespace {
 
 constexpr qsizetype headerLength = 8;  // version, status, number of the request
-constexpr int highestStatus = 0x05;    // the first byte of the highest statuses there are, of server errors
+constexpr int highestStatus = 0x05;    // the first byte of server errors, the highest statuses
 constexpr int lastDelimiter = 0x0F;    // tags up to here begin a group or end the message
 
-// Reads on through the bytes; every step fails beyond their end.
+// Steps through the bytes; every step fails beyond their end.
 class Cursor {
  public:
   explicit Cursor(const QByteArray& bytes)
@@ -22,7 +22,7 @@ class Cursor {
 
   // Negative at the end.
   int tag() { return m_position < m_bytes.size() ? static_cast<uchar>(m_bytes[m_position++]) : -1; }
-  // Steps over a length and as many bytes; the length, or negative where they are not there.
+  // Steps over a length and that many bytes. Returns the length; negative when bytes are missing.
   int skipText() {
     if (m_bytes.size() - m_position < 2) return -1;
     const int length = qFromBigEndian<quint16>(m_bytes.constData() + m_position);
@@ -44,7 +44,7 @@ Outcome tooLarge() {
   return Outcome::failed(Faults::tr("the print server's answer is too large"));
 }
 
-// How many collections are open after a value; negative when it cannot stand here.
+// How many collections are open after a value; negative when the value is not allowed here.
 int depthAfter(int tag, int valueLength, int depth) {
   const bool isEnd = tag == IPP_TAG_END_COLLECTION;
   if (tag != IPP_TAG_BEGIN_COLLECTION && !isEnd) return depth;
@@ -52,7 +52,7 @@ int depthAfter(int tag, int valueLength, int depth) {
   return isEnd ? depth - 1 : depth + 1;
 }
 
-// A message in memory, from which libcups's reader takes its bytes.
+// A message in memory, for libcups's reader.
 struct Reader {
   const QByteArray& bytes;
   qsizetype position = 0;
@@ -80,14 +80,14 @@ void FreeIpp::operator()(ipp_t* ipp) const {
 
 Outcome checkReply(const QByteArray& bytes) {
   if (bytes.size() > longestReply) return tooLarge();
-  // libcups has a type for statuses that does not hold every number.
+  // libcups's type for statuses cannot hold every number.
   if (bytes.size() < headerLength || static_cast<uchar>(bytes[2]) > highestStatus) return unreadable();
   Cursor cursor(bytes);
   int depth = 0;
   int values = 0;
   for (;;) {
     const int tag = cursor.tag();
-    // libcups reads an extended tag otherwise than the format has it; nobody sends one.
+    // libcups does not read extended tags according to the format, and nobody sends them.
     if (tag < 0 || tag == IPP_TAG_EXTENSION) return unreadable();
     if (tag <= lastDelimiter) {
       if (depth != 0) return unreadable();

@@ -1,4 +1,4 @@
-// Replies in IPP, from bytes that anybody may have sent.
+// IPP replies from untrusted bytes.
 #pragma once
 
 #include <cups/cups.h>
@@ -17,8 +17,8 @@ struct FreeIpp {
 /// An IPP message, deleted with its owner.
 using Ipp = std::unique_ptr<ipp_t, FreeIpp>;
 
-/// Whether a reply keeps to the format and to the bounds of `bounds.h`. libcups reads collections by calling
-/// itself, so that only what this accepts may go there. A function of its bytes alone.
+/// Whether a reply is well-formed and within the limits of `bounds.h`. libcups reads collections recursively,
+/// so it must get only what this function accepts. The result depends on the bytes alone.
 Outcome checkReply(const QByteArray& bytes);
 
 /// Checks a reply and reads it. `*reply` is null on failure.

@@ -1,4 +1,4 @@
-// The options of a job as people write them and libcups reads them.
+// The options of a job as users write them and libcups reads them.
 #pragma once
 
 #include <cups/cups.h>
@@ -12,8 +12,8 @@ namespace kesto {
 /// The options of a text such as "sides=one-sided media=a4 nocollate", by name.
 QMap<QString, QString> parseJobOptions(const QString& text);
 
-/// Adds the options of a text, or one option, to others. It takes the place of an earlier one of the same
-/// name in any letter case, and of one that libcups knows to mean the same.
+/// Adds the options of a text, or one option, to others. An option replaces an earlier one of the same name
+/// in any letter case, and one that libcups treats as the same.
 void addJobOptions(const QString& text, QMap<QString, QString>* options);
 void addJobOption(const QString& name, const QString& value, QMap<QString, QString>* options);
 
@@ -32,7 +32,7 @@ class OptionArray {
   /// Null when there is none of this name.
   const char* value(const char* name) const { return cupsGetOption(name, m_count, m_options); }
   QMap<QString, QString> all() const;
-  /// Adds those that libcups knows to belong into the groups of a request.
+  /// Adds the options that libcups assigns to the given groups of a request.
   void encode(ipp_t* request, std::initializer_list<ipp_tag_t> groups) const {
     for (const ipp_tag_t group : groups)
       cupsEncodeOptions2(request, m_count, m_options, group);

@@ -14,21 +14,21 @@ constexpr char stranger[] = "kesto-check";
 
 struct OptionRow {
   const char* key = nullptr;   // of the print settings, after their common prefix
-  const char* word = nullptr;  // what it says of the job
+  const char* word = nullptr;  // what it reveals about the job
   const char* prefix = printSettingsPrefix;
-  bool isServers = false;  // which gives it to the job itself
+  bool isServers = false;  // the server itself adds it to the job
 
   QByteArray name() const { return QByteArray(prefix) + key; }
 };
 
-// What any job has.
+// The options that every job has.
 constexpr std::array anyOptions{
     OptionRow{"kesto-option", QT_TRANSLATE_NOOP("kesto::Faults", "the job's options"), ""},
     OptionRow{"job-originating-user-name", QT_TRANSLATE_NOOP("kesto::Faults", "the user name"), "", true},
     OptionRow{"job-name", QT_TRANSLATE_NOOP("kesto::Faults", "the job's name"), "", true},
 };
 
-// One option of each kind that says something of a job with Job Handling.
+// One option for each kind of information in a job with Job Handling.
 constexpr std::array panelOptions{
     OptionRow{job_keys::jobSuspendKey, QT_TRANSLATE_NOOP("kesto::Faults", "the digest of the pass code")},
     OptionRow{job_keys::jobSuspend2Key, QT_TRANSLATE_NOOP("kesto::Faults", "the pass code")},
@@ -41,7 +41,7 @@ constexpr std::array panelOptions{
     OptionRow{job_keys::jobName, QT_TRANSLATE_NOOP("kesto::Faults", "the job's name")},
 };
 
-// Its owner may have to say who they are, which libcups then asks for.
+// The owner may have to authenticate, for which libcups asks.
 Outcome createJob(PrintServer& server, const QString& queue, std::span<const OptionRow> options, int* job) {
   const Ipp request = requestTo(IPP_OP_CREATE_JOB, uriOfQueue(queue));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, stranger);
@@ -82,9 +82,9 @@ Outcome lookAtJob(PrintServer& server, const QString& queue, int job, std::span<
                   QStringList* shown) {
   const Ipp request = requestTo(IPP_OP_GET_JOB_ATTRIBUTES, uriOfQueue(queue), job, stranger);
   Ipp reply;
-  // Only a server that forbids it has shown nothing; one that could not answer would have.
+  // Only "forbidden" means that nothing is shown. Any other failure proves nothing.
   Outcome asked = server.ask(request.get(), &reply, IPP_STATUS_ERROR_FORBIDDEN);
-  // Whoever may see a job sees its number at least.
+  // A user who may see a job sees at least its number.
   if (asked && ippGetStatusCode(reply.get()) != IPP_STATUS_ERROR_FORBIDDEN && !hasJob(reply.get()))
     asked = Outcome::failed(Faults::tr("the print server's answer holds no job"));
   if (!asked) return Outcome::failed(Faults::tr("what other users see is not told: %1").arg(asked.reason()));
@@ -113,7 +113,7 @@ Outcome findJobPrivacy(PrintServer& server, const QString& queue, JobPrivacy* pr
   if (Outcome asked = askForPolicy(server, queue, &privacy->policy); !asked) return asked;
   PpdFile ppd;
   if (Outcome fetched = fetchPpdFile(server, queue, &ppd); !fetched) return fetched;
-  // What a job never has is not spoken of.
+  // Reports only options that jobs of this queue can have.
   const bool hasPanel = ppd && offersJobHandling(*ppd);
   const auto options =
       hasPanel ? std::span<const OptionRow>(panelOptions) : std::span<const OptionRow>(anyOptions);

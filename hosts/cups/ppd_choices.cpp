@@ -14,7 +14,7 @@ namespace {
 constexpr std::array usual{"PageSize",         "InputSlot",  "MediaType",  "Duplex",    "ColorModel",
                            "cupsPrintQuality", "OutputMode", "Resolution", "OutputBin", "StapleLocation"};
 
-// "Custom" stands for values that the user gives, which a list has no fields for.
+// "Custom" needs a value from the user, for which a list has no field.
 bool isCustomChoice(ppd_file_t& ppd, const QString& option, const char* choice) {
   return QByteArrayView(choice) == "Custom" && hasCustomChoice(ppd, option);
 }
@@ -31,7 +31,7 @@ PpdOption optionOfPpd(ppd_file_t& ppd, const ppd_option_t& option) {
   return made;
 }
 
-// Lengths of paper that count as the same, in points.
+// The greatest difference of paper lengths that count as equal, in points.
 const QString pageSize = QStringLiteral("PageSize");
 constexpr float sizeTolerance = 2;
 constexpr double pointsPerUnit = 72.0 / 2540;  // libcups's units are hundredths of a millimetre
@@ -40,7 +40,7 @@ bool isAbout(float one, double other) {
   return std::abs(one - other) <= sizeTolerance;
 }
 
-// The PPD's paper of that size, as a choice of PageSize; one of the size's own name first.
+// The PPD's paper of that size, as a choice of PageSize; preferably the one with the size's own name.
 QString choiceOfSize(ppd_file_t& ppd, const char* name, double width, double length) {
   if (name != nullptr && ppdPageSize(&ppd, name) != nullptr &&
       choicesOf(ppd, pageSize).contains(QLatin1String(name)))
@@ -54,7 +54,7 @@ QString choiceOfSize(ppd_file_t& ppd, const char* name, double width, double len
   return {};
 }
 
-// A size of the user's own, when the printer takes one.
+// A custom size, if the printer accepts one.
 QString customPaper(ppd_file_t& ppd, double width, double length, const QString& choice) {
   const auto fits = [&](int side, double value) {
     return value > 0 && value >= ppd.custom_min[side] &&
@@ -67,7 +67,7 @@ QString customPaper(ppd_file_t& ppd, double width, double length, const QString&
 
 bool hasOption(ppd_file_t& ppd, const QString& option) {
   const QByteArray keyword = option.toUtf8();
-  // libcups does not look at letter case, but "collate" of a job is not the PPD's "Collate".
+  // libcups ignores letter case, but a job's "collate" is not the PPD's "Collate".
   const ppd_option_t* found = ppdFindOption(&ppd, keyword.constData());
   return found != nullptr && keyword == found->keyword;
 }

@@ -1,4 +1,4 @@
-// The options of a PPD that a print dialog offers by itself.
+// The options of a PPD that a print dialog itself offers.
 #pragma once
 
 #include <QtCore/QMap>
@@ -25,38 +25,38 @@ struct PpdOption {
   int marked = -1;  ///< The value in force.
 };
 
-/// Marks the PPD's defaults, and over them the values that are kept for the queue, by the PPD's names.
+/// Marks the PPD's defaults, then the values that are kept for the queue, by the PPD's names.
 void markDefaults(ppd_file_t& ppd, const QMap<QString, QString>& kept);
 
 /// Whether the PPD has an option of this name.
 bool hasOption(ppd_file_t& ppd, const QString& option);
-/// Whether the option takes values of the user's own as well, as in "Custom.100x200mm".
+/// Whether the option also accepts custom values, such as "Custom.100x200mm".
 bool hasCustomChoice(ppd_file_t& ppd, const QString& option);
-/// The values of an option by their keywords; without "Custom", which is no value by itself.
+/// The values of an option by their keywords, without "Custom", which is not a value by itself.
 QStringList choicesOf(ppd_file_t& ppd, const QString& option);
 
-/// A paper size of the user's own, as its choice "Custom.WIDTHxLENGTHUNIT" says it.
+/// A custom paper size, from the choice "Custom.WIDTHxLENGTHUNIT".
 struct CustomSize {
   QString width;
   QString length;
   QString unit;  ///< "pt", "in", "ft", "mm", "cm" or "m".
 };
-/// None when the choice is no such size.
+/// None when the choice is not such a size.
 std::optional<CustomSize> customSizeOf(const QString& choice);
 
 /// The choice for a size in millimetres.
 QString customChoice(double width, double length);
 
-/// The choice of PageSize for a paper: by a PPD's name, one of the standard ("iso_a5_148x210mm"), an older
-/// one
-/// ("iso-a5") or a size ("Custom.10x15cm"). Null when the printer has no such paper and takes no such size.
+/// The choice of PageSize for a paper: by a PPD's name, a standard name ("iso_a5_148x210mm"), an older one
+/// ("iso-a5") or a size ("Custom.10x15cm"). Null when the printer neither has such a paper nor accepts such a
+/// size.
 QString paperChoice(ppd_file_t& ppd, const QString& name);
 
-/// The usual few options that the PPD has, in the order in which a dialog shows them; without those that a
-/// panel handles. "Custom" is not among the choices.
+/// The usual options that the PPD has, in the order of a dialog, without those that a panel handles. "Custom"
+/// is not among the choices.
 std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledByPanel);
 
-/// Marks one value. Answers the texts of the options that do not go together then; empty for none.
+/// Marks one value. Returns the texts of the options that then conflict; empty for none.
 QStringList markChoice(ppd_file_t& ppd, const QString& option, const QString& choice);
 
 /// A paper size of a PPD; lengths in millimetres.
@@ -67,13 +67,13 @@ struct PpdPaper {
                          ///< none.
   double width = 0;
   double height = 0;
-  double left = 0;  ///< From here on the margins that the printer cannot reach.
+  double left = 0;  ///< This and the next three: the margins that the printer cannot reach.
   double right = 0;
   double top = 0;
   double bottom = 0;
 };
 
-/// The paper size that is marked, none when the PPD tells of none.
+/// The marked paper size; none when the PPD has none.
 std::optional<PpdPaper> markedPaper(ppd_file_t& ppd);
 
 }  // namespace kesto

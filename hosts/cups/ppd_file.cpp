@@ -12,7 +12,7 @@
 namespace kesto {
 namespace {
 
-// libcups unpacks a PPD that is packed as it reads.
+// libcups unpacks a compressed PPD while reading it.
 bool isShortEnough(const QString& path) {
   const std::unique_ptr<cups_file_t, decltype(&cupsFileClose)> file(
       cupsFileOpen(QFile::encodeName(path).constData(), "r"), cupsFileClose);
@@ -31,7 +31,7 @@ void ClosePpd::operator()(ppd_file_t* ppd) const {
 
 Outcome openPpdFile(const QString& path, PpdFile* ppd) {
   ppd->reset();
-  // libcups tells of a file that cannot be read only that it cannot.
+  // libcups does not say why a file cannot be read.
   QFile file(path);
   if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": is a folder, not a PPD file"));
   if (!file.open(QIODevice::ReadOnly))
@@ -47,8 +47,8 @@ Outcome openPpdFile(const QString& path, PpdFile* ppd) {
 
 Outcome fetchPpdFile(PrintServer& server, const QString& queue, PpdFile* ppd) {
   ppd->reset();
-  // libcups's own call for it asks the host that the queue names, on another connection: through a tunnel
-  // that is another server, and else it takes its time.
+  // libcups's own call asks the host that the queue names, on another connection. Through a tunnel that is
+  // the wrong server, and it waits beyond the limit.
   QByteArray bytes;
   Outcome fetched = server.fetch("/printers/" + queue.toUtf8() + ".ppd", longestPpd, &bytes);
   if (!fetched)

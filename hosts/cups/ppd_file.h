@@ -23,7 +23,7 @@ using PpdFile = std::unique_ptr<ppd_file_t, ClosePpd>;
 /// libcups's reason.
 Outcome openPpdFile(const QString& path, PpdFile* ppd);
 
-/// The PPD of a queue, fetched from a print server; null for a queue that has none.
+/// Fetches the PPD of a queue from a print server; null for a queue that has none.
 Outcome fetchPpdFile(PrintServer& server, const QString& queue, PpdFile* ppd);
 
 /// Whether the PPD names the bundle "JobHandling.pde" among the extensions of the print dialog.

@@ -17,11 +17,10 @@ namespace {
 
 constexpr qsizetype documentBlock = 65536;
 constexpr qsizetype longestName = 255;
-// How often it is asked whether to go on while nobody writes the document.
+// How often a wait for the document's writer checks whether to go on.
 constexpr int questionMs = 200;
 
-// A name as the scheduler takes it: it gives a job whose name is longer, or holds control characters, a name
-// of its own.
+// A name that the scheduler accepts. It replaces a job's name that is longer or contains control characters.
 QByteArray nameOf(const QString& text) {
   QString name = text;
   for (QChar& character : name) {
@@ -38,7 +37,7 @@ struct Document {
   qint64 size = -1;
 };
 
-// Waits for a writer where the file is a pipe with a name; a signal ends the wait when it is to be given up.
+// Opening a named pipe waits for a writer; a signal ends the wait if the job is to be stopped.
 int openForReading(const QByteArray& path, const std::function<bool()>& goesOn) {
   int descriptor = -1;
   do
@@ -58,7 +57,7 @@ Outcome openDocument(const JobFile& job, const std::function<bool()>& goesOn, Do
   if (job.path == "-") {
     document->name = QStringLiteral("(stdin)");
     document->isStandardInput = true;  // It has no name of its own.
-    // What was read of it before ends where a line did.
+    // Earlier reads have consumed whole lines only.
     if (file.open(STDIN_FILENO, QIODevice::ReadOnly)) return Outcome::done();
     return Outcome::failed(Faults::tr("standard input cannot be read"));
   }
@@ -80,8 +79,8 @@ Outcome openDocuments(const std::vector<JobFile>& files, const std::function<boo
   return Outcome::done();
 }
 
-// Reads what there is, past Qt, whose reading waits until the block is full. Negative with EINTR while there
-// is nothing yet.
+// Reads what is available, without Qt, which would wait until the block is full. Returns a negative value and
+// EINTR while nothing is available.
 ssize_t readSome(int descriptor, QByteArray* block) {
   pollfd input{.fd = descriptor, .events = POLLIN, .revents = 0};
   if (::poll(&input, 1, questionMs) > 0)
@@ -90,7 +89,7 @@ ssize_t readSome(int descriptor, QByteArray* block) {
   return -1;
 }
 
-// `*read` says whether it was the document, or its user, that ended it.
+// `*read` fails when the document could not be read or the user stopped the job.
 Outcome copyDocument(const Document& document, const HttpRequest::Sink& sink,
                      const std::function<bool(qint64)>& progress, Outcome* read) {
   qint64 sent = 0;
@@ -107,7 +106,7 @@ Outcome copyDocument(const Document& document, const HttpRequest::Sink& sink,
   }
 }
 
-// A server can give a job up while it takes its document, and its answer is then that all is well.
+// A server can abort a job while it receives the document, and still report success.
 Outcome outcomeOfState(ipp_t* reply) {
   const int state = ippGetInteger(ippFindAttribute(reply, "job-state", IPP_TAG_ENUM), 0);
   if (state != IPP_JSTATE_ABORTED && state != IPP_JSTATE_CANCELED) return Outcome::done();
@@ -120,8 +119,8 @@ Outcome outcomeOfState(ipp_t* reply) {
   return Outcome::failed(Faults::tr("the print server has ended the job: %1").arg(reasons.join(u", ")));
 }
 
-// A job that is created and not yet whole; cancelled unless it is kept. Made of libcups's requests, since its
-// calls for a job first ask the printer for every attribute, value by value.
+// A job that is created but not complete; it is cancelled unless it is kept. It is made with single requests,
+// because libcups's calls for a job first ask the printer for every attribute, value by value.
 class OpenJob {
  public:
   OpenJob(PrintServer& server, const cups_dest_t& destination)
@@ -133,7 +132,7 @@ class OpenJob {
     if (m_id == 0 || m_isKept) return;
     const Ipp request = requestTo(IPP_OP_CANCEL_JOB, m_uri, m_id);
     Ipp reply;
-    // A server that does not take it ends such a job by itself.
+    // If this fails, the server ends the incomplete job by itself.
     (void)m_server.order(request.get(), "/jobs/", &reply);
   }
   OpenJob(const OpenJob&) = delete;
@@ -209,7 +208,8 @@ Outcome sendJob(PrintServer& server, const cups_dest_t& destination, const Print
   std::vector<Document> documents;
   const auto goesOn = [&] { return progress(1, 0, -1); };
   if (Outcome opened = openDocuments(job.files, goesOn, &documents); !opened) return opened;
-  // A server that is silent now could make an empty job of the request later.
+  // A server that is silent now could later create an empty job from the request, so it is asked a question
+  // first.
   if (Outcome answered = server.probe(); !answered) return answered;
   OptionArray options;
   gatherOptions(job, destination, &options);

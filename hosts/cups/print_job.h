@@ -13,7 +13,7 @@ namespace kesto {
 /// One document of a job.
 struct JobFile {
   QByteArray path;  ///< As the file system has it, in whatever encoding; "-" for standard input.
-  QString name{};   ///< What people call it; null for the file's own name.
+  QString name{};   ///< Its name for the user; null for the file's own name.
 };
 
 /// A job as it is to be sent.
@@ -21,16 +21,17 @@ struct PrintJob {
   QString title;
   std::vector<JobFile> files;      ///< Empty for standard input alone.
   QMap<QString, QString> options;  ///< Job options by name, the print settings among them.
-  bool isRaw = false;              ///< The printer gets the documents as they are.
+  bool isRaw = false;              ///< The printer receives the documents unchanged.
 };
 
-/// Told of each part of a document that has gone out: its number from 1 on, the bytes so far and in all (-1
-/// when not known), and asked again while nobody writes the document. Answers whether to go on.
+/// Called after each part of a document that was sent, with the document's number from 1, the bytes so far
+/// and in all (-1 when unknown), and regularly while the document's writer is silent. Returns whether to go
+/// on.
 using UploadProgress = std::function<bool(int document, qint64 sent, qint64 total)>;
 
-/// Opens every file, creates the job, sends its documents; `*jobId` is its number. On failure the outcome
-/// carries the reason, and nothing of the job stays with a server that still answers: but for an empty job
-/// where the server made one and told of an error in a reply that libcups cannot read.
+/// Opens every file, creates the job, sends its documents; `*jobId` is its number. On failure the outcome has
+/// the reason, and the job is removed from a server that still answers. The exception is an empty job that
+/// the server created but reported in a reply that libcups cannot read.
 Outcome sendJob(PrintServer& server, const cups_dest_t& destination, const PrintJob& job,
                 const UploadProgress& progress, int* jobId);
 

@@ -47,7 +47,7 @@ QByteArray nameOf(ipp_t* reply) {
   return name == nullptr ? nullptr : ippGetString(name, 0, nullptr);
 }
 
-// Each printer of a reply is a run of attributes in the printer group.
+// In a reply, each printer is a run of attributes in the printer group.
 std::vector<QueueSummary> queuesOf(ipp_t* reply) {
   std::vector<QueueSummary> queues;
   bool isInside = false;
@@ -60,7 +60,7 @@ std::vector<QueueSummary> queuesOf(ipp_t* reply) {
   return queues;
 }
 
-// What a reply says of its request, in the server's words.
+// The result of a request, in the server's words.
 Outcome outcomeOf(ipp_t* reply, ipp_status_t allowed) {
   const ipp_status_t status = ippGetStatusCode(reply);
   if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == allowed) return Outcome::done();
@@ -112,7 +112,7 @@ Outcome PrintServer::findDefault(QueueName* name) {
   askForName(request.get());
   Ipp reply;
   Outcome asked = order(request.get(), "/", &reply);
-  // A server without a default queue says that it found nothing.
+  // A server without a default queue answers "not found".
   if (!asked && ippGetStatusCode(reply.get()) != IPP_STATUS_ERROR_NOT_FOUND) return asked;
   name->queue = nameOf(reply.get());
   if (!name->queue.isEmpty()) return Outcome::done();
@@ -133,7 +133,7 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
   if (Outcome asked = order(request.get(), "/", &reply); !asked)
     return !reply ? asked
                   : Outcome::failed(Faults::tr("the queue %1 cannot be had: %2").arg(queue, asked.reason()));
-  // The server may write it otherwise.
+  // The server may spell the name differently.
   if (const QByteArray itsName = nameOf(reply.get()); !itsName.isEmpty()) wanted.queue = itsName;
   cups_dest_t* made = nullptr;
   cupsAddDest(wanted.queue.constData(), wanted.instance.isEmpty() ? nullptr : wanted.instance.constData(), 0,
@@ -149,7 +149,7 @@ Outcome PrintServer::probe() {
   askForName(request.get());
   Ipp reply;
   Outcome answered = this->request(request.get(), &reply);
-  // One that wants to know who asks has answered, too.
+  // A demand for authentication is an answer as well.
   return m_http->status() == HTTP_STATUS_ERROR ? answered : Outcome::done();
 }
 
@@ -189,7 +189,7 @@ Outcome PrintServer::listQueues(std::vector<QueueSummary>* queues) {
   const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
   askForSummary(request.get());
   Ipp reply;
-  // A server without queues says that it found nothing.
+  // A server without queues answers "not found".
   if (Outcome asked = ask(request.get(), &reply, IPP_STATUS_ERROR_NOT_FOUND); !asked) return asked;
   *queues = queuesOf(reply.get());
   std::ranges::sort(*queues, {}, &QueueSummary::name);

@@ -24,26 +24,26 @@ struct FreeDest {
 /// A queue with its options, as libcups gives it.
 using Destination = std::unique_ptr<cups_dest_t, FreeDest>;
 
-/// What a list of queues shows of one.
+/// What a list of queues shows for one queue.
 struct QueueSummary {
   QString name;
-  QString info;          ///< The queue's description, as people wrote it.
+  QString info;          ///< The queue's description, as its administrator wrote it.
   QString deviceUri;     ///< Where it sends its jobs.
   QString state;         ///< "idle", "processing" or "stopped".
-  QString stateMessage;  ///< What the server says of it, such as why it is stopped or takes no jobs.
+  QString stateMessage;  ///< The server's message about it, such as why it is stopped or accepts no jobs.
   bool isAccepting = true;
 };
 
-/// One print server. Every operation ends in time and takes no more memory than `bounds.h` has it, whatever
-/// the server does; outcomes say what it did.
+/// One print server. Every operation ends in time and uses no more memory than `bounds.h` allows, whatever
+/// the server does; on failure the outcome says what happened.
 class PrintServer {
  public:
-  /// Sends a document by its parts.
+  /// Sends a document in parts.
   using Document = std::function<Outcome(const HttpRequest::Sink& sink)>;
 
   /// Connects to `address` ("host", "host:port" or the path of a socket), or to the server that CUPS_SERVER
-  /// and the configuration name when it is null. `limit` is for every wait without progress; `watchdog` ends
-  /// all waits when it is interrupted.
+  /// and the configuration name when it is null. `limit` applies to every wait without progress; `watchdog`
+  /// ends all waits when it is interrupted.
   static Outcome connect(const QString& address, std::chrono::milliseconds limit,
                          std::unique_ptr<PrintServer>* server,
                          const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>());
@@ -53,18 +53,17 @@ class PrintServer {
   /// The queue `name`, or the user's default queue when it is null, with what the server and the user keep
   /// for it.
   Outcome findQueue(const QString& name, Destination* destination);
-  /// All queues by name, by one request for what a summary shows.
+  /// All queues by name, with one request for what a summary shows.
   Outcome listQueues(std::vector<QueueSummary>* queues);
-  /// What the list shows of one queue; none when the server has no such queue.
+  /// What the list shows for one queue; none when the server has no such queue.
   Outcome summarize(const QString& name, std::optional<QueueSummary>* queue);
-  /// Sends one request, as whom it names, and reads the reply, whatever its status; never asks for a
+  /// Sends one request as the user that it names, and reads the reply, whatever its status. Never asks for a
   /// password.
   Outcome request(ipp_t* request, Ipp* reply);
-  /// As `request`, but fails with the server's words on a reply that tells of an error, unless that is
-  /// `allowed`.
+  /// Like `request`, but fails with the server's words when the reply reports an error other than `allowed`.
   Outcome ask(ipp_t* request, Ipp* reply, ipp_status_t allowed = IPP_STATUS_OK);
-  /// As `ask`, for what only some may do: the user may be asked for a password. The document follows the
-  /// request.
+  /// Like `ask`, for operations that may need authorisation: the user may be asked for a password. The
+  /// document follows the request.
   Outcome order(ipp_t* request, const QByteArray& resource, Ipp* reply, const Document& document = {});
   /// Fetches a PPD or another file; null when there is none.
   Outcome fetch(const QByteArray& resource, qsizetype longest, QByteArray* bytes);
@@ -80,7 +79,7 @@ class PrintServer {
 /// The value of a queue's option or attribute; null when it has none.
 QString optionOf(const cups_dest_t& destination, const char* name);
 
-/// The URI by which requests name a queue.
+/// The URI that names a queue in requests.
 QByteArray uriOfQueue(const QString& queue);
 
 /// A request to the printer with this URI, about one of its jobs when `job` is not 0, as `user`.

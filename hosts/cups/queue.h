@@ -10,7 +10,7 @@ namespace kesto {
 /// it.
 struct Queue {
   QString id{};         ///< The queue's name.
-  QString deviceUri{};  ///< Where it sends its jobs; null when the server does not tell.
+  QString deviceUri{};  ///< Where it sends its jobs; null when the server does not say.
   PpdFile ppd{};        ///< Null for a queue without a PPD.
   Destination destination{};
 };

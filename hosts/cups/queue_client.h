@@ -1,4 +1,4 @@
-// One queue of a print server, opened and printed on without holding up the window.
+// Opens queues of a print server and prints on them without blocking the window.
 #pragma once
 
 #include <QtCore/QObject>
@@ -21,8 +21,8 @@ class QueueClient : public QObject {
   explicit QueueClient(ServerAddress server) : m_server(std::move(server)) {}
   ~QueueClient() override { m_mailbox->close(); }
 
-  /// Opens a queue, the user's default one when `name` is null. What an earlier call is still waiting for is
-  /// not told any more.
+  /// Opens a queue, the user's default one when `name` is null. The result of an earlier call is no longer
+  /// reported.
   void open(const QString& name);
   /// Sends a job to a queue, as that is now.
   void send(const Queue& queue, const PrintJob& job);
@@ -35,11 +35,11 @@ class QueueClient : public QObject {
   /// The queue is open, and the receiver's who moves it away.
   void opened(kesto::Queue& queue);
   void openFailed(const QString& reason);
-  /// Bytes of the document that have gone out, and all of them (-1 when not known).
+  /// Bytes of the document that were sent, and its size (-1 when unknown).
   void progressed(qint64 sent, qint64 total);
   void sent(int job);
   void sendFailed(const QString& reason);
-  /// What other users see; the outcome says why it is not known.
+  /// What other users see; on failure the outcome says why it is unknown.
   void privacyChecked(const kesto::Outcome& outcome, const kesto::JobPrivacy& privacy);
 
  private:

@@ -5,7 +5,7 @@
 namespace kesto {
 namespace {
 
-// Long enough for a dialog that is asked for news every few seconds, short for one that was killed.
+// Long enough for a dialog that asks every few seconds, and short enough for one that was killed.
 constexpr std::chrono::seconds lease = std::chrono::minutes(10);
 
 Ipp requestOf(ipp_op_t operation) {
@@ -52,7 +52,7 @@ void QueueEvents::cancel() {
   const Ipp request = requestOf(IPP_OP_CANCEL_SUBSCRIPTION);
   ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-subscription-id", m_id);
   Ipp reply;
-  // It would end by itself as well.
+  // If this fails, the subscription ends by itself.
   (void)m_server.ask(request.get(), &reply);
   m_id = 0;
 }

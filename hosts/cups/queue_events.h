@@ -1,4 +1,4 @@
-// Changes of a print server's queues, told by the server itself.
+// Changes of a print server's queues, as the server reports them.
 #pragma once
 
 #include <QtCore/QSet>
@@ -7,16 +7,16 @@
 
 namespace kesto {
 
-/// A subscription to what happens to the queues of one server. It is leased, and ends by itself when nobody
-/// asks any more.
+/// A subscription to events of all queues of one server. It is leased, and ends by itself when nobody asks
+/// any more.
 class QueueEvents {
  public:
   /// `server` must outlive the subscription.
   explicit QueueEvents(PrintServer& server) : m_server(server) {}
 
-  /// Fails when the server gives no subscription to this user.
+  /// Fails when the server refuses this user a subscription.
   Outcome subscribe();
-  /// The queues that have changed, come or gone since it was last asked. Fails when the subscription has
+  /// The queues that were changed, added or removed since the last call. Fails when the subscription has
   /// ended or the server does not answer.
   Outcome changedQueues(QSet<QString>* queues);
   /// Ends the subscription.
@@ -25,7 +25,7 @@ class QueueEvents {
  private:
   PrintServer& m_server;
   int m_id = 0;
-  int m_sequence = 1;  // of the first event that is not known yet
+  int m_sequence = 1;  // of the next event to ask for
 };
 
 }  // namespace kesto

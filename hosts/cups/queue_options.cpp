@@ -8,7 +8,7 @@
 namespace kesto {
 namespace {
 
-// What describes a queue, and the group of what its jobs have by default.
+// The attributes that describe a queue, and the group with the defaults of its jobs.
 constexpr std::array description{"auth-info-required",    "device-uri",
                                  "job-sheets-default",    "printer-defaults",
                                  "printer-info",          "printer-is-accepting-jobs",
@@ -18,7 +18,7 @@ constexpr std::array description{"auth-info-required",    "device-uri",
                                  "printer-uri-supported"};
 constexpr char defaultSuffix[] = "-default";
 
-// As a text that cupsParseOptions takes apart again.
+// Writes a value so that cupsParseOptions reads it back.
 QByteArray textOfValue(ipp_attribute_t* attribute, int index) {
   switch (ippGetValueTag(attribute)) {
     case IPP_TAG_BOOLEAN:
@@ -46,19 +46,20 @@ QByteArray textOf(ipp_attribute_t* attribute) {
   return values.join(',');
 }
 
-// Whether values of this kind can stand as an option's; "no value" and collections cannot.
+// Whether a value of this kind can be an option's value; "no value" and collections cannot.
 bool isOneValue(ipp_tag_t tag) {
   constexpr std::array kinds{IPP_TAG_BOOLEAN, IPP_TAG_ENUM, IPP_TAG_INTEGER,
                              IPP_TAG_KEYWORD, IPP_TAG_NAME, IPP_TAG_RANGE};
   return std::ranges::find(kinds, tag) != kinds.end();
 }
 
-// The option that an attribute of a queue is: its own name, or the one of the job's; null for none.
+// The option for an attribute of a queue: the attribute's name, or that of the job's option for which it is
+// the default; null for none.
 QByteArray optionOf(ipp_attribute_t* attribute) {
   const QByteArray name = ippGetName(attribute);
   if (name == "printer-name") return {};
   if (name.endsWith(defaultSuffix)) {
-    // The quality is the driver's to know, which has more names for it.
+    // The quality is left to the driver, which has more levels.
     const bool isJobs = !name.startsWith("notify-") && !name.startsWith("print-quality-");
     return isJobs && isOneValue(ippGetValueTag(attribute)) ? name.chopped(qsizetype{sizeof defaultSuffix} - 1)
                                                            : QByteArray();
@@ -67,10 +68,10 @@ QByteArray optionOf(ipp_attribute_t* attribute) {
   return std::ranges::any_of(description, isIt) ? name : QByteArray();
 }
 
-// A line longer than that is no line of such a file.
+// The longest line in such a file.
 constexpr qint64 longestLine = 65536;
 
-// The machine's first, so that the user's go over it.
+// The machine's file comes first, so that the user's overrides it.
 QList<QString> files() {
   const QString machine = qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups"));
   const QString home = qEnvironmentVariable("HOME");
@@ -115,7 +116,7 @@ QueueName QueueName::of(const QByteArray& text) {
 
 QueueName defaultQueueName() {
   if (const QByteArray name = qgetenv("LPDEST"); !name.isEmpty()) return QueueName::of(name);
-  // Of old, "lp" is what a terminal's printer is called there.
+  // Traditionally, "lp" in this variable means a terminal's printer.
   if (const QByteArray name = qgetenv("PRINTER"); !name.isEmpty() && name != "lp") return QueueName::of(name);
   QueueName found;
   for (const QString& path : files()) {

@@ -1,4 +1,4 @@
-// The options of a queue: what its server keeps for it, then the machine and the user, in files named
+// The options of a queue: those that its server keeps, then those of the machine and the user in files named
 // "lpoptions".
 #pragma once
 
@@ -11,23 +11,23 @@ namespace kesto {
 /// A queue as those files name it.
 struct QueueName {
   QByteArray queue;     ///< Null for none.
-  QByteArray instance;  ///< A set of options of its own for the queue; null for the queue's only one.
+  QByteArray instance;  ///< The name of a separate set of options for the queue; null for the main one.
 
   /// From "queue/instance" or "queue".
   static QueueName of(const QByteArray& text);
 };
 
-/// The queue that the environment (LPDEST, PRINTER) or else those files name as the default.
+/// The default queue according to the environment (LPDEST, PRINTER) or else to those files.
 QueueName defaultQueueName();
 
-/// Names what a request for a queue is to ask for.
+/// Adds the attributes to ask for to a request for a queue.
 void askForOptions(ipp_t* request);
 
-/// Adds what the server says of a queue: its description, and the values that a job has when it says nothing.
+/// Adds what the server says about a queue: its description, and the defaults for its jobs.
 void addServersOptions(ipp_t* reply, cups_dest_t* destination);
 
-/// Adds the options that are kept for a queue, the user's over the machine's, over those that `destination`
-/// has.
+/// Adds the options that are kept for a queue. The user's override the machine's, and both override those of
+/// `destination`.
 void addKeptOptions(const QueueName& name, cups_dest_t* destination);
 
 }  // namespace kesto

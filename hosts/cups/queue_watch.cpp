@@ -9,13 +9,13 @@ constexpr std::chrono::seconds pollInterval(3);
 
 }  // namespace
 
-// What the thread does; its results go out as signals of the watch.
+// The work of the thread; its results become signals of the watch.
 class QueueWatch::Follower {
  public:
   Follower(QueueWatch* watch, ServerAddress server)
       : m_watch(watch), m_mailbox(watch), m_address(std::move(server)) {}
 
-  // For the watch's thread: nothing is answered or waited for any more.
+  // Called in the watch's thread: afterwards nothing is reported or waited for.
   void leave() { m_mailbox.close(); }
   void interrupt() { m_watchdog->interrupt(); }
 
@@ -28,7 +28,7 @@ class QueueWatch::Follower {
     m_mailbox.answer([watch = m_watch, queues] { Q_EMIT watch->listed(queues); });
     m_hasListed = true;
     m_isLost = false;
-    // A server that gives no subscription to this user is shown as it was.
+    // Without a subscription the list stays as it was.
     m_events.emplace(*m_server);
     if (!m_events->subscribe()) m_events.reset();
   }
@@ -39,7 +39,7 @@ class QueueWatch::Follower {
     QSet<QString> names;
     Outcome asked = m_events->changedQueues(&names);
     if (!asked) {
-      // The scheduler closes connections that are idle for long, and forgets subscriptions when it restarts.
+      // The scheduler closes idle connections, and forgets subscriptions when it restarts.
       return list();
     }
     for (const QString& name : std::as_const(names))
@@ -61,7 +61,7 @@ class QueueWatch::Follower {
 
   void tell(const QString& name) {
     std::optional<QueueSummary> queue;
-    // What is not told now is told with the list, when the server is asked again.
+    // A failure here is repaired by the next listing.
     if (!m_server->summarize(name, &queue)) return;
     if (queue) {
       m_mailbox.answer([watch = m_watch, queue = *queue] { Q_EMIT watch->changed(queue); });
@@ -70,14 +70,14 @@ class QueueWatch::Follower {
     }
   }
 
-  QueueWatch* m_watch;  // used in its own thread alone
+  QueueWatch* m_watch;  // used only in its own thread
   Mailbox m_mailbox;
   std::shared_ptr<Watchdog> m_watchdog = std::make_shared<Watchdog>();
   ServerAddress m_address;
   std::unique_ptr<PrintServer> m_server;
   std::optional<QueueEvents> m_events;  // none while nothing is followed
   bool m_hasListed = false;
-  bool m_isLost = false;  // there was a list, and the server does not answer any more
+  bool m_isLost = false;  // there was a list, but the server no longer answers
 };
 
 QueueWatch::QueueWatch(const ServerAddress& server)

@@ -1,4 +1,4 @@
-// The queues of a print server, listed and followed without holding up the window.
+// Lists the queues of a print server and follows their changes without blocking the window.
 #pragma once
 
 #include <QtCore/QObject>
@@ -11,8 +11,8 @@
 
 namespace kesto {
 
-/// Lists the queues once, then asks every few seconds what has changed, and only about that. Signals come in
-/// the thread of this object.
+/// Lists the queues once, then asks every few seconds for changes, and only about changed queues. Signals are
+/// emitted in the thread of this object.
 class QueueWatch : public QObject {
   Q_OBJECT
 
@@ -26,9 +26,9 @@ class QueueWatch : public QObject {
  Q_SIGNALS:
   /// All queues, by name.
   void listed(const std::vector<kesto::QueueSummary>& queues);
-  /// One queue has come or changed.
+  /// One queue was added or changed.
   void changed(const kesto::QueueSummary& queue);
-  /// One queue is gone.
+  /// One queue was removed.
   void removed(const QString& name);
   /// The server does not answer, or refuses; nothing is followed until the next start.
   void failed(const QString& reason);

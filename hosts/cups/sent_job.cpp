@@ -17,7 +17,7 @@ Ipp requestAbout(const SentJob& job, ipp_op_t operation) {
   return request;
 }
 
-// A server knows jobs by their numbers alone: that one is not another queue's has to be asked.
+// A server identifies jobs by their numbers alone, so the job's queue has to be checked.
 Outcome findOnQueue(PrintServer& server, const SentJob& job) {
   if (job.queue.isNull()) return Outcome::done();
   const Ipp request = requestAbout(job, IPP_OP_GET_JOB_ATTRIBUTES);
@@ -56,8 +56,8 @@ Outcome restartJob(PrintServer& server, const SentJob& job) {
 
 Outcome changeJob(PrintServer& server, const SentJob& job, QMap<QString, QString> options) {
   const QString fault = QStringLiteral("job %1 cannot be changed: %2");
-  // The scheduler refuses a time among the attributes, which is no keyword, and keeps its old word for
-  // others.
+  // Among the attributes, the scheduler refuses a time, which is not a keyword, and keeps the old value for
+  // other words. Hold-Job sets both.
   const QString hold = QStringLiteral("job-hold-until");
   if (options.contains(hold) && options.value(hold) != u"no-hold") {
     const Ipp request = requestAbout(job, IPP_OP_HOLD_JOB);

@@ -1,4 +1,4 @@
-// Changes a job that a print server has already.
+// Changes a job that was sent to a print server.
 #pragma once
 
 #include <QtCore/QMap>
@@ -8,21 +8,21 @@
 
 namespace kesto {
 
-/// A job as people write it, "12" or "QUEUE-12".
+/// A job as users write it, "12" or "QUEUE-12".
 struct SentJob {
-  QString queue;  ///< Null when it was not named.
+  QString queue;  ///< Null when not given.
   int number = 0;
 
   /// None when the text names no job.
   static std::optional<SentJob> of(const QString& text);
 };
 
-/// Prints a finished job again. Fails when the server has none of this number on this queue, or does not
+/// Prints a finished job again. Fails when the server has no job with this number on this queue, or does not
 /// restart it.
 Outcome restartJob(PrintServer& server, const SentJob& job);
 
-/// Gives the job other options, by name. Fails when the server has none of this number on this queue, or does
-/// not take them all.
+/// Changes options of the job. Fails when the server has no job with this number on this queue, or does not
+/// accept all options.
 Outcome changeJob(PrintServer& server, const SentJob& job, QMap<QString, QString> options);
 
 }  // namespace kesto

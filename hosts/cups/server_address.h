@@ -1,4 +1,4 @@
-// The print server that a program speaks to, and the connections to it.
+// The print server that a program uses, and the connections to it.
 #pragma once
 
 #include <chrono>
@@ -8,14 +8,14 @@
 
 namespace kesto {
 
-/// Where the print server is, and who asks it.
+/// Where the print server is, and as which user to ask it.
 struct ServerAddress {
   QString address;  ///< "host", "host:port" or the path of a socket; null for the one of the environment.
   QString user;     ///< Null for the account's name.
   bool encrypt = false;
   std::chrono::milliseconds limit = std::chrono::seconds(5);  ///< For each wait without progress.
 
-  /// A new connection, for the thread that calls.
+  /// Opens a new connection for the calling thread.
   Outcome connect(std::unique_ptr<PrintServer>* server,
                   const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>()) const {
     if (encrypt) cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);

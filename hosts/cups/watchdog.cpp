@@ -10,7 +10,7 @@
 namespace kesto {
 namespace {
 
-// How soon a connection is cut that libcups has made anew.
+// How soon a connection is cut after libcups has reconnected.
 constexpr std::chrono::milliseconds nextLook(50);
 
 bool isConnectedTo(int descriptor, http_addrlist_t* addresses) {
@@ -24,8 +24,8 @@ bool isConnectedTo(int descriptor, http_addrlist_t* addresses) {
   return false;
 }
 
-// The number may be another file's by now: libcups closes and opens sockets in its own thread. So it is held
-// first, and cut only if it leads to the print server.
+// The number may belong to another file by now, because libcups closes and opens sockets in its own thread.
+// So the descriptor is duplicated first, and shut down only if it leads to the print server.
 void cut(http_t* http, http_addrlist_t* addresses) {
   const Descriptor held(::fcntl(httpGetFd(http), F_DUPFD_CLOEXEC, 0));
   if (held && isConnectedTo(held.get(), addresses)) ::shutdown(held.get(), SHUT_RDWR);

@@ -1,4 +1,4 @@
-// Ends a wait on a print server from outside: when its time is over, or nobody wants the answer any more.
+// Ends a wait for a print server from outside, when its time is up or the answer is no longer wanted.
 #pragma once
 
 #include <cups/cups.h>
@@ -19,8 +19,8 @@ struct FreeAddresses {
 /// The addresses of a print server, freed with their owner.
 using Addresses = std::unique_ptr<http_addrlist_t, FreeAddresses>;
 
-/// Watches one connection at a time. libcups bounds a single wait, but neither what trickles nor what never
-/// ends; so the watchdog cuts the socket under it, again for as long as libcups connects anew.
+/// Watches one connection at a time. libcups limits a single wait, but not an answer that trickles or never
+/// ends. So the watchdog shuts down its socket, repeatedly while libcups reconnects.
 class Watchdog {
  public:
   Watchdog() = default;
@@ -28,13 +28,13 @@ class Watchdog {
   Watchdog(const Watchdog&) = delete;
   Watchdog& operator=(const Watchdog&) = delete;
 
-  /// Ends what waits, now and from now on. For any thread.
+  /// Ends the current wait and all later ones. May be called in any thread.
   void interrupt();
   bool isInterrupted() const;
-  /// Where libcups looks while it connects: not 0 once interrupted.
+  /// The flag that libcups checks while it connects: not 0 after an interruption.
   int* cancelFlag() { return &m_isInterrupted; }
 
-  /// While it lives, the connection is watched. `http` and `addresses` must outlive it.
+  /// While it exists, the connection is watched. `http` and `addresses` must outlive it.
   class Watch {
    public:
     /// Without a limit only an interruption ends the wait.
@@ -44,7 +44,7 @@ class Watchdog {
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
 
-    /// Gives the wait a new limit from now on.
+    /// Starts a new limit from now on.
     void restart(std::optional<std::chrono::milliseconds> limit);
     /// Whether the connection was cut.
     bool hasCut() const;
@@ -62,7 +62,7 @@ class Watchdog {
 
   mutable std::mutex m_mutex;
   std::condition_variable m_changed;
-  std::thread m_thread;      // from the first watch on
+  std::thread m_thread;      // started by the first watch
   http_t* m_http = nullptr;  // what is watched
   http_addrlist_t* m_addresses = nullptr;
   std::optional<Clock::time_point> m_end;

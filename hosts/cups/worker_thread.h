@@ -1,4 +1,4 @@
-// A thread for what can wait on the print server.
+// A thread for work that may have to wait for the print server.
 #pragma once
 
 #include <QtCore/QThread>
@@ -8,12 +8,12 @@
 
 namespace kesto {
 
-/// Does work in the order in which it is posted. The destructor waits for the work under way, and drops the
+/// Does work in the order in which it is posted. The destructor waits for the current work and discards the
 /// rest.
 class WorkerThread {
  public:
-  /// `interrupt` ends what the work waits for. With it the destructor waits `patience` before and after it is
-  /// called, and then leaves the work to itself: it must own all that it uses.
+  /// `interrupt` ends what the work waits for. With it, the destructor waits `patience` before and after
+  /// calling it, and then abandons the work, which must therefore own everything that it uses.
   explicit WorkerThread(std::function<void()> interrupt = {}) : m_interrupt(std::move(interrupt)) {
     m_parts->context.moveToThread(&m_parts->thread);
     m_parts->thread.start();
@@ -37,7 +37,7 @@ class WorkerThread {
   }
 
  private:
-  // A dialog has two threads, and is to be gone within a second.
+  // A dialog has two such threads and must end within a second.
   static constexpr unsigned long patience = 200;  // in milliseconds
 
   struct Parts {
@@ -48,18 +48,19 @@ class WorkerThread {
   std::unique_ptr<Parts> m_parts = std::make_unique<Parts>();
 };
 
-/// The way back to an object that may be gone before the work that answers it.
+/// A way to report to an object that may be destroyed before the work is done.
 class Mailbox {
  public:
   explicit Mailbox(QObject* receiver) : m_receiver(receiver) {}
 
-  /// Does `work` in the receiver's thread, unless that is gone by then. For any thread.
+  /// Does `work` in the receiver's thread, unless the receiver is destroyed by then. May be called in any
+  /// thread.
   template <class Work>
   void answer(Work work) {
     const std::lock_guard lock(m_mutex);
     if (m_receiver != nullptr) QMetaObject::invokeMethod(m_receiver, std::move(work), Qt::QueuedConnection);
   }
-  /// The receiver is about to go.
+  /// Call this when the receiver is about to be destroyed.
   void close() {
     const std::lock_guard lock(m_mutex);
     m_receiver = nullptr;
@@ -70,7 +71,7 @@ class Mailbox {
   QObject* m_receiver;
 };
 
-/// Does `work` in the thread of `receiver`, unless that is gone by then.
+/// Does `work` in the thread of `receiver`, unless that is destroyed by then.
 inline void answer(QObject* receiver, const std::function<void()>& work) {
   QMetaObject::invokeMethod(receiver, work, Qt::QueuedConnection);
 }

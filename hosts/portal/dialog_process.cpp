@@ -10,18 +10,17 @@
 #include <csignal>
 #include <vector>
 
-extern "C" {  // the header of glibc 2.36 does not say so itself
+extern "C" {  // the header of glibc 2.36 lacks this
 #include <sys/pidfd.h>
 }
 
 namespace kesto {
 namespace {
 
-// Where the dialog finds its end of the channel; the first number behind the standard streams.
+// The descriptor of the dialog's end of the channel: the first after the standard streams.
 constexpr int dialogsDescriptor = 3;
 
-// Without those that hand the program's own dialogs to the portal; a theme may carry arguments behind a
-// colon.
+// Leaves out themes that hand a program's dialogs to the portal. A theme may have arguments after a colon.
 QStringList withoutPortalThemes(const QStringList& themes) {
   QStringList kept;
   for (const QString& theme : themes) {
@@ -34,7 +33,7 @@ QStringList withoutPortalThemes(const QStringList& themes) {
   return kept;
 }
 
-// A list of C strings that ends in a null pointer, as the system wants it. Valid as long as `texts`.
+// A list of C strings that ends with a null pointer, as the system requires. Valid as long as `texts`.
 std::vector<char*> pointersTo(std::vector<QByteArray>* texts) {
   std::vector<char*> pointers;
   pointers.reserve(texts->size() + 1);
@@ -51,7 +50,7 @@ std::vector<QByteArray> textsOf(const QProcessEnvironment& environment) {
   return texts;
 }
 
-// Starts a program with its end of the channel, without the signal mask of this one; the error number.
+// Starts a program with its end of the channel and an empty signal mask. Returns the error number.
 int spawn(const QString& program, int channel, pid_t* process) {
   std::vector<QByteArray> arguments{QFile::encodeName(program), "--portal",
                                     QByteArray::number(dialogsDescriptor)};
@@ -64,7 +63,8 @@ int spawn(const QString& program, int channel, pid_t* process) {
   sigset_t none;
   sigemptyset(&none);
   posix_spawnattr_setsigmask(&attributes, &none);
-  // A group of its own: what ends the service from a terminal leaves the document of a dialog alone.
+  // The dialog gets its own process group, so that ending the service from a terminal does not lose a
+  // document.
   posix_spawnattr_setpgroup(&attributes, 0);
   posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETPGROUP);
   const int error = posix_spawn(process, arguments.front().constData(), &actions, &attributes,
@@ -96,7 +96,7 @@ Outcome DialogProcess::start(const QString& program) {
   pid_t process = 0;
   if (const int error = spawn(program, theirs.get(), &process); error != 0)
     return Outcome::failed(program + QStringLiteral(": ") + qt_error_string(error));
-  // The process is not waited for before its descriptor is there, so that the number is still its own.
+  // The process number stays valid here, because nobody waits for the process before its descriptor exists.
   m_processDescriptor.reset(::pidfd_open(process, 0));
   if (!m_processDescriptor) {
     Outcome failed = Outcome::failed(program + QStringLiteral(": ") + qt_error_string(errno));
@@ -130,7 +130,7 @@ void DialogProcess::reap() {
   finishWhenBothEnded();
 }
 
-// The process's end and that of its messages are seen in any order.
+// The end of the process and the end of its messages can arrive in any order.
 void DialogProcess::finishWhenBothEnded() {
   if (m_isClosed && m_isReaped) Q_EMIT finished(m_isNormal);
 }

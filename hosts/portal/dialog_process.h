@@ -1,4 +1,4 @@
-// The print dialog as a process of its own: kesto-print --portal FD.
+// The print dialog as a separate process: kesto-print --portal FD.
 #pragma once
 
 #include <QtCore/QJsonObject>
@@ -13,28 +13,28 @@
 
 namespace kesto {
 
-/// The environment of a dialog that the portal's service starts: the service's own without what would send
-/// the dialog's own requests to the portal again, and so to the service.
+/// The environment of a dialog that the portal's service starts: the service's own, without variables that
+/// would send the dialog's own requests to the portal and so back to the service.
 QProcessEnvironment dialogEnvironment(QProcessEnvironment environment);
 
-/// One dialog and the channel to it. The dialog goes on when this object ends: it may hold a document.
+/// One dialog and the channel to it. The dialog goes on when this object is destroyed, because it may have a
+/// document.
 class DialogProcess : public QObject {
   Q_OBJECT
 
  public:
   explicit DialogProcess(QObject* parent) : QObject(parent) {}
 
-  /// Starts `program`. Fails when there is no such program or the system refuses. Once.
+  /// Starts `program`; call it once. Fails when there is no such program or the system refuses.
   Outcome start(const QString& program);
-  /// Sends a message, with a copy of the descriptor when there is one; see PrintChannel::send. Fails before
-  /// the start.
+  /// Sends a message, with a copy of the descriptor if there is one; see PrintChannel::send. Fails before the
+  /// start.
   Outcome send(const QJsonObject& message, int attached = -1);
 
  Q_SIGNALS:
-  /// What the dialog says. A descriptor is not expected from it and is closed.
+  /// A message from the dialog. A descriptor is not expected and is closed.
   void received(const QJsonObject& message);
-  /// The process has ended and all it said has been told; `isNormal` when it ended by itself with exit code
-  /// 0.
+  /// The process has ended and its messages have been delivered; `isNormal` when it exited with code 0.
   void finished(bool isNormal);
 
  private:

@@ -8,7 +8,7 @@
 namespace kesto {
 namespace {
 
-// A client takes lengths as floating-point numbers and everything else as text.
+// A client expects lengths as floating-point numbers and everything else as text.
 QVariantMap toVariants(const QJsonObject& object) {
   QVariantMap map;
   for (auto it = object.begin(); it != object.end(); ++it) {
@@ -50,7 +50,7 @@ Outcome DialogSession::open(const QString& program, const QJsonObject& open,
   hold(std::move(request));
   if (Outcome started = m_dialog.start(program); !started) {
     end(Response::Failed);
-    deleteLater();  // there is no process whose end would do it
+    deleteLater();  // no process was started whose end would do this
     return started;
   }
   Outcome sent = m_dialog.send(open);
@@ -111,14 +111,15 @@ void DialogSession::keepChoice(const QJsonObject& message) {
                           {QStringLiteral("token"), m_ticket.token}});
 }
 
-// The end of a pipe is that of the document while its writer lives.
+// The end of a pipe is the end of the document only while its writer lives.
 void DialogSession::confirmEnd() {
   if (!m_bus.interface()->isServiceRegistered(m_ticket.client)) return withdraw();
   if (Outcome told = m_dialog.send(command("whole")); !told)
     qWarning("the print dialog cannot go on: %ls", qUtf16Printable(told.reason()));
 }
 
-// The client, the front end or the time has given the print up. A job whose document is there goes on.
+// Called when the client or the front end withdraws the print, or its time is up. A job whose document has
+// arrived goes on.
 void DialogSession::withdraw() {
   m_settling.stop();
   if (m_state == State::Ended) return answer(Response::Failed);
@@ -137,7 +138,7 @@ void DialogSession::end(Response response) {
 void DialogSession::answer(Response response, const QVariantMap& results) {
   if (m_request == nullptr) return;
   m_request->answer(response, results);
-  m_request->deleteLater();  // it may be the one that calls
+  m_request->deleteLater();  // it may be the caller
   m_request = nullptr;
 }
 

@@ -1,4 +1,4 @@
-// What one dialog is to the portal's service: the request that it answers, and the ticket that it becomes.
+// One dialog as the portal's service sees it: the request that it answers, and the ticket that it becomes.
 #pragma once
 
 #include <QtCore/QObject>
@@ -13,16 +13,17 @@
 
 namespace kesto {
 
-/// Whom a session belongs to, and what its choices are kept under.
+/// Who a session belongs to, and its token.
 struct Ticket {
   QString client;  ///< The client's unique bus name.
-  QString appId;   ///< As the front end knows the client; empty when it does not.
+  QString appId;   ///< The front end's identifier for the client; empty when unknown.
   quint32 token = 0;
-  std::chrono::milliseconds lifetime{};  ///< From the choice on.
+  std::chrono::milliseconds lifetime{};  ///< Counted from the choice.
 };
 
-/// Lives as long as its dialog. The client's end, a withdrawn request and an expired ticket close the dialog;
-/// once the choice is made and a document handed on, the dialog decides whether that one is whole.
+/// Exists as long as its dialog. The end of the client, a withdrawn request and an expired ticket close the
+/// dialog. After the choice is made and a document handed over, the dialog decides whether the document is
+/// complete.
 class DialogSession : public QObject {
   Q_OBJECT
 
@@ -30,26 +31,26 @@ class DialogSession : public QObject {
   DialogSession(const QDBusConnection& bus, Ticket ticket, QObject* parent);
 
   /// Starts the dialog `program` and opens it with the message `open`; its answer goes to `request`. With
-  /// `document`, the dialog shows and prints that one. On failure the request is answered as failed.
+  /// `document`, the dialog shows and prints it. On failure the request is answered as failed.
   Outcome open(const QString& program, const QJsonObject& open, std::unique_ptr<PortalRequest> request,
                int document = -1);
-  /// Hands the ticket's document on. Fails when the dialog is not there any more: `request` is untouched
-  /// then, and the ticket spent in any case.
+  /// Hands the ticket's document over. Fails when the dialog no longer exists; `request` is then untouched.
+  /// The ticket is used up in either case.
   Outcome print(const QString& title, int document, std::unique_ptr<PortalRequest>* request);
 
   quint32 token() const { return m_ticket.token; }
-  /// Whether it is a dialog of this client's, or of the same application's.
+  /// Whether the dialog belongs to this client or to the same application.
   bool isOf(const QString& client, const QString& appId) const;
-  /// Whether it waits for the document of this client's token.
+  /// Whether the dialog waits for the document of this client's token.
   bool waitsFor(quint32 token, const QString& client) const;
 
  private:
   enum class State {
-    Choosing,         ///< The user is asked.
-    Waiting,          ///< The choice is made, the document is to come: the ticket is good.
-    ChoosingToPrint,  ///< The user is asked, and the dialog has the document.
-    Printing,         ///< Choice and document are the dialog's.
-    Ended,            ///< Nothing is expected of the dialog but its end.
+    Choosing,         ///< The user is choosing.
+    Waiting,          ///< The choice is made and the document is to come: the ticket is valid.
+    ChoosingToPrint,  ///< The user is choosing, and the dialog has the document.
+    Printing,         ///< The dialog has choice and document.
+    Ended,            ///< Nothing is expected but the end of the dialog.
   };
 
   void hold(std::unique_ptr<PortalRequest> request);
@@ -66,7 +67,7 @@ class DialogSession : public QObject {
   DialogProcess m_dialog;
   QDBusServiceWatcher m_clientWatcher;
   QTimer m_expiry;
-  QTimer m_settling;                   // from the end of what the client wrote on
+  QTimer m_settling;                   // runs from the end of what the client wrote
   PortalRequest* m_request = nullptr;  // a child; null when none waits
 };
 

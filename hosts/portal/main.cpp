@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   QDBusConnection bus = QDBusConnection::sessionBus();
-  // The session ends with its bus, which tells nobody else.
+  // When the session's bus ends, the session is over; nothing else reports it.
   bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
               QStringLiteral("Disconnected"), &application, SLOT(quit()));
   kesto::PortalService service(bus, QCoreApplication::applicationDirPath() + QStringLiteral("/kesto-print"));

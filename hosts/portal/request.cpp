@@ -9,7 +9,7 @@ QString senderOf(const QDBusObjectPath& handle) {
       QStringLiteral(R"(^/org/freedesktop/portal/desktop/request/(\d+(?:_\d+)+)/[A-Za-z0-9_]+$)"));
   const QRegularExpressionMatch match = form.match(handle.path());
   if (!match.hasMatch()) return {};
-  // A path takes neither the colon nor the dots of a bus name.
+  // A path cannot contain the colon and the dots of a bus name.
   return QLatin1Char(':') + match.captured(1).replace(u'_', u'.');
 }
 

@@ -12,7 +12,7 @@
 namespace kesto {
 namespace {
 
-// Numbers stay numbers, everything else that is text or can be is text.
+// Numbers stay numbers; everything else becomes text if it can.
 QJsonObject toJson(const QVariantMap& map) {
   QJsonObject object;
   for (auto it = map.begin(); it != map.end(); ++it) {
@@ -38,7 +38,7 @@ QJsonObject openMessage(const QString& appId, const QString& parentWindow, const
 
 PortalService::PortalService(QDBusConnection bus, QString dialog, std::chrono::milliseconds lifetime)
     : m_bus(std::move(bus)), m_dialog(std::move(dialog)), m_lifetime(lifetime) {
-  // A method is put on the bus only when the types of its parameters are known by their names.
+  // The bus offers a method only if the types of its parameters are registered by their names.
   qRegisterMetaType<QDBusObjectPath>();
   qRegisterMetaType<QDBusUnixFileDescriptor>();
   qRegisterMetaType<QDBusMessage>();
@@ -46,12 +46,12 @@ PortalService::PortalService(QDBusConnection bus, QString dialog, std::chrono::m
 
 Outcome PortalService::start() {
   const auto refused = [&](const char* what) {
-    // That somebody else was first is no error to the bus.
+    // The bus does not report an error when another service has the name.
     const QString reason = m_bus.lastError().message();
     return Outcome::failed(QLatin1String(what) + (reason.isEmpty() ? reason : QStringLiteral(": ") + reason));
   };
   if (!m_bus.isConnected()) return refused("there is no session bus");
-  // The object comes first: whoever waits for the name calls it at once.
+  // The object comes first, because a client that waits for the name calls it at once.
   if (!m_bus.registerObject(QLatin1String(objectPath), this, QDBusConnection::ExportAllSlots))
     return refused("the portal's object is taken");
   if (!m_bus.registerService(QLatin1String(busName))) return refused("the portal's name is taken");
@@ -84,7 +84,7 @@ void PortalService::Print(const QDBusObjectPath& handle, const QString& appId, c
   DialogSession* session = sessionOf(token);
   if (session != nullptr && session->waitsFor(token, client)) {
     if (const Outcome printing = session->print(title, descriptor, &request)) return;
-    // That dialog is just ending: the user is asked anew.
+    // That dialog is just ending, so the user is asked again.
   }
   QJsonObject open = openMessage(appId, parentWindow, title, options);
   open.insert(QStringLiteral("settings"), QJsonObject());
@@ -93,7 +93,7 @@ void PortalService::Print(const QDBusObjectPath& handle, const QString& appId, c
   openDialog(client, open, std::move(request), descriptor);
 }
 
-// Defers the answer to a call of a client that is there; null when the request is answered as failed.
+// Defers the answer to a call if its client exists; null when the request was answered as failed.
 std::unique_ptr<PortalRequest> PortalService::accept(const QDBusObjectPath& handle,
                                                      const QDBusMessage& call) {
   auto request = std::make_unique<PortalRequest>(m_bus, call);
@@ -122,14 +122,14 @@ void PortalService::openDialog(const QString& client, const QJsonObject& open,
     qWarning("a client has %d print dialogs already, and gets no more", mostDialogs);
     return;
   }
-  // The session watches the client's end from its creation on; here it is seen whether that was before.
+  // The session notices the end of its client only after its creation, so an earlier end is checked here.
   auto* session = new DialogSession(m_bus, Ticket{client, appId, drawToken(), m_lifetime}, this);
   if (!m_bus.interface()->isServiceRegistered(client)) return session->deleteLater();
   if (const Outcome opened = session->open(m_dialog, open, std::move(request), document); !opened)
     qWarning("the print dialog cannot be opened: %ls", qUtf16Printable(opened.reason()));
 }
 
-// The session of a token, whether its ticket is good or not; null when there is none.
+// The session of a token, whether its ticket is valid or not; null when there is none.
 DialogSession* PortalService::sessionOf(quint32 token) const {
   for (auto* session : findChildren<DialogSession*>(QString(), Qt::FindDirectChildrenOnly)) {
     if (session->token() == token) return session;
@@ -137,7 +137,7 @@ DialogSession* PortalService::sessionOf(quint32 token) const {
   return nullptr;
 }
 
-// A token that nobody can guess and no session has; never 0, which stands for none.
+// An unused token that nobody can guess; never 0, which means none.
 quint32 PortalService::drawToken() const {
   quint32 token = 0;
   while (token == 0 || sessionOf(token) != nullptr) {

@@ -1,4 +1,4 @@
-// The backend of the desktop portal for printing: the interface on the bus, and the dialogs behind it.
+// The backend of the desktop portal for printing: the interface on the bus, and its dialogs.
 #pragma once
 
 #include <QtCore/QObject>
@@ -16,8 +16,8 @@
 
 namespace kesto {
 
-/// Answers `org.freedesktop.impl.portal.Print` on a bus. Every print has a dialog of its own; dialogs that
-/// hold a document go on when the service ends, all others close.
+/// Answers `org.freedesktop.impl.portal.Print` on a bus. Every print has its own dialog. When the service
+/// ends, dialogs that have a document go on, and all others close.
 class PortalService : public QObject {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Print")
@@ -26,24 +26,24 @@ class PortalService : public QObject {
   static constexpr char busName[] = "org.freedesktop.impl.portal.desktop.kesto";
   static constexpr char objectPath[] = "/org/freedesktop/portal/desktop";
   static constexpr std::chrono::minutes ticketLifetime{5};
-  /// The most dialogs that one client, or one application, has at a time.
+  /// The most dialogs that one client or application can have at a time.
   static constexpr int mostDialogs = 8;
 
-  /// Starts the program `dialog` for each request; a choice is kept for `lifetime`.
+  /// Starts the program `dialog` for each request; a choice is valid for `lifetime`.
   PortalService(QDBusConnection bus, QString dialog, std::chrono::milliseconds lifetime = ticketLifetime);
 
-  /// Puts the interface and the name on the bus. Fails without a bus, or when another has the name.
+  /// Puts the interface and the name on the bus. Fails without a bus, or when another service has the name.
   Outcome start();
 
  public Q_SLOTS:
-  /// Lets the user choose for a document that is to come; answered later with "settings", "page-setup" and
-  /// "token". For the bus.
+  /// Called over the bus: lets the user choose for a later document. Answered later with "settings",
+  /// "page-setup" and "token".
   void PreparePrint(const QDBusObjectPath& handle, const QString& appId, const QString& parentWindow,
                     const QString& title, const QVariantMap& settings, const QVariantMap& pageSetup,
                     const QVariantMap& options, const QDBusMessage& call, uint& response,
                     QVariantMap& results);
-  /// Prints the document with the choices of the option "token", or lets the user choose first. Answered
-  /// later. For the bus.
+  /// Called over the bus: prints the document with the choices of the option "token", or lets the user choose
+  /// first. Answered later.
   void Print(const QDBusObjectPath& handle, const QString& appId, const QString& parentWindow,
              const QString& title, const QDBusUnixFileDescriptor& document, const QVariantMap& options,
              const QDBusMessage& call, uint& response, QVariantMap& results);
