@@ -28,8 +28,7 @@ bool isRegular(int descriptor) {
   return ::fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode);
 }
 
-// Whether it can be read as often as wanted. The files that the kernel makes up say of themselves that they
-// are empty, or longer than they are.
+// Whether it can be read repeatedly. Files that the kernel generates report a wrong length.
 bool isStored(int descriptor) {
   struct stat info {};
   struct statfs place {};
@@ -42,7 +41,7 @@ bool isStored(int descriptor) {
 
 struct Document::Copied {
   Descriptor file;
-  QString fault;  // "%1" stands for the name; null when all is well
+  QString fault;  // "%1" stands for the name; null without a fault
 };
 
 Document::Document(Bounds bounds) : m_bounds(bounds), m_wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
@@ -52,7 +51,7 @@ Document::~Document() {
 }
 
 void Document::wake() const {
-  // A count that is full wakes as well.
+  // The write fails when the counter is full, but then the thread wakes anyway.
   (void)::eventfd_write(m_wake.get(), 1);
 }
 
@@ -86,13 +85,13 @@ void Document::openFiles(const QByteArrayList& paths) {
 
 void Document::add(const QByteArray& path) {
   const bool isInput = path == "-";
-  // A pipe without a writer and a line that is not connected are opened all the same.
+  // Opens a pipe without a writer and an unconnected serial line without waiting.
   Descriptor file(isInput ? ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0)
                           : ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   if (!file) return addFault(tr("%1 cannot be read: %2").arg(shownPath(path), qt_error_string(errno)));
   if (isFolder(file.get())) return addFault(tr("%1 is a folder").arg(shownPath(path)));
   m_parts.push_back({isInput ? QStringLiteral("(stdin)") : shownFileName(path), {}});
-  // Standard input is read from where it stands.
+  // Standard input is read from its current position.
   if (isInput || !isStored(file.get())) {
     m_sources.push_back({m_parts.size() - 1, std::move(file)});
   } else {
@@ -128,7 +127,7 @@ void Document::readOn() {
   if (m_state == State::Paused) set(State::Reading);
 }
 
-// In the reading thread, as the next four.
+// Runs in the reading thread, like the next four.
 void Document::readSources(const std::vector<Source>& sources, int reading) {
   qint64 read = 0;
   for (const Source& source : sources) {
@@ -165,7 +164,7 @@ Document::Copied Document::copy(int descriptor, qint64* read, int reading) {
   return {copy.take(), copy.size() == 0 ? tr("%1 is empty. There is nothing to print.") : QString()};
 }
 
-// Whether there is something to read; false when the two flags are to be looked at first.
+// Whether there is something to read; false when the two flags must be checked first.
 bool Document::wait(int descriptor, bool isPaused) {
   std::array<pollfd, 2> waits{pollfd{.fd = m_wake.get(), .events = POLLIN, .revents = 0},
                               pollfd{.fd = isPaused ? -1 : descriptor, .events = POLLIN, .revents = 0}};
@@ -176,7 +175,7 @@ bool Document::wait(int descriptor, bool isPaused) {
   return false;
 }
 
-// Does it in the thread of this object, unless another document has come in the meantime.
+// Does it in the thread of this object, unless another document was chosen meanwhile.
 void Document::post(int reading, const std::function<void()>& action) {
   const auto act = [this, reading, action] {
     if (reading == m_reading) action();
@@ -194,7 +193,7 @@ void Document::takeCopy(std::size_t part, const std::shared_ptr<Copied>& copied)
   }
 }
 
-// All is read that can be.
+// Everything that can be read has been read.
 void Document::finish() {
   std::erase_if(m_parts, [](const Part& part) { return !part.file; });
   if (m_parts.empty()) return set(m_faults.isEmpty() ? State::None : State::Failed);

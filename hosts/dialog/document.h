@@ -16,8 +16,8 @@
 
 namespace kesto {
 
-/// What is to be printed: files, which stay open from their choice on, and what pipes and other things that
-/// can be read but once give, which is copied beside the event loop. Signals come in the thread of this
+/// What is to be printed: files, which stay open after they are chosen, and the contents of pipes and other
+/// sources that can be read only once, which a thread copies. Signals are emitted in the thread of this
 /// object.
 class Document : public QObject {
   Q_OBJECT
@@ -26,11 +26,11 @@ class Document : public QObject {
   enum class State {
     None,
     Reading,
-    Paused,  ///< As much is read as may be before the user has pressed Print.
-    Ready,   ///< There is something to print, though perhaps not all that was asked for.
+    Paused,  ///< As much is read as is allowed before the user has pressed Print.
+    Ready,   ///< There is something to print, though perhaps not everything that was chosen.
     Failed,
   };
-  /// How much of what has no length is copied, in bytes.
+  /// How much is copied of a source without a length, in bytes.
   struct Bounds {
     qint64 beforePrint = qint64{256} << 20;  ///< Before the user has pressed Print.
     qint64 whole = qint64{2} << 30;          ///< At most.
@@ -40,41 +40,40 @@ class Document : public QObject {
   explicit Document(Bounds bounds);
   ~Document() override;
 
-  /// Takes files by their paths, "-" for standard input. Those that cannot be read are left out, and named by
+  /// Takes files by their paths, "-" for standard input. Files that cannot be read are left out and named by
   /// `faults`.
   void openFiles(const QByteArrayList& paths);
   /// Reads a descriptor, which the document owns, to its end.
   void readDescriptor(int descriptor, const QString& name);
-  /// The same for one that another program writes. The end of a pipe is also what the other's death looks
-  /// like: the document is ready only once `confirmEnd` is called after `ended`. A file is whole as it is.
+  /// The same for a descriptor to which another program writes. A pipe also ends when that program dies, so
+  /// the document is ready only when `confirmEnd` is called after `ended`. A file is complete at once.
   void readFromClient(int descriptor, const QString& name);
   void confirmEnd();
-  /// The user has pressed Print: nothing pauses any more.
+  /// Call this when the user has pressed Print: the reading no longer pauses.
   void readOn();
 
   State state() const { return m_state; }
-  /// Whether somebody else still writes it, or may have died while doing so.
+  /// Whether another program is still writing it, or may have died meanwhile.
   bool isOpenEnded() const { return m_isOpenEnded; }
-  /// What cannot be printed, and why: a sentence each.
+  /// What cannot be printed and why, one sentence each.
   const QStringList& faults() const { return m_faults; }
-  /// What people call it: the file's name, or that of the first with the number of the others.
+  /// Its name for the user: the file's name, or that of the first file with the number of others.
   QString name() const;
-  /// The files to send. Their paths are good for this user's processes as long as the document stays as it
-  /// is.
+  /// The files to send. Their paths are valid for this user's processes until the document changes.
   std::vector<JobFile> files() const;
 
  Q_SIGNALS:
   void changed();
-  /// What another program writes has come to an end.
+  /// What another program writes has ended.
   void ended();
 
  private:
-  // One of the documents; without a file until it is read, and for good when that fails.
+  // One of the documents. It has no file until it is read, and none at all when that fails.
   struct Part {
     QString name;
     Descriptor file;
   };
-  // What the reading thread owns of a part.
+  // The data that the reading thread owns for a part.
   struct Source {
     std::size_t part;
     Descriptor descriptor;
@@ -104,7 +103,7 @@ class Document : public QObject {
   const Descriptor m_wake;        // an eventfd: the reading thread looks at the two flags
   std::atomic<bool> m_isStopped = false;
   std::atomic<bool> m_isWanted = false;
-  int m_reading = 0;  // tells one reading from the next
+  int m_reading = 0;  // the number of the current reading, to recognise late results
   std::thread m_reader;
 };
 

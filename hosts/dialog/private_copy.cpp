@@ -17,7 +17,7 @@ namespace {
 
 constexpr QLatin1String nameOfCopies("kesto-document");
 
-// A file without a name; where the file system has none of these it loses its name at once.
+// A file without a name. Where the file system does not support that, its name is removed at once.
 Descriptor openUnnamed(const QString& folder) {
   const QByteArray path = QFile::encodeName(folder);
   Descriptor file(::open(path.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
@@ -51,7 +51,7 @@ bool copyStart(int from, qint64 count, int to) {
   return true;
 }
 
-// A lease to write is given only while nobody else has the file open.
+// A write lease is granted only while no other process has the file open.
 bool isOpenElsewhere(int file) {
   return ::fcntl(file, F_SETLEASE, F_WRLCK) != 0;
 }
@@ -64,7 +64,7 @@ QStringList PrivateCopy::usualFolders() {
   return folders;
 }
 
-// Goes over to the next folder that takes what is there so far; errno says why there is none.
+// Moves to the next folder with room for what was copied so far; errno says why there is none.
 bool PrivateCopy::moveOn() {
   while (!m_folders.isEmpty()) {
     Descriptor file = openUnnamed(m_folders.takeFirst());
@@ -77,7 +77,7 @@ bool PrivateCopy::moveOn() {
 
 Outcome PrivateCopy::append(const char* bytes, qint64 count) {
   while (!m_file || !writeAll(m_file.get(), bytes, count)) {
-    // What was written of the block is written again, in the next folder.
+    // The whole block is written again in the next folder.
     if (!moveOn()) return Outcome::failed(qt_error_string(errno));
   }
   m_size += count;

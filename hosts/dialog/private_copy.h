@@ -1,4 +1,4 @@
-// The copy of a document that is read once.
+// The copy of a document that can be read only once.
 #pragma once
 
 #include <QtCore/QStringList>
@@ -8,11 +8,11 @@
 
 namespace kesto {
 
-/// A file of this user's that no folder lists: whatever ends the program, nothing of it stays. It lies in the
-/// first of several folders that has room for it, and moves on to the next when that becomes full.
+/// A file of this user that no folder lists, so that nothing of it remains, however the program ends. It is
+/// in the first of several folders with room for it, and moves to the next when that becomes full.
 class PrivateCopy {
  public:
-  /// The user's temporary directory, then those of the system.
+  /// Uses the user's temporary directory, then those of the system.
   static QStringList usualFolders();
 
   explicit PrivateCopy(QStringList folders = usualFolders()) : m_folders(std::move(folders)) {}
@@ -20,7 +20,7 @@ class PrivateCopy {
   /// Adds bytes at the end. Fails when no folder has room for the whole.
   Outcome append(const char* bytes, qint64 count);
   qint64 size() const { return m_size; }
-  /// Hands the file over; none before something was added.
+  /// Gives the file up to the caller; none before something was added.
   Descriptor take() { return std::move(m_file); }
 
  private:
@@ -31,8 +31,7 @@ class PrivateCopy {
   qint64 m_size = 0;
 };
 
-/// Removes the copies with names that earlier versions left when they were killed; one that is open in some
-/// process stays.
+/// Removes named copies that earlier versions left when they were killed, unless a process has them open.
 void removeLeftCopies();
 
 }  // namespace kesto

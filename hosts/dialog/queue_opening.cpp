@@ -38,7 +38,7 @@ void QueueOpening::retry() {
     m_isListed = false;
     m_watch.start();
   }
-  // The default queue may be there by now: the list is no answer before that is known.
+  // The default queue may exist by now, so the list is not shown as an answer before that is known.
   reset();
   ask();
 }
@@ -62,7 +62,7 @@ void QueueOpening::take(Queue queue) {
   m_state = State::Open;
   Q_EMIT opened(queue);
   takeChange();
-  // The window handles what has come up before the panel is made visible.
+  // Lets the window handle pending events before the panel becomes visible.
   QMetaObject::invokeMethod(this, &QueueOpening::settle, Qt::QueuedConnection);
 }
 
@@ -96,8 +96,8 @@ void QueueOpening::takeOpenFault(const QString& reason) {
   settleWithout();
 }
 
-// The queue that was asked for is not there. Without a default queue the first one that takes jobs is as good
-// as any, once the list is there.
+// The requested queue does not exist. In place of a missing default queue the first one that accepts jobs is
+// used when the list has arrived.
 void QueueOpening::settleWithout() {
   if (m_openFault.isNull()) return;
   QString fault = m_openFault;

@@ -1,4 +1,4 @@
-// The queue that a print dialog wants, and what became of opening it.
+// The queue that a print dialog wants, and the state of its opening.
 #pragma once
 
 #include "hosts/cups/queue_client.h"
@@ -7,8 +7,8 @@
 
 namespace kesto {
 
-/// One queue at a time: which is wanted, and whether it is open. The first listed queue that takes jobs
-/// stands in for a default queue that does not exist.
+/// One queue at a time: which is wanted, and whether it is open. The first listed queue that accepts jobs
+/// replaces a missing default queue.
 class QueueOpening : public QObject {
   Q_OBJECT
 
@@ -16,7 +16,7 @@ class QueueOpening : public QObject {
   enum class State {
     Asked,   ///< The print server is asked for it.
     Open,    ///< It can be printed on.
-    Gone,    ///< It was opened, and the print server does not list it any more.
+    Gone,    ///< It was opened, but the print server no longer lists it.
     Failed,  ///< It cannot be opened; `fault` says why.
   };
 
@@ -25,18 +25,19 @@ class QueueOpening : public QObject {
 
   /// Asks for a queue, the user's default one when `name` is null, and for the list of all.
   void start(const QString& name);
-  /// As `start`, for a queue that an application remembers: the default one stands in for it when it cannot
-  /// be opened.
+  /// Like `start`, for a queue that an application remembers. When it cannot be opened, the default queue
+  /// replaces it.
   void suggest(const QString& name);
-  /// Lets go of the queue and asks for another.
+  /// Gives up the queue and asks for another.
   void want(const QString& name);
-  /// Lets go of the queue, and asks for no other.
+  /// Gives up the queue and asks for no other.
   void leave();
   /// Asks again after a fault.
   void retry();
-  /// Takes a queue that is open as the wanted one.
+  /// Accepts an open queue as the wanted one.
   void take(Queue queue);
-  /// The list has been filled; one of its queues has come, changed or gone; there is no list.
+  /// Call these when the list is complete, when one of its queues was added, changed or removed, and when
+  /// there is no list.
   void takeList();
   void takeChange();
   void takeListFault(const QString& reason);
@@ -47,19 +48,19 @@ class QueueOpening : public QObject {
   bool isSettled() const { return m_isSettled; }
   /// The wanted queue's name; null for the default queue until that is known.
   const QString& wanted() const { return m_wanted; }
-  /// Why there is no queue, as far as it is known; null otherwise.
+  /// Why there is no queue, if that is known; otherwise null.
   const QString& fault() const { return m_fault; }
-  /// What the list says of the open queue, else what came with it.
+  /// What the list says about the open queue, else what arrived with it.
   QueueSummary summary() const;
 
  Q_SIGNALS:
-  /// The queue is to be let go of.
+  /// The receiver must give up the queue.
   void left();
   /// The wanted queue is open, and the receiver's who moves it away.
   void opened(kesto::Queue& queue);
-  /// The state, the fault or the summary may be another.
+  /// The state, the fault or the summary may have changed.
   void changed();
-  /// The wanted queue is open, or cannot be opened. Follows `opened` once the event loop has had a turn.
+  /// The wanted queue is open, or cannot be opened. It follows `opened` after one pass of the event loop.
   void settled();
 
  private:
@@ -77,7 +78,7 @@ class QueueOpening : public QObject {
   bool m_isListed = false;
   bool m_isAccepting = true;  // the open queue, when it was opened
   QString m_wanted;
-  QString m_suggested;  // null once another queue stands in for it
+  QString m_suggested;  // null after another queue has replaced it
   QString m_fault;
   QString m_openFault;  // of the wanted queue
   QString m_listFault;

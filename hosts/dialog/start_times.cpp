@@ -24,7 +24,7 @@ bool TimedApplication::notify(QObject* receiver, QEvent* event) {
   return handled;
 }
 
-// An event is over, and with it what it painted has reached the screen.
+// An event is handled, and what it painted is on the screen.
 void TimedApplication::takeEnd(Clock::time_point begin) {
   const Clock::time_point end = Clock::now();
   m_stall = std::max(m_stall, std::chrono::duration<double, std::milli>(end - begin).count());

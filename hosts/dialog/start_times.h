@@ -1,4 +1,4 @@
-// How long a dialog takes to start, as its user sees it.
+// How long the start of a dialog takes for its user.
 #pragma once
 
 #include <QtWidgets/QApplication>
@@ -16,7 +16,7 @@ class TimedApplication : public QApplication {
  public:
   using Clock = std::chrono::steady_clock;
 
-  /// `begin` is when main began.
+  /// `begin` is the beginning of main.
   TimedApplication(int& argc, char** argv, Clock::time_point begin);
   bool notify(QObject* receiver, QEvent* event) override;
 
@@ -26,7 +26,7 @@ class TimedApplication : public QApplication {
  Q_SIGNALS:
   /// The list is complete and painted, and Print can be used.
   void started(const QString& line);
-  /// It cannot come to that.
+  /// That can no longer happen.
   void failed();
 
  private:

@@ -3,8 +3,8 @@
 
 namespace kesto {
 
-/// Installs the translations of the dialog and of its toolkit in the user's language, as far as there are
-/// such. Needs the application object.
+/// Installs the translations of the dialog and of Qt in the user's language, if available. Needs the
+/// application object.
 void installTranslations();
 
 }  // namespace kesto

@@ -1,4 +1,4 @@
-// What the user can ask of the panel on the command line, and its way into the panel's controls.
+// The panel's entries on the command line, and how they get into the panel's controls.
 #pragma once
 
 #include <QtCore/QString>
@@ -11,14 +11,15 @@
 
 namespace kesto {
 
-/// One text entry: all that its options, their help and its messages are made from.
+/// One text entry: everything for its options, their help and its messages.
 struct FieldRow {
-  const char* name;         ///< The option is "--" and the name; alone it stands in --remember and --forget.
-  const char* argument;     ///< What the option takes; null for an entry that never stands on a command line.
-  const char* prompt;       ///< How the terminal asks for an entry that is secret; null for the others.
-  const char* help;         ///< What it is.
-  const char* limit;        ///< What the field's filter lets through; null when it has none.
-  const char* whenRefused;  ///< Why the panel does not take it when that is not for want of --hold.
+  const char* name;  ///< The option is "--" and the name; --remember and --forget take the name alone.
+  const char*
+      argument;        ///< The option's argument; null for an entry that cannot be given on the command line.
+  const char* prompt;  ///< The prompt for a secret entry at the terminal; null for the others.
+  const char* help;    ///< A description.
+  const char* limit;   ///< What the field's filter accepts; null without a filter.
+  const char* whenRefused;  ///< Why the panel refuses it, if not for lack of --hold.
 
   bool isSecret() const { return prompt != nullptr; }
   QString option() const { return QStringLiteral("--") + QLatin1String(name); }
@@ -27,31 +28,31 @@ struct FieldRow {
 /// The rows in the order of `Entry`.
 const std::array<FieldRow, entryCount>& fieldTable();
 
-/// The names that --hold takes; the position is the row of the hold choice.
+/// The names that --hold takes; the index is the row of the hold choice.
 inline constexpr std::array holdChoices{"only", "after", "sample"};
-/// Stands for retention off where a row of the hold choice could stand.
+/// Means "retention off" in place of a row of the hold choice.
 inline constexpr int noHold = -1;
 
-/// What is asked of the panel. None leaves a control as it is.
+/// What the user has given for the panel. None leaves a control as it is.
 struct Entries {
   std::optional<int> hold;  ///< A position in `holdChoices`, or `noHold`.
   std::array<std::optional<QString>, entryCount>
-      texts;  ///< Of folders, "quick" and "main" are the fixed ones.
+      texts;  ///< For the folder, "quick" and "main" mean the fixed ones.
   std::array<std::optional<bool>, entryCount> remember;  ///< Hold buttons to turn on (true) or off (false).
 
-  /// Whether a hold button is to be turned.
+  /// Whether a hold button is to be turned on or off.
   bool asksForMemory() const {
     return std::any_of(remember.begin(), remember.end(), [](const auto& turn) { return turn.has_value(); });
   }
   bool operator==(const Entries&) const = default;
 };
 
-/// Carries the entries out as a user of the panel would, through its filters and rules. A value replaced in a
-/// field that is held is held again. Stops at the first entry that the panel does not take; the outcome then
-/// names its option and the reason, never the value.
+/// Makes the entries as a user of the panel would, through its filters and rules. A held field with a new
+/// value is held again. Stops at the first entry that the panel refuses; the outcome names its option and the
+/// reason, never the value.
 Outcome applyEntries(PanelView& view, const Entries& entries);
 
-/// What it says when the panel does not let the job go for want of an entry.
+/// The message when the panel refuses a job because an entry is missing.
 QString missingEntryText(Entry entry);
 
 }  // namespace kesto

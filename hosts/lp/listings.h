@@ -18,16 +18,16 @@ Outcome printPairs(const QMap<QString, QString>& pairs, const char* separator, b
 /// Prints the names of a queue's presets, a line each or as one JSON array.
 Outcome printPresets(const PresetStore& store, bool json);
 
-/// Prints the server's queues, a line each or as one JSON array; with `jobHandlingOnly` those alone whose PPD
-/// offers the panel, for which each queue's PPD is asked for.
+/// Prints the server's queues, a line each or as one JSON array; with `jobHandlingOnly` only those whose PPD
+/// offers the panel, which needs each queue's PPD.
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json);
 
-/// Prints what other users of the server see of a job on the queue, and the policy lines that close it.
-/// `*isOpen` tells whether they see anything.
+/// Prints what other users of the server see of a job on the queue, and the policy lines that prevent it.
+/// `*isOpen` says whether they see anything.
 Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool* isOpen);
 
-/// Fetches the printer's folders through the panel, from `address` when it is not null. Fails on an address
-/// that cannot be one, which the panel passes over; a printer that does not answer is told by its alert.
+/// Fetches the printer's folders through the panel, from `address` when it is not null. Fails on an invalid
+/// address, which the panel would ignore. When the printer does not answer, the panel's alert says so.
 Outcome fetchFolders(PanelView& view, const QString& address);
 
 /// Prints the folders that the panel has, a line each or as one JSON array. A protected folder's line ends in

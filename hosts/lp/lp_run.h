@@ -1,11 +1,11 @@
-// What kesto-lp does once its command line is read.
+// What kesto-lp does after it has read its command line.
 #pragma once
 
 #include "hosts/lp/options.h"
 
 namespace kesto {
 
-/// Does what the options ask for, tells the user on standard output and error, and returns how it ended.
+/// Does what the options ask for, reports on standard output and error, and returns the exit status.
 ExitCode run(const Options& options);
 
 }  // namespace kesto

@@ -1,4 +1,4 @@
-// kesto-lp: the choices of a printer's Job Handling panel on the command line.
+// kesto-lp: a printer's Job Handling panel on the command line.
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>
 
@@ -9,7 +9,7 @@ int main(int argc, char** argv) {
   kesto::Options options;
   const auto end = kesto::parseOptions(argc, argv, &options);
   const QCoreApplication application(argc, argv);
-  // What could not be kept is said here, once.
+  // kesto-lp itself reports what could not be kept, so the log leaves it out.
   QLoggingCategory::setFilterRules(QStringLiteral("kesto.preferences.changes=false"));
   const kesto::ExitCode code = end ? *end : kesto::run(options);
   const kesto::Outcome written = kesto::flushOutput();

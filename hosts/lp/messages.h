@@ -1,4 +1,4 @@
-// What kesto-lp says on standard error.
+// The messages of kesto-lp on standard error.
 #pragma once
 
 #include <QtCore/QString>
@@ -12,9 +12,9 @@ class Messages {
 
   /// Why the program fails.
   void error(const QString& text) const { say("error", {}, text); }
-  /// What it passes over, or does otherwise than it was asked.
+  /// What it ignores, or does differently than asked.
   void warning(const QString& text) const { say("warning", QStringLiteral("warning: "), text); }
-  /// What the panel says to its user, which may be of several lines.
+  /// What the panel says to its user, possibly in several lines.
   void alert(const QString& text) const;
 
  private:

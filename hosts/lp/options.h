@@ -16,7 +16,7 @@ namespace kesto {
 
 enum ExitCode { ExitDone = 0, ExitFailed = 1, ExitUsage = 2, ExitRefused = 3 };
 
-/// Where a secret comes from that is not on the command line.
+/// Where a secret comes from if not from the command line.
 struct SecretSource {
   std::optional<QString> file;  ///< "-" is standard input.
   bool ask = false;             ///< At the terminal.
@@ -24,15 +24,15 @@ struct SecretSource {
   bool isGiven() const { return file || ask; }
 };
 
-/// What there is to do.
+/// The tasks of kesto-lp.
 enum class Task { Print, Change, DryRun, ListQueues, ListFolders, ListPresets, DeletePreset, Check };
 
-/// What kesto-lp is to do.
+/// What the command line asks for.
 struct Options {
   Task task = Task::Print;
   ServerAddress server;
-  std::optional<QString> ppd;        ///< A PPD file stands for the queue; no server is asked.
-  std::optional<QString> deviceUri;  ///< Of the queue that `ppd` stands for.
+  std::optional<QString> ppd;        ///< A PPD file in place of a queue; no server is asked.
+  std::optional<QString> deviceUri;  ///< The device URI that goes with `ppd`.
   std::optional<QString> queue;      ///< Its name; none for the default queue, or for that of the PPD's file.
 
   QByteArrayList files;               ///< Paths; "-" is standard input, and none means it alone.
@@ -41,7 +41,7 @@ struct Options {
   std::optional<SentJob> job;         ///< The job to change.
   bool restart = false;               ///< Print that job again.
   bool mail = false;                  ///< To the user, when the job has been printed.
-  QStringList warnings;               ///< What of the command line has no effect.
+  QStringList warnings;               ///< Messages about options without effect.
   bool json = false;
   bool silent = false;
   bool summary = false;
@@ -56,13 +56,12 @@ struct Options {
   std::array<SecretSource, entryCount> secrets;
 
   Messages messages() const { return Messages(json); }
-  /// Whether anything is asked of the Job Handling panel.
+  /// Whether anything is given for the Job Handling panel.
   bool wantsPanel() const;
 };
 
-/// Reads the command line and wipes the secrets in it. None when there is something to
-/// do; otherwise the program ends with this code, the help or the fault having been printed. A fault never
-/// repeats what may be a secret.
+/// Reads the command line and wipes the secrets in it. None when there is something to do; otherwise the exit
+/// status, after the help or a fault has been printed. A fault never repeats what may be a secret.
 std::optional<ExitCode> parseOptions(int argc, char** argv, Options* options);
 
 }  // namespace kesto

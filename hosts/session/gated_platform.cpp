@@ -4,7 +4,7 @@ namespace kesto {
 
 namespace {
 
-// What `after` has other than `before`.
+// The values in `after` that differ from `before`.
 QJsonObject difference(const QJsonObject& before, const QJsonObject& after) {
   QJsonObject changed;
   for (auto it = after.begin(); it != after.end(); ++it) {

@@ -1,4 +1,4 @@
-// A platform whose preferences can be kept from changing.
+// A platform whose preferences can be protected from changes.
 #pragma once
 
 #include <QtCore/QTemporaryDir>
@@ -11,32 +11,32 @@
 
 namespace kesto {
 
-/// The operating system's services, but for a gate before the preferences. While it is closed, writing
-/// succeeds and changes nothing outside; what was written is read back. A panel can so be asked whether a job
-/// may go out before it is known that it does.
+/// The operating system's services, with a gate in front of the preferences. While it is closed, writes
+/// succeed without changing anything outside, and reads return what was written. So a panel can be asked
+/// whether a job may go out before it is known that it does.
 class GatedPlatform : public SystemPlatform {
  public:
   using SystemPlatform::SystemPlatform;
 
-  /// It is open at first.
+  /// Closes the gate, which is open at first.
   void close() { m_gate.writes = Writes::KeptAside; }
-  /// What was kept aside is not written by this, but goes on being read until its domain is written.
+  /// Opens the gate. This does not write what was kept aside, which is still read until its domain is
+  /// written.
   void open() { m_gate.writes = Writes::Through; }
 
-  /// Has a panel write the job's print settings and say whether the job may go out. Nothing is remembered,
-  /// not even aside.
+  /// Lets a panel write the job's print settings and decide whether the job may go out. Nothing is
+  /// remembered, not even aside.
   bool confirmJob(PrintDialogPanel& panel);
-  /// Has a panel remember the entries of a job that it has confirmed. Fails when the open gate could not be
-  /// passed.
+  /// Lets a panel remember the entries of a job that it has confirmed. Fails when they cannot be written.
   Outcome rememberEntries(PrintDialogPanel& panel);
 
-  /// Why the last change of the preferences, or a reading since then, failed; asked once.
+  /// Why the last change of the preferences, or a later read, failed; each fault is returned once.
   Outcome takeFault() { return std::exchange(m_gate.lastFault, Outcome::done()); }
 
-  /// A folder of mode 0700 below the user's temporary directory, made when it is first asked for: no answer
-  /// of another printer, and none of another user's, can lie there. Without it, a path that leads nowhere.
+  /// A folder of mode 0700 below the user's temporary directory, created when it is first asked for, so that
+  /// it cannot contain an answer of another printer or user. If that fails, a path that does not exist.
   QString temporaryDirectory() override;
-  /// Removes that folder; another queue's is another one.
+  /// Removes that folder; the next queue gets a new one.
   void leaveQueue() { m_answers.reset(); }
 
   UserDefaults& userDefaults() override { return m_gate; }
@@ -49,7 +49,7 @@ class GatedPlatform : public SystemPlatform {
     Domain persistentDomainForName(const QString& name) override;
     Outcome changePersistentDomain(const QString& name, const DomainChange& change) override;
     Outcome changeAside(const QString& name, const DomainChange& change);
-    void lay(const QString& name, QJsonObject* values) const;  // what is aside over what is stored
+    void lay(const QString& name, QJsonObject* values) const;  // lays what is aside over what is stored
 
     UserDefaults& defaults;
     Writes writes = Writes::Through;

@@ -1,4 +1,4 @@
-// The pages to print, as a user writes them.
+// The pages to print, as a user types them.
 #pragma once
 
 #include <QtCore/QString>
@@ -6,9 +6,9 @@
 
 namespace kesto {
 
-/// "1-3, 5, 8-" as the option "page-ranges" takes it ("1-3,5,8-"), its ranges in rising order as the
-/// scheduler wants them. None when it is no list of pages, or when ranges overlap; pages count from 1. What
-/// lies beyond a document of `pageCount` pages (0: not known) is cut off; empty when nothing is left.
+/// "1-3, 5, 8-" in the form of the option "page-ranges" ("1-3,5,8-"), with the ranges in rising order as the
+/// scheduler requires. None when the text is not a list of pages or ranges overlap; pages count from 1. Pages
+/// beyond a document of `pageCount` pages (0: unknown) are cut off; empty when none is left.
 std::optional<QString> pageRangesOf(const QString& text, int pageCount = 0);
 
 }  // namespace kesto

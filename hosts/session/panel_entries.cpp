@@ -11,7 +11,7 @@ namespace kesto {
 namespace {
 
 struct EntryRow {
-  const char* stem;  // what the names of its controls begin with
+  const char* stem;  // the beginning of its controls' names
   bool needsHold;
 };
 
@@ -52,7 +52,7 @@ QString printerAddress(const PanelView& view) {
 }
 
 bool isPrinterAddress(const QString& text) {
-  // Narrower than what a URL may have there: no user, no escapes, nothing beyond ASCII.
+  // Stricter than a URL: no user name, no escapes, only ASCII.
   static const QRegularExpression form(QStringLiteral(
       R"(\A(?:\[[0-9A-Fa-f:.]+\]|[A-Za-z0-9._~-]+)(?::[0-9]{1,5})?(?:/[A-Za-z0-9._~/-]*)?\z)"));
   return form.match(text).hasMatch() &&

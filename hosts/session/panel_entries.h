@@ -1,4 +1,4 @@
-// What a host knows of the panel's controls: its entries and its printer's address.
+// What a host knows about the panel's controls: its entries and its printer's address.
 #pragma once
 
 #include <QtCore/QString>
@@ -12,8 +12,7 @@ namespace kesto {
 
 class PanelView;
 
-/// The text entries of the panel, each with a hold button of its own, in the order in which a user gives
-/// them.
+/// The panel's text entries, each with its own hold button, in the order in which a user enters them.
 enum Entry : std::size_t {
   Pin,
   Folder,
@@ -32,16 +31,16 @@ inline constexpr std::size_t entryCount = allEntries.size();
 /// The names of an entry's text field and of its hold button.
 QString fieldOf(Entry entry);
 QString holdButtonOf(Entry entry);
-/// Whether only a job that is held has the entry.
+/// Whether only a held job has the entry.
 bool needsHold(Entry entry);
 
-/// What a panel that does not let the job go misses: the login name or the user number.
+/// The entry that a panel misses when it refuses a job: the login name or the user number.
 Entry missingEntry(const PanelView& view);
 
-/// The address at which the panel asks for the printer's folders, as it stands there.
+/// The address in the panel, at which it asks for the printer's folders.
 QString printerAddress(const PanelView& view);
-/// Whether a text can stand for a printer: a host name or an address, with a port where it is not the usual
-/// one. The panel asks nobody at another, and says nothing.
+/// Whether a text is a printer's address: a host name or a numeric address, optionally with a port. With any
+/// other text the panel contacts nobody and shows no message.
 bool isPrinterAddress(const QString& text);
 
 }  // namespace kesto

@@ -1,4 +1,4 @@
-// The host's side of a panel: what every host of ours lends to it, and the panel itself.
+// The host's side of a panel: what all our hosts lend to it, and the panel itself.
 #pragma once
 
 #include <memory>
@@ -12,8 +12,8 @@
 
 namespace kesto {
 
-/// One dialog on one queue: lends printer, PPD and print settings to the panel, and owns all but the PPD.
-/// Members are set before `openPanel`.
+/// One dialog on one queue: lends printer, PPD and print settings to the panel, and owns all of them except
+/// the PPD. Set the members before `openPanel`.
 class PanelHost : public HostCallback {
  public:
   explicit PanelHost(Platform& platform) : m_platform(platform) {}
@@ -23,13 +23,13 @@ class PanelHost : public HostCallback {
   ppd_file_t* ppd = nullptr;              ///< Outlives this object; null without a PPD.
   bool handlesConstraints = true;
 
-  /// Makes the Job Handling panel from the bundle's entry object. The outcome says why there is none.
+  /// Creates the Job Handling panel from the bundle's entry object. On failure the outcome says why.
   Outcome openPanel(PrintDialogPlugIn& plugIn);
-  /// As `openPanel`, and has the panel ready to be shown and restored. Fails too when it has no layout.
+  /// Like `openPanel`, and prepares the panel for showing and restoring. Fails also when it has no layout.
   Outcome openShownPanel(PrintDialogPlugIn& plugIn);
   /// Null until the panel is opened.
   PrintDialogPanel* panel() const { return m_panel.get(); }
-  /// The panel's controls once the panel has made them, else null: looking never loads the layout.
+  /// The panel's controls once they exist, else null. This call never loads the layout.
   PanelView* loadedView() const;
 
   const PrintSession& printSession() const override { return session; }
@@ -43,14 +43,14 @@ class PanelHost : public HostCallback {
   std::unique_ptr<PrintDialogPanel> m_panel;
 };
 
-/// What a host shows of a panel's summary: without the folder where the printer's model files nothing, since
-/// none is used. The panel's controls must be made.
+/// The panel's summary as a host shows it: without the folder if the printer's model files nothing. The
+/// panel's controls must exist.
 QMap<QString, QString> summaryOf(PrintDialogPanel& panel);
 
-/// Why the panel's last fetch of folders brought no list; done also when the panel has said so itself.
+/// Why the panel's last fetch of folders brought no list; done also when the panel has reported it itself.
 Outcome outcomeOfFetch(const PrintDialogPanel& panel);
 
-/// Finds and loads the bundle "JobHandling.pde". On failure the outcome says where it was looked for, or why
+/// Finds and loads the bundle "JobHandling.pde". On failure the outcome says where we looked for it, or why
 /// it does not load.
 Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialogPlugIn** plugIn);
 

@@ -28,7 +28,7 @@
 namespace kesto {
 namespace {
 
-// Shows the control on the widget now and after each of its changes.
+// Shows the control's state on the widget, now and after each change.
 template <class Show>
 void follow(Control& control, QWidget& widget, Show show) {
   QObject::connect(&control, &Control::changed, &widget, show);
@@ -42,7 +42,7 @@ QIcon iconOf(const std::optional<Image>& off, const std::optional<Image>& on) {
   return icon;
 }
 
-// Shows the shapes of an icon's images in the colour of the button's text, so that they are seen in every
+// Shows the shapes of an icon's images in the colour of the button's text, so that they are visible in every
 // theme.
 class IconTint : public QObject {
  public:
@@ -86,7 +86,7 @@ void dressHoldButton(const Button& control, QAbstractButton& widget) {
   widget.setFocusPolicy(Qt::StrongFocus);
   const int points = control.image() ? control.image()->points : Image().points;
   widget.setIconSize(QSize(points, points));
-  // Without images of its own a control keeps those of the form.
+  // A control without images keeps those of the form.
   new IconTint(widget, control.image() ? iconOf(control.image(), control.alternateImage()) : widget.icon());
 }
 
@@ -96,25 +96,25 @@ void showButton(const Button& control, QAbstractButton& widget) {
   widget.setChecked(control.state() != 0);
 }
 
-// The action can run the event loop, in which the user may press again or close the panel.
+// The action can run the event loop, where the user may press again or close the panel.
 void press(Button& control, QAbstractButton& widget) {
   const QPointer<Button> isAlive(&control);
   const QPointer<QAbstractButton> button(&widget);
   const bool hadFocus = widget.hasFocus();
   widget.setEnabled(false);
   const QWidget* leftTo = widget.window()->focusWidget();
-  (void)control.click();  // what is disabled cannot be clicked
+  (void)control.click();  // a disabled control cannot be clicked
   if (!isAlive || !button) return;
   showButton(control, widget);
   if (hadFocus && widget.window()->focusWidget() == leftTo) widget.setFocus(Qt::OtherFocusReason);
 }
 
-// Assistive technology changes a widget without a click, so that its state is what is looked at: where it is
-// not the control's, somebody has operated the widget.
+// Assistive technology changes a widget without a click. So the state decides: when it differs from the
+// control's, the user has operated the widget.
 void toggle(Button& control, QAbstractButton& widget) {
   if (widget.isChecked() == (control.state() != 0)) return;
   (void)control.click();
-  showButton(control, widget);  // also takes back what the control refuses
+  showButton(control, widget);  // also undoes what the control refuses
 }
 
 void bindButton(Button& control, QAbstractButton& widget) {
@@ -129,8 +129,9 @@ void bindButton(Button& control, QAbstractButton& widget) {
   }
 }
 
-// A choice among several. A widget reports one by another state, and a click or a key besides, which alone
-// tells that the user has chosen again what was chosen before. Both together are one choice.
+// A choice among several. A widget reports a choice by a change of its state, and in addition by a click or a
+// key. Only the latter shows that the user has chosen the current choice again. Both together count as one
+// choice.
 class ChoiceBinder : public QObject {
  public:
   explicit ChoiceBinder(QObject* parent) : QObject(parent) { m_taken.setSingleShot(true); }
@@ -141,7 +142,7 @@ class ChoiceBinder : public QObject {
     m_taken.start(0);
     if (!chosen) show();
   }
-  // Whether a click is a choice of its own.
+  // Whether a click counts as a separate choice.
   bool isNewChoice() {
     const bool isTaken = m_taken.isActive();
     m_taken.stop();
@@ -150,7 +151,7 @@ class ChoiceBinder : public QObject {
   virtual void show() = 0;
 
  private:
-  QTimer m_taken;  // runs until what belongs to one operation of the user is over
+  QTimer m_taken;  // runs until one operation of the user is complete
 };
 
 class CellBinder final : public ChoiceBinder {
@@ -198,14 +199,14 @@ void fillItems(QComboBox& widget, const std::vector<PopUpItem>& items) {
     model->appendRow(row.release());
   }
   model->setParent(&widget);
-  widget.setModel(model.release());  // the widget deletes the one before
+  widget.setModel(model.release());  // the widget deletes the previous one
 }
 
 class PopUpBinder final : public ChoiceBinder {
  public:
   PopUpBinder(PopUp& control, QComboBox& widget)
       : ChoiceBinder(&widget), m_control(control), m_widget(widget) {
-    // Measuring a list of thousands of names again and again would cost more than a fixed width gains.
+    // A fixed width, because measuring a list of thousands of names repeatedly would cost too much.
     widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     widget.setMinimumContentsLength(16);
     follow(control, widget, [this] { show(); });
@@ -243,7 +244,7 @@ void bindLabel(TextField& control, QLabel& widget) {
   follow(control, widget, [&control, &widget] {
     const QString& text = control.stringValue();
     setPlainText(widget, text.endsWith(u':') ? withColon(withoutColon(text)) : text);
-    // The disabled colours of the theme are its gray.
+    // The theme's disabled colours serve as gray.
     widget.setEnabled(control.textColor() != TextField::Color::Gray);
   });
 }
@@ -277,7 +278,7 @@ void bindText(TextField& control, QWidget& widget) {
   if (auto* line = qobject_cast<QLineEdit*>(&widget)) bindField(control, *line);
 }
 
-// Tries one pair of a control's and a widget's class.
+// Tries one pair of control class and widget class.
 template <class ControlClass, class WidgetClass>
 bool tryBind(Control& control, QWidget& widget, void (*bind)(ControlClass&, WidgetClass&)) {
   auto* suitedControl = qobject_cast<ControlClass*>(&control);

@@ -42,7 +42,7 @@ bool isByUserNumber(const PanelView& view) {
   return rowOf(view, "authenticationMatrix") != ByLogin;
 }
 
-// One reason: the controls that it dims begin with `stem`.
+// One reason; the names of the controls that it dims begin with `stem`.
 struct Reason {
   const char* stem;
   bool (*applies)(const PanelView& view);
@@ -61,7 +61,7 @@ constexpr char byUserNumber[] =
 constexpr char held[] = QT_TRANSLATE_NOOP(
     "DimmingReasons", "Locked and remembered for this printer: open the padlock to change it.");
 
-// The first that applies is told.
+// The first reason that applies is shown.
 constexpr std::array reasons{
     Reason{"suspend", isRetentionOff, retentionOff},   Reason{"folder", isRetentionOff, retentionOff},
     Reason{"suspendKey", isQuickFile, quickFile},      Reason{"folderPassword", isNotCustom, noGuardedFolder},

@@ -7,8 +7,7 @@ namespace kesto {
 
 class Control;
 
-/// A sentence for the tool tip of a dimmed control; null for one that can be used, or whose reason is not
-/// known.
+/// A sentence for the tool tip of a dimmed control; null for a usable control and for an unknown reason.
 QString dimmingReason(const Control& control);
 
 }  // namespace kesto

@@ -52,10 +52,10 @@ class FieldBinder : public QObject {
     PanelView* view = m_field.view();
     if (event->type() == QEvent::FocusIn) {
       view->makeFirstResponder(&m_field);
-      takeSelection();  // without the focus it may have gone another way
+      takeSelection();  // it may have changed while the line had no focus
     }
     if (event->type() == QEvent::FocusOut && view->firstResponder() == &m_field) {
-      // A window that is put aside, and a menu, give the focus back.
+      // An inactive window and a menu return the focus later.
       const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
       if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
         view->makeFirstResponder(nullptr);
@@ -78,15 +78,16 @@ class FieldBinder : public QObject {
     m_isShowing = false;
   }
 
-  // The line has changed, its selection is not told yet: the field still holds both as they were before.
+  // The line's text has changed, but its selection is not reported yet. The field still has both as they
+  // were.
   void takeEdit() {
-    if (!m_line.hasFocus()) return takeChange();  // of something dropped; the field does not follow the caret
+    if (!m_line.hasFocus()) return takeChange();  // a drop; the field does not follow the caret
     m_field.edit(m_line.text(), selectionOf(m_line));
     show();
   }
 
-  // Assistive technology sets the whole text, wherever the caret is: what differs is pasted over what was
-  // there, as by a user who has selected just that. The focus stays where it is.
+  // Assistive technology sets the whole text, wherever the caret is. The part that differs is pasted, as if
+  // the user had selected just the old part. The focus does not move.
   void takeChange() {
     if (m_isShowing || m_line.text() == m_field.stringValue()) return;
     const TextRange replaced = rangeReplaced(m_field.stringValue(), m_line.text());
@@ -137,7 +138,7 @@ QIcon eyeIcon(const QWidget& widget, bool isOpen) {
   return icon;
 }
 
-// The button in a line that shows what the line hides, and hides it again.
+// The button in a line that shows or hides the line's text.
 class RevealButton : public QObject {
  public:
   explicit RevealButton(QLineEdit& line)

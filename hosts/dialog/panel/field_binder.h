@@ -7,10 +7,9 @@ namespace kesto {
 
 class TextField;
 
-/// Every edit of the user, however it is made, goes through the field's formatter before it counts; the line
-/// then shows what the field holds, with its selection. The field is the panel's first responder while the
-/// line has the keyboard focus. A line with the dynamic property "revealable" gets a button that shows what
-/// it hides.
+/// Every edit of the user, however it is made, passes through the field's formatter; the line then shows the
+/// field's text and selection. The field is the panel's first responder while the line has the keyboard
+/// focus. A line with the dynamic property "revealable" gets a button that shows its hidden text.
 void bindField(TextField& field, QLineEdit& line);
 
 }  // namespace kesto

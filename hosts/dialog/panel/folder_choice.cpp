@@ -14,12 +14,12 @@ FolderChoice::FolderChoice(PanelView& view)
       m_popUp(view.control<PopUp>(QStringLiteral("folderSelectionPopup"))),
       m_matrix(view.control<RadioMatrix>(QStringLiteral("folderSelectionMatrix"))) {
   if (m_popUp == nullptr || m_matrix == nullptr) return;
-  // The panel's own actions are connected before, so they have run by then.
+  // The panel's own actions were connected earlier, so they have already run.
   connect(m_popUp, &Control::actionSent, this, &FolderChoice::followPopUp);
   connect(m_matrix, &Control::actionSent, this, &FolderChoice::followMatrix);
 }
 
-// A choice is refused only by a control that is disabled; then there is nothing to keep in step.
+// Only a disabled control refuses a choice; then there is nothing to keep in step.
 void FolderChoice::followPopUp() {
   if (m_isFollowing) return;
   const QScopedValueRollback following(m_isFollowing, true);

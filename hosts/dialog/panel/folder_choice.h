@@ -1,4 +1,4 @@
-// The folder pop-up and the folder matrix of a panel, which offer the same choice twice, kept in step.
+// Keeps a panel's folder pop-up and folder matrix in step, which offer the same choice twice.
 #pragma once
 
 #include <QtCore/QObject>
@@ -9,9 +9,9 @@ class PanelView;
 class PopUp;
 class RadioMatrix;
 
-/// Operates the one as a user would who has operated the other: items 0 and 1 go with rows 0 and 1, a folder
-/// with row 2; row 2 moves an item "quick file" to "main folder". What the user operated has the last word.
-/// Does nothing in a panel that lacks one of the two. Lives as long as the view.
+/// When the user operates one, operates the other as well: items 0 and 1 correspond to rows 0 and 1, a folder
+/// to row 2; row 2 changes the item "quick file" to "main folder". The control that the user operated
+/// decides. Does nothing in a panel without both. Exists as long as the view.
 class FolderChoice : public QObject {
   Q_OBJECT
 

@@ -46,7 +46,7 @@ bool lacksAddress(const Control& control) {
   return !isPrinterAddress(printerAddress(*control.view()));
 }
 
-// Where a user goes on after a choice that asks for an entry.
+// Where a user continues after a choice that requires an entry.
 struct NextEntry {
   const char* control;
   bool (*isChosen)(const Control& control);
@@ -59,7 +59,7 @@ constexpr std::array nextEntries{
     NextEntry{"getFolderNameButton", lacksAddress, "printersAddressEditText"},
 };
 
-// The width that the first column of a grid needs by itself, with what is hidden now.
+// The width that the first column of a grid needs by itself, including hidden widgets.
 int firstColumnOf(const QGridLayout& grid) {
   int widest = 0;
   for (int i = 0; i < grid.count(); ++i) {
@@ -74,7 +74,7 @@ int firstColumnOf(const QGridLayout& grid) {
   return widest;
 }
 
-// Where the labels of a grid begin on the page.
+// The position of a grid's labels on the page.
 int leftOf(const QGridLayout& grid, const QWidget& page) {
   const QWidget* parent = grid.parentWidget();
   return parent->mapTo(&page, parent->contentsRect().topLeft()).x() + grid.contentsMargins().left();
@@ -96,7 +96,7 @@ Outcome PanelPane::make(PanelView& view, const Bundle& bundle, std::unique_ptr<P
   pane->reset();
   std::unique_ptr<PanelPane> made(new PanelPane(view));
   QUiLoader loader;
-  loader.setTranslationEnabled(false);  // the controls have the texts, in the user's language
+  loader.setTranslationEnabled(false);  // the controls supply the texts in the user's language
   loader.setWorkingDirectory(
       QFileInfo(bundle.pathForResource(QStringLiteral("ulck"), QStringLiteral("png"))).dir());
   QByteArray form = view.form();
@@ -120,7 +120,7 @@ void PanelPane::bind() {
     QWidget* widget = widgetOf(control->objectName());
     if (widget == nullptr || !bindControl(*control, *widget)) continue;
     connect(control, &Control::changed, this, [this] { m_refresh.start(0); });
-    // The panel's own action is connected before, so it has run by then.
+    // The panel's own action was connected earlier, so it has already run.
     connect(control, &Control::actionSent, this, &PanelPane::moveFocusAfter);
   }
   if (auto* button = m_view->control<Button>(QStringLiteral("getFolderNameButton")); button != nullptr)
@@ -138,7 +138,7 @@ void PanelPane::bind() {
   refresh();
 }
 
-// Names the widget for those who do not see it.
+// Names the widget for assistive technology.
 void PanelPane::describe(QWidget& widget) {
   const QString stem = stemOf(widget.objectName());
   const auto* label = findChild<QLabel*>(stem + QStringLiteral("StaticText"));
@@ -182,8 +182,8 @@ void PanelPane::alignChoices() {
   if (m_view != nullptr) m_folderChoice->align();
 }
 
-// The panel's rules move its first responder several times for one choice, and often leave none. The user,
-// whose keys go to the focus, notices only where it ends.
+// The panel's rules move its first responder several times for one choice, and often leave none. Only the
+// final state matters to the user, whose keys go to the focus.
 void PanelPane::moveFocusAfter(const Control* operated) {
   QWidget* entry = nextEntryAfter(*operated);
   const TextField* responder = m_view->firstResponder();
@@ -191,7 +191,7 @@ void PanelPane::moveFocusAfter(const Control* operated) {
   if (entry != nullptr && entry->isVisible()) entry->setFocus(Qt::OtherFocusReason);
 }
 
-// The entry that a choice of the user is followed by; null for none, and for one that is locked.
+// The entry that usually follows a choice of the user; null for none and for a locked one.
 QWidget* PanelPane::nextEntryAfter(const Control& operated) const {
   const auto found = std::ranges::find_if(nextEntries, [&](const NextEntry& next) {
     return operated.objectName() == QLatin1String(next.control) && next.isChosen(operated);
@@ -201,7 +201,7 @@ QWidget* PanelPane::nextEntryAfter(const Control& operated) const {
   return entry != nullptr && entry->isEnabled() ? entry : nullptr;
 }
 
-// The first responder is the field that has the keyboard focus, whatever rules have run in the meantime.
+// Makes the field with the keyboard focus the first responder again, whatever rules have run meanwhile.
 void PanelPane::alignFirstResponder() {
   const QWidget* focused = window()->focusWidget();
   const bool isHere = focused != nullptr && isAncestorOf(focused);
@@ -250,7 +250,7 @@ void PanelPane::refresh() {
 
 void PanelPane::showEntry(Entry entry) {
   QWidget* widget = widgetOf(fieldOf(entry));
-  // A locked entry has to be opened first.
+  // A locked entry must be unlocked first.
   if (widget != nullptr && !widget->isEnabled()) widget = widgetOf(holdButtonOf(entry));
   if (widget == nullptr) return;
   for (QWidget* each = widget; each->parentWidget() != nullptr; each = each->parentWidget()) {

@@ -17,27 +17,27 @@ class PrintDialogPanel;
 class TextField;
 
 /// Shows one panel. The panel belongs to the host and may be destroyed before the pane, which then does
-/// nothing more.
+/// nothing.
 class PanelPane : public QWidget {
   Q_OBJECT
 
  public:
-  /// Loads the panel's form; images are looked for among the bundle's resources. On failure `*pane` is null.
+  /// Loads the panel's form, with images from the bundle's resources. On failure `*pane` is null.
   static Outcome make(PanelView& view, const Bundle& bundle, std::unique_ptr<PanelPane>* pane);
 
-  /// Lets the labels of all groups on a page end at the same place, once they have their final texts.
+  /// Aligns the labels of all groups on a page. Call this when they have their final texts.
   void alignLabels();
-  /// Puts right, after a restore, what the form offers twice.
+  /// After a restore, brings choices in step that the form offers twice.
   void alignChoices();
   /// Says beside the choice of a folder that it has no effect on the job.
   void sayNothingIsFiled();
-  /// Shows the page of the entry that a refused job misses, and puts the focus there.
+  /// Shows the page of the entry that is missing in a refused job, and puts the focus there.
   void showEntry(Entry entry);
 
  Q_SIGNALS:
-  /// Something in the panel has changed; once for all changes of one moment.
+  /// Something in the panel has changed; emitted once for changes at the same time.
   void panelChanged();
-  /// The user has asked for the printer's folders: why nobody can be asked at the address that is given; null
+  /// The user has asked for the printer's folders. The text says why the given address cannot be asked; null
   /// when the printer was asked.
   void addressJudged(const QString& fault);
 

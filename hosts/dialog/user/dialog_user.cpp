@@ -12,7 +12,7 @@
 namespace kesto {
 namespace {
 
-// Where a click takes effect: check boxes and radio buttons may be wider than what they react to.
+// Where a click takes effect: check boxes and radio buttons may be wider than the part that reacts.
 QPoint placeToClick(const QWidget& widget) {
   const auto* button = qobject_cast<const QAbstractButton*>(&widget);
   const bool hasIndicator = button != nullptr && button->isCheckable() && button->autoExclusive();

@@ -1,4 +1,4 @@
-// A user of a dialog: real key and mouse events on its widgets.
+// A simulated user of a dialog: real key and mouse events on its widgets.
 #pragma once
 
 #include <QtCore/QString>
@@ -10,23 +10,23 @@ class QWidget;
 
 namespace kesto {
 
-/// Operates the widgets of a window by their object names. What a person could not do, because a widget is
-/// not there, not seen or dimmed, fails.
+/// Operates the widgets of a window by their object names. Fails where a person could not act either, because
+/// a widget is missing, hidden or dimmed.
 class DialogUser {
  public:
   explicit DialogUser(QWidget& window) : m_window(window) {}
 
-  /// Clicks a button, a check box or a radio button, after turning to the pages that it lies on.
+  /// Clicks a button, a check box or a radio button, after turning to its page.
   Outcome click(const QString& name);
   /// Clicks into a field and types into it.
   Outcome type(const QString& name, const QString& text);
-  /// Types in the place of what a field holds.
+  /// Types to replace the contents of a field.
   Outcome replace(const QString& name, const QString& text);
-  /// Chooses an item of a list by keys.
+  /// Chooses an item of a list with keys.
   Outcome choose(const QString& name, int index);
-  /// Turns to the pages that a widget lies on, by clicks on their tabs.
+  /// Turns to the page of a widget with clicks on tabs.
   Outcome turnTo(const QString& name, QWidget** widget);
-  /// Waits, events being handled, until something is so; at most this many milliseconds.
+  /// Handles events until a condition holds, for at most this many milliseconds.
   static Outcome waitUntil(const std::function<bool()>& isSo, const QString& what, int milliseconds = 30000);
 
  private:

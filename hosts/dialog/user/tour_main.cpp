@@ -1,6 +1,5 @@
-// kesto-print-tour: goes through the print dialog as a person would, for who has no display to do it. The
-// pass code comes from the first line of standard input, the address of the printer's folders from the
-// second.
+// kesto-print-tour: a simulated user works through the print dialog, for a machine without a display. The
+// first line of standard input is the pass code, the second the address of the printer's folders.
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <array>

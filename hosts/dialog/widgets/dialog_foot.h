@@ -1,4 +1,4 @@
-// The foot of a print dialog: what there is to say, how far the job is, and the buttons.
+// The foot of a print dialog: messages, the progress of the job, and the buttons.
 #pragma once
 
 #include <QtWidgets/QWidget>
@@ -10,7 +10,7 @@ class QPushButton;
 
 namespace kesto {
 
-/// Shows what it is told; what the buttons do is the dialog's affair.
+/// Shows what the dialog gives it; the dialog decides what the buttons do.
 class DialogFoot : public QWidget {
   Q_OBJECT
 
@@ -19,11 +19,11 @@ class DialogFoot : public QWidget {
 
   /// The default button of the window.
   QPushButton& printButton() { return *m_print; }
-  /// Shows a message, and has it read out; none when it is empty.
+  /// Shows a message and lets assistive technology read it out; an empty one hides it.
   void showMessage(const QString& message);
-  /// Shows or hides the progress of a job, of which nothing is known yet.
+  /// Shows or hides the progress of a job, at first without a known extent.
   void showProgress(bool isShown);
-  /// Shows how many bytes of a document have gone out; all of them are -1 when that is not known.
+  /// Shows how many bytes of a document were sent; the total is -1 when unknown.
   void setProgress(qint64 sent, qint64 total);
   /// There is nothing left to cancel.
   void offerClose();

@@ -17,7 +17,7 @@ class DocumentLine : public QWidget {
  public:
   explicit DocumentLine(QWidget* parent);
 
-  /// Shows a name and below it faults, a sentence each; the tool tip has those for which there is no room.
+  /// Shows a name and below it faults, one sentence each; the tool tip has those that do not fit.
   void show(const QString& name, const QStringList& faults);
   void offerChoice(bool isOffered);
 

@@ -31,7 +31,7 @@ void showText(QWidget& widget, const QString& text) {
 
 using Letters = QSet<QChar>;
 
-// The letters of a text that a mnemonic could be, those that begin a word first.
+// The letters of a text that can be a mnemonic, first those that begin a word.
 std::vector<QChar> candidatesOf(const QString& text) {
   std::vector<QChar> first;
   std::vector<QChar> others;
@@ -44,8 +44,8 @@ std::vector<QChar> candidatesOf(const QString& text) {
   return first;
 }
 
-// A letter for each text: as many texts as possible get one of their own letters (a maximum matching), the
-// others one that is left over.
+// A letter for each text. As many texts as possible get one of their own letters (a maximum matching), the
+// others get one that is left.
 class Matching {
  public:
   Matching(const QStringList& texts, Letters taken)
@@ -108,7 +108,7 @@ QString withMnemonic(const QString& text, QChar letter) {
   return escaped(stem) + QStringLiteral("(&%1)").arg(letter) + text.sliced(stem.size());
 }
 
-// Pages of tab widgets are seen apart from each other; everything else of a scope is seen together.
+// Pages of a tab widget are never visible together; everything else of a scope is.
 bool isInPageBelow(const QWidget& widget, const QWidget& scope) {
   for (const QWidget* each = widget.parentWidget(); each != nullptr && each != &scope;
        each = each->parentWidget()) {
@@ -141,7 +141,7 @@ void giveCompanion(const QWidget& field, const QString& text) {
 
 // A widget or a tab that has a text.
 struct Place {
-  QWidget* widget = nullptr;  // of a tab, its page
+  QWidget* widget = nullptr;  // for a tab, its page
   QTabWidget* tabs = nullptr;
 
   QString text() const { return plainText(*widget); }
@@ -164,7 +164,7 @@ std::vector<Place> placesOf(QWidget& scope) {
   return places;
 }
 
-// All texts that are seen together with the scope's own when the pages with the most texts are shown.
+// All texts that are visible together with the scope's own when the pages with the most texts are shown.
 QStringList crowdedTexts(QWidget& scope) {
   QStringList texts;
   for (const Place& place : placesOf(scope))

@@ -7,7 +7,7 @@ namespace kesto {
 
 class PanelSession;
 
-/// Loads, saves and deletes presets of the queue's panel; of use only while there is one.
+/// Loads, saves and deletes presets of the queue's panel; usable only while there is one.
 class PresetMenu : public QToolButton {
   Q_OBJECT
 
@@ -16,7 +16,7 @@ class PresetMenu : public QToolButton {
   PresetMenu(PanelSession& session, QWidget* parent);
 
  Q_SIGNALS:
-  /// A preset has been read into the panel.
+  /// A preset was loaded into the panel.
   void loaded();
 
  private:

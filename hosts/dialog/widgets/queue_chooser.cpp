@@ -28,7 +28,7 @@ QueueChooser::QueueChooser(QWidget* parent)
       m_combo(new QComboBox(this)),
       m_state(new WrappedLabel(this)),
       m_retry(new QPushButton(this)) {
-  // Neither the width of the field nor the height of a row is measured on every queue.
+  // Avoids measuring every queue for the width of the field and the height of a row.
   m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   m_combo->setMinimumContentsLength(28);
   auto* view = new QListView(m_combo);
@@ -89,18 +89,19 @@ void QueueChooser::offerFilter() {
   QLineEdit* field = m_combo->lineEdit();
   field->setAccessibleName(tr("Printer"));
   connect(field, &QLineEdit::textEdited, this, [this](const QString& text) { takeText(text, false); });
-  // The list below the field writes what it only highlights.
+  // The list below the field also writes highlighted items into it.
   connect(field, &QLineEdit::textChanged, this, [this, completer](const QString& text) {
     if (text != m_typed) takeText(text, !completer->popup()->isVisible());
   });
   connect(field, &QLineEdit::editingFinished, this, &QueueChooser::confirmText);
-  // Whichever of them a key press reaches first.
+  // A key press may reach either of them first.
   for (QObject* part : {static_cast<QObject*>(m_combo), static_cast<QObject*>(field),
                         static_cast<QObject*>(completer->popup())})
     part->installEventFilter(this);
 }
 
-// Enter takes the name, it does not print; Escape takes the text back, it does not close the dialog.
+// Here Enter confirms the name instead of printing, and Escape discards the text instead of closing the
+// dialog.
 bool QueueChooser::eventFilter(QObject* /*watched*/, QEvent* event) {
   if (event->type() != QEvent::KeyPress || !m_combo->isEditable()) return false;
   QAbstractItemView* list = m_combo->completer()->popup();
@@ -113,11 +114,11 @@ bool QueueChooser::eventFilter(QObject* /*watched*/, QEvent* event) {
   }
   if (list->isVisible() && list->currentIndex().isValid()) return false;  // Enter takes the highlighted one
   if (list->isVisible() && (key == Qt::Key_Tab || key == Qt::Key_Backtab)) {
-    list->hide();  // it has the keys while it is open
+    list->hide();  // it receives the keys while it is open
     confirmText();
     return QCoreApplication::sendEvent(m_combo, event);
   }
-  // The letter of a button that is dimmed, as Print is until the text is confirmed, is no part of a name.
+  // The mnemonic of a dimmed button, as Print is until the text is confirmed, must not become part of a name.
   const bool isLetter = press.modifiers() == Qt::AltModifier && !press.text().isEmpty();
   if (key != Qt::Key_Return && key != Qt::Key_Enter && !isLetter) return false;
   list->hide();
@@ -125,8 +126,8 @@ bool QueueChooser::eventFilter(QObject* /*watched*/, QEvent* event) {
   return true;
 }
 
-// The queue that a text names: by its name, or as the list shows it; unless the text is to be whole, also by
-// a part that no other queue has.
+// The queue that a text names: by its name or by its row in the list, or, unless the whole text is required,
+// by a part that no other queue has.
 QString QueueChooser::nameFor(const QString& text, bool isWhole, int* matches) const {
   *matches = 1;
   if (m_model.queue(text) != nullptr) return text;
@@ -183,8 +184,8 @@ QString QueueChooser::currentText() const {
   return row < 0 ? m_current : m_combo->itemText(row);
 }
 
-// Changes the list, and brings the field back to the chosen queue, or to what is being typed: the combo box
-// itself would go on to a neighbour, and write that into the field.
+// Changes the list, and restores the field to the chosen queue or to what is being typed. The combo box
+// itself would select a neighbour and write that into the field.
 void QueueChooser::update(const std::function<void()>& change) {
   const QScopedValueRollback guard(m_isUpdating, true);
   const int cursor = m_combo->isEditable() ? m_combo->lineEdit()->cursorPosition() : 0;
@@ -201,7 +202,7 @@ void QueueChooser::update(const std::function<void()>& change) {
   updateLine();
 }
 
-// What there is to say of a pending text.
+// The message about a pending text.
 QString QueueChooser::pendingText() const {
   if (m_typed.isEmpty()) return tr("Enter the name of a printer.");
   int matches = 0;

@@ -11,9 +11,9 @@ class QPushButton;
 
 namespace kesto {
 
-/// A list of queues, with a filter to type into when there are many, and a line for what there is to say
-/// about the chosen one. A text in the field that is not the chosen queue's is pending: it chooses nothing
-/// until it is confirmed by Enter or by leaving the field, or is set whole by other means than typing.
+/// A list of queues, with a filter to type into when there are many, and a line with a message about the
+/// chosen one. A text in the field other than the chosen queue's is pending: it chooses nothing until it is
+/// confirmed with Enter or by leaving the field. A text that is set whole, without typing, chooses at once.
 class QueueChooser : public QWidget {
   Q_OBJECT
 
@@ -21,17 +21,17 @@ class QueueChooser : public QWidget {
   explicit QueueChooser(QWidget* parent);
 
   const QueueListModel& model() const { return m_model; }
-  /// The field that the label of this choice belongs to.
+  /// The field for this choice's label.
   QWidget* field() const { return m_combo; }
-  /// What becomes known of the queues. The chosen one and what is being typed stay.
+  /// News about the queues. The chosen queue and what is being typed stay.
   void setQueues(const std::vector<QueueSummary>& queues);
   void setQueue(const QueueSummary& queue);
   void removeQueue(const QString& name);
-  /// Shows `name` as the chosen queue, listed or not, in the place of what was typed; emits nothing.
+  /// Shows `name` as the chosen queue, listed or not, instead of what was typed; emits nothing.
   void setCurrent(const QString& name);
-  /// As `setCurrent`, but what is being typed stays.
+  /// Like `setCurrent`, but what is being typed stays.
   void takeCurrent(const QString& name);
-  /// Whether the field shows another text than the chosen queue's.
+  /// Whether the field shows a text other than the chosen queue's.
   bool isPending() const { return !m_typed.isNull(); }
   /// Shows a text about the chosen queue, with a button to try again after a fault.
   void showText(const QString& text, bool isFault);
@@ -39,7 +39,7 @@ class QueueChooser : public QWidget {
  Q_SIGNALS:
   /// The user has chosen a queue.
   void chosen(const QString& name);
-  /// The text in the field has become pending, or is not any more.
+  /// The text in the field has become pending or is no longer pending.
   void pendingChanged();
   void retryAsked();
 
@@ -63,7 +63,7 @@ class QueueChooser : public QWidget {
   QString m_typed;  // the pending text, null when the field shows the chosen queue
   QString m_text;
   bool m_isFault = false;
-  bool m_isUpdating = false;  // the field changes because the list does, not by a choice
+  bool m_isUpdating = false;  // the field is changing because of the list, not by a choice
   QComboBox* m_combo;
   QLabel* m_state;
   QPushButton* m_retry;

@@ -71,7 +71,7 @@ void QueueListModel::removeQueue(const QString& name) {
 }
 
 QString QueueListModel::stateText(const QueueSummary& queue) {
-  // What the scheduler says when nobody has given a reason.
+  // The scheduler's message when nobody has given a reason.
   const bool hasReason =
       !QStringList{QString(), QStringLiteral("Rejecting Jobs"), QStringLiteral("Paused")}.contains(
           queue.stateMessage, Qt::CaseInsensitive);

@@ -8,7 +8,7 @@
 
 namespace kesto {
 
-/// Queues by name; a row's text is the name with the description behind it, `NameRole` the name alone.
+/// Queues by name. A row's text is the name followed by the description, `NameRole` the name alone.
 class QueueListModel : public QAbstractListModel {
   Q_OBJECT
 
@@ -22,16 +22,16 @@ class QueueListModel : public QAbstractListModel {
 
   /// Shows these queues, which are sorted by name.
   void setQueues(const std::vector<QueueSummary>& queues);
-  /// Puts one queue in its place, or changes it there.
+  /// Adds one queue at its place, or changes it.
   void setQueue(const QueueSummary& queue);
   void removeQueue(const QString& name);
   /// The row of a queue, -1 when it is not listed.
   int rowOf(const QString& name) const;
-  /// What is known of a queue, null when it is not listed.
+  /// What is known about a queue, null when it is not listed.
   const QueueSummary* queue(const QString& name) const;
   const std::vector<QueueSummary>& queues() const { return m_queues; }
 
-  /// The queue's state as people read it.
+  /// The queue's state for the user.
   static QString stateText(const QueueSummary& queue);
 
  private:

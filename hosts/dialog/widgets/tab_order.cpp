@@ -12,13 +12,13 @@
 namespace kesto {
 namespace {
 
-// Qt itself does this for a button that gets the focus alone.
+// Qt itself does this only for a button that receives the focus.
 void makeEntry(const QAbstractButton& chosen) {
   for (auto* radio : chosen.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
     radio->setFocusPolicy(radio == &chosen ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
-// The inner parts of these are their own affair.
+// These widgets manage the focus of their inner parts.
 bool isOneStop(const QWidget& widget) {
   return qobject_cast<const QComboBox*>(&widget) != nullptr ||
          qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
@@ -26,7 +26,7 @@ bool isOneStop(const QWidget& widget) {
          qobject_cast<const QTabBar*>(&widget) != nullptr;
 }
 
-// Where they stand is the desktop's choice.
+// The desktop decides about their order.
 void collectButtons(const QDialogButtonBox& box, QList<QWidget*>* stops) {
   for (int i = 0; i < box.layout()->count(); ++i) {
     if (QWidget* button = box.layout()->itemAt(i)->widget()) stops->append(button);
@@ -40,8 +40,8 @@ void collectStops(QWidget& widget, QList<QWidget*>* stops) {
       collectStops(*tabs->widget(i), stops);
     return;
   }
-  // What hands the focus on, as a box of buttons does, is a stop as well: left where it is, it would lead
-  // back from anywhere.
+  // A widget that passes the focus on, such as a box of buttons, counts as a stop too; otherwise its old
+  // place in the order would lead back from anywhere.
   if (widget.focusPolicy() != Qt::NoFocus || widget.focusProxy() != nullptr) stops->append(&widget);
   if (isOneStop(widget)) return;
   if (auto* box = qobject_cast<QDialogButtonBox*>(&widget)) return collectButtons(*box, stops);

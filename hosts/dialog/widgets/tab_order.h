@@ -1,4 +1,4 @@
-// How the Tab key goes through the dialog.
+// How the Tab key moves through the dialog.
 #pragma once
 
 class QAbstractButton;
@@ -6,12 +6,13 @@ class QWidget;
 
 namespace kesto {
 
-/// Lets Tab enter the group of a radio button at the button that is chosen, whoever chooses it. The whole
-/// group is to be there already.
+/// Lets Tab enter the group of a radio button at the chosen button, whoever chose it. The whole group must
+/// exist already.
 void enterAtChosen(QAbstractButton& radio);
 
-/// Lets Tab go through a window as it is read, and round to its beginning: through its widgets in the order
-/// in which they were made, the tabs of a tab widget before their pages. Asked anew after widgets have come.
+/// Lets Tab move through a window in reading order and back to its beginning: through the widgets in the
+/// order of their creation, with the tabs of a tab widget before their pages. Call it again after adding
+/// widgets.
 void orderTabStops(QWidget& window);
 
 }  // namespace kesto

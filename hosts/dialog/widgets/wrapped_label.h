@@ -6,8 +6,8 @@
 
 namespace kesto {
 
-/// Wraps its text, and is never lower than the text is in its width: in a layout within a form nobody asks a
-/// label for the height that its width asks for.
+/// Wraps its text, and is never lower than the text needs at its width. A layout within a form does not ask a
+/// label for that height.
 class WrappedLabel : public QLabel {
  public:
   explicit WrappedLabel(QWidget* parent) : QLabel(parent) { setWordWrap(true); }
