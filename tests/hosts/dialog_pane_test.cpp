@@ -8,7 +8,6 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QProgressBar>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
 
@@ -52,52 +51,63 @@ TEST_F(DialogPane, WhatAUserDoesReachesTheJob) {
   EXPECT_EQ(m_window.widget<QLineEdit>(u"suspendKeyEditText"_s)->text(), u""_s);
 }
 
-void paste(QLineEdit& line, const QString& text) {
+QAccessibleInterface& accessible(QWidget* widget) {
+  return *QAccessible::queryAccessibleInterface(widget);
+}
+
+// The ways to edit a line: a user's, who is in it, and those of assistive technology, wherever the focus is.
+const auto pressKeys = [](QLineEdit& line, const QString& text) { QTest::keyClicks(&line, text); };
+const auto erase = [](QLineEdit& line, const QString&) { QTest::keyClick(&line, Qt::Key_Backspace); };
+const auto undo = [](QLineEdit& line, const QString&) {
+  QTest::keyClick(&line, Qt::Key_Z, Qt::ControlModifier);
+};
+const auto eraseAllAndUndo = [](QLineEdit& line, const QString&) {
+  QTest::keyClick(&line, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&line, Qt::Key_Delete);
+  EXPECT_EQ(line.text(), QString());
+  undo(line, {});
+};
+const auto paste = [](QLineEdit& line, const QString& text) {
   QApplication::clipboard()->setText(text);
   QTest::keyClick(&line, Qt::Key_V, Qt::ControlModifier);
-}
-
-void drop(QLineEdit& line, const QString& text) {
+};
+const auto drop = [](QLineEdit& line, const QString& text) {
   QMimeData data;
   data.setText(text);
-  const QPoint end = line.rect().center();
-  QDragEnterEvent enter(end, Qt::CopyAction, &data, Qt::LeftButton, {});
+  QDragEnterEvent enter(line.rect().center(), Qt::CopyAction, &data, Qt::LeftButton, {});
   QApplication::sendEvent(&line, &enter);
-  QDropEvent event(end, Qt::CopyAction, &data, Qt::LeftButton, {});
+  QDropEvent event(line.rect().center(), Qt::CopyAction, &data, Qt::LeftButton, {});
   QApplication::sendEvent(&line, &event);
-}
-
-void compose(QLineEdit& line, const QString& text) {
+};
+const auto compose = [](QLineEdit& line, const QString& text) {
   QInputMethodEvent event;
   event.setCommitString(text);
   QApplication::sendEvent(&line, &event);
-}
-
-void pressKeys(QLineEdit& line, const QString& text) {
-  QTest::keyClicks(&line, text);
-}
-
-void undo(QLineEdit& line, const QString& /*text*/) {
-  QTest::keyClick(&line, Qt::Key_Z, Qt::ControlModifier);
-}
-
-void erase(QLineEdit& line, const QString& /*text*/) {
-  QTest::keyClick(&line, Qt::Key_Backspace);
-}
-
-struct Edit {
-  const char* what = nullptr;
-  Text before;
-  void (*edit)(QLineEdit& line, const QString& text) = nullptr;
-  Text given;
-  Text after;
-  TextRange selection;
+};
+const auto setValue = [](QLineEdit& line, const QString& text) {
+  accessible(&line).setText(QAccessible::Value, text);
+};
+const auto insertText = [](QLineEdit& line, const QString& text) {
+  accessible(&line).editableTextInterface()->insertText(0, text);
+};
+const auto replaceText = [](QLineEdit& line, const QString& text) {
+  const int end = accessible(&line).textInterface()->characterCount();
+  accessible(&line).editableTextInterface()->replaceText(0, end, text);
+};
+const auto deleteText = [](QLineEdit& line, const QString& text) {
+  accessible(&line).editableTextInterface()->deleteText(0, static_cast<int>(text.size()));
 };
 
 TEST_F(DialogPane, EveryWayToEditGoesThroughTheFilter) {
-  turnRetentionOn();
-  auto* line = m_window.widget<QLineEdit>(u"suspendKeyEditText"_s);
-  auto* field = m_window.control<TextField>(u"suspendKeyEditText"_s);
+  struct Edit {
+    const char* what = "";
+    Text before;
+    void (*edit)(QLineEdit& line, const QString& text) = nullptr;
+    Text given;
+    Text after;
+    TextRange selection{-1, 0};  // unless assistive technology edits
+    const char* field = "suspendKeyEditText";
+  };
   const Edit edits[] = {
       {"keys: digits pass, letters do not", "", pressKeys, "1a2b3", "123", {3, 0}},
       {"keys: a ninth digit selects the eight", "12345678", pressKeys, "9", "12345678", {0, 8}},
@@ -109,32 +119,44 @@ TEST_F(DialogPane, EveryWayToEditGoesThroughTheFilter) {
       {"input method: a digit", "12", compose, "3", "123", {3, 0}},
       {"input method: a letter", "12", compose, "é", "12", {2, 0}},
       {"undo: of a deletion", "1", undo, "", "1", {1, 0}},
+      {"undo: of all", "First", eraseAllAndUndo, "", "First", {0, 5}, "jobNameEditText"},
       {"backspace", "123", erase, "", "12", {2, 0}},
+      {"value: digits", "", setValue, "13579", "13579"},
+      {"value: as pasted over the rest, its first counts", "13579", setValue, "2x", "2x"},
+      {"value: a letter first", "12", setValue, "x3", "12"},
+      {"value: nine digits", "", setValue, "123456789", "12345678"},
+      {"value: the end goes", "12345678", setValue, "12", "12"},
+      {"value: a letter in it", "12345678", setValue, "1234x678", "12345678"},
+      {"value: none", "12345678", setValue, "", ""},
+      {"insertion", "34", insertText, "12", "1234"},
+      {"insertion of a letter", "34", insertText, "é", "34"},
+      {"deletion", "1234", deleteText, "12", "34"},
+      {"replacement", "12", replaceText, "34", "34"},
+      {"value: of a dimmed field", "", setValue, "Plans", "", {-1, 0}, "folderNameEditText"},
+      {"value: half of a pair", "😀", setValue, "😁", "😁", {-1, 0}, "userNameEditText"},
   };
+  turnRetentionOn();
   for (const Edit& edit : edits) {
     SCOPED_TRACE(edit.what);
+    const QString name = QLatin1String(edit.field);
+    auto* line = m_window.widget<QLineEdit>(name);
+    auto* field = m_window.control<TextField>(name);
     field->setStringValue(edit.before);
-    ASSERT_TRUE(m_user.click(u"suspendKeyEditText"_s));
-    line->end(false);
-    line->setEchoMode(QLineEdit::Normal);  // nothing is undone in a field that hides its text
+    const bool isUsers = edit.selection.location >= 0;
+    if (isUsers) {
+      ASSERT_TRUE(m_user.click(name));
+      line->end(false);
+      line->setEchoMode(QLineEdit::Normal);  // nothing is undone in a field that hides its text
+    }
+    const QWidget* focused = m_window.focusWidget();
     edit.edit(*line, edit.given);
     EXPECT_EQ(line->text(), edit.after);
     EXPECT_EQ(field->stringValue(), edit.after);
+    EXPECT_EQ(m_window.focusWidget(), focused);
+    if (!isUsers) continue;
     EXPECT_EQ(field->selection(), edit.selection);
     EXPECT_EQ(line->selectedText().size(), edit.selection.length);
   }
-}
-
-TEST_F(DialogPane, UndoCannotBringBackMoreThanTheFilterLets) {
-  auto* line = m_window.widget<QLineEdit>(u"jobNameEditText"_s);
-  auto* field = m_window.control<TextField>(u"jobNameEditText"_s);
-  ASSERT_TRUE(m_user.replace(u"jobNameEditText"_s, u"First"_s));
-  QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
-  QTest::keyClick(line, Qt::Key_Delete);
-  EXPECT_EQ(field->stringValue(), u""_s);
-  QTest::keyClick(line, Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(line->text(), u"First"_s);
-  EXPECT_EQ(field->stringValue(), u"First"_s);
 }
 
 TEST_F(DialogPane, AHoldButtonLocksItsField) {
@@ -180,41 +202,30 @@ TEST_F(DialogPane, SecretsHideThemselves) {
   EXPECT_EQ(eye.pixelColor(2, 8).rgb(), code->palette().color(QPalette::Disabled, QPalette::Text).rgb());
 }
 
-struct FolderCase {
-  const char* what;
-  bool isByMatrix;
-  int chosen;
-  int row;
-  int index;
-};
-
 TEST_F(DialogPane, PopUpAndMatrixOfFoldersStayInStep) {
   turnRetentionOn();
   auto* popUp = m_window.control<PopUp>(u"folderSelectionPopup"_s);
-  const auto* matrix = m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s);
   std::vector<PopUpItem> items = popUp->items();
   items.push_back({.title = {}, .image = {}, .separator = true});
   items.push_back({.title = u"Invoices"_s, .image = {}});
   popUp->setItems(items);
-  const char* cells[] = {"quickFileRadioButton", "mainFolderRadioButton", "customFolderRadioButton"};
-  const FolderCase cases[] = {
-      {"a folder is a custom one", false, 3, 2, 3},
-      {"main folder", false, 1, 1, 1},
-      {"quick file by row", true, 0, 0, 0},
-      {"custom moves off quick file", true, 2, 2, 1},
-      {"quick file by item", false, 0, 0, 0},
-      {"a folder again", false, 3, 2, 3},
-      {"custom leaves a chosen folder", true, 2, 2, 3},
-      {"main folder by row", true, 1, 1, 1},
+  // What is chosen, an item or a cell, and the row and the item that are chosen then.
+  const std::tuple<QString, int, int> cases[] = {
+      {u"3"_s, 2, 3},
+      {u"1"_s, 1, 1},
+      {u"quickFileRadioButton"_s, 0, 0},
+      {u"customFolderRadioButton"_s, 2, 1},
+      {u"0"_s, 0, 0},
+      {u"3"_s, 2, 3},
+      {u"customFolderRadioButton"_s, 2, 3},
+      {u"mainFolderRadioButton"_s, 1, 1},
   };
-  for (const FolderCase& each : cases) {
-    SCOPED_TRACE(each.what);
-    const Outcome done = each.isByMatrix ? m_user.click(QLatin1String(cells[each.chosen]))
-                                         : m_user.choose(u"folderSelectionPopup"_s, each.chosen);
-    ASSERT_TRUE(done) << done.reason();
-    EXPECT_EQ(matrix->selectedRow(), each.row);
-    EXPECT_EQ(popUp->selectedIndex(), each.index);
-    EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), each.index);
+  for (const auto& [chosen, row, index] : cases) {
+    const bool isItem = chosen.size() == 1;
+    EXPECT_TRUE(isItem ? m_user.choose(u"folderSelectionPopup"_s, chosen.toInt()) : m_user.click(chosen));
+    EXPECT_EQ(m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s)->selectedRow(), row) << chosen;
+    EXPECT_EQ(popUp->selectedIndex(), index) << chosen;
+    EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), index) << chosen;
   }
 }
 
@@ -250,125 +261,60 @@ TEST_F(DialogPane, FocusFollowsTheModelAndBack) {
   EXPECT_TRUE(m_window.widget(u"loginNameEditText"_s)->hasFocus());
 }
 
-// What assistive technology asks of a widget, by the names of the widgets.
-QAccessibleInterface& accessible(QWidget* widget) {
-  return *QAccessible::queryAccessibleInterface(widget);
-}
-
-void toggle(QWidget* widget) {
-  accessible(widget).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-}
-
-void insertText(QWidget* line, const QString& text) {
-  accessible(line).editableTextInterface()->insertText(0, text);
-}
-
-void replaceText(QWidget* line, const QString& text) {
-  const int end = accessible(line).textInterface()->characterCount();
-  accessible(line).editableTextInterface()->replaceText(0, end, text);
-}
-
-void setValue(QWidget* line, const QString& text) {
-  accessible(line).setText(QAccessible::Value, text);
-}
-
-void deleteText(QWidget* line, const QString& text) {
-  accessible(line).editableTextInterface()->deleteText(0, static_cast<int>(text.size()));
-}
-
-TEST_F(DialogPane, AssistiveTechnologyGoesThroughTheFilterAndTheRules) {
-  struct Change {
-    const char* field = nullptr;
-    Text before;
-    void (*change)(QWidget* line, const QString& text) = nullptr;
-    Text given;
-    Text after;
+TEST_F(DialogPane, AssistiveTechnologyGoesThroughTheRules) {
+  const auto toggle = [this](const QString& name) {
+    accessible(m_window.widget(name)).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
   };
-  const Change changes[] = {
-      {"suspendKeyEditText", "", setValue, "13579", "13579"},
-      {"suspendKeyEditText", "13579", setValue, "2x", "2x"},  // as pasted over the rest: its first counts
-      {"suspendKeyEditText", "12", setValue, "x3", "12"},
-      {"suspendKeyEditText", "", setValue, "123456789", "12345678"},
-      {"suspendKeyEditText", "12345678", setValue, "12", "12"},
-      {"suspendKeyEditText", "12345678", setValue, "1234x678", "12345678"},
-      {"suspendKeyEditText", "12345678", setValue, "", ""},
-      {"suspendKeyEditText", "34", insertText, "12", "1234"},
-      {"suspendKeyEditText", "34", insertText, "é", "34"},
-      {"suspendKeyEditText", "1234", deleteText, "12", "34"},
-      {"suspendKeyEditText", "12", replaceText, "34", "34"},
-      {"folderNameEditText", "", setValue, "Plans", ""},  // dimmed
-      {"userNameEditText", "😀", setValue, "😁", "😁"},
-      {"userNameEditText", "", setValue, "Anna", "Anna"},
-  };
+  auto* items = m_window.widget<QComboBox>(u"folderSelectionPopup"_s);
+  const auto* rows = m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s);
   turnRetentionOn();
-  for (const Change& change : changes) {
-    SCOPED_TRACE(testing::Message() << change.field << ' ' << QString(change.given));
-    auto* line = m_window.widget<QLineEdit>(QLatin1String(change.field));
-    auto* field = m_window.control<TextField>(QLatin1String(change.field));
-    field->setStringValue(change.before);
-    change.change(line, change.given);
-    EXPECT_EQ(line->text(), change.after);
-    EXPECT_EQ(field->stringValue(), change.after);
-  }
-  EXPECT_TRUE(m_window.widget(u"suspendKeyEditText"_s)->hasFocus()) << "the focus stays where it is";
   // A caret that was moved without the focus is where the next key goes.
-  auto* line = m_window.widget<QLineEdit>(u"userNameEditText"_s);
+  auto* line = m_window.widget<QLineEdit>(u"jobNameEditText"_s);
   line->setCursorPosition(0);
   accessible(line).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
-  EXPECT_EQ(m_window.control<TextField>(u"userNameEditText"_s)->selection(), TextRange());
-  toggle(m_window.widget(u"quickFileRadioButton"_s));
-  EXPECT_EQ(m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s)->selectedRow(), 0);
+  EXPECT_EQ(m_window.control<TextField>(u"jobNameEditText"_s)->selection(), TextRange());
+  toggle(u"quickFileRadioButton"_s);
+  EXPECT_EQ(rows->selectedRow(), 0);
   EXPECT_EQ(m_window.control<RadioMatrix>(u"suspendMatrix"_s)->selectedRow(), 1) << "the rules have run";
-  EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), 0);
-  m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->setCurrentIndex(1);
+  EXPECT_EQ(items->currentIndex(), 0);
+  items->setCurrentIndex(1);
   EXPECT_EQ(m_window.control<PopUp>(u"folderSelectionPopup"_s)->selectedIndex(), 1);
-  EXPECT_EQ(m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s)->selectedRow(), 1);
-  toggle(m_window.widget(u"retentionCheckBox"_s));
+  EXPECT_EQ(rows->selectedRow(), 1);
+  toggle(u"retentionCheckBox"_s);
   EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
-  toggle(m_window.widget(u"holdAfterRadioButton"_s));  // dimmed
+  toggle(u"holdAfterRadioButton"_s);  // dimmed
   m_window.widget<QAbstractButton>(u"samplePrintRadioButton"_s)->setChecked(true);
-  m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->setCurrentIndex(0);
+  items->setCurrentIndex(0);
   EXPECT_TRUE(m_window.widget<QAbstractButton>(u"holdOnlyRadioButton"_s)->isChecked());
-  EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), 1);
+  EXPECT_EQ(items->currentIndex(), 1);
 }
 
 TEST_F(DialogPane, TabsAndProgressFollow) {
-  auto* tabs = m_window.widget<QTabWidget>(u"tabView"_s);
-  auto* arrow = m_window.control<ProgressIndicator>(u"chasingArrow"_s);
-  auto* bar = m_window.widget<QProgressBar>(u"chasingArrow"_s);
-  EXPECT_FALSE(bar->isVisible());
-  arrow->setHidden(false);
-  EXPECT_TRUE(bar->isVisible());
-  tabs->setCurrentIndex(1);
+  m_window.control<ProgressIndicator>(u"chasingArrow"_s)->setHidden(false);
+  EXPECT_TRUE(m_window.widget(u"chasingArrow"_s)->isVisible());
+  m_window.widget<QTabWidget>(u"tabView"_s)->setCurrentIndex(1);
   EXPECT_EQ(m_window.control<TabView>(u"tabView"_s)->selectedTab(), 1);
 }
 
 TEST_F(DialogPane, ATipSaysWhyAControlIsDimmed) {
-  struct Tip {
-    const char* widget;
-    const char* part;
-  };
-  const auto expectTips = [&](const std::vector<Tip>& tips) {
+  const auto expectTips = [&](const QString& tips) {
     QCoreApplication::processEvents();  // tips follow once a moment is over
-    for (const Tip& tip : tips) {
-      const QString text = m_window.widget(QLatin1String(tip.widget))->toolTip();
-      EXPECT_TRUE(tip.part == nullptr ? text.isEmpty() : text.contains(QLatin1String(tip.part)))
-          << tip.widget << ": " << text;
-    }
+    forEachValue(tips, [&](const QString& name, const QString& part) {
+      const QString tip = m_window.widget(name)->toolTip().replace(u' ', u'_');
+      EXPECT_TRUE(part.isEmpty() ? tip.isEmpty() : tip.contains(part)) << name << ": " << tip;
+    });
   };
-  expectTips({{"suspendKeyEditText", "not held"},
-              {"folderSelectionPopup", "not held"},
-              {"holdOnlyRadioButton", "not held"},
-              {"userNumberEditText", nullptr}});
+  expectTips(
+      u"suspendKeyEditText=not_held folderSelectionPopup=not_held holdOnlyRadioButton=not_held "
+      "userNumberEditText="_s);
   turnRetentionOn();
   ASSERT_TRUE(m_user.click(u"userNumberRadioButton"_s));
-  expectTips({{"suspendKeyEditText", nullptr},
-              {"folderNameEditText", "custom folder"},
-              {"folderPasswordStaticText", "guarded"},
-              {"loginNameEditText", "user number"}});
+  expectTips(
+      u"suspendKeyEditText= folderNameEditText=custom_folder folderPasswordStaticText=guarded "
+      "loginNameEditText=user_number"_s);
   ASSERT_TRUE(m_user.click(u"quickFileRadioButton"_s));
   ASSERT_TRUE(m_user.click(u"userNumberButton"_s));
-  expectTips({{"suspendKeyEditText", "quick file"}, {"userNumberEditText", "Locked"}});
+  expectTips(u"suspendKeyEditText=quick_file userNumberEditText=Locked"_s);
 }
 
 TEST_F(DialogPane, TheTestsUserFailsWhereAPersonWould) {
