@@ -89,6 +89,14 @@ class DialogPrint : public testing::Test {
     const Outcome waited = DialogUser::waitUntil(isSo, what);
     ASSERT_TRUE(waited) << waited.reason();
   }
+  /// Waits until a job is sent and at the printer.
+  void awaitJob(int number) {
+    await([this] { return m_dialog->job() > 0; }, u"the job"_s);
+    m_printer->waitForLog("job " + QByteArray::number(number) + " from ");
+  }
+  QByteArray printout(int job, int document = 1) const {
+    return bytesOf(m_printer->place(u"output"_s) + u"/job-%1-%2"_s.arg(job).arg(document));
+  }
   void click(const QString& name) {
     const Outcome clicked = DialogUser(*m_dialog).click(name);
     ASSERT_TRUE(clicked) << clicked.reason();

@@ -1,0 +1,288 @@
+// The dialog and its print server: which printer is chosen, what is said of it, and how the program ends.
+#include <QtGui/QAccessible>
+#include <QtNetwork/QTcpServer>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QToolButton>
+
+#include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/dialog/widgets/queue_chooser.h"
+#include "tests/support/dialog_printer.h"
+#include "tests/support/hostile_server.h"
+
+namespace kesto::test {
+namespace {
+
+TEST_F(DialogPrint, ASilentServerIsToldAndAskedAgain) {
+  QTcpServer silent;
+  ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+  m_options.server.address = u"127.0.0.1:%1"_s.arg(silent.serverPort());
+  m_options.server.limit = std::chrono::milliseconds(300);
+  open();
+  await([this] { return widget(u"retry"_s)->isVisible(); }, u"the fault"_s);
+  EXPECT_TRUE(text(u"printerState"_s).contains(u"does not answer"_s)) << text(u"printerState"_s);
+  EXPECT_FALSE(widget(u"print"_s)->isEnabled());
+  EXPECT_EQ(widget(u"print"_s)->toolTip(), u""_s) << "the document is there";
+  EXPECT_EQ(widget<QComboBox>(u"printer"_s)->placeholderText(), u"No printer"_s);
+  type(u"copies"_s, u"3"_s);
+  click(u"retry"_s);
+  EXPECT_FALSE(widget(u"retry"_s)->isVisible());
+  await([this] { return widget(u"retry"_s)->isVisible(); }, u"the fault again"_s);
+  QTest::keyClick(&*m_dialog, Qt::Key_Escape);
+  EXPECT_FALSE(m_dialog->isVisible());
+}
+
+// With a limit of an hour: only what is interrupted ends.
+TEST_F(DialogPrint, TheDialogGoesWhateverItsServerIsWaitedForWith) {
+  const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+  const std::pair<int, Misbehaviour> cases[] = {
+      {HostileServer::atConnect, {}},
+      {IPP_OP_CUPS_GET_PRINTERS, {}},
+      {IPP_OP_CUPS_GET_DEFAULT, {.again = "HTTP/1.1 100 Continue\r\n\r\n"}},
+      {IPP_OP_CUPS_GET_DEFAULT, {chunked, "1\r\nx\r\n", std::chrono::milliseconds(20)}},
+      {HostileServer::atConnect, {"HTTP/1.1 101 Switching Protocols\r\nUpgrade: TLS/1.2\r\n\r\n"}},
+  };
+  m_options.server.limit = std::chrono::hours(1);
+  for (const auto& [operation, misbehaviour] : cases) {
+    const HostileServer hostile(operation, misbehaviour);
+    m_options.server.address = hostile.address();
+    m_options.server.encrypt = misbehaviour.once.contains("TLS");
+    open();
+    await([&] { return hostile.hasMisbehaved(); }, u"the server"_s);
+    QTest::keyClick(&*m_dialog, Qt::Key_Escape);
+    EXPECT_FALSE(m_dialog->isVisible());
+    m_dialog.reset();
+  }
+}
+
+TEST_F(DialogPrint, WhatThePrinterFieldShowsIsWhatIsPrintedOn) {
+  startPrinter({u"--queues"_s, u"14"_s});
+  openReady();
+  click(u"retentionCheckBox"_s);
+  auto* printer = widget<QComboBox>(u"printer"_s);
+  ASSERT_TRUE(printer->isEditable());
+  auto* chooser = m_dialog->findChild<QueueChooser*>();
+  const auto press = [](QKeyCombination key) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup != nullptr ? popup : QApplication::focusWidget(), key.key(),
+                    key.keyboardModifiers());
+  };
+  QueueSummary late;
+  late.name = u"Attic_Laser"_s;
+  // A text that is typed and a way to go on; the queue that it leads to (null: still the one before), and
+  // what is said when the field shows another text than the queue's.
+  struct Way {
+    Text typed;
+    std::vector<QKeyCombination> keys;
+    Text queue = nullptr;
+    Text said = nullptr;
+    std::function<void()> act = [] {};
+  };
+  const QKeyCombination letterOfPrint = Qt::AltModifier | Qt::Key_I;  // which is dimmed
+  const char none[] = "There is no printer named \"Upstairs\".";
+  const char enter5[] = "Press Enter to choose Office_MFP_0005.";
+  const Way ways[] = {
+      {"Office_MFP_0005", {}, nullptr, enter5},
+      {"mfp_0004", {letterOfPrint}, "Office_MFP_0004"},
+      {"Upstairs", {letterOfPrint}, nullptr, none},
+      {"mfp_0005", {}, nullptr, enter5, [&] { QTest::mouseClick(widget(u"print"_s), Qt::LeftButton); }},
+      {"Upstairs", {Qt::Key_Return}, nullptr, none},
+      {"mfp", {Qt::Key_Return}, nullptr, "Several printers match. Choose one of them."},
+      {"", {}, nullptr, "Enter the name of a printer.", [&] { printer->lineEdit()->clear(); }},
+      {"Upstairs", {Qt::Key_Escape}},
+      {"0005", {Qt::Key_Down, Qt::Key_Escape}},
+      {"mfp_0005", {Qt::Key_Return}, "Office_MFP_0005"},
+      {"0006", {Qt::Key_Tab}, "Office_MFP_0006"},
+      {"0007", {Qt::Key_Down, Qt::Key_Return}, "Office_MFP_0007"},
+      {"", {}, "Office_MFP_0008", nullptr, [&] { printer->lineEdit()->setText(u"Office_MFP_0008"_s); }},
+      {"", {}, "Office_MFP_0003", nullptr, [&] { printer->setCurrentIndex(2); }},
+      {"Attic", {}, nullptr, "Press Enter to choose Attic_Laser.", [&] { chooser->setQueue(late); }},
+      {"Upstairs", {}, nullptr, none, [&] { chooser->removeQueue(late.name); }},
+      {"0005", {}, nullptr, enter5, [&] { chooser->removeQueue(u"Office_MFP_0003"_s); }},
+  };
+  QString queue = m_dialog->queueName();
+  for (const Way& way : ways) {
+    SCOPED_TRACE(way.typed.toStdString() + '/' + std::to_string(&way - ways));
+    if (QWidget* popup = QApplication::activePopupWidget()) popup->hide();
+    m_dialog->activateWindow();
+    await([this] { return m_dialog->isActiveWindow(); }, u"the window"_s);
+    printer->setFocus();
+    printer->lineEdit()->selectAll();
+    if (!way.typed.isEmpty()) QTest::keyClicks(QApplication::focusWidget(), way.typed);
+    for (const QKeyCombination& key : way.keys)
+      press(key);
+    way.act();
+    if (!way.queue.isNull()) queue = way.queue;
+    EXPECT_EQ(m_dialog->queueName(), queue);
+    EXPECT_TRUE(m_dialog->isVisible());
+    await([this] { return m_dialog->isQueueReady(); }, u"the queue"_s);
+    EXPECT_EQ(widget(u"print"_s)->isEnabled(), way.said.isNull());
+    EXPECT_EQ(printer->currentText().section(u' ', 0, 0) == queue, way.said.isNull())
+        << printer->currentText();
+    EXPECT_EQ(text(u"printerState"_s), way.said.isNull() ? Text("Ready") : way.said);
+    EXPECT_EQ(m_dialog->job(), 0);
+  }
+  EXPECT_FALSE(widget<QAbstractButton>(u"retentionCheckBox"_s)->isChecked()) << "its panel is another";
+}
+
+TEST_F(DialogPrint, WhyAQueueTakesNoJobsOrPrintsNoneIsShown) {
+  for (const auto& [edits, said] :
+       Cases{{"s/Accepting Yes/Accepting No\\nStateMessage Closed until Monday/",
+              "Not accepting jobs: Closed until Monday"},
+             {"s/Accepting Yes/Accepting No/", "Not accepting jobs"},
+             {"s/State Idle/State Stopped\\nStateMessage Out of toner/", "Paused: Out of toner"},
+             {"s/State Idle/State Stopped/", "Paused"}}) {
+    m_printer.reset();
+    changeScheduler(m_folder, edits.toLatin1());
+    startPrinter();
+    openReady();
+    EXPECT_EQ(text(u"printerState"_s), said);
+    EXPECT_EQ(widget(u"print"_s)->isEnabled(), said.startsWith(u"Paused"_s));
+  }
+}
+
+TEST_F(DialogPrint, AQueueWithoutThePanelPrintsByItsOwnOptions) {
+  startPrinter({u"--queues"_s, u"2"_s});
+  changePpd(u"Office_MFP_0002"_s, "*APDialogExtension", "*% none");
+  openReady();
+  for (const int row : {1, 0, 1})  // only the last one is waited for
+    EXPECT_TRUE(DialogUser(*m_dialog).choose(u"printer"_s, row));
+  await([this] { return m_dialog->isQueueReady(); }, u"the other queue"_s);
+  EXPECT_FALSE(widgetNamed(*m_dialog, u"Presets"_s)->isEnabled());
+  EXPECT_TRUE(DialogUser(*m_dialog).choose(u"Duplex"_s, 1));
+  click(u"print"_s);
+  awaitJob(1);
+  EXPECT_EQ(text(u"message"_s), u"Job 1 sent to Office_MFP_0002"_s);
+  EXPECT_TRUE(m_dialog->jobSettings().isEmpty()) << "of the panel of the queue before";
+}
+
+TEST_F(DialogPrint, TheFirstQueueThatTakesJobsStandsInForOneThatIsMissing) {
+  changeScheduler(m_folder, "s/DefaultPrinter/Printer/; 0,/Accepting Yes/s//Accepting No/");
+  startPrinter({u"--queues"_s, u"2"_s});
+  for (const QString& asked : {QString(), u"Gone"_s}) {
+    m_options.queue = asked;
+    m_options.documentLater = !asked.isNull();  // an application may remember a queue that is gone
+    openReady();
+    EXPECT_EQ(m_dialog->queueName(), u"Office_MFP_0002"_s) << asked;
+    const auto tip = [&](int row) { return m_dialog->queues().index(row).data(Qt::ToolTipRole); };
+    EXPECT_EQ(tip(0), u"Not accepting jobs"_s);
+    EXPECT_EQ(tip(1), u"Ready"_s);
+  }
+  DemoProcess program(m_folder, builtProgram("kesto-print"),
+                      {u"-h"_s, m_options.server.address, u"--timings"_s});
+  EXPECT_EQ(program.code(), 0) << program.log();
+}
+
+TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) {
+  startPrinter();
+  openReady();
+  const auto change = [this](const QStringList& arguments) {
+    DemoProcess lpadmin(m_folder, u"/usr/sbin/lpadmin"_s,
+                        QStringList{u"-h"_s, m_printer->place(u"server"_s)} + arguments);
+    EXPECT_EQ(lpadmin.code(), 0) << lpadmin.log();
+  };
+  const auto ask = [this](ipp_op_t operation, int subscription) {
+    const Ipp request(ippNewRequest(operation));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-subscription-id", subscription);
+    std::unique_ptr<PrintServer> server;
+    Ipp reply;
+    return m_options.server.connect(&server) && server->ask(request.get(), &reply);
+  };
+  const QueueListModel& queues = m_dialog->queues();
+  const auto* printer = widget<QComboBox>(u"printer"_s);
+  await([&] { return ask(IPP_OP_GET_SUBSCRIPTION_ATTRIBUTES, 1); }, u"the subscription"_s);
+  change({u"-p"_s, u"Annex"_s, u"-E"_s, u"-v"_s, u"socket://127.0.0.1:9"_s});
+  await([&] { return queues.rowOf(u"Annex"_s) == 0; }, u"the new queue"_s);
+  EXPECT_EQ(printer->currentText(), u"Office_MFP — Kesto VQ-250n (demo)"_s);
+  EXPECT_TRUE(ask(IPP_OP_CANCEL_SUBSCRIPTION, 1));
+  await([&] { return ask(IPP_OP_GET_SUBSCRIPTION_ATTRIBUTES, 2); }, u"the next subscription"_s);
+  change({u"-p"_s, u"Annex"_s, u"-D"_s, u"Moved"_s});
+  change({u"-x"_s, u"Office_MFP"_s});
+  await([&] { return queues.rowCount() == 1 && printer->itemText(0) == u"Annex — Moved"_s; }, u"the news"_s);
+  EXPECT_EQ(printer->currentIndex(), -1) << "nobody has chosen another";
+  EXPECT_EQ(printer->placeholderText(), u"Office_MFP"_s);
+  EXPECT_EQ(text(u"printerState"_s), u""_s);
+}
+
+TEST_F(DialogPrint, TextsOfOthersStayOnTheirLine) {
+  startPrinter();
+  changePpd(u"Office_MFP"_s, "*PageSize A5/A5:", "*PageSize A5/A\x9b 5:");
+  openReady();
+  const auto* paper = widget<QComboBox>(u"PageSize"_s);
+  EXPECT_EQ(paper->itemText(paper->findData(u"A5"_s)), u"A\\x9b 5"_s);
+  QueueListModel queues;
+  queues.setQueues({{u"q"_s, u"Floor\n\u202e2"_s, {}, {}, {}}});
+  EXPECT_EQ(queues.index(0).data(), u"q — Floor\\n\\u202e2"_s);
+  QLabel label;
+  setPlainText(label, u"Folder\r\u0085 & more"_s);
+  EXPECT_EQ(label.text(), u"Folder\\r\\x85 & more"_s);
+}
+
+TEST_F(DialogPrint, TheSummaryTellsWhatOthersSee) {
+  for (const auto& [edits, part] : Cases{
+           {"", "and no more of it."}, {"/JobPrivate/d", "These lines in its policy demo hide it:\n\nJob"}}) {
+    m_printer.reset();
+    changeScheduler(m_folder, edits.toLatin1());
+    startPrinter();
+    openReady();
+    click(u"privacy"_s);
+    await([this] { return widget(u"privacyText"_s)->isVisible(); }, u"what others see"_s);
+    EXPECT_TRUE(text(u"privacyText"_s).contains(part)) << text(u"privacyText"_s);
+    EXPECT_NE(text(u"privacyText"_s).contains(u"the pass code, "_s), edits.isEmpty());
+  }
+}
+
+TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
+  startPrinter();
+  const struct {
+    QString arguments;  // "%1" stands for the server, "%2" for a folder
+    int code = 0;
+    const char* output = "";
+    const char* error = "";
+  } runs[] = {
+      {u"-h %1 --timings"_s, 0, "queues=1"},
+      {u"-h %1 --screenshot %2/picture.png %2/report.pdf"_s},
+      {u"-h %1 --screenshot %2/picture.png /no/such.pdf"_s, 0, "", "/no/such.pdf cannot be read"},
+      {u"-h %1 -d None --timings"_s, 1, "", "no queue"},
+      {u"--help"_s, 0, "usage: kesto-print"},
+      {u"--nonsense"_s, 2, "", "--nonsense"},
+      {u"--\u001b[2J"_s, 2, "", "--\\x1b[2J"},  // which a terminal would obey
+      {u"--timeout 0"_s, 2, "", "--timeout"},
+      {u"--timeout nan"_s, 2, "", "--timeout"},
+      {u"-n 0x10"_s, 2, "", "-n"},
+      {u"--portal 77"_s, 2, "", "is no open descriptor"},
+  };
+  for (const auto& [arguments, code, output, error] : runs) {
+    const QString given = QString(arguments)
+                              .replace(u"%1"_s, m_printer->place(u"server"_s))
+                              .replace(u"%2"_s, m_folder.path(u""_s));
+    DemoProcess program(m_folder, builtProgram("kesto-print"), given.split(u' '));
+    program.closeWriteChannel();
+    EXPECT_EQ(program.code(), code) << arguments;
+    EXPECT_TRUE(program.readAllStandardOutput().contains(output)) << arguments;
+    EXPECT_TRUE(program.log().contains(error)) << arguments;
+  }
+  EXPECT_FALSE(QImage(m_folder.path(u"picture.png"_s)).isNull());
+}
+
+TEST(DialogOptions, AreReadAsTheManualSays) {
+  std::vector<std::string> words{"kesto-print", "-o",        "sides=one-sided number-up=2",
+                                 "a.pdf",       "--timeout", "0.5",
+                                 "b.ps",        "-o",        "number-up=4"};
+  std::vector<char*> arguments;
+  arguments.reserve(words.size());
+  for (std::string& word : words)
+    arguments.push_back(word.data());
+  PrintOptions options;
+  ASSERT_EQ(parsePrintOptions(static_cast<int>(arguments.size()), arguments.data(), &options), std::nullopt);
+  EXPECT_EQ(options.files, (QByteArrayList{"a.pdf", "b.ps"}));
+  EXPECT_EQ(options.jobOptions,
+            (QMap<QString, QString>{{u"sides"_s, u"one-sided"_s}, {u"number-up"_s, u"4"_s}}));
+  EXPECT_EQ(options.server.limit, std::chrono::milliseconds(500));
+}
+
+}  // namespace
+}  // namespace kesto::test
