@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""What another user of the machine reaches of a running demo printer: nothing but what sends a job, and that at its
-port alone. As root the test becomes "nobody" for it; otherwise the owner stands in for the other user at the port,
-where nobody is known, and the sockets are left out.
+"""Tests what another user of the machine can reach of a running demo printer: only what sending a job needs, and only
+at its port. As root the test becomes "nobody" for this. Otherwise the owner plays the other user at the port, where
+users are not identified, and the sockets are left out.
 
 usage: demo_neighbour_test.py BUILD_FOLDER
 """
@@ -50,7 +50,7 @@ def ipp(operation, user):
 
 
 def attempt(port, method, path, body=b""):
-    """The answer's status: that of HTTP, or what IPP says of itself."""
+    """The status of the answer: IPP's if there is one, else HTTP's."""
     connection = http.client.HTTPConnection("127.0.0.1", port, timeout=PATIENCE)
     connection.request(method, path, body, {"Content-Type": "application/ipp"} if body else {})
     answer = connection.getresponse()
@@ -112,7 +112,7 @@ class Neighbour(unittest.TestCase):
                        check=True, stdout=subprocess.DEVNULL)
 
     def test_administration_is_closed(self):
-        """Whatever name is claimed: of the owner, of the job's sender, of another user."""
+        """Claims the name of the owner, of the job's sender and of another user."""
         tries = {f"{method} {path}": (method, path) for method, path in LOCATIONS}
         for name, operation in OPERATIONS.items():
             for user in (OWNER, "anna", "mallory"):

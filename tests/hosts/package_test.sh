@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
-# The Debian packages of a build: read by lintian, used from a folder they are unpacked in, installed and removed.
-# usage: tests/package_test.sh BUILD_FOLDER    (ends with 77 where the packaging tools are missing)
+# Tests the Debian packages of a build: checks them with lintian, uses them unpacked in a folder, installs and removes
+# them.
+# usage: tests/hosts/package_test.sh BUILD_FOLDER    (exits with 77 when the packaging tools are missing)
 # shellcheck disable=SC2317  # functions are called by their names
 set -euo pipefail
 
-build=$(realpath "${1:?usage: tests/package_test.sh BUILD_FOLDER}")
+build=$(realpath "${1:?usage: tests/hosts/package_test.sh BUILD_FOLDER}")
 for tool in lintian dpkg-deb; do
   if command -v "$tool" >/dev/null; then continue; fi
-  echo "package_test: there is no $tool"
+  echo "package_test: $tool is not installed"
   if [[ ${CI:-} == true ]]; then exit 1; fi
   exit 77
 done
@@ -27,7 +28,7 @@ export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home TMPDIR=$scratch LC_ALL=C
 mkdir "$HOME"
 
 failures=0
-# expect WHAT PATTERN COMMAND...: the command succeeds, and the pattern is in what it prints.
+# expect WHAT PATTERN COMMAND...: expects the command to succeed with the pattern in its output.
 expect() {
   local what=$1 pattern=$2 output
   shift 2
@@ -62,7 +63,7 @@ fails() { ! "$@"; }
 expect "the bundle is the package's" 'JobHandling.pde is neither' fails "$bin/kesto-lp" "${hold[@]}" <<<2468
 mv "$bundle.away" "$bundle"
 
-# What the portal's front end and D-Bus read leads to the service.
+# The files for the portal's front end and D-Bus lead to the service.
 share=$root/usr/share
 name=$(sed -n 's/^DBusName=//p' "$share/xdg-desktop-portal/portals/00-kesto.portal")
 expect "the bus knows the portal's name" "^Name=$name$" cat "$share/dbus-1/services/$name.service"
@@ -71,7 +72,7 @@ for file in "$share/dbus-1/services/$name.service" "$root/usr/lib/systemd/user/k
 done
 expect "the dialog is beside the service" '' test -x "$bin/kesto-print"
 
-# The demo printer finds its programs and its queue's description beside it.
+# The demo printer finds its programs and its queue's PPD beside it.
 exec {log}< <(exec "$bin/kesto-demo-printer" --dir "$scratch/run" --folder-port 0 --json 2>&1)
 printer=$!
 read -r -t 60 places <&"$log"
@@ -81,7 +82,7 @@ while read -r -t 60 line <&"$log" && [[ $line != *held* ]]; do :; done
 expect "its release" '' "$bin/kesto-demo-printer" release 1 --dir "$scratch/run" --pin-file - <<<2468
 expect "its printout" '^text$' cat "$scratch/run/output/job-1-1"
 
-# example_of PAGE BLOCK: a block of commands of a manual page, counted from 1, as it stands but for the place of the
+# example_of PAGE BLOCK: prints a block of commands from a manual page, counted from 1, adapted to the place of the
 # installation.
 example_of() {
   zcat "$root/usr/share/man/man1/$1.1.gz" | awk -v block="$2" '
@@ -90,7 +91,8 @@ example_of() {
     inside && shown { gsub(/\\e/, "\\"); if (/\|$/) printf "%s", $0; else print }
     /^\.nf/ { if (inside && ++count == block) shown = 1 }' | sed "s| /usr/| $root/usr/|"
 }
-# run_example PAGE BLOCK: its lines one by one, at least one. A line that comes too early for the printer is tried again.
+# run_example PAGE BLOCK: runs its lines one by one; there must be at least one. A line that comes too early for the
+# printer is tried again.
 run_example() {
   local line ran=1
   while IFS= read -r line; do
@@ -117,7 +119,7 @@ expect "the picture that it saves" '' test -s "$scratch/examples/summary.png"
 unset CUPS_SERVER
 for block in 1 2; do expect "example $block of kesto-panel(1)" '^\{"(settings|controls)"' run_example kesto-panel "$block"; done
 
-# complete_word WORD...: what the completion offers for the last of them, one a line.
+# complete_word WORD...: prints what the completion offers for the last word.
 complete_word() (
   PATH=$scratch/hostile:$bin:$PATH
   # shellcheck disable=SC1091
@@ -139,7 +141,7 @@ expect "nor is the program's name" '^$' complete_word -l
 expect "completion of the help" '^--help$' complete_word --he
 expect "completion of files" '^file names' complete_word rep
 
-# Names of queues are data, whatever they are: the completion runs none, and what it offers runs none.
+# Names of queues are data: neither the completion nor what it offers runs any part of a name.
 # shellcheck disable=SC2016
 queues=('$(touch${IFS}ran)' 'a b' 'q"uote' "it's" '`touch ran`' 'x;touch ran' '*' '~' 'b\c' 'Zürich')
 mkdir "$scratch/hostile"

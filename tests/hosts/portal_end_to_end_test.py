@@ -1,8 +1,8 @@
 #!/usr/bin/python3
-"""Prints through the real front end of the desktop portal, with a real GTK client and the real dialog, worked by its
-keys, on the demo printer.
+"""Prints on the demo printer through the real front end of the desktop portal, with a real GTK client and the real
+dialog, which the test operates with keys.
 
-usage: portal_end_to_end_test.py BUILD_FOLDER    (ends with 77 where a package is missing)
+usage: portal_end_to_end_test.py BUILD_FOLDER    (exits with 77 when a package is missing)
 """
 import contextlib
 import http.client
@@ -25,12 +25,12 @@ FRONT_END = pathlib.Path("/usr/libexec/xdg-desktop-portal")
 NAME = "org.freedesktop.impl.portal.desktop.kesto"
 WINDOW = ["--onlyvisible", "--name", "Print on Office_MFP"]
 CODE = "24681357"
-# Longer than anything here takes, shorter than a start that hangs: the front end waits 25 s for a backend.
+# Longer than anything here takes, but shorter than a start that hangs, for which the front end waits 25 s.
 PATIENCE = 20
 
 
 def missing():
-    """What the test needs and this system has not."""
+    """Something that the test needs is missing on this system."""
     programs = ["dbus-daemon", "Xvfb", "pdftotext", "pdfinfo", "gdbus", "xdotool", "pgrep"]
     lacking = [name for name in programs if not shutil.which(name)] + [str(FRONT_END)] * (not FRONT_END.exists())
     code = 'import gi; gi.require_version("Gtk", "3.0"); from gi.repository import Gtk; import gi._gi_cairo'
@@ -72,7 +72,7 @@ class Session:
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
 
     def start(self, command, **options):
-        """A program whose standard output is read, and that ends with the session."""
+        """Starts a program whose standard output is read and that ends with the session."""
         process = subprocess.Popen(command, env=self.environment, text=True, stdout=subprocess.PIPE, **options)
         self.stack.callback(process.stdout.close)
         self.stack.callback(process.wait)
@@ -88,7 +88,7 @@ class Session:
             self.environment["DISPLAY"] = f":{number.readline().strip()}"
 
     def wait_for_mount(self):
-        """Until the document portal's file system has ended with its bus."""
+        """Waits until the document portal's file system has ended with its bus."""
         while os.path.ismount(self.root / "xdg_runtime_dir/doc"):
             os.sched_yield()
 
@@ -98,7 +98,7 @@ class Session:
 
 
 class Printing(unittest.TestCase):
-    """Each test goes on in the session of the one before, whose jobs it leaves aside."""
+    """Each test continues the session of the previous one and ignores its jobs."""
 
     @classmethod
     def setUpClass(cls):
@@ -148,14 +148,14 @@ class Printing(unittest.TestCase):
         return pathlib.Path(self.session.places["output"]) / f"job-{self.number}-1"
 
     def release(self):
-        """The text of the job's pages, once its pass code has come."""
+        """The text of the job's pages after its release with the pass code."""
         pin = self.session.root / "pin"
         pin.write_text(CODE + "\n")
         self.demo_printer("release", str(self.number), "--pin-file", pin)
         return self.tool("pdftotext", self.printout(), "-")
 
     def job_attributes(self):
-        """What the scheduler says of the job, as the bytes of IPP."""
+        """The scheduler's answer about the job, as IPP bytes."""
         request = struct.pack(">HHIB", 0x0200, 0x0009, 1, 1)
         for tag, name, value in [(0x47, "attributes-charset", "utf-8"), (0x48, "attributes-natural-language", "en"),
                                  (0x45, "job-uri", f"ipp://localhost/jobs/{self.number}"),
@@ -205,7 +205,7 @@ class Printing(unittest.TestCase):
         self.assertIn(b"A5", self.job_attributes())
 
     def test_standard_input(self):
-        """As the print command of an application, without the portal."""
+        """Serves as the print command of an application, without the portal."""
         report = TESTS.parent / "demo/quarterly-report.pdf"
         with open(report, "rb") as document:
             dialog = self.session.start([BUILD / "bin/kesto-print", "-o", "number-up=2"], stdin=document)

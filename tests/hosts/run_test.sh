@@ -1,28 +1,28 @@
 #!/usr/bin/env bash
-# ./run and what it asks for: no package of the tests, and a reason when the demo printer does not start.
-# usage: tests/run_test.sh SOURCE_FOLDER
+# Tests ./run: it installs no package for the tests, and gives a reason when the demo printer does not start.
+# usage: tests/hosts/run_test.sh SOURCE_FOLDER
 set -euo pipefail
 
-source=$(realpath "${1:?usage: tests/run_test.sh SOURCE_FOLDER}")
+source=$(realpath "${1:?usage: tests/hosts/run_test.sh SOURCE_FOLDER}")
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 export TMPDIR=$scratch/tmp
 mkdir -p "$TMPDIR" "$scratch/stubs" "$scratch/copy/tools" "$scratch/copy/build/release/bin"
 
 failures=0
-# expect WHAT WANTED UNWANTED TEXT: the first pattern is in the text, and the second is not.
+# expect WHAT WANTED UNWANTED TEXT: expects the first pattern in the text, but not the second.
 expect() {
   if grep -qE -- "$2" <<<"$4" && ! grep -qE -- "$3" <<<"$4"; then return; fi
   printf 'run_test: %s: not %s without %s:\n%s\n' "$@"
   failures=$((failures + 1))
 }
-# stub PATH LINE: a program of one line.
+# stub PATH LINE: creates a program of one line.
 stub() {
   printf '#!/bin/sh\n%s\n' "$2" >"$1"
   chmod +x "$1"
 }
 
-# Nothing is installed, and asking for it installs nothing.
+# No package counts as installed, and installing does nothing.
 stub "$scratch/stubs/dpkg-query" 'exit 1'
 stub "$scratch/stubs/apt-get" 'exit 0'
 stub "$scratch/stubs/sudo" 'exec "$@"'

@@ -1,4 +1,4 @@
-// The platform that benchmarks and fuzz targets run on: nothing of it takes time.
+// The platform of benchmarks and fuzz targets, which takes no time.
 #pragma once
 
 #include <QtCore/QCoreApplication>
@@ -13,7 +13,7 @@
 
 namespace kesto::bench {
 
-/// The application object that Qt's classes want; made on first use.
+/// The application object that Qt's classes need; created at first use.
 inline QCoreApplication& application() {
   static int argc = 1;
   static char name[] = "kesto-bench";
@@ -22,7 +22,7 @@ inline QCoreApplication& application() {
   return instance;
 }
 
-/// Has the real bundle, and preferences that are always empty; both can be replaced.
+/// Has the real bundle, and preferences that are always empty. Both can be replaced.
 class BenchPlatform : public Platform, private UserDefaults, private AlertPresenter {
  public:
   BenchPlatform() { application(); }

@@ -1,7 +1,7 @@
 // Controls by name, and their values in a short notation: "retentionCheckBox=1 suspendMatrix=2 userName=jane
 // focus=jobName". The value is the state of a button, the row of a matrix, the index of a pop-up, the text of
 // a field, the title of a box or radio cell; "focus" is the first responder, empty for none. The name of a
-// text field may go without its "EditText".
+// text field may omit its "EditText".
 #pragma once
 
 #include "panel/model/button.h"
@@ -14,7 +14,7 @@
 
 namespace kesto::test {
 
-/// The control of that name and kind; throws without it.
+/// The control of that name and kind; throws when it is missing.
 template <class T>
 T& controlNamed(const PanelView& view, const QString& name) {
   for (const QString& whole : {name, name + u"EditText"_s}) {
@@ -35,7 +35,7 @@ inline PopUp& popUp(const PanelView& view, const Text& name) {
   return controlNamed<PopUp>(view, name);
 }
 
-/// The value of a control in the notation.
+/// The value of a control in this notation.
 inline QString valueOf(const PanelView& view, const Text& name) {
   const auto& control = controlNamed<Control>(view, name);
   if (control.kind() == u"radio") return control.property("title").toString();
@@ -46,7 +46,7 @@ inline QString valueOf(const PanelView& view, const Text& name) {
   return control.property("title").toString();
 }
 
-/// Expects the named controls to have the values; "_" stands for a blank.
+/// Expects the named controls to have these values; "_" means a blank.
 inline void expectControls(const PanelView& view, const Text& values) {
   forEachValue(values, [&](const QString& name, const QString& value) {
     if (name == u"focus") {
@@ -78,8 +78,8 @@ inline Outcome operate(const PanelView& view, const Text& operation) {
   return field(view, name).type(value);
 }
 
-/// Whether the user may operate the control: enabled; of a label, black; of a field, editable, selectable and
-/// black, which must agree.
+/// Whether the user may operate the control: it is enabled; a label is black; a field is editable, selectable
+/// and black, which must agree.
 inline bool isAvailable(const Control& control) {
   const auto* text = qobject_cast<const TextField*>(&control);
   if (text == nullptr) return control.property("enabled").toBool();

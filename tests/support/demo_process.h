@@ -1,4 +1,4 @@
-// The real kesto-demo-printer, and the programs that deal with it, in a folder of the test's own.
+// The real kesto-demo-printer, and the programs that use it, in a private folder of the test.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -29,7 +29,8 @@ inline QByteArray bytesOf(const QString& path) {
   return file.readAll();
 }
 
-/// Handles events until something is so; what is deleted later and what other processes do wakes nobody.
+/// Handles events until a condition holds, and checks it regularly, because deferred deletions and other
+/// processes do not wake the event loop.
 inline void waitFor(const std::function<bool()>& isSo) {
   const QDeadlineTimer deadline(std::chrono::seconds(30));
   QTimer wake;
@@ -41,7 +42,7 @@ inline void waitFor(const std::function<bool()>& isSo) {
   }
 }
 
-/// A document that begins as a PDF does and holds every byte.
+/// A document that begins like a PDF and contains every byte value.
 inline QByteArray pdfDocument() {
   QByteArray document = "%PDF-1.4\n";
   for (unsigned i = 0; i < 200'000; ++i)
@@ -49,11 +50,11 @@ inline QByteArray pdfDocument() {
   return document;
 }
 
-/// A place of its own for everything that the programs write.
+/// A private place for everything that the programs write.
 class ScratchFolder {
  public:
   ScratchFolder() {
-    // A scheduler that root starts runs its jobs as another account, which passes through here.
+    // A scheduler started by root runs its jobs under another account, which must reach the folders below.
     QFile::setPermissions(m_folder.path(),
                           QFile::permissions(m_folder.path()) | QFile::ExeGroup | QFile::ExeOther);
   }
@@ -67,7 +68,7 @@ class ScratchFolder {
   QTemporaryDir m_folder;
 };
 
-/// Puts a scheduler before the system's that edits its configuration and its list of queues first.
+/// Puts a scheduler in front of the system's that first edits its configuration and its list of queues.
 inline void changeScheduler(const ScratchFolder& folder, const QByteArray& edits) {
   QDir().mkdir(folder.path(u"bin"_s));
   QFile::remove(folder.path(u"bin/cupsd"_s));
@@ -78,7 +79,7 @@ inline void changeScheduler(const ScratchFolder& folder, const QByteArray& edits
   qputenv("PATH", QFile::encodeName(folder.path(u"bin:"_s)) + qgetenv("PATH"));
 }
 
-/// An environment whose every place to write is a folder.
+/// An environment in which every writable place is in this folder.
 inline QProcessEnvironment environmentIn(const ScratchFolder& folder) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const auto* place : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
@@ -87,7 +88,7 @@ inline QProcessEnvironment environmentIn(const ScratchFolder& folder) {
   return environment;
 }
 
-/// A process that is waited for by what it prints, and ended with its object.
+/// A process that the test follows by its output, and that ends with this object.
 class DemoProcess : public QProcess {
  public:
   DemoProcess(const ScratchFolder& folder, const QString& program, const QStringList& arguments) {
@@ -99,7 +100,7 @@ class DemoProcess : public QProcess {
     waitForFinished();
   }
 
-  /// The next line on standard output; empty when the process ends before.
+  /// The next line on standard output; empty when the process ends first.
   QByteArray readOutLine() {
     setReadChannel(StandardOutput);
     while (!canReadLine() && waitForReadyRead()) {
@@ -117,7 +118,7 @@ class DemoProcess : public QProcess {
     } while (waitForReadyRead());
     ADD_FAILURE() << part.toStdString() << " is not in the log:\n" << m_log.toStdString();
   }
-  /// How it ended; waits for the end.
+  /// Waits for the end and returns the exit status.
   int code() {
     EXPECT_TRUE(waitForFinished()) << errorString().toStdString();
     return exitStatus() == NormalExit ? exitCode() : -1;
@@ -148,17 +149,17 @@ class RunningPrinter : public DemoProcess {
     EXPECT_FALSE(m_places.isEmpty()) << log().toStdString();
   }
 
-  /// Where it says it is: "server", "folders" and so on.
+  /// The places that it prints: "server", "folders" and so on.
   QString place(const QString& name) const { return m_places.value(name).toString(); }
   QStringList printouts() const { return QDir(place(u"output"_s)).entryList(QDir::Files); }
-  /// Its jobs, as it lists them in JSON.
+  /// Its jobs, from its list in JSON.
   QByteArray jobs() const {
     DemoProcess jobs(m_folder, builtProgram("kesto-demo-printer"),
                      {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s), u"--json"_s});
     EXPECT_EQ(jobs.code(), 0);
     return jobs.readAllStandardOutput().trimmed();
   }
-  /// How the program ends that is to release a job.
+  /// The exit status of the program that releases a job.
   int release(const QStringList& arguments) const {
     DemoProcess release(m_folder, builtProgram("kesto-demo-printer"),
                         QStringList{u"release"_s, u"--dir"_s, m_folder.path(u"run"_s)} + arguments);

@@ -4,7 +4,7 @@
 
 namespace {
 
-// What the offscreen platform says of itself is nothing about the dialog.
+// Messages of the offscreen platform are not about the dialog.
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   if (message.startsWith(QLatin1String("This plugin does not support"))) return;
   kesto::test::ExpectedWarning::handleMessage(type, context, message);

@@ -1,5 +1,4 @@
-// The printer's end of the folder exchange, in the test's own thread: the exchange runs the event loop that
-// serves it.
+// The printer's end of the folder exchange, in the test's own thread, where the exchange runs the event loop.
 #pragma once
 
 #include <sys/socket.h>
@@ -12,7 +11,7 @@
 
 namespace kesto::test {
 
-/// An answer as it goes over the wire.
+/// An answer as it is sent.
 inline QByteArray httpAnswer(const QByteArray& body, const QByteArray& status = "200 OK",
                              const QByteArray& headers = {}) {
   return "HTTP/1.1 " + status +
@@ -54,7 +53,7 @@ class FolderServer : public QTcpServer {
 
   QByteArray answer = httpAnswer(folders({"Art", "Maps*"}));
   End end = End::Close;
-  std::function<void()> onRequest;  ///< Called when a request has come whole, before the answer.
+  std::function<void()> onRequest;  ///< Called when a request is complete, before the answer.
   QList<QByteArray> requests;       ///< Heads and bodies, as received.
 
  private:
@@ -79,7 +78,8 @@ class FolderServer : public QTcpServer {
     if (end == End::Close) socket->disconnectFromHost();
     if (end == End::Reset) {
       socket->flush();
-      const linger atOnce{.l_onoff = 1, .l_linger = 0};  // else closing ends the connection in order
+      const linger atOnce{.l_onoff = 1,
+                          .l_linger = 0};  // otherwise closing would end the connection in order
       EXPECT_EQ(::setsockopt(static_cast<int>(socket->socketDescriptor()), SOL_SOCKET, SO_LINGER, &atOnce,
                              sizeof atOnce),
                 0);

@@ -1,4 +1,4 @@
-// A buffer whose surroundings tell when something was written past it.
+// A buffer whose surroundings show when something was written beyond it.
 #pragma once
 
 #include <algorithm>

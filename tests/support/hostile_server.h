@@ -1,4 +1,4 @@
-// A print server that goes wrong at one operation, in threads of its own.
+// A print server that misbehaves at one operation, in threads of its own.
 #pragma once
 
 #include <netinet/in.h>
@@ -15,16 +15,15 @@
 
 namespace kesto::test {
 
-/// What a server sends in place of a reply: first once, then the same for ever or, with nothing to repeat,
-/// nothing more.
+/// What a server sends instead of a reply: one part once, then another for ever, if there is one.
 struct Misbehaviour {
   QByteArray once{};
   QByteArray again{};
   std::chrono::milliseconds pause{0};  ///< before each repetition
-  bool closes = false;                 ///< instead of staying
+  bool closes = false;                 ///< instead of staying open
 };
 
-/// Answers requests in IPP well, with a job's number, but for one operation.
+/// Answers IPP requests correctly, with a job's number, except for one operation.
 class HostileServer {
  public:
   static constexpr int atConnect = -1;
@@ -46,7 +45,7 @@ class HostileServer {
   ~HostileServer() {
     m_isOver = true;
     ::shutdown(m_listener, SHUT_RDWR);
-    m_threads.front().join();  // now nobody adds another
+    m_threads.front().join();  // after this no thread is added
     for (const int client : m_clients)
       ::shutdown(client, SHUT_RDWR);
     for (std::size_t i = 1; i < m_threads.size(); ++i)
@@ -59,7 +58,7 @@ class HostileServer {
   HostileServer& operator=(const HostileServer&) = delete;
 
   QString address() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
-  /// Whether it has gone wrong yet.
+  /// Whether it has misbehaved yet.
   bool hasMisbehaved() const { return m_hasMisbehaved; }
 
  private:
@@ -133,8 +132,8 @@ class HostileServer {
   int m_port = 0;
   std::atomic<bool> m_isOver = false;
   std::atomic<bool> m_hasMisbehaved = false;
-  std::vector<int> m_clients;          // of the accepting thread
-  std::vector<std::thread> m_threads;  // the accepting one first, which adds the others
+  std::vector<int> m_clients;          // used by the accepting thread
+  std::vector<std::thread> m_threads;  // the first accepts connections and adds the others
 };
 
 }  // namespace kesto::test

@@ -1,4 +1,4 @@
-// The real kesto-lp, run for a queue and a user of its own.
+// The real kesto-lp, with a private queue and user.
 #pragma once
 
 #include "platform/json_user_defaults.h"
@@ -7,14 +7,14 @@
 
 namespace kesto::test {
 
-/// How a run ended and what it printed.
+/// The exit status and the output of a run.
 struct LpRun {
   int code = -1;
   QString out;
   QString err;
 
-  /// The values printed for some keys, given by their last components with or without a value, as
-  /// "key=value"; the key alone when it is absent.
+  /// The printed values of some keys as "key=value", or the key alone when it is absent. The keys are given
+  /// by their last components, with or without a value.
   QString values(const QString& pattern) const {
     QStringList values = pattern.split(u' ');
     for (QString& value : values) {
@@ -30,7 +30,7 @@ struct LpRun {
 /// The lines of a PPD whose queue offers Job Handling.
 inline const QByteArray ppdOfJobHandling = ppdOfModel + "*APDialogExtension: \"/Library/JobHandling.pde\"\n";
 
-/// What kesto-lp says of --folder.
+/// The warning of kesto-lp about --folder.
 inline const QString unfiled =
     u"kesto-lp: warning: --folder has no effect: this printer files no documents\n"_s;
 
@@ -38,7 +38,7 @@ class LpTest : public testing::Test {
  protected:
   explicit LpTest(const QByteArray& ppdLines = ppdOfJobHandling) : m_ppd(ppdLines) {}
 
-  /// A process ready to start. `arguments` as a shell would split them; "{}" is an empty one.
+  /// A process that is ready to start. `arguments` are split as by a shell; "{}" is an empty one.
   std::unique_ptr<QProcess> process(const QString& arguments) const {
     auto process = std::make_unique<QProcess>();
     process->setProcessEnvironment(m_environment);
@@ -65,7 +65,7 @@ class LpTest : public testing::Test {
   LpRun dryRun(const QString& arguments, const QByteArray& input = {}) const {
     return run(dry(arguments), input);
   }
-  /// A dry run that fails, and says so in JSON as well.
+  /// Expects a dry run to fail, with the same message in JSON.
   void expectFailure(const QString& arguments, int code, const QString& message) const {
     const LpRun run = dryRun(arguments);
     EXPECT_EQ(run.code, code) << arguments;
@@ -80,7 +80,7 @@ class LpTest : public testing::Test {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
   }
   JsonUserDefaults preferences() const { return JsonUserDefaults(m_folder.path(u"kesto"_s)); }
-  /// The folder that the preset "p" of a queue has.
+  /// The folder in a queue's preset "p".
   QByteArray presetFolder(const QString& queue) const {
     const QJsonValue presets =
         preferences().persistentDomainForName(u"kesto.presets."_s + queue).values->value(u"Presets"_s);

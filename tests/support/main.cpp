@@ -3,7 +3,7 @@
 #include "tests/support/warnings.h"
 
 int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);  // for what is found beside the program
+  const QCoreApplication application(argc, argv);  // for files that are found beside the program
   testing::InitGoogleMock(&argc, argv);
   qInstallMessageHandler(kesto::test::ExpectedWarning::handleMessage);
   return RUN_ALL_TESTS();

@@ -1,4 +1,4 @@
-// A user who tries every control of a panel once, in the order of the layout.
+// A simulated user who tries every control of a panel once, in the order of the layout.
 #pragma once
 
 #include "panel/model/button.h"
@@ -9,7 +9,7 @@
 
 namespace kesto::fuzz {
 
-/// Clicks, chooses and types as far as the controls let it; never asks a printer for its folders.
+/// Clicks, chooses and types where the controls allow it; never asks a printer for its folders.
 inline void useEveryControl(const PanelView& view) {
   for (Control* control : view.controls()) {
     if (control->action() == u"getFolderNameButtonProc:") continue;

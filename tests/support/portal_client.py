@@ -2,7 +2,7 @@
 """Prints numbered pages with GTK, as an application does.
 
 usage: portal_client.py '{"pages": 4, "settings": {"n-copies": "3"}}'
-Tells the end on one line of JSON: the operation's result and the settings that an application would save.
+Prints the result on one line of JSON: that of the operation, and the settings that an application would save.
 """
 import json
 import sys

@@ -1,5 +1,5 @@
-// Stands in for the dialog that kesto-portal starts: a test at the other end of a local socket plays its
-// user. It passes on what comes from the service, one JSON object a line, and does what the test says in
+// Replaces the dialog that kesto-portal starts. A test at the other end of a local socket plays the user:
+// this program passes on what the service sends, one JSON object a line, and does what the test says in
 // return.
 #include <unistd.h>
 

@@ -1,4 +1,4 @@
-// kesto-lp at the demo printer: the real scheduler, the queue's filter, and the printer behind it.
+// kesto-lp with the demo printer: the real scheduler, the queue's filter and the printer.
 #pragma once
 
 #include "hosts/cups/print_job.h"
@@ -20,7 +20,7 @@ class PrintTest : public LpTest {
                       QStringList{u"--port"_s, u"0"_s, u"--folders"_s, m_folder.path(u"folders"_s)});
   }
 
-  // kesto-lp for the demo printer's server; "DOCUMENT" and "SECOND" stand for files.
+  // kesto-lp for the demo printer's server; "DOCUMENT" and "SECOND" are replaced by files.
   QString command(QString arguments) const {
     for (const QString& file : {u"DOCUMENT"_s, u"SECOND"_s})
       arguments.replace(file, m_folder.path(file.toLower()));
@@ -44,7 +44,7 @@ class PrintTest : public LpTest {
     EXPECT_EQ(refused.out, QString()) << arguments;
   }
 
-  // A program of the print system, at this scheduler.
+  // A program of the print system, for this scheduler.
   QString ofPrintSystem(const QString& command) const {
     QStringList arguments = QProcess::splitCommand(command);
     const QString name = arguments.takeFirst();
@@ -63,7 +63,7 @@ class PrintTest : public LpTest {
     ofPrintSystem(u"/usr/sbin/lpadmin -p %1 -E -v socket://127.0.0.1:9"_s.arg(name) + ppd);
   }
 
-  // What the scheduler answers about a job; it believes everybody's name.
+  // The scheduler's answer about a job; it believes any user name.
   Ipp attributesOfJob(const char* user, int job = 1) const {
     std::unique_ptr<PrintServer> server;
     EXPECT_TRUE(PrintServer::connect(m_printer->place(u"server"_s), std::chrono::seconds(5), &server));
@@ -76,7 +76,7 @@ class PrintTest : public LpTest {
     return reply;
   }
 
-  // Has the queue's filter write its arguments down before it does its work.
+  // Makes the queue's filter record its arguments before it does its work.
   void recordFilter() const {
     const QString filter = m_folder.path(u"run/cups/bin/filter/kesto-demo-filter"_s);
     ASSERT_TRUE(QFile::rename(filter, m_folder.path(u"run/cups/bin/filter/recorded"_s)));

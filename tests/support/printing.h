@@ -1,4 +1,4 @@
-// How tests write the values of Qt, and how failures show them.
+// How tests write Qt's values, and how failures show them.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -28,7 +28,7 @@ namespace kesto::test {
 
 using namespace Qt::StringLiterals;
 
-/// A text that tables may give as a plain literal, in UTF-8; null for a null pointer.
+/// A text that tables can contain as a plain UTF-8 literal; null for a null pointer.
 struct Text : QString {
   Text(const char* utf8) : QString(utf8 == nullptr ? QString() : QString::fromUtf8(utf8)) {}
   Text(const QString& text) : QString(text) {}

@@ -1,4 +1,4 @@
-// A host's double, with a printer of its own, and the PPD that it lends.
+// A double of the host with its own printer, and the PPD that it lends.
 #pragma once
 
 #include <QtCore/QFile>
@@ -14,7 +14,7 @@ namespace kesto::test {
 /// Lines of a PPD that name encoding and model.
 inline const QByteArray ppdOfModel = "*LanguageEncoding: ISOLatin1\n*ModelName: \"KESTO VQ-250n\"\n";
 
-/// A small PPD in a folder of its own, opened.
+/// A small open PPD in a private folder.
 class PpdFixture {
  public:
   /// `lines` follow the first line of the file.
@@ -50,11 +50,11 @@ class TestHost : public HostCallback {
   /// The value under a key, null when it is absent.
   QString value(const Text& key) const { return settings->value(prefix + key).value_or(QString()); }
   void put(const Text& key, const std::optional<QString>& value) { settings->setValue(prefix + key, value); }
-  /// Puts "key=value key=value"; values hold no blanks.
+  /// Sets "key=value key=value"; values contain no blanks.
   void put(const Text& values) {
     forEachValue(values, [&](const QString& key, const QString& value) { put(key, value); });
   }
-  /// Expects "key=value key="; nothing behind "=" asks for an absent key.
+  /// Expects "key=value key="; without a value the key must be absent.
   void expect(const Text& values) const {
     forEachValue(values, [&](const QString& key, const QString& wanted) {
       EXPECT_EQ(value(key), wanted.isEmpty() ? QString() : wanted) << key;

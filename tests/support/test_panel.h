@@ -1,4 +1,4 @@
-// Panels for tests: the whole controller on its double of a host, or its groups one by one.
+// Panels for tests: the whole controller with a double of the host, or single groups.
 #pragma once
 
 #include "panel/layout_loader.h"
@@ -21,7 +21,7 @@ class TestController : public KestoPrintPdeVq250nJC {
   bool isVelko = false;
 };
 
-/// A panel with the host, the printer and the PPD that it works for.
+/// A panel with its host, printer and PPD.
 struct TestPanel {
   explicit TestPanel(TestPlatform& platform, const QByteArray& ppdLines = ppdOfModel)
       : ppd(ppdLines), host(platform) {
@@ -39,7 +39,7 @@ struct TestPanel {
   std::unique_ptr<TestController> controller;
 };
 
-/// A model of printer without a panel of its own.
+/// A model of printer that has no panel.
 struct TestModel : CapabilityQueries {
   int getUIMode() const override { return 6; }
   bool CheckHardDisk() const override { return hasHardDisk; }

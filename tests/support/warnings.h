@@ -7,7 +7,8 @@
 
 namespace kesto::test {
 
-/// While it lives, warnings that contain a text are expected; at its end there must have been one.
+/// While it exists, warnings that contain a text are expected; when it is destroyed, there must have been
+/// one.
 class ExpectedWarning {
  public:
   explicit ExpectedWarning(Text part) : m_part(std::move(part)) { all.push_back(this); }
