@@ -299,7 +299,7 @@ TEST(SoapClient, CancelledIsCancelledInEveryState) {
   }
 }
 
-TEST(SoapClient, WithoutADescriptorForTheConnectionNobodyIsTold) {
+TEST(SoapClient, WithoutADescriptorForTheConnectionNobodyIsNotified) {
 #ifdef __SANITIZE_ADDRESS__
   GTEST_SKIP() << "the sanitizer needs a descriptor to look at an object";
 #endif

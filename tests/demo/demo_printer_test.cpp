@@ -87,7 +87,7 @@ TEST_F(DemoPrinterTest, HasAQueueWhosePpdNamesTheBundle) {
   EXPECT_TRUE(socket.readAll().contains("*APDialogExtension: \"JobHandling.pde\""));
 }
 
-TEST_F(DemoPrinterTest, TellsWhatItCannotDo) {
+TEST_F(DemoPrinterTest, ReportsWhatItCannotDo) {
   m_folder.write(u"bad-pin"_s, "4711x\n");
   ASSERT_TRUE(QFile::link(u"/tmp"_s, m_folder.path(u"link"_s)));
   struct Case {
@@ -131,7 +131,7 @@ TEST_F(DemoPrinterTest, TellsWhatItCannotDo) {
       list.readAllStandardOutput().contains("\ntrickle           the answer comes at one byte a second\n"));
 }
 
-TEST_F(DemoPrinterTest, SpeaksToAPersonAsWell) {
+TEST_F(DemoPrinterTest, PrintsTextForPeopleAsWell) {
   DemoProcess printer(m_folder, builtProgram("kesto-demo-printer"),
                       {u"--dir"_s, m_folder.path(u"run"_s), u"--folder-port"_s, u"0"_s});
   const QByteArray server = printer.readOutLine();
@@ -207,7 +207,7 @@ TEST_F(DemoPrinterTest, ShowsAJobsOptionsToItsOwnerAlone) {
   EXPECT_FALSE(seenBy("bert").contains("kesto") || seenBy("bert").contains("job-name"));
 }
 
-TEST_F(DemoPrinterTest, LetsNoJobCountAsPrintedThatItHasNotTaken) {
+TEST_F(DemoPrinterTest, CountsNoJobAsPrintedThatItHasRefused) {
   RunningPrinter printer(m_folder);
   QLocalSocket other;
   other.connectToServer(m_folder.path(u"run/sockets/printer"_s));
@@ -231,7 +231,7 @@ TEST_F(DemoPrinterTest, LeavesNothingBehind) {
   EXPECT_FALSE(QDir(m_folder.path(u"run"_s)).exists());
 }
 
-TEST_F(DemoPrinterTest, StartsWhereOneWasEndedHard) {
+TEST_F(DemoPrinterTest, StartsWhereAnotherWasKilled) {
   RunningPrinter first(m_folder);
   send(first, u"jobSuspend=2"_s);
   first.waitForLog("held");
@@ -250,7 +250,7 @@ TEST_F(DemoPrinterTest, StartsWhereOneWasEndedHard) {
   EXPECT_EQ(third.jobs(), "[]");
 }
 
-TEST_F(DemoPrinterTest, TakesNoFolderOfOthers) {
+TEST_F(DemoPrinterTest, RefusesFoldersWithOtherFiles) {
   DemoProcess printer(m_folder, builtProgram("kesto-demo-printer"), {u"--dir"_s, m_folder.path(u""_s)});
   EXPECT_EQ(printer.code(), 1);
   EXPECT_TRUE(printer.log().contains("holds other files"));
@@ -316,7 +316,7 @@ struct LonePrinter {
       bool(m_printer.listen(m_folder.path(u"printer"_s))) && QDir().mkdir(m_folder.path(u"output"_s));
 };
 
-TEST(PrinterTest, TakesNothingButWholeJobs) {
+TEST(PrinterTest, AcceptsOnlyCompleteJobs) {
   const QByteArray ticket = "@KESTO job=7\n@KESTO user=anna\n\n";
   const QByteArray whole = ticket + "3\nabc0\n";
   const QByteArray noFormat = "refused: not the filter's format\n";
@@ -340,7 +340,7 @@ TEST(PrinterTest, TakesNothingButWholeJobs) {
   }
 }
 
-TEST(PrinterTest, SaysWhenItDoesNotTakeAJob) {
+TEST(PrinterTest, ReportsAJobThatItRefuses) {
   LonePrinter printer;
   const auto job = [](const QByteArray& user) {
     return "@KESTO job=7\n@KESTO user=" + user + "\n\n3\nabc0\n@END\n";

@@ -41,7 +41,7 @@ TEST_F(LpEntries, EveryEntryMakesItsKeys) {
   }
 }
 
-TEST_F(LpEntries, TheLimitIsTakenAndOneMoreIsNot) {
+TEST_F(LpEntries, AcceptsTheLimitButNotOneMore) {
   const std::tuple<QString, int, QString> cases[] = {
       {u"pin"_s, 8, u"digits"_s},           {u"folder-pin"_s, 8, u"digits"_s},
       {u"user-number"_s, 5, u"digits"_s},   {u"account-number"_s, 5, u"digits"_s},
@@ -58,7 +58,7 @@ TEST_F(LpEntries, TheLimitIsTakenAndOneMoreIsNot) {
   }
 }
 
-TEST_F(LpEntries, WhatIsRefusedIsToldWithItsReasonAndWithoutSecrets) {
+TEST_F(LpEntries, RefusalsGiveAReasonAndNoSecrets) {
   const QString needsFolder = u" needs --folder NAME of a folder with a pass code, or a custom folder"_s;
   const std::tuple<QString, int, QString> cases[] = {
       {u"--pin 1"_s, 3, u"--pin needs --hold"_s},

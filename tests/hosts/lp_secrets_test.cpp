@@ -41,7 +41,7 @@ TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
   EXPECT_EQ(dryRun(u"--password-file /"_s).err, u"kesto-lp: --password-file: Is a directory\n"_s);
 }
 
-TEST_F(LpSecrets, NoMessageTellsThem) {
+TEST_F(LpSecrets, NoMessageContainsThem) {
   for (const auto& arguments :
        {u"--pin-file -"_s, u"--hold only --folder X --folder-pin-file -"_s,
         u"--hold after --pin-file - --folder quick"_s, u"--hold only --pin 471147114711"_s}) {
@@ -141,7 +141,7 @@ TEST_F(LpAtATerminal, AnswersWithoutShowingThem) {
   expectEcho(true, 0);
 }
 
-TEST_F(LpAtATerminal, AProgramThatGoesLeavesItItsEcho) {
+TEST_F(LpAtATerminal, TheEchoIsRestoredHoweverAProgramEnds) {
   for (const int signal : {SIGTERM, SIGALRM, SIGSEGV, SIGKILL}) {
     const auto lp = ask();
     expectEcho(false, 0);

@@ -93,7 +93,7 @@ TEST_F(PanelProcess, StartsFromTheSettingsOfAFile) {
 }
 
 #ifndef NDEBUG
-TEST_F(PanelProcess, ItsTraceTellsTheCallsAndNoSecret) {
+TEST_F(PanelProcess, ItsTraceShowsCallsAndNoSecret) {
   qputenv("QT_LOGGING_RULES", "kesto.pde.debug=true");
   const auto process = startPanel();
   qunsetenv("QT_LOGGING_RULES");

@@ -62,7 +62,7 @@ TEST_F(ChannelTest, CarriesADescriptorWithOneOwner) {
   EXPECT_EQ(::fcntl(m_lastNumber, F_GETFD), -1) << "a descriptor that nobody took is open";
 }
 
-TEST_F(ChannelTest, RefusesWhatIsTooMuchInsteadOfWaiting) {
+TEST_F(ChannelTest, RefusesTooLargeMessagesInsteadOfWaiting) {
   send(messageOfSize(PrintChannel::largestMessage));
   EXPECT_FALSE(m_near->send(messageOfSize(PrintChannel::largestMessage + 1)));
   int sent = 1;
@@ -77,7 +77,7 @@ TEST_F(ChannelTest, RefusesWhatIsTooMuchInsteadOfWaiting) {
   EXPECT_FALSE(m_far->send({})) << "closed, and yet it sends";
 }
 
-TEST_F(ChannelTest, EndsAtWhatIsNoMessage) {
+TEST_F(ChannelTest, EndsAtAnInvalidMessage) {
   const QByteArray cases[] = {"",
                               "{",
                               "[]",

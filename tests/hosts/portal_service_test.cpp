@@ -185,7 +185,7 @@ TEST_F(PortalServiceTest, AsksAndHandsTheDocumentOn) {
   expectAnotherDialog(token);
 }
 
-TEST_F(PortalServiceTest, ATokenThatIsNotGoodOpensAnotherDialogAndSpendsNoOther) {
+TEST_F(PortalServiceTest, AnInvalidTokenOpensAnotherDialogAndUsesNoOtherUp) {
   uint good = 0;
   Dialog chosen = chosenDialog(&good);
   for (const QVariant& token : {QVariant(), QVariant(0U), QVariant(good ^ 1U), QVariant(u"text"_s)})
@@ -326,7 +326,7 @@ TEST_F(PortalServiceTest, AServiceThatCannotStartSaysWhy) {
   expectEnd({}, 1, "kesto-portal: there is no session bus: ");
 }
 
-TEST(PortalDialog, ItsEnvironmentLeadsNotBackToThePortal) {
+TEST(PortalDialog, ItsEnvironmentDoesNotLeadBackToThePortal) {
   const QString variable = u"QT_QPA_PLATFORMTHEME"_s;
   for (const auto& [given, kept] : Cases{{"gtk3", "gtk3"},
                                          {"xdgdesktopportal", nullptr},

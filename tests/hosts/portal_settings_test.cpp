@@ -45,7 +45,7 @@ TEST(PortalSettings, AChoiceIsPresetFromTheClientsSettings) {
       "Orientation":"portrait"})"));
 }
 
-TEST(PortalSettings, WhatIsNoSenseIsTheDefault) {
+TEST(PortalSettings, MeaninglessValuesBecomeTheDefault) {
   const auto asked = [](const char* key, const QString& value) {
     return choiceAskedFor({{QLatin1String(key), value}}, {});
   };

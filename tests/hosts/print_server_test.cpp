@@ -89,7 +89,7 @@ TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
   EXPECT_EQ(kept(), u"holdButton=1 jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E p"_s);
 }
 
-TEST_F(PrintTest, WhatCannotBeKeptOfAJobIsTold) {
+TEST_F(PrintTest, ReportsWhatCannotBeKeptOfAJob) {
   ASSERT_TRUE(store(preferences(), {{u"Presets"_s, u"x"_s}}, u"kesto.presets.Office_MFP"_s));
   expectRefused(u"DOCUMENT --save-preset p"_s, 1,
                 u"the presets of this queue are damaged and left as they are"_s);
@@ -189,7 +189,7 @@ TEST_F(PrintTest, ListsQueues) {
   EXPECT_EQ(run(encrypted).out, office);
 }
 
-TEST_F(PrintTest, ListsFoldersAndKeepsNobodyElses) {
+TEST_F(PrintTest, ListsFoldersAndKeepsOnlyItsOwn) {
   const QString saved = u"--dry-run --hold only --save-preset p --folder invoices"_s;
   EXPECT_EQ(lp(saved).code, 0);
   EXPECT_EQ(presetFolder(u"Office_MFP"_s), "invoices") << "it is not known yet";
@@ -397,7 +397,7 @@ TEST(HostilePrintServer, AHandshakeEndsToo) {
 }
 
 // Answers that are whole and well-formed, and not what was to be known.
-TEST_F(LpTest, AnAnswerWithoutWhatWasAskedIsNoGoodOne) {
+TEST_F(LpTest, AnAnswerWithoutWhatWasAskedIsAFault) {
   const auto reply = [](const QByteArray& status, const QByteArray& attributes) {
     const QByteArray ipp = "\2\0"_ba + status + "\0\0\0\1"_ba + attributes + '\3';
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(ipp.size()) + "\r\n\r\n" + ipp;
