@@ -13,7 +13,7 @@
 
 namespace kesto {
 
-/// Listens and answers every request with its folders, or misbehaves as it is told to. Each connection
+/// Listens and answers every request with its folders, or misbehaves in the chosen way. Each connection
 /// carries one request and one answer. Requests and faults are logged.
 class FolderService : public QObject {
   Q_OBJECT

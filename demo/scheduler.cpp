@@ -33,7 +33,7 @@ constexpr std::chrono::seconds startLimit{15};
 constexpr int stopLimitMs = 10'000;
 constexpr char systemServerBin[] = "/usr/lib/cups";
 
-constexpr char serverConfiguration[] = R"(# Written anew at every start of the demo printer.
+constexpr char serverConfiguration[] = R"(# Rewritten at every start of the demo printer.
 LogLevel warn
 # A failed job's history would hold its options, and its digest with them.
 LogDebugHistory 0
@@ -70,13 +70,13 @@ DefaultPolicy demo
 </Location>
 
 <Policy demo>
-  # What a job's options tell, its name with them, is for who sent it and for the printer's owner.
+  # A job's name and options are visible only to its sender and to the printer's owner.
   JobPrivateAccess @OWNER @OWNERNAME@
   JobPrivateValues all
   SubscriptionPrivateAccess @OWNER @OWNERNAME@
   SubscriptionPrivateValues all
 
-  # What a user needs to find the queue and to send and follow jobs of the own.
+  # What a user needs to find the queue, and to send and follow their own jobs.
   <Limit Create-Job Print-Job Validate-Job Get-Jobs Get-Job-Attributes Get-Printer-Attributes CUPS-Get-Default CUPS-Get-Printers CUPS-Get-Classes CUPS-Get-PPD Create-Printer-Subscriptions Create-Job-Subscriptions>
     Order deny,allow
   </Limit>
@@ -94,7 +94,7 @@ DefaultPolicy demo
 </Policy>
 )";
 
-constexpr char fileConfiguration[] = R"(# Written anew at every start of the demo printer.
+constexpr char fileConfiguration[] = R"(# Rewritten at every start of the demo printer.
 User @USER@
 Group @GROUP@
 SystemGroup root
@@ -112,7 +112,7 @@ LogFilePerm 0600
 FatalErrors config listen permissions
 )";
 
-constexpr char queueConfiguration[] = R"(# Written anew at every start of the demo printer.
+constexpr char queueConfiguration[] = R"(# Rewritten at every start of the demo printer.
 <DefaultPrinter @QUEUE@>
 Info Kesto VQ-250n (demo)
 MakeModel KESTO VQ-250n PS

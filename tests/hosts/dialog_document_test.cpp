@@ -1,4 +1,4 @@
-// A document before it is printed: how it comes, what of it is shown, and which pages are asked for.
+// A document before it is printed: how it arrives, what the preview shows, and which pages are chosen.
 #include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
@@ -30,7 +30,7 @@ class DialogDocument : public testing::Test {
   QByteArray bytes(std::size_t file = 0) const {
     return bytesOf(QString::fromLatin1(m_document.files().at(file).path));
   }
-  // The end to read of a pipe that is written and closed.
+  // The reading end of a pipe that was written and closed.
   static Descriptor pipeOf(const QByteArray& bytes) {
     std::array<int, 2> ends{};
     EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
@@ -53,7 +53,7 @@ TEST_F(DialogDocument, WhatCanBeReadIsOfferedAndTheRestNamed) {
   m_document.openFiles(
       {path(u"missing"_s), odd, path(u"empty"_s), piped, path(u""_s), "/proc/self/comm", path(u"fifo"_s)});
   EXPECT_EQ(m_document.state(), State::Reading);
-  const int writer = ::open(path(u"fifo"_s).constData(), O_WRONLY | O_CLOEXEC);  // and now it has one
+  const int writer = ::open(path(u"fifo"_s).constData(), O_WRONLY | O_CLOEXEC);  // and now it has a writer
   EXPECT_EQ(::write(writer, "late", 4), 4);
   ::close(writer);
   awaitState(State::Ready);
@@ -158,7 +158,7 @@ TEST(DialogPages, AreRangesInRisingOrderThatDoNotOverlap) {
 class DialogPreview : public DialogDocument {
  protected:
   DialogPreview() { m_preview.QWidget::show(); }
-  // The sheet once what is wanted is on it.
+  // The sheet when the wanted picture is on it.
   QImage sheet(const QString& what = u"Preview of the page"_s) {
     EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isSettled(); }, u"the page"_s));
     return widgetNamed(m_preview, what)->grab().toImage();
@@ -184,7 +184,7 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
   forward->click();
   EXPECT_FALSE(forward->isEnabled());
   back->click();
-  qputenv("LC_ALL", "ja_JP.UTF-8");  // where other fonts are preferred
+  qputenv("LC_ALL", "ja_JP.UTF-8");  // a locale with other preferred fonts
   back->click();
   EXPECT_EQ(sheet(), first);
   qunsetenv("LC_ALL");
@@ -221,7 +221,7 @@ TEST_F(DialogPreview, WhatCannotBePrintedIsSaidInItsPlace) {
       {{plain, locked}, "locked.pdf: The document is protected by a password"},
       {{{folder + "no-pages.pdf"}}, "The document has no pages."},
       {{{QFile::encodeName(m_folder.path(u"empty"_s))}}, "The document has no pages."},
-      {{plain}, ""},  // damaged, but perhaps not for the printer
+      {{plain}, ""},  // damaged, but the printer may be able to read it
   };
   for (const auto& [files, fault] : cases) {
     SCOPED_TRACE(files.back().path.toStdString());
@@ -257,7 +257,7 @@ TEST_F(DialogPreview, AProgramIsBoundedInTimeAndMemory) {
 #endif
 }
 
-// The process that a program has written to a file.
+// The number of the process that a program has written to a file.
 bool isAlive(const QByteArray& process) {
   QFile file(u"/proc/%1/stat"_s.arg(QLatin1String(process.trimmed())));
   return file.open(QIODevice::ReadOnly) && !file.readAll().contains(") Z ");

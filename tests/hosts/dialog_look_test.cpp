@@ -1,5 +1,5 @@
-// How the dialog looks in a language and at a scale: everything inside its place, whole and named. Pictures
-// of all pages go to the build's folder "screenshots".
+// How the dialog looks in a language and at a scale: every text fits and every widget is named. Pictures of
+// all pages are saved in the build's folder "screenshots".
 #include <QtCore/QDir>
 #include <QtGui/QAccessible>
 #include <QtGui/QKeySequence>
@@ -23,7 +23,7 @@
 namespace kesto::test {
 namespace {
 
-// The parts of a combined widget are its own affair.
+// The inner parts of a combined widget are not checked.
 bool isPart(const QWidget& widget) {
   const QWidget* parent = widget.parentWidget();
   if (parent == nullptr) return false;
@@ -111,7 +111,7 @@ void expectMnemonics(const QWidget& window) {
   }
 }
 
-// The labels before the fields of a pane: how they end, and where.
+// The labels before the fields of a pane: their last characters and positions.
 void expectAligned(const QWidget& pane) {
   QSet<int> ends;
   for (const auto* label : pane.findChildren<QLabel*>()) {

@@ -1,4 +1,4 @@
-// The panel in widgets: what a user does with keys and mouse, in the controls and in the job's settings.
+// The panel in widgets: the effect of keys and mouse on the controls and on the job's settings.
 #include <QtCore/QMimeData>
 #include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
@@ -146,7 +146,7 @@ TEST_F(DialogPane, EveryWayToEditGoesThroughTheFilter) {
     if (isUsers) {
       ASSERT_TRUE(m_user.click(name));
       line->end(false);
-      line->setEchoMode(QLineEdit::Normal);  // nothing is undone in a field that hides its text
+      line->setEchoMode(QLineEdit::Normal);  // a field that hides its text has no undo
     }
     const QWidget* focused = m_window.focusWidget();
     edit.edit(*line, edit.given);
@@ -174,7 +174,7 @@ TEST_F(DialogPane, AHoldButtonLocksItsField) {
   EXPECT_NE(button->grab().toImage(), open);
   ASSERT_TRUE(DialogUser::waitUntil([&] { return !line->toolTip().isEmpty(); }, u"the reason"_s));
   EXPECT_TRUE(button->accessibleDescription().startsWith(u"On"_s));
-  // By its key, too: Alt and Shift with the letter of the field.
+  // With its key as well: Alt and Shift with the letter of the field.
   QTest::keySequence(&m_window, button->shortcut());
   ASSERT_TRUE(DialogUser::waitUntil([&] { return line->isEnabled(); }, u"the lock to open"_s));
   EXPECT_TRUE(line->hasFocus()) << "an opened field takes the focus";
@@ -268,7 +268,7 @@ TEST_F(DialogPane, AssistiveTechnologyGoesThroughTheRules) {
   auto* items = m_window.widget<QComboBox>(u"folderSelectionPopup"_s);
   const auto* rows = m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s);
   turnRetentionOn();
-  // A caret that was moved without the focus is where the next key goes.
+  // The next key goes to a caret that was moved without the focus.
   auto* line = m_window.widget<QLineEdit>(u"jobNameEditText"_s);
   line->setCursorPosition(0);
   accessible(line).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
@@ -298,7 +298,7 @@ TEST_F(DialogPane, TabsAndProgressFollow) {
 
 TEST_F(DialogPane, ATipSaysWhyAControlIsDimmed) {
   const auto expectTips = [&](const QString& tips) {
-    QCoreApplication::processEvents();  // tips follow once a moment is over
+    QCoreApplication::processEvents();  // tool tips follow after the current events
     forEachValue(tips, [&](const QString& name, const QString& part) {
       const QString tip = m_window.widget(name)->toolTip().replace(u' ', u'_');
       EXPECT_TRUE(part.isEmpty() ? tip.isEmpty() : tip.contains(part)) << name << ": " << tip;

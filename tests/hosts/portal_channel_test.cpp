@@ -1,4 +1,4 @@
-// The channel between the portal's service and its dialog: what it carries, and what ends it.
+// The channel between the portal's service and its dialog: which messages it carries, and what ends it.
 #include <fcntl.h>
 #include <sys/socket.h>
 
@@ -10,7 +10,7 @@
 namespace kesto::test {
 namespace {
 
-// Two ends; what arrives at the far one is kept.
+// Two ends; messages that arrive at the far one are kept.
 class ChannelTest : public testing::Test {
  protected:
   ChannelTest() {

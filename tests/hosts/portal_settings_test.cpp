@@ -1,4 +1,4 @@
-// What the dialog starts from, and what a client of the portal gets back for a choice.
+// What the dialog starts with, and what a client of the portal gets back for a choice.
 #include <QtCore/QJsonObject>
 
 #include "hosts/channel/portal_settings.h"
@@ -15,7 +15,7 @@ const QJsonObject a4 =
     json(R"({"PPDName":"A4", "DisplayName":"A4", "Width":210, "Height":297, "MarginTop":6.35,
     "MarginBottom":14.224, "MarginLeft":6.35, "MarginRight":6.35, "Orientation":"portrait"})");
 
-// An object of the texts of "key=value key=value".
+// An object with the texts of "key=value key=value".
 QJsonObject texts(const QString& notation) {
   QJsonObject object;
   forEachValue(notation, [&](const QString& key, const QString& value) { object.insert(key, value); });

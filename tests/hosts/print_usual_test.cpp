@@ -1,4 +1,4 @@
-// kesto-lp beside the print system's own command: the same command lines on the same scheduler.
+// kesto-lp compared with the print system's own command: the same command lines on the same scheduler.
 #include <QtCore/QRegularExpression>
 #include <QtCore/QThread>
 
@@ -7,13 +7,13 @@
 namespace kesto::test {
 namespace {
 
-// What a command line came to.
+// The result of a command line.
 struct Result {
   int code = -1;
   QString out;
   int job = 0;
   QMap<QString, QString> attributes{};
-  QList<QByteArray> arrived{};  // the backend's arguments, and the bytes that it got
+  QList<QByteArray> arrived{};  // the backend's arguments, and the bytes that it received
 };
 
 class BesideTheUsualCommand : public PrintTest {
@@ -35,7 +35,7 @@ class BesideTheUsualCommand : public PrintTest {
     }
   }
 
-  // A job that waits, or one that has ended.
+  // A waiting or finished job.
   int sentBefore(const QString& queue, bool isDone) const {
     const QString out =
         ofPrintSystem(u"lp -U anna -d %1 -H hold %2"_s.arg(queue, m_folder.path(u"second"_s)));
@@ -88,7 +88,7 @@ class BesideTheUsualCommand : public PrintTest {
     if (result.job > 0) result.attributes = attributesOf(result.job);
     return result;
   }
-  // Waits until the backend has had the job, and reads what it got.
+  // Waits until the backend has handled the job, and reads what it received.
   void readArrived(Result* result) const {
     if (!result->attributes[u"job-state"_s].startsWith(u"goes"_s)) return;
     const QString bytes = m_folder.path(u"run/cups/spool/tmp/bytes-%1"_s.arg(result->job));
@@ -104,8 +104,8 @@ class BesideTheUsualCommand : public PrintTest {
   }
 };
 
-// How kesto-lp differs: not at all; it refuses as wrong usage; it counts standard input as a file; or it does
-// what is stated.
+// How kesto-lp differs: not at all; by refusing the line as wrong usage; by counting standard input as a
+// file; or as stated.
 enum Difference { Same, Usage, Counts, Own };
 
 TEST_F(BesideTheUsualCommand, TheSameLinesComeToTheSame) {
@@ -157,7 +157,7 @@ TEST_F(BesideTheUsualCommand, TheSameLinesComeToTheSame) {
       {R"(-o "a=b c=d  nocollate" -o "e='f g' h=i\ j k=l,m" FILE)"},
       {"-o \"media-col={media-size={x-dimension=21000 y-dimension=29700} media-type=stationery}\" FILE"},
       {R"(-o "{media=A4}" -o "" -o x= FILE)"},
-      // Not alone: libcups loses the array whose only option it replaces.
+      // Not the only option, because libcups loses an array whose only option it replaces.
       {"-o media=A4 -o print-quality=5 -o cupsPrintQuality=Draft FILE"},
       {"-o media=A4 -o cupsPrintQuality=Draft -o print-quality=5 FILE"},
       {"-o number-up=none FILE"},
