@@ -6,7 +6,6 @@
 #include <sys/stat.h>
 
 #include <QtGui/QImage>
-#include <QtWidgets/QToolButton>
 
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/session/page_range.h"

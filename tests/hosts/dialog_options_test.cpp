@@ -1,7 +1,6 @@
 // What the dialog shows of a job's options, and what travels.
 #include <fcntl.h>
 
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QSpinBox>
 #include <array>
 

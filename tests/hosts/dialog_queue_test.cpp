@@ -1,10 +1,6 @@
 // The dialog and its print server: which printer is chosen, what is said of it, and how the program ends.
 #include <QtGui/QAccessible>
 #include <QtNetwork/QTcpServer>
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QToolButton>
 
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
@@ -266,22 +262,6 @@ TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
     EXPECT_TRUE(program.log().contains(error)) << arguments;
   }
   EXPECT_FALSE(QImage(m_folder.path(u"picture.png"_s)).isNull());
-}
-
-TEST(DialogOptions, AreReadAsTheManualSays) {
-  std::vector<std::string> words{"kesto-print", "-o",        "sides=one-sided number-up=2",
-                                 "a.pdf",       "--timeout", "0.5",
-                                 "b.ps",        "-o",        "number-up=4"};
-  std::vector<char*> arguments;
-  arguments.reserve(words.size());
-  for (std::string& word : words)
-    arguments.push_back(word.data());
-  PrintOptions options;
-  ASSERT_EQ(parsePrintOptions(static_cast<int>(arguments.size()), arguments.data(), &options), std::nullopt);
-  EXPECT_EQ(options.files, (QByteArrayList{"a.pdf", "b.ps"}));
-  EXPECT_EQ(options.jobOptions,
-            (QMap<QString, QString>{{u"sides"_s, u"one-sided"_s}, {u"number-up"_s, u"4"_s}}));
-  EXPECT_EQ(options.server.limit, std::chrono::milliseconds(500));
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
-// The scripted panel as a process of its own: its options, its answers, its log, its sudden death.
-#include <random>
-
+// The scripted panel as a process of its own: its options, its answers, its log.
 #include "tests/support/demo_process.h"
 #include "tests/support/test_host.h"
 
@@ -123,34 +121,6 @@ TEST_F(PanelProcess, ItsTraceShowsCallsAndNoSecret) {
     EXPECT_FALSE(trace.contains(secret)) << trace;
 }
 #endif
-
-// Each process is killed somewhere in a row of saves, in which user name and job name change together.
-TEST_F(PanelProcess, AKilledSaveLeavesTheOldRecordOrTheNew) {
-  QByteArray script;
-  for (const char* edit : {"type", "backspace"}) {
-    for (const char* name : {"userName", "jobName"})
-      script += QByteArray(R"({"do":")") + edit + R"(","control":")" + name + "EditText\",\"text\":\"x\"}\n";
-    script += R"({"do":"shouldPrint"})"
-              "\n";
-  }
-  std::mt19937 random(2024);
-  for (int kill = 0; kill < 12; ++kill) {
-    const auto process = startPanel();
-    ask(*process, R"({"do":"restore"})");
-    ask(*process, R"({"do":"caret","control":"userNameEditText","location":0,"length":255})");
-    ask(*process, R"({"do":"backspace","control":"userNameEditText"})");
-    process->write(script.repeated(15));
-    for (unsigned answers = 1 + random() % 50; answers > 0; --answers)
-      process->readOutLine();
-    process->signal(SIGKILL);
-    EXPECT_EQ(process->code(), -1);
-    const QByteArray file = bytesOf(m_folder.path(u"kesto/kesto.mfp.Office.json"_s));
-    const QJsonValue record = QJsonDocument::fromJson(file)[u"Job Handling"_s];
-    EXPECT_EQ(record[u"Release Number"_s], u"2.00"_s) << "kill " << kill;
-    EXPECT_EQ(record[u"user name"_s], record[u"job name"_s]) << "a record of both, in kill " << kill;
-  }
-  EXPECT_EQ(QDir(m_folder.path(u"kesto"_s)).entryList({u"*.damaged-*"_s}), QStringList());
-}
 
 }  // namespace
 }  // namespace kesto::test

@@ -4,8 +4,11 @@
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QToolButton>
 
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
