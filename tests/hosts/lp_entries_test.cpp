@@ -62,6 +62,9 @@ TEST_F(LpEntries, RefusalsGiveAReasonAndNoSecrets) {
   const QString needsFolder = u" needs --folder NAME of a folder with a pass code, or a custom folder"_s;
   const std::tuple<QString, int, QString> cases[] = {
       {u"--pin 1"_s, 3, u"--pin needs --hold"_s},
+      {u"--pin-file -"_s, 3, u"--pin needs --hold"_s},
+      {u"--hold only --pin-file -"_s, 3, u"--pin takes at most 8 digits"_s},
+      {u"--hold only --pin 471147114711"_s, 3, u"--pin takes at most 8 digits"_s},
       {u"--no-hold --folder X"_s, 3, u"--folder needs --hold"_s},
       {u"--hold after --folder quick --pin 1"_s, 3, u"--pin does not go with --folder quick"_s},
       {u"--hold only --folder quick"_s, 3, u"--folder quick goes only with --hold after"_s},
@@ -158,37 +161,6 @@ TEST_F(LpEntries, AFolderThatIsNotUsedIsNotShownAsIfItWere) {
   EXPECT_EQ(QJsonDocument::fromJson(json.out.toUtf8())[u"filed"_s], QJsonValue(false)) << json.out;
   EXPECT_EQ(json.err, jsonLine({{u"warning"_s, unfiled.trimmed().section(u": "_s, 2)}}) + u'\n');
   EXPECT_FALSE(dryRun(u"--summary --json"_s).out.contains(u"filed"_s));
-}
-
-class LpOfPrintSystem : public LpTest {
- protected:
-  LpOfPrintSystem() : LpTest(ppdOfJobHandling + "*ARKestoPrintSystem: \"True\"\n") {}
-};
-
-TEST_F(LpOfPrintSystem, WantsToKnowWhoPrints) {
-  const QString alert = u"Please confirm the following setting items.\nLogin Name\nUser Number\n"_s;
-  const LpRun run = dryRun(u"--job-name offer --remember job-name --save-preset x"_s);
-  EXPECT_EQ(run.code, 3);
-  EXPECT_EQ(run.out, u""_s);
-  EXPECT_EQ(run.err, alert + u"kesto-lp: Job Handling: the login name is missing; give --login\n"_s);
-  EXPECT_EQ(dryRun(u"--user-number {}"_s).err,
-            alert + u"kesto-lp: Job Handling: the user number is missing; give --user-number\n"_s);
-  EXPECT_EQ(dryRun(u"--login ann"_s).values(u"jobName"_s), u"jobName"_s)
-      << "remembered from a job that was refused";
-  EXPECT_EQ(dryRun(u"--user-number 3"_s).code, 0);
-  EXPECT_EQ(dryRun(u"--login ann --preset x"_s).code, 1) << "kept from a job that was refused";
-}
-
-class LpOfAnotherPanel : public LpTest {
- protected:
-  LpOfAnotherPanel() : LpTest(ppdOfModel + "*APDialogExtension: \"Finishing.pde\"\n") {}
-};
-
-TEST_F(LpOfAnotherPanel, OffersNoJobHandling) {
-  for (const auto& arguments : {u"--hold only"_s, u"--pin-file -"_s, u"--preset x"_s, u"--forget pin"_s}) {
-    expectFailure(arguments, 1, u"the queue office does not offer Job Handling"_s);
-  }
-  EXPECT_EQ(dryRun(u"-t letter"_s).code, 0) << "a job without the panel";
 }
 
 }  // namespace

@@ -15,10 +15,8 @@ done
 
 scratch=$(mktemp -d)
 printer=
-example=
 cleanup() {
   if [[ $printer ]]; then kill "$printer"; fi
-  if [[ $example ]]; then kill "$example"; fi
   rm -rf "$scratch"
 }
 trap cleanup EXIT
@@ -72,16 +70,6 @@ for file in "$share/dbus-1/services/$name.service" "$root/usr/lib/systemd/user/k
 done
 expect "the dialog is beside the service" '' test -x "$bin/kesto-print"
 
-# The demo printer finds its programs and its queue's PPD beside it.
-exec {log}< <(exec "$bin/kesto-demo-printer" --dir "$scratch/run" --folder-port 0 --json 2>&1)
-printer=$!
-read -r -t 60 places <&"$log"
-server=$(sed -nE 's/.*"server":"([^"]+)".*/\1/p' <<<"$places")
-expect "a job" 'request id is Office_MFP-1' "$bin/kesto-lp" -h "$server" --hold only --pin-file - <<<$'2468\ntext'
-while read -r -t 60 line <&"$log" && [[ $line != *held* ]]; do :; done
-expect "its release" '' "$bin/kesto-demo-printer" release 1 --dir "$scratch/run" --pin-file - <<<2468
-expect "its printout" '^text$' cat "$scratch/run/output/job-1-1"
-
 # example_of PAGE BLOCK: prints a block of commands from a manual page, counted from 1, adapted to the place of the
 # installation.
 example_of() {
@@ -105,18 +93,19 @@ run_example() {
   return "$ran"
 }
 in_examples() (cd "$scratch/examples" && PATH=$bin:$PATH && eval "$1" </dev/null)
+# The demo printer finds its programs and its queue's PPD beside it.
 mkdir -m 711 "$scratch/examples"
 cp "$(dirname "$0")/../../demo/quarterly-report.pdf" "$scratch/examples/report.pdf"
 in_examples "exec $(example_of kesto-demo-printer 1)" >"$scratch/examples/places" 2>&1 &
-example=$!
-until grep -qs ^output "$scratch/examples/places"; do kill -0 "$example" || break; sleep 0.1; done
+printer=$!
+until grep -qs ^output "$scratch/examples/places"; do kill -0 "$printer" || break; sleep 0.1; done
 expect "the examples of kesto-demo-printer(1)" 'request id is Office_MFP-1' run_example kesto-demo-printer 2
+expect "the released job" '' cmp "$scratch/examples/report.pdf" "$scratch/examples/demo/output/job-1-1"
 export CUPS_SERVER=$scratch/examples/demo/sockets/server
 expect "an example of kesto-lp(1)" 'request id is Office_MFP-2' run_example kesto-lp 2
 for block in {3..6}; do expect "example $block of kesto-lp(1)" '' run_example kesto-lp "$block"; done
 QT_QPA_PLATFORM=offscreen expect "an example of kesto-print(1)" '' run_example kesto-print 3
 expect "the picture that it saves" '' test -s "$scratch/examples/summary.png"
-unset CUPS_SERVER
 for block in 1 2; do expect "example $block of kesto-panel(1)" '^\{"(settings|controls)"' run_example kesto-panel "$block"; done
 
 # complete_word WORD...: prints what the completion offers for the last word.
@@ -125,7 +114,6 @@ complete_word() (
   # shellcheck disable=SC1091
   source "$root/usr/share/bash-completion/completions/kesto-lp"
   compopt() { echo "file names"; }
-  export CUPS_SERVER=$server
   COMP_WORDS=(kesto-lp "$@")
   COMP_CWORD=$#
   COMPREPLY=()

@@ -35,20 +35,18 @@ class PortalDialog : public DialogPrint {
     message.insert(u"do"_s, what);
     ASSERT_TRUE(m_service->send(message, attached));
   }
-  // Hands over a file, or a pipe that holds part of a document; gives the pipe's other end.
+  // Hands over a file, or a pipe that holds part of a document; returns the pipe's other end.
   Descriptor print(const QString& document) {
-    if (document != u"pipe") {
-      const Descriptor file(::open(m_folder.path(document).toUtf8().constData(), O_RDONLY | O_CLOEXEC));
-      say(u"print"_s, {{u"title"_s, u"Report"_s}}, file.get());
-      return {};
+    std::array<int, 2> ends{-1, -1};
+    if (document == u"pipe") {
+      EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
+      EXPECT_EQ(::write(ends[1], "half", 4), 4);
+    } else {
+      ends[0] = ::open(m_folder.path(document).toUtf8().constData(), O_RDONLY | O_CLOEXEC);
     }
-    std::array<int, 2> ends{};
-    EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
-    Descriptor written(ends[1]);
-    EXPECT_EQ(::write(written.get(), "half", 4), 4);
     const Descriptor read(ends[0]);
     say(u"print"_s, {{u"title"_s, u"Report"_s}}, read.get());
-    return written;
+    return Descriptor(ends[1]);
   }
   void awaitAnswers(const QString& answers) {
     await([&] { return m_answers == answers; }, answers);
@@ -64,6 +62,9 @@ class PortalDialog : public DialogPrint {
       if (auto* dialog = qobject_cast<PrintDialog*>(window)) return dialog;
     }
     return nullptr;
+  }
+  static void pressEscape() {
+    QTimer::singleShot(0, window(), [] { QTest::keyClick(window(), Qt::Key_Escape); });
   }
   void pressPrint() {
     await([] { return window()->isQueueReady(); }, u"the queue"_s);
@@ -95,8 +96,7 @@ TEST_F(PortalDialog, EndsWithItsServiceAndItsUser) {
     }
     if (end == u"close") say(end);
     if (end == u"service") m_service.reset();
-    if (end.startsWith(u"user"))
-      QTimer::singleShot(0, window(), [] { QTest::keyClick(window(), Qt::Key_Escape); });
+    if (end.startsWith(u"user")) pressEscape();
     awaitEnd();
     EXPECT_EQ(m_answers, end.startsWith(u"user") ? u"cancelled "_s : QString());
   }
@@ -106,25 +106,21 @@ TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
   startPrinter();
   struct Case {
     const char* name;
-    QString document;
-    bool isClosed;        // by the client
-    QString answers;      // until the service speaks
-    QStringList service;  // what it says then
-    QString last;         // what is answered to that
+    Text document;
+    bool isClosed;  // by the client
+    Text answers;   // until the service speaks
+    Text service;   // what it says then
+    Text last;      // what is answered to that
     int jobs;
   };
+  const Case cases[] = {
+      {"a file of a client that ends", "report.pdf", false, "chosen ", "close", "taken ", 1},
+      {"a pipe of a living client", "pipe", true, "chosen read ", "whole", "taken ", 1},
+      {"a pipe of a dead client", "pipe", true, "chosen read ", "close", "", 0},
+      {"a dead client's pipe in other hands", "pipe", false, "chosen ", "close", "", 0},
+  };
   int jobs = 0;
-  for (const Case& row :
-       {Case{"a file of a client that ends",
-             u"report.pdf"_s,
-             false,
-             u"chosen "_s,
-             {u"close"_s},
-             u"taken "_s,
-             1},
-        Case{"a pipe of a living client", u"pipe"_s, true, u"chosen read "_s, {u"whole"_s}, u"taken "_s, 1},
-        Case{"a pipe of a dead client", u"pipe"_s, true, u"chosen read "_s, {u"close"_s}, {}, 0},
-        Case{"a dead client's pipe in other hands", u"pipe"_s, false, u"chosen "_s, {u"close"_s}, {}, 0}}) {
+  for (const Case& row : cases) {
     SCOPED_TRACE(row.name);
     open(false);
     pressPrint();
@@ -133,8 +129,7 @@ TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
     Descriptor written = print(row.document);
     if (row.isClosed) written.reset();
     awaitAnswers(row.answers);
-    for (const QString& word : row.service)
-      say(word);
+    say(row.service);
     awaitEnd();
     EXPECT_EQ(m_answers, row.answers + row.last);
     jobs += row.jobs;
@@ -172,7 +167,7 @@ TEST_F(PortalDialog, ComesBackWithTheReasonWhenThereIsNothingToPrint) {
   EXPECT_EQ(window()->findChild<QLabel*>(u"message"_s)->text(),
             u"Not printed: Report is empty. There is nothing to print."_s);
   EXPECT_FALSE(window()->findChild<QWidget*>(u"print"_s)->isEnabled());
-  QTimer::singleShot(0, window(), [] { QTest::keyClick(window(), Qt::Key_Escape); });
+  pressEscape();
   awaitEnd();
   EXPECT_EQ(m_printer->jobs(), "[]");
 }

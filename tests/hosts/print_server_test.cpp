@@ -23,9 +23,6 @@ TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
       {u"-d Print_System --user-number {}"_s, 3,
        u"Job Handling: the user number is missing; give --user-number"_s},
       {u"--pin 1"_s, 3, u"--pin needs --hold"_s},
-      {u"--hold only --pin 123456789"_s, 3, u"--pin takes at most 8 digits"_s},
-      {u"--hold only --folder-pin 1"_s, 3,
-       u"--folder-pin needs --folder NAME of a folder with a pass code, or a custom folder"_s},
       {u"--preset none"_s, 1, u"there is no preset \"none\"; this queue has none"_s},
       {u"/no/file"_s, 1, u"/no/file: No such file or directory"_s},
       {u"/no/\u001b[2J\u202e"_s, 1, u"/no/\\x1b[2J\\u202e: No such file or directory"_s},
@@ -33,8 +30,11 @@ TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
       {u"-d Nowhere"_s, 1, u"the queue Nowhere cannot be had: "_s + missing},
       {u"-d \"No where\" --hold only"_s, 1, u"the queue No where cannot be had: "_s + missing},
       {u"-d Plain --hold only"_s, 1, u"the queue Plain does not offer Job Handling"_s},
+      {u"-d Plain --forget pin"_s, 1, u"the queue Plain does not offer Job Handling"_s},
       {u"-d Raw --pin-file -"_s, 1, u"the queue Raw does not offer Job Handling"_s},
   };
+  const QString alert = u"Please confirm the following setting items.\nLogin Name\nUser Number\n"_s;
+  EXPECT_TRUE(lp(u"-d Print_System"_s).err.startsWith(alert));
   for (const auto& [arguments, code, message] : cases) {
     const QString memory = u" DOCUMENT --job-name x --remember job-name --save-preset p"_s;
     expectRefused(arguments + memory, code, message);

@@ -67,14 +67,16 @@ class LpTest : public testing::Test {
   }
   /// Expects a dry run to fail, with the same message in JSON.
   void expectFailure(const QString& arguments, int code, const QString& message) const {
-    const LpRun run = dryRun(arguments);
-    EXPECT_EQ(run.code, code) << arguments;
+    const QByteArray secret = "471147114711\n";
+    const LpRun run = dryRun(arguments, secret);
     EXPECT_EQ(run.err.section(u'\n', 0, 0), u"kesto-lp: "_s + message) << arguments;
-    EXPECT_EQ(run.out, u""_s) << arguments;
-    const LpRun json = dryRun(u"--json "_s + arguments);
-    EXPECT_EQ(json.code, code) << arguments;
+    const LpRun json = dryRun(u"--json "_s + arguments, secret);
     EXPECT_EQ(json.err.section(u'\n', -2).trimmed(), jsonLine({{u"error"_s, message}})) << arguments;
-    EXPECT_EQ(json.out, u""_s) << arguments;
+    for (const LpRun& each : {run, json}) {
+      EXPECT_EQ(each.code, code) << arguments;
+      EXPECT_EQ(each.out, u""_s) << arguments;
+      EXPECT_FALSE(each.err.contains(u"4711"_s)) << each.err;
+    }
   }
   static QString jsonLine(const QJsonObject& object) {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
