@@ -1,5 +1,6 @@
 #include "hosts/session/sheet_plan.h"
 
+#include <QtCore/QtMath>
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -67,19 +68,58 @@ bool isTooLarge(const QSizeF& page, const QSizeF& paper) {
   return isBeyond(paper) && isBeyond(paper.transposed());
 }
 
-SheetScaling chosen(SheetScaling scaling, const QList<QSizeF>& pages, const SheetPaper& paper) {
+SheetScaling chosen(SheetScaling scaling, bool isLarge, const SheetPaper& paper) {
   if (scaling != SheetScaling::Auto && scaling != SheetScaling::AutoFit) return scaling;
-  if (std::ranges::none_of(pages, [&](const QSizeF& page) { return isTooLarge(page, paper.size); }))
-    return SheetScaling::None;
+  if (!isLarge) return SheetScaling::None;
   const bool isBorderless = whole(paper.size.shrunkBy(paper.margins)) == paper.size;
   return scaling == SheetScaling::Auto && isBorderless ? SheetScaling::Fill : SheetScaling::Fit;
+}
+
+// An image, or a part of it, on a page as large as the paper.
+struct ImagePlace {
+  QRectF area;
+  QRectF visible;
+  int turn = 0;
+};
+
+// An image that is enlarged beyond the paper takes several pages, column by column.
+QList<ImagePlace> placesOf(const QSizeF& image, const SheetPaper& paper, const SheetSettings& settings) {
+  const QRectF whole({}, paper.size);
+  const QRectF printable = whole.marginsRemoved(paper.margins);
+  const auto fitted = [&](int turn) {
+    return image.scaled(turned(printable.size(), turn), Qt::KeepAspectRatio);
+  };
+  const int across = fitted(1).width() > fitted(0).width() ? (paper.isLandscapeMinus90 ? 1 : 3) : 0;
+  const int turn = settings.hasTurn ? settings.turn : across;
+  const QSizeF most = turned(printable.size(), turn);
+  const bool isLarge = image.width() > most.width() || image.height() > most.height();
+  const SheetScaling scaling = chosen(settings.imageScaling, isLarge, paper);
+  QSizeF size = image;
+  if (scaling == SheetScaling::Fit) size = fitted(turn) * settings.imageZoom;
+  if (scaling == SheetScaling::Fill) size = image.scaled(most, Qt::KeepAspectRatioByExpanding);
+  const bool isInParts = scaling == SheetScaling::Fit && settings.imageZoom > 1;
+  const int columns = isInParts ? qCeil(size.width() / most.width()) : 1;
+  const int rows = isInParts ? qCeil(size.height() / most.height()) : 1;
+  const QSizeF part(size.width() / columns, size.height() / rows);
+  const QRectF room = scaling == SheetScaling::None ? whole : printable;
+  const QRectF visible = isInParts ? centred(turned(part, turn), room.center()) : room;
+  const QSizeF space = turned(paper.size, turn);
+  QList<ImagePlace> places;
+  for (int i = 0; i < columns * rows; ++i) {
+    const QPointF offset(part.width() * (i / rows), part.height() * (i % rows));
+    const QRectF lying = turned(room, paper.size, quarters(-turn));
+    const QRectF area(centred(part, lying.center()).topLeft() - offset, size);
+    places.append(
+        {.area = turned(area, space, turn), .visible = turned(area, space, turn) & visible, .turn = turn});
+  }
+  return places;
 }
 
 // The sides of one file. Its pages are laid out on a space that is the side, or the side turned so that more
 // pages lie beside than above each other; all pages lie the same way there, those that do not are turned.
 class Layout {
  public:
-  Layout(const QList<QSizeF>& pages, int document, const SheetPaper& paper, const SheetSettings& settings);
+  Layout(const SheetDocument& document, int number, const SheetPaper& paper, const SheetSettings& settings);
 
   QList<SheetSide> sides() const;
 
@@ -89,10 +129,11 @@ class Layout {
   SheetCell cell(int page, int place) const;
   SheetSide side(const QList<int>& order, int first) const;
 
-  const QList<QSizeF>& m_pages;
+  QList<QSizeF> m_pages;
+  QList<ImagePlace> m_images;  // on the pages of a file that is an image
   const int m_document;
   const SheetSettings& m_settings;
-  const SheetScaling m_scaling;
+  SheetScaling m_scaling;
   const int m_pageTurn;
   const bool m_isPagesLandscape;
   SheetGrid m_grid;
@@ -101,17 +142,23 @@ class Layout {
   int m_turn;     // from the space to how the printer takes the paper
 };
 
-Layout::Layout(const QList<QSizeF>& pages, int document, const SheetPaper& paper,
+Layout::Layout(const SheetDocument& document, int number, const SheetPaper& paper,
                const SheetSettings& settings)
-    : m_pages(pages),
-      m_document(document),
+    : m_pages(document.pages),
+      m_document(number),
       m_settings(settings),
-      m_scaling(chosen(settings.scaling, pages, paper)),
       m_pageTurn(paper.isLandscapeMinus90 ? 1 : 3),
       m_isPagesLandscape(isLandscape(paper.size) == (settings.turn % 2 == 0)),
       m_grid(settings.grid),
       m_space(paper.size),
       m_turn(settings.turn) {
+  if (document.isImage) {
+    m_images = placesOf(m_pages.value(0), paper, settings);
+    m_pages.fill(paper.size, m_images.size());
+  }
+  const bool isLarge =
+      std::ranges::any_of(m_pages, [&](const QSizeF& page) { return isTooLarge(page, paper.size); });
+  m_scaling = chosen(settings.scaling, isLarge, paper);
   bool isTurned = m_grid.columns > m_grid.rows || settings.isBooklet;
   if (isLandscape(paper.size)) std::swap(m_grid.columns, m_grid.rows);
   if (settings.isBooklet) m_grid = {2, 1};
@@ -162,6 +209,16 @@ SheetCell Layout::cell(int page, int place) const {
     const double distance = borderDistance + line * lineDistance;
     result.border.push_back(result.visible.adjusted(distance, distance, -distance, -distance));
   }
+  if (m_images.isEmpty()) return result;
+  const ImagePlace& image = m_images.at(page);
+  const auto onPage = [&](const QRectF& area) {
+    const QRectF lying = turned(area, size, turn);
+    return QRectF(result.area.topLeft() + lying.topLeft() * scale, lying.size() * scale);
+  };
+  result.page = 0;
+  result.visible &= onPage(image.visible);
+  result.rotation = quarters(turn + image.turn);
+  result.area = onPage(image.area);
   return result;
 }
 
@@ -232,9 +289,11 @@ SheetPlan::SheetPlan(const QList<SheetDocument>& documents, const SheetPaper& pa
   const SheetSettings settings(array);
   const QString covers = QString::fromUtf8(array.value("job-sheets"));
   m_borderWidth = settings.border.width;
+  m_isGray = settings.isGray;
+  m_pagesOnSide = settings.isBooklet ? 2 : settings.grid.columns * settings.grid.rows;
   m_sheets = coverOf(covers.section(u',', 0, 0), paper);
   for (int document = 0; document < documents.size(); ++document)
-    m_sheets += sheetsOf(Layout(documents[document].pages, document, paper, settings).sides(), settings);
+    m_sheets += sheetsOf(Layout(documents[document], document, paper, settings).sides(), settings);
   m_sheets += coverOf(covers.section(u',', 1, 1), paper);
   const int copies = std::max(QByteArray(array.value("copies")).toInt(), 1);
   for (const Sheet& sheet : m_sheets)

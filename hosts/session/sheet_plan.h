@@ -10,9 +10,12 @@
 
 namespace kesto {
 
-/// A file of a job: the sizes of its pages as one looks at them, in points and above 0.
+/// A file of a job.
 struct SheetDocument {
+  /// The sizes of its pages as one looks at them, in points and above 0.
   QList<QSizeF> pages;
+  /// The only page is an image, which the print system lays on pages as large as the paper.
+  bool isImage = false;
 };
 
 /// Paper as the printer takes it and its PPD describes it; lengths in points.
@@ -66,6 +69,10 @@ class SheetPlan {
   const QList<Sheet>& sheets() const { return m_sheets; }
   /// The width of the borders' lines, in points.
   double borderWidth() const { return m_borderWidth; }
+  /// Whether the options turn colour off.
+  bool isGray() const { return m_isGray; }
+  /// How many pages have room on a side.
+  int pagesOnSide() const { return m_pagesOnSide; }
   /// Sheets of paper in all: every copy, and the cover sheets, which come once.
   int paperCount() const { return m_paperCount; }
   /// The sides of one copy, blank backs and cover sheets included.
@@ -76,6 +83,8 @@ class SheetPlan {
  private:
   QList<Sheet> m_sheets;
   double m_borderWidth = 0;
+  bool m_isGray = false;
+  int m_pagesOnSide = 1;
   int m_paperCount = 0;
 };
 

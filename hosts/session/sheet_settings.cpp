@@ -28,6 +28,12 @@ bool isOneOf(const char* value, std::initializer_list<const char*> values) {
          std::ranges::any_of(values, [&](auto* each) { return qstricmp(value, each) == 0; });
 }
 
+// By the names that PPDs and the standard have for it: "KGray", "Black", "monochrome".
+bool isGrayName(const char* value) {
+  const QByteArray name = QByteArray(value).toLower();
+  return name.contains("gray") || name.contains("grey") || name.contains("mono") || name == "black";
+}
+
 QList<std::pair<int, int>> rangesOf(const char* text) {
   QList<std::pair<int, int>> ranges;
   for (const QString& part : QString::fromLatin1(text).split(u',', Qt::SkipEmptyParts)) {
@@ -59,6 +65,7 @@ constexpr std::array turnsOfOrientations{0, 3, 1, 2};
 SheetSettings::SheetSettings(const OptionArray& options)
     : grid(gridOf(QByteArray(options.value("number-up")).toInt())),
       isBooklet(isOneOf(options.value("booklet"), {"yes", "on", "true"})),
+      isGray(isGrayName(options.value("ColorModel")) || isGrayName(options.value("print-color-mode"))),
       isReversed(isOneOf(options.value("outputorder"), {"reverse", "reverse-order"})),
       isShortEdge(isOneOf(options.value("sides"), {"two-sided-short-edge"}) ||
                   isOneOf(options.value("Duplex"), {"DuplexTumble"})),
@@ -77,6 +84,12 @@ SheetSettings::SheetSettings(const OptionArray& options)
   const auto orientation = QByteArray(options.value("orientation-requested")).toUInt();
   if (orientation >= 3 && orientation - 3 < turnsOfOrientations.size())
     turn = turnsOfOrientations.at(orientation - 3);
+  hasTurn = options.has("orientation-requested");
+  if (options.has("print-scaling")) {
+    imageScaling = scaling;
+  } else if (const double percent = QByteArray(options.value("scaling")).toDouble(); percent > 0) {
+    imageZoom = percent / 100;
+  }
   for (const SheetBorder& each : borders)
     if (isOneOf(options.value("page-border"), {each.name})) border = each;
 }

@@ -39,13 +39,17 @@ struct SheetSettings {
   bool isFromRight = false;
   bool isFromBottom = false;
   bool isBooklet = false;
+  bool isGray = false;
   bool isReversed = false;
   bool isShortEdge = false;
   bool isTwoSided = false;
   bool hasOdd = true;
   bool hasEven = true;
-  int turn = 0;  ///< Of what is printed, in quarters clockwise.
+  int turn = 0;          ///< Of what is printed, in quarters clockwise.
+  bool hasTurn = false;  ///< Whether an orientation is given.
   SheetScaling scaling = SheetScaling::Auto;
+  SheetScaling imageScaling = SheetScaling::Fit;
+  double imageZoom = 1;
   SheetBorder border;
   QList<std::pair<int, int>> ranges;  ///< First and last side; none for all.
 };

@@ -213,6 +213,32 @@ TEST(SheetPlan, CountsCopiesFilesAndCovers) {
   EXPECT_FALSE(plan.placeOf(0, 3));
 }
 
+// As the filters imagetopdf and pdftopdf do it, on paper whose margins are 12 points wide.
+TEST(SheetPlan, LaysImagesOnThePaper) {
+  const std::tuple<QSizeF, const char*, const char*> cases[] = {
+      {{108, 72}, "", "12,25 818x545"},
+      {{108, 72}, "scaling=50", "217,161 409x273"},
+      {{108, 72}, "scaling=150", "114,93 614x409 114,93 614x409 114,93 614x409 114,93 614x409"},
+      {{108, 72}, "print-scaling=none", "367,262 108x72"},
+      {{72, 108}, "print-scaling=fit", "36,28 523x785"},
+      {{72, 108}, "orientation-requested=4", "231,12 381x571"},
+      {{720, 540}, "print-scaling=fill", "24,20 795x555"},
+      {{720, 540}, "number-up=2", "29,9 538x403"}};
+  for (const auto& [size, options, expected] : cases) {
+    const SheetPlan plan({{{size}, true}}, {.size = portrait.size, .margins = {12, 12, 12, 12}},
+                         parseJobOptions(QLatin1String(options)));
+    QStringList shown;
+    for (const Sheet& sheet : plan.sheets()) {
+      const QRectF& area = sheet.sides.front().cells.front().visible;
+      shown.append(u"%1,%2 %3x%4"_s.arg(qRound(area.x()))
+                       .arg(qRound(area.y()))
+                       .arg(qRound(area.width()))
+                       .arg(qRound(area.height())));
+    }
+    EXPECT_EQ(shown.join(u' '), QLatin1String(expected)) << options;
+  }
+}
+
 TEST(SheetPlan, DrawsBordersInsideWhatIsPrinted) {
   const SheetPlan plan =
       Row(u"2xA3; number-up=2 page-border=double-thick print-scaling=none; "_s).planOn(portrait);
