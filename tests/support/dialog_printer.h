@@ -18,7 +18,7 @@
 
 namespace kesto::test {
 
-/// A widget by what it tells those who do not see it.
+/// A widget by its accessible name.
 template <class T = QWidget>
 T* widgetNamed(const QWidget& window, const QString& accessibleName) {
   for (T* widget : window.findChildren<T*>()) {
@@ -40,7 +40,7 @@ inline void pressEnter(QWidget& window) {
   QTest::keyClick(&window, Qt::Key_Return);
 }
 
-/// The text of the alert that an action brings up, and that Enter closes.
+/// The text of the alert that an action opens, and that Enter closes.
 inline QString alertOn(const std::function<void()>& act) {
   QString alert;
   whenModal([&](QWidget& window) {
@@ -58,7 +58,8 @@ class DialogPrint : public testing::Test {
     qputenv("TMPDIR", m_folder.path(u""_s).toUtf8());
     m_folder.write(u"report.pdf"_s, pdfDocument());
     m_folder.write(u"pin"_s, "2468\n");
-    m_options.server.address = u"127.0.0.1:9"_s;  // nobody, rather than the system's own
+    m_options.server.address =
+        u"127.0.0.1:9"_s;  // nobody listens there; keeps the test away from the system's server
     m_options.server.limit = std::chrono::seconds(20);
   }
 

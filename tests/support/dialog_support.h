@@ -28,7 +28,7 @@ struct NoAlerts : AlertPresenter {
   }
 };
 
-/// A window with the pane of a panel, in which a user works.
+/// A window with the pane of a panel, operated by a simulated user.
 class PaneWindow : public QWidget {
  public:
   PaneWindow() {
@@ -66,7 +66,8 @@ class PaneWindow : public QWidget {
     EXPECT_NE(found, nullptr) << name;
     return found;
   }
-  /// A print setting that the panel writes, without its prefix; null when it writes none.
+  /// The value of a print setting that the panel writes, by the key without its prefix; null when it is
+  /// absent.
   QString setting(const QString& name) {
     host->panel()->saveValuesAndReturnError(nullptr);
     return host->settings->value(u"kesto.print.PrintSettings."_s + name).value_or(QString());

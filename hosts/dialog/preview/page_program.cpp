@@ -12,7 +12,7 @@ namespace {
 
 constexpr rlim_t longestWork = 20;  // seconds of the processor
 #ifdef __SANITIZE_ADDRESS__
-constexpr rlim_t largestMemory = RLIM_INFINITY;  // the sanitizer reserves far more for itself
+constexpr rlim_t largestMemory = RLIM_INFINITY;  // the address sanitizer reserves far more
 #else
 constexpr rlim_t largestMemory = rlim_t{1} << 30;
 #endif
@@ -22,7 +22,7 @@ void limit(__rlimit_resource resource, rlim_t most) {
   (void)::setrlimit(resource, &limits);
 }
 
-// In the child, before the program: only calls that are safe there.
+// Runs in the child before the program, so it makes only calls that are safe there.
 void confine(pid_t parent) {
   (void)::setpgid(0, 0);
   (void)::prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -54,7 +54,7 @@ PageProgram::~PageProgram() {
 void PageProgram::start(const QString& program, const QStringList& arguments, const QString& document) {
   stop();
   m_process = std::make_unique<QProcess>();
-  // In some languages the page's own fonts would be replaced by ones without its letters.
+  // In some locales the page's fonts would be replaced by ones that lack its letters.
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
   m_process->setProcessEnvironment(environment);
@@ -78,7 +78,7 @@ void PageProgram::finish(End outcome) {
   m_output = m_process->readAllStandardOutput();
   m_errors = m_process->readAllStandardError();
   end(*m_process);
-  m_process.release()->deleteLater();  // it may be what tells of its end
+  m_process.release()->deleteLater();  // it may be the sender of this signal
   Q_EMIT ended(outcome);
 }
 

@@ -12,8 +12,8 @@ class QProcess;
 
 namespace kesto {
 
-/// One program at a time, in a process of its own: a document may be damaged or hostile. It has a time
-/// limit and 1 GiB of address space, and ends with this process, however that ends.
+/// One program at a time, in a separate process, because a document may be damaged or hostile. The program
+/// has a time limit and 1 GiB of address space, and ends with this process, however that ends.
 class PageProgram : public QObject {
   Q_OBJECT
 
@@ -23,12 +23,12 @@ class PageProgram : public QObject {
   explicit PageProgram(std::chrono::milliseconds limit = std::chrono::seconds(20));
   ~PageProgram() override;
 
-  /// Runs a program, whose standard input is the document's file. One that still runs is stopped before.
+  /// Stops a running program, and runs another with the document's file as its standard input.
   void start(const QString& program, const QStringList& arguments, const QString& document);
-  /// Ends the program of which nothing is wanted any more, with all that it still had to say.
+  /// Ends the program and discards its output.
   void stop();
 
-  /// What the program has written by its end.
+  /// The output of the program that has ended.
   const QByteArray& output() const { return m_output; }
   const QByteArray& errors() const { return m_errors; }
 
