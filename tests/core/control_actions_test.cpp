@@ -45,7 +45,6 @@ const std::array actionCases{
     // And on again: no value changes.
     ActionCase{"folderSelectionMatrix=2 folderSelectionPopup=3", "retentionCheckBox;retentionCheckBox",
                "folderSelectionMatrix=2 folderSelectionPopup=3 suspendMatrix=0 focus=folderName"},
-    ActionCase{"", "retentionCheckBox;retentionCheckBox", "folderSelectionMatrix=1 focus="},
     // Quick file goes with hold after print alone.
     ActionCase{"folderSelectionPopup=0 suspendMatrix=1", "suspendMatrix=0",
                "suspendMatrix=0 folderSelectionPopup=1"},
@@ -55,13 +54,10 @@ const std::array actionCases{
                "suspendMatrix=1 folderSelectionPopup=0 folderSelectionMatrix=0"},
     ActionCase{"suspendMatrix=2 suspendKey=1 folderPassword=2 folderName=n", "folderSelectionPopup=0",
                "suspendMatrix=1 suspendKey= folderPassword=2 folderName=n focus="},
-    ActionCase{"suspendMatrix=1 suspendKey=1", "folderSelectionPopup=0", "suspendMatrix=1 suspendKey="},
     ActionCase{"suspendMatrix=0 suspendKey=1 suspendKeyButton=1", "folderSelectionPopup=0",
                "suspendMatrix=1 suspendKey=1"},
     ActionCase{"suspendMatrix=2 suspendKey=1", "folderSelectionPopup=3",
                "suspendMatrix=2 suspendKey=1 focus=folderPassword"},
-    ActionCase{"folderPasswordButton=1", "folderSelectionPopup=3", "focus="},
-    ActionCase{"", "folderSelectionPopup=4", "folderSelectionPopup=4 focus="},
     // The folder matrix.
     ActionCase{"suspendMatrix=0 suspendKey=1 folderPassword=2 folderName=n", "folderSelectionMatrix=0",
                "suspendMatrix=1 suspendKey= folderPassword= folderName= focus="},
@@ -72,14 +68,12 @@ const std::array actionCases{
     ActionCase{"suspendMatrix=2 suspendKey=1 folderPassword=2 folderName=n", "folderSelectionMatrix=2",
                "suspendMatrix=2 suspendKey=1 folderPassword=2 folderName=n "
                "focus=folderName"},
-    ActionCase{"folderNameButton=1", "folderSelectionMatrix=2", "focus="},
     // The user number takes focus, held or not.
     ActionCase{"", "authenticationMatrix=1", "focus=userNumber"},
     ActionCase{"userNumberButton=1", "authenticationMatrix=1;authenticationMatrix=0", "focus=userNumber"},
     // The held login name.
     ActionCase{"loginName=jdoe1", "loginNameButton", "loginName=\u2022\u2022\u2022\u2022\u2022 focus="},
     ActionCase{"loginName=\U0001F600", "loginNameButton", "loginName=\u2022\u2022"},
-    ActionCase{"loginName=", "loginNameButton", "loginName="},
     ActionCase{"loginName=jdoe1", "loginNameButton;loginNameButton", "loginName= focus=loginName"},
     // A hold button leaves the text, and gives focus back where the field is free.
     ActionCase{"suspendKey=1", "suspendKeyButton", "suspendKey=1 focus="},
@@ -89,11 +83,6 @@ const std::array actionCases{
     ActionCase{"accountNumber=4", "accountNumberButton;accountNumberButton", "focus=accountNumber"},
     ActionCase{"", "userNameButton;userNameButton", "focus=userName"},
     ActionCase{"", "jobNameButton;jobNameButton;userNameButton", "focus="},
-    ActionCase{
-        "",
-        "folderSelectionMatrix=2;suspendKeyButton;folderPasswordButton;folderNameButton;passwordButton;"
-        "userNumberButton;userNameButton;jobNameButton;accountNumberButton",
-        "focus="},
 };
 
 TEST_F(ControlActionsTest, OneByOne) {
@@ -111,40 +100,35 @@ TEST_F(ControlActionsTest, OneByOne) {
   }
 }
 
-TEST(ControlActions, TheHeldLoginNameIsKeptAside) {
-  PanelGroups panel;
-  field(*panel.view, "loginName").setStringValue(u"jdoe"_s);
-  Button& hold = button(*panel.view, "loginNameButton");
-  hold.setState(1);
-  for (int time = 0; time < 2; ++time) {
-    panel.actions.loginNameButtonProc(nullptr);
-    EXPECT_EQ(panel.state.loginNameStringRef, u"jdoe"_s);
-    EXPECT_TRUE(panel.state.loginNameLockFlag);
-    expectControls(*panel.view, "loginName=\u2022\u2022\u2022\u2022");
-  }
-  hold.setState(0);
-  panel.actions.loginNameButtonProc(nullptr);
-  EXPECT_TRUE(panel.state.loginNameStringRef.isNull());
-  EXPECT_FALSE(panel.state.loginNameLockFlag);
-  hold.setState(1);
-  panel.actions.loginNameButtonProc(nullptr);
-  EXPECT_EQ(panel.state.loginNameStringRef, u""_s);
-  EXPECT_FALSE(panel.state.loginNameStringRef.isNull()) << "an empty name is held, too";
-}
-
-TEST(ControlActions, EveryActionToleratesAbsentControls) {
-  using A = ControlActions;
-  constexpr std::array all{
-      &A::retentionCBoxProc,         &A::suspendKeyMatrixProc,     &A::folderSelectionPopUpButtonProc,
-      &A::folderSelectionMatrixProc, &A::authenticationMatrixProc, &A::loginNameButtonProc};
-  for (const QString& layout : {u"JobControl4"_s, u"JobControl5"_s, QString()}) {
-    PanelGroups panel(layout.isNull() ? u"JobControl6"_s : layout);
-    if (layout.isNull()) panel.state.outlets = {};
-    for (const HeldField& row : heldFields)
-      panel.actions.holdButtonProc(row.field);
-    for (const auto action : all)
-      (panel.actions.*action)(nullptr);
-    EXPECT_EQ(panel.view->firstResponder() == nullptr, layout.isNull());
+// Every choice of folder and authentication, with retention and without, for every set of held fields.
+TEST_F(ControlActionsTest, TheRulesHoldWhateverTheUserDoes) {
+  TestPanel panel(platform);
+  panel.restore();
+  const auto use = [&](const QString& operation) {
+    ASSERT_TRUE(operate(panel.view(), operation)) << operation;
+    expectRulesHold(panel.view(), {firstFolderItem});
+  };
+  const QStringList freezable{u"suspendKey"_s, u"folderPassword"_s, u"folderName"_s, u"loginName"_s,
+                              u"password"_s};
+  use(u"retentionCheckBox"_s);
+  for (unsigned held = 0; held < 1U << freezable.size(); ++held) {
+    SCOPED_TRACE(held);
+    for (const char* freeAll :
+         {"folderSelectionPopup=1", "folderSelectionMatrix=2", "authenticationMatrix=0"})
+      use(Text(freeAll));
+    for (qsizetype i = 0; i < freezable.size(); ++i) {
+      const QString hold = freezable[i] + u"Button"_s;
+      if (button(panel.view(), hold).state() != static_cast<int>(held >> i & 1U)) use(hold);
+    }
+    for (int choice = 0; choice < 24; ++choice) {
+      use(u"folderSelectionPopup=%1"_s.arg(QList{0, 1, 3, 4}[choice % 4]));
+      use(u"folderSelectionMatrix=%1"_s.arg(choice / 4 % 3));
+      use(u"authenticationMatrix=%1"_s.arg(choice / 12));
+      use(u"suspendMatrix=%1"_s.arg(choice % 3));
+      use(u"retentionCheckBox"_s);
+      use(u"retentionCheckBox"_s);
+      if (HasFailure()) return;
+    }
   }
 }
 

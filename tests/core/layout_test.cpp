@@ -1,5 +1,3 @@
-#include <QtCore/QSet>
-
 #include "panel/initialize_ui.h"
 #include "panel/input_filters.h"
 #include "panel/localized.h"
@@ -10,78 +8,51 @@ namespace {
 
 using namespace test;
 
-// Name and kind of a caption, a field and its hold button for each base name, and of the controls given
-// whole.
-QSet<QString> controlsOf(const Text& rows, const Text& others) {
-  QSet<QString> controls;
-  for (const QString& row : rows.split(u' ')) {
-    controls |= {row + u"StaticText:label"_s, row + u"EditText:textField"_s, row + u"Button:holdButton"_s};
+TEST(Layouts, TheLargestIsAllFreeAndEmpty) {
+  const PanelGroups panel;
+  for (const Control* control : panel.view->controls()) {
+    const QString kind = control->kind();
+    EXPECT_TRUE(isAvailable(*control) || kind == u"box" || kind == u"tabView" || kind == u"progress");
+    EXPECT_TRUE(kind != u"textField" || valueOf(*panel.view, control->objectName()).isEmpty());
+    EXPECT_TRUE(kind != u"holdButton" || control->property("state") == 0);
+    EXPECT_EQ(control->action().isEmpty(), kind == u"box" || kind == u"label" || kind == u"radio" ||
+                                               kind == u"progress" ||
+                                               control->objectName() == u"folderNameEditText")
+        << control->objectName();
   }
-  for (const QString& other : others.split(u' '))
-    controls.insert(other);
-  return controls;
+  expectControls(*panel.view,
+                 "retentionCheckBox=0 suspendMatrix=0 authenticationMatrix=0 folderSelectionMatrix=1 "
+                 "folderSelectionPopup=1 focus=");
 }
 
-const QSet<QString> everyLayout = controlsOf(
-    "suspendKey folderPassword loginName password userNumber accountNumber userName jobName",
-    "tabView:tabView retentionCheckBox:checkBox suspendBox:box suspendMatrix:matrix "
-    "holdOnlyRadioButton:radio "
-    "holdAfterRadioButton:radio samplePrintRadioButton:radio filingBox:box authenticationMatrix:matrix "
-    "authenticationRadioButton:radio userNumberRadioButton:radio jobIDBox:box");
-const QSet<QString> withMatrix =
-    controlsOf("folderName",
-               "folderSelectionMatrix:matrix quickFileRadioButton:radio mainFolderRadioButton:radio "
-               "customFolderRadioButton:radio") -
-    QSet{u"folderNameStaticText:label"_s};
-const QSet<QString> withPopUp =
-    controlsOf("printersAddress",
-               "folderSelectionStaticText:label folderSelectionPopup:popUp chasingArrow:progress "
-               "getFolderNameButton:pushButton") -
-    QSet{u"printersAddressButton:holdButton"_s};
-
-// The action that a control of a layout is wired to.
-QString actionOf(const Control& control) {
-  static const QMap<QString, QString> others{
-      {u"retentionCheckBox"_s, u"retentionCBoxProc:"_s},
-      {u"suspendMatrix"_s, u"suspendKeyMatrixProc:"_s},
-      {u"folderSelectionPopup"_s, u"folderSelectionPopUpButtonProc:"_s},
-      {u"printersAddressEditText"_s, u"printersAddressButtonProc:"_s},
-      {u"folderNameEditText"_s, u""_s},
-      {u"tabView"_s, u"tabProc:"_s}};
-  const QString name = control.objectName();
-  if (others.contains(name)) return others.value(name);
-  if (control.kind() == u"textField") return QString(name).replace(u"EditText"_s, u"ETextProc:"_s);
-  const bool isOperated = QStringList{u"holdButton"_s, u"pushButton"_s, u"matrix"_s}.contains(control.kind());
-  return isOperated ? name + u"Proc:"_s : QString();
-}
-
-TEST(Layouts, HoldTheControlsOfTheirModeAllFreeAndWired) {
-  struct Case {
-    Text name;
-    QSet<QString> controls;
-    int pages = 0;
-    Text values;
-  };
-  for (const Case& row : {Case{"JobControl4", everyLayout | withMatrix, 1, "folderSelectionMatrix=1"},
-                          Case{"JobControl5", everyLayout | withPopUp, 2, "folderSelectionPopup=1"},
-                          Case{"JobControl6", everyLayout | withMatrix | withPopUp, 2,
-                               "folderSelectionMatrix=1 folderSelectionPopup=1"}}) {
-    SCOPED_TRACE(row.name);
-    const PanelGroups panel(row.name);
-    QSet<QString> controls;
-    for (const Control* control : panel.view->controls()) {
-      const QString kind = control->kind();
-      controls.insert(control->objectName() + u':' + kind);
-      EXPECT_EQ(control->action(), actionOf(*control)) << control->objectName();
-      EXPECT_TRUE(isAvailable(*control) || kind == u"box" || kind == u"tabView" || kind == u"progress");
-      EXPECT_TRUE(kind != u"textField" || valueOf(*panel.view, control->objectName()).isEmpty());
-      EXPECT_TRUE(kind != u"holdButton" || control->property("state") == 0);
+TEST(Layouts, TheOthersLackSomeOfItsControlsAndPages) {
+  const PanelGroups largest;
+  for (const auto& [name, absent, pages] :
+       {std::tuple("JobControl4",
+                   "chasingArrow folderSelectionPopup folderSelectionStaticText getFolderNameButton "
+                   "printersAddressEditText printersAddressStaticText",
+                   1),
+        std::tuple("JobControl5",
+                   "customFolderRadioButton folderNameButton folderNameEditText folderSelectionMatrix "
+                   "mainFolderRadioButton quickFileRadioButton",
+                   2)}) {
+    SCOPED_TRACE(name);
+    const PanelGroups panel(name);
+    QStringList absentNow;
+    for (const Control* control : largest.view->controls()) {
+      const Control* same = panel.view->control(control->objectName());
+      if (same == nullptr) {
+        absentNow.append(control->objectName());
+        continue;
+      }
+      EXPECT_EQ(same->kind() + same->action(), control->kind() + control->action());
+      EXPECT_EQ(valueOf(*panel.view, same->objectName()), valueOf(*largest.view, same->objectName()));
+      EXPECT_EQ(isAvailable(*same), isAvailable(*control));
     }
-    EXPECT_EQ(QStringList((controls - row.controls).values()), QStringList());
-    EXPECT_EQ(QStringList((row.controls - controls).values()), QStringList());
-    EXPECT_EQ(panel.state.outlets.tabView->labels().size(), row.pages);
-    expectControls(*panel.view, "retentionCheckBox=0 suspendMatrix=0 authenticationMatrix=0 focus=");
-    expectControls(*panel.view, row.values);
+    absentNow.sort();
+    EXPECT_EQ(absentNow.join(u' '), Text(absent));
+    EXPECT_EQ(panel.view->controls().size() + absentNow.size(), largest.view->controls().size());
+    EXPECT_EQ(panel.state.outlets.tabView->labels().size(), pages);
   }
 }
 
@@ -171,36 +142,15 @@ TEST(InitializeUI, PadlocksAddressAndArrow) {
   }
 }
 
-TEST(InitializeUI, HappensOnceAndToleratesAbsentControls) {
-  PanelGroups panel;
-  initializeUI(panel.state);
-  panel.state.mfpURL = u"later"_s;
-  field(*panel.view, "userName").setFormatter(nullptr);
-  panel.state.outlets.chasingArrow->setHidden(false);
-  initializeUI(panel.state);
-  expectControls(*panel.view, "printersAddress=");
-  EXPECT_EQ(field(*panel.view, "userName").formatter(), nullptr);
-  EXPECT_FALSE(panel.state.outlets.chasingArrow->isHidden());
-
-  PanelGroups bare;
-  bare.state.outlets = {};
-  initializeUI(bare.state);
-  EXPECT_TRUE(bare.state.hasInited);
-}
-
 TEST(InitializeUI, TranslatesTheFirstTwoPages) {
-  for (const auto& [labels, translated] :
-       Cases{{"Job Storage", "Auftragsspeicher"}, {"On Off", "Ein Aus"}, {"On Off OK On", "Ein Aus OK On"}}) {
-    TestPlatform german(QLocale::German);
-    PanelGroups panel;
-    panel.state.pdeBundle = german.bundle();
-    TabView& tabs = *panel.state.outlets.tabView;
-    tabs.setLabels(labels == u"Job Storage" ? QStringList{labels} : labels.split(u' '));
-    tabs.selectTab(1);
-    initializeUI(panel.state);
-    EXPECT_EQ(tabs.labels().join(u' '), translated);
-    EXPECT_EQ(tabs.selectedTab(), 0);
-  }
+  PanelGroups panel;
+  panel.state.pdeBundle = TestPlatform(QLocale::German).bundle();
+  TabView& tabs = *panel.state.outlets.tabView;
+  tabs.setLabels({u"Job Storage"_s, u"Off"_s, u"On"_s});
+  tabs.selectTab(1);
+  initializeUI(panel.state);
+  EXPECT_EQ(tabs.labels().join(u' '), u"Auftragsspeicher Aus On"_s);
+  EXPECT_EQ(tabs.selectedTab(), 0);
 }
 
 TEST(InitializeUI, AGermanPanel) {
