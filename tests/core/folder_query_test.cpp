@@ -1,9 +1,5 @@
-#include <unistd.h>
-
-#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
-#include <QtCore/QSocketNotifier>
 
 #include "tests/support/folder_server.h"
 #include "tests/support/test_panel.h"
@@ -13,42 +9,51 @@ namespace {
 
 using End = FolderServer::End;
 
-const QByteArray oldAnswer = folders({"Old"});
-
-// A panel with an answer file of its own, restored.
+// A restored panel in German, with an answer file of its own.
 struct Query {
-  explicit Query(const QByteArray& answerFile = {}) {
+  Query() {
     platform.temporary = folder.path() + u'/';
     panel.emplace(platform);
     panel->restore();
-    if (answerFile.isNull()) return;
-    QFile file(folder.filePath(u"vwxyz.xml"_s));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(answerFile);
+    EXPECT_TRUE(button(panel->view(), "retentionCheckBox").click());
   }
 
-  void ask(const QString& address) {
-    field(panel->view(), "printersAddressEditText").setStringValue(address);
+  void ask(const Text& address) {
+    field(panel->view(), "printersAddress").setStringValue(address);
     EXPECT_TRUE(button(panel->view(), "getFolderNameButton").click());
   }
-
-  // The names of the folder list; "none" without a list.
-  QString list() const {
-    const QVariant value = panel->fact("folderList");
-    return value.typeId() == QMetaType::QVariantList ? namesOf(value.toList()) : u"none"_s;
+  // Reads the folders "A|B*" from an answer that is there already.
+  void list(const Text& names) {
+    QFile file(folder.filePath(u"vwxyz.xml"_s));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    QList<QByteArray> entries;
+    for (const QString& name : names.split(u'|', Qt::SkipEmptyParts))
+      entries.append(name.toUtf8());
+    file.write(folders(entries));
+    file.close();
+    ask("");
   }
-  static QString namesOf(const QVariantList& entries) {
+  // The folders of the panel, which are those of its record, too.
+  QString known() const {
     QStringList names;
+    const QVariantList entries = panel->fact("folderList").toList();
     for (const QVariant& entry : entries)
       names.append(entry.toMap().value(u"name"_s).toString());
+    EXPECT_EQ(platform.remembered().value(u"files"_s).toArray().toVariantList(), entries);
     return names.join(u'|');
   }
-  QJsonObject record() const {
-    return platform.defaults.domains.value(u"kesto.mfp.Office_MFP"_s).value(u"Job Handling"_s).toObject();
+  // Titles and images of the pop-up's items: "title(image)", "-" for a separator.
+  QString offered() {
+    QStringList texts;
+    for (const PopUpItem& item : popUp(panel->view(), "folderSelectionPopup").items()) {
+      texts.append(item.separator ? u"-"_s
+                                  : item.title + u'(' + (item.image ? item.image->name : QString()) + u')');
+    }
+    return texts.join(u' ');
   }
 
   QTemporaryDir folder;
-  TestPlatform platform;
+  TestPlatform platform{QLocale::German};
   std::optional<TestPanel> panel;
 };
 
@@ -58,158 +63,114 @@ TEST(FolderQuery, WhatTheUserSeesAndWhatTheListHoldsAfterwards) {
     const char* name;
     QByteArray answer;
     End end;
-    int alerts;
-    QString list;       // after an earlier fetch of "Old"
-    QString freshList;  // without any
+    QString list;  // after an earlier one of "Old"
     FolderFetch result;
   };
-  const QList<Row> rows{
-      {"a list", httpAnswer(folders({"Art", "Maps*"})), End::Close, 0, u"Art|Maps"_s, u"Art|Maps"_s,
-       FolderFetch::Listed},
-      {"transport error", "", End::Reset, 1, u"Old"_s, u""_s, FolderFetch::Failed},
-      {"body cut short", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\nx", End::Close, 1, u"Old"_s, u""_s,
-       FolderFetch::Failed},
-      {"not well-formed", httpAnswer("junk"), End::Close, 0, u"Old"_s, u""_s, FolderFetch::NotRead},
-      {"no children at the response", httpAnswer(envelope("")), End::Close, 0, u""_s, u""_s,
-       FolderFetch::NotRead},
-      {"no files", httpAnswer(envelope("<result-code>ok</result-code>")), End::Close, 0, u""_s, u""_s,
-       FolderFetch::NotRead},
-      {"another result", httpAnswer(failed), End::Close, 0, u""_s, u""_s, FolderFetch::NotRead},
-      {"no folders", httpAnswer(folders({})), End::Close, 0, u""_s, u""_s, FolderFetch::Listed},
-  };
-  for (const Row& row : rows) {
-    for (const bool isFirst : {true, false}) {
-      SCOPED_TRACE(testing::Message() << row.name << (isFirst ? ", first" : ", after another"));
-      FolderServer server;
-      Query query(isFirst ? QByteArray() : oldAnswer);
-      if (!isFirst) query.ask(QString());
-      ASSERT_EQ(query.list(), isFirst ? u""_s : u"Old"_s);
-      server.answer = row.answer;
-      server.end = row.end;
-      query.ask(server.address());
-      const QStringList alert{u""_s, u"Could not retrieve Folder Names."_s, u"OK"_s};
-      EXPECT_EQ(query.platform.alerts, std::vector<QStringList>(static_cast<std::size_t>(row.alerts), alert));
-      const QString expected = isFirst ? row.freshList : row.list;
-      EXPECT_EQ(query.list(), expected);
-      EXPECT_EQ(query.panel->controller->lastFolderFetch(), row.result);
-      // As it then stands, the list is stored with the address and offered.
-      EXPECT_EQ(query.record().value(u"address"_s).toString(), server.address());
-      EXPECT_EQ(Query::namesOf(query.record().value(u"files"_s).toArray().toVariantList()), expected);
-      const qsizetype offered = expected.isEmpty() ? 2 : 3 + expected.split(u'|').size();
-      EXPECT_EQ(popUp(query.panel->view(), "folderSelectionPopup").items().size(),
-                static_cast<std::size_t>(offered));
-      EXPECT_TRUE(query.panel->view().control<ProgressIndicator>(u"chasingArrow"_s)->isHidden());
-    }
+  for (const Row& row : {
+           Row{"a list", httpAnswer(folders({"Art", "Maps*"})), End::Close, u"Art|Maps"_s,
+               FolderFetch::Listed},
+           Row{"no folders", httpAnswer(folders({})), End::Close, u""_s, FolderFetch::Listed},
+           Row{"transport error", "", End::Reset, u"Old"_s, FolderFetch::Failed},
+           Row{"not well-formed", httpAnswer("junk"), End::Close, u"Old"_s, FolderFetch::NotRead},
+           Row{"no files", httpAnswer(envelope("")), End::Close, u""_s, FolderFetch::NotRead},
+           Row{"another result", httpAnswer(failed), End::Close, u""_s, FolderFetch::NotRead},
+       }) {
+    SCOPED_TRACE(row.name);
+    FolderServer server;
+    server.answer = row.answer;
+    server.end = row.end;
+    Query query;
+    query.list("Old");
+    query.ask(server.address());
+    EXPECT_EQ(query.known(), row.list);
+    EXPECT_EQ(query.panel->controller->lastFolderFetch(), row.result);
+    EXPECT_EQ(query.platform.remembered().value(u"address"_s).toString(), server.address());
+    EXPECT_TRUE(server.requests.value(0).contains("list-files"));
+    const std::vector<QStringList> alerts{
+        {u""_s, u"Die Ordnernamen konnten nicht abgerufen werden."_s, u"OK"_s}};
+    EXPECT_EQ(query.platform.alerts, row.result == FolderFetch::Failed ? alerts : std::vector<QStringList>());
+    EXPECT_TRUE(query.panel->view().control<ProgressIndicator>(u"chasingArrow"_s)->isHidden());
   }
 }
 
-TEST(FolderQuery, WithoutAnExchangeTheOlderAnswerIsRead) {
-  for (const char* address : {"", "bad address"}) {
-    SCOPED_TRACE(address);
-    Query query(oldAnswer);
-    query.ask(QString::fromLatin1(address));
-    EXPECT_EQ(query.list(), u"Old"_s);
-    EXPECT_TRUE(query.platform.alerts.empty());
-    EXPECT_EQ(query.panel->controller->lastFolderFetch(), FolderFetch::None);
-    EXPECT_EQ(query.record().value(u"address"_s).toString(), QString::fromLatin1(address));
-  }
-}
-
-TEST(FolderQuery, AnAnswerThatCannotBeKeptIsKnown) {
+TEST(FolderQuery, WithoutANewAnswerTheOlderOneIsRead) {
   FolderServer server;
-  Query query(oldAnswer);
-  query.ask(QString());
+  Query query;
   query.platform.temporary = u"/nonexistent/"_s;
   query.ask(server.address());
   EXPECT_EQ(query.panel->controller->lastFolderFetch(), FolderFetch::NotKept);
-  EXPECT_EQ(query.list(), u"Old"_s);
+  EXPECT_EQ(query.known(), u""_s);
+  query.platform.temporary = query.folder.path() + u'/';
+  query.list("Old");
+  query.ask("bad address");
+  EXPECT_EQ(query.known(), u"Old"_s);
+  EXPECT_TRUE(query.platform.alerts.empty());
+  EXPECT_EQ(query.panel->controller->lastFolderFetch(), FolderFetch::None);
 }
 
-TEST(FolderQuery, AFailureIsToldInTheUsersLanguage) {
-  Query query;
-  query.platform.bundleOfPanel = TestPlatform(QLocale::German).bundleOfPanel;
-  TestPanel german(query.platform);
-  field(german.view(), "printersAddressEditText").setStringValue(u"127.0.0.1:1"_s);
-  EXPECT_TRUE(button(german.view(), "getFolderNameButton").click());
-  ASSERT_EQ(query.platform.alerts.size(), 1U);
-  EXPECT_EQ(query.platform.alerts[0][1], u"Die Ordnernamen konnten nicht abgerufen werden."_s);
-}
-
-TEST(FolderQuery, ANewPanelOffersTheStoredFolders) {
+TEST(FolderQuery, AnswersTheUserAndTheHostWhileItWaits) {
   FolderServer server;
   Query query;
-  query.ask(server.address());
-  query.panel.emplace(query.platform);
-  EXPECT_EQ(query.list(), u"Art|Maps"_s);
-  EXPECT_EQ(query.panel->fact("addressStringRef").toString(), server.address());
-  query.panel->restore();
-  EXPECT_EQ(popUp(query.panel->view(), "folderSelectionPopup").items().size(), 5U);
-  EXPECT_EQ(server.requests.size(), 1);
-}
-
-TEST(FolderQuery, ASecondPressWhileTheFirstWaitsDoesNothing) {
-  FolderServer server;
-  Query query;
-  bool isSpinning = false;
+  TextField& number = field(query.panel->view(), "userNumber");
   server.onRequest = [&] {
-    isSpinning = !query.panel->view().control<ProgressIndicator>(u"chasingArrow"_s)->isHidden();
-    EXPECT_TRUE(button(query.panel->view(), "getFolderNameButton").click());
-  };
-  query.ask(server.address());
-  EXPECT_TRUE(isSpinning);
-  EXPECT_EQ(server.requests.size(), 1);
-  EXPECT_EQ(query.list(), u"Art|Maps"_s);
-}
-
-TEST(FolderQuery, SaveAndRestoreWhileItWaits) {
-  FolderServer server;
-  Query query;
-  server.onRequest = [&] {
-    field(query.panel->view(), "userNumberEditText").setStringValue(u"42"_s);
+    EXPECT_FALSE(query.panel->view().control<ProgressIndicator>(u"chasingArrow"_s)->isHidden());
+    EXPECT_TRUE(button(query.panel->view(), "getFolderNameButton").click()) << "which does nothing";
+    number.setStringValue(u"42"_s);
     query.panel->save();
-    field(query.panel->view(), "userNumberEditText").setStringValue(u"7"_s);
+    number.setStringValue(u"7"_s);
     query.panel->restore();
   };
   query.ask(server.address());
-  EXPECT_EQ(query.panel->host.value("userNumber"), u"00042"_s);
-  expectControls(query.panel->view(), u"userNumberEditText=42"_s);
-  EXPECT_EQ(query.list(), u"Art|Maps"_s);
+  EXPECT_EQ(server.requests.size(), 1);
+  EXPECT_EQ(number.stringValue(), u"42"_s);
+  EXPECT_EQ(query.known(), u"Art|Maps"_s);
 }
 
-// How many descriptors the process has.
-qsizetype descriptors() {
-  return QDir(u"/proc/self/fd"_s).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size();
-}
-
-// The second time it is destroyed by what the event loop delivers after the end of the exchange, in the same
-// pass: a notifier that is always ready, and waits until the connection has been closed on the panel's side.
 TEST(FolderQuery, APanelDestroyedWhileItWaitsEndsTheExchange) {
-  for (const bool isAfterTheEnd : {false, true}) {
-    SCOPED_TRACE(isAfterTheEnd);
-    FolderServer server;
-    server.end = isAfterTheEnd ? End::Reset : End::StayOpen;
-    server.answer = QByteArray();
+  FolderServer server;
+  server.end = End::StayOpen;
+  server.answer = QByteArray();
+  Query query;
+  const QJsonObject before = query.platform.remembered();
+  server.onRequest = [&] { query.panel->controller.reset(); };
+  query.ask(server.address());
+  EXPECT_EQ(query.panel->controller, nullptr);
+  EXPECT_TRUE(query.platform.alerts.empty());
+  EXPECT_EQ(query.platform.remembered(), before);
+}
+
+TEST(FolderPopup, ItemsFollowTheList) {
+  Query query;
+  const QString fixed = u"Schnellablage(space) Hauptordner(space)"_s;
+  for (const auto& [list, behind] :
+       Cases{{"Art|Maps: north*|OK", " - Art(space) Maps: north(lock) OK(space)"},
+             {"B", " - B(space)"},
+             {"", ""},
+             {"Work|WORK*", " - Work(space) WORK(lock)"}}) {
+    query.list(list);
+    EXPECT_EQ(query.offered(), fixed + behind);
+    expectControls(query.panel->view(), "folderSelectionPopup=1");
+  }
+}
+
+// A folder that is found again has its action sent, which moves focus.
+TEST(FolderPopup, ARebuildKeepsTheChoice) {
+  struct Row {
+    int chosen;
+    Text list;
+    int item;
+    Text focus;
+  };
+  for (const Row& row : {Row{0, "X", 0, "jobName"}, Row{1, "", 1, "jobName"},
+                         Row{4, "Maps*|Art", 3, "folderPassword"}, Row{4, "X|MAPS*", 4, "folderPassword"},
+                         Row{4, "Maps", 3, ""}, Row{4, "Art", 1, ""}, Row{4, "", 1, ""}}) {
+    SCOPED_TRACE(row.list);
     Query query;
-    const QJsonObject before = query.record();
-    int ends[2];
-    ASSERT_EQ(::pipe(ends), 0);  // its writing end is always ready
-    std::optional<QSocketNotifier> notifier;
-    const auto destroy = [&] { query.panel->controller.reset(); };
-    server.onRequest = [&] {
-      if (!isAfterTheEnd) return destroy();
-      notifier.emplace(ends[1], QSocketNotifier::Write);
-      QObject::connect(&*notifier, &QSocketNotifier::activated, &server, [&, open = descriptors()] {
-        // The server's end, and the two of the panel's: Qt's own and the one beside it.
-        if (descriptors() < open - 1) destroy();
-      });
-    };
-    query.ask(server.address());
-    EXPECT_EQ(query.panel->controller, nullptr);
-    EXPECT_EQ(server.requests.size(), 1);
-    EXPECT_TRUE(query.platform.alerts.empty());
-    EXPECT_EQ(query.record(), before);
-    ::close(ends[0]);
-    ::close(ends[1]);
+    query.list("Art|Maps*");
+    setControls(query.panel->view(), u"folderSelectionPopup=%1"_s.arg(row.chosen));
+    query.panel->view().makeFirstResponder(&field(query.panel->view(), "jobName"));
+    query.list(row.list);
+    expectControls(query.panel->view(), u"folderSelectionPopup=%1 focus="_s.arg(row.item) + row.focus);
   }
 }
 

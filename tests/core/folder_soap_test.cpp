@@ -8,6 +8,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
+#include <QtNetwork/QNetworkProxy>
 
 #include "folders/soap_client.h"
 #include "tests/support/folder_server.h"
@@ -29,11 +30,16 @@ namespace kesto::test {
 namespace {
 
 using namespace std::chrono_literals;
+using namespace std::string_view_literals;
 using End = FolderServer::End;
 
 // One exchange with an answer file of its own.
 struct Exchange : SoapContext {
-  Exchange() { platform.temporary = folder.path() + u'/'; }
+  Exchange() {
+    platform.temporary = folder.path() + u'/';
+    QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, u"127.0.0.1"_s, 9});  // none stands between
+  }
+  ~Exchange() override { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); }
 
   void recieveEndCallback() override { ++failures; }
 
@@ -62,23 +68,16 @@ struct Exchange : SoapContext {
 };
 
 TEST(SoapClient, SendsTheRequestAsItIs) {
-  for (const QByteArray& body : {QByteArray("<request>\xC3\xA4</request>\n"), QByteArray()}) {
-    SCOPED_TRACE(body.size());
-    FolderServer server;
-    Exchange exchange;
-    ASSERT_TRUE(exchange.run(server.url(), 10s, body));
-    ASSERT_EQ(server.requests.size(), 1);
-    const QByteArray head = server.requests[0].left(server.requests[0].indexOf("\r\n\r\n"));
-    QList<QByteArray> lines = head.split('\n');
-    for (QByteArray& line : lines)
-      line = line.trimmed();
-    EXPECT_EQ(lines[0], "POST /kesto-mfp-srv HTTP/1.1");
-    EXPECT_TRUE(lines.contains("SOAPAction: \"SoapActionDummy\""));
-    EXPECT_TRUE(lines.contains("Content-Type: application/soap; charset=\"utf-8\""));
-    EXPECT_TRUE(lines.contains("Content-Length: " + QByteArray::number(body.size())));
-    EXPECT_EQ(head.count("Content-"), 2);
-    EXPECT_EQ(server.requests[0].mid(head.size() + 4), body);
-  }
+  FolderServer server;
+  Exchange exchange;
+  const QByteArray body = "<request>\xC3\xA4</request>\n";
+  ASSERT_TRUE(exchange.run(server.url(), 10s, body));
+  ASSERT_EQ(server.requests.size(), 1);
+  EXPECT_EQ(server.requests[0], "POST /kesto-mfp-srv HTTP/1.1\r\nHost: " + server.address().toLatin1() +
+                                    "\r\nSOAPAction: \"SoapActionDummy\"\r\n"
+                                    "Content-Type: application/soap; charset=\"utf-8\"\r\n"
+                                    "Content-Length: 22\r\nConnection: close\r\n\r\n" +
+                                    body);
 }
 
 TEST(SoapClient, TriesTheAddressesOfAName) {
@@ -101,62 +100,56 @@ TEST(SoapClient, ASilentNameServerHoldsNobody) {
   EXPECT_EXIT(ask(), testing::ExitedWithCode(1), "");
 }
 
+// What the answer file, which was "old", holds afterwards; a failure leaves it.
 TEST(SoapClient, TheEventThatEndsTheExchangeDecides) {
   struct Row {
-    const char* name;
     QByteArray answer;
     End end;
-    bool isAnswered;
-    QByteArray body;
+    const char* body;
   };
   const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\nConnection: close\r\n\r\n";
+  const QByteArray hundred = "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n";
   const QByteArray tooLong(answer_limits::bytes + 1, 'x');
-  const QList<Row> rows{
-      {"whole", httpAnswer("good"), End::Close, true, "good"},
-      {"whole, connection stays open", httpAnswer("good"), End::StayOpen, true, "good"},
-      {"empty", httpAnswer(""), End::Close, true, ""},
-      {"an error of the server with a body", httpAnswer("bad", "500 Internal Server Error"), End::Close, true,
-       "bad"},
-      {"an error of the request with a body", httpAnswer("bad", "400 Bad Request"), End::Close, true, "bad"},
-      {"a demand to log in", httpAnswer("no", "401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n"),
-       End::Close, true, "no"},
-      {"chunks", chunked + "3\r\nabc\r\n4\r\ndefg\r\n0\r\n\r\n", End::Close, true, "abcdefg"},
-      {"until the connection ends", "HTTP/1.0 200 OK\r\n\r\nlast", End::Close, true, "last"},
-      {"lines that end in a mere line feed",
-       "HTTP/1.1 100 Continue\n\nHTTP/1.1 200 OK\nContent-Length: 4\n\ngood", End::StayOpen, true, "good"},
-      {"one length twice", httpAnswer("good", "200 OK", "Content-Length: 4\r\n"), End::Close, true, "good"},
-      {"two lengths", httpAnswer("good", "200 OK", "Content-Length: 2\r\n"), End::Close, false, "old"},
-      {"two codings",
-       "HTTP/1.1 200 OK\r\nTransfer-Encoding: identity\r\n" + chunked.mid(17) + "2\r\nab\r\n0\r\n\r\n",
-       End::Close, true, "ab"},
-      {"a length beyond all numbers", "HTTP/1.1 200 OK\r\nContent-Length: 99999999999999999999\r\n\r\nlong",
-       End::Close, false, "old"},
-      {"a head without end", "HTTP/1.1 200 OK\r\n" + QByteArray("X: y\r\n").repeated(20000), End::StayOpen,
-       false, "old"},
-      {"no answer", "", End::Close, false, "old"},
-      {"reset", "", End::Reset, false, "old"},
-      {"cut short", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nshort", End::Close, false, "old"},
-      {"reset in the middle", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nshort", End::Reset, false,
-       "old"},
-      {"reset in a body without a length", "HTTP/1.0 200 OK\r\n\r\nhalf", End::Reset, false, "old"},
-      {"last chunk missing", chunked + "3\r\nabc\r\n", End::Close, false, "old"},
-      {"not HTTP", "hello\r\n\r\n", End::Close, false, "old"},
-      {"longer than the limit", httpAnswer(tooLong), End::Close, false, "old"},
-      {"no answer in time", "", End::StayOpen, false, "old"},
-      {"half an answer in time", "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nslow", End::StayOpen, false,
-       "old"},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
+  const QByteArray withoutEnd = "HTTP/1.1 200 OK\r\n" + QByteArray("X: y\r\n").repeated(20000);
+  for (const Row& row : {
+           Row{httpAnswer("good"), End::Close, "good"},
+           {httpAnswer("good"), End::StayOpen, "good"},
+           {httpAnswer(""), End::StayOpen, ""},
+           {httpAnswer("bad", "500 Internal Server Error"), End::Close, "bad"},
+           {httpAnswer("no", "401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n"), End::Close,
+            "no"},
+           {httpAnswer("here", "302 Found", "Location: http://127.0.0.1:9/\r\n"), End::Close, "here"},
+           {chunked + "3\r\nabc\r\n4\r\ndefg\r\n0\r\n\r\n", End::Close, "abcdefg"},
+           {"HTTP/1.0 200 OK\r\n\r\nlast", End::Close, "last"},
+           {"HTTP/1.1 100 Continue\n\nHTTP/1.1 200 OK\ncontent-length : 4\n\ngood", End::StayOpen, "good"},
+           {httpAnswer("good", "200 OK", "Content-Length: 4\r\n"), End::Close, "good"},
+           {httpAnswer("good", "200 OK", "Content-Length: 2\r\n"), End::Close, nullptr},
+           {"HTTP/1.1 200 OK\r\nTransfer-Encoding: identity\r\n" + chunked.mid(17) + "2\r\nab\r\n0\r\n\r\n",
+            End::Close, "ab"},
+           {"HTTP/1.1 200 OK\r\nContent-Length: 99999999999999999999\r\n\r\nlong", End::Close, nullptr},
+           {withoutEnd, End::StayOpen, nullptr},
+           {QByteArray(100000, 'x'), End::StayOpen, nullptr},
+           {"", End::Close, nullptr},
+           {"", End::Reset, nullptr},
+           {hundred + "short", End::Close, nullptr},
+           {hundred + "short", End::Reset, nullptr},
+           {"HTTP/1.0 200 OK\r\n\r\nhalf", End::Reset, nullptr},
+           {chunked + "3\r\nabc\r\n", End::Close, nullptr},
+           {"hello\r\n\r\n", End::Close, nullptr},
+           {httpAnswer(tooLong), End::StayOpen, nullptr},
+           {"", End::StayOpen, nullptr},
+           {hundred + "slow", End::StayOpen, nullptr},
+       }) {
+    SCOPED_TRACE(row.answer.left(200) + (row.end == End::Reset ? ", reset" : ""));
     FolderServer server;
     server.answer = row.answer;
     server.end = row.end;
     Exchange exchange;
     exchange.putOld();
-    const bool isSlow = !row.isAnswered && row.end == End::StayOpen && row.answer.size() < 100;
+    const bool isSlow = row.body == nullptr && row.end == End::StayOpen && row.answer.size() < 100;
     ASSERT_TRUE(exchange.run(server.url(), isSlow ? 50ms : 10000ms));
-    EXPECT_EQ(exchange.failures, row.isAnswered ? 0 : 1);
-    EXPECT_EQ(exchange.answer(), row.body);
+    EXPECT_EQ(exchange.failures, row.body == nullptr ? 1 : 0);
+    EXPECT_EQ(exchange.answer(), row.body == nullptr ? "old" : row.body);
   }
 }
 
@@ -173,7 +166,6 @@ TEST(SoapClient, ASlowTrickleEndsAtTheLimit) {
   Exchange exchange;
   ASSERT_TRUE(exchange.run(server.url(), 100ms));
   EXPECT_EQ(exchange.failures, 1);
-  EXPECT_TRUE(exchange.answer().isNull());
 }
 
 TEST(SoapClient, EndsWithTheApplication) {
@@ -222,35 +214,13 @@ TEST(SoapClient, InvalidUrlsGiveNoClient) {
   }
 }
 
-TEST(SoapClient, NoProxyStandsBetween) {
-  qputenv("http_proxy", "http://127.0.0.1:9");
-  FolderServer server;
-  Exchange exchange;
-  ASSERT_TRUE(exchange.run(server.url()));
-  qunsetenv("http_proxy");
-  EXPECT_EQ(server.requests.size(), 1);
-  EXPECT_EQ(exchange.failures, 0);
-}
-
-TEST(SoapClient, RedirectsAreNotFollowed) {
-  FolderServer elsewhere;
-  FolderServer server;
-  server.answer = httpAnswer("here", "302 Found", "Location: " + elsewhere.url().toLatin1() + "\r\n");
-  Exchange exchange;
-  ASSERT_TRUE(exchange.run(server.url()));
-  EXPECT_EQ(elsewhere.requests.size(), 0);
-  EXPECT_EQ(exchange.answer(), "here");
-}
-
 TEST(SoapClient, TheAnswerFileIsPrivateAndReplacesALink) {
   FolderServer server;
   Exchange exchange;
-  const QString victim = exchange.folder.filePath(u"victim"_s);
-  QFile precious(victim);
-  ASSERT_TRUE(precious.open(QIODevice::WriteOnly));
-  precious.write("precious");
+  QFile precious(exchange.folder.filePath(u"victim"_s));
+  ASSERT_TRUE(precious.open(QIODevice::WriteOnly) && precious.write("precious") == 8);
   precious.close();
-  ASSERT_TRUE(QFile::link(victim, exchange.path()));
+  ASSERT_TRUE(QFile::link(precious.fileName(), exchange.path()));
   ASSERT_TRUE(exchange.run(server.url()));
   ASSERT_TRUE(precious.open(QIODevice::ReadOnly));
   EXPECT_EQ(precious.readAll(), "precious");
@@ -261,36 +231,26 @@ TEST(SoapClient, TheAnswerFileIsPrivateAndReplacesALink) {
   EXPECT_EQ(exchange.answer(), folders({"Art", "Maps*"}));
 }
 
-TEST(SoapClient, AnAnswerThatCannotBeWrittenIsNotReported) {
-  FolderServer server;
-  Exchange exchange;
-  exchange.platform.temporary = exchange.folder.filePath(u"nowhere/"_s);
-  ASSERT_TRUE(exchange.run(server.url()));
-  EXPECT_EQ(exchange.failures, 0);
-  EXPECT_EQ(server.requests.size(), 1);
-}
-
 // Also when the exchange has just ended otherwise: who would be told may be gone.
 TEST(SoapClient, CancelledIsCancelledInEveryState) {
   struct Row {
     const char* name;
     QByteArray answer;
     End end;
-    bool isEarly;
   };
-  for (const Row& row :
-       {Row{"running", "", End::StayOpen, true}, Row{"answered", httpAnswer("good"), End::Close, false},
-        Row{"failed", "", End::Close, false}, Row{"out of time", "", End::StayOpen, false}}) {
+  for (const Row& row : {Row{"running", "", End::StayOpen}, Row{"answered", httpAnswer("good"), End::Close},
+                         Row{"failed", "", End::Close}, Row{"out of time", "", End::StayOpen}}) {
     SCOPED_TRACE(row.name);
+    const bool isEarly = row.name == "running"sv;
     FolderServer server;
     server.answer = row.answer;
     server.end = row.end;
     Exchange exchange;
     exchange.putOld();
-    exchange.client = KestoPrintPdeVq250nJCSOAPClient::initWithServerName(
-        server.url(), exchange.platform, &exchange, row.isEarly ? 10s : 100ms);
+    exchange.client = KestoPrintPdeVq250nJCSOAPClient::initWithServerName(server.url(), exchange.platform,
+                                                                          &exchange, isEarly ? 10s : 100ms);
     const auto cancel = [&exchange] { exchange.client->cancel(); };
-    if (row.isEarly) server.onRequest = cancel;
+    if (isEarly) server.onRequest = cancel;
     QObject::connect(exchange.client.get(), &KestoPrintPdeVq250nJCSOAPClient::finishedChanged, &server,
                      cancel, Qt::SingleShotConnection);
     exchange.client->sendMessage("<request/>");
@@ -318,11 +278,6 @@ TEST(SoapClient, WithoutADescriptorForTheConnectionNobodyIsNotified) {
   EXPECT_EQ(exchange.failures, 0);
   EXPECT_EQ(exchange.answer(), "old");
   EXPECT_TRUE(server.requests.isEmpty());
-}
-
-TEST(SoapClient, WithoutATemporaryDirectoryTheFileIsInTmp) {
-  TestPlatform platform;
-  EXPECT_EQ(answerFilePath(platform), u"/tmp/vwxyz.xml"_s);
 }
 
 }  // namespace
