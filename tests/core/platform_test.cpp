@@ -3,13 +3,15 @@
 #include <unistd.h>
 
 #include <QtCore/QDir>
-#include <QtCore/QFileInfo>
+#include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 
-#include "hosts/session/panel_host.h"
+#include "platform/bundle.h"
 #include "platform/environment.h"
+#include "platform/locale_name.h"
+#include "platform/panel.h"
 #include "platform/shown_text.h"
-#include "tests/support/test_host.h"
+#include "tests/support/printing.h"
 
 namespace kesto {
 namespace {
@@ -18,16 +20,26 @@ using namespace test;
 
 const QString bundleName = u"JobHandling.pde"_s;
 
-// Sets environment variables for one test; a null value unsets one.
+// Sets environment variables for one test.
 class Environment : public testing::Test {
  protected:
   void TearDown() override {
     for (const auto& [name, value] : m_before)
       put(name, value);
   }
+  // A null value unsets the variable.
   void set(const char* name, const QByteArray& value) {
     m_before.insert(m_before.begin(), {name, qgetenv(name)});
     put(name, value);
+  }
+  // "-" unsets a variable.
+  void setAll(std::initializer_list<const char*> names, const Text& values) {
+    const QStringList parts = values.split(u' ');
+    qsizetype at = 0;
+    for (const char* name : names) {
+      const QString& part = parts.at(at++);
+      set(name, part == u"-" ? QByteArray() : part.toLatin1());
+    }
   }
 
  private:
@@ -39,94 +51,82 @@ class Environment : public testing::Test {
 
 TEST_F(Environment, TheFirstLocaleVariableThatIsSetDecides) {
   using enum TextEncoding;
-  using Case = std::pair<std::array<const char*, 3>, TextEncoding>;
   for (const auto& [values, encoding] :
-       {Case{{"ja_JP", "ko_KR", "ru_RU"}, MacJapanese}, Case{{nullptr, "ko_KR", "ru_RU"}, MacKorean},
-        Case{{"", "ko_KR", "ru_RU"}, MacKorean}, Case{{nullptr, "", "ru_RU"}, MacCyrillic},
-        Case{{"C", "ko_KR", "ru_RU"}, MacRoman}, Case{{nullptr, nullptr, nullptr}, MacRoman}}) {
-    set("LC_ALL", values[0]);
-    set("LC_CTYPE", values[1]);
-    set("LANG", values[2]);
-    EXPECT_EQ(systemEncodingOfEnvironment(), encoding);
+       {std::pair("ja_JP ko_KR ru_RU", MacJapanese), std::pair("- ko_KR ru_RU", MacKorean),
+        std::pair(" ko_KR ru_RU", MacKorean), std::pair("-  ru_RU", MacCyrillic),
+        std::pair("C ko_KR ru_RU", MacRoman), std::pair("- - -", MacRoman)}) {
+    setAll({"LC_ALL", "LC_CTYPE", "LANG"}, values);
+    EXPECT_EQ(systemEncodingOfEnvironment(), encoding) << values;
   }
 }
 
 TEST_F(Environment, TheFirstLanguageOfTheUsersThatThereIsDecides) {
-  // LC_ALL, LC_MESSAGES, LANG and LANGUAGE.
-  using Case = std::pair<std::array<const char*, 4>, Text>;
-  for (const auto& [values, language] :
-       {Case{{"de_DE.UTF-8", "fr_FR", "es_ES", nullptr}, "de"}, Case{{"", "fr_CA.UTF-8", "es_ES", ""}, "fr"},
-        Case{{nullptr, nullptr, "es_MX", nullptr}, "es"},
-        Case{{nullptr, nullptr, "en_US.UTF-8", "en_US:de"}, "en"},
-        Case{{nullptr, nullptr, "en_GB.UTF-8", "en_GB:en:fr"}, "en"},
-        Case{{nullptr, nullptr, "de_DE.UTF-8", "pt_BR:es"}, "es"},
-        Case{{nullptr, nullptr, "de_DE.UTF-8", "pt_BR:nl"}, "de"},
-        Case{{nullptr, nullptr, "pt_BR.UTF-8", "nl::ja_JP"}, "ja"},
-        Case{{nullptr, nullptr, "de_DE.UTF-8", "C:fr"}, "en"}, Case{{"C", nullptr, "de_DE", "de"}, "en"},
-        Case{{"POSIX", nullptr, nullptr, "de"}, "en"}, Case{{nullptr, "C.UTF-8", "de_DE", "de"}, "en"},
-        Case{{nullptr, nullptr, nullptr, "de"}, "en"}, Case{{nullptr, nullptr, "pt_BR", nullptr}, "en"},
-        Case{{nullptr, nullptr, "zh_SG.UTF-8", nullptr}, "zh"},
-        Case{{nullptr, nullptr, "zh_TW.UTF-8", "zh_TW:fr"}, "fr"}}) {
-    int number = 0;
-    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"})
-      set(variable, values.at(static_cast<std::size_t>(number++)));
-    EXPECT_EQ(QLocale::languageToCode(userLanguage().language()), language) << values[2] << values[3];
-    const Bundle bundle(Bundle::find(bundleName));
-    EXPECT_EQ(bundle.localizedStringForKey(u"Retention"_s) == u"Zurückhalten"_s, language == u"de"_s);
-    EXPECT_EQ(bundle.localizedStringForKey(u"No such text"_s), u"No such text"_s);
+  for (const auto& [values, language] : Cases{{"de_DE.UTF-8 fr_FR es_ES -", "de"},
+                                              {" fr_CA.UTF-8 es_ES ", "fr"},
+                                              {"- - es_MX -", "es"},
+                                              {"- - en_US.UTF-8 en_US:de", "en"},
+                                              {"- - de_DE.UTF-8 pt_BR:es", "es"},
+                                              {"- - de_DE.UTF-8 pt_BR:nl", "de"},
+                                              {"- - pt_BR.UTF-8 nl::ja_JP", "ja"},
+                                              {"- - de_DE.UTF-8 C:fr", "en"},
+                                              {"C - de_DE de", "en"},
+                                              {"POSIX - - de", "en"},
+                                              {"- C.UTF-8 de_DE de", "en"},
+                                              {"- - - de", "en"},
+                                              {"- - pt_BR -", "en"},
+                                              {"- - zh_SG.UTF-8 -", "zh"},
+                                              {"- - zh_TW.UTF-8 zh_TW:fr", "fr"}}) {
+    setAll({"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"}, values);
+    EXPECT_EQ(QLocale::languageToCode(userLanguage().language()), language) << values;
   }
 }
 
 TEST_F(Environment, TheTemporaryDirectoryIsNamedOrPrivate) {
   const QTemporaryDir folder;
-  const QByteArray own = folder.path().toLatin1() + "/kesto";
-  for (const char* named : {"/named", "/named/"}) {
-    set("TMPDIR", named);
-    EXPECT_EQ(userTemporaryDirectory(), u"/named/"_s);
+  const QByteArray runtime = folder.path().toLatin1();
+  const QByteArray own = runtime + "/kesto";
+  const QByteArray relative = QDir().relativeFilePath(folder.path()).toLatin1();
+  struct Case {
+    QByteArray named;
+    QByteArray runtime;
+    QByteArray directory;
+  };
+  for (const Case& row :
+       {Case{"/named", runtime, "/named/"}, Case{"/named/", runtime, "/named/"}, Case{{}, {}, {}},
+        Case{{}, runtime + "/missing", {}}, Case{{}, relative, {}}, Case{"", runtime, own + '/'}}) {
+    set("TMPDIR", row.named);
+    set("XDG_RUNTIME_DIR", row.runtime);
+    EXPECT_EQ(userTemporaryDirectory().toLatin1(), row.directory) << row.named << ' ' << row.runtime;
   }
-  set("TMPDIR", {});
-  for (const QByteArray& runtime : {QByteArray(), QByteArray(), folder.path().toLatin1() + "/missing"}) {
-    set("XDG_RUNTIME_DIR", runtime);
-    EXPECT_TRUE(userTemporaryDirectory().isNull());
-  }
-  set("XDG_RUNTIME_DIR", folder.path().toLatin1());
-  EXPECT_EQ(userTemporaryDirectory().toLatin1(), own + '/');
-  set("TMPDIR", "");
-  EXPECT_EQ(userTemporaryDirectory().toLatin1(), own + '/');
   struct stat info {};
   ASSERT_EQ(::stat(own.constData(), &info), 0);
   EXPECT_EQ(info.st_mode & 07777, 0700U);
-
   ASSERT_EQ(::chmod(own.constData(), 0750), 0);
   EXPECT_TRUE(userTemporaryDirectory().isNull()) << "others may enter";
   ASSERT_EQ(::rmdir(own.constData()), 0);
-  ASSERT_EQ(::symlink("/tmp", own.constData()), 0);
+  const QByteArray elsewhere = runtime + "/elsewhere";
+  ASSERT_EQ(::mkdir(elsewhere.constData(), 0700) + ::symlink(elsewhere.constData(), own.constData()), 0);
   EXPECT_TRUE(userTemporaryDirectory().isNull()) << "a link was followed";
 }
 
 TEST_F(Environment, FoldersOfVariablesAreAbsoluteOrIgnored) {
   const passwd* entry = getpwuid(getuid());
-  const QByteArray home = QByteArray(entry == nullptr ? "" : entry->pw_dir) + "/.config/";
-  using Case = std::tuple<const char*, const char*, QByteArray>;
-  for (const auto& [configuration, variable, folder] :
-       {Case{"/c", "/home/x", "/c/"}, Case{"/c/", nullptr, "/c/"}, Case{"c", "/home/x", "/home/x/.config/"},
-        Case{"./c", "/home/x/", "/home/x/.config/"}, Case{"", "/home/x", "/home/x/.config/"},
-        Case{nullptr, nullptr, home}, Case{nullptr, "", home}, Case{"~/c", "here", home}}) {
-    set("XDG_CONFIG_HOME", configuration);
-    set("HOME", variable);
-    EXPECT_EQ(userConfigurationDirectory().toLatin1(), folder);
+  const QString home = QLatin1String(entry == nullptr ? "" : entry->pw_dir) + u"/.config/"_s;
+  for (const auto& [values, folder] : Cases{{"/c /home/x", "/c/"},
+                                            {"/c/ -", "/c/"},
+                                            {"./c /home/x/", "/home/x/.config/"},
+                                            {" /home/x", "/home/x/.config/"},
+                                            {"- -", home},
+                                            {"~/c here", home}}) {
+    setAll({"XDG_CONFIG_HOME", "HOME"}, values);
+    EXPECT_EQ(userConfigurationDirectory(), folder) << values;
   }
-  set("TMPDIR", {});
-  const QTemporaryDir folder;
-  const QByteArray relative = QDir().relativeFilePath(folder.path()).toLatin1();
-  set("XDG_RUNTIME_DIR", relative);
-  EXPECT_TRUE(userRuntimeDirectory().isNull() && userTemporaryDirectory().isNull()) << relative.constData();
 }
 
 TEST(ShownText, NothingOfItIsObeyed) {
   for (const auto& [text, shown] : Cases{{"Größe 印 \U0001F5A8", "Größe 印 \U0001F5A8"},
                                          {"a\nb\r\tc", R"(a\nb\r\tc)"},
-                                         {"\x1b[2J\x7f\u009b", R"(\x1b[2J\x7f\x9b)"},
+                                         {"\x1b[2J\x01\x7f\u009b", R"(\x1b[2J\x01\x7f\x9b)"},
                                          {"x\u202Efdp.exe\u2028\u200F", R"(x\u202efdp.exe\u2028\u200f)"},
                                          {"می\u200Cخواهم", "می\u200Cخواهم"},
                                          {"", ""}})
@@ -138,41 +138,21 @@ TEST(ShownText, NothingOfItIsObeyed) {
   EXPECT_EQ(shownPath("/gr\xf6n/a\n"), u"/gr\\xf6n/a\\n"_s);
 }
 
-TEST(Bundle, ResourcesByNameAndType) {
-  const QString path = Bundle::find(bundleName);
-  const Bundle bundle(path);
-  EXPECT_EQ(bundle.pathForResource(u"space"_s, u"png"_s), path + u"/Resources/space.png"_s);
+TEST(BundleTest, ResourcesAndTextsByName) {
+  const Bundle bundle(Bundle::find(bundleName), QLocale(QLocale::German));
   EXPECT_TRUE(bundle.resource(u"listfiles2"_s, u"xml"_s).value_or("").contains("Envelope"));
   EXPECT_TRUE(bundle.pathForResource(u"space"_s, u"gif"_s).isNull());
   EXPECT_TRUE(bundle.pathForResource(u"../Resources/"_s, u""_s).isNull()) << "a folder is no resource";
-  EXPECT_EQ(bundle.resource(u"missing"_s, u"xml"_s), std::nullopt);
+  EXPECT_EQ(bundle.localizedStringForKey(u"Retention"_s), u"Zurückhalten"_s);
+  EXPECT_EQ(bundle.localizedStringForKey(u"No such text"_s), u"No such text"_s);
   EXPECT_TRUE(Bundle::find(u"NoSuch.pde"_s).isNull());
 }
 
-TEST(Bundle, LoadedThroughItsPrincipalObjectGivesAPanel) {
-  PrintDialogPlugIn* plugIn = nullptr;
-  std::shared_ptr<const Bundle> bundle;
-  const Outcome loaded = loadJobHandlingBundle(&bundle, &plugIn);
-  ASSERT_TRUE(loaded) << loaded.reason();
-  TestPlatform platform;
-  const PpdFixture ppd;
-  TestHost host(platform);
-  host.ppd = ppd.file();
-  PanelList panels = plugIn->PDEPanelsForType(QLatin1String(printDialogType), &host);
-  ASSERT_TRUE(panels && panels->size() == 1);
-  EXPECT_EQ(panels->front()->panelName(), u"Job Handling"_s);
-  EXPECT_NE(panels->front()->panelView(), nullptr);
-  EXPECT_TRUE(panels->front()->shouldPrint());
-  host.expect("jobSuspend=0");
-}
-
-TEST(Bundle, CodeThatDoesNotLoadIsReported) {
+TEST(BundleTest, CodeThatDoesNotLoadIsReported) {
   const QTemporaryDir folder;
   ASSERT_TRUE(QDir(folder.path()).mkdir(u"Damaged.pde"_s));
   QFile code(folder.filePath(u"Damaged.pde/Damaged.so"_s));
-  ASSERT_TRUE(code.open(QIODevice::WriteOnly));
-  code.write("no code");
-  code.close();
+  ASSERT_TRUE(code.open(QIODevice::WriteOnly) && code.write("no code") > 0 && code.flush());
   for (const QString& name : {u"Missing.pde"_s, u"Damaged.pde"_s}) {
     PrintDialogPlugIn* plugIn = nullptr;
     const Outcome loaded = Bundle(folder.filePath(name)).loadPrincipalObject(&plugIn);

@@ -72,15 +72,12 @@ TEST(TextEncoding, WhatDoesNotConvertStopsOrIsSubstituted) {
 TEST(TextEncoding, LimitsNeverSplitACharacter) {
   // One, two, three and four bytes in UTF-8; one, one, one and two units.
   const QString text = u"aé漢😀"_s;
-  qsizetype limit = 0;
-  for (const int within : {0, 1, 1, 3, 3, 3, 6, 6, 6, 6, 10, 10}) {
-    EXPECT_EQ(bytesOfText(text, Utf8, noLimit, limit).size(), within) << limit;
-    ++limit;
-  }
-  limit = 0;
-  for (const int within : {0, 1, 3, 6, 6, 10, 10}) {
-    EXPECT_EQ(bytesOfText(text, Utf8, limit, noLimit).size(), within) << limit;
-    ++limit;
+  const std::array<int, 11> sizesWithinBytes{0, 1, 1, 3, 3, 3, 6, 6, 6, 6, 10};
+  const std::array<int, 11> sizesWithinUnits{0, 1, 3, 6, 6, 10, 10, 10, 10, 10, 10};
+  for (std::size_t limit = 0; limit < sizesWithinBytes.size(); ++limit) {
+    const auto most = static_cast<qsizetype>(limit);
+    EXPECT_EQ(bytesOfText(text, Utf8, noLimit, most).size(), sizesWithinBytes.at(limit)) << limit;
+    EXPECT_EQ(bytesOfText(text, Utf8, most, noLimit).size(), sizesWithinUnits.at(limit)) << limit;
   }
   EXPECT_EQ(bytesOfText(u"漢漢"_s, MacJapanese, noLimit, 3).toHex(), "8abf");
   EXPECT_EQ(bytesOfText(u"漢漢"_s, MacRoman, noLimit, 1, ' '), " ");
