@@ -1,6 +1,5 @@
 #include "settings/settings_reader.h"
 
-#include "platform/job_keys.h"
 #include "tests/support/availability.h"
 #include "tests/support/test_panel.h"
 
@@ -45,15 +44,12 @@ TEST_F(SettingsReaderTest, ChoicesAndDefaults) {
        {"jobSuspend=1", "retentionCheckBox=1 suspendMatrix=1"},
        {"jobSuspend=3x", "retentionCheckBox=1 suspendMatrix=2"},
        {"jobSuspend=0", "retentionCheckBox=0 suspendMatrix=0"},
-       {"jobSuspend=4", "retentionCheckBox=0"},
        {"jobSuspend=\u0663", "retentionCheckBox=0"},
-       {"Authentication=1", "authenticationMatrix=0"},
        {"Authentication=0", "authenticationMatrix=1 focus="},
        {"Authentication=", "authenticationMatrix=1"},
        {"jobSuspend=1 filing=1", "folderSelectionPopup=0 folderSelectionMatrix=0 suspendMatrix=1"},
        {"jobSuspend=3 filing=1", "folderSelectionPopup=0 folderSelectionMatrix=0 suspendMatrix=1"},
        {"jobSuspend=0 filing=1", "folderSelectionPopup=1 folderSelectionMatrix=1"},
-       {"jobSuspend=1 filing=2", "folderSelectionPopup=1 folderSelectionMatrix=1"},
        {"jobSuspend=1 filing=3", "folderSelectionPopup=1 folderSelectionMatrix=1"},
        {"jobSuspend=1 filing=3 folderPath=5A576549",
         "folderSelectionPopup=5 folderSelectionMatrix=2 folderName=ZWeI focus=folderPassword"},
@@ -73,7 +69,6 @@ TEST_F(SettingsReaderTest, SealedFields) {
        {"jobSuspend=2 jobSuspend2Key=AF545963687A84AFEC6B471B38AEA7CC holdButton=1",
         "suspendKey= suspendKeyButton=1"},
        {"jobSuspend=0 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991", "suspendKey="},
-       {"jobSuspend=2 holdButton=1", "suspendKey= suspendKeyButton=0"},
        {"jobSuspend=2 jobSuspend2Key= holdButton=1", "suspendKey= suspendKeyButton=1"},
        {"jobSuspend=2 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA9", "suspendKey="},
        {"jobSuspend=2 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991FF", "suspendKey=7"},
@@ -99,7 +94,6 @@ TEST_F(SettingsReaderTest, NamesAndLoginNames) {
   expectCases(
       {{"userName=418E jobName=6A holdButton=24",
         "userName=A\u00E9 userNameButton=1 jobName=j jobNameButton=1"},
-       {"userName= holdButton=8", "userName=Jane_Doe userNameButton=0"},
        {"userName=00414243", "userName=Jane_Doe"},
        {"loginName11=J715aTy6C1tJPaVj loginName12=4yTI/Q==", "loginName=jdoe loginNameButton=0"},
        {"loginName11=J715aTy6C1tJPaVj loginName12=4yTI/Q== holdButton=2", "loginName=•••• loginNameButton=1"},
@@ -109,6 +103,8 @@ TEST_F(SettingsReaderTest, NamesAndLoginNames) {
   host.settings->setJobName(u"report"_s);
   panel.platform.fullName = QString();
   setControls(*panel.view, "userName=kept");
+  read();
+  host.settings.reset();
   read();
   expectControls(*panel.view, "userName=kept jobName=report");
 
@@ -188,16 +184,13 @@ TEST_F(SettingsReaderTest, TheLongestPathAndName) {
   }
 }
 
-TEST_F(SettingsReaderTest, WithoutPrintSettingsOrControls) {
-  setControls(*panel.view, "retentionCheckBox=1 userName=kept");
-  host.settings.reset();
-  read();
-  expectControls(*panel.view, "retentionCheckBox=1 userName=kept");
-  host.settings.emplace();
-  panel.state.outlets = {};
-  panel.state.prefHoldButtonFlag = 511;
-  read();
-  EXPECT_EQ(panel.state.prefHoldButtonFlag, 256);
+TEST_F(SettingsReaderTest, FoldersThatThePopUpDoesNotHaveAreOffered) {
+  for (const auto& [name, settings] : Cases{{"Zwei", "5A776569"}, {"Drei", "44726569"}}) {
+    panel.state.folderList = {{.name = name}};
+    host.put(u"filing=3 folderPath="_s + settings);
+    read();
+    EXPECT_EQ(popUp(*panel.view, "folderSelectionPopup").selectedItem()->title, name);
+  }
 }
 
 // Whatever a job or a preference file holds, the panel comes up, and a held field is closed.
@@ -207,8 +200,7 @@ TEST_F(SettingsReaderTest, HostileValues) {
         u"\u00E9\U0001F600"_s, u"FFFE81"_s, QString(QChar(0xD800)), QString(64, QChar(0)), u""_s}) {
     PanelGroups fresh;
     fresh.state.systemEncoding = TextEncoding::MacJapanese;
-    for (const char* key : {job_keys::holdButton, job_keys::jobSuspend, job_keys::filing,
-                            job_keys::authentication, job_keys::loginName12})
+    for (const char* key : {"holdButton", "jobSuspend", "filing", "Authentication", "loginName12"})
       fresh.host.put(key, value);
     for (const HeldField& row : heldFields) {
       fresh.host.put(row.key, value);
@@ -217,10 +209,10 @@ TEST_F(SettingsReaderTest, HostileValues) {
     for (const int mask : {0, 511}) {
       fresh.state.prefHoldButtonFlag = mask;
       fresh.reader.getNonPPDSettingsFromPrintSettings();
-      for (const HeldField& row : heldFields) {
-        const TextField& text = *(fresh.state.outlets.*row.edit);
-        EXPECT_FALSE(isOn(fresh.state.outlets.*row.button) && isAvailable(text)) << row.recordKey;
-        EXPECT_TRUE(text.stringValue().size() <= 511 || text.stringValue() == value) << row.recordKey;
+      for (const QString& name : heldNames) {
+        const TextField& text = field(*fresh.view, name);
+        EXPECT_FALSE(button(*fresh.view, name + u"Button"_s).state() == 1 && isAvailable(text)) << name;
+        EXPECT_TRUE(text.stringValue().size() <= 511 || text.stringValue() == value) << name;
       }
     }
   }
