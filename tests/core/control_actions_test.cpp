@@ -132,5 +132,19 @@ TEST_F(ControlActionsTest, TheRulesHoldWhateverTheUserDoes) {
   }
 }
 
+TEST(ControlActions, AHeldLoginNameIsKeptOnceAlsoAnEmptyOne) {
+  PanelGroups panel;
+  setControls(*panel.view, "loginName=jdoe");
+  for (const int state : {1, 1, 0, 1}) {
+    EXPECT_EQ(panel.state.loginNameStringRef, panel.state.loginNameLockFlag ? u"jdoe"_s : QString());
+    button(*panel.view, "loginNameButton").setState(state);
+    panel.actions.loginNameButtonProc(nullptr);
+  }
+  EXPECT_FALSE(panel.state.loginNameStringRef.isNull());
+  setControls(*panel.view, "retentionCheckBox=1 suspendKeyButton=2");  // which is not on
+  EXPECT_TRUE(panel.rules.runByName(u"suspendKeyEditTextEnabled"_s));
+  EXPECT_TRUE(isAvailable(field(*panel.view, "suspendKey")));
+}
+
 }  // namespace
 }  // namespace kesto

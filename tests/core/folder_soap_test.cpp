@@ -229,6 +229,8 @@ TEST(SoapClient, TheAnswerFileIsPrivateAndReplacesALink) {
   EXPECT_TRUE(S_ISREG(info.st_mode));
   EXPECT_EQ(info.st_mode & 0777, 0600U);
   EXPECT_EQ(exchange.answer(), folders({"Art", "Maps*"}));
+  exchange.platform.temporary = QString();
+  EXPECT_EQ(exchange.path(), u"/tmp/vwxyz.xml"_s);
 }
 
 // Also when the exchange has just ended otherwise: who would be told may be gone.
