@@ -142,13 +142,13 @@ TEST(FolderQuery, APanelDestroyedWhileItWaitsEndsTheExchange) {
 TEST(FolderPopup, ItemsFollowTheList) {
   Query query;
   const QString fixed = u"Schnellablage(space) Hauptordner(space)"_s;
-  for (const auto& [list, behind] :
+  for (const auto& [list, offered] :
        Cases{{"Art|Maps: north*|OK", " - Art(space) Maps: north(lock) OK(space)"},
              {"B", " - B(space)"},
              {"", ""},
              {"Work|WORK*", " - Work(space) WORK(lock)"}}) {
     query.list(list);
-    EXPECT_EQ(query.offered(), fixed + behind);
+    EXPECT_EQ(query.offered(), fixed + offered);
     expectControls(query.panel->view(), "folderSelectionPopup=1");
   }
 }

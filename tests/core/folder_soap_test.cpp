@@ -233,7 +233,7 @@ TEST(SoapClient, TheAnswerFileIsPrivateAndReplacesALink) {
   EXPECT_EQ(exchange.path(), u"/tmp/vwxyz.xml"_s);
 }
 
-// Also when the exchange has just ended otherwise: who would be told may be gone.
+// Also when the exchange has just ended otherwise: the context may no longer exist.
 TEST(SoapClient, CancelledIsCancelledInEveryState) {
   struct Row {
     const char* name;

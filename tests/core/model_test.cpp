@@ -17,7 +17,7 @@ struct Signals {
   int actions = 0;
 };
 
-// From code each change is told once, and no action is sent.
+// Each change from code is signalled once, and sends no action.
 TEST(Model, CodeChangesWhatCanBeChosen) {
   PanelView view;
   TextField text(u"text"_s, &view, 1);
@@ -154,7 +154,7 @@ TEST_F(FieldTest, EditsAtTheSelectionThroughTheFilters) {
            {NoFilter, 0, u"a"_s + high + u'|' + low + u'b', Type, "x", "ax|😀b"},
            {NoFilter, 0, u"[a"_s + high + u']' + low + u'b', Backspace, "", "|b"},
            {NoFilter, 0, u"a"_s + low + u"|b"_s, Backspace, "", "a|b"},
-           // A digit filter judges the first character.
+           // A digit filter checks the first character.
            {Digits, 8, "|", Type, "1a2", "12|"},
            {Digits, 8, "|", Type, "-/:٣１", "|"},
            {Digits, 8, "1234567|", Type, "8", "12345678|"},

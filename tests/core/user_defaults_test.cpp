@@ -10,6 +10,7 @@
 #include "platform/folder_lock.h"
 #include "platform/json_user_defaults.h"
 #include "tests/support/printing.h"
+#include "tests/support/test_platform.h"
 #include "tests/support/warnings.h"
 
 namespace kesto {
@@ -35,10 +36,7 @@ class JsonUserDefaultsTest : public testing::Test {
   }
   Outcome put(const QJsonObject& stored, const QString& name,
               std::chrono::milliseconds limit = std::chrono::seconds(10)) const {
-    return JsonUserDefaults(folder, limit).changePersistentDomain(name, [&](QJsonObject* all) {
-      *all = stored;
-      return Outcome::done();
-    });
+    return store(JsonUserDefaults(folder, limit), stored, name);
   }
   static unsigned modeOf(const QString& path) {
     struct stat info {};

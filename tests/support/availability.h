@@ -1,4 +1,4 @@
-// What the panel lets the user operate, told from the values of its controls alone.
+// What the panel lets the user operate, worked out from the values of its controls alone.
 #pragma once
 
 #include <QtCore/QMap>

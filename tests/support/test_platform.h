@@ -47,6 +47,14 @@ class MemoryUserDefaults : public UserDefaults {
   }
 };
 
+/// Replaces a whole domain.
+inline Outcome store(UserDefaults&& defaults, const QJsonObject& values, const QString& name) {
+  return defaults.changePersistentDomain(name, [&](QJsonObject* stored) {
+    *stored = values;
+    return Outcome::done();
+  });
+}
+
 /// Texts and facts are members that the test sets; alerts are kept, and each counts as dismissed.
 class TestPlatform : public Platform, public AlertPresenter {
  public:
