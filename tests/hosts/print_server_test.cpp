@@ -294,8 +294,8 @@ const QByteArray packed = answered("200 OK", "Content-Encoding: gzip\r\nTransfer
 const std::tuple<const char*, Misbehaviour, QString> misbehaviours[] = {
     {"silent", {}, lateAnswer},
     {"a field that never ends", {answered("200 OK", "X: ").chopped(2), "x", 20ms}, lateAnswer},
-    {"fields that never end", {answered("200 OK", "").chopped(2), "Allow: GET\r\n"}, lateAnswer},
-    {"leave to go on, over and over", {"", "HTTP/1.1 100 Continue\r\n\r\n"}, lateAnswer},
+    {"fields that never end", {answered("200 OK", "").chopped(2), "Allow: GET\r\n", 1ms}, lateAnswer},
+    {"leave to go on, over and over", {"", "HTTP/1.1 100 Continue\r\n\r\n", 1ms}, lateAnswer},
     {"a body that stops", {answered("200 OK") + "x"}, lateAnswer},
     {"a body that trickles", {chunked, chunk("x"), 20ms}, lateAnswer},
     {"a body that never ends", {chunked, chunk(QByteArray(60'000, 'x'))}, tooLarge},
@@ -364,7 +364,7 @@ TEST(HostilePrintServer, AHandshakeEndsToo) {
       {"silent", HTTP_ENCRYPTION_ALWAYS, {}},
       {"a record that trickles", HTTP_ENCRYPTION_ALWAYS, {record, "x", 20ms}},
       {"silent after its leave", HTTP_ENCRYPTION_REQUIRED, {leave}},
-      {"leave without end", HTTP_ENCRYPTION_REQUIRED, {"", "HTTP/1.1 100 Continue\r\n\r\n"}},
+      {"leave without end", HTTP_ENCRYPTION_REQUIRED, {"", "HTTP/1.1 100 Continue\r\n\r\n", 1ms}},
   };
   std::list<HostileServer> servers;
   std::vector<std::future<QString>> reasons;
