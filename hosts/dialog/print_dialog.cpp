@@ -31,8 +31,12 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
     : m_options(options),
       m_document(document),
       m_given(options.jobOptions.keys()),
+      m_preview(new Preview(this)),
+      m_chooser(new QueueChooser(this)),
       m_watch(options.server),
-      m_client(options.server) {
+      m_client(options.server),
+      m_opening(m_watch, m_client, m_chooser->model()),
+      m_sending(m_client, document, *m_preview) {
   m_alerts.setWindow(this);
   build();
   connectParts();
@@ -43,7 +47,7 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
 }
 
 PrintDialog::~PrintDialog() {
-  m_client.stopSending();
+  m_sending.stop();
   m_session.release();
 }
 
@@ -55,7 +59,7 @@ void PrintDialog::paintEvent(QPaintEvent* event) {
 }
 
 void PrintDialog::start() {
-  m_options.documentLater ? m_opening->suggest(m_options.queue) : m_opening->start(m_options.queue);
+  m_options.documentLater ? m_opening.suggest(m_options.queue) : m_opening.start(m_options.queue);
 }
 
 const QueueListModel& PrintDialog::queues() const {
@@ -64,17 +68,17 @@ const QueueListModel& PrintDialog::queues() const {
 
 // What there is to say of the queue, beside its choice.
 void PrintDialog::showOpening() {
-  const bool isFault = !m_opening->fault().isNull();
-  QString text = m_opening->fault();
-  if (!isFault && m_opening->state() == QueueOpening::State::Asked) text = tr("Asking the print server…");
-  if (m_opening->state() == QueueOpening::State::Open) text = QueueListModel::stateText(m_opening->summary());
+  const bool isFault = !m_opening.fault().isNull();
+  QString text = m_opening.fault();
+  if (!isFault && m_opening.state() == QueueOpening::State::Asked) text = tr("Asking the print server…");
+  if (m_opening.state() == QueueOpening::State::Open) text = QueueListModel::stateText(m_opening.summary());
   m_chooser->showText(text, isFault);
   updateControls();
 }
 
 void PrintDialog::chooseQueue(const QString& name) {
-  if (m_phase == Phase::Choosing) return m_opening->want(name);
-  m_chooser->setCurrent(m_opening->wanted());
+  if (m_sending.phase() == JobSending::Phase::Choosing) return m_opening.want(name);
+  m_chooser->setCurrent(m_opening.wanted());
 }
 
 void PrintDialog::leaveQueue() {
@@ -139,16 +143,16 @@ void PrintDialog::openQueue(Queue& queue) {
                     m_kept.options);
   if (const Destination& destination = m_session.queue()->destination) takeKeptOptions(*destination);
   const QStringList refused = takeOptions();
-  m_chooser->takeCurrent(m_opening->wanted());
+  m_chooser->takeCurrent(m_opening.wanted());
   if (!refused.isEmpty())
     showMessage(tr("This printer cannot do %1. The job is printed without it.").arg(refused.join(u", ")));
   if (!opened) showMessage(opened.reason());
 }
 
 void PrintDialog::settleQueue() {
-  if (m_opening->isOpen()) {
+  if (m_opening.isOpen()) {
     if (m_session.view() != nullptr) showPanel();
-    setWindowTitle(tr("Print on %1").arg(shownText(m_opening->wanted())));
+    setWindowTitle(tr("Print on %1").arg(shownText(m_opening.wanted())));
     giveNames();
     updateControls();
   }
@@ -170,8 +174,7 @@ void PrintDialog::showPanel() {
   connect(m_panelPane, &PanelPane::addressJudged, this, [this](const QString& fault) {
     showMessage(fault.isNull() ? m_session.outcomeOfFetch().reason() : fault);
   });
-  connect(m_summary, &SummaryPane::privacyAsked, this,
-          [this] { m_client.checkPrivacy(m_opening->wanted()); });
+  connect(m_summary, &SummaryPane::privacyAsked, this, [this] { m_client.checkPrivacy(m_opening.wanted()); });
   connect(&m_client, &QueueClient::privacyChecked, m_summary, &SummaryPane::showPrivacy);
   updateSummary();
   if (m_options.pane != u"general") m_panes->setCurrentWidget(m_panelPane);
@@ -197,10 +200,7 @@ void PrintDialog::showDocument() {
   m_documentLine->offerChoice(m_options.channel < 0 && !m_options.documentLater &&
                               (state == State::Failed || state == State::None));
   m_session.renameJob(jobName());
-  const bool isAsShown = state == State::Ready && m_document.faults().size() == m_faultsShown;
-  if (m_phase == Phase::Waiting && isAsShown) return sendExamined();
-  if (m_phase == Phase::Waiting && (state == State::Ready || state == State::Failed))
-    return takeSendFailure(m_document.faults().join(u' '));
+  m_sending.takeDocument();
   updateControls();
 }
 
@@ -233,59 +233,43 @@ void PrintDialog::print() {
     return;
   }
   const Document::State state = m_document.state();
-  if (state == Document::State::Ready) {
-    sendExamined();
-  } else {
-    setPhase(Phase::Waiting);
-    if (state != Document::State::Paused) hide();
-  }
-  m_faultsShown = m_document.faults().size();
-  m_document.readOn();
+  m_sending.begin();
+  if (state != Document::State::Ready && state != Document::State::Paused) hide();
   Q_EMIT chosen();
 }
 
-// A document that is not yet looked at may be one that cannot be printed.
-void PrintDialog::sendExamined() {
-  if (!m_preview->isExamined()) return setPhase(Phase::Waiting);
-  if (!m_preview->fault().isNull()) return takeSendFailure(m_preview->fault());
-  // Its pages may have been counted since.
-  if (!m_general->fault().isNull()) return takeSendFailure(m_general->fault());
-  send();
-}
-
 void PrintDialog::send() {
+  if (m_session.queue() == nullptr) return;  // the user has gone in the meantime
+  // The document's pages may have been counted since.
+  if (!m_general->fault().isNull()) return m_sending.fail(m_general->fault());
   PrintJob job{.title = jobName(), .files = m_document.files(), .options = m_otherOptions};
   job.options.insert(m_general->jobOptions());
   job.options.insert(m_session.settings());
   // Whoever drew the document has left out the other pages.
   if (m_options.documentLater) job.options.remove(QStringLiteral("page-ranges"));
-  setPhase(Phase::Sending);
-  m_client.send(*m_session.queue(), job);
+  m_sending.send(*m_session.queue(), job);
 }
 
 void PrintDialog::takeSent(int job) {
-  m_job = job;
   const bool isRemembered = bool(m_session.remember());
   const QString text =
       isRemembered ? tr("Job %1 sent to %2") : tr("Job %1 sent to %2; its entries cannot be remembered");
   showMessage(text.arg(job).arg(m_session.queue()->id));
-  setPhase(Phase::Sent);
   if (!isVisible()) return accept();
   QTimer::singleShot(farewell, this, &QDialog::accept);
 }
 
 void PrintDialog::takeSendFailure(const QString& reason) {
-  setPhase(Phase::Choosing);
   show();  // the user may believe it printed
   raise();
   activateWindow();
   showMessage(tr("Not printed: %1").arg(reason));
 }
 
-void PrintDialog::setPhase(Phase phase) {
-  m_phase = phase;
-  m_foot->showProgress(phase == Phase::Sending);
-  if (phase == Phase::Sent) m_foot->offerClose();
+void PrintDialog::showPhase() {
+  const JobSending::Phase phase = m_sending.phase();
+  m_foot->showProgress(phase == JobSending::Phase::Sending);
+  if (phase == JobSending::Phase::Sent) m_foot->offerClose();
   updateControls();
 }
 
@@ -302,7 +286,7 @@ void PrintDialog::showMessage(const QString& message) {
 }
 
 void PrintDialog::updateControls() {
-  const bool isChoosing = m_phase == Phase::Choosing;
+  const bool isChoosing = m_sending.phase() == JobSending::Phase::Choosing;
   // With the chooser, its label and the document.
   for (QWidget* part : {m_chooser->parentWidget(), static_cast<QWidget*>(m_panes)})
     part->setEnabled(isChoosing);
@@ -311,18 +295,18 @@ void PrintDialog::updateControls() {
   const State state = m_document.state();
   const bool isMissing =
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
-  const bool isTaker = m_opening->summary().isAccepting && !m_chooser->isPending();
+  const bool isTaker = m_opening.summary().isAccepting && !m_chooser->isPending();
   m_foot->printButton().setEnabled(isQueueReady() && isTaker && !isMissing);
   m_foot->printButton().setToolTip(isMissing ? tr("There is no document to print yet.") : QString());
 }
 
 void PrintDialog::reject() {
-  if (m_phase == Phase::Sending) {
-    m_client.stopSending();
+  if (m_sending.phase() == JobSending::Phase::Sending) {
+    m_sending.stop();
     return showMessage(tr("Stopping the job…"));
   }
-  if (m_phase == Phase::Sent) return accept();
-  m_opening->leave();
+  if (m_sending.phase() == JobSending::Phase::Sent) return accept();
+  m_opening.leave();
   QDialog::reject();
 }
 

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "hosts/dialog/document.h"
+#include "hosts/dialog/job_sending.h"
 #include "hosts/dialog/options.h"
 #include "hosts/dialog/queue_opening.h"
 #include "hosts/dialog/widgets/dialog_alerts.h"
@@ -35,25 +36,25 @@ class PrintDialog : public QDialog {
   ~PrintDialog() override;
 
   /// Whether the chosen queue's options and panel are known, or known not to be had.
-  bool isSettled() const { return m_opening->isSettled(); }
+  bool isSettled() const { return m_opening.isSettled(); }
   /// Whether the chosen queue is open, with its options and its panel to choose from.
   bool isQueueReady() const {
-    return m_opening->isSettled() && m_opening->isOpen() && m_phase == Phase::Choosing;
+    return m_opening.isSettled() && m_opening.isOpen() && m_sending.phase() == JobSending::Phase::Choosing;
   }
   const Preview& preview() const { return *m_preview; }
   /// The job's number once it is sent, else 0.
-  int job() const { return m_job; }
+  int job() const { return m_sending.job(); }
   const QueueListModel& queues() const;
   /// The print settings that travel with the job, as the panel last wrote them.
   QMap<QString, QString> jobSettings() const { return m_session.settings(); }
-  QString queueName() const { return m_opening->wanted(); }
+  QString queueName() const { return m_opening.wanted(); }
   /// What is chosen of copies, pages and the queue's options.
   GeneralPane& general() { return *m_general; }
   /// The PPD of the chosen queue, null without one.
   ppd_file_t* ppd() const { return m_session.ppd(); }
 
   /// Goes over to a queue that is open.
-  void takeQueue(Queue queue) { m_opening->take(std::move(queue)); }
+  void takeQueue(Queue queue) { m_opening.take(std::move(queue)); }
   void reject() override;
 
  Q_SIGNALS:
@@ -69,8 +70,6 @@ class PrintDialog : public QDialog {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  enum class Phase { Choosing, Waiting, Sending, Sent };
-
   void start();
   void build();
   QWidget* makeHead();
@@ -91,11 +90,10 @@ class PrintDialog : public QDialog {
   void showDocument();
   void chooseDocument();
   void print();
-  void sendExamined();
   void send();
   void takeSent(int job);
   void takeSendFailure(const QString& reason);
-  void setPhase(Phase phase);
+  void showPhase();
   void showMessage(const QString& message);
   void updateChoiceFault();
   void updateControls();
@@ -110,14 +108,11 @@ class PrintDialog : public QDialog {
   QStringList m_given;                    // names of options that count more than those kept for the queue
   QMap<QString, QString> m_otherOptions;  // of the job, beside what the panes have
   bool m_isStarted = false;
-  Phase m_phase = Phase::Choosing;
-  qsizetype m_faultsShown = 0;  // of the document, when Print was pressed
-  QString m_choiceFault;        // the general pane's, while the message shows it
-  int m_job = 0;
-  QueueChooser* m_chooser = nullptr;
+  QString m_choiceFault;  // the general pane's, while the message shows it
+  Preview* m_preview;
+  QueueChooser* m_chooser;
   PresetMenu* m_presets = nullptr;
   DocumentLine* m_documentLine = nullptr;
-  Preview* m_preview = nullptr;
   QTabWidget* m_panes = nullptr;
   GeneralPane* m_general = nullptr;
   PanelPane* m_panelPane = nullptr;
@@ -125,7 +120,8 @@ class PrintDialog : public QDialog {
   DialogFoot* m_foot = nullptr;
   QueueWatch m_watch;
   QueueClient m_client;
-  std::optional<QueueOpening> m_opening;  // from the chooser on
+  QueueOpening m_opening;
+  JobSending m_sending;
 };
 
 }  // namespace kesto

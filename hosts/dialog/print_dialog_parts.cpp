@@ -33,7 +33,6 @@ QLabel* labelFor(QWidget* field, const QString& text) {
 
 void PrintDialog::build() {
   setWindowTitle(tr("Print"));
-  m_preview = new Preview(this);
   auto* side = new QVBoxLayout;
   side->addWidget(makeHead());
   side->addWidget(makePanes(), 1);
@@ -53,7 +52,7 @@ void PrintDialog::build() {
 QWidget* PrintDialog::makeHead() {
   auto* head = new QWidget(this);
   m_presets = new PresetMenu(m_session, head);
-  m_chooser = new QueueChooser(head);
+  m_chooser->setParent(head);
   m_documentLine = new DocumentLine(head);
   auto* presets = new QHBoxLayout;
   presets->addWidget(m_presets);
@@ -91,42 +90,42 @@ void PrintDialog::connectParts() {
   });
   connect(m_preview, &Preview::examined, this, [this] {
     takePageCount();
-    const bool isWaiting = m_phase == Phase::Waiting && m_document.state() == Document::State::Ready;
-    if (isWaiting && m_session.queue()) sendExamined();
+    m_sending.takeExamination();
   });
   connect(&m_document, &Document::changed, this, &PrintDialog::showDocument);
   connect(&m_client, &QueueClient::progressed, m_foot, &DialogFoot::setProgress);
-  connect(&m_client, &QueueClient::sent, this, &PrintDialog::takeSent);
-  connect(&m_client, &QueueClient::sendFailed, this, &PrintDialog::takeSendFailure);
+  connect(&m_sending, &JobSending::phaseChanged, this, &PrintDialog::showPhase);
+  connect(&m_sending, &JobSending::ready, this, &PrintDialog::send);
+  connect(&m_sending, &JobSending::sent, this, &PrintDialog::takeSent);
+  connect(&m_sending, &JobSending::failed, this, &PrintDialog::takeSendFailure);
 }
 
 // The list is brought up to date before the wanted queue is looked up in it.
 void PrintDialog::connectQueues() {
-  m_opening.emplace(m_watch, m_client, m_chooser->model());
   connect(&m_watch, &QueueWatch::listed, this, [this](const std::vector<QueueSummary>& queues) {
     m_chooser->setQueues(queues);
-    m_opening->takeList();
+    m_opening.takeList();
     Q_EMIT listed();
   });
   connect(&m_watch, &QueueWatch::changed, this, [this](const QueueSummary& queue) {
     m_chooser->setQueue(queue);
-    m_opening->takeChange();
+    m_opening.takeChange();
   });
   connect(&m_watch, &QueueWatch::removed, this, [this](const QString& name) {
     m_chooser->removeQueue(name);
-    m_opening->takeChange();
+    m_opening.takeChange();
   });
-  connect(&m_watch, &QueueWatch::failed, &*m_opening, &QueueOpening::takeListFault);
+  connect(&m_watch, &QueueWatch::failed, &m_opening, &QueueOpening::takeListFault);
   connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);
   connect(m_chooser, &QueueChooser::pendingChanged, this, &PrintDialog::updateControls);
-  connect(m_chooser, &QueueChooser::retryAsked, &*m_opening, &QueueOpening::retry);
-  connect(&*m_opening, &QueueOpening::left, this, [this] {
+  connect(m_chooser, &QueueChooser::retryAsked, &m_opening, &QueueOpening::retry);
+  connect(&m_opening, &QueueOpening::left, this, [this] {
     leaveQueue();
-    m_chooser->setCurrent(m_opening->wanted());
+    m_chooser->setCurrent(m_opening.wanted());
   });
-  connect(&*m_opening, &QueueOpening::opened, this, &PrintDialog::openQueue);
-  connect(&*m_opening, &QueueOpening::changed, this, &PrintDialog::showOpening);
-  connect(&*m_opening, &QueueOpening::settled, this, &PrintDialog::settleQueue);
+  connect(&m_opening, &QueueOpening::opened, this, &PrintDialog::openQueue);
+  connect(&m_opening, &QueueOpening::changed, this, &PrintDialog::showOpening);
+  connect(&m_opening, &QueueOpening::settled, this, &PrintDialog::settleQueue);
 }
 
 void PrintDialog::giveNames() {

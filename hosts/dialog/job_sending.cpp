@@ -1,0 +1,63 @@
+#include "hosts/dialog/job_sending.h"
+
+#include "hosts/dialog/preview/preview.h"
+
+namespace kesto {
+
+JobSending::JobSending(QueueClient& client, Document& document, const Preview& preview)
+    : m_client(client), m_document(document), m_preview(preview) {
+  connect(&client, &QueueClient::sendFailed, this, &JobSending::fail);
+  connect(&client, &QueueClient::sent, this, [this](int job) {
+    m_job = job;
+    setPhase(Phase::Sent);
+    Q_EMIT sent(job);
+  });
+}
+
+void JobSending::setPhase(Phase phase) {
+  m_phase = phase;
+  Q_EMIT phaseChanged();
+}
+
+void JobSending::begin() {
+  m_faultsShown = m_document.faults().size();
+  if (m_document.state() == Document::State::Ready) {
+    examine();
+  } else {
+    setPhase(Phase::Waiting);
+  }
+  m_document.readOn();
+}
+
+// A document of which less came than the user has seen is not printed without another word.
+void JobSending::takeDocument() {
+  if (m_phase != Phase::Waiting) return;
+  const Document::State state = m_document.state();
+  const bool isAsShown = m_document.faults().size() == m_faultsShown;
+  if (state == Document::State::Ready && isAsShown) return examine();
+  if (state == Document::State::Ready || state == Document::State::Failed)
+    fail(m_document.faults().join(u' '));
+}
+
+void JobSending::takeExamination() {
+  if (m_phase == Phase::Waiting && m_document.state() == Document::State::Ready) examine();
+}
+
+// A document that is not yet looked at may be one that cannot be printed.
+void JobSending::examine() {
+  if (!m_preview.isExamined()) return setPhase(Phase::Waiting);
+  if (!m_preview.fault().isNull()) return fail(m_preview.fault());
+  Q_EMIT ready();
+}
+
+void JobSending::send(const Queue& queue, const PrintJob& job) {
+  setPhase(Phase::Sending);
+  m_client.send(queue, job);
+}
+
+void JobSending::fail(const QString& reason) {
+  setPhase(Phase::Choosing);
+  Q_EMIT failed(reason);
+}
+
+}  // namespace kesto

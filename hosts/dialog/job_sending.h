@@ -1,0 +1,63 @@
+// The way of a print dialog's job from the press of Print to the print server.
+#pragma once
+
+#include "hosts/cups/queue_client.h"
+#include "hosts/dialog/document.h"
+
+namespace kesto {
+
+class Preview;
+
+/// Waits for a document that is still read or looked at, then has the job sent. One job at a time, and one
+/// success.
+class JobSending : public QObject {
+  Q_OBJECT
+
+ public:
+  enum class Phase {
+    Choosing,  ///< No job is under way.
+    Waiting,   ///< Print is pressed, and the document is not ready yet.
+    Sending,
+    Sent,
+  };
+
+  /// `preview` shows `document`. All three must outlive this object.
+  JobSending(QueueClient& client, Document& document, const Preview& preview);
+
+  Phase phase() const { return m_phase; }
+  /// The job's number once it is sent, else 0.
+  int job() const { return m_job; }
+
+  /// Print is pressed: the document is read to its end. `ready` or `failed` follows, at once where that is
+  /// possible.
+  void begin();
+  /// The document has changed, or has been looked at.
+  void takeDocument();
+  void takeExamination();
+  /// Sends the job, as the answer to `ready`.
+  void send(const Queue& queue, const PrintJob& job);
+  /// The job does not go out.
+  void fail(const QString& reason);
+  /// Stops a job that is being sent; it then fails.
+  void stop() { m_client.stopSending(); }
+
+ Q_SIGNALS:
+  void phaseChanged();
+  /// The document can be printed, as far as is known.
+  void ready();
+  void sent(int job);
+  void failed(const QString& reason);
+
+ private:
+  void setPhase(Phase phase);
+  void examine();
+
+  QueueClient& m_client;
+  Document& m_document;
+  const Preview& m_preview;
+  Phase m_phase = Phase::Choosing;
+  qsizetype m_faultsShown = 0;  // of the document, when Print was pressed
+  int m_job = 0;
+};
+
+}  // namespace kesto
