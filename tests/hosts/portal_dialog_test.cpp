@@ -15,7 +15,7 @@ class PortalDialog : public DialogPrint {
     m_folder.write(u"empty"_s, {});
   }
   // Starts the dialog, and waits for its window.
-  void open(bool hasDocument, const QJsonObject& settings = {}) {
+  void open(bool hasDocument, const QJsonObject& settings = {}, const QJsonObject& pageSetup = {}) {
     Descriptor ours;
     Descriptor theirs;
     ASSERT_TRUE(PrintChannel::makePair(&ours, &theirs));
@@ -28,7 +28,7 @@ class PortalDialog : public DialogPrint {
       m_answers += message.value(u"answer"_s).toString() + u' ';
     });
     m_answers.clear();
-    say(u"open"_s, {{u"document"_s, hasDocument}, {u"settings"_s, settings}});
+    say(u"open"_s, {{u"document"_s, hasDocument}, {u"settings"_s, settings}, {u"pageSetup"_s, pageSetup}});
     await([] { return window() != nullptr; }, u"the dialog"_s);
   }
   void say(const QString& what, QJsonObject message = {}, int attached = -1) {
@@ -104,6 +104,12 @@ TEST_F(PortalDialog, EndsWithItsServiceAndItsUser) {
 
 TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
   startPrinter();
+  const QJsonObject settings{{u"n-copies"_s, u"3"_s},
+                             {u"number-up"_s, u"2"_s},
+                             {u"page-set"_s, u"even"_s},
+                             {u"print-pages"_s, u"ranges"_s},
+                             {u"page-ranges"_s, u"0-1"_s},
+                             {u"duplex"_s, u"vertical"_s}};
   struct Case {
     const char* name;
     Text document;
@@ -122,9 +128,11 @@ TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
   int jobs = 0;
   for (const Case& row : cases) {
     SCOPED_TRACE(row.name);
-    open(false);
+    open(false, settings, {{u"PPDName"_s, u"A5"_s}});
     pressPrint();
     awaitAnswers(u"chosen "_s);
+    EXPECT_EQ(m_said[u"pageSetup"_s][u"Name"_s], u"iso_a5"_s);
+    EXPECT_EQ(m_said[u"settings"_s][u"duplex"_s], u"vertical"_s);
     EXPECT_FALSE(window()->isVisible());
     Descriptor written = print(row.document);
     if (row.isClosed) written.reset();
@@ -136,6 +144,14 @@ TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
     if (row.jobs > 0) m_printer->waitForLog("job " + QByteArray::number(jobs) + " from ");
     EXPECT_EQ(QJsonDocument::fromJson(m_printer->jobs()).array().size(), jobs);
   }
+  const QMap<QString, QString> sent = m_printer->attributesOfJob(1, cupsUser());
+  for (const auto& [name, value] : Cases{{"copies", "3"},
+                                         {"number-up", "2"},
+                                         {"page-set", "even"},
+                                         {"Duplex", "DuplexTumble"},
+                                         {"PageSize", "A5"},
+                                         {"page-ranges", nullptr}})
+    EXPECT_EQ(sent.value(name), value) << name;
 }
 
 TEST_F(PortalDialog, TheClientsOwnPagesStayUnlessOthersAreChosen) {

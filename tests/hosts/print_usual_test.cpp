@@ -43,25 +43,16 @@ class BesideTheUsualCommand : public PrintTest {
     if (isDone) ofPrintSystem(u"cancel -U anna "_s + job);
     return job.toInt();
   }
-  static QString wordOfState(int state) {
-    if (state == IPP_JSTATE_HELD) return u"held"_s;
-    return state == IPP_JSTATE_CANCELED ? u"canceled"_s : u"goes to the backend"_s;
-  }
   QMap<QString, QString> attributesOf(int job) const {
     static const QRegularExpression varying(
-        u"^(job-(id|uri|uuid|printer-up-time|k-octets.*|more-info|state.*|p.*)|printer-uri|.*-at-.*|"
-        u"attributes-.*|"
-        "document-metadata)$"_s);
-    const Ipp reply = attributesOfJob("anna", job);
-    QMap<QString, QString> attributes;
-    for (auto* each = ippFirstAttribute(reply.get()); each != nullptr; each = ippNextAttribute(reply.get())) {
-      std::array<char, 2048> value{};
-      ippAttributeString(each, value.data(), value.size());
-      const QString name = QString::fromUtf8(ippGetName(each));
-      if (!varying.match(name).hasMatch() || name == u"job-priority"_s)
-        attributes.insert(name, QString::fromUtf8(value.data()));
-      if (name == u"job-state"_s) attributes.insert(name, wordOfState(ippGetInteger(each, 0)));
+        u"^(|job-(id|uri|uuid|printer-up-time|k-octets.*|more-info|state-.*|p(?!riority$).*)|printer-uri|"
+        ".*-at-.*|attributes-.*|document-metadata)$"_s);
+    QMap<QString, QString> attributes = m_printer->attributesOfJob(job, "anna");
+    for (const QString& name : attributes.keys()) {
+      if (varying.match(name).hasMatch()) attributes.remove(name);
     }
+    QString& state = attributes[u"job-state"_s];
+    if (state != u"pending-held" && state != u"canceled") state = u"goes to the backend"_s;
     return attributes;
   }
   Result run(const QString& program, const QString& queue, QString line) const {

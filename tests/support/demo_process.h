@@ -17,6 +17,7 @@
 #include <QtCore/QTimer>
 #include <csignal>
 
+#include "hosts/cups/print_server.h"
 #include "tests/support/printing.h"
 
 namespace kesto::test {
@@ -158,6 +159,24 @@ class RunningPrinter : public DemoProcess {
                      {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s), u"--json"_s});
     EXPECT_EQ(jobs.code(), 0);
     return jobs.readAllStandardOutput().trimmed();
+  }
+  /// What the scheduler says of a job to a user; it believes the owner's programs any user name.
+  QMap<QString, QString> attributesOfJob(int job, const QByteArray& user) const {
+    std::unique_ptr<PrintServer> server;
+    EXPECT_TRUE(PrintServer::connect(place(u"server"_s), std::chrono::seconds(5), &server));
+    const Ipp request(ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
+                 "ipp://localhost/jobs/" + QByteArray::number(job));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
+    Ipp reply;
+    EXPECT_TRUE(server->request(request.get(), &reply));
+    QMap<QString, QString> attributes;
+    for (auto* each = ippFirstAttribute(reply.get()); each != nullptr; each = ippNextAttribute(reply.get())) {
+      std::array<char, 2048> text{};
+      ippAttributeString(each, text.data(), text.size());
+      attributes.insert(QString::fromUtf8(ippGetName(each)), QString::fromUtf8(text.data()));
+    }
+    return attributes;
   }
   /// The exit status of the program that releases a job.
   int release(const QStringList& arguments) const {

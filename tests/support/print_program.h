@@ -63,19 +63,6 @@ class PrintTest : public LpTest {
     ofPrintSystem(u"/usr/sbin/lpadmin -p %1 -E -v socket://127.0.0.1:9"_s.arg(name) + ppd);
   }
 
-  // The scheduler's answer about a job; it believes any user name.
-  Ipp attributesOfJob(const char* user, int job = 1) const {
-    std::unique_ptr<PrintServer> server;
-    EXPECT_TRUE(PrintServer::connect(m_printer->place(u"server"_s), std::chrono::seconds(5), &server));
-    const Ipp request(ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES));
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
-                 "ipp://localhost/jobs/" + QByteArray::number(job));
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, user);
-    Ipp reply;
-    EXPECT_TRUE(server->request(request.get(), &reply));
-    return reply;
-  }
-
   // Makes the queue's filter record its arguments before it does its work.
   void recordFilter() const {
     const QString filter = m_folder.path(u"run/cups/bin/filter/kesto-demo-filter"_s);
