@@ -8,7 +8,7 @@
 #include <QtNetwork/QTcpSocket>
 
 #include "folders/soap_client.h"
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 
 namespace {
 
@@ -61,7 +61,7 @@ class Context : public kesto::SoapContext {
 void exchangeThroughTheClient(benchmark::State& state) {
   kesto::bench::application();
   const Printer printer;
-  kesto::bench::BenchPlatform platform;
+  kesto::test::TestPlatform platform;
   Context context;
   const QString url = QStringLiteral("http://127.0.0.1:%1/kesto-mfp-srv").arg(printer.port());
   for ([[maybe_unused]] auto _ : state) {

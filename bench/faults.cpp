@@ -14,7 +14,7 @@
 #include "platform/json_user_defaults.h"
 #include "plugin/entry.h"
 #include "settings/value_helpers.h"
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 #include "tests/support/panel_user.h"
 
 namespace {
@@ -77,7 +77,7 @@ int usePanel(PrintDialogPlugIn& plugIn, Platform& platform) {
   if (view == nullptr) return fail("has no view", "panel");
   panel.willShow();
   panel.restoreValuesAndReturnError(nullptr);
-  fuzz::useEveryControl(*view);
+  test::useEveryControl(*view);
   panel.saveValuesAndReturnError(nullptr);
   panel.shouldPrint();
   panel.summaryInfo();
@@ -87,8 +87,8 @@ int usePanel(PrintDialogPlugIn& plugIn, Platform& platform) {
 int soak(int count) {
   const QTemporaryDir folder;
   JsonUserDefaults defaults(folder.path());
-  bench::BenchPlatform platform;
-  platform.setUserDefaults(defaults);
+  test::TestPlatform platform;
+  platform.store = &defaults;
   KestoPrintPdeVq250nJCPDEPlugIn plugIn;
   // By then everything that exists only once has been created.
   const int warmUp = count / 10;
@@ -96,6 +96,7 @@ int soak(int count) {
   for (int i = 0; i < count; ++i) {
     if (i == warmUp) before.emplace();
     if (usePanel(plugIn, platform) != 0) return 1;
+    platform.alerts.clear();
   }
   const Holdings after;
   const auto growth = static_cast<long>(after.heap) - static_cast<long>(before->heap);

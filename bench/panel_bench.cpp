@@ -10,7 +10,7 @@
 #include "panel/localized.h"
 #include "plugin/job_handling_panel.h"
 #include "settings/stored_forms.h"
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 
 namespace {
 

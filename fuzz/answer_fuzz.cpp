@@ -3,7 +3,7 @@
 #include "folders/folder_popup.h"
 #include "fuzz/targets.h"
 #include "panel/model/panel_view.h"
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 
 namespace kesto::fuzz {
 

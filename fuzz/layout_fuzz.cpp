@@ -1,7 +1,7 @@
 // The input is the panel's form.
 #include "fuzz/targets.h"
 #include "plugin/job_handling_panel.h"
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 #include "tests/support/panel_user.h"
 
 namespace kesto::fuzz {
@@ -14,12 +14,12 @@ void runLayout(const QByteArray& input) {
   form.close();
 
   bench::BenchHost host;
-  host.platform().setBundle(std::make_shared<const Bundle>(folder.path()));
+  host.ownPlatform.bundleOfPanel = std::make_shared<const Bundle>(folder.path());
   KestoPrintPdeVq250nJC panel(host);
   const PanelView* view = panel.panelView();
   panel.willShow();
   panel.restoreValuesAndReturnError(nullptr);
-  if (view != nullptr) useEveryControl(*view);
+  if (view != nullptr) test::useEveryControl(*view);
   panel.saveValuesAndReturnError(nullptr);
   panel.shouldPrint();
   panel.summaryInfo();

@@ -8,7 +8,7 @@
 #include "fuzz/targets.h"
 #include "hosts/cups/ppd_file.h"
 #include "plugin/job_handling_panel.h"
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 
 namespace kesto::fuzz {
 namespace {

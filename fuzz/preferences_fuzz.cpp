@@ -5,7 +5,7 @@
 #include "hosts/cups/ppd_file.h"
 #include "platform/json_user_defaults.h"
 #include "plugin/job_handling_panel.h"
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 
 namespace kesto::fuzz {
 namespace {
@@ -32,7 +32,7 @@ void runPreferences(const QByteArray& input) {
   const QJsonDocument before = QJsonDocument::fromJson(input);
 
   bench::BenchHost host;
-  host.platform().setUserDefaults(defaults);
+  host.ownPlatform.store = &defaults;
   host.ppd = demoPpd();
   host.session.currentPrinter = {.id = QStringLiteral("Office_MFP"), .deviceUri = {}};
   KestoPrintPdeVq250nJC panel(host);

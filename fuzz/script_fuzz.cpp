@@ -5,7 +5,7 @@
 
 #include "fuzz/targets.h"
 #include "plugin/entry.h"
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 
 namespace kesto::fuzz {
 namespace {
@@ -19,10 +19,8 @@ bool asksPrinter(const QByteArray& line) {
 }  // namespace
 
 void runScript(const QByteArray& input) {
-  bench::BenchPlatform platform;
   KestoPrintPdeVq250nJCPDEPlugIn plugIn;
-  PanelHost host(platform);
-  host.settings.emplace();
+  bench::BenchHost host;
   require(static_cast<bool>(host.openPanel(plugIn)), "the panel opens");
   AlertRecorder alerts;
   ScriptSession session(host, plugIn, alerts);

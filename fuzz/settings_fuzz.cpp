@@ -3,7 +3,7 @@
 #include "fuzz/targets.h"
 #include "platform/job_keys.h"
 #include "plugin/job_handling_panel.h"
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 
 namespace kesto::fuzz {
 namespace {
@@ -35,17 +35,16 @@ void runSettings(const QByteArray& input) {
   bench::BenchHost host;
   if (input.startsWith('@') && input.size() > 1) {
     constexpr int encodings = static_cast<int>(TextEncoding::Utf8) + 1;
-    host.platform().setSystemEncoding(
-        static_cast<TextEncoding>(static_cast<std::uint8_t>(input.at(1)) % encodings));
+    host.ownPlatform.encoding = static_cast<TextEncoding>(static_cast<std::uint8_t>(input.at(1)) % encodings);
   }
-  put(input, &host.settings);
+  put(input, &*host.settings);
   KestoPrintPdeVq250nJC panel(host);
   panel.restoreValuesAndReturnError(nullptr);
   panel.saveValuesAndReturnError(nullptr);
-  checkSealed(host.settings);
-  const auto written = host.settings.all();
+  checkSealed(*host.settings);
+  const auto written = host.settings->all();
   panel.saveValuesAndReturnError(nullptr);
-  require(host.settings.all() == written, "a second write changes nothing");
+  require(host.settings->all() == written, "a second write changes nothing");
   panel.summaryInfo();
 }
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "tests/support/bench_platform.h"
+#include "tests/support/bench_host.h"
 
 namespace {
 

@@ -12,7 +12,6 @@ using End = FolderServer::End;
 // A restored panel in German, with an answer file of its own.
 struct Query {
   Query() {
-    platform.temporary = folder.path() + u'/';
     panel.emplace(platform);
     panel->restore();
     EXPECT_TRUE(button(panel->view(), "retentionCheckBox").click());
@@ -24,7 +23,7 @@ struct Query {
   }
   // Reads the folders "A|B*" from an answer that is there already.
   void list(const Text& names) {
-    QFile file(folder.filePath(u"vwxyz.xml"_s));
+    QFile file(platform.temporary + u"vwxyz.xml"_s);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     QList<QByteArray> entries;
     for (const QString& name : names.split(u'|', Qt::SkipEmptyParts))
@@ -52,7 +51,6 @@ struct Query {
     return texts.join(u' ');
   }
 
-  QTemporaryDir folder;
   TestPlatform platform{QLocale::German};
   std::optional<TestPanel> panel;
 };
@@ -96,11 +94,11 @@ TEST(FolderQuery, WhatTheUserSeesAndWhatTheListHoldsAfterwards) {
 TEST(FolderQuery, WithoutANewAnswerTheOlderOneIsRead) {
   FolderServer server;
   Query query;
-  query.platform.temporary = u"/nonexistent/"_s;
+  const QString temporary = std::exchange(query.platform.temporary, u"/nonexistent/"_s);
   query.ask(server.address());
   EXPECT_EQ(query.panel->controller->lastFolderFetch(), FolderFetch::NotKept);
   EXPECT_EQ(query.known(), u""_s);
-  query.platform.temporary = query.folder.path() + u'/';
+  query.platform.temporary = temporary;
   query.list("Old");
   query.ask("bad address");
   EXPECT_EQ(query.known(), u"Old"_s);

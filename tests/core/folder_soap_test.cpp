@@ -6,9 +6,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
-#include <QtNetwork/QNetworkProxy>
 
 #include "folders/soap_client.h"
 #include "tests/support/folder_server.h"
@@ -35,12 +33,6 @@ using End = FolderServer::End;
 
 // One exchange with an answer file of its own.
 struct Exchange : SoapContext {
-  Exchange() {
-    platform.temporary = folder.path() + u'/';
-    QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, u"127.0.0.1"_s, 9});  // none stands between
-  }
-  ~Exchange() override { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); }
-
   void recieveEndCallback() override { ++failures; }
 
   bool run(const QString& url, std::chrono::milliseconds limit = 10s, const QByteArray& body = "<request/>") {
@@ -61,7 +53,6 @@ struct Exchange : SoapContext {
     file.write("old");
   }
 
-  QTemporaryDir folder;
   TestPlatform platform;
   std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> client;
   int failures = 0;
@@ -217,7 +208,7 @@ TEST(SoapClient, InvalidUrlsGiveNoClient) {
 TEST(SoapClient, TheAnswerFileIsPrivateAndReplacesALink) {
   FolderServer server;
   Exchange exchange;
-  QFile precious(exchange.folder.filePath(u"victim"_s));
+  QFile precious(exchange.platform.temporary + u"victim"_s);
   ASSERT_TRUE(precious.open(QIODevice::WriteOnly) && precious.write("precious") == 8);
   precious.close();
   ASSERT_TRUE(QFile::link(precious.fileName(), exchange.path()));

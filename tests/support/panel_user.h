@@ -7,7 +7,7 @@
 #include "panel/model/radio_matrix.h"
 #include "panel/model/text_field.h"
 
-namespace kesto::fuzz {
+namespace kesto::test {
 
 /// Clicks, chooses and types where the controls allow it; never asks a printer for its folders.
 inline void useEveryControl(const PanelView& view) {
@@ -31,4 +31,4 @@ inline void useEveryControl(const PanelView& view) {
   }
 }
 
-}  // namespace kesto::fuzz
+}  // namespace kesto::test

@@ -5,8 +5,8 @@
 #include <QtCore/QTemporaryDir>
 
 #include "hosts/cups/ppd_file.h"
-#include "platform/host_callback.h"
-#include "platform/print_settings.h"
+#include "hosts/session/panel_host.h"
+#include "tests/support/printing.h"
 #include "tests/support/test_platform.h"
 
 namespace kesto::test {
@@ -35,17 +35,12 @@ class PpdFixture {
 };
 
 /// A host whose members the test sets. Print-settings keys are given by their last component.
-class TestHost : public HostCallback {
+class TestHost : public PanelHost {
  public:
-  explicit TestHost(Platform& platform) : m_platform(platform) {
+  explicit TestHost(Platform& platform) : PanelHost(platform) {
+    settings.emplace();
     session.currentPrinter = {.id = u"Office_MFP"_s, .deviceUri = u"socket://192.0.2.20:9100"_s};
   }
-
-  const PrintSession& printSession() const override { return session; }
-  PrintSettings* printSettings() override { return settings ? &*settings : nullptr; }
-  ppd_file_s* ppdFile() override { return ppd; }
-  bool answersWillChangePPDOptionKeyValue() const override { return handlesConstraints; }
-  Platform& platform() override { return m_platform; }
 
   /// The value under a key, null when it is absent.
   QString value(const Text& key) const { return settings->value(prefix + key).value_or(QString()); }
@@ -69,14 +64,8 @@ class TestHost : public HostCallback {
     return lines.join(u' ');
   }
 
-  PrintSession session;
-  std::optional<PrintSettings> settings{std::in_place};
-  ppd_file_s* ppd = nullptr;
-  bool handlesConstraints = true;
-
  private:
   static inline const QString prefix = u"kesto.print.PrintSettings."_s;
-  Platform& m_platform;
 };
 
 }  // namespace kesto::test

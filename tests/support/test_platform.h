@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtCore/QMap>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTimeZone>
 #include <functional>
 #include <vector>
@@ -10,9 +11,10 @@
 #include "platform/bundle.h"
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
-#include "tests/support/printing.h"
 
 namespace kesto::test {
+
+using namespace Qt::StringLiterals;
 
 /// The preference domain of the printer that a test's host has.
 inline const QString printerDomain = u"kesto.mfp.Office_MFP"_s;
@@ -63,7 +65,7 @@ class TestPlatform : public Platform, public AlertPresenter {
   }
 
   std::shared_ptr<const Bundle> bundle() override { return bundleOfPanel; }
-  UserDefaults& userDefaults() override { return defaults; }
+  UserDefaults& userDefaults() override { return *store; }
   AlertPresenter& alertPresenter() override { return *this; }
   QDateTime now() override { return clock; }
   QString temporaryDirectory() override { return temporary; }
@@ -86,8 +88,10 @@ class TestPlatform : public Platform, public AlertPresenter {
 
   std::shared_ptr<const Bundle> bundleOfPanel;
   MemoryUserDefaults defaults;
+  UserDefaults* store = &defaults;  ///< Not owned.
   QDateTime clock{QDate(2024, 2, 29), QTime(7, 8, 9), QTimeZone(-(3 * 60 + 30) * 60)};
-  QString temporary;
+  QTemporaryDir folder;
+  QString temporary = folder.path() + u'/';
   QString shortName = u"jdoe"_s;
   QString fullName = u"Jane Doe"_s;
   TextEncoding encoding = TextEncoding::MacRoman;
