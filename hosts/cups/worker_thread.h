@@ -71,9 +71,4 @@ class Mailbox {
   QObject* m_receiver;
 };
 
-/// Does `work` in the thread of `receiver`, unless that is destroyed by then.
-inline void answer(QObject* receiver, const std::function<void()>& work) {
-  QMetaObject::invokeMethod(receiver, work, Qt::QueuedConnection);
-}
-
 }  // namespace kesto

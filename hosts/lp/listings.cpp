@@ -107,10 +107,7 @@ Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
   return Outcome::done();
 }
 
-Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool* isOpen) {
-  JobPrivacy privacy;
-  if (Outcome found = findJobPrivacy(server, queue, &privacy); !found) return found;
-  *isOpen = !privacy.shown.isEmpty();
+void printPrivacy(const QString& queue, const JobPrivacy& privacy, bool json) {
   const QStringList lines = QString::fromLatin1(privatePolicyLines).split(u'\n', Qt::SkipEmptyParts);
   if (json) {
     const QJsonObject object{{QStringLiteral("queue"), queue},
@@ -118,11 +115,11 @@ Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool*
                              {QStringLiteral("shown"), QJsonArray::fromStringList(privacy.shown)},
                              {QStringLiteral("closedBy"), QJsonArray::fromStringList(lines)}};
     std::cout << QJsonDocument(object).toJson().constData();
-    return Outcome::done();
+    return;
   }
-  if (!*isOpen) {
+  if (privacy.shown.isEmpty()) {
     std::cout << shownText(queue).toStdString() << ": other users see none of a job's options.\n";
-    return Outcome::done();
+    return;
   }
   std::cout << shownText(queue).toStdString() << ": other users see of a job "
             << shownText(privacy.shown.join(QStringLiteral(", "))).toStdString() << ".\n"
@@ -132,7 +129,6 @@ Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool*
             << ":\n";
   for (const QString& line : lines)
     std::cout << "  " << line.toStdString() << '\n';
-  return Outcome::done();
 }
 
 Outcome printFolders(const PrintDialogPanel& panel, bool json) {

@@ -4,6 +4,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QMap>
 
+#include "hosts/cups/job_privacy.h"
 #include "hosts/cups/print_server.h"
 #include "hosts/session/preset_store.h"
 #include "platform/panel.h"
@@ -23,8 +24,7 @@ Outcome printPresets(const PresetStore& store, bool json);
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json);
 
 /// Prints what other users of the server see of a job on the queue, and the policy lines that prevent it.
-/// `*isOpen` says whether they see anything.
-Outcome printPrivacy(PrintServer& server, const QString& queue, bool json, bool* isOpen);
+void printPrivacy(const QString& queue, const JobPrivacy& privacy, bool json);
 
 /// Fetches the printer's folders through the panel, from `address` when it is not null. Fails on an invalid
 /// address, which the panel would ignore. When the printer does not answer, the panel's alert says so.

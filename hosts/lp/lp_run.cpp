@@ -219,9 +219,10 @@ ExitCode runQueueList(const Options& options) {
 ExitCode runCheck(const Options& options) {
   std::unique_ptr<PrintServer> server;
   if (Outcome connected = options.server.connect(&server); !connected) return ended(options, connected);
-  bool isOpen = false;
-  const ExitCode code = ended(options, printPrivacy(*server, *options.queue, options.json, &isOpen));
-  return code == ExitDone && isOpen ? ExitFailed : code;
+  JobPrivacy privacy;
+  if (Outcome found = findJobPrivacy(*server, *options.queue, &privacy); !found) return ended(options, found);
+  printPrivacy(*options.queue, privacy, options.json);
+  return privacy.shown.isEmpty() ? ExitDone : ExitFailed;
 }
 
 ExitCode runChange(const Options& options) {

@@ -19,6 +19,7 @@
 #include "hosts/dialog/widgets/plain_text.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
+#include "panel/model/radio_matrix.h"
 #include "panel/model/text_field.h"
 #include "platform/bundle.h"
 #include "platform/shown_text.h"
@@ -35,11 +36,13 @@ QString stemOf(const QString& name) {
 }
 
 bool isOn(const Control& control) {
-  return control.property("state").toInt() == 1;
+  const auto* button = qobject_cast<const Button*>(&control);
+  return button != nullptr && button->state() == 1;
 }
 
 bool isByLogin(const Control& control) {
-  return control.property("selectedRow").toInt() == ByLogin;
+  const auto* matrix = qobject_cast<const RadioMatrix*>(&control);
+  return matrix != nullptr && matrix->selectedRow() == ByLogin;
 }
 
 bool lacksAddress(const Control& control) {

@@ -126,33 +126,29 @@ bool QueueChooser::eventFilter(QObject* /*watched*/, QEvent* event) {
   return true;
 }
 
-// The queue that a text names: by its name or by its row in the list, or, unless the whole text is required,
-// by a part that no other queue has.
-QString QueueChooser::nameFor(const QString& text, bool isWhole, int* matches) const {
-  *matches = 1;
-  if (m_model.queue(text) != nullptr) return text;
-  const Qt::MatchFlags kind = isWhole ? Qt::MatchFixedString : Qt::MatchContains;
+// A text names a queue by its name or by its row in the list; of a row it may be a part if `kind` says so.
+QueueChooser::Match QueueChooser::match(const QString& text, Qt::MatchFlag kind) const {
+  if (m_model.queue(text) != nullptr) return {.queue = text, .count = 1};
+  int count = 0;
   for (const int role : {static_cast<int>(QueueListModel::NameRole), static_cast<int>(Qt::DisplayRole)}) {
-    const Qt::MatchFlags flags = role == Qt::DisplayRole ? kind : Qt::MatchFixedString;
+    const Qt::MatchFlag flags = role == Qt::DisplayRole ? kind : Qt::MatchFixedString;
     const QModelIndexList found = m_model.match(m_model.index(0), role, text, 2, flags);
-    *matches = static_cast<int>(found.size());
-    if (*matches == 1) return found.first().data(QueueListModel::NameRole).toString();
+    count = static_cast<int>(found.size());
+    if (count == 1) return {.queue = found.first().data(QueueListModel::NameRole).toString(), .count = 1};
   }
-  return {};
+  return {.queue = {}, .count = count};
 }
 
 void QueueChooser::takeText(const QString& text, bool isWhole) {
   if (m_isUpdating) return;
-  int matches = 0;
-  const QString name = isWhole ? nameFor(text, true, &matches) : QString();
+  const QString name = isWhole ? match(text, Qt::MatchFixedString).queue : QString();
   if (!name.isNull()) return choose(name);
   setTyped(text == currentText() ? QString() : text.isNull() ? QStringLiteral("") : text);
 }
 
 void QueueChooser::confirmText() {
   if (!isPending()) return;
-  int matches = 0;
-  const QString name = nameFor(m_typed, false, &matches);
+  const QString name = match(m_typed, Qt::MatchContains).queue;
   if (!name.isNull() && !m_typed.isEmpty()) choose(name);
 }
 
@@ -205,11 +201,10 @@ void QueueChooser::update(const std::function<void()>& change) {
 // The message about a pending text.
 QString QueueChooser::pendingText() const {
   if (m_typed.isEmpty()) return tr("Enter the name of a printer.");
-  int matches = 0;
-  const QString name = nameFor(m_typed, false, &matches);
+  const auto [name, count] = match(m_typed, Qt::MatchContains);
   if (!name.isNull()) return tr("Press Enter to choose %1.").arg(name);
-  return matches > 1 ? tr("Several printers match. Choose one of them.")
-                     : tr("There is no printer named \"%1\".").arg(m_typed);
+  return count > 1 ? tr("Several printers match. Choose one of them.")
+                   : tr("There is no printer named \"%1\".").arg(m_typed);
 }
 
 void QueueChooser::updateLine() {

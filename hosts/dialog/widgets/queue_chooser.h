@@ -47,12 +47,18 @@ class QueueChooser : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  // What a text names.
+  struct Match {
+    QString queue;  // null unless it is one
+    int count = 0;  // two for all above one
+  };
+
   void offerFilter();
   void takeText(const QString& text, bool isWhole);
   void confirmText();
   void choose(const QString& name);
   void setTyped(const QString& text);
-  QString nameFor(const QString& text, bool isWhole, int* matches) const;
+  Match match(const QString& text, Qt::MatchFlag kind) const;
   QString currentText() const;
   QString pendingText() const;
   void update(const std::function<void()>& change = {});
