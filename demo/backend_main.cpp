@@ -13,10 +13,14 @@
 #include <string>
 #include <string_view>
 
+#include "platform/descriptor.h"
+
 namespace {
 
-// A socket that is connected to the printer; negative on failure.
-int connectTo(const char* uri) {
+using kesto::Descriptor;
+
+// A socket that is connected to the printer; none on failure.
+Descriptor connectTo(const char* uri) {
   std::array<char, 32> scheme{};
   std::array<char, 256> user{};
   std::array<char, 256> host{};
@@ -24,17 +28,16 @@ int connectTo(const char* uri) {
   int port = 0;
   if (httpSeparateURI(HTTP_URI_CODING_ALL, uri, scheme.data(), scheme.size(), user.data(), user.size(),
                       host.data(), host.size(), &port, path.data(), path.size()) < HTTP_URI_STATUS_OK) {
-    return -1;
+    return {};
   }
   sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
   const std::string_view name = path.data();
-  if (name.size() >= sizeof address.sun_path) return -1;
+  if (name.size() >= sizeof address.sun_path) return {};
   name.copy(address.sun_path, name.size());
-  const int printer = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  if (printer < 0) return -1;
-  if (::connect(printer, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) return printer;
-  ::close(printer);
-  return -1;
+  Descriptor printer(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  if (!printer) return {};
+  const auto* place = reinterpret_cast<const sockaddr*>(&address);
+  return ::connect(printer.get(), place, sizeof address) == 0 ? std::move(printer) : Descriptor();
 }
 
 bool sendAll(int to, std::string_view bytes) {
@@ -77,13 +80,13 @@ int main(int argc, char** argv) {
   if (argc == 1) return CUPS_BACKEND_OK;  // Asked to list devices: there are none.
   if (argc != 6 && argc != 7) return fail("usage: socket JOB USER TITLE COPIES OPTIONS [FILE]");
   const char* uri = cupsBackendDeviceURI(argv);
-  const int printer = uri == nullptr ? -1 : connectTo(uri);
-  if (printer < 0) return fail("the printer cannot be reached");
-  const int document = argc == 7 ? ::open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
-  if (document < 0) return fail("the document cannot be opened");
+  const Descriptor printer = uri == nullptr ? Descriptor() : connectTo(uri);
+  if (!printer) return fail("the printer cannot be reached");
+  const Descriptor document(argc == 7 ? ::open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO);
+  if (!document) return fail("the document cannot be opened");
   // A job counts as printed only when the printer says so; the end of the connection proves nothing.
-  const bool isSent = copyAll(document, printer) && sendAll(printer, "@END\n");
-  const std::string answer = answerOf(printer);
+  const bool isSent = copyAll(document.get(), printer.get()) && sendAll(printer.get(), "@END\n");
+  const std::string answer = answerOf(printer.get());
   if (isSent && answer == "taken") return CUPS_BACKEND_OK;
   return fail(answer.empty() ? "the printer has not taken the job" : answer.c_str());
 }

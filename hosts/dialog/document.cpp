@@ -99,18 +99,11 @@ void Document::add(const QByteArray& path) {
   }
 }
 
-void Document::readDescriptor(int descriptor, const QString& name) {
+void Document::readFromClient(Descriptor descriptor, const QString& name) {
   begin();
+  m_isOpenEnded = !isRegular(descriptor.get());
   m_parts.push_back({shownText(name), {}});
-  m_sources.push_back({0, Descriptor(descriptor)});
-  read();
-}
-
-void Document::readFromClient(int descriptor, const QString& name) {
-  begin();
-  m_isOpenEnded = !isRegular(descriptor);
-  m_parts.push_back({shownText(name), {}});
-  m_sources.push_back({0, Descriptor(descriptor)});
+  m_sources.push_back({0, std::move(descriptor)});
   read();
 }
 

@@ -43,11 +43,9 @@ class Document : public QObject {
   /// Takes files by their paths, "-" for standard input. Files that cannot be read are left out and named by
   /// `faults`.
   void openFiles(const QByteArrayList& paths);
-  /// Reads a descriptor, which the document owns, to its end.
-  void readDescriptor(int descriptor, const QString& name);
-  /// The same for a descriptor to which another program writes. A pipe also ends when that program dies, so
-  /// the document is ready only when `confirmEnd` is called after `ended`. A file is complete at once.
-  void readFromClient(int descriptor, const QString& name);
+  /// Reads a descriptor to which another program writes to its end. A pipe also ends when that program dies,
+  /// so the document is ready only when `confirmEnd` is called after `ended`. A file is complete at once.
+  void readFromClient(Descriptor descriptor, const QString& name);
   void confirmEnd();
   /// Call this when the user has pressed Print: the reading no longer pauses.
   void readOn();

@@ -64,7 +64,7 @@ void PortalPrint::take(const QJsonObject& message, Descriptor& attached) {
   if (what == u"close") withdraw();
   if (what == u"whole") m_document.confirmEnd();
   if (what == u"print" && m_dialog && attached && m_document.state() == Document::State::None)
-    m_document.readFromClient(attached.release(), message.value(u"title").toString());
+    m_document.readFromClient(std::move(attached), message.value(u"title").toString());
 }
 
 void PortalPrint::open(const QJsonObject& message) {

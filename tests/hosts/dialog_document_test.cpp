@@ -84,13 +84,14 @@ TEST_F(DialogDocument, WhatHasNoEndIsReadInBounds) {
 TEST_F(DialogDocument, TheEndOfAnotherProgramsPipeIsConfirmed) {
   int ends = 0;
   QObject::connect(&m_document, &Document::ended, [&] { ++ends; });
-  m_document.readFromClient(pipeOf("half").release(), u"Report"_s);
+  m_document.readFromClient(pipeOf("half"), u"Report"_s);
   EXPECT_TRUE(DialogUser::waitUntil([&] { return ends == 1; }, u"the end"_s));
   EXPECT_EQ(m_document.state(), State::Reading);
   EXPECT_TRUE(m_document.isOpenEnded());
   m_document.confirmEnd();
   EXPECT_EQ(m_document.state(), State::Ready);
-  m_document.readFromClient(::open(path(u"report.pdf"_s).constData(), O_RDONLY | O_CLOEXEC), u"Report"_s);
+  m_document.readFromClient(Descriptor(::open(path(u"report.pdf"_s).constData(), O_RDONLY | O_CLOEXEC)),
+                            u"Report"_s);
   EXPECT_FALSE(m_document.isOpenEnded());
   m_document.readOn();
   awaitState(State::Ready);
@@ -100,7 +101,8 @@ TEST_F(DialogDocument, TheEndOfAnotherProgramsPipeIsConfirmed) {
 
 TEST_F(DialogDocument, ACopyGoesWhereThereIsRoom) {
   qputenv("TMPDIR", path(u"missing"_s));
-  m_document.readDescriptor(pipeOf("elsewhere").release(), {});
+  const Descriptor pipe = pipeOf("elsewhere");
+  m_document.openFiles({"/dev/fd/" + QByteArray::number(pipe.get())});
   awaitState(State::Ready);
   EXPECT_EQ(bytes(), "elsewhere");
   PrivateCopy nowhere({m_folder.path(u"missing/"_s), u"/proc/"_s});
@@ -132,7 +134,7 @@ TEST_F(DialogDocument, AFileTakesThePlaceOfADocumentThatIsStillRead) {
   for (const bool isWhole : {false, true}) {  // or it is read whole, and nobody has been told
     std::array<int, 2> ends{};
     ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()), 0);
-    m_document.readDescriptor(ends[0], u"(stdin)"_s);
+    m_document.readFromClient(Descriptor(ends[0]), u"Report"_s);
     if (isWhole) ::shutdown(ends[1], SHUT_WR);
     char byte = 0;
     if (!isWhole) m_document.openFiles({path(u"report.pdf"_s)});

@@ -223,7 +223,8 @@ TEST_F(DialogPrint, ADocumentThatComesAfterTheChoiceBringsItsName) {
   openReady({});
   click(u"print"_s);
   EXPECT_FALSE(m_dialog->isVisible());
-  m_document.readDescriptor(::open(qPrintable(m_folder.path(u"report.pdf"_s)), O_RDONLY), u"Plan"_s);
+  m_document.readFromClient(Descriptor(::open(qPrintable(m_folder.path(u"report.pdf"_s)), O_RDONLY)),
+                            u"Plan"_s);
   await([this] { return m_dialog->job() > 0; }, u"the job"_s);
   EXPECT_EQ(attributeOfJob(m_options.server, 1, "job-name"), u"Plan"_s);
   EXPECT_EQ(m_dialog->jobSettings().value(u"kesto.print.PrintSettings.jobName"_s),
