@@ -154,13 +154,9 @@ class DialogLook : public testing::Test {
     const QString fault = m_dialog->findChild<QLabel*>(u"printerState"_s)->text();
     m_dialog->takeQueue(demoQueue());
     EXPECT_TRUE(DialogUser::waitUntil([this] { return m_dialog->isQueueReady(); }, u"the queue"_s));
-    DialogUser user(*m_dialog);
-    EXPECT_TRUE(user.click(u"retentionCheckBox"_s));
-    EXPECT_TRUE(user.click(u"customFolderRadioButton"_s));
-    EXPECT_TRUE(user.type(u"suspendKeyEditText"_s, u"2468"_s));
-    EXPECT_TRUE(user.click(u"userNumberRadioButton"_s));
-    EXPECT_TRUE(user.type(u"userNumberEditText"_s, u"42"_s));
-    EXPECT_TRUE(user.click(u"userNumberButton"_s));
+    useWidgets(*m_dialog,
+               "retentionCheckBox customFolderRadioButton suspendKeyEditText=2468 userNumberRadioButton "
+               "userNumberEditText=42 userNumberButton");
     m_dialog->findChild<QWidget*>(u"chasingArrow"_s)->show();
     m_dialog->findChild<QueueChooser*>()->showText(fault, true);
   }

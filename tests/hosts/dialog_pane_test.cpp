@@ -23,7 +23,7 @@ namespace {
 
 class DialogPane : public testing::Test {
  protected:
-  void turnRetentionOn() { ASSERT_TRUE(m_window.user.click(u"retentionCheckBox"_s)); }
+  void use(const Text& operations) { useWidgets(m_window, operations); }
 
   PaneWindow m_window;
   DialogUser& m_user = m_window.user;
@@ -36,17 +36,13 @@ TEST_F(DialogPane, EveryControlHasItsWidget) {
 
 TEST_F(DialogPane, WhatAUserDoesReachesTheJob) {
   EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
-  ASSERT_TRUE(m_user.click(u"retentionCheckBox"_s));
-  ASSERT_TRUE(m_user.click(u"samplePrintRadioButton"_s));
-  ASSERT_TRUE(m_user.type(u"suspendKeyEditText"_s, u"13579"_s));
-  ASSERT_TRUE(m_user.click(u"userNumberRadioButton"_s));
-  ASSERT_TRUE(m_user.type(u"userNumberEditText"_s, u"42"_s));
-  ASSERT_TRUE(m_user.replace(u"jobNameEditText"_s, u"Plan"_s));
+  use("retentionCheckBox samplePrintRadioButton suspendKeyEditText=13579 userNumberRadioButton "
+      "userNumberEditText=42 jobNameEditText=Plan");
   EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"3"_s);
   EXPECT_EQ(m_window.setting(u"userNumber"_s), u"00042"_s);
   EXPECT_EQ(m_window.setting(u"jobName"_s), QString::fromLatin1(QByteArray("Plan").toHex().toUpper()));
   EXPECT_EQ(m_window.setting(u"jobSuspendKey"_s).size(), 32) << "the digest of the pass code";
-  ASSERT_TRUE(m_user.click(u"retentionCheckBox"_s));
+  use("retentionCheckBox");
   EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
   EXPECT_EQ(m_window.widget<QLineEdit>(u"suspendKeyEditText"_s)->text(), u""_s);
 }
@@ -135,7 +131,7 @@ TEST_F(DialogPane, EveryWayToEditGoesThroughTheFilter) {
       {"value: of a dimmed field", "", setValue, "Plans", "", {-1, 0}, "folderNameEditText"},
       {"value: half of a pair", "😀", setValue, "😁", "😁", {-1, 0}, "userNameEditText"},
   };
-  turnRetentionOn();
+  use("retentionCheckBox");
   for (const Edit& edit : edits) {
     SCOPED_TRACE(edit.what);
     const QString name = QLatin1String(edit.field);
@@ -166,7 +162,7 @@ TEST_F(DialogPane, AHoldButtonLocksItsField) {
   EXPECT_TRUE(line->isEnabled());
   EXPECT_FALSE(state().checked);
   const QImage open = button->grab().toImage();
-  ASSERT_TRUE(m_user.click(u"jobNameButton"_s));
+  use("jobNameButton");
   EXPECT_FALSE(line->isEnabled());
   EXPECT_TRUE(state().checked);
   EXPECT_TRUE(state().checkable);
@@ -185,14 +181,12 @@ TEST_F(DialogPane, SecretsHideThemselves) {
   auto* login = m_window.widget<QLineEdit>(u"loginNameEditText"_s);
   auto* password = m_window.widget<QLineEdit>(u"passwordEditText"_s);
   auto* code = m_window.widget<QLineEdit>(u"suspendKeyEditText"_s);
-  ASSERT_TRUE(m_user.type(u"loginNameEditText"_s, u"anna"_s));
-  ASSERT_TRUE(m_user.type(u"passwordEditText"_s, u"secret"_s));
+  use("loginNameEditText=anna passwordEditText=secret");
   EXPECT_EQ(password->displayText(), QString(6, password->displayText().at(0)));
   EXPECT_NE(password->displayText().at(0), u's');
-  ASSERT_TRUE(m_user.click(u"loginNameButton"_s));
+  use("loginNameButton");
   EXPECT_EQ(login->text(), QString(4, QChar(0x2022)));
-  turnRetentionOn();
-  ASSERT_TRUE(m_user.type(u"suspendKeyEditText"_s, u"24"_s));
+  use("retentionCheckBox suspendKeyEditText=24");
   EXPECT_NE(code->displayText(), u"24"_s);
   QTest::keyClick(code, Qt::Key_R, Qt::ControlModifier);
   EXPECT_EQ(code->displayText(), u"24"_s);
@@ -203,7 +197,7 @@ TEST_F(DialogPane, SecretsHideThemselves) {
 }
 
 TEST_F(DialogPane, PopUpAndMatrixOfFoldersStayInStep) {
-  turnRetentionOn();
+  use("retentionCheckBox");
   auto* popUp = m_window.control<PopUp>(u"folderSelectionPopup"_s);
   std::vector<PopUpItem> items = popUp->items();
   items.push_back({.title = {}, .image = {}, .separator = true});
@@ -231,33 +225,32 @@ TEST_F(DialogPane, PopUpAndMatrixOfFoldersStayInStep) {
 
 TEST_F(DialogPane, FocusFollowsTheModelAndBack) {
   auto* name = m_window.widget<QLineEdit>(u"folderNameEditText"_s);
-  turnRetentionOn();
+  use("retentionCheckBox");
   auto* code = m_window.widget<QLineEdit>(u"suspendKeyEditText"_s);
   EXPECT_TRUE(code->hasFocus());
   QCoreApplication::processEvents();
   QTest::keyClicks(m_window.focusWidget(), u"24"_s);
   EXPECT_EQ(code->text(), u"24"_s) << "it keeps the focus";
   EXPECT_EQ(m_window.view->firstResponder()->objectName(), u"suspendKeyEditText"_s);
-  ASSERT_TRUE(m_user.click(u"suspendKeyButton"_s));
+  use("suspendKeyButton");
   for (int i = 0; i < 2; ++i)
-    ASSERT_TRUE(m_user.click(u"retentionCheckBox"_s));
+    use("retentionCheckBox");
   EXPECT_TRUE(m_window.widget(u"retentionCheckBox"_s)->hasFocus()) << "the pass code is locked";
-  ASSERT_TRUE(m_user.click(u"suspendKeyButton"_s));
-  ASSERT_TRUE(m_user.click(u"customFolderRadioButton"_s));
+  use("suspendKeyButton customFolderRadioButton");
   EXPECT_TRUE(name->hasFocus());
   QTest::keyClicks(name, u"Plans"_s);
   EXPECT_EQ(m_window.view->firstResponder()->objectName(), u"folderNameEditText"_s);
   QTest::keyClick(name, Qt::Key_Tab);
   EXPECT_FALSE(name->hasFocus());
   EXPECT_EQ(m_window.view->firstResponder(), nullptr) << "a button has the focus";
-  ASSERT_TRUE(m_user.type(u"suspendKeyEditText"_s, u"1"_s));
+  use("suspendKeyEditText=1");
   restorePanel(*m_window.host, {});
   QCoreApplication::processEvents();
   EXPECT_FALSE(code->hasFocus()) << "it is dimmed";
   EXPECT_EQ(m_window.view->firstResponder()->objectName(), m_window.focusWidget()->objectName());
-  ASSERT_TRUE(m_user.click(u"userNumberRadioButton"_s));
+  use("userNumberRadioButton");
   EXPECT_TRUE(m_window.widget(u"userNumberEditText"_s)->hasFocus());
-  ASSERT_TRUE(m_user.click(u"authenticationRadioButton"_s));
+  use("authenticationRadioButton");
   EXPECT_TRUE(m_window.widget(u"loginNameEditText"_s)->hasFocus());
 }
 
@@ -267,7 +260,7 @@ TEST_F(DialogPane, AssistiveTechnologyGoesThroughTheRules) {
   };
   auto* items = m_window.widget<QComboBox>(u"folderSelectionPopup"_s);
   const auto* rows = m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s);
-  turnRetentionOn();
+  use("retentionCheckBox");
   // The next key goes to a caret that was moved without the focus.
   auto* line = m_window.widget<QLineEdit>(u"jobNameEditText"_s);
   line->setCursorPosition(0);
@@ -307,13 +300,11 @@ TEST_F(DialogPane, ATipSaysWhyAControlIsDimmed) {
   expectTips(
       u"suspendKeyEditText=not_held folderSelectionPopup=not_held holdOnlyRadioButton=not_held "
       "userNumberEditText="_s);
-  turnRetentionOn();
-  ASSERT_TRUE(m_user.click(u"userNumberRadioButton"_s));
+  use("retentionCheckBox userNumberRadioButton");
   expectTips(
       u"suspendKeyEditText= folderNameEditText=custom_folder folderPasswordStaticText=guarded "
       "loginNameEditText=user_number"_s);
-  ASSERT_TRUE(m_user.click(u"quickFileRadioButton"_s));
-  ASSERT_TRUE(m_user.click(u"userNumberButton"_s));
+  use("quickFileRadioButton userNumberButton");
   expectTips(u"suspendKeyEditText=quick_file userNumberEditText=Locked"_s);
 }
 
@@ -325,7 +316,7 @@ TEST_F(DialogPane, TheTestsUserFailsWhereAPersonWould) {
 }
 
 TEST_F(DialogPane, OutlivesItsPanel) {
-  turnRetentionOn();
+  use("retentionCheckBox");
   m_window.host.reset();
   QTest::mouseClick(m_window.widget(u"retentionCheckBox"_s), Qt::LeftButton);
   QTest::keyClicks(m_window.widget(u"suspendKeyEditText"_s), u"12"_s);

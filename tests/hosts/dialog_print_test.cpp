@@ -16,7 +16,6 @@ namespace kesto::test {
 namespace {
 
 TEST_F(DialogPrint, AWholeJobIsDoneThroughAssistiveTechnologyAlone) {
-  startPrinter();
   openReady();
   const auto accessible = [this](const QString& name) {
     return QAccessible::queryAccessibleInterface(widget(name));
@@ -79,10 +78,8 @@ TEST_F(DialogPrint, ARefusedJobLeadsToTheMissingEntry) {
 }
 
 TEST_F(DialogPrint, AJobThatCannotBeSentKeepsTheEntries) {
-  startPrinter();
   openReady();
-  click(u"userNumberRadioButton"_s);
-  type(u"userNumberEditText"_s, u"42"_s);
+  use("userNumberRadioButton userNumberEditText=42");
   QWidget* pages = nullptr;
   EXPECT_TRUE(DialogUser(*m_dialog).turnTo(u"pages"_s, &pages));
   QTest::keySequence(&*m_dialog, widget<QAbstractButton>(u"somePages"_s)->shortcut());
@@ -113,7 +110,6 @@ TEST_F(DialogPrint, ADocumentThatCannotBePrintedIsNotSent) {
 }
 
 TEST_F(DialogPrint, CancelStopsAJobThatIsGoingOut) {
-  startPrinter();
   openReady();
   click(u"retentionCheckBox"_s);
   signalScheduler(SIGSTOP);
@@ -133,7 +129,6 @@ TEST_F(DialogPrint, CancelStopsAJobThatIsGoingOut) {
 }
 
 TEST_F(DialogPrint, ADocumentIsChosenInTheDialog) {
-  startPrinter();
   openReady({});
   auto* button = widgetNamed<QPushButton>(*m_dialog, u"Choose the document"_s);
   whenModal([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
@@ -188,7 +183,6 @@ TEST_F(DialogPrint, PrintReadsTheRestOfALongPipe) {
 }
 
 TEST_F(DialogPrint, TheEndOfAFolderFetchIsSaid) {
-  startPrinter();
   openReady();
   auto* address = widget<QLineEdit>(u"printersAddressEditText"_s);
   for (const auto& [given, reason] : Cases{{"", "Enter the printer's address"},
@@ -239,12 +233,10 @@ TEST_F(DialogPrint, CancelEndsAFolderFetch) {
 }
 
 TEST_F(DialogPrint, TabGoesRoundTheDialogAsItIsRead) {
-  startPrinter();
   openReady({QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")});
   const auto* forward = widgetNamed<QToolButton>(*m_dialog, u"Next page"_s);
   await([&] { return forward->isEnabled(); }, u"the number of pages"_s);
-  click(u"retentionCheckBox"_s);
-  click(u"holdAfterRadioButton"_s);
+  use("retentionCheckBox holdAfterRadioButton");
   widget(u"retentionCheckBox"_s)->setFocus();
   const auto walk = [this](Qt::KeyboardModifiers modifiers) {
     QStringList order;
@@ -279,7 +271,6 @@ TEST_F(DialogPrint, HelpStandsBesideTheDialog) {
 }
 
 TEST_F(DialogPrint, PresetsComeBackAndGo) {
-  startPrinter();
   openReady();
   QMenu* menu = widgetNamed<QToolButton>(*m_dialog, u"Presets"_s)->menu();
   const auto entryOf = [](const QMenu* shown, const QString& part) {
@@ -299,8 +290,7 @@ TEST_F(DialogPrint, PresetsComeBackAndGo) {
     });
     entry(u"Save"_s)->trigger();
   };
-  click(u"retentionCheckBox"_s);
-  click(u"holdAfterRadioButton"_s);
+  use("retentionCheckBox holdAfterRadioButton");
   save();
   click(u"retentionCheckBox"_s);
   entry(u"Held && fast"_s)->trigger();

@@ -21,8 +21,7 @@ TEST_F(DialogPrint, ASilentServerIsToldAndAskedAgain) {
   EXPECT_FALSE(widget(u"print"_s)->isEnabled());
   EXPECT_EQ(widget(u"print"_s)->toolTip(), u""_s) << "the document is there";
   EXPECT_EQ(widget<QComboBox>(u"printer"_s)->placeholderText(), u"No printer"_s);
-  type(u"copies"_s, u"3"_s);
-  click(u"retry"_s);
+  use("copies=3 retry");
   EXPECT_FALSE(widget(u"retry"_s)->isVisible());
   await([this] { return widget(u"retry"_s)->isVisible(); }, u"the fault again"_s);
   QTest::keyClick(&*m_dialog, Qt::Key_Escape);
@@ -171,7 +170,6 @@ TEST_F(DialogPrint, TheFirstQueueThatTakesJobsStandsInForOneThatIsMissing) {
 }
 
 TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) {
-  startPrinter();
   openReady();
   const auto change = [this](const QStringList& arguments) {
     DemoProcess lpadmin(m_folder, u"/usr/sbin/lpadmin"_s,

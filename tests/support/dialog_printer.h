@@ -15,6 +15,7 @@
 #include "hosts/dialog/user/dialog_user.h"
 #include "hosts/dialog/widgets/queue_list_model.h"
 #include "tests/support/demo_process.h"
+#include "tests/support/dialog_support.h"
 
 namespace kesto::test {
 
@@ -84,6 +85,7 @@ class DialogPrint : public testing::Test {
   }
   void open() { open({m_folder.path(u"report.pdf"_s)}); }
   void openReady(const QStringList& files) {
+    if (!m_printer) startPrinter();
     open(files);
     await([this] { return m_dialog->isQueueReady() && m_dialog->queues().rowCount() > 0; }, u"the queue"_s);
     await([this] { return m_dialog->preview().isExamined(); }, u"the look at the document"_s);
@@ -101,10 +103,8 @@ class DialogPrint : public testing::Test {
   QByteArray printout(int job, int document = 1) const {
     return bytesOf(m_printer->place(u"output"_s) + u"/job-%1-%2"_s.arg(job).arg(document));
   }
-  void click(const QString& name) {
-    const Outcome clicked = DialogUser(*m_dialog).click(name);
-    ASSERT_TRUE(clicked) << clicked.reason();
-  }
+  void use(const Text& operations) { useWidgets(*m_dialog, operations); }
+  void click(const QString& name) { use(name); }
   void type(const QString& name, const QString& text) {
     const Outcome typed = DialogUser(*m_dialog).replace(name, text);
     ASSERT_TRUE(typed) << typed.reason();

@@ -28,6 +28,17 @@ struct NoAlerts : AlertPresenter {
   }
 };
 
+/// What a user does, in order: "name" clicks, "name=text" types over what is there.
+inline void useWidgets(QWidget& window, const Text& operations) {
+  DialogUser user(window);
+  for (const QString& operation : operations.split(u' ')) {
+    const QString name = operation.section(u'=', 0, 0);
+    const Outcome done =
+        name == operation ? user.click(name) : user.replace(name, operation.section(u'=', 1));
+    ASSERT_TRUE(done) << done.reason();
+  }
+}
+
 /// A window with the pane of a panel, operated by a simulated user.
 class PaneWindow : public QWidget {
  public:
