@@ -81,12 +81,12 @@ int main(int argc, char** argv) {
   if (argc != 6 && argc != 7) return fail("usage: socket JOB USER TITLE COPIES OPTIONS [FILE]");
   const char* uri = cupsBackendDeviceURI(argv);
   const Descriptor printer = uri == nullptr ? Descriptor() : connectTo(uri);
-  if (!printer) return fail("the printer cannot be reached");
+  if (!printer) return fail("cannot reach the printer");
   const Descriptor document(argc == 7 ? ::open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO);
-  if (!document) return fail("the document cannot be opened");
+  if (!document) return fail("cannot open the document");
   // A job counts as printed only when the printer says so; the end of the connection proves nothing.
   const bool isSent = copyAll(document.get(), printer.get()) && sendAll(printer.get(), "@END\n");
   const std::string answer = answerOf(printer.get());
   if (isSent && answer == "taken") return CUPS_BACKEND_OK;
-  return fail(answer.empty() ? "the printer has not taken the job" : answer.c_str());
+  return fail(answer.empty() ? "the printer did not accept the job" : answer.c_str());
 }

@@ -14,7 +14,6 @@ namespace kesto {
 namespace {
 
 constexpr int exitFailed = 1;
-constexpr int exitUsage = 2;
 constexpr qsizetype longestPassCode = 8;
 
 struct Arguments {
@@ -39,16 +38,16 @@ bool isPassCode(const std::string& text) {
 
 // The error message for a text that is not a pass code; it does not repeat the text.
 std::string faultOfPassCode(const std::string& text) {
-  return isPassCode(text) ? "" : "is not 1 to 8 digits";
+  return isPassCode(text) ? "" : "must be 1 to 8 digits";
 }
 
 std::string faultOfMisbehaviour(const std::string& name) {
   if (name == "list" || misbehaviourNamed(QString::fromStdString(name)) != nullptr) return "";
-  return "there is no misbehaviour " + name + "; --misbehave list shows them";
+  return "unknown misbehaviour " + name + "; --misbehave list shows all";
 }
 
 void addPlace(CLI::App& app, Arguments& arguments) {
-  app.add_option("--dir", arguments.directory, "run folder of the printer, made and removed by it")
+  app.add_option("--dir", arguments.directory, "the printer's run folder, which it creates and removes")
       ->type_name("FOLDER");
 }
 
@@ -60,48 +59,49 @@ void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
   addPlace(app, arguments);
   addJson(app, command);
   app.add_option("--output", arguments.output,
-                 "where printed documents go and stay; else into the run folder")
+                 "folder for printed documents, kept at the end (default: the run folder)")
       ->type_name("FOLDER");
   app.add_option("--folders", arguments.folders,
-                 "the printer's folders: one a line, its name, and for a locked one a tab and \"locked\"")
+                 "the printer's folders, one name a line; a locked one is followed by a tab and \"locked\"")
       ->type_name("FILE");
-  app.add_option("--port", arguments.port,
-                 "let the print server listen on this port of 127.0.0.1 too, 0 for any: for programs that "
-                 "cannot use its socket. Every user of the machine can then send jobs to it")
+  app.add_option(
+         "--port", arguments.port,
+         "also let the print server listen on this port of 127.0.0.1, 0 for any free one, for programs "
+         "that cannot use its socket. Every user of the machine can then send jobs to it")
       ->type_name("PORT")
-      ->transform(wholeNumber(0, 65535));
+      ->transform(wholeNumber("the port", 0, 65535));
   app.add_option("--folder-port", arguments.folderPort,
-                 "port of the folder service, 0 for any; else 80 when it may be had, or any")
+                 "port of the folder service, 0 for any free one (default: 80 if possible, else any)")
       ->type_name("PORT")
-      ->transform(wholeNumber(0, 65535));
-  app.add_option("--misbehave", arguments.misbehave,
-                 "let the folder service misbehave; \"list\" shows the ways")
+      ->transform(wholeNumber("the port", 0, 65535));
+  app.add_option("--misbehave", arguments.misbehave, "make the folder service misbehave; \"list\" shows how")
       ->type_name("NAME")
       ->check(faultOfMisbehaviour);
-  app.add_option("--queues", command.setup.queues, "have this many queues, to try long lists")
-      ->transform(wholeNumber(1, 9999));
-  app.add_flag("--folders-only", command.setup.foldersOnly, "run nothing but the folder service");
+  app.add_option("--queues", command.setup.queues, "create this many queues, to try long lists")
+      ->transform(wholeNumber("the number", 1, 9999));
+  app.add_flag("--folders-only", command.setup.foldersOnly, "run only the folder service");
 }
 
 void addCommands(CLI::App& app, Arguments& arguments, DemoCommand& command) {
   app.require_subcommand(0, 1);
-  CLI::App* jobs = app.add_subcommand("jobs", "lists what the running printer holds and has printed");
+  CLI::App* jobs = app.add_subcommand("jobs", "list what the running printer holds and has printed");
   addPlace(*jobs, arguments);
   addJson(*jobs, command);
   jobs->callback([&command] { command.kind = DemoCommand::Kind::Jobs; });
   CLI::App* release =
-      app.add_subcommand("release", "prints a held job; ends with 3 when the pass code is wrong");
+      app.add_subcommand("release", "print a held job; exits with 3 if the pass code is wrong");
   addPlace(*release, arguments);
   release->add_option("JOB", command.job, "the job's number")
       ->required()
-      ->transform(wholeNumber(1, std::numeric_limits<int>::max()));
-  CLI::Option* pin =
-      release->add_option("--pin", arguments.passCode, "the job's pass code; other users may see it")
-          ->type_name("N")
-          ->check(faultOfPassCode);
+      ->transform(wholeNumber("the number", 1, std::numeric_limits<int>::max()));
+  CLI::Option* pin = release
+                         ->add_option("--pin", arguments.passCode,
+                                      "the job's pass code; other users may see it on the command line")
+                         ->type_name("N")
+                         ->check(faultOfPassCode);
   release
       ->add_option("--pin-file", arguments.passCodeFile,
-                   "file whose first line is the pass code, \"-\" for standard input")
+                   "file with the pass code in its first line, \"-\" for standard input")
       ->type_name("FILE")
       ->excludes(pin);
   release->callback([&command] { command.kind = DemoCommand::Kind::Release; });
@@ -113,27 +113,21 @@ Outcome readPassCode(const QString& path, QString* passCode) {
   if (!isOpen) return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
   const QByteArray line = file.readLine().trimmed();
   if (!isPassCode(line.toStdString()))
-    return Outcome::failed(path + QStringLiteral(": the first line is not 1 to 8 digits"));
+    return Outcome::failed(path + QStringLiteral(": the first line must be 1 to 8 digits"));
   *passCode = QString::fromLatin1(line);
   return Outcome::done();
 }
 
 // The exit status when the program is to end, after the help or a fault has been printed.
 std::optional<int> parse(CLI::App& app, int argc, char** argv) {
-  std::string fault;
   try {
     app.parse(argc, argv);
     return std::nullopt;
   } catch (const CLI::Success& help) {
     return app.exit(help);
-  } catch (const CLI::ExtrasError&) {
-    fault = faultOfUnknown(app);
   } catch (const CLI::ParseError& error) {
-    fault = error.what();
+    return failUsage("kesto-demo-printer", faultOf(app, error));
   }
-  std::cerr << "kesto-demo-printer: " << shownText(QString::fromUtf8(fault)).toStdString()
-            << "\nTry 'kesto-demo-printer --help'.\n";
-  return exitUsage;
 }
 
 // Converts the arguments, and reads the files that they name.
@@ -156,7 +150,7 @@ Outcome complete(const Arguments& arguments, DemoCommand* command) {
 
 std::optional<int> parseDemoCommand(int argc, char** argv, DemoCommand* command) {
   Arguments arguments;
-  CLI::App app("A Kesto VQ-250n of this machine's own, with a private print scheduler, until Ctrl-C.",
+  CLI::App app("Runs a simulated Kesto VQ-250n with a private print scheduler until Ctrl-C.",
                "kesto-demo-printer");
   addRun(app, arguments, *command);
   addCommands(app, arguments, *command);

@@ -43,7 +43,7 @@ Outcome DemoPrinter::startPrinting() {
     if (Outcome made = m_runFolder.makeFolder(QStringLiteral("output"), ownerOnly); !made) return made;
   }
   if (!QDir().mkpath(m_setup.output))
-    return Outcome::failed(m_setup.output + QStringLiteral(": cannot be made"));
+    return Outcome::failed(m_setup.output + QStringLiteral(": cannot create the folder"));
 
   m_store.emplace(m_runFolder.path(QStringLiteral("held")), m_setup.output);
   m_printer.emplace(*m_store);
@@ -53,7 +53,7 @@ Outcome DemoPrinter::startPrinting() {
   if (Outcome listening = m_control->listen(controlPath(m_setup.directory)); !listening) return listening;
   m_scheduler.emplace(m_runFolder);
   QObject::connect(&*m_scheduler, &Scheduler::died, qApp, [] {
-    logLine(QStringLiteral("the scheduler has ended"));
+    logLine(QStringLiteral("the scheduler has exited"));
     QCoreApplication::exit(1);
   });
   return m_scheduler->start(printerSocket, m_setup.queues, m_setup.port);

@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
   }
   std::FILE* document = argc == 7 ? std::fopen(argv[6], "rb") : stdin;
   if (document == nullptr) {
-    std::fprintf(stderr, "ERROR: the document cannot be opened\n");
+    std::fprintf(stderr, "ERROR: cannot open the document\n");
     return 1;
   }
   const std::string ticket = kesto::ticketLines(argv[1], argv[2], argv[3], argv[5]);

@@ -16,9 +16,9 @@ DemoFolder folderOfLine(const QString& line, QString* fault) {
   if (folder.name.isEmpty()) {
     *fault = QStringLiteral("the folder has no name");
   } else if (std::any_of(folder.name.begin(), folder.name.end(), isControl)) {
-    *fault = QStringLiteral("a control character in the folder's name");
+    *fault = QStringLiteral("the folder's name has a control character");
   } else if (columns.size() > 1 && !folder.isLocked) {
-    *fault = QStringLiteral("after the tab only \"locked\" may follow");
+    *fault = QStringLiteral("only \"locked\" may follow the tab");
   }
   return folder;
 }
@@ -38,7 +38,7 @@ Outcome readFolders(const QString& path, DemoFolders* folders) {
     return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
   QStringDecoder decoder(QStringDecoder::Utf8);
   const QString text = decoder(file.readAll());
-  if (decoder.hasError()) return Outcome::failed(path + QStringLiteral(": is no text in UTF-8"));
+  if (decoder.hasError()) return Outcome::failed(path + QStringLiteral(": not a text file in UTF-8"));
   folders->clear();
   int number = 0;
   for (const QString& line : text.split(QLatin1Char('\n'))) {

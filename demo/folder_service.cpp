@@ -62,7 +62,7 @@ FolderService::FolderService(DemoFolders folders, const Misbehaviour& behaviour)
 Outcome FolderService::listen(std::optional<quint16> port) {
   if (!port && m_server.listen(QHostAddress::LocalHost, 80)) return Outcome::done();
   if (m_server.listen(QHostAddress::LocalHost, port.value_or(0))) return Outcome::done();
-  return Outcome::failed(QStringLiteral("the folder service has no port %1: %2")
+  return Outcome::failed(QStringLiteral("the folder service cannot listen on port %1: %2")
                              .arg(port.value_or(0))
                              .arg(m_server.errorString()));
 }

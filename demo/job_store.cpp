@@ -39,10 +39,10 @@ JobStore::Job* JobStore::jobNumbered(int number) {
 Outcome JobStore::accept(const JobTicket& ticket, const QString& path) {
   Job* known = jobNumbered(ticket.job);
   Job job = known == nullptr ? Job{.ticket = ticket, .documents = {}} : *known;
-  if (job.ticket != ticket) return refuse(ticket, path, QStringLiteral("another job has its number"));
+  if (job.ticket != ticket) return refuse(ticket, path, QStringLiteral("another job has the same number"));
   const Retention retention = ticket.retention();
   if (retention != Retention::HoldOnly) {
-    if (!print(job, path)) return refuse(ticket, path, QStringLiteral("it cannot be printed"));
+    if (!print(job, path)) return refuse(ticket, path, QStringLiteral("cannot print it"));
     logJob(ticket, retention == Retention::PrintSampleAndHold ? QStringLiteral("printed a sample")
                                                               : QStringLiteral("printed"));
   }

@@ -42,7 +42,9 @@ PrinterConnection::PrinterConnection(QLocalSocket* socket, JobStore& store)
 
 PrinterConnection::~PrinterConnection() {
   if (!m_document.isOpen()) return;
-  logLine(QStringLiteral("job %1 from %2: thrown away: it broke off").arg(m_ticket.job).arg(m_ticket.user));
+  logLine(QStringLiteral("job %1 from %2: thrown away: the connection broke")
+              .arg(m_ticket.job)
+              .arg(m_ticket.user));
   m_document.remove();
 }
 

@@ -100,11 +100,13 @@ Outcome RunFolder::make() const {
   struct stat info {};
   if (::lstat(name.constData(), &info) != 0) return failedAt(m_path);
   if (!S_ISDIR(info.st_mode) || info.st_uid != geteuid()) {
-    return Outcome::failed(m_path + QStringLiteral(": is not a folder of this user; name another folder"));
+    return Outcome::failed(m_path +
+                           QStringLiteral(": the folder belongs to another user; choose another folder"));
   }
   if (!QFile::exists(path(QString::fromLatin1(lockName))) &&
       !QDir(m_path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
-    return Outcome::failed(m_path + QStringLiteral(": holds other files; name an empty folder or a new one"));
+    return Outcome::failed(m_path +
+                           QStringLiteral(": the folder holds other files; choose an empty or new folder"));
   }
   return Outcome::done();
 }
@@ -116,7 +118,7 @@ Outcome RunFolder::lock() {
     return Outcome::failed(m_lock.fileName() + QStringLiteral(": ") + m_lock.errorString());
   if (::flock(m_lock.handle(), LOCK_EX | LOCK_NB) != 0) {
     m_lock.close();
-    return Outcome::failed(m_path + QStringLiteral(": a demo printer is running there"));
+    return Outcome::failed(m_path + QStringLiteral(": a demo printer is already running there"));
   }
   // Done only now, because a printer that was running there may have opened it to the account of its jobs.
   if (::chmod(encoded(m_path).constData(), 0700) != 0) return failedAt(m_path);

@@ -144,7 +144,7 @@ Outcome copyFile(const QString& from, const QString& to, QFile::Permissions perm
         QStringLiteral("%1 cannot be copied to %2: %3").arg(from, to, source.errorString()));
   return QFile::setPermissions(to, permissions)
              ? Outcome::done()
-             : Outcome::failed(to + QStringLiteral(": its mode cannot be set"));
+             : Outcome::failed(to + QStringLiteral(": cannot set its mode"));
 }
 
 // A file beside the programs, in a build as well as when installed.
@@ -216,7 +216,7 @@ QString Scheduler::portAddress() const {
 
 Outcome Scheduler::start(const QString& printerSocket, int queues, std::optional<quint16> port) {
   const std::optional<Identity> identity = Identity::ofProcess();
-  if (!identity) return Outcome::failed(QStringLiteral("there is no account \"lp\" to run jobs as"));
+  if (!identity) return Outcome::failed(QStringLiteral("no account \"lp\" to run jobs as"));
   if (port) {
     if (Outcome reserved = reservePort(*port); !reserved) return reserved;
   }
@@ -262,11 +262,11 @@ Outcome Scheduler::copyPrograms(int queues) const {
   const QString server = findServer();
   const QString launcher = QLatin1String(systemServerBin) + QStringLiteral("/daemon/cups-exec");
   if (server.isEmpty() || !QFile::exists(launcher)) {
-    return Outcome::failed(QStringLiteral("there is no cupsd; install the package cups-daemon"));
+    return Outcome::failed(QStringLiteral("cannot find cupsd; install the package cups-daemon"));
   }
   if (Outcome copied = copyFile(server, path("cupsd"), program); !copied) return copied;
   if (!QFile::link(launcher, path("bin/daemon/cups-exec"))) {
-    return Outcome::failed(path("bin/daemon/cups-exec") + QStringLiteral(": the link cannot be made"));
+    return Outcome::failed(path("bin/daemon/cups-exec") + QStringLiteral(": cannot create the link"));
   }
   // The scheduler runs a backend that only its own user can execute as that user, and the printer listens to
   // nobody else.
@@ -316,7 +316,7 @@ Outcome Scheduler::startServer() {
   m_server.start(path("cupsd"), {QStringLiteral("-f"), QStringLiteral("-c"), path("cupsd.conf"),
                                  QStringLiteral("-s"), path("cups-files.conf")});
   if (!m_server.waitForStarted())
-    return Outcome::failed(QStringLiteral("cupsd does not start: ") + m_server.errorString());
+    return Outcome::failed(QStringLiteral("cannot start cupsd: ") + m_server.errorString());
   if (!waitUntilItAnswers()) return Outcome::failed(QStringLiteral("cupsd does not answer: ") + lastFault());
   m_reservation.close();
   connect(&m_server, &QProcess::finished, this, &Scheduler::died);
@@ -336,7 +336,7 @@ bool Scheduler::waitUntilItAnswers() {
 
 QString Scheduler::lastFault() const {
   QFile log(path("error_log"));
-  if (!log.open(QIODevice::ReadOnly)) return QStringLiteral("it has not said why");
+  if (!log.open(QIODevice::ReadOnly)) return QStringLiteral("it gave no reason");
   return QString::fromUtf8(log.readAll().trimmed().split('\n').last());
 }
 

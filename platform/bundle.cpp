@@ -51,10 +51,10 @@ Outcome Bundle::loadPrincipalObject(PrintDialogPlugIn** plugIn) const {
   if (principal == nullptr) {
     return Outcome::failed(
         code + QStringLiteral(": ") +
-        (loader.isLoaded() ? QStringLiteral("holds no print-dialog extension") : loader.errorString()));
+        (loader.isLoaded() ? QStringLiteral("not a print-dialog extension") : loader.errorString()));
   }
   if (!principal->initWithBundle(*this)) {
-    return Outcome::failed(code + QStringLiteral(": refused its bundle"));
+    return Outcome::failed(code + QStringLiteral(": the extension refused its bundle"));
   }
   *plugIn = principal;
   return Outcome::done();

@@ -51,7 +51,7 @@ Domain unavailable(const QString& path, const QString& reason) {
 }
 
 QString tooLarge() {
-  return QStringLiteral("the preferences would take more than %1 MiB").arg(largestDomain / 1024 / 1024);
+  return QStringLiteral("the preferences would be larger than %1 MiB").arg(largestDomain / 1024 / 1024);
 }
 
 struct Reading {
@@ -62,7 +62,7 @@ struct Reading {
 Reading readDomain(const QString& path) {
   const QFileInfo info(path);
   QFile file(path);
-  if (info.exists() && !info.isFile()) return {unavailable(path, QStringLiteral("it is not a file"))};
+  if (info.exists() && !info.isFile()) return {unavailable(path, QStringLiteral("not a file"))};
   if (!file.open(QIODevice::ReadOnly)) {
     if (!QFile::exists(path)) return {{.available = true, .values = {}}};
     return {unavailable(path, file.errorString())};
@@ -73,7 +73,7 @@ Reading readDomain(const QString& path) {
   if (bytes.isEmpty()) return {{.available = true, .values = {}}};
   const QJsonDocument document = QJsonDocument::fromJson(bytes);
   if (document.isObject()) return {{.available = true, .values = document.object()}};
-  return {unavailable(path, QStringLiteral("it holds no preferences")), true};
+  return {unavailable(path, QStringLiteral("not a preference file")), true};
 }
 
 // Needs the lock, because another process may be replacing the damaged file at this moment.
@@ -131,7 +131,7 @@ Outcome JsonUserDefaults::changeFile(const QString& path, const DomainChange& ch
     if (isPrivate(m_directory) && holdsPrivately(path, bytes)) return Outcome::done();
   }
   if (!makePrivateFolder(m_directory)) {
-    return Outcome::failed(QStringLiteral("the folder %1 cannot be made private").arg(m_directory));
+    return Outcome::failed(QStringLiteral("cannot make the folder %1 private").arg(m_directory));
   }
   FolderLock held;
   if (Outcome locked = held.take(m_directory, m_limit); !locked) return locked;

@@ -37,7 +37,7 @@ Descriptor attachedTo(msghdr* message) {
 Outcome PrintChannel::makePair(Descriptor* one, Descriptor* other) {
   std::array<int, 2> ends{};
   if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0)
-    return systemFailure(QStringLiteral("no channel to the dialog can be made"));
+    return systemFailure(QStringLiteral("cannot create a channel to the dialog"));
   one->reset(ends[0]);
   other->reset(ends[1]);
   return Outcome::done();
@@ -74,7 +74,7 @@ Outcome PrintChannel::send(const QJsonObject& message, int attached) {
     std::memcpy(CMSG_DATA(header), &attached, sizeof attached);
   }
   if (::sendmsg(m_socket.get(), &datagram, MSG_DONTWAIT | MSG_NOSIGNAL) < 0)
-    return systemFailure(QStringLiteral("the other end cannot be told"));
+    return systemFailure(QStringLiteral("cannot write to the other end"));
   return Outcome::done();
 }
 

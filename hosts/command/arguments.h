@@ -1,13 +1,17 @@
-// What the command lines share besides the parser.
+// What the command lines have in common beside the parser.
 #pragma once
 
 #include <CLI/CLI.hpp>
 #include <charconv>
+#include <iostream>
 #include <string>
+#include <string_view>
+
+#include "platform/shown_text.h"
 
 namespace kesto {
 
-/// Refuses values for all flags of the parser. What "--dry-run=no" does would be hard to guess.
+/// Lets no flag of the parser take a value: "--dry-run=no" would print nothing, or all, or the job.
 inline void refuseFlagValues(CLI::App& app) {
   for (CLI::Option* option : app.get_options()) {
     if (option->get_expected_max() == 0) option->disable_flag_override();
@@ -16,31 +20,54 @@ inline void refuseFlagValues(CLI::App& app) {
     refuseFlagValues(*command);
 }
 
-/// Accepts decimal digits only. The parser itself reads numbers as C does, where 010 is eight.
-inline CLI::Validator wholeNumber(int least, int most) {
-  const std::string range = std::to_string(least) + " to " + std::to_string(most);
-  const auto read = [least, most, range](std::string& text) -> std::string {
+/// Accepts only decimal digits, while the parser itself would read 010 as eight. Its message says what
+/// `name`, such as "copies", must be.
+inline CLI::Validator wholeNumber(const std::string& name, int least, int most) {
+  const auto read = [name, least, most](std::string& text) -> std::string {
     int number = -1;
     const char* end = text.data() + text.size();
     const auto [rest, error] = std::from_chars(text.data(), end, number);
     const bool isNumber = error == std::errc() && rest == end && text.front() != '-';
-    if (!isNumber || number < least || number > most) return "is no number from " + range;
+    if (!isNumber || number < least || number > most)
+      return name + " must be between " + std::to_string(least) + " and " + std::to_string(most);
     text = std::to_string(number);
     return {};
   };
-  return {read, range};
+  return {read, std::to_string(least) + " to " + std::to_string(most)};
 }
 
-/// The error message for arguments that the parser does not know; empty when there are none. It names an
-/// unknown option, but not an unexpected argument, which may be a secret.
+/// What is wrong with the arguments that the parser does not know; empty for nothing. An unknown option is
+/// named, an unexpected argument is not: it may be a secret.
 inline std::string faultOfUnknown(const CLI::App& app) {
   for (const std::string& argument : app.remaining(true)) {
-    if (argument == "--") continue;  // All arguments after it are files.
-    if (!argument.starts_with('-')) return "there is an argument too many";
-    return (argument.starts_with("--") ? argument.substr(0, argument.find('=')) : argument.substr(0, 2)) +
-           " is no option";
+    if (argument == "--") continue;  // Only files follow it.
+    if (!argument.starts_with('-')) return "unexpected argument";
+    const std::size_t length = argument.starts_with("--") ? argument.find('=') : 2;
+    return "unknown option " + argument.substr(0, length);
   }
   return {};
+}
+
+/// What is wrong with a command line, in our words where the parser's are hard to read.
+inline std::string faultOf(const CLI::App& app, const CLI::ParseError& error) {
+  const std::string text = error.what();
+  if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) return faultOfUnknown(app);
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+    const std::size_t flag = text.find(" was given a disallowed flag override");
+    return flag == std::string::npos ? text.substr(0, text.find(':')) + " requires a value"
+                                     : "--" + text.substr(0, flag) + " takes no value";
+  }
+  constexpr std::string_view excludes = " excludes ";
+  const std::size_t place = text.find(excludes);
+  if (dynamic_cast<const CLI::ExcludesError*>(&error) == nullptr || place == std::string::npos) return text;
+  return text.substr(0, place) + " cannot be used with " + text.substr(place + excludes.size());
+}
+
+/// Prints the fault of a program's command line on standard error. Answers the exit code of wrong usage.
+inline int failUsage(const std::string& program, const std::string& fault) {
+  std::cerr << program << ": " << shownText(QString::fromStdString(fault)).toStdString() << "\nTry '"
+            << program << " --help'.\n";
+  return 2;
 }
 
 }  // namespace kesto

@@ -10,7 +10,7 @@ Outcome flushOutput() {
   const bool isFlushed = std::fflush(stdout) == 0;
   return std::cout && isFlushed && std::ferror(stdout) == 0
              ? Outcome::done()
-             : Outcome::failed(QStringLiteral("standard output cannot be written"));
+             : Outcome::failed(QStringLiteral("cannot write standard output"));
 }
 
 int endOfOutput(const char* program, int code) {

@@ -39,7 +39,7 @@ Outcome readLine(int descriptor, QString* secret) {
   if (line.endsWith('\r')) line.chop(1);
   QStringDecoder decoder(QStringDecoder::Utf8);
   *secret = decoder.decode(line);
-  if (decoder.hasError()) return Outcome::failed(QStringLiteral("the line is no UTF-8 text"));
+  if (decoder.hasError()) return Outcome::failed(QStringLiteral("the line is not UTF-8"));
   // With an empty code the job would go out unprotected.
   return secret->isEmpty() ? Outcome::failed(QStringLiteral("the line is empty")) : Outcome::done();
 }
@@ -55,7 +55,7 @@ Outcome readSecretLine(const QString& path, QString* secret) {
 
 Outcome askSecret(const QString& prompt, QString* secret) {
   const Descriptor terminal(::open("/dev/tty", O_RDWR | O_NOCTTY | O_CLOEXEC));
-  if (!terminal) return Outcome::failed(QStringLiteral("there is no terminal to ask at"));
+  if (!terminal) return Outcome::failed(QStringLiteral("no terminal to ask at"));
   const UnseenTerminal unseen(terminal.get());
   show(terminal.get(), prompt.toLocal8Bit() + ": ");
   Outcome read = Outcome::done();

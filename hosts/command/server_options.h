@@ -20,7 +20,7 @@ std::array<CLI::Option*, 2> addServerOptions(CLI::App& app, Server* server) {
   };
   app.add_flag("-E", server->encrypt);
   const auto setLimit = [server](double seconds) {
-    if (std::isnan(seconds)) throw CLI::ValidationError("--timeout", "is no number");
+    if (std::isnan(seconds)) throw CLI::ValidationError("--timeout", "must be a number");
     server->limit = std::chrono::milliseconds(static_cast<int>(seconds * 1000));
   };
   app.add_option_function<double>("--timeout", setLimit)->check(CLI::Range(0.1, 3600.0));

@@ -66,8 +66,7 @@ Outcome HttpConnection::findAddresses(const QByteArray& host, int port) {
   const auto end = Clock::now() + m_limit;
   while (found.wait_for(std::min(look, m_limit)) != std::future_status::ready) {
     if (m_watchdog->isInterrupted() || Clock::now() >= end)
-      return Outcome::failed(
-          Faults::tr("the address of the print server %1 is not found in time").arg(m_name));
+      return Outcome::failed(Faults::tr("looking up the print server %1 took too long").arg(m_name));
   }
   m_addresses = found.get();
   return m_addresses ? Outcome::done()
@@ -85,7 +84,7 @@ Outcome HttpConnection::open(std::chrono::milliseconds limit, std::shared_ptr<Wa
   if (Outcome found = made->findAddresses(host, port); !found) return found;
   made->m_http.reset(httpConnect2(host.constData(), port, made->m_addresses.get(), AF_UNSPEC,
                                   cupsEncryption(), 1, 0, nullptr));
-  if (!made->m_http) return Outcome::failed(QStringLiteral("there is no memory for a connection"));
+  if (!made->m_http) return Outcome::failed(QStringLiteral("not enough memory for a connection"));
   httpSetTimeout(made->m_http.get(), std::chrono::duration<double>(limit).count(), giveUp, made.get());
   if (Outcome connected = made->reconnect(); !connected) return connected;
   *connection = std::move(made);
@@ -108,7 +107,7 @@ Outcome HttpConnection::reconnect() {
   if (m_isSilent || watch.hasCut()) return noAnswer(watch);
   if (cupsEncryption() == HTTP_ENCRYPTION_REQUIRED || cupsEncryption() == HTTP_ENCRYPTION_ALWAYS)
     return Outcome::failed(Faults::tr("cannot connect to the print server %1 with encryption").arg(m_name));
-  return Outcome::failed(Faults::tr("cannot connect to the print server %1; is it running?").arg(m_name));
+  return Outcome::failed(Faults::tr("cannot connect to the print server %1. Is it running?").arg(m_name));
 }
 
 Outcome HttpConnection::exchange(const HttpRequest& request, QByteArray* reply) {
@@ -200,7 +199,7 @@ Outcome HttpConnection::sendPart(const char* bytes, qsizetype count, Watch& watc
     m_status = nextStatus(http);
     watch.restart({});
     if (m_status != HTTP_STATUS_CONTINUE)
-      return Outcome::failed(Faults::tr("the print server %1 does not want the whole document").arg(m_name));
+      return Outcome::failed(Faults::tr("the print server %1 stopped reading the document").arg(m_name));
   }
   if (httpWrite2(http, bytes, static_cast<std::size_t>(count)) >= 0) return Outcome::done();
   m_status = HTTP_STATUS_ERROR;
@@ -209,7 +208,7 @@ Outcome HttpConnection::sendPart(const char* bytes, qsizetype count, Watch& watc
 
 Outcome HttpConnection::receive(qsizetype longest, QByteArray* reply) {
   const auto hasField = [&](http_field_t field) { return *httpGetField(m_http.get(), field) != '\0'; };
-  Outcome brokenOff = Outcome::failed(Faults::tr("the print server's answer breaks off"));
+  Outcome brokenOff = Outcome::failed(Faults::tr("the print server's answer is incomplete"));
   reply->clear();
   QByteArray block(blockSize, Qt::Uninitialized);
   for (;;) {
@@ -243,19 +242,19 @@ bool HttpConnection::canTryAgain(const HttpRequest& request) {
 }
 
 Outcome HttpConnection::noAnswer(const Watch& watch) const {
-  if (m_watchdog->isInterrupted()) return Outcome::failed(QStringLiteral("the wait was given up"));
+  if (m_watchdog->isInterrupted()) return Outcome::failed(QStringLiteral("interrupted"));
   if (m_isSilent || watch.hasCut()) {
     const QString seconds = QString::number(std::chrono::duration<double>(m_limit).count());
-    return Outcome::failed(
-        Faults::tr("the print server %1 does not answer within %2 s").arg(m_name, seconds));
+    return Outcome::failed(Faults::tr("the print server %1 did not answer within %2 s").arg(m_name, seconds));
   }
-  return Outcome::failed(Faults::tr("the print server %1 broke the connection off").arg(m_name));
+  return Outcome::failed(Faults::tr("the print server %1 closed the connection").arg(m_name));
 }
 
 Outcome HttpConnection::outcomeOfStatus() const {
   if (isRedirect(m_status)) {
     return Outcome::failed(
-        Faults::tr("the print server %1 points to another address (HTTP status %2), which is not followed")
+        Faults::tr(
+            "the print server %1 redirected to another address (HTTP status %2); redirects are not followed")
             .arg(m_name)
             .arg(m_status));
   }
@@ -263,7 +262,7 @@ Outcome HttpConnection::outcomeOfStatus() const {
   const bool isPassword =
       m_status == HTTP_STATUS_UNAUTHORIZED || m_status >= HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
   if (isPassword) return Outcome::failed(Faults::tr("the print server %1 asks for a password").arg(m_name));
-  return Outcome::failed(Faults::tr("the print server %1 answers: %2 (HTTP status %3)")
+  return Outcome::failed(Faults::tr("the print server %1 answered: %2 (HTTP status %3)")
                              .arg(m_name, QString::fromUtf8(httpStatus(m_status)))
                              .arg(m_status));
 }

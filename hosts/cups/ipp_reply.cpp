@@ -37,7 +37,7 @@ class Cursor {
 };
 
 Outcome unreadable() {
-  return Outcome::failed(Faults::tr("the print server's answer is not readable"));
+  return Outcome::failed(Faults::tr("cannot read the print server's answer"));
 }
 
 Outcome tooLarge() {

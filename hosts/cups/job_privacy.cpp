@@ -54,9 +54,9 @@ Outcome createJob(PrintServer& server, const QString& queue, std::span<const Opt
   Outcome created = server.order(request.get(), "/", &reply);
   ipp_attribute_t* id = ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER);
   if (created && id == nullptr)
-    created = Outcome::failed(Faults::tr("the print server gave the job no number"));
+    created = Outcome::failed(Faults::tr("the print server did not give the job a number"));
   if (!created)
-    return Outcome::failed(Faults::tr("the queue %1 takes no job: %2").arg(queue, created.reason()));
+    return Outcome::failed(Faults::tr("cannot create a job on \"%1\": %2").arg(queue, created.reason()));
   *job = ippGetInteger(id, 0);
   return Outcome::done();
 }
@@ -68,7 +68,7 @@ Outcome cancelJob(PrintServer& server, const QString& queue, int job) {
   Outcome cancelled = server.order(request.get(), "/", &reply);
   if (cancelled) return cancelled;
   return Outcome::failed(
-      Faults::tr("the job %1-%2 cannot be cancelled: %3").arg(queue).arg(job).arg(cancelled.reason()));
+      Faults::tr("cannot cancel job %1-%2: %3").arg(queue).arg(job).arg(cancelled.reason()));
 }
 
 bool hasJob(ipp_t* reply) {
@@ -86,8 +86,9 @@ Outcome lookAtJob(PrintServer& server, const QString& queue, int job, std::span<
   Outcome asked = server.ask(request.get(), &reply, IPP_STATUS_ERROR_FORBIDDEN);
   // A user who may see a job sees at least its number.
   if (asked && ippGetStatusCode(reply.get()) != IPP_STATUS_ERROR_FORBIDDEN && !hasJob(reply.get()))
-    asked = Outcome::failed(Faults::tr("the print server's answer holds no job"));
-  if (!asked) return Outcome::failed(Faults::tr("what other users see is not told: %1").arg(asked.reason()));
+    asked = Outcome::failed(Faults::tr("the print server's answer does not have the job"));
+  if (!asked)
+    return Outcome::failed(Faults::tr("cannot find out what other users see: %1").arg(asked.reason()));
   for (const OptionRow& row : options) {
     if (ippFindAttribute(reply.get(), row.name().constData(), IPP_TAG_ZERO) != nullptr)
       shown->append(Faults::tr(row.word));

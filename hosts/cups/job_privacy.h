@@ -9,7 +9,7 @@ namespace kesto {
 
 /// What other users see of a job on one queue.
 struct JobPrivacy {
-  QString policy;     ///< The name of the queue's policy; null when the server does not say.
+  QString policy;     ///< The name of the printer's policy; null when the server does not say.
   QStringList shown;  ///< What they see of a job's options, in words; empty when they see nothing.
 };
 

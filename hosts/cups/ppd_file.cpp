@@ -33,7 +33,7 @@ Outcome openPpdFile(const QString& path, PpdFile* ppd) {
   ppd->reset();
   // libcups does not say why a file cannot be read.
   QFile file(path);
-  if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": is a folder, not a PPD file"));
+  if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": a folder, not a PPD file"));
   if (!file.open(QIODevice::ReadOnly))
     return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
   file.close();
@@ -52,11 +52,11 @@ Outcome fetchPpdFile(PrintServer& server, const QString& queue, PpdFile* ppd) {
   QByteArray bytes;
   Outcome fetched = server.fetch("/printers/" + queue.toUtf8() + ".ppd", longestPpd, &bytes);
   if (!fetched)
-    return Outcome::failed(Faults::tr("the PPD of %1 cannot be had: %2").arg(queue, fetched.reason()));
+    return Outcome::failed(Faults::tr("cannot get the PPD of %1: %2").arg(queue, fetched.reason()));
   if (bytes.isNull()) return Outcome::done();
   QTemporaryFile file;
   if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
-    return Outcome::failed(Faults::tr("the PPD cannot be kept: %1").arg(file.errorString()));
+    return Outcome::failed(Faults::tr("cannot store the PPD: %1").arg(file.errorString()));
   if (!isShortEnough(file.fileName()))
     return Outcome::failed(Faults::tr("the PPD of %1 is too large").arg(queue));
   return openPpdFile(file.fileName(), ppd);

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QMimeDatabase>
 #include <cerrno>
 
 #include "hosts/cups/faults.h"
@@ -59,7 +60,7 @@ Outcome openDocument(const JobFile& job, const std::function<bool()>& goesOn, Do
     document->isStandardInput = true;  // It has no name of its own.
     // Earlier reads have consumed whole lines only.
     if (file.open(STDIN_FILENO, QIODevice::ReadOnly)) return Outcome::done();
-    return Outcome::failed(Faults::tr("standard input cannot be read"));
+    return Outcome::failed(Faults::tr("cannot read standard input"));
   }
   document->name = job.name.isNull() ? shownFileName(job.path) : job.name;
   const QString path = shownPath(job.path);
@@ -116,7 +117,7 @@ Outcome outcomeOfState(ipp_t* reply) {
     for (int i = 0; i < ippGetCount(reason); ++i)
       reasons.append(QString::fromUtf8(ippGetString(reason, i, nullptr)));
   }
-  return Outcome::failed(Faults::tr("the print server has ended the job: %1").arg(reasons.join(u", ")));
+  return Outcome::failed(Faults::tr("the print server stopped the job: %1").arg(reasons.join(u", ")));
 }
 
 // A job that is created but not complete; it is cancelled unless it is kept. It is made with single requests,
@@ -146,9 +147,8 @@ class OpenJob {
     Outcome created = m_server.order(request.get(), m_resource, &reply);
     m_id = qMax(0, ippGetInteger(ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER), 0));
     if (created && m_id == 0)
-      created = Outcome::failed(Faults::tr("the print server gave the job no number"));
-    if (created) return created;
-    return Outcome::failed(Faults::tr("the job is not taken: %1").arg(created.reason()));
+      created = Outcome::failed(Faults::tr("the print server did not give the job a number"));
+    return created ? created : refusal(reply.get(), created);
   }
 
   Outcome send(Document& document, const QByteArray& format, const OptionArray& options, bool isLast,
@@ -168,7 +168,12 @@ class OpenJob {
     Outcome sent = m_server.order(request.get(), m_resource, &reply, copy);
     if (sent) sent = outcomeOfState(reply.get());
     if (sent || !read) return sent;
-    return Outcome::failed(Faults::tr("%1 is not taken: %2").arg(document.name, sent.reason()));
+    QString reason = sent.reason();
+    if (ippGetStatusCode(reply.get()) == IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED) {
+      const QMimeType type = QMimeDatabase().mimeTypeForFile(document.name, QMimeDatabase::MatchExtension);
+      reason = Faults::tr("this printer does not accept this type of file (%1)").arg(type.comment());
+    }
+    return Outcome::failed(Faults::tr("could not print %1: %2").arg(document.name, reason));
   }
 
   int keep() {
@@ -179,6 +184,22 @@ class OpenJob {
  private:
   static void addName(ipp_t* request, const char* attribute, const QString& name) {
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, attribute, nullptr, nameOf(name).constData());
+  }
+
+  // Why there is no job: in our words, followed by those of the printer's administrator or of the server.
+  Outcome refusal(ipp_t* reply, const Outcome& created) {
+    if (ippGetStatusCode(reply) != IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS)
+      return Outcome::failed(Faults::tr("the print server refused the job: %1").arg(created.reason()));
+    const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, m_uri);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "printer-state-message");
+    Ipp state;
+    (void)m_server.order(request.get(), m_resource, &state);
+    const QString why = QString::fromUtf8(
+        ippGetString(ippFindAttribute(state.get(), "printer-state-message", IPP_TAG_TEXT), 0, nullptr));
+    const QString queue = QString::fromUtf8(m_queue);
+    if (why.isEmpty()) return Outcome::failed(Faults::tr("\"%1\" is not accepting jobs").arg(queue));
+    return Outcome::failed(Faults::tr("\"%1\" is not accepting jobs: %2").arg(queue, why));
   }
 
   PrintServer& m_server;

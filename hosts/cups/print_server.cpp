@@ -116,8 +116,7 @@ Outcome PrintServer::findDefault(QueueName* name) {
   if (!asked && ippGetStatusCode(reply.get()) != IPP_STATUS_ERROR_NOT_FOUND) return asked;
   name->queue = nameOf(reply.get());
   if (!name->queue.isEmpty()) return Outcome::done();
-  return Outcome::failed(
-      QStringLiteral("there is no default queue, or LPDEST or PRINTER names none; choose one with -d"));
+  return Outcome::failed(QStringLiteral("no default printer is set; choose one with -d"));
 }
 
 Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
@@ -130,9 +129,12 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
   const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uriOfQueue(queue));
   askForOptions(request.get());
   Ipp reply;
-  if (Outcome asked = order(request.get(), "/", &reply); !asked)
-    return !reply ? asked
-                  : Outcome::failed(Faults::tr("the queue %1 cannot be had: %2").arg(queue, asked.reason()));
+  if (Outcome asked = order(request.get(), "/", &reply); !asked) {
+    if (!reply) return asked;
+    if (ippGetStatusCode(reply.get()) == IPP_STATUS_ERROR_NOT_FOUND)
+      return Outcome::failed(Faults::tr("there is no printer named \"%1\"").arg(queue));
+    return Outcome::failed(Faults::tr("cannot open the printer \"%1\": %2").arg(queue, asked.reason()));
+  }
   // The server may spell the name differently.
   if (const QByteArray itsName = nameOf(reply.get()); !itsName.isEmpty()) wanted.queue = itsName;
   cups_dest_t* made = nullptr;

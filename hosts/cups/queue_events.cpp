@@ -26,7 +26,7 @@ Outcome QueueEvents::subscribe() {
   Ipp reply;
   if (Outcome asked = m_server.ask(request.get(), &reply); !asked) return asked;
   ipp_attribute_t* id = ippFindAttribute(reply.get(), "notify-subscription-id", IPP_TAG_INTEGER);
-  if (id == nullptr) return Outcome::failed(QStringLiteral("the print server gives no subscription"));
+  if (id == nullptr) return Outcome::failed(QStringLiteral("the print server refused a subscription"));
   m_id = ippGetInteger(id, 0);
   m_sequence = 1;
   return Outcome::done();

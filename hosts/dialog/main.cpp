@@ -39,7 +39,7 @@ void timeStart(TimedApplication& application, PrintDialog& dialog) {
     dialog.done(QDialog::Accepted);
   });
   QObject::connect(&application, &TimedApplication::failed, &dialog, [&dialog] {
-    std::cerr << "kesto-print: no queue can be had\n";
+    std::cerr << "kesto-print: no printer is available\n";
     dialog.done(QDialog::Rejected);
   });
 }

@@ -7,12 +7,9 @@
 #include "hosts/command/arguments.h"
 #include "hosts/command/server_options.h"
 #include "hosts/cups/print_job.h"
-#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
-
-constexpr int exitUsage = 2;
 
 constexpr char help[] = R"(usage: kesto-print [OPTION]... [FILE]...
 Shows the print dialog for the files, or for a document in standard input.
@@ -32,7 +29,7 @@ Ends with 0 when the job was sent, 1 when it was not, 2 for a wrong command line
 )";
 
 std::string faultOfDescriptor(const std::string& number) {
-  return ::fcntl(std::stoi(number), F_GETFD) < 0 ? "is no open descriptor" : "";
+  return ::fcntl(std::stoi(number), F_GETFD) < 0 ? "must be an open descriptor" : "";
 }
 
 class CommandLine {
@@ -48,9 +45,9 @@ class CommandLine {
     const auto setCopies = [this](const std::string& copies) {
       m_options.jobOptions.insert(QStringLiteral("copies"), QString::fromStdString(copies));
     };
-    m_app.add_option_function<std::string>("-n", setCopies)->transform(wholeNumber(1, 9999));
+    m_app.add_option_function<std::string>("-n", setCopies)->transform(wholeNumber("copies", 1, 9999));
     m_app.add_option("--portal", m_options.channel)
-        ->transform(wholeNumber(3, 1 << 20))
+        ->transform(wholeNumber("the descriptor", 3, 1 << 20))
         ->check(faultOfDescriptor);
     const auto addOption = [this](const std::vector<std::string>& texts) {
       for (const std::string& text : texts)
@@ -73,9 +70,7 @@ class CommandLine {
       std::cout << help;
       return 0;
     } catch (const CLI::ParseError& error) {
-      std::cerr << "kesto-print: " << shownText(QString::fromUtf8(error.what())).toStdString()
-                << "\nkesto-print --help tells more.\n";
-      return exitUsage;
+      return failUsage("kesto-print", faultOf(m_app, error));
     }
   }
 

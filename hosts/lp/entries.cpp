@@ -45,7 +45,7 @@ bool PanelUser::isRetained() const {
 
 Outcome PanelUser::refusal(const QString& option, Entry entry) const {
   const bool wantsHold = needsHold(entry) && !isRetained();
-  const char* reason = wantsHold ? "needs --hold" : fieldTable().at(entry).whenRefused;
+  const char* reason = wantsHold ? "requires --hold" : fieldTable().at(entry).whenRefused;
   return Outcome::failed(option + u' ' + QLatin1String(reason));
 }
 
@@ -54,7 +54,7 @@ Outcome PanelUser::chooseHold(int choice) {
   const bool isSet = isRetained() == (choice != noHold) || (retention != nullptr && retention->click());
   if (isSet && (choice == noHold || choosesRow(QStringLiteral("suspendMatrix"), choice)))
     return Outcome::done();
-  return Outcome::failed(QStringLiteral("--hold %1 is not offered")
+  return Outcome::failed(QStringLiteral("--hold %1: this printer does not offer it")
                              .arg(QLatin1String(holdChoices.at(static_cast<std::size_t>(choice)))));
 }
 
@@ -98,13 +98,13 @@ Outcome PanelUser::choose(const Entries& entries) {
   // Quick file moves the hold choice to its own row.
   const auto* holdChoice = control<RadioMatrix>(QStringLiteral("suspendMatrix"));
   if (entries.hold && *entries.hold != noHold && holdChoice->selectedRow() != *entries.hold) {
-    return Outcome::failed(QStringLiteral("--folder quick goes only with --hold after"));
+    return Outcome::failed(QStringLiteral("--folder quick requires --hold after"));
   }
   const bool byUserNumber = entries.texts[UserNumber].has_value();
   if (!byUserNumber && !entries.texts[Login] && !entries.texts[Password]) return Outcome::done();
   if (choosesRow(QStringLiteral("authenticationMatrix"), byUserNumber ? ByUserNumber : ByLogin))
     return Outcome::done();
-  return Outcome::failed(QStringLiteral("this queue does not ask who prints"));
+  return Outcome::failed(QStringLiteral("this printer does not ask who prints"));
 }
 
 Outcome PanelUser::enter(Entry entry, const QString& text) {
@@ -117,7 +117,7 @@ Outcome PanelUser::enter(Entry entry, const QString& text) {
     return refusal(row.option(), entry);
   }
   if (field->stringValue() != text) {
-    return Outcome::failed(QStringLiteral("%1 takes %2").arg(row.option(), QLatin1String(row.limit)));
+    return Outcome::failed(QStringLiteral("%1 must be %2").arg(row.option(), QLatin1String(row.limit)));
   }
   return isHeld ? button->click() : Outcome::done();
 }
@@ -138,12 +138,12 @@ Outcome PanelUser::turnHoldButtons(const Entries& entries, bool on) {
 const std::array<FieldRow, entryCount>& fieldTable() {
   static constexpr char digits8[] = "at most 8 digits";
   static constexpr char digits5[] = "at most 5 digits";
-  static constexpr char quickFile[] = "does not go with --folder quick";
-  static constexpr char anyFolder[] = "needs --folder NAME";
+  static constexpr char quickFile[] = "cannot be used with --folder quick";
+  static constexpr char anyFolder[] = "requires --folder NAME";
   static constexpr char codedFolder[] =
-      "needs --folder NAME of a folder with a pass code, or a custom folder";
-  static constexpr char byNumber[] = "does not go with a user number";
-  static constexpr char notOffered[] = "is not offered by this queue";
+      "requires --folder NAME of a folder with a pass code or of a custom folder";
+  static constexpr char byNumber[] = "cannot be used with a user number";
+  static constexpr char notOffered[] = "this printer does not offer it";
   static constexpr std::array<FieldRow, entryCount> table{{
       {"pin", "N", "Pass code", "pass code of the held job", digits8, quickFile},
       {"folder", "NAME", nullptr, "quick, main or a folder name", "at most 255 characters", anyFolder},
@@ -172,7 +172,7 @@ Outcome applyEntries(PanelView& view, const Entries& entries) {
 }
 
 QString missingEntryText(Entry entry) {
-  return QStringLiteral("the %1 is missing; give %2")
+  return QStringLiteral("the %1 is missing; set it with %2")
       .arg(QLatin1String(entry == UserNumber ? "user number" : "login name"),
            fieldTable().at(entry).option());
 }

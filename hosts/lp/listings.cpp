@@ -24,7 +24,8 @@ QJsonObject jsonOf(const QueueSummary& queue) {
 }
 
 std::string lineOf(const QueueSummary& queue) {
-  const QString state = queue.isAccepting ? queue.state : queue.state + QStringLiteral(", takes no jobs");
+  const QString state =
+      queue.isAccepting ? queue.state : queue.state + QStringLiteral(", not accepting jobs");
   return shownText(queue.name).toStdString() + '\t' + shownText(state).toStdString() + '\t' +
          shownText(queue.deviceUri).toStdString() + '\n';
 }
@@ -75,7 +76,7 @@ Outcome fetchFolders(PanelView& view, const QString& address) {
   auto* field = view.control<TextField>(QStringLiteral("printersAddressEditText"));
   auto* button = view.control<Button>(QStringLiteral("getFolderNameButton"));
   if (field == nullptr || button == nullptr) {
-    return Outcome::failed(QStringLiteral("the panel has no folder list"));
+    return Outcome::failed(QStringLiteral("this printer has no folder list"));
   }
   if (!address.isNull()) {
     if (Outcome placed = field->placeCaret({0, field->stringValue().size()}); !placed) return placed;
@@ -84,10 +85,10 @@ Outcome fetchFolders(PanelView& view, const QString& address) {
   }
   const QString known = printerAddress(view);
   if (known.isEmpty()) {
-    return Outcome::failed(QStringLiteral("the printer's address is not known; give --address"));
+    return Outcome::failed(QStringLiteral("the printer's address is unknown; set it with --address"));
   }
   return isPrinterAddress(known) ? button->click()
-                                 : Outcome::failed(QStringLiteral("\"%1\" is no address").arg(known));
+                                 : Outcome::failed(QStringLiteral("\"%1\" is not an address").arg(known));
 }
 
 Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
@@ -124,7 +125,7 @@ void printPrivacy(const QString& queue, const JobPrivacy& privacy, bool json) {
   std::cout << shownText(queue).toStdString() << ": other users see of a job "
             << shownText(privacy.shown.join(QStringLiteral(", "))).toStdString() << ".\n"
             << "An administrator closes this in cupsd.conf, in "
-            << (privacy.policy.isNull() ? "the queue's policy"
+            << (privacy.policy.isNull() ? "the printer's policy"
                                         : "<Policy " + shownText(privacy.policy).toStdString() + '>')
             << ":\n";
   for (const QString& line : lines)

@@ -126,7 +126,7 @@ Outcome Job::keep(const Preset& preset) {
   if (isAsked || m_options.task == Task::Print) {
     Outcome remembered = m_session.remember();
     if (!remembered)
-      kept = Outcome::failed(QStringLiteral("the entries are not remembered: ") + remembered.reason());
+      kept = Outcome::failed(QStringLiteral("cannot remember the entries: ") + remembered.reason());
   }
   Outcome saved =
       m_options.savePreset ? m_session.keepPreset(*m_options.savePreset, preset) : Outcome::done();
@@ -143,7 +143,7 @@ Outcome Job::finish() {
         submit(*m_server, *m_session.queue()->destination, m_options, m_session.settings(), facts());
     if (!sent) return sent;
     Outcome kept = keep(preset);
-    return kept ? kept : Outcome::failed(QStringLiteral("the job is sent; ") + kept.reason());
+    return kept ? kept : Outcome::failed(QStringLiteral("the job was sent, but: ") + kept.reason());
   }
   if (Outcome kept = keep(preset); !kept) return kept;
   if (m_options.summary) return printPairs(summaryOf(*m_session.panel()), ": ", m_options.json, facts());
@@ -191,13 +191,13 @@ ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
 // A queue without the panel prints as usual, and so does a job that the panel's driver never sees.
 ExitCode runPlainJob(const Options& options, const JobQueue& queue, bool isRaw) {
   if (isRaw && options.wantsPanel()) {
-    const QString fault = QStringLiteral("a raw job goes past the driver, and Job Handling with it");
+    const QString fault = QStringLiteral("a raw job bypasses the driver, and Job Handling with it");
     return ended(options, Outcome::failed(fault), ExitUsage);
   }
   if (options.task == Task::ListFolders || options.wantsPanel()) {
-    return ended(
-        options,
-        Outcome::failed(QStringLiteral("the queue %1 does not offer Job Handling").arg(queue.queue.id)));
+    return ended(options,
+                 Outcome::failed(
+                     QStringLiteral("the printer \"%1\" does not offer Job Handling").arg(queue.queue.id)));
   }
   if (options.task == Task::DryRun) return ended(options, printPairs({}, "=", options.json));
   return ended(options, submit(*queue.server, *queue.queue.destination, options, {}));

@@ -52,7 +52,7 @@ class CommandLine {
 
 // An empty name is what an unset variable of a script leaves.
 std::string refuseEmpty(const std::string& value) {
-  return value.empty() ? "is empty" : "";
+  return value.empty() ? "must not be empty" : "";
 }
 
 // A word that no server knows would hold the job for ever.
@@ -63,7 +63,7 @@ std::string faultOfHold(const std::string& when) {
   return std::regex_match(when, known)
              ? ""
              : "must be a time such as 18:30 (UTC), hold, immediate, resume, restart "
-               "or a word of the print server such as evening";
+               "or a keyword of the print server such as evening";
 }
 
 std::string faultOfJobName(const std::string& name) {
@@ -172,8 +172,8 @@ void CommandLine::setHold(const QString& when) {
 void CommandLine::addJob() {
   addUsual("-o", [this](const QString& text) { addJobOptions(text, &m_options.jobOptions); });
   addUsualOption("-P", "page-ranges");
-  addUsualOption("-n", "copies")->transform(wholeNumber(1, 9999));
-  addUsualOption("-q,-p", "job-priority")->transform(wholeNumber(1, 100));
+  addUsualOption("-n", "copies")->transform(wholeNumber("copies", 1, 9999));
+  addUsualOption("-q,-p", "job-priority")->transform(wholeNumber("priority", 1, 100));
   addUsual("-H", [this](const QString& when) { setHold(when); })->check(faultOfHold);
   const auto changeJob = [this](const QString& name) {
     m_tasks += m_options.job ? 0 : 1;
@@ -186,10 +186,10 @@ void CommandLine::addJob() {
   m_app.add_flag("-c");
   m_app.add_flag("-s", m_options.silent);
   addUsual("-t", [this](const QString& title) { m_options.title = title; });
-  addIgnored("-f", "there are no forms here");
-  addIgnored("-y", "there are no modes here; use -o");
-  addIgnored("-S", "the character set is UTF-8");
-  addIgnored("-T", "the print server finds the content type; use -o document-format=TYPE");
+  addIgnored("-f", "CUPS has no forms");
+  addIgnored("-y", "CUPS has no modes; use -o");
+  addIgnored("-S", "the character set is always UTF-8");
+  addIgnored("-T", "the print server detects the type; use -o document-format=TYPE");
   m_app.add_option_function<std::vector<std::string>>("files", [this](const std::vector<std::string>& given) {
     for (const std::string& file : given)
       m_options.files.append(QByteArray::fromStdString(file));
@@ -237,7 +237,7 @@ void CommandLine::addMemory(const char* name, bool remember) {
           static_cast<std::size_t>(std::ranges::find(names, field) - names.begin()));
       if (turned && *turned != remember) {
         m_contradiction =
-            QStringLiteral("--remember and --forget both name %1").arg(QString::fromStdString(field));
+            QStringLiteral("--remember and --forget cannot both name %1").arg(QString::fromStdString(field));
       }
       turned = remember;
     }
@@ -265,13 +265,13 @@ std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
     std::cout << helpText();
     return ExitDone;
   } catch (const CLI::ParseError& error) {
-    fault = QString::fromUtf8(error.what());
+    fault = QString::fromStdString(faultOf(m_app, error));
   }
   if (fault.isNull()) return {};
   // The parser may have stopped before it came to it.
   const bool json = std::ranges::count(argv, argv + argc, std::string_view("--json")) > 0;
   Messages(json).error(fault);
-  if (!json) std::cerr << "kesto-lp --help tells more.\n";
+  if (!json) std::cerr << "Try 'kesto-lp --help'.\n";
   return ExitUsage;
 }
 
@@ -282,33 +282,34 @@ QString CommandLine::faultOfAll() const {
   if (QString fault = faultOfQueue(); !fault.isNull()) return fault;
   const auto fromInput = [](const SecretSource& source) { return source.file == QLatin1String("-"); };
   if (std::ranges::count_if(m_options.secrets, fromInput) < 2) return {};
-  return QStringLiteral("only one entry can come from standard input");
+  return QStringLiteral("only one entry can be read from standard input");
 }
 
 QString CommandLine::faultOfTask() const {
   const Task task = m_options.task;
   if (m_tasks > 1)
     return QStringLiteral(
-        "only one of -i, --dry-run, --list, --folders, --check and the presets' two can be done");
+        "use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset");
   if (m_options.jobHandlingOnly && task != Task::ListQueues)
-    return QStringLiteral("--job-handling goes with --list");
-  if (m_options.address && task != Task::ListFolders) return QStringLiteral("--address goes with --folders");
-  if (m_options.summary && task != Task::DryRun) return QStringLiteral("--summary goes with --dry-run");
-  if (m_options.restart && task != Task::Change) return QStringLiteral("-H restart needs -i JOB");
+    return QStringLiteral("--job-handling requires --list");
+  if (m_options.address && task != Task::ListFolders) return QStringLiteral("--address requires --folders");
+  if (m_options.summary && task != Task::DryRun) return QStringLiteral("--summary requires --dry-run");
+  if (m_options.restart && task != Task::Change) return QStringLiteral("-H restart requires -i JOB");
   if (task == Task::Change) return faultOfChange();
   if (task == Task::Print || task == Task::DryRun) return {};
   const bool hasJob = m_options.wantsPanel() || m_options.title || !m_options.files.isEmpty() ||
                       !m_options.jobOptions.isEmpty();
-  return hasJob ? QStringLiteral("a list takes no options of a job") : QString();
+  return hasJob ? QStringLiteral("a list cannot be combined with a job's options") : QString();
 }
 
 // What a job that is sent cannot be given any more.
 QString CommandLine::faultOfChange() const {
-  if (!m_options.files.isEmpty()) return QStringLiteral("-i changes a job that is sent; it takes no files");
+  if (!m_options.files.isEmpty())
+    return QStringLiteral("-i changes a job that was already sent; leave out the files");
   if (m_options.queue || m_options.ppd)
-    return QStringLiteral("-i changes a job on the queue where it is; leave out -d and --ppd");
+    return QStringLiteral("-i changes a job where it is; leave out -d and --ppd");
   if (m_options.wantsPanel())
-    return QStringLiteral("-i changes a job that is sent; its Job Handling stays as it is");
+    return QStringLiteral("-i cannot change the Job Handling of a job that was already sent");
   return {};
 }
 
@@ -316,13 +317,13 @@ QString CommandLine::faultOfQueue() const {
   const Task task = m_options.task;
   if (task == Task::ListPresets || task == Task::DeletePreset) {
     return m_options.queue || m_options.ppd ? QString()
-                                            : QStringLiteral("the queue is missing; give -d or --ppd");
+                                            : QStringLiteral("no printer is given; set it with -d or --ppd");
   }
-  if (m_options.deviceUri && !m_options.ppd) return QStringLiteral("--device-uri goes with --ppd");
+  if (m_options.deviceUri && !m_options.ppd) return QStringLiteral("--device-uri requires --ppd");
   if (!m_options.ppd) return {};
-  if (!m_options.deviceUri) return QStringLiteral("--device-uri is missing");
+  if (!m_options.deviceUri) return QStringLiteral("--ppd requires --device-uri");
   if (task == Task::DryRun || task == Task::ListFolders) return {};
-  return QStringLiteral("--ppd stands for a queue only with --dry-run or --folders");
+  return QStringLiteral("--ppd requires --dry-run or --folders");
 }
 
 }  // namespace

@@ -99,7 +99,7 @@ void DialogSession::handleAnswer(const QJsonObject& message) {
   if (word == u"taken" && hasDocument) return end(Response::Done);
   if (word == u"cancelled") return end(Response::Cancelled);
   if (word == u"failed" && hasDocument) return end(Response::Failed);
-  if (m_state != State::Ended) qWarning("the print dialog answers what it was not asked");
+  if (m_state != State::Ended) qWarning("the print dialog sent an unexpected answer");
 }
 
 void DialogSession::keepChoice(const QJsonObject& message) {
@@ -115,7 +115,7 @@ void DialogSession::keepChoice(const QJsonObject& message) {
 void DialogSession::confirmEnd() {
   if (!m_bus.interface()->isServiceRegistered(m_ticket.client)) return withdraw();
   if (Outcome told = m_dialog.send(command("whole")); !told)
-    qWarning("the print dialog cannot go on: %ls", qUtf16Printable(told.reason()));
+    qWarning("cannot continue the print dialog: %ls", qUtf16Printable(told.reason()));
 }
 
 // Called when the client or the front end withdraws the print, or its time is up. A job whose document has
@@ -124,7 +124,7 @@ void DialogSession::withdraw() {
   m_settling.stop();
   if (m_state == State::Ended) return answer(Response::Failed);
   if (Outcome told = m_dialog.send(command("close")); !told)
-    qWarning("the print dialog cannot be closed: %ls", qUtf16Printable(told.reason()));
+    qWarning("cannot close the print dialog: %ls", qUtf16Printable(told.reason()));
   end(Response::Failed);
 }
 

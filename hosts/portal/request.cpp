@@ -24,7 +24,7 @@ PortalRequest::~PortalRequest() {
 
 Outcome PortalRequest::exportAt(const QDBusObjectPath& handle) {
   if (!m_bus.registerObject(handle.path(), this, QDBusConnection::ExportAllSlots))
-    return Outcome::failed(QStringLiteral("there is a request of this handle"));
+    return Outcome::failed(QStringLiteral("this handle is already in use"));
   m_path = handle.path();
   return Outcome::done();
 }

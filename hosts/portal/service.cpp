@@ -50,11 +50,11 @@ Outcome PortalService::start() {
     const QString reason = m_bus.lastError().message();
     return Outcome::failed(QLatin1String(what) + (reason.isEmpty() ? reason : QStringLiteral(": ") + reason));
   };
-  if (!m_bus.isConnected()) return refused("there is no session bus");
+  if (!m_bus.isConnected()) return refused("cannot connect to the session bus");
   // The object comes first, because a client that waits for the name calls it at once.
   if (!m_bus.registerObject(QLatin1String(objectPath), this, QDBusConnection::ExportAllSlots))
-    return refused("the portal's object is taken");
-  if (!m_bus.registerService(QLatin1String(busName))) return refused("the portal's name is taken");
+    return refused("another program has the portal's object path");
+  if (!m_bus.registerService(QLatin1String(busName))) return refused("another portal is already running");
   return Outcome::done();
 }
 
@@ -98,11 +98,11 @@ std::unique_ptr<PortalRequest> PortalService::accept(const QDBusObjectPath& hand
                                                      const QDBusMessage& call) {
   auto request = std::make_unique<PortalRequest>(m_bus, call);
   if (senderOf(handle).isNull()) {
-    qWarning("a request's handle names no client");
+    qWarning("a request's handle does not name its client");
     return nullptr;
   }
   if (const Outcome exported = request->exportAt(handle); !exported) {
-    qWarning("a request is refused: %ls", qUtf16Printable(exported.reason()));
+    qWarning("refused a request: %ls", qUtf16Printable(exported.reason()));
     return nullptr;
   }
   return request;
@@ -119,14 +119,14 @@ void PortalService::openDialog(const QString& client, const QJsonObject& open,
                                std::unique_ptr<PortalRequest> request, int document) {
   const QString appId = open.value(QStringLiteral("appId")).toString();
   if (hasTooMany(client, appId)) {
-    qWarning("a client has %d print dialogs already, and gets no more", mostDialogs);
+    qWarning("a client already has %d print dialogs; no more are opened for it", mostDialogs);
     return;
   }
   // The session notices the end of its client only after its creation, so an earlier end is checked here.
   auto* session = new DialogSession(m_bus, Ticket{client, appId, drawToken(), m_lifetime}, this);
   if (!m_bus.interface()->isServiceRegistered(client)) return session->deleteLater();
   if (const Outcome opened = session->open(m_dialog, open, std::move(request), document); !opened)
-    qWarning("the print dialog cannot be opened: %ls", qUtf16Printable(opened.reason()));
+    qWarning("cannot open the print dialog: %ls", qUtf16Printable(opened.reason()));
 }
 
 // The session of a token, whether its ticket is valid or not; null when there is none.

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <string>
 
+#include "hosts/command/arguments.h"
 #include "hosts/command/output.h"
 #include "hosts/script/script_session.h"
 #include "platform/bundle.h"
@@ -35,7 +36,7 @@ Outcome readSettings(const QString& path, kesto::PrintSettings* settings) {
   const QJsonObject values = document.object();
   for (auto it = values.begin(); it != values.end(); ++it) {
     if (!it.value().isString())
-      return Outcome::failed(path + QStringLiteral(": the value of %1 is no text").arg(it.key()));
+      return Outcome::failed(path + QStringLiteral(": the value of %1 is not a string").arg(it.key()));
     settings->setValue(it.key(), it.value().toString());
   }
   return Outcome::done();
@@ -72,24 +73,26 @@ int serve(kesto::ScriptSession& session) {
 
 int run(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
-  CLI::App app("Drives a Job Handling panel by commands in JSON, one object a line, on standard input.",
+  CLI::App app("Drives a Job Handling panel with JSON commands on standard input, one object per line.",
                "kesto-panel");
   Options options;
   app.add_option("--ppd", options.ppd, "PPD file of the current printer")->type_name("FILE");
   app.add_option("--device-uri", options.deviceUri, "device URI of the current printer")->type_name("URI");
   app.add_option("--queue", options.queue,
-                 "identifier of the current printer's queue; without it there is no printer")
+                 "identifier of the current printer's queue (default: no current printer)")
       ->type_name("ID");
   app.add_option("--settings", options.settings, "JSON object of print settings to start from")
       ->type_name("FILE");
   app.add_option("--job-name", options.jobName, "the job's own name")->type_name("NAME");
   app.add_flag("--no-constraint-handling", options.noConstraintHandling,
-               "be a host that handles no constraints");
-  app.add_flag("--no-print-settings", options.noPrintSettings, "be a host without print settings");
+               "act as a host that handles no constraints");
+  app.add_flag("--no-print-settings", options.noPrintSettings, "act as a host without print settings");
   try {
     app.parse(argc, argv);
+  } catch (const CLI::Success& help) {
+    return app.exit(help);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? 0 : 2;
+    return kesto::failUsage("kesto-panel", kesto::faultOf(app, error));
   }
 
   kesto::AlertRecorder alerts;

@@ -12,7 +12,7 @@ namespace kesto {
 Outcome PanelHost::openPanel(PrintDialogPlugIn& plugIn) {
   PanelList panels = plugIn.PDEPanelsForType(QLatin1String(printDialogType), this);
   if (!panels || panels->empty())
-    return Outcome::failed(Faults::tr("the bundle gives no panel for the print dialog"));
+    return Outcome::failed(Faults::tr("the Job Handling extension has no panel for the print dialog"));
   m_panel = std::move(panels->front());
   return Outcome::done();
 }
@@ -42,8 +42,8 @@ QMap<QString, QString> summaryOf(PrintDialogPanel& panel) {
 Outcome outcomeOfFetch(const PrintDialogPanel& panel) {
   switch (panel.lastFolderFetch()) {
     case FolderFetch::NotKept:
-      return Outcome::failed(Faults::tr(
-          "the printer's answer cannot be written to the temporary folder; is there room on the disk?"));
+      return Outcome::failed(
+          Faults::tr("cannot write the printer's answer to the temporary folder. Is the disk full?"));
     case FolderFetch::NotRead:
       return Outcome::failed(Faults::tr("the printer's answer is not a list of folders"));
     default:
@@ -55,7 +55,7 @@ Outcome loadJobHandlingBundle(std::shared_ptr<const Bundle>* bundle, PrintDialog
   const QString directory = Bundle::find(QStringLiteral("JobHandling.pde"));
   if (directory.isNull()) {
     return Outcome::failed(
-        Faults::tr("JobHandling.pde is neither beside the program nor in the library folder"));
+        Faults::tr("cannot find JobHandling.pde beside the program or in the library folder"));
   }
   auto found = std::make_shared<const Bundle>(directory);
   if (Outcome loaded = found->loadPrincipalObject(plugIn); !loaded) return loaded;

@@ -75,7 +75,7 @@ Outcome PanelSession::outcomeOfFetch() {
   if (panel() == nullptr) return Outcome::done();
   if (Outcome fetched = kesto::outcomeOfFetch(*panel()); !fetched) return fetched;
   const Outcome kept = m_platform->takeFault();
-  return kept ? kept : Outcome::failed(Faults::tr("the folders cannot be remembered: %1").arg(kept.reason()));
+  return kept ? kept : Outcome::failed(Faults::tr("cannot remember the folders: %1").arg(kept.reason()));
 }
 
 Outcome PanelSession::loadPreset(const QString& name) {

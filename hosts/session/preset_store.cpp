@@ -52,7 +52,7 @@ Outcome addFolder(const PanelView& view, QMap<QString, QString>* settings) {
   const bool isStored = popUp != nullptr && popUp->selectedIndex() >= firstFolderItem;
   const QString name = isStored ? popUp->selectedItem()->title : textOf(view, Folder);
   const auto bytes = cStringOfText(name, systemEncodingOfEnvironment(), longestFolderName + 1);
-  if (!bytes) return Outcome::failed(Faults::tr("a preset cannot keep the name of this folder"));
+  if (!bytes) return Outcome::failed(Faults::tr("a preset cannot store this folder's name"));
   settings->insert(job_keys::whole(job_keys::folderPath), QString::fromLatin1(bytes->toHex().toUpper()));
   return Outcome::done();
 }
@@ -72,20 +72,20 @@ std::optional<Preset> presetOf(const QJsonValue& value) {
 
 Outcome noSuchPreset(const QString& name, const QJsonObject& presets) {
   const QString known = presets.keys().join(QStringLiteral(", "));
-  return Outcome::failed(presets.isEmpty()
-                             ? Faults::tr("there is no preset \"%1\"; this queue has none").arg(name)
-                             : Faults::tr("there is no preset \"%1\"; there are: %2").arg(name, known));
+  return Outcome::failed(
+      presets.isEmpty() ? Faults::tr("there is no preset \"%1\"; this printer has no presets").arg(name)
+                        : Faults::tr("there is no preset \"%1\"; this printer has: %2").arg(name, known));
 }
 
 Outcome damagedPreset(const QString& name) {
-  return Outcome::failed(Faults::tr("the preset \"%1\" is damaged and left as it is").arg(name));
+  return Outcome::failed(Faults::tr("the preset \"%1\" is damaged and was left unchanged").arg(name));
 }
 
 // The presets of a domain, which has none at first.
 Outcome presetsOf(const QJsonObject& domain, QJsonObject* presets) {
   const QJsonValue value = domain.value(presetsKey);
   if (!value.isUndefined() && !value.isObject()) {
-    return Outcome::failed(Faults::tr("the presets of this queue are damaged and left as they are"));
+    return Outcome::failed(Faults::tr("this printer's presets are damaged and were left unchanged"));
   }
   *presets = value.toObject();
   return Outcome::done();
@@ -93,9 +93,8 @@ Outcome presetsOf(const QJsonObject& domain, QJsonObject* presets) {
 
 Outcome mayReplace(const QString& name, const QJsonObject& presets) {
   if (name.size() > longestPresetName) {
-    return Outcome::failed(
-        Faults::tr("the name of a preset can have at most %1 characters; choose a shorter one")
-            .arg(longestPresetName));
+    return Outcome::failed(Faults::tr("a preset's name must have at most %1 characters; choose a shorter one")
+                               .arg(longestPresetName));
   }
   return presets.contains(name) && !presetOf(presets.value(name)) ? damagedPreset(name) : Outcome::done();
 }
@@ -134,7 +133,7 @@ PresetStore::PresetStore(UserDefaults& defaults, const QString& queue)
 Outcome PresetStore::read(QJsonObject* presets) const {
   const Domain stored = m_defaults.persistentDomainForName(m_domain);
   if (!stored.available)
-    return Outcome::failed(Faults::tr("the presets of this queue cannot be read: %1").arg(stored.reason));
+    return Outcome::failed(Faults::tr("cannot read this printer's presets: %1").arg(stored.reason));
   return presetsOf(stored.values.value_or(QJsonObject()), presets);
 }
 

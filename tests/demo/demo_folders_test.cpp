@@ -106,9 +106,9 @@ TEST(DemoFolders, AreReadFromAFile) {
   };
   EXPECT_EQ(faultOf("Invoices\n\n# a remark\nPlans\tlocked\n"), QString());
   EXPECT_EQ(faultOf("Invoices\n\tlocked\n"), u": line 2: the folder has no name"_s);
-  EXPECT_EQ(faultOf("Plans\topen\n"), u": line 1: after the tab only \"locked\" may follow"_s);
-  EXPECT_EQ(faultOf("Pl\x1B[2Jans\n"), u": line 1: a control character in the folder's name"_s);
-  EXPECT_EQ(faultOf("Pl\xFF"), u": is no text in UTF-8"_s);
+  EXPECT_EQ(faultOf("Plans\topen\n"), u": line 1: only \"locked\" may follow the tab"_s);
+  EXPECT_EQ(faultOf("Pl\x1B[2Jans\n"), u": line 1: the folder's name has a control character"_s);
+  EXPECT_EQ(faultOf("Pl\xFF"), u": not a text file in UTF-8"_s);
 }
 
 }  // namespace

@@ -69,26 +69,26 @@ TEST_F(DemoPrinterTest, ReportsWhatItCannotDo) {
   };
   const QString noPrinter = u" --dir "_s + m_folder.path(u"none"_s);
   for (const Case& row :
-       {Case{u"--misbehave nonsense"_s, 2, "there is no misbehaviour nonsense"},
+       {Case{u"--misbehave nonsense"_s, 2, "unknown misbehaviour nonsense"},
         Case{u"--queues 0x1"_s, 2, "--queues"},
-        Case{u"--folders-only=no"_s, 2, "folders-only was given a disallowed flag override"},
+        Case{u"--folders-only=no"_s, 2, "--folders-only takes no value"},
         Case{u"--output %1/run/paper --dir %1/run"_s.arg(m_folder.path(u"."_s)), 1,
              "goes with the run folder"},
         Case{u"--folders-only --folders /no/such"_s, 1, "/no/such: No such file or directory"},
         Case{u"--dir "_s + m_folder.path(QString(90, u'x')), 1, "the path has more than 90 bytes"},
         Case{u"--dir "_s + m_folder.path(u"a#b"_s), 1, "or special characters"},
-        Case{u"--dir "_s + m_folder.path(u"link"_s), 1, "is not a folder of this user"},
+        Case{u"--dir "_s + m_folder.path(u"link"_s), 1, "the folder belongs to another user"},
         Case{u"--dir /no/such/folder"_s, 1, "No such file or directory"},
         Case{u"--dir "_s + m_folder.path(u""_s), 1, "holds other files"},
         Case{u"--output %1/paper --dir "_s.arg(m_folder.path(u"document"_s)) + m_folder.path(u"run"_s), 1,
-             "cannot be made"},
+             "cannot create the folder"},
         Case{u"release 1 --pin 12"_s + noPrinter, 1, "no demo printer is running at "},
-        Case{u"release 1 --pin 4711x"_s, 2, "is not 1 to 8 digits"},
+        Case{u"release 1 --pin 4711x"_s, 2, "must be 1 to 8 digits"},
         Case{u"release 1 --pin-file "_s + m_folder.path(u"bad-pin"_s), 1,
-             "the first line is not 1 to 8 digits"},
+             "the first line must be 1 to 8 digits"},
         Case{u"release 1 --pin-file /no/such"_s, 1, "/no/such: No such file or directory"},
-        Case{u"release 31 4711x"_s, 2, "there is an argument too many"},
-        Case{u"release 4711x"_s, 2, "JOB: is no number"}, Case{u"release"_s, 2, "JOB"}}) {
+        Case{u"release 31 4711x"_s, 2, "unexpected argument"},
+        Case{u"release 4711x"_s, 2, "JOB: the number must be"}, Case{u"release"_s, 2, "JOB"}}) {
     DemoProcess program(m_folder, builtProgram("kesto-demo-printer"), row.arguments.split(u' '));
     EXPECT_EQ(program.code(), row.code) << row.arguments;
     EXPECT_TRUE(program.log().startsWith("kesto-demo-printer: ") && program.log().contains(row.message))
@@ -180,7 +180,7 @@ TEST_F(DemoPrinterTest, CountsNoJobAsPrintedThatItHasRefused) {
   ASSERT_TRUE(other.waitForBytesWritten() && other.waitForReadyRead());
   EXPECT_EQ(other.readAll(), "taken\n");
   send(printer, {});
-  printer.waitForLog("thrown away: another job has its number");
+  printer.waitForLog("thrown away: another job has the same number");
   expectEnd(printer, 1, u"aborted"_s);
   send(printer, {});
   printer.waitForLog("job 2 from anna: printed");
@@ -192,7 +192,7 @@ TEST_F(DemoPrinterTest, LeavesNothingBehindAndStartsWhereAnotherWasKilled) {
   const QFile::Permissions mode = QFile::permissions(m_folder.path(u"run"_s));
   DemoProcess second(m_folder, builtProgram("kesto-demo-printer"), {u"--dir"_s, m_folder.path(u"run"_s)});
   EXPECT_EQ(second.code(), 1);
-  EXPECT_TRUE(second.log().contains("a demo printer is running there"));
+  EXPECT_TRUE(second.log().contains("a demo printer is already running there"));
   EXPECT_EQ(QFile::permissions(m_folder.path(u"run"_s)), mode) << "its jobs' account is kept out";
   EXPECT_GE(strayProcesses().size(), 2) << "the printer and its scheduler";
 
@@ -293,9 +293,9 @@ TEST(PrinterTest, ReportsAJobThatItRefuses) {
     return "@KESTO job=7\n@KESTO user=" + user + "\n\n3\nabc0\n@END\n";
   };
   EXPECT_EQ(printer.answerTo(job("anna")), "taken\n");
-  EXPECT_EQ(printer.answerTo(job("bert")), "refused: another job has its number\n");
+  EXPECT_EQ(printer.answerTo(job("bert")), "refused: another job has the same number\n");
   ASSERT_TRUE(QDir(printer.folder.path(u"output"_s)).removeRecursively());
-  EXPECT_EQ(printer.answerTo(job("anna")), "refused: it cannot be printed\n");
+  EXPECT_EQ(printer.answerTo(job("anna")), "refused: cannot print it\n");
 }
 
 JobTicket ticketOf(const QByteArrayList& settings) {

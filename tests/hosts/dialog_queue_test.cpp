@@ -17,7 +17,7 @@ TEST_F(DialogPrint, ASilentServerIsToldAndAskedAgain) {
   m_options.server.limit = std::chrono::milliseconds(300);
   open();
   await([this] { return widget(u"retry"_s)->isVisible(); }, u"the fault"_s);
-  EXPECT_TRUE(text(u"printerState"_s).contains(u"does not answer"_s)) << text(u"printerState"_s);
+  EXPECT_TRUE(text(u"printerState"_s).contains(u"did not answer"_s)) << text(u"printerState"_s);
   EXPECT_FALSE(widget(u"print"_s)->isEnabled());
   EXPECT_EQ(widget(u"print"_s)->toolTip(), u""_s) << "the document is there";
   EXPECT_EQ(widget<QComboBox>(u"printer"_s)->placeholderText(), u"No printer"_s);
@@ -240,14 +240,14 @@ TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
       {u"-h %1 --timings"_s, 0, "queues=1"},
       {u"-h %1 --screenshot %2/picture.png %2/report.pdf"_s},
       {u"-h %1 --screenshot %2/picture.png /no/such.pdf"_s, 0, "", "/no/such.pdf cannot be read"},
-      {u"-h %1 -d None --timings"_s, 1, "", "no queue"},
+      {u"-h %1 -d None --timings"_s, 1, "", "no printer"},
       {u"--help"_s, 0, "usage: kesto-print"},
       {u"--nonsense"_s, 2, "", "--nonsense"},
       {u"--\u001b[2J"_s, 2, "", "--\\x1b[2J"},  // which a terminal would obey
       {u"--timeout 0"_s, 2, "", "--timeout"},
       {u"--timeout nan"_s, 2, "", "--timeout"},
       {u"-n 0x10"_s, 2, "", "-n"},
-      {u"--portal 77"_s, 2, "", "is no open descriptor"},
+      {u"--portal 77"_s, 2, "", "must be an open descriptor"},
   };
   for (const auto& [arguments, code, output, error] : runs) {
     const QString given = QString(arguments)

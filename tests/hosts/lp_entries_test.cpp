@@ -52,57 +52,56 @@ TEST_F(LpEntries, AcceptsTheLimitButNotOneMore) {
     const QString folder = option == u"folder"_s ? QString() : u"--folder X"_s;
     const QString entry = u"--hold only %1 --%2 "_s.arg(folder, option);
     EXPECT_EQ(dryRun(entry + QString(limit, u'7')).err, unfiled);
-    const QString message = u"--%1 takes at most %2 %3"_s.arg(option).arg(limit).arg(unit);
+    const QString message = u"--%1 must be at most %2 %3"_s.arg(option).arg(limit).arg(unit);
     expectFailure(entry + QString(limit + 1, u'7'), 3, message);
     if (unit == u"digits"_s) expectFailure(entry + u"7x"_s, 3, message);
   }
 }
 
 TEST_F(LpEntries, RefusalsGiveAReasonAndNoSecrets) {
-  const QString needsFolder = u" needs --folder NAME of a folder with a pass code, or a custom folder"_s;
+  const QString needsFolder = u" requires --folder NAME of a folder with a pass code or of a custom folder"_s;
   const std::tuple<QString, int, QString> cases[] = {
-      {u"--pin 1"_s, 3, u"--pin needs --hold"_s},
-      {u"--pin-file -"_s, 3, u"--pin needs --hold"_s},
-      {u"--hold only --pin-file -"_s, 3, u"--pin takes at most 8 digits"_s},
-      {u"--hold only --pin 471147114711"_s, 3, u"--pin takes at most 8 digits"_s},
-      {u"--no-hold --folder X"_s, 3, u"--folder needs --hold"_s},
-      {u"--hold after --folder quick --pin 1"_s, 3, u"--pin does not go with --folder quick"_s},
-      {u"--hold only --folder quick"_s, 3, u"--folder quick goes only with --hold after"_s},
+      {u"--pin 1"_s, 3, u"--pin requires --hold"_s},
+      {u"--pin-file -"_s, 3, u"--pin requires --hold"_s},
+      {u"--hold only --pin-file -"_s, 3, u"--pin must be at most 8 digits"_s},
+      {u"--hold only --pin 471147114711"_s, 3, u"--pin must be at most 8 digits"_s},
+      {u"--no-hold --folder X"_s, 3, u"--folder requires --hold"_s},
+      {u"--hold after --folder quick --pin 1"_s, 3, u"--pin cannot be used with --folder quick"_s},
+      {u"--hold only --folder quick"_s, 3, u"--folder quick requires --hold after"_s},
       {u"--hold only --folder-pin 1"_s, 3, u"--folder-pin"_s + needsFolder},
       {u"--hold only --folder main --remember folder-pin"_s, 3, u"--remember folder-pin"_s + needsFolder},
-      {u"--hold only --remember folder"_s, 3, u"--remember folder needs --folder NAME"_s},
-      {u"--remember login --user-number 1"_s, 3, u"--remember login does not go with a user number"_s},
-      {u"--preset x"_s, 1, u"there is no preset \"x\"; this queue has none"_s},
-      {u"--no-such"_s, 2, u"--no-such is no option"_s},
-      {u"--user-number 1 --login x"_s, 2, u"--login excludes --user-number"_s},
-      {u"--pin 4711 --ask-pin"_s, 2, u"--pin excludes --ask-pin"_s},
-      {u"--pin {}"_s, 2, u"--pin: is empty"_s},
-      {u"--ask-pin=4711"_s, 2, u"ask-pin was given a disallowed flag override"_s},
-      {u"--password 4711"_s, 2, u"--password is no option"_s},
-      {u"--pin-file - --password-file -"_s, 2, u"only one entry can come from standard input"_s},
-      {u"--remember pin --forget login,pin"_s, 2, u"--remember and --forget both name pin"_s},
+      {u"--hold only --remember folder"_s, 3, u"--remember folder requires --folder NAME"_s},
+      {u"--remember login --user-number 1"_s, 3, u"--remember login cannot be used with a user number"_s},
+      {u"--preset x"_s, 1, u"there is no preset \"x\"; this printer has no presets"_s},
+      {u"--no-such"_s, 2, u"unknown option --no-such"_s},
+      {u"--user-number 1 --login x"_s, 2, u"--login cannot be used with --user-number"_s},
+      {u"--pin 4711 --ask-pin"_s, 2, u"--pin cannot be used with --ask-pin"_s},
+      {u"--pin {}"_s, 2, u"--pin: must not be empty"_s},
+      {u"--ask-pin=4711"_s, 2, u"--ask-pin takes no value"_s},
+      {u"--password 4711"_s, 2, u"unknown option --password"_s},
+      {u"--pin-file - --password-file -"_s, 2, u"only one entry can be read from standard input"_s},
+      {u"--remember pin --forget login,pin"_s, 2, u"--remember and --forget cannot both name pin"_s},
       {u"--with-codes"_s, 2, u"--with-codes requires --save-preset"_s},
-      {u"--job-handling"_s, 2, u"--job-handling goes with --list"_s},
-      {u"--address x"_s, 2, u"--address goes with --folders"_s},
-      {u"-n 0"_s, 2, u"-n: is no number from 1 to 9999"_s},
-      {u"-n 0x10"_s, 2, u"-n: is no number from 1 to 9999"_s},
-      {u"-q 101"_s, 2, u"-q: is no number from 1 to 100"_s},
-      {u"--timeout nan"_s, 2, u"--timeout: is no number"_s},
-      {u"--json=no"_s, 2, u"json was given a disallowed flag override"_s},
+      {u"--job-handling"_s, 2, u"--job-handling requires --list"_s},
+      {u"--address x"_s, 2, u"--address requires --folders"_s},
+      {u"-n 0"_s, 2, u"-n: copies must be between 1 and 9999"_s},
+      {u"-n 0x10"_s, 2, u"-n: copies must be between 1 and 9999"_s},
+      {u"-q 101"_s, 2, u"-q: priority must be between 1 and 100"_s},
+      {u"--timeout nan"_s, 2, u"--timeout: must be a number"_s},
+      {u"--json=no"_s, 2, u"--json takes no value"_s},
       {u"--list-presets"_s, 2,
-       u"only one of -i, --dry-run, --list, --folders, --check and the presets' two can be done"_s},
+       u"use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset"_s},
   };
   for (const auto& [arguments, code, message] : cases)
     expectFailure(arguments, code, message);
   const QString folders = u"--folders --device-uri usb://x --ppd "_s + m_ppd.path();
   const std::tuple<QString, int, QString> others[] = {
-      {u"--list-presets"_s, 2, u"the queue is missing; give -d or --ppd"_s},
-      {u"-d q --list-presets --hold only"_s, 2, u"a list takes no options of a job"_s},
-      {u"--ppd x.ppd --dry-run"_s, 2, u"--device-uri is missing"_s},
-      {u"--ppd x.ppd --device-uri lpd://x"_s, 2,
-       u"--ppd stands for a queue only with --dry-run or --folders"_s},
+      {u"--list-presets"_s, 2, u"no printer is given; set it with -d or --ppd"_s},
+      {u"-d q --list-presets --hold only"_s, 2, u"a list cannot be combined with a job's options"_s},
+      {u"--ppd x.ppd --dry-run"_s, 2, u"--ppd requires --device-uri"_s},
+      {u"--ppd x.ppd --device-uri lpd://x"_s, 2, u"--ppd requires --dry-run or --folders"_s},
       {u"--ppd x.ppd --device-uri lpd://x --dry-run"_s, 1, u"x.ppd: No such file or directory"_s},
-      {folders, 1, u"the printer's address is not known; give --address"_s},
+      {folders, 1, u"the printer's address is unknown; set it with --address"_s},
   };
   for (const auto& [arguments, code, message] : others) {
     const LpRun ended = run(arguments);
@@ -112,7 +111,7 @@ TEST_F(LpEntries, RefusalsGiveAReasonAndNoSecrets) {
   for (const auto& address :
        {u"a b:c"_s, u"http://a"_s, u"ä.local"_s, u"a/["_s, u"u@a"_s, u"a:66000"_s, u"[a]"_s})
     EXPECT_EQ(run(folders + u" --address \"%1\""_s.arg(address)).err,
-              u"kesto-lp: \"%1\" is no address\n"_s.arg(address));
+              u"kesto-lp: \"%1\" is not an address\n"_s.arg(address));
 }
 
 TEST_F(LpEntries, TheHelpFitsAScreen) {

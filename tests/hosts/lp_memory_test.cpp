@@ -109,7 +109,7 @@ TEST_F(LpMemory, PresetsAreListedReplacedAndDeleted) {
   const auto json = QJsonDocument::fromJson(run(u"-d office --list-presets --json"_s).out.toUtf8());
   EXPECT_EQ(json.array(), (QJsonArray{u"a"_s, u"b"_s}));
   EXPECT_EQ(run(u"-d elsewhere --list-presets"_s).out, u""_s);
-  expectFailure(u"--preset c"_s, 1, u"there is no preset \"c\"; there are: a, b"_s);
+  expectFailure(u"--preset c"_s, 1, u"there is no preset \"c\"; this printer has: a, b"_s);
   EXPECT_EQ(run(u"-d office --delete-preset a"_s).code, 0);
   EXPECT_EQ(run(u"-d office --delete-preset a"_s).code, 1);
   EXPECT_EQ(listed(), u"b\n"_s);
@@ -149,10 +149,10 @@ TEST_F(LpMemory, APresetThatDoesNotFitIsLeftAsItIs) {
   ASSERT_TRUE(store(preferences(), values, presets));
   for (const auto& option : {u"--preset "_s, u"--save-preset "_s}) {
     for (const auto& name : {u"strange"_s, u"number"_s})
-      expectFailure(option + name, 1, u"the preset \"%1\" is damaged and left as it is"_s.arg(name));
+      expectFailure(option + name, 1, u"the preset \"%1\" is damaged and was left unchanged"_s.arg(name));
   }
   expectFailure(u"--save-preset "_s + QString(256, u'n'), 1,
-                u"the name of a preset can have at most 255 characters; choose a shorter one"_s);
+                u"a preset's name must have at most 255 characters; choose a shorter one"_s);
   expectFailure(u"--preset other"_s, 1, u"the preset \"other\" is for another printer model, KESTO VQ-900"_s);
   EXPECT_EQ(kept(presets), values);
   EXPECT_EQ(dryRun(u"--save-preset new"_s).code, 0);

@@ -23,7 +23,7 @@ TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
       {"", u"kesto-lp: --pin-file: the line is empty\n"_s},
       {"\n1234\n", u"kesto-lp: --pin-file: the line is empty\n"_s},
       {QByteArray(1024, 'x') + 'y', u"kesto-lp: --pin-file: the line is too long\n"_s},
-      {"12\xFF", u"kesto-lp: --pin-file: the line is no UTF-8 text\n"_s},
+      {"12\xFF", u"kesto-lp: --pin-file: the line is not UTF-8\n"_s},
   };
   for (const auto& [bytes, fault] : cases) {
     m_folder.write(u"code"_s, bytes);
@@ -131,7 +131,7 @@ TEST_F(LpSecrets, WithoutATerminalNothingIsAsked) {
   const auto lp = process(dry(u"--hold only --ask-pin"_s));
   lp->setChildProcessModifier([] { ::setsid(); });
   lp->start();
-  EXPECT_EQ(finish(*lp).err, u"kesto-lp: --ask-pin: there is no terminal to ask at\n"_s);
+  EXPECT_EQ(finish(*lp).err, u"kesto-lp: --ask-pin: no terminal to ask at\n"_s);
 }
 
 }  // namespace

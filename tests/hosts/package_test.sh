@@ -58,7 +58,7 @@ for each in "$bin" "$build/bin"; do
 done
 mv "$bundle" "$bundle.away"
 fails() { ! "$@"; }
-expect "the bundle is the package's" 'JobHandling.pde is neither' fails "$bin/kesto-lp" "${hold[@]}" <<<2468
+expect "the bundle is the package's" 'cannot find JobHandling.pde' fails "$bin/kesto-lp" "${hold[@]}" <<<2468
 mv "$bundle.away" "$bundle"
 
 # The files for the portal's front end and D-Bus lead to the service.

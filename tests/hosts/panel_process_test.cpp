@@ -29,12 +29,12 @@ TEST_F(PanelProcess, BadOptionsAndBadFilesEndIt) {
   const std::tuple<QString, int, QString> cases[] = {
       {u"--no-such"_s, 2, u"--no-such"_s},
       {u"--ppd"_s, 2, u"--ppd"_s},
-      {u"stray"_s, 2, u"stray"_s},
+      {u"stray"_s, 2, u"unexpected argument"_s},
       {u"--ppd %1/damaged"_s, 1, u"%1/damaged: line 3: "_s},
-      {u"--ppd %1"_s, 1, u"%1: is a folder"_s},
+      {u"--ppd %1"_s, 1, u"%1: a folder"_s},
       {u"--ppd /no/such.ppd"_s, 1, u"/no/such.ppd: "_s},
       {u"--settings %1/damaged"_s, 1, u"%1/damaged: not a JSON object"_s},
-      {u"--settings %1/numbers"_s, 1, u"%1/numbers: the value of b is no text"_s},
+      {u"--settings %1/numbers"_s, 1, u"%1/numbers: the value of b is not a string"_s},
       {u"--settings /no/such"_s, 1, u"/no/such: "_s},
   };
   const auto inFolder = [this](QString text) { return text.replace(u"%1"_s, m_folder.path(u""_s)); };

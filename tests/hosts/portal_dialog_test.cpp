@@ -104,12 +104,9 @@ TEST_F(PortalDialog, EndsWithItsServiceAndItsUser) {
 
 TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
   startPrinter();
-  const QJsonObject settings{{u"n-copies"_s, u"3"_s},
-                             {u"number-up"_s, u"2"_s},
-                             {u"page-set"_s, u"even"_s},
-                             {u"print-pages"_s, u"ranges"_s},
-                             {u"page-ranges"_s, u"0-1"_s},
-                             {u"duplex"_s, u"vertical"_s}};
+  const QJsonObject settings{{u"n-copies"_s, u"3"_s},      {u"number-up"_s, u"2"_s},
+                             {u"page-set"_s, u"even"_s},   {u"print-pages"_s, u"ranges"_s},
+                             {u"page-ranges"_s, u"0-1"_s}, {u"duplex"_s, u"vertical"_s}};
   struct Case {
     const char* name;
     Text document;

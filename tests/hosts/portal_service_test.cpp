@@ -210,8 +210,8 @@ TEST_F(PortalServiceTest, AnInvalidTokenOpensAnotherDialogAndUsesNoOtherUp) {
 }
 
 TEST_F(PortalServiceTest, ARequestIsAnsweredOnceAndByWhatWasAsked) {
-  const ExpectedWarning twice("there is a request of this handle");
-  const ExpectedWarning unasked("answers what it was not asked");
+  const ExpectedWarning twice("this handle is already in use");
+  const ExpectedWarning unasked("sent an unexpected answer");
   const QString path = handle();
   Answer asked(prepare(path));
   Dialog dialog = startedDialog();
@@ -284,7 +284,7 @@ TEST_F(PortalServiceTest, OneClientHasEightDialogsAtMost) {
     dialogs.push_back(startedDialog());
   }
   for (const char* client : {"client", "stranger"}) {  // the same application, under another name
-    const ExpectedWarning warning("a client has 8 print dialogs already, and gets no more");
+    const ExpectedWarning warning("a client already has 8 print dialogs; no more are opened for it");
     EXPECT_EQ(Answer(prepare(handle(client))).response(), 2U);
   }
   Answer another(print(handle("stranger"), {}));
@@ -300,19 +300,19 @@ TEST_F(PortalServiceTest, OneClientHasEightDialogsAtMost) {
 
 TEST_F(PortalServiceTest, ARequestThatCannotBeServedFails) {
   {
-    const ExpectedWarning warning("names no client");
+    const ExpectedWarning warning("does not name its client");
     EXPECT_EQ(Answer(prepare(u"/org/freedesktop/portal/desktop/request/other"_s)).response(), 2U);
   }
   EXPECT_EQ(Answer(prepare(u"/org/freedesktop/portal/desktop/request/1_999999/t"_s)).response(), 2U);
-  const ExpectedWarning warning("the print dialog cannot be opened: /no/such/kesto-print: ");
+  const ExpectedWarning warning("cannot open the print dialog: /no/such/kesto-print: ");
   m_program = u"/no/such/kesto-print"_s;
   startService();
   EXPECT_EQ(Answer(prepare(handle())).response(), 2U);
 }
 
 TEST_F(PortalServiceTest, AServiceThatCannotStartSaysWhy) {
-  for (const auto& [name, reason] :
-       Cases{{"service", "the portal's object is taken"}, {"client", "the portal's name is taken"}}) {
+  for (const auto& [name, reason] : Cases{{"service", "another program has the portal's object path"},
+                                          {"client", "another portal is already running"}}) {
     PortalService second(connection(name.toLatin1().constData()), m_program);
     EXPECT_EQ(second.start().reason(), reason);
   }
@@ -323,7 +323,7 @@ TEST_F(PortalServiceTest, AServiceThatCannotStartSaysWhy) {
     EXPECT_TRUE(program.log().startsWith(error)) << program.log();
   };
   expectEnd({u"--help"_s}, 2, "Usage: kesto-portal\n");
-  expectEnd({}, 1, "kesto-portal: there is no session bus: ");
+  expectEnd({}, 1, "kesto-portal: cannot connect to the session bus: ");
 }
 
 TEST(PortalDialog, ItsEnvironmentDoesNotLeadBackToThePortal) {

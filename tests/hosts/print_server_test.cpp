@@ -19,19 +19,19 @@ TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
   ofPrintSystem(u"/usr/sbin/cupsreject Raw"_s);
   const QString missing = u"The printer or class does not exist."_s;
   const std::tuple<QString, int, QString> cases[] = {
-      {u"-d Print_System"_s, 3, u"Job Handling: the login name is missing; give --login"_s},
+      {u"-d Print_System"_s, 3, u"Job Handling: the login name is missing; set it with --login"_s},
       {u"-d Print_System --user-number {}"_s, 3,
-       u"Job Handling: the user number is missing; give --user-number"_s},
-      {u"--pin 1"_s, 3, u"--pin needs --hold"_s},
-      {u"--preset none"_s, 1, u"there is no preset \"none\"; this queue has none"_s},
+       u"Job Handling: the user number is missing; set it with --user-number"_s},
+      {u"--pin 1"_s, 3, u"--pin requires --hold"_s},
+      {u"--preset none"_s, 1, u"there is no preset \"none\"; this printer has no presets"_s},
       {u"/no/file"_s, 1, u"/no/file: No such file or directory"_s},
       {u"/no/\u001b[2J\u202e"_s, 1, u"/no/\\x1b[2J\\u202e: No such file or directory"_s},
       {u"/dev"_s, 1, u"/dev: is a folder"_s},
-      {u"-d Nowhere"_s, 1, u"the queue Nowhere cannot be had: "_s + missing},
-      {u"-d \"No where\" --hold only"_s, 1, u"the queue No where cannot be had: "_s + missing},
-      {u"-d Plain --hold only"_s, 1, u"the queue Plain does not offer Job Handling"_s},
-      {u"-d Plain --forget pin"_s, 1, u"the queue Plain does not offer Job Handling"_s},
-      {u"-d Raw --pin-file -"_s, 1, u"the queue Raw does not offer Job Handling"_s},
+      {u"-d Nowhere"_s, 1, u"there is no printer named \"Nowhere\""_s},
+      {u"-d \"No where\" --hold only"_s, 1, u"there is no printer named \"No where\""_s},
+      {u"-d Plain --hold only"_s, 1, u"the printer \"Plain\" does not offer Job Handling"_s},
+      {u"-d Plain --forget pin"_s, 1, u"the printer \"Plain\" does not offer Job Handling"_s},
+      {u"-d Raw --pin-file -"_s, 1, u"the printer \"Raw\" does not offer Job Handling"_s},
   };
   const QString alert = u"Please confirm the following setting items.\nLogin Name\nUser Number\n"_s;
   EXPECT_TRUE(lp(u"-d Print_System"_s).err.startsWith(alert));
@@ -39,8 +39,7 @@ TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
     const QString memory = u" DOCUMENT --job-name x --remember job-name --save-preset p"_s;
     expectRefused(arguments + memory, code, message);
   }
-  expectRefused(u"-d Raw DOCUMENT"_s, 1,
-                u"the job is not taken: Destination \"Raw\" is not accepting jobs."_s);
+  expectRefused(u"-d Raw DOCUMENT"_s, 1, u"\"Raw\" is not accepting jobs: Rejecting Jobs"_s);
   EXPECT_EQ(schedulersJobs(), QString());
   for (const auto& queue : {u"-d Office_MFP "_s, u"-d Print_System --login x "_s}) {
     EXPECT_EQ(lp(queue + u"--dry-run"_s).values(u"holdButton=0"_s), u"holdButton=0"_s);
@@ -49,8 +48,7 @@ TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
 
   EXPECT_EQ(lp(u"-d Plain -t letter DOCUMENT"_s).out, u"request id is Plain-1 (1 file(s))\n"_s);
   ofPrintSystem(u"/usr/sbin/lpadmin -x Office_MFP"_s);
-  expectRefused(u"DOCUMENT"_s, 1,
-                u"there is no default queue, or LPDEST or PRINTER names none; choose one with -d"_s);
+  expectRefused(u"DOCUMENT"_s, 1, u"no default printer is set; choose one with -d"_s);
 }
 
 TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
@@ -76,14 +74,14 @@ TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
     unfinished->closeWriteChannel();
     const LpRun broken = finish(*unfinished);
     EXPECT_EQ(broken.code, 1) << isSilent;
-    EXPECT_TRUE(broken.err.startsWith(u"kesto-lp: (stdin) is not taken: "_s)) << broken.err;
-    EXPECT_EQ(broken.err.contains(u"does not answer within 0.5 s"_s), isSilent) << broken.err;
+    EXPECT_TRUE(broken.err.startsWith(u"kesto-lp: could not print (stdin): "_s)) << broken.err;
+    EXPECT_EQ(broken.err.contains(u"did not answer within 0.5 s"_s), isSilent) << broken.err;
     EXPECT_EQ(broken.out, QString()) << isSilent;
     if (isSilent) ::kill(scheduler, SIGCONT);
   }
 
   const QString server = m_printer->place(u"server"_s);
-  expectRefused(job, 1, u"cannot connect to the print server %1; is it running?"_s.arg(server));
+  expectRefused(job, 1, u"cannot connect to the print server %1. Is it running?"_s.arg(server));
   startPrinter();
   EXPECT_EQ(kept(), nothing);
   expectPrinted(job);
@@ -93,14 +91,14 @@ TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
 TEST_F(PrintTest, ReportsWhatCannotBeKeptOfAJob) {
   ASSERT_TRUE(store(preferences(), {{u"Presets"_s, u"x"_s}}, u"kesto.presets.Office_MFP"_s));
   expectRefused(u"DOCUMENT --save-preset p"_s, 1,
-                u"the presets of this queue are damaged and left as they are"_s);
+                u"this printer's presets are damaged and were left unchanged"_s);
   EXPECT_EQ(schedulersJobs(), QString());
   forgetAll();
   ASSERT_TRUE(QFile::link(u"/dev/null"_s, m_folder.path(u"kesto"_s)));
-  const QString why = u"the folder %1/kesto cannot be made private\n"_s.arg(m_folder.path(u""_s));
+  const QString why = u"cannot make the folder %1/kesto private\n"_s.arg(m_folder.path(u""_s));
   const std::tuple<QString, int, QString> cases[] = {
-      {u""_s, 0, u"warning: the entries are not remembered: "_s},
-      {u"--remember job-name"_s, 1, u"the job is sent; the entries are not remembered: "_s},
+      {u""_s, 0, u"warning: cannot remember the entries: "_s},
+      {u"--remember job-name"_s, 1, u"the job was sent, but: cannot remember the entries: "_s},
   };
   for (const auto& [arguments, code, message] : cases) {
     const LpRun sent = lp(u"DOCUMENT "_s + arguments);
@@ -160,7 +158,7 @@ TEST_F(PrintTest, WhatAnotherUserSeesOfAJob) {
                     .out.startsWith(u"Plain"_s + (isPrivate ? none : some + u"the job's options.\n"_s)));
   }
   expectRefused(u"--check Nowhere"_s, 1,
-                u"the queue Nowhere takes no job: The printer or class does not exist."_s);
+                u"cannot create a job on \"Nowhere\": The printer or class does not exist."_s);
 }
 
 TEST_F(PrintTest, ListsQueues) {
@@ -171,7 +169,7 @@ TEST_F(PrintTest, ListsQueues) {
   const QString address = ofPrintSystem(u"lpstat -v Office_MFP"_s).trimmed().section(u' ', -1);
   const QString office = u"Office_MFP\tidle\t%1\n"_s.arg(address);
   EXPECT_EQ(lp(u"--list"_s).out, u"A_Raw\tstopped\tsocket://127.0.0.1:9\n"_s + office +
-                                     u"Plain\tidle, takes no jobs\tsocket://127.0.0.1:9\n"_s);
+                                     u"Plain\tidle, not accepting jobs\tsocket://127.0.0.1:9\n"_s);
   EXPECT_EQ(lp(u"--list --job-handling"_s).out, office);
   EXPECT_EQ(jsonOf(u"--list --json"_s)[2][u"accepting"], false);
   EXPECT_EQ(jsonOf(u"--list --json --job-handling"_s).toArray(),
@@ -211,10 +209,9 @@ TEST_F(PrintTest, ListsFoldersAndKeepsOnlyItsOwn) {
       << "the queue has another's folders";
   m_environment.insert(u"TMPDIR"_s, u"/nonexistent"_s);
   EXPECT_EQ(lp(folders).err,
-            u"kesto-lp: the printer's answer cannot be written to the temporary folder; is there room on the "
-            "disk?\n"_s);
+            u"kesto-lp: cannot write the printer's answer to the temporary folder. Is the disk full?\n"_s);
   addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
-  expectRefused(u"--folders -d Plain"_s, 1, u"the queue Plain does not offer Job Handling"_s);
+  expectRefused(u"--folders -d Plain"_s, 1, u"the printer \"Plain\" does not offer Job Handling"_s);
 }
 
 const QString tooLarge = u"the print server's answer is too large"_s;
@@ -235,7 +232,7 @@ TEST(IppReply, IsReadOnlyWithinItsBounds) {
     return head + first + opened.repeated(depth - 1) + closed.repeated(depth) + '\3';
   };
   const QByteArray values = value(IPP_TAG_INTEGER, "i", "1234").repeated(mostValues);
-  const QString unreadable = u"the print server's answer is not readable"_s;
+  const QString unreadable = u"cannot read the print server's answer"_s;
   const std::tuple<const char*, QByteArray, QString> cases[] = {
       {"whole", head + value(IPP_TAG_KEYWORD, "k", "v") + '\3', {}},
       {"empty", "", unreadable},
@@ -281,9 +278,9 @@ QByteArray gzipBomb() {
 }
 
 constexpr auto limit = 500ms;
-const QString lateAnswer = u"the print server %1 does not answer within 0.5 s"_s;
+const QString lateAnswer = u"the print server %1 did not answer within 0.5 s"_s;
 const QString moved =
-    u"the print server %1 points to another address (HTTP status %2), which is not followed"_s;
+    u"the print server %1 redirected to another address (HTTP status %2); redirects are not followed"_s;
 const QByteArray chunked = answered("200 OK", "Transfer-Encoding: chunked\r\n");
 const QByteArray packed = answered("200 OK", "Content-Encoding: gzip\r\nTransfer-Encoding: chunked\r\n");
 
@@ -297,9 +294,11 @@ const std::tuple<const char*, Misbehaviour, QString> misbehaviours[] = {
     {"a body that trickles", {chunked, chunk("x"), 20ms}, lateAnswer},
     {"a body that never ends", {chunked, chunk(QByteArray(60'000, 'x'))}, tooLarge},
     {"a packed body", {packed, chunk(gzipBomb())}, tooLarge},
-    {"broken off", {.closes = true}, u"the print server %1 broke the connection off"_s},
-    {"no HTTP", {"SSH-2.0-x\r\n"}, u"the print server %1 broke the connection off"_s},
-    {"busy", {answered("503 Busy")}, u"the print server %1 answers: Service Unavailable (HTTP status 503)"_s},
+    {"broken off", {.closes = true}, u"the print server %1 closed the connection"_s},
+    {"no HTTP", {"SSH-2.0-x\r\n"}, u"the print server %1 closed the connection"_s},
+    {"busy",
+     {answered("503 Busy")},
+     u"the print server %1 answered: Service Unavailable (HTTP status 503)"_s},
     {"secret", {answered("401 No")}, u"the print server %1 asks for a password"_s},
     {"301", {answered("301 Moved", "Location: /\r\n")}, QString(moved).replace(u"%2"_s, u"301"_s)},
     {"308",
@@ -328,9 +327,9 @@ TEST(HostilePrintServer, NothingThatItDoesLastsOrFillsMemory) {
   const std::pair<int, QString> operations[] = {
       {IPP_OP_CUPS_GET_PRINTERS, {}},
       {IPP_OP_GET_PRINTER_ATTRIBUTES, {}},
-      {HostileServer::atGet, u"the PPD of q cannot be had: "_s},
-      {IPP_OP_CREATE_JOB, u"the job is not taken: "_s},
-      {IPP_OP_SEND_DOCUMENT, u"zero is not taken: "_s},
+      {HostileServer::atGet, u"cannot get the PPD of q: "_s},
+      {IPP_OP_CREATE_JOB, u"the print server refused the job: "_s},
+      {IPP_OP_SEND_DOCUMENT, u"could not print zero: "_s},
   };
   std::list<HostileServer> servers;
   std::vector<std::future<QString>> reasons;  // of all at once, since waiting takes the time
@@ -389,11 +388,11 @@ TEST_F(LpTest, AnAnswerWithoutWhatWasAskedIsAFault) {
       "aborted-by-system"_ba;
   const std::tuple<int, QByteArray, QString, QString> cases[] = {
       {IPP_OP_GET_JOB_ATTRIBUTES, reply("\5\7", {}), u"--check q"_s,
-       u"what other users see is not told: server-error-busy"_s},
+       u"cannot find out what other users see: server-error-busy"_s},
       {IPP_OP_GET_JOB_ATTRIBUTES, reply(ok, {}), u"--check q"_s,
-       u"what other users see is not told: the print server's answer holds no job"_s},
+       u"cannot find out what other users see: the print server's answer does not have the job"_s},
       {IPP_OP_SEND_DOCUMENT, reply(ok, aborted), u"-d q "_s + m_ppd.path(),
-       u"%1 is not taken: the print server has ended the job: aborted-by-system"_s.arg(
+       u"could not print %1: the print server stopped the job: aborted-by-system"_s.arg(
            QFileInfo(m_ppd.path()).fileName())},
   };
   for (const auto& [operation, answer, arguments, fault] : cases) {

@@ -148,7 +148,7 @@ TEST_F(PrintTest, WhatCannotBePrintedOrReadIsAFault) {
                         {u"-c"_s, u"echo '{\"do\":\"facts\"}' | ( "_s + command + u" )"_s});
       const bool reads = arguments.isEmpty() && output.endsWith(u"<&-"_s);
       EXPECT_EQ(shell.code(), reads ? 0 : 1) << command;
-      const QString fault = program + u": standard output cannot be written\n"_s;
+      const QString fault = program + u": cannot write standard output\n"_s;
       EXPECT_EQ(QString::fromUtf8(shell.log()), reads ? QString() : fault) << command;
     }
   }

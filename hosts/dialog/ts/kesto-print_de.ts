@@ -267,59 +267,59 @@
         <translation>der Auftragsname</translation>
     </message>
     <message>
-        <source>what other users see is not told: %1</source>
-        <translation>was andere Benutzer sehen, ist nicht zu erfahren: %1</translation>
+        <source>cannot find out what other users see: %1</source>
+        <translation>was andere Benutzer sehen, lässt sich nicht ermitteln: %1</translation>
     </message>
     <message>
-        <source>the bundle gives no panel for the print dialog</source>
-        <translation>das Bündel liefert kein Bedienfeld für den Druckdialog</translation>
+        <source>the Job Handling extension has no panel for the print dialog</source>
+        <translation>die Erweiterung „Auftragssteuerung“ hat kein Bedienfeld für den Druckdialog</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
         <translation>das Bedienfeld hat kein Layout</translation>
     </message>
     <message>
-        <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation>JobHandling.pde liegt weder neben dem Programm noch im Bibliotheksordner</translation>
+        <source>cannot find JobHandling.pde beside the program or in the library folder</source>
+        <translation>JobHandling.pde wurde weder neben dem Programm noch im Bibliotheksordner gefunden</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
         <translation>%1: Zeile %2: %3</translation>
     </message>
     <message>
-        <source>the PPD cannot be kept: %1</source>
-        <translation>die PPD kann nicht abgelegt werden: %1</translation>
+        <source>cannot store the PPD: %1</source>
+        <translation>die PPD lässt sich nicht speichern: %1</translation>
     </message>
     <message>
-        <source>the PPD of %1 cannot be had: %2</source>
-        <translation>die PPD von %1 ist nicht zu bekommen: %2</translation>
+        <source>cannot get the PPD of %1: %2</source>
+        <translation>die PPD von %1 lässt sich nicht abrufen: %2</translation>
     </message>
     <message>
-        <source>a preset cannot keep the name of this folder</source>
+        <source>a preset cannot store this folder&apos;s name</source>
         <translation>eine Voreinstellung kann den Namen dieses Ordners nicht aufnehmen</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation>es gibt keine Voreinstellung „%1“; diese Warteschlange hat keine</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has no presets</source>
+        <translation>es gibt keine Voreinstellung „%1“; dieser Drucker hat keine Voreinstellungen</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation>es gibt keine Voreinstellung „%1“; es gibt: %2</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has: %2</source>
+        <translation>es gibt keine Voreinstellung „%1“; dieser Drucker hat: %2</translation>
     </message>
     <message>
-        <source>the preset &quot;%1&quot; is damaged and left as it is</source>
+        <source>the preset &quot;%1&quot; is damaged and was left unchanged</source>
         <translation>die Voreinstellung „%1“ ist beschädigt und bleibt, wie sie ist</translation>
     </message>
     <message>
-        <source>the presets of this queue are damaged and left as they are</source>
-        <translation>die Voreinstellungen dieser Warteschlange sind beschädigt und bleiben, wie sie sind</translation>
+        <source>this printer&apos;s presets are damaged and were left unchanged</source>
+        <translation>die Voreinstellungen dieses Druckers sind beschädigt und wurden nicht verändert</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
         <translation>die Voreinstellung „%1“ gehört zu einem anderen Druckermodell, %2</translation>
     </message>
     <message>
-        <source>standard input cannot be read</source>
+        <source>cannot read standard input</source>
         <translation>die Standardeingabe lässt sich nicht lesen</translation>
     </message>
     <message>
@@ -331,11 +331,11 @@
         <translation>der Auftrag wurde abgebrochen</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer breaks off</source>
-        <translation>die Antwort des Druckservers bricht ab</translation>
+        <source>the print server&apos;s answer is incomplete</source>
+        <translation>die Antwort des Druckservers ist unvollständig</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer is not readable</source>
+        <source>cannot read the print server&apos;s answer</source>
         <translation>die Antwort des Druckservers ist nicht lesbar</translation>
     </message>
     <message>
@@ -343,8 +343,8 @@
         <translation>die Antwort des Druckservers ist zu groß</translation>
     </message>
     <message>
-        <source>the address of the print server %1 is not found in time</source>
-        <translation>die Adresse des Druckservers %1 wird nicht rechtzeitig gefunden</translation>
+        <source>looking up the print server %1 took too long</source>
+        <translation>die Suche nach dem Druckserver %1 hat zu lange gedauert</translation>
     </message>
     <message>
         <source>there is no print server named %1</source>
@@ -355,43 +355,43 @@
         <translation>keine verschlüsselte Verbindung zum Druckserver %1 möglich</translation>
     </message>
     <message>
-        <source>cannot connect to the print server %1; is it running?</source>
-        <translation>keine Verbindung zum Druckserver %1; läuft er?</translation>
+        <source>cannot connect to the print server %1. Is it running?</source>
+        <translation>keine Verbindung zum Druckserver %1. Läuft er?</translation>
     </message>
     <message>
-        <source>the print server %1 does not want the whole document</source>
-        <translation>der Druckserver %1 will nicht das ganze Dokument</translation>
+        <source>the print server %1 stopped reading the document</source>
+        <translation>der Druckserver %1 hat das Dokument nicht zu Ende gelesen</translation>
     </message>
     <message>
-        <source>the print server %1 does not answer within %2 s</source>
-        <translation>der Druckserver %1 antwortet nicht innerhalb von %2 s</translation>
+        <source>the print server %1 did not answer within %2 s</source>
+        <translation>der Druckserver %1 hat nicht innerhalb von %2 s geantwortet</translation>
     </message>
     <message>
-        <source>the print server %1 broke the connection off</source>
-        <translation>der Druckserver %1 hat die Verbindung abgebrochen</translation>
+        <source>the print server %1 closed the connection</source>
+        <translation>der Druckserver %1 hat die Verbindung geschlossen</translation>
     </message>
     <message>
-        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
-        <translation>der Druckserver %1 verweist auf eine andere Adresse (HTTP-Status %2); ihr wird nicht gefolgt</translation>
+        <source>the print server %1 redirected to another address (HTTP status %2); redirects are not followed</source>
+        <translation>der Druckserver %1 hat auf eine andere Adresse umgeleitet (HTTP-Status %2); Umleitungen wird nicht gefolgt</translation>
     </message>
     <message>
         <source>the print server %1 asks for a password</source>
         <translation>der Druckserver %1 verlangt ein Passwort</translation>
     </message>
     <message>
-        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <source>the print server %1 answered: %2 (HTTP status %3)</source>
         <translation>der Druckserver %1 antwortet: %2 (HTTP-Status %3)</translation>
     </message>
     <message>
-        <source>the print server gave the job no number</source>
+        <source>the print server did not give the job a number</source>
         <translation>der Druckserver hat dem Auftrag keine Nummer gegeben</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job: %2</source>
-        <translation>die Warteschlange %1 nimmt keinen Auftrag an: %2</translation>
+        <source>cannot create a job on &quot;%1&quot;: %2</source>
+        <translation>auf „%1“ lässt sich kein Auftrag anlegen: %2</translation>
     </message>
     <message>
-        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <source>cannot cancel job %1-%2: %3</source>
         <translation>der Auftrag %1-%2 lässt sich nicht abbrechen: %3</translation>
     </message>
     <message>
@@ -399,44 +399,44 @@
         <translation>die PPD von %1 ist zu groß</translation>
     </message>
     <message>
-        <source>the job is not taken: %1</source>
-        <translation>der Auftrag wird nicht angenommen: %1</translation>
+        <source>the print server refused the job: %1</source>
+        <translation>der Druckserver hat den Auftrag abgelehnt: %1</translation>
     </message>
     <message>
-        <source>%1 is not taken: %2</source>
-        <translation>%1 wird nicht angenommen: %2</translation>
+        <source>could not print %1: %2</source>
+        <translation>%1 konnte nicht gedruckt werden: %2</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be had: %2</source>
-        <translation>die Warteschlange %1 ist nicht zu bekommen: %2</translation>
+        <source>cannot open the printer &quot;%1&quot;: %2</source>
+        <translation>der Drucker „%1“ lässt sich nicht öffnen: %2</translation>
     </message>
     <message>
-        <source>the print server has ended the job: %1</source>
+        <source>the print server stopped the job: %1</source>
         <translation>der Druckserver hat den Auftrag beendet: %1</translation>
     </message>
     <message>
-        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <source>a preset&apos;s name must have at most %1 characters; choose a shorter one</source>
         <translation>der Name einer Voreinstellung darf höchstens %1 Zeichen haben; wählen Sie einen kürzeren</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read: %1</source>
-        <translation>die Voreinstellungen dieser Warteschlange lassen sich nicht lesen: %1</translation>
+        <source>cannot read this printer&apos;s presets: %1</source>
+        <translation>die Voreinstellungen dieses Druckers lassen sich nicht lesen: %1</translation>
     </message>
     <message>
         <source>the job&apos;s options</source>
         <translation>die Optionen des Auftrags</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer holds no job</source>
+        <source>the print server&apos;s answer does not have the job</source>
         <translation>die Antwort des Druckservers enthält keinen Auftrag</translation>
     </message>
     <message>
-        <source>the folders cannot be remembered: %1</source>
+        <source>cannot remember the folders: %1</source>
         <translation>die Ordner können nicht gemerkt werden: %1</translation>
     </message>
     <message>
-        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
-        <translation>die Antwort des Druckers lässt sich nicht in den temporären Ordner schreiben; ist auf dem Datenträger noch Platz?</translation>
+        <source>cannot write the printer&apos;s answer to the temporary folder. Is the disk full?</source>
+        <translation>die Antwort des Druckers lässt sich nicht in den temporären Ordner schreiben. Ist der Datenträger voll?</translation>
     </message>
     <message>
         <source>the printer&apos;s answer is not a list of folders</source>

@@ -267,59 +267,59 @@
         <translation>el nombre del trabajo</translation>
     </message>
     <message>
-        <source>what other users see is not told: %1</source>
-        <translation>no se sabe qué ven otros usuarios: %1</translation>
+        <source>cannot find out what other users see: %1</source>
+        <translation>no se puede averiguar qué ven los demás usuarios: %1</translation>
     </message>
     <message>
-        <source>the bundle gives no panel for the print dialog</source>
-        <translation>el módulo no ofrece ningún panel para el diálogo de impresión</translation>
+        <source>the Job Handling extension has no panel for the print dialog</source>
+        <translation>la extensión de gestión de trabajos no tiene panel para el diálogo de impresión</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
         <translation>el panel no tiene disposición</translation>
     </message>
     <message>
-        <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation>JobHandling.pde no está ni junto al programa ni en la carpeta de bibliotecas</translation>
+        <source>cannot find JobHandling.pde beside the program or in the library folder</source>
+        <translation>no se encuentra JobHandling.pde junto al programa ni en la carpeta de bibliotecas</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
         <translation>%1: línea %2: %3</translation>
     </message>
     <message>
-        <source>the PPD cannot be kept: %1</source>
+        <source>cannot store the PPD: %1</source>
         <translation>no se puede guardar el PPD: %1</translation>
     </message>
     <message>
-        <source>the PPD of %1 cannot be had: %2</source>
+        <source>cannot get the PPD of %1: %2</source>
         <translation>no se puede obtener el PPD de %1: %2</translation>
     </message>
     <message>
-        <source>a preset cannot keep the name of this folder</source>
+        <source>a preset cannot store this folder&apos;s name</source>
         <translation>un preajuste no puede guardar el nombre de esta carpeta</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation>no existe el preajuste «%1»; esta cola no tiene ninguno</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has no presets</source>
+        <translation>no hay ningún preajuste «%1»; esta impresora no tiene preajustes</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation>no existe el preajuste «%1»; existen: %2</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has: %2</source>
+        <translation>no hay ningún preajuste «%1»; esta impresora tiene: %2</translation>
     </message>
     <message>
-        <source>the preset &quot;%1&quot; is damaged and left as it is</source>
+        <source>the preset &quot;%1&quot; is damaged and was left unchanged</source>
         <translation>el preajuste «%1» está dañado y se deja como está</translation>
     </message>
     <message>
-        <source>the presets of this queue are damaged and left as they are</source>
-        <translation>los preajustes de esta cola están dañados y se dejan como están</translation>
+        <source>this printer&apos;s presets are damaged and were left unchanged</source>
+        <translation>los preajustes de esta impresora están dañados y no se han modificado</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
         <translation>el preajuste «%1» es de otro modelo de impresora, %2</translation>
     </message>
     <message>
-        <source>standard input cannot be read</source>
+        <source>cannot read standard input</source>
         <translation>no se puede leer la entrada estándar</translation>
     </message>
     <message>
@@ -331,11 +331,11 @@
         <translation>el trabajo se ha detenido</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer breaks off</source>
-        <translation>la respuesta del servidor de impresión se interrumpe</translation>
+        <source>the print server&apos;s answer is incomplete</source>
+        <translation>la respuesta del servidor de impresión está incompleta</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer is not readable</source>
+        <source>cannot read the print server&apos;s answer</source>
         <translation>la respuesta del servidor de impresión no se puede leer</translation>
     </message>
     <message>
@@ -343,8 +343,8 @@
         <translation>la respuesta del servidor de impresión es demasiado grande</translation>
     </message>
     <message>
-        <source>the address of the print server %1 is not found in time</source>
-        <translation>no se encuentra a tiempo la dirección del servidor de impresión %1</translation>
+        <source>looking up the print server %1 took too long</source>
+        <translation>la búsqueda del servidor de impresión %1 ha tardado demasiado</translation>
     </message>
     <message>
         <source>there is no print server named %1</source>
@@ -355,43 +355,43 @@
         <translation>no se puede conectar con cifrado al servidor de impresión %1</translation>
     </message>
     <message>
-        <source>cannot connect to the print server %1; is it running?</source>
-        <translation>no se puede conectar con el servidor de impresión %1; ¿está en marcha?</translation>
+        <source>cannot connect to the print server %1. Is it running?</source>
+        <translation>no se puede conectar con el servidor de impresión %1. ¿Está en marcha?</translation>
     </message>
     <message>
-        <source>the print server %1 does not want the whole document</source>
-        <translation>el servidor de impresión %1 no quiere el documento completo</translation>
+        <source>the print server %1 stopped reading the document</source>
+        <translation>el servidor de impresión %1 ha dejado de leer el documento</translation>
     </message>
     <message>
-        <source>the print server %1 does not answer within %2 s</source>
-        <translation>el servidor de impresión %1 no responde en %2 s</translation>
+        <source>the print server %1 did not answer within %2 s</source>
+        <translation>el servidor de impresión %1 no ha respondido en %2 s</translation>
     </message>
     <message>
-        <source>the print server %1 broke the connection off</source>
-        <translation>el servidor de impresión %1 ha cortado la conexión</translation>
+        <source>the print server %1 closed the connection</source>
+        <translation>el servidor de impresión %1 ha cerrado la conexión</translation>
     </message>
     <message>
-        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
-        <translation>el servidor de impresión %1 remite a otra dirección (estado HTTP %2), que no se sigue</translation>
+        <source>the print server %1 redirected to another address (HTTP status %2); redirects are not followed</source>
+        <translation>el servidor de impresión %1 redirige a otra dirección (estado HTTP %2); no se siguen las redirecciones</translation>
     </message>
     <message>
         <source>the print server %1 asks for a password</source>
         <translation>el servidor de impresión %1 pide una contraseña</translation>
     </message>
     <message>
-        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <source>the print server %1 answered: %2 (HTTP status %3)</source>
         <translation>el servidor de impresión %1 responde: %2 (estado HTTP %3)</translation>
     </message>
     <message>
-        <source>the print server gave the job no number</source>
+        <source>the print server did not give the job a number</source>
         <translation>el servidor de impresión no ha dado número al trabajo</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job: %2</source>
-        <translation>la cola %1 no acepta trabajos: %2</translation>
+        <source>cannot create a job on &quot;%1&quot;: %2</source>
+        <translation>no se puede crear un trabajo en «%1»: %2</translation>
     </message>
     <message>
-        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <source>cannot cancel job %1-%2: %3</source>
         <translation>no se puede cancelar el trabajo %1-%2: %3</translation>
     </message>
     <message>
@@ -399,44 +399,44 @@
         <translation>el PPD de %1 es demasiado grande</translation>
     </message>
     <message>
-        <source>the job is not taken: %1</source>
-        <translation>no se acepta el trabajo: %1</translation>
+        <source>the print server refused the job: %1</source>
+        <translation>el servidor de impresión ha rechazado el trabajo: %1</translation>
     </message>
     <message>
-        <source>%1 is not taken: %2</source>
-        <translation>no se acepta %1: %2</translation>
+        <source>could not print %1: %2</source>
+        <translation>no se ha podido imprimir %1: %2</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be had: %2</source>
-        <translation>no se puede obtener la cola %1: %2</translation>
+        <source>cannot open the printer &quot;%1&quot;: %2</source>
+        <translation>no se puede abrir la impresora «%1»: %2</translation>
     </message>
     <message>
-        <source>the print server has ended the job: %1</source>
+        <source>the print server stopped the job: %1</source>
         <translation>el servidor de impresión ha finalizado el trabajo: %1</translation>
     </message>
     <message>
-        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <source>a preset&apos;s name must have at most %1 characters; choose a shorter one</source>
         <translation>el nombre de un preajuste puede tener como máximo %1 caracteres; elija uno más corto</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read: %1</source>
-        <translation>no se pueden leer los preajustes de esta cola: %1</translation>
+        <source>cannot read this printer&apos;s presets: %1</source>
+        <translation>no se pueden leer los preajustes de esta impresora: %1</translation>
     </message>
     <message>
         <source>the job&apos;s options</source>
         <translation>las opciones del trabajo</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer holds no job</source>
+        <source>the print server&apos;s answer does not have the job</source>
         <translation>la respuesta del servidor de impresión no contiene ningún trabajo</translation>
     </message>
     <message>
-        <source>the folders cannot be remembered: %1</source>
+        <source>cannot remember the folders: %1</source>
         <translation>no se pueden recordar las carpetas: %1</translation>
     </message>
     <message>
-        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
-        <translation>la respuesta de la impresora no se puede escribir en la carpeta temporal; ¿queda espacio en el disco?</translation>
+        <source>cannot write the printer&apos;s answer to the temporary folder. Is the disk full?</source>
+        <translation>no se puede escribir la respuesta de la impresora en la carpeta temporal. ¿Está lleno el disco?</translation>
     </message>
     <message>
         <source>the printer&apos;s answer is not a list of folders</source>

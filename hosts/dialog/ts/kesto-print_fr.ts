@@ -267,59 +267,59 @@
         <translation>le nom du travail</translation>
     </message>
     <message>
-        <source>what other users see is not told: %1</source>
-        <translation>impossible de savoir ce que voient les autres utilisateurs&#xa0;: %1</translation>
+        <source>cannot find out what other users see: %1</source>
+        <translation>impossible de savoir ce que voient les autres utilisateurs : %1</translation>
     </message>
     <message>
-        <source>the bundle gives no panel for the print dialog</source>
-        <translation>le module ne fournit aucun panneau pour la boîte d’impression</translation>
+        <source>the Job Handling extension has no panel for the print dialog</source>
+        <translation>l’extension de gestion des tâches n’a pas de panneau pour la boîte de dialogue d’impression</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
         <translation>le panneau n’a pas de mise en page</translation>
     </message>
     <message>
-        <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation>JobHandling.pde n’est ni à côté du programme ni dans le dossier des bibliothèques</translation>
+        <source>cannot find JobHandling.pde beside the program or in the library folder</source>
+        <translation>JobHandling.pde est introuvable à côté du programme et dans le dossier des bibliothèques</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
         <translation>%1&#xa0;: ligne %2&#xa0;: %3</translation>
     </message>
     <message>
-        <source>the PPD cannot be kept: %1</source>
-        <translation>le PPD ne peut pas être conservé&#xa0;: %1</translation>
+        <source>cannot store the PPD: %1</source>
+        <translation>impossible d’enregistrer le fichier PPD : %1</translation>
     </message>
     <message>
-        <source>the PPD of %1 cannot be had: %2</source>
-        <translation>le PPD de %1 n’a pas pu être obtenu&#xa0;: %2</translation>
+        <source>cannot get the PPD of %1: %2</source>
+        <translation>impossible d’obtenir le fichier PPD de %1 : %2</translation>
     </message>
     <message>
-        <source>a preset cannot keep the name of this folder</source>
+        <source>a preset cannot store this folder&apos;s name</source>
         <translation>un préréglage ne peut pas garder le nom de ce dossier</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation>il n’y a pas de préréglage «&#xa0;%1&#xa0;»&#xa0;; cette file n’en a aucun</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has no presets</source>
+        <translation>il n’y a pas de préréglage « %1 » ; cette imprimante n’a pas de préréglages</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation>il n’y a pas de préréglage «&#xa0;%1&#xa0;»&#xa0;; il y a&#xa0;: %2</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has: %2</source>
+        <translation>il n’y a pas de préréglage « %1 » ; cette imprimante a : %2</translation>
     </message>
     <message>
-        <source>the preset &quot;%1&quot; is damaged and left as it is</source>
+        <source>the preset &quot;%1&quot; is damaged and was left unchanged</source>
         <translation>le préréglage «&#xa0;%1&#xa0;» est endommagé et reste tel quel</translation>
     </message>
     <message>
-        <source>the presets of this queue are damaged and left as they are</source>
-        <translation>les préréglages de cette file sont endommagés et restent tels quels</translation>
+        <source>this printer&apos;s presets are damaged and were left unchanged</source>
+        <translation>les préréglages de cette imprimante sont endommagés et n’ont pas été modifiés</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
         <translation>le préréglage «&#xa0;%1&#xa0;» est pour un autre modèle d’imprimante, %2</translation>
     </message>
     <message>
-        <source>standard input cannot be read</source>
+        <source>cannot read standard input</source>
         <translation>l’entrée standard ne peut pas être lue</translation>
     </message>
     <message>
@@ -331,11 +331,11 @@
         <translation>le travail a été interrompu</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer breaks off</source>
-        <translation>la réponse du serveur d’impression s’interrompt</translation>
+        <source>the print server&apos;s answer is incomplete</source>
+        <translation>la réponse du serveur d’impression est incomplète</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer is not readable</source>
+        <source>cannot read the print server&apos;s answer</source>
         <translation>la réponse du serveur d’impression est illisible</translation>
     </message>
     <message>
@@ -343,8 +343,8 @@
         <translation>la réponse du serveur d’impression est trop volumineuse</translation>
     </message>
     <message>
-        <source>the address of the print server %1 is not found in time</source>
-        <translation>l’adresse du serveur d’impression %1 n’a pas été trouvée à temps</translation>
+        <source>looking up the print server %1 took too long</source>
+        <translation>la recherche du serveur d’impression %1 a pris trop de temps</translation>
     </message>
     <message>
         <source>there is no print server named %1</source>
@@ -355,43 +355,43 @@
         <translation>connexion chiffrée au serveur d’impression %1 impossible</translation>
     </message>
     <message>
-        <source>cannot connect to the print server %1; is it running?</source>
-        <translation>connexion au serveur d’impression %1 impossible&#xa0;; est-il démarré&#xa0;?</translation>
+        <source>cannot connect to the print server %1. Is it running?</source>
+        <translation>connexion impossible au serveur d’impression %1. Est-il en marche ?</translation>
     </message>
     <message>
-        <source>the print server %1 does not want the whole document</source>
-        <translation>le serveur d’impression %1 ne veut pas tout le document</translation>
+        <source>the print server %1 stopped reading the document</source>
+        <translation>le serveur d’impression %1 a cessé de lire le document</translation>
     </message>
     <message>
-        <source>the print server %1 does not answer within %2 s</source>
-        <translation>le serveur d’impression %1 ne répond pas en %2 s</translation>
+        <source>the print server %1 did not answer within %2 s</source>
+        <translation>le serveur d’impression %1 n’a pas répondu en %2 s</translation>
     </message>
     <message>
-        <source>the print server %1 broke the connection off</source>
-        <translation>le serveur d’impression %1 a interrompu la connexion</translation>
+        <source>the print server %1 closed the connection</source>
+        <translation>le serveur d’impression %1 a fermé la connexion</translation>
     </message>
     <message>
-        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
-        <translation>le serveur d’impression %1 renvoie à une autre adresse (état HTTP %2), qui n’est pas suivie</translation>
+        <source>the print server %1 redirected to another address (HTTP status %2); redirects are not followed</source>
+        <translation>le serveur d’impression %1 redirige vers une autre adresse (état HTTP %2) ; les redirections ne sont pas suivies</translation>
     </message>
     <message>
         <source>the print server %1 asks for a password</source>
         <translation>le serveur d’impression %1 demande un mot de passe</translation>
     </message>
     <message>
-        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <source>the print server %1 answered: %2 (HTTP status %3)</source>
         <translation>le serveur d’impression %1 répond&#xa0;: %2 (état HTTP %3)</translation>
     </message>
     <message>
-        <source>the print server gave the job no number</source>
+        <source>the print server did not give the job a number</source>
         <translation>le serveur d’impression n’a pas donné de numéro au travail</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job: %2</source>
-        <translation>la file %1 n’accepte pas de travail&#xa0;: %2</translation>
+        <source>cannot create a job on &quot;%1&quot;: %2</source>
+        <translation>impossible de créer une tâche sur « %1 » : %2</translation>
     </message>
     <message>
-        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <source>cannot cancel job %1-%2: %3</source>
         <translation>le travail %1-%2 ne peut pas être annulé&#xa0;: %3</translation>
     </message>
     <message>
@@ -399,44 +399,44 @@
         <translation>le PPD de %1 est trop grand</translation>
     </message>
     <message>
-        <source>the job is not taken: %1</source>
-        <translation>le travail n’est pas accepté&#xa0;: %1</translation>
+        <source>the print server refused the job: %1</source>
+        <translation>le serveur d’impression a refusé la tâche : %1</translation>
     </message>
     <message>
-        <source>%1 is not taken: %2</source>
-        <translation>%1 n’est pas accepté&#xa0;: %2</translation>
+        <source>could not print %1: %2</source>
+        <translation>impossible d’imprimer %1 : %2</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be had: %2</source>
-        <translation>la file %1 n’a pas pu être obtenue&#xa0;: %2</translation>
+        <source>cannot open the printer &quot;%1&quot;: %2</source>
+        <translation>impossible d’ouvrir l’imprimante « %1 » : %2</translation>
     </message>
     <message>
-        <source>the print server has ended the job: %1</source>
+        <source>the print server stopped the job: %1</source>
         <translation>le serveur d’impression a mis fin au travail&#xa0;: %1</translation>
     </message>
     <message>
-        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <source>a preset&apos;s name must have at most %1 characters; choose a shorter one</source>
         <translation>le nom d’un préréglage compte au plus %1 caractères&#xa0;; choisissez-en un plus court</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read: %1</source>
-        <translation>les préréglages de cette file ne peuvent pas être lus&#xa0;: %1</translation>
+        <source>cannot read this printer&apos;s presets: %1</source>
+        <translation>impossible de lire les préréglages de cette imprimante : %1</translation>
     </message>
     <message>
         <source>the job&apos;s options</source>
         <translation>les options du travail</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer holds no job</source>
+        <source>the print server&apos;s answer does not have the job</source>
         <translation>la réponse du serveur d’impression ne contient aucun travail</translation>
     </message>
     <message>
-        <source>the folders cannot be remembered: %1</source>
+        <source>cannot remember the folders: %1</source>
         <translation>les dossiers ne peuvent pas être mémorisés&#xa0;: %1</translation>
     </message>
     <message>
-        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
-        <translation>la réponse de l’imprimante ne peut pas être écrite dans le dossier temporaire&#xa0;; reste-t-il de la place sur le disque&#xa0;?</translation>
+        <source>cannot write the printer&apos;s answer to the temporary folder. Is the disk full?</source>
+        <translation>impossible d’écrire la réponse de l’imprimante dans le dossier temporaire. Le disque est-il plein ?</translation>
     </message>
     <message>
         <source>the printer&apos;s answer is not a list of folders</source>

@@ -266,59 +266,59 @@
         <translation>ジョブ名</translation>
     </message>
     <message>
-        <source>what other users see is not told: %1</source>
-        <translation>ほかのユーザーに見える内容がわかりません: %1</translation>
+        <source>cannot find out what other users see: %1</source>
+        <translation>他のユーザーに何が見えるかを確認できません: %1</translation>
     </message>
     <message>
-        <source>the bundle gives no panel for the print dialog</source>
-        <translation>バンドルに印刷ダイアログ用のパネルがありません</translation>
+        <source>the Job Handling extension has no panel for the print dialog</source>
+        <translation>ジョブ処理の拡張機能に印刷ダイアログ用のパネルがありません</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
         <translation>パネルのレイアウトがありません</translation>
     </message>
     <message>
-        <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation>JobHandling.pde がプログラムの隣にもライブラリのフォルダーにもありません</translation>
+        <source>cannot find JobHandling.pde beside the program or in the library folder</source>
+        <translation>JobHandling.pde がプログラムと同じ場所にもライブラリーフォルダーにも見つかりません</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
         <translation>%1: %2 行目: %3</translation>
     </message>
     <message>
-        <source>the PPD cannot be kept: %1</source>
+        <source>cannot store the PPD: %1</source>
         <translation>PPD を保存できません: %1</translation>
     </message>
     <message>
-        <source>the PPD of %1 cannot be had: %2</source>
+        <source>cannot get the PPD of %1: %2</source>
         <translation>%1 の PPD を取得できません: %2</translation>
     </message>
     <message>
-        <source>a preset cannot keep the name of this folder</source>
+        <source>a preset cannot store this folder&apos;s name</source>
         <translation>プリセットにこのフォルダー名を保存できません</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation>プリセット「%1」はありません。このキューにはプリセットがありません</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has no presets</source>
+        <translation>プリセット「%1」はありません。このプリンターにプリセットはありません</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation>プリセット「%1」はありません。あるのは: %2</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has: %2</source>
+        <translation>プリセット「%1」はありません。このプリンターにあるもの: %2</translation>
     </message>
     <message>
-        <source>the preset &quot;%1&quot; is damaged and left as it is</source>
+        <source>the preset &quot;%1&quot; is damaged and was left unchanged</source>
         <translation>プリセット「%1」は壊れているため、そのまま残します</translation>
     </message>
     <message>
-        <source>the presets of this queue are damaged and left as they are</source>
-        <translation>このキューのプリセットは壊れているため、そのまま残します</translation>
+        <source>this printer&apos;s presets are damaged and were left unchanged</source>
+        <translation>このプリンターのプリセットは壊れているため、変更しませんでした</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
         <translation>プリセット「%1」は別の機種 %2 用です</translation>
     </message>
     <message>
-        <source>standard input cannot be read</source>
+        <source>cannot read standard input</source>
         <translation>標準入力を読み取れません</translation>
     </message>
     <message>
@@ -330,11 +330,11 @@
         <translation>ジョブは中止されました</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer breaks off</source>
-        <translation>プリントサーバーの応答が途切れました</translation>
+        <source>the print server&apos;s answer is incomplete</source>
+        <translation>プリントサーバーの応答が途中で切れました</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer is not readable</source>
+        <source>cannot read the print server&apos;s answer</source>
         <translation>プリントサーバーの応答を読み取れません</translation>
     </message>
     <message>
@@ -342,8 +342,8 @@
         <translation>プリントサーバーの応答が大きすぎます</translation>
     </message>
     <message>
-        <source>the address of the print server %1 is not found in time</source>
-        <translation>プリントサーバー %1 のアドレスが時間内に見つかりませんでした</translation>
+        <source>looking up the print server %1 took too long</source>
+        <translation>プリントサーバー %1 の検索に時間がかかりすぎました</translation>
     </message>
     <message>
         <source>there is no print server named %1</source>
@@ -354,43 +354,43 @@
         <translation>プリントサーバー %1 に暗号化して接続できません</translation>
     </message>
     <message>
-        <source>cannot connect to the print server %1; is it running?</source>
+        <source>cannot connect to the print server %1. Is it running?</source>
         <translation>プリントサーバー %1 に接続できません。動作していますか?</translation>
     </message>
     <message>
-        <source>the print server %1 does not want the whole document</source>
-        <translation>プリントサーバー %1 はドキュメント全体を受け付けません</translation>
+        <source>the print server %1 stopped reading the document</source>
+        <translation>プリントサーバー %1 が文書の読み取りを途中でやめました</translation>
     </message>
     <message>
-        <source>the print server %1 does not answer within %2 s</source>
-        <translation>プリントサーバー %1 が %2 秒以内に応答しません</translation>
+        <source>the print server %1 did not answer within %2 s</source>
+        <translation>プリントサーバー %1 が %2 秒以内に応答しませんでした</translation>
     </message>
     <message>
-        <source>the print server %1 broke the connection off</source>
+        <source>the print server %1 closed the connection</source>
         <translation>プリントサーバー %1 が接続を切断しました</translation>
     </message>
     <message>
-        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
-        <translation>プリントサーバー %1 が別のアドレスを示しました (HTTP ステータス %2)。転送には従いません</translation>
+        <source>the print server %1 redirected to another address (HTTP status %2); redirects are not followed</source>
+        <translation>プリントサーバー %1 が別のアドレスへ転送しました (HTTP ステータス %2)。転送先には接続しません</translation>
     </message>
     <message>
         <source>the print server %1 asks for a password</source>
         <translation>プリントサーバー %1 がパスワードを求めています</translation>
     </message>
     <message>
-        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <source>the print server %1 answered: %2 (HTTP status %3)</source>
         <translation>プリントサーバー %1 の応答: %2 (HTTP ステータス %3)</translation>
     </message>
     <message>
-        <source>the print server gave the job no number</source>
+        <source>the print server did not give the job a number</source>
         <translation>プリントサーバーがジョブに番号を付けませんでした</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job: %2</source>
-        <translation>キュー %1 はジョブを受け付けません: %2</translation>
+        <source>cannot create a job on &quot;%1&quot;: %2</source>
+        <translation>「%1」にジョブを作成できません: %2</translation>
     </message>
     <message>
-        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <source>cannot cancel job %1-%2: %3</source>
         <translation>ジョブ %1-%2 を取り消せません: %3</translation>
     </message>
     <message>
@@ -398,44 +398,44 @@
         <translation>%1 の PPD が大きすぎます</translation>
     </message>
     <message>
-        <source>the job is not taken: %1</source>
-        <translation>ジョブが受け付けられません: %1</translation>
+        <source>the print server refused the job: %1</source>
+        <translation>プリントサーバーがジョブを拒否しました: %1</translation>
     </message>
     <message>
-        <source>%1 is not taken: %2</source>
-        <translation>%1 が受け付けられません: %2</translation>
+        <source>could not print %1: %2</source>
+        <translation>%1 を印刷できませんでした: %2</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be had: %2</source>
-        <translation>キュー %1 を取得できません: %2</translation>
+        <source>cannot open the printer &quot;%1&quot;: %2</source>
+        <translation>プリンター「%1」を開けません: %2</translation>
     </message>
     <message>
-        <source>the print server has ended the job: %1</source>
+        <source>the print server stopped the job: %1</source>
         <translation>プリントサーバーがジョブを終了しました: %1</translation>
     </message>
     <message>
-        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <source>a preset&apos;s name must have at most %1 characters; choose a shorter one</source>
         <translation>プリセット名は最大 %1 文字です。短い名前を選択してください</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read: %1</source>
-        <translation>このキューのプリセットを読み取れません: %1</translation>
+        <source>cannot read this printer&apos;s presets: %1</source>
+        <translation>このプリンターのプリセットを読み取れません: %1</translation>
     </message>
     <message>
         <source>the job&apos;s options</source>
         <translation>ジョブのオプション</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer holds no job</source>
+        <source>the print server&apos;s answer does not have the job</source>
         <translation>プリントサーバーの応答にジョブが含まれていません</translation>
     </message>
     <message>
-        <source>the folders cannot be remembered: %1</source>
+        <source>cannot remember the folders: %1</source>
         <translation>フォルダーを記憶できません: %1</translation>
     </message>
     <message>
-        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
-        <translation>プリンターの応答を一時フォルダーに書き込めません。ディスクに空きがありますか?</translation>
+        <source>cannot write the printer&apos;s answer to the temporary folder. Is the disk full?</source>
+        <translation>プリンターの応答を一時フォルダーに書き込めません。ディスクがいっぱいではありませんか?</translation>
     </message>
     <message>
         <source>the printer&apos;s answer is not a list of folders</source>

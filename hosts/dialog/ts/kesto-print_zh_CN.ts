@@ -266,59 +266,59 @@
         <translation>作业名</translation>
     </message>
     <message>
-        <source>what other users see is not told: %1</source>
-        <translation>无法得知其他用户看到的内容：%1</translation>
+        <source>cannot find out what other users see: %1</source>
+        <translation>无法确定其他用户能看到什么：%1</translation>
     </message>
     <message>
-        <source>the bundle gives no panel for the print dialog</source>
-        <translation>插件包没有提供打印对话框面板</translation>
+        <source>the Job Handling extension has no panel for the print dialog</source>
+        <translation>作业处理扩展没有用于打印对话框的面板</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
         <translation>面板没有布局</translation>
     </message>
     <message>
-        <source>JobHandling.pde is neither beside the program nor in the library folder</source>
-        <translation>JobHandling.pde 既不在程序旁边，也不在库文件夹中</translation>
+        <source>cannot find JobHandling.pde beside the program or in the library folder</source>
+        <translation>在程序旁和库文件夹中都找不到 JobHandling.pde</translation>
     </message>
     <message>
         <source>%1: line %2: %3</source>
         <translation>%1：第 %2 行：%3</translation>
     </message>
     <message>
-        <source>the PPD cannot be kept: %1</source>
+        <source>cannot store the PPD: %1</source>
         <translation>无法保存 PPD：%1</translation>
     </message>
     <message>
-        <source>the PPD of %1 cannot be had: %2</source>
-        <translation>无法取得 %1 的 PPD：%2</translation>
+        <source>cannot get the PPD of %1: %2</source>
+        <translation>无法获取 %1 的 PPD：%2</translation>
     </message>
     <message>
-        <source>a preset cannot keep the name of this folder</source>
+        <source>a preset cannot store this folder&apos;s name</source>
         <translation>预设无法保存此文件夹的名称</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; this queue has none</source>
-        <translation>没有预设“%1”；此队列没有预设</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has no presets</source>
+        <translation>没有预设“%1”；此打印机没有预设</translation>
     </message>
     <message>
-        <source>there is no preset &quot;%1&quot;; there are: %2</source>
-        <translation>没有预设“%1”；现有：%2</translation>
+        <source>there is no preset &quot;%1&quot;; this printer has: %2</source>
+        <translation>没有预设“%1”；此打印机有：%2</translation>
     </message>
     <message>
-        <source>the preset &quot;%1&quot; is damaged and left as it is</source>
+        <source>the preset &quot;%1&quot; is damaged and was left unchanged</source>
         <translation>预设“%1”已损坏，保持原样</translation>
     </message>
     <message>
-        <source>the presets of this queue are damaged and left as they are</source>
-        <translation>此队列的预设已损坏，保持原样</translation>
+        <source>this printer&apos;s presets are damaged and were left unchanged</source>
+        <translation>此打印机的预设已损坏，未作更改</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is for another printer model, %2</source>
         <translation>预设“%1”用于另一打印机型号 %2</translation>
     </message>
     <message>
-        <source>standard input cannot be read</source>
+        <source>cannot read standard input</source>
         <translation>无法读取标准输入</translation>
     </message>
     <message>
@@ -330,11 +330,11 @@
         <translation>作业已停止</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer breaks off</source>
-        <translation>打印服务器的响应中断</translation>
+        <source>the print server&apos;s answer is incomplete</source>
+        <translation>打印服务器的应答不完整</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer is not readable</source>
+        <source>cannot read the print server&apos;s answer</source>
         <translation>无法读取打印服务器的响应</translation>
     </message>
     <message>
@@ -342,8 +342,8 @@
         <translation>打印服务器的应答过大</translation>
     </message>
     <message>
-        <source>the address of the print server %1 is not found in time</source>
-        <translation>未能及时找到打印服务器 %1 的地址</translation>
+        <source>looking up the print server %1 took too long</source>
+        <translation>查找打印服务器 %1 用时过长</translation>
     </message>
     <message>
         <source>there is no print server named %1</source>
@@ -354,43 +354,43 @@
         <translation>无法以加密方式连接打印服务器 %1</translation>
     </message>
     <message>
-        <source>cannot connect to the print server %1; is it running?</source>
-        <translation>无法连接打印服务器 %1；它在运行吗？</translation>
+        <source>cannot connect to the print server %1. Is it running?</source>
+        <translation>无法连接到打印服务器 %1。它在运行吗？</translation>
     </message>
     <message>
-        <source>the print server %1 does not want the whole document</source>
-        <translation>打印服务器 %1 不接受整个文档</translation>
+        <source>the print server %1 stopped reading the document</source>
+        <translation>打印服务器 %1 未读完文档</translation>
     </message>
     <message>
-        <source>the print server %1 does not answer within %2 s</source>
-        <translation>打印服务器 %1 在 %2 秒内没有响应</translation>
+        <source>the print server %1 did not answer within %2 s</source>
+        <translation>打印服务器 %1 未在 %2 秒内应答</translation>
     </message>
     <message>
-        <source>the print server %1 broke the connection off</source>
-        <translation>打印服务器 %1 中断了连接</translation>
+        <source>the print server %1 closed the connection</source>
+        <translation>打印服务器 %1 关闭了连接</translation>
     </message>
     <message>
-        <source>the print server %1 points to another address (HTTP status %2), which is not followed</source>
-        <translation>打印服务器 %1 指向另一个地址（HTTP 状态 %2），不会跟随</translation>
+        <source>the print server %1 redirected to another address (HTTP status %2); redirects are not followed</source>
+        <translation>打印服务器 %1 重定向到另一地址（HTTP 状态 %2）；不跟随重定向</translation>
     </message>
     <message>
         <source>the print server %1 asks for a password</source>
         <translation>打印服务器 %1 要求输入密码</translation>
     </message>
     <message>
-        <source>the print server %1 answers: %2 (HTTP status %3)</source>
+        <source>the print server %1 answered: %2 (HTTP status %3)</source>
         <translation>打印服务器 %1 的响应：%2（HTTP 状态 %3）</translation>
     </message>
     <message>
-        <source>the print server gave the job no number</source>
+        <source>the print server did not give the job a number</source>
         <translation>打印服务器没有给作业编号</translation>
     </message>
     <message>
-        <source>the queue %1 takes no job: %2</source>
-        <translation>队列 %1 不接受作业：%2</translation>
+        <source>cannot create a job on &quot;%1&quot;: %2</source>
+        <translation>无法在“%1”上创建作业：%2</translation>
     </message>
     <message>
-        <source>the job %1-%2 cannot be cancelled: %3</source>
+        <source>cannot cancel job %1-%2: %3</source>
         <translation>无法取消作业 %1-%2：%3</translation>
     </message>
     <message>
@@ -398,44 +398,44 @@
         <translation>%1 的 PPD 过大</translation>
     </message>
     <message>
-        <source>the job is not taken: %1</source>
-        <translation>作业未被接受：%1</translation>
+        <source>the print server refused the job: %1</source>
+        <translation>打印服务器拒绝了作业：%1</translation>
     </message>
     <message>
-        <source>%1 is not taken: %2</source>
-        <translation>%1 未被接受：%2</translation>
+        <source>could not print %1: %2</source>
+        <translation>无法打印 %1：%2</translation>
     </message>
     <message>
-        <source>the queue %1 cannot be had: %2</source>
-        <translation>无法取得队列 %1：%2</translation>
+        <source>cannot open the printer &quot;%1&quot;: %2</source>
+        <translation>无法打开打印机“%1”：%2</translation>
     </message>
     <message>
-        <source>the print server has ended the job: %1</source>
+        <source>the print server stopped the job: %1</source>
         <translation>打印服务器已结束该作业：%1</translation>
     </message>
     <message>
-        <source>the name of a preset can have at most %1 characters; choose a shorter one</source>
+        <source>a preset&apos;s name must have at most %1 characters; choose a shorter one</source>
         <translation>预设名称最多可有 %1 个字符；请选择较短的名称</translation>
     </message>
     <message>
-        <source>the presets of this queue cannot be read: %1</source>
-        <translation>无法读取此队列的预设：%1</translation>
+        <source>cannot read this printer&apos;s presets: %1</source>
+        <translation>无法读取此打印机的预设：%1</translation>
     </message>
     <message>
         <source>the job&apos;s options</source>
         <translation>作业的选项</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer holds no job</source>
+        <source>the print server&apos;s answer does not have the job</source>
         <translation>打印服务器的应答中没有作业</translation>
     </message>
     <message>
-        <source>the folders cannot be remembered: %1</source>
+        <source>cannot remember the folders: %1</source>
         <translation>无法记住文件夹：%1</translation>
     </message>
     <message>
-        <source>the printer&apos;s answer cannot be written to the temporary folder; is there room on the disk?</source>
-        <translation>无法将打印机的应答写入临时文件夹；磁盘还有空间吗？</translation>
+        <source>cannot write the printer&apos;s answer to the temporary folder. Is the disk full?</source>
+        <translation>无法将打印机的应答写入临时文件夹。磁盘已满吗？</translation>
     </message>
     <message>
         <source>the printer&apos;s answer is not a list of folders</source>
