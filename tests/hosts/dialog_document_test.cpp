@@ -24,7 +24,7 @@ class DialogDocument : public testing::Test {
   }
   QByteArray path(const QString& name) const { return QFile::encodeName(m_folder.path(name)); }
   void awaitState(State state) {
-    EXPECT_TRUE(DialogUser::waitUntil([&] { return m_document.state() == state; }, u"the document"_s));
+    waitFor([&] { return m_document.state() == state; });
   }
   QByteArray bytes(std::size_t file = 0) const {
     return bytesOf(QString::fromLatin1(m_document.files().at(file).path));
@@ -85,7 +85,7 @@ TEST_F(DialogDocument, TheEndOfAnotherProgramsPipeIsConfirmed) {
   int ends = 0;
   QObject::connect(&m_document, &Document::ended, [&] { ++ends; });
   m_document.readFromClient(pipeOf("half"), u"Report"_s);
-  EXPECT_TRUE(DialogUser::waitUntil([&] { return ends == 1; }, u"the end"_s));
+  waitFor([&] { return ends == 1; });
   EXPECT_EQ(m_document.state(), State::Reading);
   EXPECT_TRUE(m_document.isOpenEnded());
   m_document.confirmEnd();
@@ -161,7 +161,7 @@ class DialogPreview : public DialogDocument {
   DialogPreview() { m_preview.QWidget::show(); }
   // The sheet when the wanted picture is on it.
   QImage sheet(const QString& what = u"Preview of the page"_s) {
-    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isSettled(); }, u"the page"_s));
+    waitFor([this] { return m_preview.isSettled(); });
     return widgetNamed(m_preview, what)->grab().toImage();
   }
 
@@ -176,7 +176,7 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
   m_preview.show(report);
   m_preview.resize(2 * m_preview.size());  // while the page is drawn for the size before
   const QImage first = sheet();
-  EXPECT_TRUE(DialogUser::waitUntil([&] { return position->text() == u"Page 1 of 3"_s; }, u"the number"_s));
+  waitFor([&] { return position->text() == u"Page 1 of 3"_s; });
   EXPECT_EQ(m_preview.pageCount(), 3);
   EXPECT_FALSE(back->isEnabled());
   forward->click();
@@ -228,8 +228,8 @@ TEST_F(DialogPreview, WhatCannotBePrintedIsSaidInItsPlace) {
     SCOPED_TRACE(files.back().path.toStdString());
     m_preview.show(files);
     EXPECT_FALSE(m_preview.isExamined());
-    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isSettled(); }, u"the page"_s));
-    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isExamined(); }, u"the look"_s));
+    waitFor([this] { return m_preview.isSettled(); });
+    waitFor([this] { return m_preview.isExamined(); });
     EXPECT_TRUE((m_preview.fault() + u'.').startsWith(QLatin1String(fault))) << m_preview.fault();
     EXPECT_EQ(m_preview.fault().isNull(), *fault == 0);
     if (!m_preview.fault().isNull()) sheet(m_preview.fault());
@@ -243,7 +243,7 @@ TEST_F(DialogPreview, AProgramIsBoundedInTimeAndMemory) {
     std::optional<PageProgram::End> end;
     QObject::connect(&program, &PageProgram::ended, &program, [&](PageProgram::End how) { end = how; });
     program.start(name, arguments, m_folder.path(u"report.pdf"_s));
-    EXPECT_TRUE(DialogUser::waitUntil([&] { return end.has_value(); }, name));
+    waitFor([&] { return end.has_value(); });
     program.disconnect();
     return end;
   };
@@ -265,19 +265,18 @@ bool isAlive(const QByteArray& process) {
 }
 
 TEST_F(DialogPreview, AProgramEndsWithTheDialogHoweverThatEnds) {
-  m_folder.write(u"pdftoppm"_s, "#!/bin/sh\necho $$ >" + QFile::encodeName(m_folder.path(u"process"_s)) +
-                                    "\nexec sleep 600\n");
-  QFile::setPermissions(m_folder.path(u"pdftoppm"_s), QFile::ReadOwner | QFile::ExeOwner);
+  m_folder.writeProgram(u"pdftoppm"_s,
+                        "echo $$ >" + QFile::encodeName(m_folder.path(u"process"_s)) + "\nexec sleep 600\n");
   const QByteArray path = qgetenv("PATH");
   qputenv("PATH", QFile::encodeName(m_folder.path(u""_s)) + ':' + path);
   DemoProcess dialog(m_folder, builtProgram("kesto-print"),
                      {u"-h"_s, u"127.0.0.1:9"_s, m_folder.path(u"report.pdf"_s)});
   qputenv("PATH", path);
   const QString file = m_folder.path(u"process"_s);
-  EXPECT_TRUE(DialogUser::waitUntil([&] { return QFileInfo(file).size() > 0; }, u"the drawing"_s));
+  waitFor([&] { return QFileInfo(file).size() > 0; });
   EXPECT_TRUE(isAlive(bytesOf(file)));
   dialog.kill();
-  EXPECT_TRUE(DialogUser::waitUntil([&] { return !isAlive(bytesOf(file)); }, u"its end"_s));
+  waitFor([&] { return !isAlive(bytesOf(file)); });
 }
 
 }  // namespace

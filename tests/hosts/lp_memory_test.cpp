@@ -40,6 +40,7 @@ TEST_F(LpMemory, RememberedOnceOfferedUntilForgotten) {
     EXPECT_EQ(values(option + u"1234"_s + remember), first);
     EXPECT_EQ(values({}), first) << field.toStdString();
     EXPECT_EQ(values(option + u"5"_s), second) << "a held field takes a new value";
+    EXPECT_NE(dryRun(base + u' ' + option + u"5"_s).values(u"holdButton"_s), u"holdButton=0"_s) << "held on";
     EXPECT_EQ(values({}), first) << "which a dry run does not keep";
     EXPECT_EQ(values(option + u"5"_s + remember), second);
     EXPECT_EQ(values({}), second) << "unless asked to";

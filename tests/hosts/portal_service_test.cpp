@@ -155,18 +155,11 @@ TEST_F(PortalServiceTest, AsksAndHandsTheDocumentOn) {
   Answer asked(prepare(handle(), {{u"n-copies"_s, u"3"_s}, {u"my-key"_s, u"Größe"_s}, {secret, u"42"_s}},
                        {{u"PPDName"_s, u"A4"_s}, {u"Width"_s, 210.0}}));
   Dialog dialog = startedDialog();
-  EXPECT_EQ(dialog.self(),
-            (QJsonObject{{u"arguments"_s, QJsonArray{u"--portal"_s, u"3"_s}},
-                         {u"environment"_s, QJsonObject{{u"QT_QPA_PLATFORMTHEME"_s, u"gtk3"_s}}}}));
-  EXPECT_EQ(dialog.next(),
-            (QJsonObject{{u"do"_s, u"open"_s},
-                         {u"title"_s, u"Report"_s},
-                         {u"parentWindow"_s, u"x11:2a"_s},
-                         {u"appId"_s, u"org.example.App"_s},
-                         {u"modal"_s, false},
-                         {u"document"_s, false},
-                         {u"settings"_s, QJsonObject{{u"n-copies"_s, u"3"_s}, {u"my-key"_s, u"Größe"_s}}},
-                         {u"pageSetup"_s, QJsonObject{{u"PPDName"_s, u"A4"_s}, {u"Width"_s, 210}}}}));
+  EXPECT_EQ(dialog.self(), json(R"({"arguments":["--portal", "3"],
+      "environment":{"QT_QPA_PLATFORMTHEME":"gtk3"}})"));
+  EXPECT_EQ(dialog.next(), json(R"({"do":"open", "title":"Report", "parentWindow":"x11:2a",
+      "appId":"org.example.App", "modal":false, "document":false,
+      "settings":{"n-copies":"3", "my-key":"Größe"}, "pageSetup":{"PPDName":"A4", "Width":210}})"));
   dialog.say(R"({"answer":"chosen","settings":{"n-copies":"1","cups-job-password":"7"},
                  "pageSetup":{"PPDName":"A5","Width":148}})"_ba.replace('\n', ""));
   const QVariantMap results = asked.results();

@@ -7,10 +7,6 @@
 namespace kesto::test {
 namespace {
 
-QJsonObject json(const char* text) {
-  return QJsonDocument::fromJson(text).object();
-}
-
 const QJsonObject a4 =
     json(R"({"PPDName":"A4", "DisplayName":"A4", "Width":210, "Height":297, "MarginTop":6.35,
     "MarginBottom":14.224, "MarginLeft":6.35, "MarginRight":6.35, "Orientation":"portrait"})");

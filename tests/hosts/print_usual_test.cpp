@@ -1,6 +1,5 @@
 // kesto-lp compared with the print system's own command: the same command lines on the same scheduler.
 #include <QtCore/QRegularExpression>
-#include <QtCore/QThread>
 
 #include "tests/support/print_program.h"
 
@@ -22,12 +21,12 @@ class BesideTheUsualCommand : public PrintTest {
     changeScheduler(m_folder,
                     "/AuthType/d; /Require user @SYSTEM$/d; s/PreserveJobFiles No/PreserveJobFiles Yes/");
     startPrinter();
-    const QString backend = m_folder.path(u"run/cups/bin/backend/record"_s);
-    m_folder.write(u"run/cups/bin/backend/record"_s,
-                   "#!/bin/sh\n[ $# = 0 ] && exit\nprintf '%s\\0' \"$2\" \"$3\" \"$4\" \"$5\" > "
-                   "\"$TMPDIR/arguments-$1\"\n"
-                   "cat ${6:+\"$6\"} > \"$TMPDIR/part-$1\" && mv \"$TMPDIR/part-$1\" \"$TMPDIR/bytes-$1\"\n");
-    QFile::setPermissions(backend, QFile::permissions(m_folder.path(u"run/cups/bin/backend/socket"_s)));
+    m_folder.writeProgram(
+        u"run/cups/bin/backend/record"_s,
+        "[ $# = 0 ] && exit\nprintf '%s\\0' \"$2\" \"$3\" \"$4\" \"$5\" > \"$TMPDIR/arguments-$1\"\n"
+        "cat ${6:+\"$6\"} > \"$TMPDIR/part-$1\" && mv \"$TMPDIR/part-$1\" \"$TMPDIR/bytes-$1\"\n");
+    QFile::setPermissions(m_folder.path(u"run/cups/bin/backend/record"_s),
+                          QFile::permissions(m_folder.path(u"run/cups/bin/backend/socket"_s)));
     for (const auto& queue : {u"one"_s, u"two"_s}) {
       addQueue(queue, "*APDialogExtension: \"JobHandling.pde\"\n", "");
       ofPrintSystem(u"/usr/sbin/lpadmin -p %1 -v record:/x"_s.arg(queue));
@@ -83,9 +82,7 @@ class BesideTheUsualCommand : public PrintTest {
   void readArrived(Result* result) const {
     if (!result->attributes[u"job-state"_s].startsWith(u"goes"_s)) return;
     const QString bytes = m_folder.path(u"run/cups/spool/tmp/bytes-%1"_s.arg(result->job));
-    const QDeadlineTimer deadline(std::chrono::seconds(20));
-    while (!QFile::exists(bytes) && !deadline.hasExpired())
-      QThread::msleep(5);
+    waitFor([&] { return QFile::exists(bytes); });
     static const QRegularExpression varying(u" (job-uuid|(date-)?time-at-\\w+)=\\S*"_s);
     result->arrived = {
         QString::fromUtf8(bytesOf(m_folder.path(u"run/cups/spool/tmp/arguments-%1"_s.arg(result->job))))

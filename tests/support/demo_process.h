@@ -64,6 +64,12 @@ class ScratchFolder {
     QFile file(path(name));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
   }
+  /// Writes a script for the shell that may be run.
+  void writeProgram(const QString& name, const QByteArray& script) const {
+    QFile::remove(path(name));
+    write(name, "#!/bin/sh\n" + script);
+    QFile::setPermissions(path(name), QFile::ReadOwner | QFile::ExeOwner);
+  }
 
  private:
   QTemporaryDir m_folder;
@@ -72,11 +78,9 @@ class ScratchFolder {
 /// Puts a scheduler in front of the system's that first edits its configuration and its list of queues.
 inline void changeScheduler(const ScratchFolder& folder, const QByteArray& edits) {
   QDir().mkdir(folder.path(u"bin"_s));
-  QFile::remove(folder.path(u"bin/cupsd"_s));
-  folder.write(u"bin/cupsd"_s, "#!/bin/sh\nsed -i '" + edits +
-                                   "' \"$3\" \"${3%cupsd.conf}printers.conf\"\n"
-                                   "cp /usr/sbin/cupsd \"$0-copy\" && exec \"$0-copy\" \"$@\"\n");
-  QFile::setPermissions(folder.path(u"bin/cupsd"_s), QFile::ReadOwner | QFile::ExeOwner);
+  folder.writeProgram(u"bin/cupsd"_s, "sed -i '" + edits +
+                                          "' \"$3\" \"${3%cupsd.conf}printers.conf\"\n"
+                                          "cp /usr/sbin/cupsd \"$0-copy\" && exec \"$0-copy\" \"$@\"\n");
   qputenv("PATH", QFile::encodeName(folder.path(u"bin:"_s)) + qgetenv("PATH"));
 }
 

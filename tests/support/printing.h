@@ -38,6 +38,10 @@ inline void PrintTo(const Text& text, std::ostream* out) {
   PrintTo(static_cast<const QString&>(text), out);
 }
 
+inline QJsonObject json(const char* text) {
+  return QJsonDocument::fromJson(text).object();
+}
+
 /// Pairs of what is given and what is expected.
 using Cases = std::initializer_list<std::pair<Text, Text>>;
 
