@@ -143,6 +143,7 @@ void PrintDialog::openQueue(Queue& queue) {
                     m_kept.options);
   if (const Destination& destination = m_session.queue()->destination) takeKeptOptions(*destination);
   const QStringList refused = takeOptions();
+  updatePreview();
   m_chooser->takeCurrent(m_opening.wanted());
   if (!refused.isEmpty())
     showMessage(tr("This printer cannot do %1. The job is printed without it.").arg(refused.join(u", ")));
@@ -238,15 +239,30 @@ void PrintDialog::print() {
   Q_EMIT chosen();
 }
 
+QMap<QString, QString> PrintDialog::jobOptions() const {
+  QMap<QString, QString> options = m_otherOptions;
+  options.insert(m_general->jobOptions());
+  // Whoever drew the document has left out the other pages.
+  if (m_options.documentLater) options.remove(QStringLiteral("page-ranges"));
+  return options;
+}
+
+// What is sent, over what the queue does by itself.
+void PrintDialog::updatePreview() {
+  QMap<QString, QString> options;
+  for (const char* name : {"Duplex", "ColorModel"})
+    if (const QString value = m_general->chosen(QLatin1String(name)); !value.isNull())
+      options.insert(QLatin1String(name), value);
+  options.insert(jobOptions());
+  m_preview->setJob(m_session.ppd() == nullptr ? SheetPaper{} : sheetPaperOf(*m_session.ppd()), options);
+}
+
 void PrintDialog::send() {
   if (m_session.queue() == nullptr) return;  // the user has gone in the meantime
   // The document's pages may have been counted since.
   if (!m_general->fault().isNull()) return m_sending.fail(m_general->fault());
-  PrintJob job{.title = jobName(), .files = m_document.files(), .options = m_otherOptions};
-  job.options.insert(m_general->jobOptions());
+  PrintJob job{.title = jobName(), .files = m_document.files(), .options = jobOptions()};
   job.options.insert(m_session.settings());
-  // Whoever drew the document has left out the other pages.
-  if (m_options.documentLater) job.options.remove(QStringLiteral("page-ranges"));
   m_sending.send(*m_session.queue(), job);
 }
 

@@ -96,6 +96,8 @@ class PrintDialog : public QDialog {
   void showPhase();
   void showMessage(const QString& message);
   void updateChoiceFault();
+  QMap<QString, QString> jobOptions() const;
+  void updatePreview();
   void updateControls();
   void updateSummary();
   void giveNames();

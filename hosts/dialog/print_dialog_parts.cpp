@@ -85,6 +85,7 @@ void PrintDialog::connectParts() {
     updateSummary();
   });
   connect(m_general, &GeneralPane::changed, this, &PrintDialog::updateChoiceFault);
+  connect(m_general, &GeneralPane::changed, this, &PrintDialog::updatePreview);
   connect(m_general, &GeneralPane::optionChosen, this, [this](const QString& option, const QString& choice) {
     if (m_session.panel() != nullptr) m_session.panel()->PPDOptionKeyValueDidChange(option, choice);
   });

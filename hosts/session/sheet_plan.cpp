@@ -6,6 +6,7 @@
 #include <numeric>
 #include <utility>
 
+#include "hosts/cups/ppd_choices.h"
 #include "hosts/session/sheet_settings.h"
 
 namespace kesto {
@@ -106,7 +107,8 @@ QList<ImagePlace> placesOf(const QSizeF& image, const SheetPaper& paper, const S
   const QSizeF space = turned(paper.size, turn);
   QList<ImagePlace> places;
   for (int i = 0; i < columns * rows; ++i) {
-    const QPointF offset(part.width() * (i / rows), part.height() * (i % rows));
+    const int column = i / rows;
+    const QPointF offset(part.width() * column, part.height() * (i - column * rows));
     const QRectF lying = turned(room, paper.size, quarters(-turn));
     const QRectF area(centred(part, lying.center()).topLeft() - offset, size);
     places.append(
@@ -282,6 +284,16 @@ QList<Sheet> coverOf(const QString& name, const SheetPaper& paper) {
 }
 
 }  // namespace
+
+SheetPaper sheetPaperOf(ppd_file_t& ppd) {
+  const std::optional<PpdPaper> paper = markedPaper(ppd);
+  if (!paper) return {};
+  // PPDs have points; these are as exact as they were.
+  const auto points = [](double millimetres) { return std::round(millimetres * 72 / 25.4 * 1000) / 1000; };
+  return {.size = {points(paper->width), points(paper->height)},
+          .margins = {points(paper->left), points(paper->top), points(paper->right), points(paper->bottom)},
+          .isLandscapeMinus90 = ppd.landscape < 0};
+}
 
 SheetPlan::SheetPlan(const QList<SheetDocument>& documents, const SheetPaper& paper,
                      const QMap<QString, QString>& options) {

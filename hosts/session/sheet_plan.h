@@ -8,6 +8,8 @@
 #include <QtCore/QString>
 #include <optional>
 
+#include "hosts/cups/ppd_file.h"
+
 namespace kesto {
 
 /// A file of a job.
@@ -25,6 +27,9 @@ struct SheetPaper {
   /// The PPD's LandscapeOrientation is Minus90: what lies across is turned the other way.
   bool isLandscapeMinus90 = false;
 };
+
+/// The paper that is marked in a PPD; of an unknown size, that of `SheetPaper`.
+SheetPaper sheetPaperOf(ppd_file_t& ppd);
 
 /// A page on a side. Areas are in points from the side's upper left corner.
 struct SheetCell {

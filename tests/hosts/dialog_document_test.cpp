@@ -7,6 +7,7 @@
 
 #include <QtGui/QImage>
 
+#include "hosts/cups/job_options.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/session/page_range.h"
 #include "tests/support/dialog_printer.h"
@@ -196,7 +197,57 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
   qputenv("PATH", path);
 }
 
-TEST_F(DialogPreview, AnImageIsAPageOfItsShape) {
+TEST_F(DialogPreview, SheetsAreShownAsTheyComeOut) {
+  const JobFile report{KESTO_TEST_DATA "/../../demo/quarterly-report.pdf"};  // of three pages
+  struct Case {
+    std::vector<JobFile> files;
+    const char* options;
+    const char* first;
+    const char* last;
+    const char* total;
+  };
+  const Case cases[] = {
+      {{report}, "", "Page 1 of 3", "Page 3 of 3", "Total: 3 sheets of paper"},
+      {{report, report}, "page-ranges=1-2", "Page 1 of 6", "Page 5 of 6", "Total: 4 sheets of paper"},
+      {{report},
+       "outputorder=reverse page-set=odd",
+       "Page 3 of 3",
+       "Page 1 of 3",
+       "Total: 2 sheets of paper"},
+      {{report}, "page-ranges=2 copies=1", "Page 2 of 3", "Page 2 of 3", "Total: 1 sheet of paper"},
+      {{report}, "number-up=2 ColorModel=Gray", "Sheet 1 of 2", "Sheet 2 of 2", "Total: 2 sheets of paper"},
+      {{report},
+       "sides=two-sided-long-edge copies=2",
+       "Sheet 1 of 2, front",
+       "Sheet 2 of 2, front",
+       "Total: 4 sheets of paper"},
+      {{report},
+       "number-up=2 sides=two-sided-long-edge job-sheets=standard",
+       "Sheet 1 of 2, front",
+       "Sheet 2 of 2, back",
+       "Total: 2 sheets of paper"},
+      {{report}, "page-ranges=7", "", "", "Total: 0 sheets of paper"},
+      {{{QFile::encodeName(m_folder.path(u"report.pdf"_s))}}, "", "Page 1 of 1", "Page 1 of 1", ""}};
+  const auto textOf = [this](const QString& name) { return m_preview.findChild<QLabel*>(name)->text(); };
+  const auto awaitSide = [this] {
+    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isSettled(); }, u"the side"_s));
+  };
+  auto* forward = widgetNamed<QToolButton>(m_preview, u"Next page"_s);
+  for (const auto& [files, options, first, last, total] : cases) {
+    SCOPED_TRACE(options);
+    m_preview.show(files);
+    m_preview.setJob({}, parseJobOptions(QLatin1String(options)));
+    awaitSide();
+    EXPECT_EQ(textOf(u"position"_s), QLatin1String(first));
+    EXPECT_EQ(textOf(u"paperTotal"_s), QLatin1String(total));
+    while (forward->isEnabled())
+      forward->click();
+    awaitSide();
+    EXPECT_EQ(textOf(u"position"_s), QLatin1String(last));
+  }
+}
+
+TEST_F(DialogPreview, AnImageLiesOnItsPaper) {
   for (const auto& [width, format] : {std::pair(40, QImage::Format_Indexed8),
                                       {5000, QImage::Format_Indexed8},
                                       {5000, QImage::Format_Mono}}) {
@@ -209,7 +260,12 @@ TEST_F(DialogPreview, AnImageIsAPageOfItsShape) {
     EXPECT_EQ(m_preview.findChild<QLabel*>()->text(), u"Page 1 of 1"_s);
     const QPoint middle = shown.rect().center();
     EXPECT_EQ(shown.pixelColor(middle), QColor(Qt::blue));
-    EXPECT_NE(shown.pixelColor(middle - QPoint(0, shown.width() * 3 / 8)), QColor(Qt::blue));
+    // A landscape sheet has 30 of its 42 parts in height, and the image 21 of them.
+    EXPECT_EQ(shown.pixelColor(middle - QPoint(0, shown.width() * 12 / 42)), QColor(Qt::white));
+    EXPECT_EQ(shown.pixelColor(middle - QPoint(0, shown.width() * 9 / 42)), QColor(Qt::blue));
+    m_preview.setJob({}, {{u"ColorModel"_s, u"Gray"_s}, {u"print-scaling"_s, u"fill"_s}});
+    EXPECT_EQ(sheet().pixelColor(middle).saturation(), 0);
+    m_preview.setJob({}, {});
   }
 }
 

@@ -210,6 +210,11 @@ TEST_F(DialogPrint, PagesThatTheDocumentHasNotAreNotPrinted) {
   EXPECT_EQ(text(u"message"_s), u""_s);
   type(u"pages"_s, u"2-12"_s);
   EXPECT_EQ(noteOf(*m_dialog), u"The document ends with page 3. Only 2-3 will be printed."_s);
+  EXPECT_EQ(text(u"paperTotal"_s), u"Total: 2 sheets of paper"_s);
+  EXPECT_TRUE(DialogUser(*m_dialog).choose(u"Duplex"_s, 1));
+  EXPECT_EQ(text(u"paperTotal"_s), u"Total: 1 sheet of paper"_s);
+  widget<QSpinBox>(u"copies"_s)->setValue(3);
+  EXPECT_EQ(text(u"paperTotal"_s), u"Total: 3 sheets of paper"_s);
   click(u"print"_s);
   await([this] { return m_dialog->job() > 0; }, u"the job"_s);
   EXPECT_EQ(attributeOfJob(m_options.server, 1, "page-ranges"), u"2-3"_s);

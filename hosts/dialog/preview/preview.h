@@ -1,29 +1,33 @@
-// The preview of a document's pages.
+// The preview of a job.
 #pragma once
 
 #include <QtCore/QTimer>
-#include <QtGui/QImage>
 #include <QtWidgets/QWidget>
+#include <optional>
 
 #include "hosts/dialog/preview/document_examiner.h"
-#include "hosts/dialog/preview/page_program.h"
+#include "hosts/dialog/preview/page_images.h"
+#include "hosts/session/sheet_plan.h"
 
 class QLabel;
 class QToolButton;
 
 namespace kesto {
 
-/// Shows one page of a PDF file or an image, and says so when there is none to show. Pages are drawn by
-/// programs of their own, one at a time, so that a hostile file harms nobody. What is found out about the
-/// document on the way is known here as well.
+class SheetView;
+
+/// Shows the sheets of paper that a job becomes, side by side, and says so when there is nothing to show.
+/// What is found out about the document on the way is known here as well.
 class Preview : public QWidget {
   Q_OBJECT
 
  public:
   explicit Preview(QWidget* parent);
 
-  /// Shows the first page of the first file; `text` in its place without files.
+  /// Shows the first side; `text` in its place without files.
   void show(const std::vector<JobFile>& files, const QString& text = {});
+  /// How the files are printed, by the options as `SheetPlan` takes them.
+  void setJob(const SheetPaper& paper, const QMap<QString, QString>& options);
   /// Whether what there is to show is shown.
   bool isSettled() const { return m_isSettled; }
   /// Whether all files have been looked at, for what the next two answer.
@@ -35,7 +39,7 @@ class Preview : public QWidget {
   QSize sizeHint() const override;
 
  Q_SIGNALS:
-  /// Another page or text is shown.
+  /// Another side or text is shown.
   void shown();
   /// All files have been looked at.
   void examined();
@@ -44,28 +48,36 @@ class Preview : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  class Sheet;
+  struct Place {
+    const Sheet* sheet;
+    const SheetSide* side;
+  };
 
-  void showPage(int page);
-  void drawPage();
-  void takePage(PageProgram::End end);
-  int pages() const;
-  void settle(const QImage& image, const QString& text);
+  void plan();
+  void goTo(int position);
+  void drawSide();
+  void showSide();
   void updateButtons();
+  QString textInPlace() const;
+  QString positionText() const;
+  QString totalText() const;
 
-  QString m_path;
-  QString m_reason;  // why there is no page, while it is not known whether the document says more
-  int m_page = 1;
-  bool m_isPdf = false;
-  bool m_isDrawn = false;
+  std::optional<SheetPlan> m_plan;
+  QList<Place> m_places;  // the sides in their order
+  int m_position = 0;
+  bool m_hasFiles = false;
   bool m_isSettled = true;
-  Sheet* m_sheet;
+  QString m_text;  // without files
+  SheetPaper m_paper;
+  QMap<QString, QString> m_options;
+  PageImages m_images;
+  SheetView* m_view;
   QToolButton* m_back;
   QToolButton* m_forward;
-  QLabel* m_position;
+  QLabel* m_positionLabel;
+  QLabel* m_total;
   QTimer m_redraw;
   DocumentExaminer m_examiner;
-  PageProgram m_program;
 };
 
 }  // namespace kesto

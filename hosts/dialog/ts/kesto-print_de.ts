@@ -503,6 +503,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageImages</name>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>Keine Vorschau: Das Zeichnen der Seite dauert zu lange.</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>Für diese Art von Dokument gibt es keine Vorschau.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>Keine Vorschau: Das Programm pdftoppm aus poppler-utils fehlt.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>Keine Vorschau: Das Dokument lässt sich nicht als PDF lesen.</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -574,10 +593,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>Vorschau der Seite</translation>
-    </message>
-    <message>
         <source>Previous page</source>
         <translation>Vorherige Seite</translation>
     </message>
@@ -586,24 +601,32 @@
         <translation>Nächste Seite</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
-        <translation>Für diese Art von Dokument gibt es keine Vorschau.</translation>
-    </message>
-    <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>Keine Vorschau: Das Programm pdftoppm aus poppler-utils fehlt.</translation>
-    </message>
-    <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>Keine Vorschau: Das Dokument lässt sich nicht als PDF lesen.</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
     </message>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>Keine Vorschau: Das Zeichnen der Seite dauert zu lange.</translation>
+        <source>No pages are chosen.</source>
+        <translation>Es sind keine Seiten ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Blatt %1 von %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, front</source>
+        <translation>Blatt %1 von %2, Vorderseite</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, back</source>
+        <translation>Blatt %1 von %2, Rückseite</translation>
+    </message>
+    <message>
+        <source>Total: 1 sheet of paper</source>
+        <translation>Gesamt: 1 Blatt Papier</translation>
+    </message>
+    <message>
+        <source>Total: %1 sheets of paper</source>
+        <translation>Gesamt: %1 Blatt Papier</translation>
     </message>
 </context>
 <context>
@@ -752,6 +775,13 @@
     <message>
         <source>There is no printer that takes jobs.</source>
         <translation>Es gibt keinen Drucker, der Aufträge annimmt.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SheetView</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Vorschau der Seite</translation>
     </message>
 </context>
 <context>

@@ -503,6 +503,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageImages</name>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>Sin vista previa: dibujar la página tarda demasiado.</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>No hay vista previa para este tipo de documento.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>Sin vista previa: falta el programa pdftoppm de poppler-utils.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>Sin vista previa: el documento no se puede leer como PDF.</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -574,10 +593,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>Vista previa de la página</translation>
-    </message>
-    <message>
         <source>Previous page</source>
         <translation>Página anterior</translation>
     </message>
@@ -586,24 +601,32 @@
         <translation>Página siguiente</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
-        <translation>No hay vista previa para este tipo de documento.</translation>
-    </message>
-    <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>Sin vista previa: falta el programa pdftoppm de poppler-utils.</translation>
-    </message>
-    <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>Sin vista previa: el documento no se puede leer como PDF.</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Página %1 de %2</translation>
     </message>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>Sin vista previa: dibujar la página tarda demasiado.</translation>
+        <source>No pages are chosen.</source>
+        <translation>No se ha elegido ninguna página.</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Hoja %1 de %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, front</source>
+        <translation>Hoja %1 de %2, anverso</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, back</source>
+        <translation>Hoja %1 de %2, reverso</translation>
+    </message>
+    <message>
+        <source>Total: 1 sheet of paper</source>
+        <translation>Total: 1 hoja de papel</translation>
+    </message>
+    <message>
+        <source>Total: %1 sheets of paper</source>
+        <translation>Total: %1 hojas de papel</translation>
     </message>
 </context>
 <context>
@@ -752,6 +775,13 @@
     <message>
         <source>There is no printer that takes jobs.</source>
         <translation>No hay ninguna impresora que acepte trabajos.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SheetView</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Vista previa de la página</translation>
     </message>
 </context>
 <context>

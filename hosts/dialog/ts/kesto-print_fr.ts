@@ -503,6 +503,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageImages</name>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>Aucun aperçu&#xa0;: le dessin de la page prend trop de temps.</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>Aucun aperçu pour ce type de document.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>Aucun aperçu&#xa0;: le programme pdftoppm de poppler-utils est absent.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>Aucun aperçu&#xa0;: le document n’est pas lisible comme PDF.</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -574,10 +593,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>Aperçu de la page</translation>
-    </message>
-    <message>
         <source>Previous page</source>
         <translation>Page précédente</translation>
     </message>
@@ -586,24 +601,32 @@
         <translation>Page suivante</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
-        <translation>Aucun aperçu pour ce type de document.</translation>
-    </message>
-    <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>Aucun aperçu&#xa0;: le programme pdftoppm de poppler-utils est absent.</translation>
-    </message>
-    <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>Aucun aperçu&#xa0;: le document n’est pas lisible comme PDF.</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
     </message>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>Aucun aperçu&#xa0;: le dessin de la page prend trop de temps.</translation>
+        <source>No pages are chosen.</source>
+        <translation>Aucune page n’est choisie.</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Feuille %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, front</source>
+        <translation>Feuille %1 sur %2, recto</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, back</source>
+        <translation>Feuille %1 sur %2, verso</translation>
+    </message>
+    <message>
+        <source>Total: 1 sheet of paper</source>
+        <translation>Total&#xa0;: 1 feuille de papier</translation>
+    </message>
+    <message>
+        <source>Total: %1 sheets of paper</source>
+        <translation>Total&#xa0;: %1 feuilles de papier</translation>
     </message>
 </context>
 <context>
@@ -752,6 +775,13 @@
     <message>
         <source>There is no printer that takes jobs.</source>
         <translation>Aucune imprimante n’accepte de travaux.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SheetView</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Aperçu de la page</translation>
     </message>
 </context>
 <context>

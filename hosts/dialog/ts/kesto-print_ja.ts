@@ -502,6 +502,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageImages</name>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>プレビューできません: ページの描画に時間がかかりすぎます。</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>この種類の文書はプレビューできません。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>プレビューできません: poppler-utils のプログラム pdftoppm がありません。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>プレビューできません: 文書を PDF として読み取れません。</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -573,10 +592,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>ページのプレビュー</translation>
-    </message>
-    <message>
         <source>Previous page</source>
         <translation>前のページ</translation>
     </message>
@@ -585,24 +600,32 @@
         <translation>次のページ</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
-        <translation>この種類の文書はプレビューできません。</translation>
-    </message>
-    <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>プレビューできません: poppler-utils のプログラム pdftoppm がありません。</translation>
-    </message>
-    <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>プレビューできません: 文書を PDF として読み取れません。</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>%1 / %2 ページ</translation>
     </message>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>プレビューできません: ページの描画に時間がかかりすぎます。</translation>
+        <source>No pages are chosen.</source>
+        <translation>ページが選択されていません。</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>%1/%2 枚目</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, front</source>
+        <translation>%1/%2 枚目、表</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, back</source>
+        <translation>%1/%2 枚目、裏</translation>
+    </message>
+    <message>
+        <source>Total: 1 sheet of paper</source>
+        <translation>合計: 用紙 1 枚</translation>
+    </message>
+    <message>
+        <source>Total: %1 sheets of paper</source>
+        <translation>合計: 用紙 %1 枚</translation>
     </message>
 </context>
 <context>
@@ -751,6 +774,13 @@
     <message>
         <source>There is no printer that takes jobs.</source>
         <translation>ジョブを受け付けるプリンターがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SheetView</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>ページのプレビュー</translation>
     </message>
 </context>
 <context>

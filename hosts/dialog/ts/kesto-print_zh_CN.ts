@@ -502,6 +502,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageImages</name>
+    <message>
+        <source>There is no preview: drawing the page takes too long.</source>
+        <translation>无法预览：绘制页面耗时过长。</translation>
+    </message>
+    <message>
+        <source>There is no preview of this kind of document.</source>
+        <translation>此类文档无法预览。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
+        <translation>无法预览：缺少 poppler-utils 中的程序 pdftoppm。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the document cannot be read as PDF.</source>
+        <translation>无法预览：文档无法作为 PDF 读取。</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -573,10 +592,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>页面预览</translation>
-    </message>
-    <message>
         <source>Previous page</source>
         <translation>上一页</translation>
     </message>
@@ -585,24 +600,32 @@
         <translation>下一页</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
-        <translation>此类文档无法预览。</translation>
-    </message>
-    <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>无法预览：缺少 poppler-utils 中的程序 pdftoppm。</translation>
-    </message>
-    <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>无法预览：文档无法作为 PDF 读取。</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>第 %1 页，共 %2 页</translation>
     </message>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>无法预览：绘制页面耗时过长。</translation>
+        <source>No pages are chosen.</source>
+        <translation>未选择任何页面。</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>第 %1 张，共 %2 张</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, front</source>
+        <translation>第 %1 张，共 %2 张，正面</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, back</source>
+        <translation>第 %1 张，共 %2 张，背面</translation>
+    </message>
+    <message>
+        <source>Total: 1 sheet of paper</source>
+        <translation>总计：1 张纸</translation>
+    </message>
+    <message>
+        <source>Total: %1 sheets of paper</source>
+        <translation>总计：%1 张纸</translation>
     </message>
 </context>
 <context>
@@ -751,6 +774,13 @@
     <message>
         <source>There is no printer that takes jobs.</source>
         <translation>没有可接受作业的打印机。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::SheetView</name>
+    <message>
+        <source>Preview of the page</source>
+        <translation>页面预览</translation>
     </message>
 </context>
 <context>
