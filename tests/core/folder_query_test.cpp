@@ -154,9 +154,9 @@ TEST(FolderPopup, ItemsFollowTheList) {
 // A folder that is found again has its action sent, which moves focus.
 TEST(FolderPopup, ARebuildKeepsTheChoice) {
   struct Row {
-    int chosen;
+    int chosen = 0;
     Text list;
-    int item;
+    int item = 0;
     Text focus;
   };
   for (const Row& row : {Row{0, "X", 0, "jobName"}, Row{1, "", 1, "jobName"},

@@ -88,10 +88,10 @@ class FieldTest : public testing::Test {
   enum Filter { NoFilter, Digits, Characters, LoginNames };
   enum Edit { Type, Paste, Backspace };
   struct EditCase {
-    Filter filter;
-    int limit;  // of the filter; 0 leaves it without one
+    Filter filter = NoFilter;
+    int limit = 0;  // of the filter; 0 leaves it without one
     Text before;
-    Edit edit;
+    Edit edit = Type;
     Text inserted;
     Text after;
   };
