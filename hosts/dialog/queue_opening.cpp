@@ -88,6 +88,7 @@ void QueueOpening::takeListFault(const QString& reason) {
 }
 
 void QueueOpening::takeOpenFault(const QString& reason) {
+  if (isOpen()) return;  // A queue that was handed over meanwhile stays.
   if (!m_suggested.isNull() && m_suggested == m_wanted) {
     m_suggested = QString();
     return want({});
