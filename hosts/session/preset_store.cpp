@@ -24,11 +24,11 @@ constexpr QLatin1String modelKey("model");
 constexpr QLatin1String settingsKey("settings");
 
 // What is bound to the moment of one job, and the plain text of numbers that are read from their sealed form.
-constexpr std::array ofOneJob{QLatin1String(job_keys::spoolTime), QLatin1String(job_keys::jobSuspendKey),
-                              QLatin1String(job_keys::folderPassword), QLatin1String(job_keys::userNumber),
-                              QLatin1String(job_keys::accountNumber)};
-constexpr std::array sealedCodes{QLatin1String(job_keys::jobSuspend2Key),
-                                 QLatin1String(job_keys::folderPassword2)};
+const std::array ofOneJob{QLatin1String(job_keys::spoolTime), QLatin1String(job_keys::jobSuspendKey),
+                          QLatin1String(job_keys::folderPassword), QLatin1String(job_keys::userNumber),
+                          QLatin1String(job_keys::accountNumber)};
+const std::array sealedCodes{QLatin1String(job_keys::jobSuspend2Key),
+                             QLatin1String(job_keys::folderPassword2)};
 
 // A stored name of more bytes is not read back.
 constexpr qsizetype longestFolderName = 127;
