@@ -2,37 +2,16 @@
 
 #include <cups/pwg.h>
 
+#include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <span>
 
 namespace kesto {
 namespace {
 
-constexpr std::array usual{"PageSize",         "InputSlot",  "MediaType",  "Duplex",    "ColorModel",
-                           "cupsPrintQuality", "OutputMode", "Resolution", "OutputBin", "StapleLocation"};
-
-// "Custom" needs a value from the user, for which a list has no field.
-bool isCustomChoice(ppd_file_t& ppd, const QString& option, const char* choice) {
-  return QByteArrayView(choice) == "Custom" && hasCustomChoice(ppd, option);
-}
-
-PpdOption optionOfPpd(ppd_file_t& ppd, const ppd_option_t& option) {
-  PpdOption made{
-      .keyword = QString::fromUtf8(option.keyword), .text = QString::fromUtf8(option.text), .choices = {}};
-  for (int i = 0; i < option.num_choices; ++i) {
-    const ppd_choice_t& choice = option.choices[i];
-    if (isCustomChoice(ppd, made.keyword, choice.choice)) continue;
-    if (choice.marked != 0) made.marked = static_cast<int>(made.choices.size());
-    made.choices.push_back({QString::fromUtf8(choice.choice), QString::fromUtf8(choice.text)});
-  }
-  return made;
-}
-
-// The greatest difference of paper lengths that count as equal, in points.
 const QString pageSize = QStringLiteral("PageSize");
+// The greatest difference of paper lengths that count as equal, in points.
 constexpr float sizeTolerance = 2;
 constexpr double pointsPerUnit = 72.0 / 2540;  // libcups's units are hundredths of a millimetre
 
@@ -40,50 +19,129 @@ bool isAbout(float one, double other) {
   return std::abs(one - other) <= sizeTolerance;
 }
 
+}  // namespace
+
+PpdChoices::PpdChoices(ppd_file_t* ppd) : m_ppd(ppd) {
+  if (m_ppd == nullptr) return;
+  ppdLocalize(m_ppd);
+  ppdMarkDefaults(m_ppd);
+}
+
+const ppd_option_t* PpdChoices::find(const QString& option) const {
+  const QByteArray keyword = option.toUtf8();
+  const ppd_option_t* found = m_ppd == nullptr ? nullptr : ppdFindOption(m_ppd, keyword.constData());
+  return found != nullptr && keyword == found->keyword ? found : nullptr;
+}
+
+bool PpdChoices::takesCustom(const QString& option) const {
+  return m_ppd != nullptr && ppdFindCustomOption(m_ppd, option.toUtf8().constData()) != nullptr;
+}
+
+QString PpdChoices::text(const QString& option) const {
+  const ppd_option_t* found = find(option);
+  return found == nullptr ? QString() : QString::fromUtf8(found->text);
+}
+
+std::vector<OptionChoice> PpdChoices::choices(const QString& option) const {
+  std::vector<OptionChoice> choices;
+  const ppd_option_t* found = find(option);
+  if (found == nullptr) return choices;
+  const bool isCustom = takesCustom(option);
+  for (const ppd_choice_t& each : std::span(found->choices, static_cast<std::size_t>(found->num_choices))) {
+    // It needs a value from the user, for which a list has no field.
+    if (isCustom && QByteArrayView(each.choice) == "Custom") continue;
+    choices.push_back({QString::fromUtf8(each.choice), QString::fromUtf8(each.text)});
+  }
+  return choices;
+}
+
+QString PpdChoices::defaultOf(const QString& option) const {
+  const ppd_option_t* found = find(option);
+  if (found == nullptr) return {};
+  const QString choice = QString::fromUtf8(found->defchoice);
+  return findChoice(option, [&](const QString& each) { return each == choice; });
+}
+
 // The PPD's paper of that size, as a choice of PageSize; preferably the one with the size's own name.
-QString choiceOfSize(ppd_file_t& ppd, const char* name, double width, double length) {
-  if (name != nullptr && ppdPageSize(&ppd, name) != nullptr &&
-      choicesOf(ppd, pageSize).contains(QLatin1String(name)))
-    return QLatin1String(name);
-  for (const ppd_size_t& size : std::span(ppd.sizes, static_cast<std::size_t>(ppd.num_sizes))) {
-    QString choice = QString::fromUtf8(size.name);
-    if (isAbout(size.width, width) && isAbout(size.length, length) &&
-        choicesOf(ppd, pageSize).contains(choice))
-      return choice;
+QString PpdChoices::choiceOfSize(const char* name, double width, double length) const {
+  const auto choiceNamed = [this](const char* size) {
+    return findChoice(pageSize, [&](const QString& each) { return each == QLatin1String(size); });
+  };
+  if (name != nullptr && ppdPageSize(m_ppd, name) != nullptr) {
+    if (QString choice = choiceNamed(name); !choice.isNull()) return choice;
+  }
+  for (const ppd_size_t& size : std::span(m_ppd->sizes, static_cast<std::size_t>(m_ppd->num_sizes))) {
+    if (!isAbout(size.width, width) || !isAbout(size.length, length)) continue;
+    if (QString choice = choiceNamed(size.name); !choice.isNull()) return choice;
   }
   return {};
 }
 
 // A custom size, if the printer accepts one.
-QString customPaper(ppd_file_t& ppd, double width, double length, const QString& choice) {
+QString PpdChoices::customPaper(double width, double length, const QString& choice) const {
   const auto fits = [&](int side, double value) {
-    return value > 0 && value >= ppd.custom_min[side] &&
-           (ppd.custom_max[side] <= 0 || value <= ppd.custom_max[side]);
+    return value > 0 && value >= m_ppd->custom_min[side] &&
+           (m_ppd->custom_max[side] <= 0 || value <= m_ppd->custom_max[side]);
   };
-  return ppd.variable_sizes != 0 && fits(0, width) && fits(1, length) ? choice : QString();
+  return m_ppd->variable_sizes != 0 && fits(0, width) && fits(1, length) ? choice : QString();
 }
 
-}  // namespace
-
-bool hasOption(ppd_file_t& ppd, const QString& option) {
-  const QByteArray keyword = option.toUtf8();
-  // libcups ignores letter case, but a job's "collate" is not the PPD's "Collate".
-  const ppd_option_t* found = ppdFindOption(&ppd, keyword.constData());
-  return found != nullptr && keyword == found->keyword;
-}
-
-bool hasCustomChoice(ppd_file_t& ppd, const QString& option) {
-  return ppdFindCustomOption(&ppd, option.toUtf8().constData()) != nullptr;
-}
-
-QStringList choicesOf(ppd_file_t& ppd, const QString& option) {
-  QStringList choices;
-  const ppd_option_t* found = ppdFindOption(&ppd, option.toUtf8().constData());
-  if (found == nullptr) return choices;
-  for (const ppd_choice_t& each : std::span(found->choices, static_cast<std::size_t>(found->num_choices))) {
-    if (!isCustomChoice(ppd, option, each.choice)) choices.append(QString::fromUtf8(each.choice));
+QString PpdChoices::paperChoice(const QString& name) const {
+  static const QMap<QString, double> points{
+      {QStringLiteral("pt"), 1},         {QStringLiteral("in"), 72},
+      {QStringLiteral("ft"), 864},       {QStringLiteral("mm"), 72 / 25.4},
+      {QStringLiteral("cm"), 72 / 2.54}, {QStringLiteral("m"), 72 / 0.0254}};
+  if (m_ppd == nullptr) return {};
+  const auto isName = [&](const QString& each) { return each.compare(name, Qt::CaseInsensitive) == 0; };
+  if (QString choice = findChoice(pageSize, isName); !choice.isNull()) return choice;
+  if (const std::optional<CustomSize> size = customSizeOf(name)) {
+    const double width = size->width.toDouble() * points.value(size->unit);
+    const double length = size->length.toDouble() * points.value(size->unit);
+    const QString choice = choiceOfSize(nullptr, width, length);
+    return choice.isNull() ? customPaper(width, length, name) : choice;
   }
-  return choices;
+  const QByteArray bytes = name.toUtf8();
+  const pwg_media_t* media = pwgMediaForPWG(bytes.constData());
+  if (media == nullptr) media = pwgMediaForLegacy(bytes.constData());
+  if (media == nullptr) media = pwgMediaForPPD(bytes.constData());
+  if (media == nullptr) return {};
+  const double width = media->width * pointsPerUnit;
+  const double length = media->length * pointsPerUnit;
+  const QString choice = choiceOfSize(media->ppd, width, length);
+  const QString custom = QStringLiteral("Custom.%1x%2").arg(qRound(width)).arg(qRound(length));
+  return choice.isNull() ? customPaper(width, length, custom) : choice;
+}
+
+void PpdChoices::mark(const QString& option, const QString& choice) {
+  if (m_ppd != nullptr) ppdMarkOption(m_ppd, option.toUtf8().constData(), choice.toUtf8().constData());
+}
+
+QStringList PpdChoices::conflicts() const {
+  QStringList conflicts;
+  if (m_ppd == nullptr || ppdConflicts(m_ppd) == 0) return conflicts;
+  for (ppd_option_t* each = ppdFirstOption(m_ppd); each != nullptr; each = ppdNextOption(m_ppd)) {
+    if (each->conflicted != 0) conflicts.append(QString::fromUtf8(each->text));
+  }
+  return conflicts;
+}
+
+std::optional<PpdPaper> PpdChoices::markedPaper() const {
+  const ppd_choice_t* choice = m_ppd == nullptr ? nullptr : ppdFindMarkedChoice(m_ppd, "PageSize");
+  const ppd_size_t* size = choice == nullptr ? nullptr : ppdPageSize(m_ppd, choice->choice);
+  if (size == nullptr) return {};
+  constexpr double perPoint = 25.4 / 72;
+  const pwg_media_t* media = pwgMediaForPPD(size->name);
+  return PpdPaper{
+      .keyword = QString::fromUtf8(size->name),
+      .text = QString::fromUtf8(choice->text),
+      .standardName = media == nullptr ? QString() : QString::fromUtf8(media->pwg).section(u'_', 0, -2),
+      .width = size->width * perPoint,
+      .height = size->length * perPoint,
+      .left = size->left * perPoint,
+      .right = (size->width - size->right) * perPoint,
+      .top = (size->length - size->top) * perPoint,
+      .bottom = size->bottom * perPoint,
+      .isLandscapeMinus90 = m_ppd->landscape < 0};
 }
 
 std::optional<CustomSize> customSizeOf(const QString& choice) {
@@ -98,80 +156,6 @@ std::optional<CustomSize> customSizeOf(const QString& choice) {
 
 QString customChoice(double width, double length) {
   return QStringLiteral("Custom.%1x%2mm").arg(width, 0, 'f', 2).arg(length, 0, 'f', 2);
-}
-
-QString paperChoice(ppd_file_t& ppd, const QString& name) {
-  static const QMap<QString, double> points{
-      {QStringLiteral("pt"), 1},         {QStringLiteral("in"), 72},
-      {QStringLiteral("ft"), 864},       {QStringLiteral("mm"), 72 / 25.4},
-      {QStringLiteral("cm"), 72 / 2.54}, {QStringLiteral("m"), 72 / 0.0254}};
-  const QStringList choices = choicesOf(ppd, pageSize);
-  const auto found = std::ranges::find_if(
-      choices, [&](const QString& each) { return each.compare(name, Qt::CaseInsensitive) == 0; });
-  if (found != choices.end()) return *found;
-  if (const std::optional<CustomSize> size = customSizeOf(name)) {
-    const double width = size->width.toDouble() * points.value(size->unit);
-    const double length = size->length.toDouble() * points.value(size->unit);
-    const QString choice = choiceOfSize(ppd, nullptr, width, length);
-    return choice.isNull() ? customPaper(ppd, width, length, name) : choice;
-  }
-  const QByteArray bytes = name.toUtf8();
-  const pwg_media_t* media = pwgMediaForPWG(bytes.constData());
-  if (media == nullptr) media = pwgMediaForLegacy(bytes.constData());
-  if (media == nullptr) media = pwgMediaForPPD(bytes.constData());
-  if (media == nullptr) return {};
-  const double width = media->width * pointsPerUnit;
-  const double length = media->length * pointsPerUnit;
-  const QString choice = choiceOfSize(ppd, media->ppd, width, length);
-  return choice.isNull() ? customPaper(ppd, width, length,
-                                       QStringLiteral("Custom.%1x%2").arg(qRound(width)).arg(qRound(length)))
-                         : choice;
-}
-
-void markDefaults(ppd_file_t& ppd, const QMap<QString, QString>& kept) {
-  ppdLocalize(&ppd);
-  ppdMarkDefaults(&ppd);
-  for (auto it = kept.begin(); it != kept.end(); ++it)
-    ppdMarkOption(&ppd, it.key().toUtf8().constData(), it.value().toUtf8().constData());
-}
-
-std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledByPanel) {
-  std::vector<PpdOption> options;
-  for (const char* keyword : usual) {
-    const ppd_option_t* option = ppdFindOption(&ppd, keyword);
-    if (option == nullptr || handledByPanel.contains(QLatin1String(keyword))) continue;
-    if (PpdOption made = optionOfPpd(ppd, *option); made.choices.size() > 1)
-      options.push_back(std::move(made));
-  }
-  return options;
-}
-
-QStringList markChoice(ppd_file_t& ppd, const QString& option, const QString& choice) {
-  ppdMarkOption(&ppd, option.toUtf8().constData(), choice.toUtf8().constData());
-  QStringList conflicts;
-  if (ppdConflicts(&ppd) == 0) return conflicts;
-  for (ppd_option_t* each = ppdFirstOption(&ppd); each != nullptr; each = ppdNextOption(&ppd)) {
-    if (each->conflicted != 0) conflicts.append(QString::fromUtf8(each->text));
-  }
-  return conflicts;
-}
-
-std::optional<PpdPaper> markedPaper(ppd_file_t& ppd) {
-  const ppd_choice_t* choice = ppdFindMarkedChoice(&ppd, "PageSize");
-  const ppd_size_t* size = choice == nullptr ? nullptr : ppdPageSize(&ppd, choice->choice);
-  if (size == nullptr) return {};
-  constexpr double perPoint = 25.4 / 72;
-  const pwg_media_t* media = pwgMediaForPPD(size->name);
-  return PpdPaper{
-      .keyword = QString::fromUtf8(size->name),
-      .text = QString::fromUtf8(choice->text),
-      .standardName = media == nullptr ? QString() : QString::fromUtf8(media->pwg).section(u'_', 0, -2),
-      .width = size->width * perPoint,
-      .height = size->length * perPoint,
-      .left = size->left * perPoint,
-      .right = (size->width - size->right) * perPoint,
-      .top = (size->length - size->top) * perPoint,
-      .bottom = size->bottom * perPoint};
 }
 
 }  // namespace kesto

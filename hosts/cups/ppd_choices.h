@@ -1,7 +1,6 @@
-// The options of a PPD that a print dialog itself offers.
+// What the queue of a PPD offers for the options of a job.
 #pragma once
 
-#include <QtCore/QMap>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <optional>
@@ -12,52 +11,10 @@
 namespace kesto {
 
 /// One value of an option.
-struct PpdChoice {
+struct OptionChoice {
   QString keyword;
-  QString text;  ///< As the PPD names it for people.
+  QString text;  ///< For people.
 };
-
-/// One option with more than one value.
-struct PpdOption {
-  QString keyword;
-  QString text;  ///< As the PPD names it for people.
-  std::vector<PpdChoice> choices;
-  int marked = -1;  ///< The value in force.
-};
-
-/// Marks the PPD's defaults, then the values that are kept for the queue, by the PPD's names.
-void markDefaults(ppd_file_t& ppd, const QMap<QString, QString>& kept);
-
-/// Whether the PPD has an option of this name.
-bool hasOption(ppd_file_t& ppd, const QString& option);
-/// Whether the option also accepts custom values, such as "Custom.100x200mm".
-bool hasCustomChoice(ppd_file_t& ppd, const QString& option);
-/// The values of an option by their keywords, without "Custom", which is not a value by itself.
-QStringList choicesOf(ppd_file_t& ppd, const QString& option);
-
-/// A custom paper size, from the choice "Custom.WIDTHxLENGTHUNIT".
-struct CustomSize {
-  QString width;
-  QString length;
-  QString unit;  ///< "pt", "in", "ft", "mm", "cm" or "m".
-};
-/// None when the choice is not such a size.
-std::optional<CustomSize> customSizeOf(const QString& choice);
-
-/// The choice for a size in millimetres.
-QString customChoice(double width, double length);
-
-/// The choice of PageSize for a paper: by a PPD's name, a standard name ("iso_a5_148x210mm"), an older one
-/// ("iso-a5") or a size ("Custom.10x15cm"). Null when the printer neither has such a paper nor accepts such a
-/// size.
-QString paperChoice(ppd_file_t& ppd, const QString& name);
-
-/// The usual options that the PPD has, in the order of a dialog, without those that a panel handles. "Custom"
-/// is not among the choices.
-std::vector<PpdOption> usualOptions(ppd_file_t& ppd, const QStringList& handledByPanel);
-
-/// Marks one value. Returns the texts of the options that then conflict; empty for none.
-QStringList markChoice(ppd_file_t& ppd, const QString& option, const QString& choice);
 
 /// A paper size of a PPD; lengths in millimetres.
 struct PpdPaper {
@@ -71,9 +28,64 @@ struct PpdPaper {
   double right = 0;
   double top = 0;
   double bottom = 0;
+  bool isLandscapeMinus90 = false;  ///< Whether the printer turns landscape pages clockwise.
 };
 
-/// The marked paper size; none when the PPD has none.
-std::optional<PpdPaper> markedPaper(ppd_file_t& ppd);
+/// The options of a PPD, by their keywords, and which of their values are marked in it. A queue without a PPD
+/// offers none.
+class PpdChoices {
+ public:
+  PpdChoices() = default;
+  /// Marks the PPD's defaults. It must outlive this; null for none.
+  explicit PpdChoices(ppd_file_t* ppd);
+
+  /// Letter case counts: "collate" of a job is not a PPD's "Collate".
+  bool has(const QString& option) const { return find(option) != nullptr; }
+  /// Whether the option also accepts custom values, such as "Custom.100x200mm".
+  bool takesCustom(const QString& option) const;
+  /// As the PPD names the option for people; null when there is none.
+  QString text(const QString& option) const;
+  /// The values of an option, without "Custom", which is not a value by itself.
+  std::vector<OptionChoice> choices(const QString& option) const;
+  /// The keyword of a value that `isIt` is true of, null for none.
+  template <class Predicate>
+  QString findChoice(const QString& option, Predicate isIt) const {
+    for (const OptionChoice& each : choices(option)) {
+      if (isIt(each.keyword)) return each.keyword;
+    }
+    return {};
+  }
+  /// The value that is in force when a job names none; null when the PPD names none.
+  QString defaultOf(const QString& option) const;
+  /// The choice of PageSize for a paper: by a PPD's name, a standard name ("iso_a5_148x210mm"), an older
+  /// one ("iso-a5") or a size ("Custom.10x15cm"). Null when the printer neither has such a paper nor
+  /// accepts such a size.
+  QString paperChoice(const QString& name) const;
+
+  void mark(const QString& option, const QString& choice);
+  /// The texts of the options whose marked values conflict.
+  QStringList conflicts() const;
+  /// The marked paper size; none when the PPD has none.
+  std::optional<PpdPaper> markedPaper() const;
+
+ private:
+  const ppd_option_t* find(const QString& option) const;
+  QString choiceOfSize(const char* name, double width, double length) const;
+  QString customPaper(double width, double length, const QString& choice) const;
+
+  ppd_file_t* m_ppd = nullptr;
+};
+
+/// A custom paper size, from the choice "Custom.WIDTHxLENGTHUNIT".
+struct CustomSize {
+  QString width;
+  QString length;
+  QString unit;  ///< "pt", "in", "ft", "mm", "cm" or "m".
+};
+/// None when the choice is not such a size.
+std::optional<CustomSize> customSizeOf(const QString& choice);
+
+/// The choice for a size in millimetres.
+QString customChoice(double width, double length);
 
 }  // namespace kesto

@@ -124,11 +124,11 @@ Outcome outcomeOfState(ipp_t* reply) {
 // because libcups's calls for a job first ask the printer for every attribute, value by value.
 class OpenJob {
  public:
-  OpenJob(PrintServer& server, const cups_dest_t& destination)
+  OpenJob(PrintServer& server, const QString& queue)
       : m_server(server),
-        m_queue(destination.name),
-        m_uri(uriOfQueue(QString::fromUtf8(m_queue))),
-        m_resource("/printers/" + m_queue) {}
+        m_queue(queue),
+        m_uri(uriOfQueue(queue)),
+        m_resource("/printers/" + queue.toUtf8()) {}
   ~OpenJob() {
     if (m_id == 0 || m_isKept) return;
     const Ipp request = requestTo(IPP_OP_CANCEL_JOB, m_uri, m_id);
@@ -197,33 +197,21 @@ class OpenJob {
     (void)m_server.order(request.get(), m_resource, &state);
     const QString why = QString::fromUtf8(
         ippGetString(ippFindAttribute(state.get(), "printer-state-message", IPP_TAG_TEXT), 0, nullptr));
-    const QString queue = QString::fromUtf8(m_queue);
-    if (why.isEmpty()) return Outcome::failed(Faults::tr("\"%1\" is not accepting jobs").arg(queue));
-    return Outcome::failed(Faults::tr("\"%1\" is not accepting jobs: %2").arg(queue, why));
+    if (why.isEmpty()) return Outcome::failed(Faults::tr("\"%1\" is not accepting jobs").arg(m_queue));
+    return Outcome::failed(Faults::tr("\"%1\" is not accepting jobs: %2").arg(m_queue, why));
   }
 
   PrintServer& m_server;
-  QByteArray m_queue;
+  QString m_queue;
   QByteArray m_uri;
   QByteArray m_resource;
   int m_id = 0;
   bool m_isKept = false;
 };
 
-// The job's own options, then those that the user keeps for the queue.
-void gatherOptions(const PrintJob& job, const cups_dest_t& destination, OptionArray* options) {
-  for (auto it = job.options.begin(); it != job.options.end(); ++it) {
-    options->add(it.key().toUtf8().constData(), it.value().toUtf8().constData());
-  }
-  for (int i = 0; i < destination.num_options; ++i) {
-    const cups_option_t& option = destination.options[i];
-    if (!options->has(option.name)) options->add(option.name, option.value);
-  }
-}
-
 }  // namespace
 
-Outcome sendJob(PrintServer& server, const cups_dest_t& destination, const PrintJob& job,
+Outcome sendJob(PrintServer& server, const QString& queue, const PrintJob& job,
                 const UploadProgress& progress, int* jobId) {
   *jobId = 0;
   std::vector<Document> documents;
@@ -232,12 +220,11 @@ Outcome sendJob(PrintServer& server, const cups_dest_t& destination, const Print
   // A server that is silent now could later create an empty job from the request, so it is asked a question
   // first.
   if (Outcome answered = server.probe(); !answered) return answered;
-  OptionArray options;
-  gatherOptions(job, destination, &options);
+  const OptionArray options(job.options);
   const char* wanted = options.value("document-format");
   const QByteArray format = job.isRaw ? CUPS_FORMAT_RAW : wanted == nullptr ? CUPS_FORMAT_AUTO : wanted;
 
-  OpenJob open(server, destination);
+  OpenJob open(server, queue);
   if (Outcome created = open.create(job.title, options); !created) return created;
   for (std::size_t i = 0; i < documents.size(); ++i) {
     Document& document = documents[i];

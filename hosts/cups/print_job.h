@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "hosts/cups/job_options.h"
+#include "hosts/cups/option_array.h"
 #include "hosts/cups/print_server.h"
 
 namespace kesto {
@@ -20,7 +20,7 @@ struct JobFile {
 struct PrintJob {
   QString title;
   std::vector<JobFile> files;      ///< Empty for standard input alone.
-  QMap<QString, QString> options;  ///< Job options by name, the print settings among them.
+  QMap<QString, QString> options;  ///< All by name: the job's, those kept for the queue, the print settings.
   bool isRaw = false;              ///< The printer receives the documents unchanged.
 };
 
@@ -32,7 +32,7 @@ using UploadProgress = std::function<bool(int document, qint64 sent, qint64 tota
 /// Opens every file, creates the job, sends its documents; `*jobId` is its number. On failure the outcome has
 /// the reason, and the job is removed from a server that still answers. The exception is an empty job that
 /// the server created but reported in a reply that libcups cannot read.
-Outcome sendJob(PrintServer& server, const cups_dest_t& destination, const PrintJob& job,
+Outcome sendJob(PrintServer& server, const QString& queue, const PrintJob& job,
                 const UploadProgress& progress, int* jobId);
 
 }  // namespace kesto

@@ -9,10 +9,4 @@ Outcome openQueue(PrintServer& server, const QString& name, Queue* queue) {
   return fetchPpdFile(server, queue->id, &queue->ppd);
 }
 
-Destination copyOf(cups_dest_t& destination) {
-  cups_dest_t* copy = nullptr;
-  cupsCopyDest(&destination, 0, &copy);
-  return Destination(copy);
-}
-
 }  // namespace kesto

@@ -18,7 +18,4 @@ struct Queue {
 /// Fetches the queue `name`, or the user's default queue when it is null, and its PPD.
 Outcome openQueue(PrintServer& server, const QString& name, Queue* queue);
 
-/// A copy of a queue's destination for another owner, such as a thread.
-Destination copyOf(cups_dest_t& destination);
-
 }  // namespace kesto

@@ -30,10 +30,10 @@ void QueueClient::checkPrivacy(const QString& name) {
   });
 }
 
-void QueueClient::send(const Queue& queue, const PrintJob& job) {
+void QueueClient::send(const QString& name, const PrintJob& job) {
   *m_isStopped = false;
   m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, isStopped = m_isStopped, server = m_server,
-                 destination = copyOf(*queue.destination), job] {
+                 name, job] {
     int id = 0;
     const auto progress = [&](int /*document*/, qint64 sent, qint64 total) {
       mailbox->answer([this, sent, total] { Q_EMIT progressed(sent, total); });
@@ -41,7 +41,7 @@ void QueueClient::send(const Queue& queue, const PrintJob& job) {
     };
     std::unique_ptr<PrintServer> connection;
     Outcome sent = server.connect(&connection, watchdog);
-    if (sent) sent = sendJob(*connection, *destination, job, progress, &id);
+    if (sent) sent = sendJob(*connection, name, job, progress, &id);
     mailbox->answer([this, id, sent] {
       if (sent) {
         Q_EMIT this->sent(id);

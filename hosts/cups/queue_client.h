@@ -24,8 +24,8 @@ class QueueClient : public QObject {
   /// Opens a queue, the user's default one when `name` is null. The result of an earlier call is no longer
   /// reported.
   void open(const QString& name);
-  /// Sends a job to a queue, as that is now.
-  void send(const Queue& queue, const PrintJob& job);
+  /// Sends a job to the queue `name`.
+  void send(const QString& name, const PrintJob& job);
   /// Finds out what other users see of a job on the queue `name`.
   void checkPrivacy(const QString& name);
   /// Stops the job that is being sent; it then fails.

@@ -64,8 +64,7 @@ QByteArray optionOf(ipp_attribute_t* attribute) {
     return isJobs && isOneValue(ippGetValueTag(attribute)) ? name.chopped(qsizetype{sizeof defaultSuffix} - 1)
                                                            : QByteArray();
   }
-  const auto isIt = [&](const char* each) { return name == each; };
-  return std::ranges::any_of(description, isIt) ? name : QByteArray();
+  return describesQueue(name) ? name : QByteArray();
 }
 
 // The longest line in such a file.
@@ -125,6 +124,10 @@ QueueName defaultQueueName() {
     });
   }
   return found;
+}
+
+bool describesQueue(const QByteArray& option) {
+  return std::ranges::any_of(description, [&](const char* each) { return option == each; });
 }
 
 void askForOptions(ipp_t* request) {

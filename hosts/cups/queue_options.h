@@ -20,6 +20,9 @@ struct QueueName {
 /// The default queue according to the environment (LPDEST, PRINTER) or else to those files.
 QueueName defaultQueueName();
 
+/// Whether an option of a queue describes the queue itself, and is not one of its jobs' options.
+bool describesQueue(const QByteArray& option);
+
 /// Adds the attributes to ask for to a request for a queue.
 void askForOptions(ipp_t* request);
 

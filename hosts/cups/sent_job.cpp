@@ -2,7 +2,7 @@
 
 #include <QtCore/QRegularExpression>
 
-#include "hosts/cups/job_options.h"
+#include "hosts/cups/option_array.h"
 
 namespace kesto {
 namespace {

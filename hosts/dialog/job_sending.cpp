@@ -50,7 +50,7 @@ void JobSending::examine() {
   Q_EMIT ready();
 }
 
-void JobSending::send(const Queue& queue, const PrintJob& job) {
+void JobSending::send(const QString& queue, const PrintJob& job) {
   setPhase(Phase::Sending);
   m_client.send(queue, job);
 }

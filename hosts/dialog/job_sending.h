@@ -35,7 +35,7 @@ class JobSending : public QObject {
   void takeDocument();
   void takeExamination();
   /// Sends the job, as the answer to `ready`.
-  void send(const Queue& queue, const PrintJob& job);
+  void send(const QString& queue, const PrintJob& job);
   /// The job does not go out.
   void fail(const QString& reason);
   /// Stops a job that is being sent; it then fails.

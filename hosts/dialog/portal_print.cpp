@@ -3,26 +3,36 @@
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 
-#include "hosts/cups/ppd_choices.h"
 #include "hosts/dialog/panes/general_pane.h"
 
 namespace kesto {
 namespace {
 
+const QString pagesKey = QStringLiteral("page-ranges");
+const QString pageSize = QStringLiteral("PageSize");
+const QString duplex = QStringLiteral("Duplex");
+
 struct DuplexChoice {
   PortalDuplex side = PortalDuplex::Simplex;
-  QLatin1String keyword;  // of the PPD's Duplex
+  QLatin1String sides;
 };
 
 constexpr std::array duplexChoices{
-    DuplexChoice{PortalDuplex::Simplex, QLatin1String("None")},
-    DuplexChoice{PortalDuplex::LongEdge, QLatin1String("DuplexNoTumble")},
-    DuplexChoice{PortalDuplex::ShortEdge, QLatin1String("DuplexTumble")},
+    DuplexChoice{PortalDuplex::Simplex, QLatin1String("one-sided")},
+    DuplexChoice{PortalDuplex::LongEdge, QLatin1String("two-sided-long-edge")},
+    DuplexChoice{PortalDuplex::ShortEdge, QLatin1String("two-sided-short-edge")},
 };
 
-// What the client leaves to the print system, and the dialog has no control for.
-QMap<QString, QString> jobOptionsOf(const PortalChoice& asked) {
+// What the client asks for of the job itself. Of what it leaves out, what the user keeps for the queue
+// counts.
+QMap<QString, QString> jobOptionsOf(const PortalChoice& asked, const QJsonObject& settings) {
   QMap<QString, QString> options;
+  if (settings.contains(u"n-copies")) options.insert(QStringLiteral("copies"), QString::number(asked.copies));
+  if (settings.contains(u"collate"))
+    options.insert(QStringLiteral("collate"), QLatin1String(asked.isCollated ? "true" : "false"));
+  if (asked.pages == PortalPages::Ranges) options.insert(pagesKey, asked.pageRanges);
+  if (asked.pages == PortalPages::Current || asked.pages == PortalPages::Selection)
+    options.insert(pagesKey, JobOptions::applicationsPages);
   if (asked.numberUp > 1) {
     options.insert(QStringLiteral("number-up"), QString::number(asked.numberUp));
     options.insert(QStringLiteral("number-up-layout"), asked.numberUpLayout);
@@ -73,38 +83,33 @@ void PortalPrint::open(const QJsonObject& message) {
   m_choice = choiceAskedFor(m_settings, m_pageSetup);
   m_options.documentLater = !message.value(u"document").toBool();
   m_options.title = message.value(u"title").toString();
-  m_options.jobOptions.insert(jobOptionsOf(m_choice));
-  // Of what the client leaves out, what the user keeps for the queue counts.
-  if (m_settings.contains(u"n-copies"))
-    m_options.jobOptions.insert(QStringLiteral("copies"), QString::number(m_choice.copies));
-  if (m_settings.contains(u"collate"))
-    m_options.jobOptions.insert(QStringLiteral("collate"),
-                                QLatin1String(m_choice.isCollated ? "true" : "false"));
+  m_options.jobOptions.insert(jobOptionsOf(m_choice, m_settings));
   if (m_options.queue.isNull() && !m_choice.printer.isEmpty()) m_options.queue = m_choice.printer;
   m_dialog = std::make_unique<PrintDialog>(m_options, m_document);
   connect(m_dialog.get(), &PrintDialog::settled, this, &PortalPrint::preset);
   connect(m_dialog.get(), &PrintDialog::chosen, this, &PortalPrint::takeChoice);
   connect(m_dialog.get(), &QDialog::finished, this, &PortalPrint::finish);
-  GeneralPane& general = m_dialog->general();
-  if (m_choice.pages == PortalPages::Ranges) general.setPages(m_choice.pageRanges);
-  if (m_choice.pages == PortalPages::Current) general.offerOwnPages(tr("Current page"));
-  if (m_choice.pages == PortalPages::Selection) general.offerOwnPages(tr("Selection"));
+  if (m_choice.pages == PortalPages::Current) m_dialog->general().offerApplicationsPages(tr("Current page"));
+  if (m_choice.pages == PortalPages::Selection) m_dialog->general().offerApplicationsPages(tr("Selection"));
   attachTo(message.value(u"parentWindow").toString());
   m_dialog->show();
 }
 
-// What the client asks for of the queue's own options, once these are known.
+// What the client asks for of the queue's own options is chosen once these are known; it passes over paper
+// that the printer does not have.
 void PortalPrint::preset() {
+  JobOptions& options = m_dialog->jobOptions();
   const PortalPaper& paper = m_choice.paper;
-  if (ppd_file_t* ppd = m_dialog->ppd()) {
-    QString choice = paperChoice(*ppd, paper.ppdName);
-    if (choice.isNull() && paper.width > 0)
-      choice = paperChoice(*ppd, customChoice(paper.width, paper.height));
-    if (!choice.isNull()) m_dialog->general().choose(QStringLiteral("PageSize"), choice);
+  for (const QString& name : {paper.ppdName, customChoice(paper.width, paper.height)}) {
+    const QString choice = options.choiceFor(pageSize, name);
+    if (choice.isNull()) continue;
+    options.choose(pageSize, choice);
+    break;
   }
   for (const DuplexChoice& each : duplexChoices) {
-    if (each.side == m_choice.duplex && each.side != PortalDuplex::Simplex)
-      m_dialog->general().choose(QStringLiteral("Duplex"), each.keyword);
+    const QString choice = options.choiceFor(duplex, each.sides);
+    if (each.side == m_choice.duplex && each.side != PortalDuplex::Simplex && !choice.isNull())
+      options.choose(duplex, choice);
   }
 }
 
@@ -125,15 +130,15 @@ void PortalPrint::attachTo(const QString& parentWindow) {
 void PortalPrint::takeChoice() {
   if (std::exchange(m_isChosen, true)) return;
   if (!m_options.documentLater) return takeDocument();
-  GeneralPane& general = m_dialog->general();
+  const JobOptions& options = m_dialog->jobOptions();
   m_choice.printer = m_dialog->queueName();
-  if (!general.hasOwnPages())
-    m_choice.pages = general.pages().isNull() ? PortalPages::All : PortalPages::Ranges;
-  m_choice.pageRanges = general.pages();
+  m_choice.pageRanges = options.pages();
+  if (options.value(pagesKey) != JobOptions::applicationsPages)
+    m_choice.pages = options.pages().isNull() ? PortalPages::All : PortalPages::Ranges;
   for (const DuplexChoice& each : duplexChoices) {
-    if (general.chosen(QStringLiteral("Duplex")) == each.keyword) m_choice.duplex = each.side;
+    if (standardValueOf(duplex, options.value(duplex)) == each.sides) m_choice.duplex = each.side;
   }
-  const auto paper = m_dialog->ppd() == nullptr ? std::nullopt : markedPaper(*m_dialog->ppd());
+  const std::optional<PpdPaper> paper = options.paper();
   if (paper) m_choice.paper = portalPaperOf(*paper);
   answer(QStringLiteral("chosen"), {{QStringLiteral("settings"), settingsToReturn(m_settings, m_choice)},
                                     {QStringLiteral("pageSetup"), pageSetupToReturn(m_pageSetup, m_choice)}});

@@ -14,7 +14,6 @@
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
-#include "hosts/session/kept_options.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -22,15 +21,11 @@ namespace {
 
 constexpr std::chrono::milliseconds farewell(2500);  // the last message stays that long
 
-// Of the options that the general pane has, those that belong to no queue.
-constexpr std::array ownOptions{"copies", "collate", "page-ranges"};
-
 }  // namespace
 
 PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
     : m_options(options),
       m_document(document),
-      m_given(options.jobOptions.keys()),
       m_preview(new Preview(this)),
       m_chooser(new QueueChooser(this)),
       m_watch(options.server),
@@ -40,7 +35,7 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
   m_alerts.setWindow(this);
   build();
   connectParts();
-  m_options.jobOptions = takeGeneral(options.jobOptions);
+  jobOptions().set(JobOptions::Source::Given, options.jobOptions);
   m_chooser->setCurrent(options.queue);
   showDocument();
   updateControls();
@@ -83,7 +78,6 @@ void PrintDialog::chooseQueue(const QString& name) {
 
 void PrintDialog::leaveQueue() {
   setWindowTitle(tr("Print"));
-  m_general->setPpd(nullptr, {});
   for (QWidget* pane : {static_cast<QWidget*>(m_panelPane), static_cast<QWidget*>(m_summary)}) {
     if (pane == nullptr) continue;
     m_panes->removeTab(m_panes->indexOf(pane));
@@ -92,6 +86,7 @@ void PrintDialog::leaveQueue() {
   m_panelPane = nullptr;
   m_summary = nullptr;
   m_session.release();
+  m_general->showQueue({});
   updateControls();
 }
 
@@ -101,51 +96,12 @@ QString PrintDialog::jobName() const {
   return m_options.title.isNull() || isLast ? m_document.name() : m_options.title;
 }
 
-// Has the pane choose the options that it has a control for; the others are left.
-QMap<QString, QString> PrintDialog::takeGeneral(const QMap<QString, QString>& options) {
-  QMap<QString, QString> others;
-  for (auto it = options.begin(); it != options.end(); ++it) {
-    if (!m_general->choose(it.key(), it.value())) others.insert(it.key(), it.value());
-  }
-  return others;
-}
-
-// What is kept for the queue of the options that the pane has on every queue is shown, and travels only as it
-// is shown.
-void PrintDialog::takeKeptOptions(cups_dest_t& destination) {
-  const QStringList chosen = m_given + m_general->jobOptions().keys();
-  for (const char* name : ownOptions) {
-    const QString kept = optionOf(destination, name);
-    if (!kept.isEmpty() && !chosen.contains(QLatin1String(name)))
-      m_general->choose(QLatin1String(name), kept);
-    destination.num_options = cupsRemoveOption(name, destination.num_options, &destination.options);
-  }
-}
-
-// Shows what is given for the job, over what is kept for the queue, and says what neither the dialog nor the
-// printer can take: that does not travel.
-QStringList PrintDialog::takeOptions() {
-  const JobChoices choices = JobOptionTable(m_session.ppd()).resolve(m_options.jobOptions, m_kept.options);
-  m_otherOptions = takeGeneral(choices.options);
-  QStringList refused = m_kept.refused + choices.refused;
-  for (const char* name : ownOptions) {
-    const QString value = m_otherOptions.take(QLatin1String(name));
-    if (!value.isNull()) refused.append(QLatin1String(name) + u'=' + value);
-  }
-  return refused;
-}
-
 void PrintDialog::openQueue(Queue& queue) {
-  m_kept = kesto::takeKeptOptions(queue);
   const Outcome opened = m_session.open(std::move(queue), {.jobName = jobName()});
   PrintDialogPanel* panel = m_session.panel();
-  m_general->setPpd(m_session.ppd(), panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys(),
-                    m_kept.options);
-  if (const Destination& destination = m_session.queue()->destination) takeKeptOptions(*destination);
-  const QStringList refused = takeOptions();
-  updatePreview();
+  m_general->showQueue(panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys());
   m_chooser->takeCurrent(m_opening.wanted());
-  if (!refused.isEmpty())
+  if (const QStringList& refused = jobOptions().refused(); !refused.isEmpty())
     showMessage(tr("This printer cannot do %1. The job is printed without it.").arg(refused.join(u", ")));
   if (!opened) showMessage(opened.reason());
 }
@@ -183,7 +139,12 @@ void PrintDialog::showPanel() {
 }
 
 void PrintDialog::updateSummary() {
-  if (m_summary != nullptr && m_session.panel() != nullptr) m_summary->show(summaryOf(*m_session.panel()));
+  if (m_summary == nullptr || m_session.panel() == nullptr) return;
+  auto lines = jobOptions().summary();
+  const QMap<QString, QString> ofPanel = summaryOf(*m_session.panel());
+  for (auto it = ofPanel.begin(); it != ofPanel.end(); ++it)
+    lines.append({it.key(), it.value()});
+  m_summary->show(lines);
 }
 
 void PrintDialog::showDocument() {
@@ -208,7 +169,7 @@ void PrintDialog::showDocument() {
 // Of several documents each has pages of its own, and of one that was drawn as chosen all pages are meant.
 void PrintDialog::takePageCount() {
   const bool isOne = m_document.files().size() == 1 && !m_options.documentLater;
-  m_general->setPageCount(isOne ? m_preview->pageCount() : 0);
+  jobOptions().setPageCount(isOne ? m_preview->pageCount() : 0);
 }
 
 void PrintDialog::chooseDocument() {
@@ -239,31 +200,24 @@ void PrintDialog::print() {
   Q_EMIT chosen();
 }
 
-QMap<QString, QString> PrintDialog::jobOptions() const {
-  QMap<QString, QString> options = m_otherOptions;
-  options.insert(m_general->jobOptions());
-  // Whoever drew the document has left out the other pages.
+// Whoever drew the document as it was chosen has left out the other pages.
+QMap<QString, QString> PrintDialog::ofDocument(QMap<QString, QString> options) const {
   if (m_options.documentLater) options.remove(QStringLiteral("page-ranges"));
   return options;
 }
 
-// What is sent, over what the queue does by itself.
 void PrintDialog::updatePreview() {
-  QMap<QString, QString> options;
-  for (const char* name : {"Duplex", "ColorModel"})
-    if (const QString value = m_general->chosen(QLatin1String(name)); !value.isNull())
-      options.insert(QLatin1String(name), value);
-  options.insert(jobOptions());
-  m_preview->setJob(m_session.ppd() == nullptr ? SheetPaper{} : sheetPaperOf(*m_session.ppd()), options);
+  m_preview->setJob(sheetPaperOf(jobOptions().paper()), ofDocument(jobOptions().inForce()));
 }
 
 void PrintDialog::send() {
   if (m_session.queue() == nullptr) return;  // the user has gone in the meantime
   // The document's pages may have been counted since.
   if (!m_general->fault().isNull()) return m_sending.fail(m_general->fault());
-  PrintJob job{.title = jobName(), .files = m_document.files(), .options = jobOptions()};
+  PrintJob job{
+      .title = jobName(), .files = m_document.files(), .options = ofDocument(jobOptions().travelling())};
   job.options.insert(m_session.settings());
-  m_sending.send(*m_session.queue(), job);
+  m_sending.send(m_session.queue()->id, job);
 }
 
 void PrintDialog::takeSent(int job) {

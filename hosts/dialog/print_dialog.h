@@ -9,7 +9,6 @@
 #include "hosts/dialog/options.h"
 #include "hosts/dialog/queue_opening.h"
 #include "hosts/dialog/widgets/dialog_alerts.h"
-#include "hosts/session/job_option_table.h"
 #include "hosts/session/panel_session.h"
 
 class QTabWidget;
@@ -49,9 +48,8 @@ class PrintDialog : public QDialog {
   QMap<QString, QString> jobSettings() const { return m_session.settings(); }
   QString queueName() const { return m_opening.wanted(); }
   /// What is chosen of copies, pages and the queue's options.
+  JobOptions& jobOptions() { return m_session.options(); }
   GeneralPane& general() { return *m_general; }
-  /// The PPD of the chosen queue, null without one.
-  ppd_file_t* ppd() const { return m_session.ppd(); }
 
   /// Goes over to a queue that is open.
   void takeQueue(Queue queue) { m_opening.take(std::move(queue)); }
@@ -81,9 +79,6 @@ class PrintDialog : public QDialog {
   void settleQueue();
   void showOpening();
   QString jobName() const;
-  QMap<QString, QString> takeGeneral(const QMap<QString, QString>& options);
-  void takeKeptOptions(cups_dest_t& destination);
-  QStringList takeOptions();
   void takePageCount();
   void showPanel();
   void leaveQueue();
@@ -96,7 +91,7 @@ class PrintDialog : public QDialog {
   void showPhase();
   void showMessage(const QString& message);
   void updateChoiceFault();
-  QMap<QString, QString> jobOptions() const;
+  QMap<QString, QString> ofDocument(QMap<QString, QString> options) const;
   void updatePreview();
   void updateControls();
   void updateSummary();
@@ -106,9 +101,6 @@ class PrintDialog : public QDialog {
   Document& m_document;
   DialogAlerts m_alerts;
   PanelSession m_session{m_alerts};
-  JobChoices m_kept;                      // for the open queue
-  QStringList m_given;                    // names of options that count more than those kept for the queue
-  QMap<QString, QString> m_otherOptions;  // of the job, beside what the panes have
   bool m_isStarted = false;
   QString m_choiceFault;  // the general pane's, while the message shows it
   Preview* m_preview;

@@ -68,7 +68,7 @@ QWidget* PrintDialog::makeHead() {
 
 QWidget* PrintDialog::makePanes() {
   m_panes = new QTabWidget(this);
-  m_general = new GeneralPane(m_panes);
+  m_general = new GeneralPane(jobOptions(), m_panes);
   setPlainText(*m_general, tr("General"));
   m_panes->addTab(m_general, tr("General"));
   return m_panes;
@@ -84,11 +84,15 @@ void PrintDialog::connectParts() {
     if (m_panelPane != nullptr) m_panelPane->alignChoices();
     updateSummary();
   });
-  connect(m_general, &GeneralPane::changed, this, &PrintDialog::updateChoiceFault);
-  connect(m_general, &GeneralPane::changed, this, &PrintDialog::updatePreview);
-  connect(m_general, &GeneralPane::optionChosen, this, [this](const QString& option, const QString& choice) {
-    if (m_session.panel() != nullptr) m_session.panel()->PPDOptionKeyValueDidChange(option, choice);
+  connect(&jobOptions(), &JobOptions::changed, this, [this] {
+    updateChoiceFault();
+    updateSummary();
+    updatePreview();
   });
+  connect(&jobOptions(), &JobOptions::choiceChanged, this,
+          [this](const QString& option, const QString& choice) {
+            if (m_session.panel() != nullptr) m_session.panel()->PPDOptionKeyValueDidChange(option, choice);
+          });
   connect(m_preview, &Preview::examined, this, [this] {
     takePageCount();
     m_sending.takeExamination();

@@ -5,7 +5,7 @@
 #include <iostream>
 
 #include "hosts/command/secret_input.h"
-#include "hosts/cups/job_options.h"
+#include "hosts/cups/option_array.h"
 #include "hosts/cups/queue.h"
 #include "hosts/lp/listings.h"
 #include "hosts/lp/submission.h"
@@ -139,8 +139,8 @@ Outcome Job::finish() {
   Preset preset;
   if (Outcome made = makePresetToSave(&preset); !made) return made;
   if (m_options.task == Task::Print) {
-    Outcome sent =
-        submit(*m_server, *m_session.queue()->destination, m_options, m_session.settings(), facts());
+    Outcome sent = submit(*m_server, m_session.queue()->id, m_options, m_session.options(),
+                          m_session.settings(), facts());
     if (!sent) return sent;
     Outcome kept = keep(preset);
     return kept ? kept : Outcome::failed(QStringLiteral("the job was sent, but: ") + kept.reason());
@@ -169,6 +169,7 @@ PanelStart startOf(const Options& options) {
 ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
   StandardErrorAlerts alerts(options.messages());
   PanelSession session(alerts);
+  session.options().set(JobOptions::Source::Given, options.jobOptions);
   if (Outcome opened = session.open(std::move(queue.queue), startOf(options)); !opened)
     return ended(options, opened);
   if (options.task == Task::ListFolders) {
@@ -189,8 +190,8 @@ ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
 }
 
 // A queue without the panel prints as usual, and so does a job that the panel's driver never sees.
-ExitCode runPlainJob(const Options& options, const JobQueue& queue, bool isRaw) {
-  if (isRaw && options.wantsPanel()) {
+ExitCode runPlainJob(const Options& options, const JobOptions& job, const JobQueue& queue) {
+  if (goesRaw(job) && options.wantsPanel()) {
     const QString fault = QStringLiteral("a raw job bypasses the driver, and Job Handling with it");
     return ended(options, Outcome::failed(fault), ExitUsage);
   }
@@ -200,7 +201,7 @@ ExitCode runPlainJob(const Options& options, const JobQueue& queue, bool isRaw) 
                      QStringLiteral("the printer \"%1\" does not offer Job Handling").arg(queue.queue.id)));
   }
   if (options.task == Task::DryRun) return ended(options, printPairs({}, "=", options.json));
-  return ended(options, submit(*queue.server, *queue.queue.destination, options, {}));
+  return ended(options, submit(*queue.server, queue.queue.id, options, job, {}));
 }
 
 ExitCode runPresets(const Options& options) {
@@ -249,8 +250,11 @@ ExitCode run(const Options& options) {
   JobQueue queue;
   if (Outcome found = findQueue(options, &queue); !found) return ended(options, found);
   const PpdFile& ppd = queue.queue.ppd;
-  const bool isRaw = options.task != Task::ListFolders && goesRaw(options, queue.queue.destination.get());
-  if (isRaw || !ppd || !offersJobHandling(*ppd)) return runPlainJob(options, queue, isRaw);
+  JobOptions job;
+  job.set(JobOptions::Source::Given, options.jobOptions);
+  job.openFor(queue.queue);
+  const bool isRaw = options.task != Task::ListFolders && goesRaw(job);
+  if (isRaw || !ppd || !offersJobHandling(*ppd)) return runPlainJob(options, job, queue);
   Entries entries = options.entries;
   if (Outcome read = readSecrets(options, &entries); !read) return ended(options, read);
   return runJob(options, std::move(entries), std::move(queue));

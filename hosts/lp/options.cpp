@@ -9,7 +9,7 @@
 #include "hosts/command/arguments.h"
 #include "hosts/command/secret_arguments.h"
 #include "hosts/command/server_options.h"
-#include "hosts/cups/job_options.h"
+#include "hosts/cups/option_array.h"
 #include "hosts/lp/help_text.h"
 
 namespace kesto {

@@ -8,7 +8,7 @@
 #include <iostream>
 
 #include "hosts/command/held_signals.h"
-#include "hosts/cups/job_options.h"
+#include "hosts/cups/option_array.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -38,9 +38,9 @@ class ProgressLine {
   bool m_isShown = false;
 };
 
-PrintJob jobOf(const Options& options, const QMap<QString, QString>& settings, bool isRaw) {
-  PrintJob job{.title = titleOf(options), .files = {}, .options = options.jobOptions};
-  job.isRaw = isRaw;
+PrintJob jobOf(const Options& options, const JobOptions& given, const QMap<QString, QString>& settings) {
+  PrintJob job{.title = titleOf(options), .files = {}, .options = given.asGiven()};
+  job.isRaw = goesRaw(given);
   for (const QByteArray& file : options.files)
     job.files.push_back({.path = file});
   if (options.mail) {
@@ -61,19 +61,14 @@ QString titleOf(const Options& options) {
   return first == "-" ? QStringLiteral("(stdin)") : shownFileName(first);
 }
 
-bool goesRaw(const Options& options, const cups_dest_t* destination) {
-  const OptionArray given(options.jobOptions);
-  const auto value = [&](const char* name) {
-    const char* ofJob = given.value(name);
-    const bool isKept = ofJob == nullptr && destination != nullptr;
-    return isKept ? cupsGetOption(name, destination->num_options, destination->options) : ofJob;
-  };
-  return value("raw") != nullptr || QByteArray(value("document-format")) == CUPS_FORMAT_RAW;
+bool goesRaw(const JobOptions& job) {
+  const OptionArray options(job.asGiven());
+  return options.has("raw") || QByteArray(options.value("document-format")) == CUPS_FORMAT_RAW;
 }
 
-Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
+Outcome submit(PrintServer& server, const QString& queue, const Options& options, const JobOptions& given,
                const QMap<QString, QString>& settings, QJsonObject facts) {
-  const PrintJob job = jobOf(options, settings, goesRaw(options, &destination));
+  const PrintJob job = jobOf(options, given, settings);
   int id = 0;
   {
     // Ctrl-C cancels a job that is not whole; a second one does not wait for that.
@@ -84,7 +79,7 @@ Outcome submit(PrintServer& server, const cups_dest_t& destination, const Option
       if (isWatched) line.show(document, sent, total);
       return !signals.hasCome();
     };
-    if (Outcome sent = sendJob(server, destination, job, progress, &id); !sent) return sent;
+    if (Outcome sent = sendJob(server, queue, job, progress, &id); !sent) return sent;
     signals.drop();
   }
   if (options.silent) return Outcome::done();
@@ -93,8 +88,8 @@ Outcome submit(PrintServer& server, const cups_dest_t& destination, const Option
     std::cout << QJsonDocument(facts).toJson(QJsonDocument::Compact).constData() << '\n';
   } else {
     const std::size_t files = std::max(std::size_t{1}, job.files.size());
-    std::cout << "request id is " << shownText(QString::fromUtf8(destination.name)).toStdString() << '-' << id
-              << " (" << files << " file(s))\n";
+    std::cout << "request id is " << shownText(queue).toStdString() << '-' << id << " (" << files
+              << " file(s))\n";
   }
   return Outcome::done();
 }

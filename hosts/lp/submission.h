@@ -5,20 +5,20 @@
 
 #include "hosts/cups/print_job.h"
 #include "hosts/lp/options.h"
+#include "hosts/session/job_options.h"
 
 namespace kesto {
 
 /// The job's own name: the one that was given, else that of its first file, else one for standard input.
 QString titleOf(const Options& options);
 
-/// Whether the job goes past the queue's driver: by an option of the job's, or one that is kept for the queue
-/// (null for none).
-bool goesRaw(const Options& options, const cups_dest_t* destination);
+/// Whether the job goes past the queue's driver, by an option that is given or kept for the queue.
+bool goesRaw(const JobOptions& job);
 
 /// Sends the job that the options describe with the panel's settings (none without a panel), tells of a long
 /// upload at a terminal, and prints the job's number, in JSON with `facts` beside it, unless it is to be
 /// silent.
-Outcome submit(PrintServer& server, const cups_dest_t& destination, const Options& options,
+Outcome submit(PrintServer& server, const QString& queue, const Options& options, const JobOptions& given,
                const QMap<QString, QString>& settings, QJsonObject facts = {});
 
 }  // namespace kesto

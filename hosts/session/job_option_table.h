@@ -1,38 +1,54 @@
-// The names and values by which the options of a job go.
+// The options of a job that the hosts know, one row each, and the names that their values go by.
 #pragma once
 
-#include <QtCore/QMap>
 #include <QtCore/QString>
-#include <QtCore/QStringList>
+#include <array>
+#include <span>
 
-#include "hosts/cups/ppd_file.h"
+#include "hosts/cups/ppd_choices.h"
 
 namespace kesto {
 
-/// Options as they come to a queue.
-struct JobChoices {
-  QMap<QString, QString> options;  ///< By the one name under which each travels.
-  QStringList refused;             ///< "name=value" as given, for what the queue's PPD has no choice for.
+/// What an option takes, and so what control it has.
+enum class OptionKind {
+  Choice,  ///< One of the values that the queue offers, by the PPD's keyword.
+  Number,  ///< From `leastNumber` to `mostNumber`.
+  Switch,  ///< "true" or "false".
+  Pages,   ///< Numbers and ranges as the user writes them; null for all pages.
+  Text,    ///< Whatever was given; it has no control.
 };
 
-/// One option has several names: those of the print system's standard, such as "media" and "sides", and those
-/// of a PPD, such as "PageSize" and "Duplex". This is what they have to do with each other on one queue.
-class JobOptionTable {
- public:
-  /// The PPD, null for a queue without one, must outlive the table.
-  explicit JobOptionTable(ppd_file_t* ppd) : m_ppd(ppd) {}
+inline constexpr int leastNumber = 1;
+inline constexpr int mostNumber = 9999;
 
-  /// Each choice once, by the PPD's names and values where the PPD has the option; else as it was given. Of
-  /// several names of one option the PPD's counts over the standard's, as in the print system, and what is
-  /// kept for the queue only where nothing is given. A "media" of several parts and a "media-col" are paper,
-  /// source and type. Options that neither the table nor the PPD knows stay.
-  JobChoices resolve(const QMap<QString, QString>& given, const QMap<QString, QString>& kept = {}) const;
+/// Where a dialog shows it.
+enum class OptionGroup { General, Layout };
 
-  /// Whether the table or the PPD knows an option by this name.
-  bool has(const QString& name) const;
-
- private:
-  ppd_file_t* m_ppd;
+/// One option. It is the queue's own where the PPD has an option of the key, else one of the job's alone.
+struct OptionRow {
+  const char* key;             ///< The name under which it is kept and travels.
+  const char* text = nullptr;  ///< For people, to be translated as of "JobOptions"; null for the PPD's.
+  std::array<const char*, 3> names{};  ///< Others that it goes by; of several given, the first counts.
+  OptionKind kind = OptionKind::Choice;
+  OptionGroup group = OptionGroup::General;
+  const char* initial = nullptr;  ///< What it is when nobody says; null when that is the queue's to know.
+  const char* needs = nullptr;    ///< The option that must not be at its initial value; it travels with that.
 };
+
+/// In the order in which they are shown.
+std::span<const OptionRow> optionTable();
+
+/// The row of a name; where two share it, the one whose option the queue has. Null for none.
+const OptionRow* rowOf(const QString& name, const PpdChoices& choices);
+/// Where a name stands in a row: 0 for the key, -1 for nowhere.
+int rankIn(const OptionRow& row, const QString& name);
+
+/// What the queue calls a value of one of its options: by the PPD's keyword or the standard's name, or a
+/// value of the user's own where the option takes such. Null when it has no such value.
+QString choiceFor(const PpdChoices& choices, const QString& option, const QString& value);
+/// What the standard calls a PPD's choice; null when it has no name for it.
+QString standardValueOf(const QString& option, const QString& choice);
+/// Our own text for a PPD's choice, to be translated as of "JobOptions"; null when the PPD's serves.
+const char* textOfChoice(const QString& option, const QString& choice);
 
 }  // namespace kesto

@@ -17,19 +17,25 @@ Outcome PanelSession::loadPlatform() {
 Outcome PanelSession::open(Queue queue, const PanelStart& start) {
   release();
   m_queue = std::move(queue);
-  return ppd() != nullptr && offersJobHandling(*ppd()) ? openPanel(start) : Outcome::done();
+  m_options.openFor(*m_queue);
+  return m_queue->ppd && offersJobHandling(*m_queue->ppd) ? openPanel(start) : Outcome::done();
 }
 
 Outcome PanelSession::openPanel(const PanelStart& start) {
   if (Outcome loaded = loadPlatform(); !loaded) return loaded;
   if (start.keepsAside) m_platform->close();
   m_host = std::make_unique<PanelHost>(*m_platform);
-  m_host->ppd = ppd();
+  m_host->ppd = m_queue->ppd.get();
   m_host->session.currentPrinter = Printer{.id = m_queue->id, .deviceUri = m_queue->deviceUri};
   m_host->settings.emplace().setJobName(start.jobName);
   if (Outcome opened = m_host->openShownPanel(*m_plugIn); !opened) return opened;
   m_presets.emplace(m_platform->userDefaults(), m_queue->id);
-  if (start.preset) return loadPreset(*start.preset);
+  if (start.preset) {
+    Preset preset;
+    Outcome restored = restorePreset(*start.preset, &preset);
+    m_options.set(JobOptions::Source::Preset, preset.options.value_or(QMap<QString, QString>()));
+    return restored;
+  }
   restorePanel(*m_host, {});
   return Outcome::done();
 }
@@ -39,6 +45,7 @@ QString PanelSession::model() const {
 }
 
 void PanelSession::release() {
+  m_options.close();
   m_presets.reset();
   m_host.reset();
   if (m_platform) m_platform->leaveQueue();
@@ -78,16 +85,25 @@ Outcome PanelSession::outcomeOfFetch() {
   return kept ? kept : Outcome::failed(Faults::tr("cannot remember the folders: %1").arg(kept.reason()));
 }
 
+Outcome PanelSession::restorePreset(const QString& name, Preset* preset) {
+  if (Outcome loaded = m_presets->load(name, model(), preset); !loaded) return loaded;
+  restorePanel(*m_host, *preset);
+  return Outcome::done();
+}
+
 Outcome PanelSession::loadPreset(const QString& name) {
   Preset preset;
-  if (Outcome loaded = m_presets->load(name, model(), &preset); !loaded) return loaded;
-  restorePanel(*m_host, preset);
+  if (Outcome restored = restorePreset(name, &preset); !restored) return restored;
+  if (!preset.options) return Outcome::done();
+  m_options.clear(JobOptions::Source::Chosen);
+  m_options.set(JobOptions::Source::Chosen, *preset.options);
   return Outcome::done();
 }
 
 Outcome PanelSession::makePreset(const QString& name, bool withCodes, Preset* preset) const {
   if (Outcome fits = m_presets->check(name); !fits) return fits;
   preset->model = model();
+  preset->options = m_options.ofPreset();
   return kesto::makePreset(*m_host->settings, *view(), withCodes, preset);
 }
 

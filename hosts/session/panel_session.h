@@ -6,6 +6,7 @@
 
 #include "hosts/cups/queue.h"
 #include "hosts/session/gated_platform.h"
+#include "hosts/session/job_options.h"
 #include "hosts/session/panel_entries.h"
 #include "hosts/session/panel_host.h"
 #include "hosts/session/preset_store.h"
@@ -25,16 +26,18 @@ class PanelSession {
   /// `alerts` must outlive the session.
   explicit PanelSession(AlertPresenter& alerts) : m_alerts(alerts) {}
 
-  /// Goes over to a queue, whose panel is made, restored and ready to be shown. When there is none to be had
-  /// the queue is open without it, and the outcome says why. It also fails on a preset that cannot be loaded.
+  /// Goes over to a queue: the job's options are open for it, and its panel is made, restored and ready to be
+  /// shown. When there is none to be had the queue is open without it, and the outcome says why. It also
+  /// fails on a preset that cannot be loaded.
   Outcome open(Queue queue, const PanelStart& start);
   /// Lets go of the panel and the queue. Ends what the panel is waiting for.
   void release();
 
   /// Null while there is no queue.
   const Queue* queue() const { return m_queue ? &*m_queue : nullptr; }
-  /// Null for a queue without one, and while there is no queue.
-  ppd_file_t* ppd() const { return m_queue ? m_queue->ppd.get() : nullptr; }
+  /// The job's options on the open queue.
+  JobOptions& options() { return m_options; }
+  const JobOptions& options() const { return m_options; }
   /// Null for a queue that offers none.
   PrintDialogPanel* panel() const { return m_host ? m_host->panel() : nullptr; }
   /// The panel's controls, null without a panel.
@@ -58,7 +61,8 @@ class PanelSession {
 
   /// The presets of the queue; null without a panel.
   PresetStore* presets() { return m_presets ? &*m_presets : nullptr; }
-  /// Restores the panel with a preset.
+  /// Restores the panel with a preset, and the options as if the user chose them; a preset of before options
+  /// were kept leaves these.
   Outcome loadPreset(const QString& name);
   /// Makes a preset of a confirmed job. Fails when it could not be kept under that name.
   Outcome makePreset(const QString& name, bool withCodes, Preset* preset) const;
@@ -70,6 +74,7 @@ class PanelSession {
  private:
   Outcome loadPlatform();
   Outcome openPanel(const PanelStart& start);
+  Outcome restorePreset(const QString& name, Preset* preset);
   QString model() const;
 
   AlertPresenter& m_alerts;
@@ -79,6 +84,7 @@ class PanelSession {
   std::optional<Queue> m_queue;
   std::unique_ptr<PanelHost> m_host;
   std::optional<PresetStore> m_presets;
+  JobOptions m_options;
 };
 
 }  // namespace kesto

@@ -22,6 +22,7 @@ const QLatin1String prefix(printSettingsPrefix);
 constexpr QLatin1String presetsKey("Presets");
 constexpr QLatin1String modelKey("model");
 constexpr QLatin1String settingsKey("settings");
+constexpr QLatin1String optionsKey("options");
 
 // What is bound to the moment of one job, and the plain text of numbers that are read from their sealed form.
 const std::array ofOneJob{QLatin1String(job_keys::spoolTime), QLatin1String(job_keys::jobSuspendKey),
@@ -57,17 +58,33 @@ Outcome addFolder(const PanelView& view, QMap<QString, QString>* settings) {
   return Outcome::done();
 }
 
+// None when it is no object of texts.
+std::optional<QMap<QString, QString>> textsOf(const QJsonValue& value) {
+  if (!value.isObject()) return {};
+  QMap<QString, QString> texts;
+  const QJsonObject values = value.toObject();
+  for (auto it = values.begin(); it != values.end(); ++it) {
+    if (!it.value().isString()) return {};
+    texts.insert(it.key(), it.value().toString());
+  }
+  return texts;
+}
+
+QJsonObject objectOf(const QMap<QString, QString>& texts) {
+  QJsonObject object;
+  for (auto it = texts.begin(); it != texts.end(); ++it)
+    object.insert(it.key(), it.value());
+  return object;
+}
+
 std::optional<Preset> presetOf(const QJsonValue& value) {
   const QJsonValue model = value[modelKey];
-  const QJsonValue settings = value[settingsKey];
-  if (!model.isString() || !settings.isObject()) return {};
-  Preset preset{.model = model.toString(), .settings = {}};
-  const QJsonObject values = settings.toObject();
-  for (auto it = values.begin(); it != values.end(); ++it) {
-    if (!it.value().isString() || !it.key().startsWith(prefix)) return {};
-    preset.settings.insert(it.key(), it.value().toString());
-  }
-  return preset;
+  const auto settings = textsOf(value[settingsKey]);
+  const auto options = textsOf(value[optionsKey]);
+  if (!model.isString() || !settings || (!options && !value[optionsKey].isUndefined())) return {};
+  const QStringList keys = settings->keys();
+  if (std::ranges::any_of(keys, [](const QString& key) { return !key.startsWith(prefix); })) return {};
+  return Preset{.model = model.toString(), .settings = *settings, .options = options};
 }
 
 Outcome noSuchPreset(const QString& name, const QJsonObject& presets) {
@@ -175,12 +192,11 @@ Outcome PresetStore::check(const QString& name) const {
 }
 
 Outcome PresetStore::save(const QString& name, const Preset& preset) {
-  QJsonObject settings;
-  for (auto it = preset.settings.begin(); it != preset.settings.end(); ++it)
-    settings.insert(it.key(), it.value());
+  QJsonObject kept{{modelKey, preset.model}, {settingsKey, objectOf(preset.settings)}};
+  if (preset.options) kept.insert(optionsKey, objectOf(*preset.options));
   return change([&](QJsonObject* presets) {
     if (Outcome free = mayReplace(name, *presets); !free) return free;
-    presets->insert(name, QJsonObject{{modelKey, preset.model}, {settingsKey, settings}});
+    presets->insert(name, kept);
     return Outcome::done();
   });
 }

@@ -1,10 +1,11 @@
-// Presets: print settings that the user keeps under a name, per queue.
+// Presets: options and print settings that the user keeps under a name, per queue.
 #pragma once
 
 #include <QtCore/QJsonObject>
 #include <QtCore/QMap>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <optional>
 
 #include "platform/outcome.h"
 #include "platform/print_settings.h"
@@ -15,10 +16,11 @@ namespace kesto {
 class PanelHost;
 class PanelView;
 
-/// The settings of one preset, and the printer model that they are for.
+/// What one preset holds, and the printer model that it is for.
 struct Preset {
   QString model;
-  QMap<QString, QString> settings;  ///< Whole keys.
+  QMap<QString, QString> settings;                  ///< The panel's, by whole keys.
+  std::optional<QMap<QString, QString>> options{};  ///< The job's; none in presets of before they were kept.
 };
 
 /// Makes a preset of a job's print settings and of the panel that wrote them. What belongs to this job alone
@@ -29,7 +31,8 @@ Outcome makePreset(const PrintSettings& settings, const PanelView& view, bool wi
 void restorePanel(PanelHost& host, const Preset& preset);
 
 /// The presets of one queue, in the domain "kesto.presets." + queue: under "Presets", by name, an object with
-/// the texts "model" and "settings" (an object of texts). What else the domain holds is kept.
+/// the texts "model" and "settings" and "options" (objects of texts, the latter not always there). What else
+/// the domain holds is kept.
 class PresetStore {
  public:
   /// `defaults` must outlive the store.

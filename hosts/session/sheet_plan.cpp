@@ -6,7 +6,6 @@
 #include <numeric>
 #include <utility>
 
-#include "hosts/cups/ppd_choices.h"
 #include "hosts/session/sheet_settings.h"
 
 namespace kesto {
@@ -285,14 +284,13 @@ QList<Sheet> coverOf(const QString& name, const SheetPaper& paper) {
 
 }  // namespace
 
-SheetPaper sheetPaperOf(ppd_file_t& ppd) {
-  const std::optional<PpdPaper> paper = markedPaper(ppd);
+SheetPaper sheetPaperOf(const std::optional<PpdPaper>& paper) {
   if (!paper) return {};
   // PPDs have points; these are as exact as they were.
   const auto points = [](double millimetres) { return std::round(millimetres * 72 / 25.4 * 1000) / 1000; };
   return {.size = {points(paper->width), points(paper->height)},
           .margins = {points(paper->left), points(paper->top), points(paper->right), points(paper->bottom)},
-          .isLandscapeMinus90 = ppd.landscape < 0};
+          .isLandscapeMinus90 = paper->isLandscapeMinus90};
 }
 
 SheetPlan::SheetPlan(const QList<SheetDocument>& documents, const SheetPaper& paper,

@@ -8,7 +8,7 @@
 #include <QtCore/QString>
 #include <optional>
 
-#include "hosts/cups/ppd_file.h"
+#include "hosts/cups/ppd_choices.h"
 
 namespace kesto {
 
@@ -28,8 +28,8 @@ struct SheetPaper {
   bool isLandscapeMinus90 = false;
 };
 
-/// The paper that is marked in a PPD; of an unknown size, that of `SheetPaper`.
-SheetPaper sheetPaperOf(ppd_file_t& ppd);
+/// The paper of a PPD; without one, that of `SheetPaper`.
+SheetPaper sheetPaperOf(const std::optional<PpdPaper>& paper);
 
 /// A page on a side. Areas are in points from the side's upper left corner.
 struct SheetCell {

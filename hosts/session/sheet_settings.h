@@ -4,7 +4,7 @@
 #include <QtCore/QList>
 #include <utility>
 
-#include "hosts/cups/job_options.h"
+#include "hosts/cups/option_array.h"
 
 namespace kesto {
 

@@ -7,7 +7,7 @@
 
 #include <QtGui/QImage>
 
-#include "hosts/cups/job_options.h"
+#include "hosts/cups/option_array.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/session/page_range.h"
 #include "tests/support/dialog_printer.h"

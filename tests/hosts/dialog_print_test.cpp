@@ -48,7 +48,7 @@ TEST_F(DialogPrint, AWholeJobIsDoneThroughAssistiveTechnologyAlone) {
   act(u"userNumberButton"_s, toggle);
   accessible(u"jobNameEditText"_s)->setText(QAccessible::Value, u"Plan"_s);
   accessible(u"copies"_s)->valueInterface()->setCurrentValue(2);
-  EXPECT_EQ(m_dialog->general().jobOptions().value(u"copies"_s), u"2"_s);
+  EXPECT_EQ(m_dialog->jobOptions().value(u"copies"_s), u"2"_s);
   act(u"print"_s, QAccessibleActionInterface::pressAction());
   awaitJob(1);
   EXPECT_EQ(text(u"message"_s), u"Job 1 sent to Office_MFP"_s);
@@ -290,9 +290,14 @@ TEST_F(DialogPrint, PresetsComeBackAndGo) {
     entry(u"Save"_s)->trigger();
   };
   use("retentionCheckBox holdAfterRadioButton");
+  JobOptions& options = m_dialog->jobOptions();
+  options.choose(u"Duplex"_s, u"DuplexTumble"_s);
   save();
   click(u"retentionCheckBox"_s);
+  options.choose(u"Duplex"_s, u"None"_s);
+  options.choose(u"copies"_s, u"3"_s);
   entry(u"Held && fast"_s)->trigger();
+  EXPECT_EQ(options.value(u"Duplex"_s) + options.value(u"copies"_s), u"DuplexTumble1"_s);
   EXPECT_TRUE(widget<QAbstractButton>(u"retentionCheckBox"_s)->isChecked());
   EXPECT_TRUE(widget<QAbstractButton>(u"holdAfterRadioButton"_s)->isChecked());
   entry(u"Held"_s, true)->trigger();

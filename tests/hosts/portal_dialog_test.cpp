@@ -82,7 +82,7 @@ TEST_F(PortalDialog, EndsWithItsServiceAndItsUser) {
   for (const QString& end : {u"close"_s, u"service"_s, u"user"_s, u"user after a failure"_s}) {
     SCOPED_TRACE(end.toStdString());
     open(true, settings);
-    EXPECT_EQ(window()->general().jobOptions(),
+    EXPECT_EQ(window()->jobOptions().travelling(),
               (QMap<QString, QString>{{u"copies"_s, u"2"_s}, {u"collate"_s, u"false"_s}}));
     if (end == u"user after a failure") {
       print(u"empty"_s);

@@ -315,11 +315,8 @@ Outcome askAt(int operation, PrintServer& server) {
   if (operation == IPP_OP_CUPS_GET_PRINTERS) return server.listQueues(&queues);
   if (operation == IPP_OP_GET_PRINTER_ATTRIBUTES) return server.findQueue(u"q"_s, &queue);
   if (operation == HostileServer::atGet) return fetchPpdFile(server, u"q"_s, &ppd);
-  cups_dest_t destination{};
-  std::string name = "q";
-  destination.name = name.data();
   return sendJob(
-      server, destination, {.title = u"t"_s, .files = {{.path = "/dev/zero"}}, .options = {}},
+      server, u"q"_s, {.title = u"t"_s, .files = {{.path = "/dev/zero"}}, .options = {}},
       [](int, qint64, qint64) { return true; }, &job);
 }
 

@@ -7,7 +7,7 @@
 #include <QtCore/QTemporaryDir>
 #include <algorithm>
 
-#include "hosts/cups/job_options.h"
+#include "hosts/cups/option_array.h"
 #include "tests/support/printing.h"
 
 namespace kesto::test {

@@ -40,19 +40,19 @@ SummaryPane::SummaryPane(QWidget* parent)
   setAccessibleName(tr("Summary"));
 }
 
-void SummaryPane::show(const QMap<QString, QString>& summary) {
+void SummaryPane::show(const QList<std::pair<QString, QString>>& summary) {
   if (summary == m_summary) return;
   m_summary = summary;
   while (m_form->rowCount() > 0)
     m_form->removeRow(0);
-  for (auto it = summary.begin(); it != summary.end(); ++it) {
-    auto* value = new QLabel(it.value().isEmpty() ? QStringLiteral("–") : shownText(it.value()));
+  for (const auto& [label, text] : summary) {
+    auto* value = new QLabel(text.isEmpty() ? QStringLiteral("–") : shownText(text));
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     value->setWordWrap(true);
-    value->setAccessibleName(it.key());
-    value->setAccessibleDescription(it.value());
-    m_form->addRow(withColon(it.key()), value);
+    value->setAccessibleName(withoutColon(label));
+    value->setAccessibleDescription(text);
+    m_form->addRow(withColon(label), value);
   }
 }
 

@@ -1,7 +1,7 @@
-// The pane that sums up what the panel will do with the job.
+// The pane that sums up what will be done with the job.
 #pragma once
 
-#include <QtCore/QMap>
+#include <QtCore/QList>
 #include <QtWidgets/QScrollArea>
 
 #include "hosts/cups/job_privacy.h"
@@ -12,14 +12,14 @@ class QPushButton;
 
 namespace kesto {
 
-/// Labels with their values, as the panel gives them; below them, when it is asked for, what other users see
+/// Labels with their values, in their order; below them, when it is asked for, what other users see
 /// of the job.
 class SummaryPane : public QScrollArea {
   Q_OBJECT
 
  public:
   explicit SummaryPane(QWidget* parent);
-  void show(const QMap<QString, QString>& summary);
+  void show(const QList<std::pair<QString, QString>>& summary);
   void showPrivacy(const Outcome& outcome, const JobPrivacy& privacy);
 
  Q_SIGNALS:
@@ -28,7 +28,7 @@ class SummaryPane : public QScrollArea {
 
  private:
   QFormLayout* m_form;
-  QMap<QString, QString> m_summary;
+  QList<std::pair<QString, QString>> m_summary;
   QPushButton* m_ask;
   QLabel* m_privacy;
 };

@@ -40,7 +40,90 @@
     </message>
 </context>
 <context>
-    <name>GeneralPane</name>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>Einen Auftrag auf dem Drucker speichern</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>Schalten Sie auf der Registerkarte „Auftragssteuerung“ die Option „Zurückhalten“ ein und geben Sie eine PIN mit bis zu 8 Ziffern an. Der Auftrag wartet im Drucker, bis Sie dort die PIN eingeben.</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>Angeben, wer Sie sind</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>Wenn der Drucker die Seiten zählt, geben Sie auf der Registerkarte „Benutzer und Konto“ Ihre Benutzernummer oder Ihren Anmeldenamen an.</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>Einen Eintrag merken lassen</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>Schließen Sie das Schloss neben einem Eintrag. Er wird dann für diesen Drucker wieder angeboten; zum Ändern öffnen Sie das Schloss.</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>Einen Ordner des Druckers wählen</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>„Ordnernamen abrufen“ fragt den Drucker unter der darüber angegebenen Adresse nach seinen Ordnern.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt und der unterstrichene Buchstabe führen zu einem Eintrag, mit Umschalt zu seinem Schloss. Eingabe druckt, Esc bricht ab, Strg+R zeigt eine PIN an, solange der Cursor darin steht.</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>Hilfe zum Drucken</translation>
+    </message>
+</context>
+<context>
+    <name>JobOptions</name>
+    <message>
+        <source>Collate</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>Exemplare:</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Seiten:</translation>
+    </message>
+    <message>
+        <source>Custom %1 x %2 %3</source>
+        <translation>Eigene Größe %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>Eigener Wert %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Pages per sheet:</source>
+        <translation>Seiten pro Blatt:</translation>
+    </message>
+    <message>
+        <source>Page order:</source>
+        <translation>Seitenreihenfolge:</translation>
+    </message>
+    <message>
+        <source>Scaling:</source>
+        <translation>Skalierung:</translation>
+    </message>
     <message>
         <source>Paper size:</source>
         <translation>Papierformat:</translation>
@@ -88,53 +171,6 @@
     <message>
         <source>Print quality:</source>
         <translation>Druckqualität:</translation>
-    </message>
-</context>
-<context>
-    <name>Help</name>
-    <message>
-        <source>Hold a job on the printer</source>
-        <translation>Einen Auftrag auf dem Drucker speichern</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>Schalten Sie auf der Registerkarte „Auftragssteuerung“ die Option „Zurückhalten“ ein und geben Sie eine PIN mit bis zu 8 Ziffern an. Der Auftrag wartet im Drucker, bis Sie dort die PIN eingeben.</translation>
-    </message>
-    <message>
-        <source>Say who you are</source>
-        <translation>Angeben, wer Sie sind</translation>
-    </message>
-    <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>Wenn der Drucker die Seiten zählt, geben Sie auf der Registerkarte „Benutzer und Konto“ Ihre Benutzernummer oder Ihren Anmeldenamen an.</translation>
-    </message>
-    <message>
-        <source>Have an entry remembered</source>
-        <translation>Einen Eintrag merken lassen</translation>
-    </message>
-    <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>Schließen Sie das Schloss neben einem Eintrag. Er wird dann für diesen Drucker wieder angeboten; zum Ändern öffnen Sie das Schloss.</translation>
-    </message>
-    <message>
-        <source>Choose a folder of the printer</source>
-        <translation>Einen Ordner des Druckers wählen</translation>
-    </message>
-    <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>„Ordnernamen abrufen“ fragt den Drucker unter der darüber angegebenen Adresse nach seinen Ordnern.</translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation>Tasten</translation>
-    </message>
-    <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt und der unterstrichene Buchstabe führen zu einem Eintrag, mit Umschalt zu seinem Schloss. Eingabe druckt, Esc bricht ab, Strg+R zeigt eine PIN an, solange der Cursor darin steht.</translation>
-    </message>
-    <message>
-        <source>Help for printing</source>
-        <translation>Hilfe zum Drucken</translation>
     </message>
 </context>
 <context>
@@ -446,22 +482,6 @@
 <context>
     <name>kesto::GeneralPane</name>
     <message>
-        <source>Collate</source>
-        <translation>Sortieren</translation>
-    </message>
-    <message>
-        <source>Copies:</source>
-        <translation>Exemplare:</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Exemplare</translation>
-    </message>
-    <message>
-        <source>Pages:</source>
-        <translation>Seiten:</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>Alle</translation>
     </message>
@@ -480,14 +500,6 @@
     <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>Diese Einstellungen kann der Drucker nicht kombinieren: %1.</translation>
-    </message>
-    <message>
-        <source>Custom %1 x %2 %3</source>
-        <translation>Eigene Größe %1 x %2 %3</translation>
-    </message>
-    <message>
-        <source>Custom %1</source>
-        <translation>Eigener Wert %1</translation>
     </message>
     <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>

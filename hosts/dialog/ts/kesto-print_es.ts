@@ -40,7 +40,90 @@
     </message>
 </context>
 <context>
-    <name>GeneralPane</name>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>Retener un trabajo en la impresora</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>En la pestaña «Gestión de trabajos», active «Retener el trabajo» e indique un código de acceso de hasta 8 dígitos. El trabajo espera en la impresora hasta que introduzca allí el código.</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>Indicar quién es usted</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>Si la impresora cuenta las páginas, indique su número de usuario o su nombre de inicio de sesión en la pestaña «Usuario y cuenta».</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>Recordar un dato</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>Cierre el candado que hay junto a un dato. Se volverá a ofrecer para esta impresora; abra el candado para cambiarlo.</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>Elegir una carpeta de la impresora</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>«Obtener nombres de carpetas» pide sus carpetas a la impresora cuya dirección figura encima.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt y la letra subrayada llevan a un dato; con Mayús, a su candado. Intro imprime, Esc cancela y Ctrl+R muestra un código de acceso mientras el cursor está en él.</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>Ayuda para imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>JobOptions</name>
+    <message>
+        <source>Collate</source>
+        <translation>Intercalar</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>Copias:</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Páginas:</translation>
+    </message>
+    <message>
+        <source>Custom %1 x %2 %3</source>
+        <translation>Personalizado %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>Personalizado %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>Pages per sheet:</source>
+        <translation>Páginas por hoja:</translation>
+    </message>
+    <message>
+        <source>Page order:</source>
+        <translation>Orden de las páginas:</translation>
+    </message>
+    <message>
+        <source>Scaling:</source>
+        <translation>Escala:</translation>
+    </message>
     <message>
         <source>Paper size:</source>
         <translation>Tamaño del papel:</translation>
@@ -88,53 +171,6 @@
     <message>
         <source>Print quality:</source>
         <translation>Calidad de impresión:</translation>
-    </message>
-</context>
-<context>
-    <name>Help</name>
-    <message>
-        <source>Hold a job on the printer</source>
-        <translation>Retener un trabajo en la impresora</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>En la pestaña «Gestión de trabajos», active «Retener el trabajo» e indique un código de acceso de hasta 8 dígitos. El trabajo espera en la impresora hasta que introduzca allí el código.</translation>
-    </message>
-    <message>
-        <source>Say who you are</source>
-        <translation>Indicar quién es usted</translation>
-    </message>
-    <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>Si la impresora cuenta las páginas, indique su número de usuario o su nombre de inicio de sesión en la pestaña «Usuario y cuenta».</translation>
-    </message>
-    <message>
-        <source>Have an entry remembered</source>
-        <translation>Recordar un dato</translation>
-    </message>
-    <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>Cierre el candado que hay junto a un dato. Se volverá a ofrecer para esta impresora; abra el candado para cambiarlo.</translation>
-    </message>
-    <message>
-        <source>Choose a folder of the printer</source>
-        <translation>Elegir una carpeta de la impresora</translation>
-    </message>
-    <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>«Obtener nombres de carpetas» pide sus carpetas a la impresora cuya dirección figura encima.</translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation>Teclas</translation>
-    </message>
-    <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt y la letra subrayada llevan a un dato; con Mayús, a su candado. Intro imprime, Esc cancela y Ctrl+R muestra un código de acceso mientras el cursor está en él.</translation>
-    </message>
-    <message>
-        <source>Help for printing</source>
-        <translation>Ayuda para imprimir</translation>
     </message>
 </context>
 <context>
@@ -446,22 +482,6 @@
 <context>
     <name>kesto::GeneralPane</name>
     <message>
-        <source>Collate</source>
-        <translation>Intercalar</translation>
-    </message>
-    <message>
-        <source>Copies:</source>
-        <translation>Copias:</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copias</translation>
-    </message>
-    <message>
-        <source>Pages:</source>
-        <translation>Páginas:</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>Todas</translation>
     </message>
@@ -480,14 +500,6 @@
     <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>La impresora no puede combinar estos ajustes: %1.</translation>
-    </message>
-    <message>
-        <source>Custom %1 x %2 %3</source>
-        <translation>Personalizado %1 x %2 %3</translation>
-    </message>
-    <message>
-        <source>Custom %1</source>
-        <translation>Personalizado %1</translation>
     </message>
     <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>

@@ -40,7 +40,90 @@
     </message>
 </context>
 <context>
-    <name>GeneralPane</name>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>Conserver un travail sur l’imprimante</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>Dans l’onglet «&#xa0;Gestion des travaux&#xa0;», activez «&#xa0;Conserver le travail&#xa0;» et indiquez un code d’accès de 8 chiffres au plus. Le travail attend dans l’imprimante jusqu’à ce que vous y saisissiez ce code.</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>Indiquer qui vous êtes</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>Si l’imprimante compte les pages, indiquez votre numéro d’utilisateur ou votre nom de connexion dans l’onglet «&#xa0;Utilisateur et compte&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>Mémoriser une saisie</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>Fermez le cadenas à côté d’une saisie. Elle sera de nouveau proposée pour cette imprimante&#xa0;; ouvrez le cadenas pour la modifier.</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>Choisir un dossier de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>«&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante dont l’adresse figure au-dessus.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt et la lettre soulignée mènent à une saisie, avec Maj à son cadenas. Entrée imprime, Échap annule, Ctrl+R affiche un code d’accès tant que le curseur s’y trouve.</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>Aide à l’impression</translation>
+    </message>
+</context>
+<context>
+    <name>JobOptions</name>
+    <message>
+        <source>Collate</source>
+        <translation>Assembler</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>Copies&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Custom %1 x %2 %3</source>
+        <translation>Personnalisé %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>Personnalisé %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Pages per sheet:</source>
+        <translation>Pages par feuille&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Page order:</source>
+        <translation>Ordre des pages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Scaling:</source>
+        <translation>Mise à l’échelle&#xa0;:</translation>
+    </message>
     <message>
         <source>Paper size:</source>
         <translation>Format du papier&#xa0;:</translation>
@@ -88,53 +171,6 @@
     <message>
         <source>Print quality:</source>
         <translation>Qualité d’impression :</translation>
-    </message>
-</context>
-<context>
-    <name>Help</name>
-    <message>
-        <source>Hold a job on the printer</source>
-        <translation>Conserver un travail sur l’imprimante</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>Dans l’onglet «&#xa0;Gestion des travaux&#xa0;», activez «&#xa0;Conserver le travail&#xa0;» et indiquez un code d’accès de 8 chiffres au plus. Le travail attend dans l’imprimante jusqu’à ce que vous y saisissiez ce code.</translation>
-    </message>
-    <message>
-        <source>Say who you are</source>
-        <translation>Indiquer qui vous êtes</translation>
-    </message>
-    <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>Si l’imprimante compte les pages, indiquez votre numéro d’utilisateur ou votre nom de connexion dans l’onglet «&#xa0;Utilisateur et compte&#xa0;».</translation>
-    </message>
-    <message>
-        <source>Have an entry remembered</source>
-        <translation>Mémoriser une saisie</translation>
-    </message>
-    <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>Fermez le cadenas à côté d’une saisie. Elle sera de nouveau proposée pour cette imprimante&#xa0;; ouvrez le cadenas pour la modifier.</translation>
-    </message>
-    <message>
-        <source>Choose a folder of the printer</source>
-        <translation>Choisir un dossier de l’imprimante</translation>
-    </message>
-    <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>«&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante dont l’adresse figure au-dessus.</translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation>Touches</translation>
-    </message>
-    <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt et la lettre soulignée mènent à une saisie, avec Maj à son cadenas. Entrée imprime, Échap annule, Ctrl+R affiche un code d’accès tant que le curseur s’y trouve.</translation>
-    </message>
-    <message>
-        <source>Help for printing</source>
-        <translation>Aide à l’impression</translation>
     </message>
 </context>
 <context>
@@ -446,22 +482,6 @@
 <context>
     <name>kesto::GeneralPane</name>
     <message>
-        <source>Collate</source>
-        <translation>Assembler</translation>
-    </message>
-    <message>
-        <source>Copies:</source>
-        <translation>Copies&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
-    </message>
-    <message>
-        <source>Pages:</source>
-        <translation>Pages&#xa0;:</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>Toutes</translation>
     </message>
@@ -480,14 +500,6 @@
     <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>L’imprimante ne peut pas combiner ces réglages&#xa0;: %1.</translation>
-    </message>
-    <message>
-        <source>Custom %1 x %2 %3</source>
-        <translation>Personnalisé %1 x %2 %3</translation>
-    </message>
-    <message>
-        <source>Custom %1</source>
-        <translation>Personnalisé %1</translation>
     </message>
     <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>

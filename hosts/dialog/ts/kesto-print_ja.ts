@@ -40,7 +40,90 @@
     </message>
 </context>
 <context>
-    <name>GeneralPane</name>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>ジョブをプリンターに保留する</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>「ジョブ管理」タブで「ジョブの保留」をオンにし、8 桁までの暗証番号を入力します。プリンターでその暗証番号を入力するまで、ジョブはプリンター内で待機します。</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>ユーザーを指定する</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>プリンターがページ数を集計している場合は、「ユーザーとアカウント」タブでユーザー番号またはログイン名を入力します。</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>入力内容を記憶させる</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>入力欄の横にある南京錠を閉じます。その内容はこのプリンターで次回も使われます。変更するには南京錠を開きます。</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>プリンターのフォルダーを選ぶ</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>「フォルダー名を取得」は、その上のアドレスにあるプリンターにフォルダーを問い合わせます。</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー操作</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt と下線付きの文字で入力欄に移動し、さらに Shift を押すとその南京錠に移動します。Enter で印刷、Esc でキャンセル、Ctrl+R でカーソルのある暗証番号を表示します。</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>印刷のヘルプ</translation>
+    </message>
+</context>
+<context>
+    <name>JobOptions</name>
+    <message>
+        <source>Collate</source>
+        <translation>部単位で印刷</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>部数:</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>ページ:</translation>
+    </message>
+    <message>
+        <source>Custom %1 x %2 %3</source>
+        <translation>カスタム %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>カスタム %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Pages per sheet:</source>
+        <translation>1 枚あたりのページ数:</translation>
+    </message>
+    <message>
+        <source>Page order:</source>
+        <translation>ページの順序:</translation>
+    </message>
+    <message>
+        <source>Scaling:</source>
+        <translation>拡大縮小:</translation>
+    </message>
     <message>
         <source>Paper size:</source>
         <translation>用紙サイズ:</translation>
@@ -88,53 +171,6 @@
     <message>
         <source>Print quality:</source>
         <translation>印刷品質:</translation>
-    </message>
-</context>
-<context>
-    <name>Help</name>
-    <message>
-        <source>Hold a job on the printer</source>
-        <translation>ジョブをプリンターに保留する</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>「ジョブ管理」タブで「ジョブの保留」をオンにし、8 桁までの暗証番号を入力します。プリンターでその暗証番号を入力するまで、ジョブはプリンター内で待機します。</translation>
-    </message>
-    <message>
-        <source>Say who you are</source>
-        <translation>ユーザーを指定する</translation>
-    </message>
-    <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>プリンターがページ数を集計している場合は、「ユーザーとアカウント」タブでユーザー番号またはログイン名を入力します。</translation>
-    </message>
-    <message>
-        <source>Have an entry remembered</source>
-        <translation>入力内容を記憶させる</translation>
-    </message>
-    <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>入力欄の横にある南京錠を閉じます。その内容はこのプリンターで次回も使われます。変更するには南京錠を開きます。</translation>
-    </message>
-    <message>
-        <source>Choose a folder of the printer</source>
-        <translation>プリンターのフォルダーを選ぶ</translation>
-    </message>
-    <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>「フォルダー名を取得」は、その上のアドレスにあるプリンターにフォルダーを問い合わせます。</translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation>キー操作</translation>
-    </message>
-    <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt と下線付きの文字で入力欄に移動し、さらに Shift を押すとその南京錠に移動します。Enter で印刷、Esc でキャンセル、Ctrl+R でカーソルのある暗証番号を表示します。</translation>
-    </message>
-    <message>
-        <source>Help for printing</source>
-        <translation>印刷のヘルプ</translation>
     </message>
 </context>
 <context>
@@ -445,22 +481,6 @@
 <context>
     <name>kesto::GeneralPane</name>
     <message>
-        <source>Collate</source>
-        <translation>部単位で印刷</translation>
-    </message>
-    <message>
-        <source>Copies:</source>
-        <translation>部数:</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>部数</translation>
-    </message>
-    <message>
-        <source>Pages:</source>
-        <translation>ページ:</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>すべて</translation>
     </message>
@@ -479,14 +499,6 @@
     <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>プリンターは次の設定を同時に使えません: %1。</translation>
-    </message>
-    <message>
-        <source>Custom %1 x %2 %3</source>
-        <translation>カスタム %1 x %2 %3</translation>
-    </message>
-    <message>
-        <source>Custom %1</source>
-        <translation>カスタム %1</translation>
     </message>
     <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>

@@ -40,7 +40,90 @@
     </message>
 </context>
 <context>
-    <name>GeneralPane</name>
+    <name>Help</name>
+    <message>
+        <source>Hold a job on the printer</source>
+        <translation>将作业保留在打印机上</translation>
+    </message>
+    <message>
+        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
+        <translation>在“作业处理”选项卡上开启“保留作业”，并输入最多 8 位数字的 PIN 码。作业会在打印机中等待，直到您在打印机上输入该 PIN 码。</translation>
+    </message>
+    <message>
+        <source>Say who you are</source>
+        <translation>说明您的身份</translation>
+    </message>
+    <message>
+        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
+        <translation>如果打印机统计页数，请在“用户和账户”选项卡上输入用户编号或登录名。</translation>
+    </message>
+    <message>
+        <source>Have an entry remembered</source>
+        <translation>记住输入的内容</translation>
+    </message>
+    <message>
+        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
+        <translation>锁上输入项旁的挂锁。下次使用此打印机时会再次提供该内容；要更改，请打开挂锁。</translation>
+    </message>
+    <message>
+        <source>Choose a folder of the printer</source>
+        <translation>选择打印机上的文件夹</translation>
+    </message>
+    <message>
+        <source>Get Folder Names asks the printer at the address above for its folders.</source>
+        <translation>“获取文件夹名称”会向其上方地址处的打印机查询文件夹。</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
+        <translation>Alt 加带下划线的字母跳到输入项，再加 Shift 则跳到其挂锁。Enter 打印，Esc 取消；光标位于 PIN 码中时，Ctrl+R 显示该 PIN 码。</translation>
+    </message>
+    <message>
+        <source>Help for printing</source>
+        <translation>打印帮助</translation>
+    </message>
+</context>
+<context>
+    <name>JobOptions</name>
+    <message>
+        <source>Collate</source>
+        <translation>逐份打印</translation>
+    </message>
+    <message>
+        <source>Copies:</source>
+        <translation>份数:</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>页面:</translation>
+    </message>
+    <message>
+        <source>Custom %1 x %2 %3</source>
+        <translation>自定义 %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source>Custom %1</source>
+        <translation>自定义 %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Pages per sheet:</source>
+        <translation>每张页数:</translation>
+    </message>
+    <message>
+        <source>Page order:</source>
+        <translation>页面顺序:</translation>
+    </message>
+    <message>
+        <source>Scaling:</source>
+        <translation>缩放:</translation>
+    </message>
     <message>
         <source>Paper size:</source>
         <translation>纸张大小:</translation>
@@ -88,53 +171,6 @@
     <message>
         <source>Print quality:</source>
         <translation>打印质量：</translation>
-    </message>
-</context>
-<context>
-    <name>Help</name>
-    <message>
-        <source>Hold a job on the printer</source>
-        <translation>将作业保留在打印机上</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>在“作业处理”选项卡上开启“保留作业”，并输入最多 8 位数字的 PIN 码。作业会在打印机中等待，直到您在打印机上输入该 PIN 码。</translation>
-    </message>
-    <message>
-        <source>Say who you are</source>
-        <translation>说明您的身份</translation>
-    </message>
-    <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>如果打印机统计页数，请在“用户和账户”选项卡上输入用户编号或登录名。</translation>
-    </message>
-    <message>
-        <source>Have an entry remembered</source>
-        <translation>记住输入的内容</translation>
-    </message>
-    <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>锁上输入项旁的挂锁。下次使用此打印机时会再次提供该内容；要更改，请打开挂锁。</translation>
-    </message>
-    <message>
-        <source>Choose a folder of the printer</source>
-        <translation>选择打印机上的文件夹</translation>
-    </message>
-    <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>“获取文件夹名称”会向其上方地址处的打印机查询文件夹。</translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation>按键</translation>
-    </message>
-    <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt 加带下划线的字母跳到输入项，再加 Shift 则跳到其挂锁。Enter 打印，Esc 取消；光标位于 PIN 码中时，Ctrl+R 显示该 PIN 码。</translation>
-    </message>
-    <message>
-        <source>Help for printing</source>
-        <translation>打印帮助</translation>
     </message>
 </context>
 <context>
@@ -445,22 +481,6 @@
 <context>
     <name>kesto::GeneralPane</name>
     <message>
-        <source>Collate</source>
-        <translation>逐份打印</translation>
-    </message>
-    <message>
-        <source>Copies:</source>
-        <translation>份数:</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>份数</translation>
-    </message>
-    <message>
-        <source>Pages:</source>
-        <translation>页面:</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>全部</translation>
     </message>
@@ -479,14 +499,6 @@
     <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>打印机无法同时使用以下设置：%1。</translation>
-    </message>
-    <message>
-        <source>Custom %1 x %2 %3</source>
-        <translation>自定义 %1 x %2 %3</translation>
-    </message>
-    <message>
-        <source>Custom %1</source>
-        <translation>自定义 %1</translation>
     </message>
     <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>

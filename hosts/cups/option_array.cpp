@@ -1,8 +1,8 @@
-#include "hosts/cups/job_options.h"
+#include "hosts/cups/option_array.h"
 
 namespace kesto {
 
-OptionArray::OptionArray(const QMap<QString, QString>& options) {
+void OptionArray::add(const QMap<QString, QString>& options) {
   for (auto it = options.begin(); it != options.end(); ++it)
     add(it.key().toUtf8().constData(), it.value().toUtf8().constData());
 }

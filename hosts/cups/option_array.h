@@ -21,12 +21,13 @@ void addJobOption(const QString& name, const QString& value, QMap<QString, QStri
 class OptionArray {
  public:
   OptionArray() = default;
-  explicit OptionArray(const QMap<QString, QString>& options);
+  explicit OptionArray(const QMap<QString, QString>& options) { add(options); }
   ~OptionArray() { cupsFreeOptions(m_count, m_options); }
   OptionArray(const OptionArray&) = delete;
   OptionArray& operator=(const OptionArray&) = delete;
 
   void add(const char* name, const char* value) { m_count = cupsAddOption(name, value, m_count, &m_options); }
+  void add(const QMap<QString, QString>& options);
   void parse(const char* text) { m_count = cupsParseOptions(text, m_count, &m_options); }
   bool has(const char* name) const { return value(name) != nullptr; }
   /// Null when there is none of this name.

@@ -1,0 +1,216 @@
+#include "hosts/session/job_options.h"
+
+#include <QtCore/QCoreApplication>
+#include <utility>
+
+#include "hosts/cups/option_array.h"
+#include "hosts/cups/queue.h"
+#include "hosts/cups/queue_options.h"
+#include "hosts/session/page_range.h"
+
+namespace kesto {
+namespace {
+
+constexpr std::array sources{JobOptions::Source::Kept, JobOptions::Source::Preset, JobOptions::Source::Given,
+                             JobOptions::Source::Chosen};
+
+// The text of a value of the user's own, as in "Custom.10x15cm".
+QString customText(const QString& choice) {
+  if (const std::optional<CustomSize> size = customSizeOf(choice))
+    return QCoreApplication::translate("JobOptions", "Custom %1 x %2 %3")
+        .arg(size->width, size->length, size->unit);
+  return QCoreApplication::translate("JobOptions", "Custom %1").arg(choice.section(u'.', 1));
+}
+
+}  // namespace
+
+void JobOptions::openFor(const Queue& queue) {
+  close();
+  m_choices = PpdChoices(queue.ppd.get());
+  m_values.clear();  // their names were those of no queue
+  given(Source::Kept) = keptOptions(queue);
+  resolve();
+}
+
+void JobOptions::close() {
+  given(Source::Kept).clear();
+  given(Source::Preset).clear();
+  given(Source::Chosen).removeIf([this](const auto& each) {
+    return m_choices.has(keyOf(each.key(), m_choices));
+  });
+  m_choices = {};
+  resolve();
+}
+
+void JobOptions::setPageCount(int count) {
+  if (std::exchange(m_pageCount, count) == count) return;
+  Q_EMIT changed();
+}
+
+void JobOptions::set(Source source, const QMap<QString, QString>& options) {
+  given(source).insert(options);
+  resolve();
+}
+
+void JobOptions::clear(Source source) {
+  given(source).clear();
+  resolve();
+}
+
+void JobOptions::resolve() {
+  const Values before = std::exchange(m_values, {});
+  m_refused.clear();
+  for (const Source source : sources) {
+    const ResolvedOptions found = resolveOptions(given(source), m_choices);
+    if (source == Source::Kept) m_kept = found;
+    m_refused += found.refused;
+    for (auto it = found.options.begin(); it != found.options.end(); ++it)
+      m_values.insert(it.key(), {it.value(), source});
+  }
+  m_refused.removeDuplicates();
+  markChanges(before);
+  Q_EMIT changed();
+}
+
+void JobOptions::markChanges(const Values& before) {
+  Values touched = before;
+  touched.insert(m_values);
+  QStringList keys;
+  for (const QString& key : touched.keys()) {
+    const QString old = before.contains(key) ? before[key].value.value : defaultOf(key);
+    if (m_choices.has(key) && value(key) != old) keys.append(key);
+  }
+  for (const QString& key : keys)
+    m_choices.mark(key, value(key));
+  m_conflicts = m_choices.conflicts();
+  for (const QString& key : keys)
+    Q_EMIT choiceChanged(key, value(key));
+}
+
+QString JobOptions::defaultOf(const QString& key) const {
+  if (m_choices.has(key)) return m_choices.defaultOf(key);
+  const OptionRow* row = rowOf(key, m_choices);
+  return row == nullptr || row->initial == nullptr ? QString() : QLatin1String(row->initial);
+}
+
+QString JobOptions::value(const QString& name) const {
+  const QString key = keyOf(name, m_choices);
+  const auto found = m_values.find(key);
+  return found == m_values.end() ? defaultOf(key) : found->value.value;
+}
+
+JobOptions::Source JobOptions::source(const QString& name) const {
+  return m_values.value(keyOf(name, m_choices)).source;
+}
+
+QString JobOptions::choiceFor(const QString& option, const QString& value) const {
+  return kesto::choiceFor(m_choices, keyOf(option, m_choices), value);
+}
+
+QString JobOptions::pages() const {
+  const QString asked = value(QStringLiteral("page-ranges"));
+  const QString pages = asked.isNull() ? QString() : pageRangesOf(asked, m_pageCount).value_or(QString());
+  return pages.isEmpty() ? QString() : pages;
+}
+
+std::vector<OptionChoice> JobOptions::choices(const QString& option) const {
+  std::vector<OptionChoice> choices = m_choices.choices(option);
+  for (OptionChoice& each : choices)
+    each.text = textOf(option, each.keyword);
+  return choices;
+}
+
+QString JobOptions::text(const QString& option) const {
+  const OptionRow* row = rowOf(option, m_choices);
+  const bool isOurs = row != nullptr && row->text != nullptr;
+  return isOurs ? QCoreApplication::translate("JobOptions", row->text) : m_choices.text(option);
+}
+
+QString JobOptions::textOf(const QString& option, const QString& value) const {
+  const OptionRow* row = rowOf(option, m_choices);
+  if (row != nullptr && row->kind == OptionKind::Switch)
+    return value == u"true" ? QCoreApplication::translate("JobOptions", "On")
+                            : QCoreApplication::translate("JobOptions", "Off");
+  if (const char* ours = textOfChoice(option, value)) return QCoreApplication::translate("JobOptions", ours);
+  for (const OptionChoice& each : m_choices.choices(option)) {
+    if (each.keyword == value) return each.text;
+  }
+  return value.startsWith(u"Custom.") ? customText(value) : value;
+}
+
+bool JobOptions::travels(const QString& key) const {
+  const OptionRow* row = rowOf(key, m_choices);
+  if (row != nullptr && row->needs != nullptr) return !isDefault(QLatin1String(row->needs));
+  if (!isDefault(key)) return true;
+  // The server may have another default than the PPD.
+  const auto kept = m_kept.options.find(key);
+  return kept != m_kept.options.end() && (m_choices.has(key) || kept->value != defaultOf(key));
+}
+
+QMap<QString, QString> JobOptions::travelling() const {
+  QMap<QString, QString> options;
+  for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+    if (travels(it.key())) options.insert(it->value.name, it->value.value);
+  }
+  for (const OptionRow& row : optionTable()) {
+    const QString key = QLatin1String(row.key);
+    if (row.needs != nullptr && travels(key)) options.insert(key, value(key));
+    if (row.kind == OptionKind::Pages) options.insert(key, pages());
+  }
+  options.removeIf([](const auto& each) { return each.value().isNull(); });
+  return options;
+}
+
+QMap<QString, QString> JobOptions::inForce() const {
+  QMap<QString, QString> options = travelling();
+  for (const OptionRow& row : optionTable()) {
+    const QString key = QLatin1String(row.key);
+    if (m_choices.has(key) && !value(key).isNull()) options.insert(key, value(key));
+  }
+  return options;
+}
+
+QMap<QString, QString> JobOptions::asGiven() const {
+  OptionArray options;
+  options.add(given(Source::Kept));
+  // A preset names an option by its key, and would stand beside another name of it.
+  QMap<QString, QString> preset = given(Source::Preset);
+  preset.removeIf([this](const auto& each) { return source(each.key()) != Source::Preset; });
+  options.add(preset);
+  options.add(given(Source::Given));
+  return options.all();
+}
+
+QMap<QString, QString> JobOptions::ofPreset() const {
+  QMap<QString, QString> options = travelling();
+  options.removeIf([this](const auto& each) {
+    const bool isKnown = rowOf(each.key(), m_choices) != nullptr || m_choices.has(each.key());
+    return !isKnown || source(each.key()) < Source::Preset;
+  });
+  return options;
+}
+
+QList<std::pair<QString, QString>> JobOptions::summary() const {
+  QList<std::pair<QString, QString>> lines;
+  for (const OptionRow& row : optionTable()) {
+    const QString key = QLatin1String(row.key);
+    if (isDefault(key) || !travels(key)) continue;
+    const QString shown = row.kind == OptionKind::Pages ? pages() : textOf(key, value(key));
+    if (!shown.isEmpty()) lines.append({text(key), shown});
+  }
+  return lines;
+}
+
+QMap<QString, QString> keptOptions(const Queue& queue) {
+  QMap<QString, QString> kept;
+  if (!queue.destination) return kept;
+  const cups_dest_t& destination = *queue.destination;
+  for (int i = 0; i < destination.num_options; ++i) {
+    const cups_option_t& option = destination.options[i];
+    if (!describesQueue(option.name))
+      kept.insert(QString::fromUtf8(option.name), QString::fromUtf8(option.value));
+  }
+  return kept;
+}
+
+}  // namespace kesto

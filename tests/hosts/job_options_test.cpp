@@ -1,0 +1,180 @@
+// What a job's options are on a queue, and what of them travels.
+#include "hosts/session/job_options.h"
+
+#include "hosts/cups/option_array.h"
+#include "hosts/cups/queue.h"
+#include "tests/support/demo_process.h"
+
+namespace kesto::test {
+namespace {
+
+// What a PPD of a printer with more choices has beside the demo printer's.
+const QByteArray moreChoices = R"(*VariablePaperSize: True
+*MaxMediaWidth: "900"
+*MaxMediaHeight: "1300"
+*HWMargins: 12 12 12 12
+*NonUIOrderDependency: 20 AnySetup *CustomPageSize
+*CustomPageSize True: "pop pop pop pop pop"
+*ParamCustomPageSize Width: 1 points 200 900
+*ParamCustomPageSize Height: 2 points 200 1300
+*ParamCustomPageSize WidthOffset: 3 points 0 0
+*ParamCustomPageSize HeightOffset: 4 points 0 0
+*ParamCustomPageSize Orientation: 5 int 0 3
+*OpenUI *MediaType/Media Type: PickOne
+*DefaultMediaType: Plain
+*MediaType Plain/Plain: ""
+*MediaType Transparency/Transparency: ""
+*CloseUI: *MediaType
+*OpenUI *OutputBin/Output Bin: PickOne
+*DefaultOutputBin: Upper
+*OutputBin Upper/Upper: ""
+*OutputBin FaceDown/Face Down: ""
+*CloseUI: *OutputBin
+*OpenUI *OutputMode/Quality: PickOne
+*DefaultOutputMode: Normal
+*OutputMode Normal/Normal: ""
+*OutputMode Best/Best: ""
+*CloseUI: *OutputMode
+)";
+
+// A choice as "option=value"; null pages without "=".
+void choose(JobOptions& options, const QString& choice) {
+  const bool hasValue = choice.contains(u'=');
+  if (!choice.isEmpty())
+    options.choose(choice.section(u'=', 0, 0), hasValue ? choice.section(u'=', 1) : QString());
+}
+
+struct Case {
+  const char* ppd = nullptr;  // null for a queue without one
+  const char* kept = "";
+  const char* given = "";
+  QString chosen = {};
+  const char* travels = "";
+  const char* refused = "";
+  const char* preset = "";  // a preset of the queue, below what is given
+};
+
+class OptionsOfAJob : public testing::Test {
+ protected:
+  OptionsOfAJob() {
+    QByteArray description =
+        bytesOf(QCoreApplication::applicationDirPath() + u"/../share/kesto/kesto-vq250n.ppd"_s);
+    m_folder.write(u"fixed.ppd"_s, description);
+    description.replace("*ColorModel Gray", "*ColorModel RGB/Color: \"\"\n*ColorModel Gray");
+    m_folder.write(u"more.ppd"_s, description.replace("*VariablePaperSize: False", moreChoices));
+  }
+  Queue queue(const char* ppd, const char* kept) const {
+    Queue queue{.id = u"q"_s};
+    if (ppd != nullptr) {
+      EXPECT_TRUE(openPpdFile(m_folder.path(QLatin1String(ppd) + u".ppd"_s), &queue.ppd));
+    }
+    cups_dest_t* destination = nullptr;
+    cupsAddDest("q", nullptr, 0, &destination);
+    destination->num_options = cupsParseOptions(kept, 0, &destination->options);
+    queue.destination.reset(destination);
+    return queue;
+  }
+
+  ScratchFolder m_folder;
+};
+
+TEST_F(OptionsOfAJob, EachIsOneChoiceAndTravelsOnceByItsNameOnTheQueue) {
+  const Case cases[] = {
+      {"fixed", "", "media=A5", {}, "PageSize=A5"},
+      {"fixed", "", "media=iso_a5_148x210mm", {}, "PageSize=A5"},
+      {"fixed", "", "PageRegion=a3 media=A5", {}, "PageSize=A3"},
+      {"fixed", "", "PageRegion=A3 PageSize=Legal", {}, "PageSize=Legal"},
+      {"fixed", "", "media=na-letter,Tray2", {}, "InputSlot=Tray2 PageSize=Letter"},
+      {"fixed", "", "media=tray-3 InputSlot=Tray2", {}, "InputSlot=Tray2"},
+      {"fixed", "", "media=A5,Lunch", {}, "PageSize=A5", "media=A5,Lunch"},
+      {"fixed",
+       "",
+       "media-col={media-size={x-dimension=14800 y-dimension=21000} media-source=tray-2}",
+       {},
+       "InputSlot=Tray2 PageSize=A5"},
+      {"fixed", "", "PageSize=Custom.300x400", {}, "", "PageSize=Custom.300x400"},
+      {"fixed", "", "media=Custom.14.8x21cm", {}, "PageSize=A5"},
+      {"fixed", "sides=two-sided-short-edge", "sides=two-sided-short-edge Duplex=None", {}, "Duplex=None"},
+      {"fixed", "", "sides=two-sided-short-edge", {}, "Duplex=DuplexTumble"},
+      {"fixed", "", "Duplex=Sideways", {}, "", "Duplex=Sideways"},
+      {"fixed", "", "printer-resolution=1200x1200dpi", {}, "Resolution=1200dpi"},
+      {"fixed", "", "print-color-mode=color", {}, "", "print-color-mode=color"},
+      {"fixed", "", "OutputBin=Upper output-bin=top", {}, "OutputBin=Upper"},
+      {"fixed", "", "number-up=2 print-quality=5", {}, "number-up=2 print-quality=5"},
+      {"fixed", "", "number-up=1 number-up-layout=btlr", {}, ""},
+      {"fixed", "printer-info=Office job-sheets=none,none", "", {}, "job-sheets=none,none"},
+      // Where a value comes from.
+      {"fixed", "media=A5", "", {}, "PageSize=A5"},
+      {"fixed", "media=A5", "", u"PageSize=A3"_s, "PageSize=A3"},
+      {"fixed", "media=A5 PageSize=A4", "", {}, "PageSize=A4"},
+      {"fixed", "", "media=A4 sides=one-sided", {}, ""},
+      {"fixed", "media=A5", "PageRegion=A3", {}, "PageSize=A3"},
+      {"fixed", "media=A5", "media=A3", {}, "PageSize=A3", "", "PageSize=Legal"},
+      {"fixed", "media=A5", "", {}, "PageSize=Legal", "", "PageSize=Legal"},
+      {"fixed", "media=A5", "media=Lunch", {}, "PageSize=A5", "media=Lunch"},
+      {"fixed", "copies=4", "", {}, "collate=true copies=4"},
+      {"fixed", "copies=4", "", u"copies=1"_s, "copies=1"},
+      {"fixed", "copies=1", "COLLATE=off", {}, ""},
+      {"fixed", "", "copies=2 collate=No", {}, "collate=false copies=2"},
+      {"fixed", "", "copies=none collate=?", {}, "", "collate=? copies=none"},
+      {"fixed", "page-ranges=3", "page-ranges=2", u"page-ranges"_s, ""},
+      {"fixed", "page-ranges=3", "page-ranges=\"5-, 2-1, -3\"", {}, ""},
+      {"fixed", "", "", u"page-ranges=5-, -3"_s, "page-ranges=1-3,5-"},
+      {"fixed", "", "", u"page-ranges=9"_s, ""},
+      {"more", "", "PageSize=Custom.300x400", {}, "PageSize=Custom.300x400"},
+      {"more", "PageSize=Custom.10x20cm", "", {}, "PageSize=Custom.10x20cm"},
+      {"more", "", "PageSize=Custom.30x40", {}, "", "PageSize=Custom.30x40"},
+      {"more", "", "PageSize=Custom", {}, "", "PageSize=Custom"},
+      {"more",
+       "",
+       "media=iso_b5_176x250mm,transparency",
+       {},
+       "MediaType=Transparency PageSize=Custom.499x709"},
+      {"more", "media-type=stationery", "output-bin=face-down", {}, "MediaType=Plain OutputBin=FaceDown"},
+      {"more", "", "print-quality=5 print-color-mode=color", {}, "ColorModel=RGB OutputMode=Best"},
+      {nullptr, "", "media=A5,Tray2 PageSize=A3 sides=one-sided", {}, "PageSize=A3 sides=one-sided"},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(QByteArray(each.kept) + " / " + each.given + " / " + each.chosen.toUtf8());
+    const Queue open = queue(each.ppd, each.kept);
+    JobOptions options;
+    options.setPageCount(8);
+    options.set(JobOptions::Source::Given, parseJobOptions(QString::fromLatin1(each.given)));
+    options.openFor(open);
+    options.set(JobOptions::Source::Preset, parseJobOptions(QString::fromLatin1(each.preset)));
+    choose(options, each.chosen);
+    EXPECT_EQ(options.travelling(), parseJobOptions(QString::fromLatin1(each.travels)));
+    EXPECT_EQ(options.refused().join(u' '), QLatin1String(each.refused));
+  }
+}
+
+TEST_F(OptionsOfAJob, WhatIsOfTheQueueGoesWithIt) {
+  JobOptions options;
+  QStringList said;
+  QObject::connect(&options, &JobOptions::choiceChanged,
+                   [&](const QString& option, const QString& choice) { said += option + u'=' + choice; });
+  const Queue first = queue("more", "copies=4 job-sheets=secret");
+  const Queue second = queue("fixed", "");
+  options.set(JobOptions::Source::Given, {{u"media"_s, u"A5"_s}, {u"x"_s, u"y"_s}});
+  options.openFor(first);
+  options.choose(u"sides"_s, u"two-sided-long-edge"_s);
+  options.choose(u"page-ranges"_s, u"2"_s);
+  options.choose(u"PageSize"_s, u"Custom.10x15cm"_s);
+  EXPECT_EQ(said, QStringList({u"PageSize=A5"_s, u"Duplex=DuplexNoTumble"_s, u"PageSize=Custom.10x15cm"_s}));
+  EXPECT_EQ(options.asGiven(), parseJobOptions(u"copies=4 job-sheets=secret media=A5 x=y"_s));
+  EXPECT_EQ(options.ofPreset(), (QMap<QString, QString>{{u"Duplex"_s, u"DuplexNoTumble"_s},
+                                                        {u"PageSize"_s, u"Custom.10x15cm"_s},
+                                                        {u"page-ranges"_s, u"2"_s}}))
+      << "without what is kept for the queue or unknown";
+  QStringList lines;
+  for (const auto& [label, value] : options.summary())
+    lines += label + value;
+  EXPECT_EQ(lines.join(u' '), u"Copies:4 Pages:2 Paper size:Custom 10 x 15 cm Two-sided:Long edge"_s);
+  options.close();
+  options.openFor(second);
+  EXPECT_EQ(options.travelling(), parseJobOptions(u"PageSize=A5 page-ranges=2 x=y"_s));
+  EXPECT_EQ(options.source(u"media"_s), JobOptions::Source::Given);
+}
+
+}  // namespace
+}  // namespace kesto::test
