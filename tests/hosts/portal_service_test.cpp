@@ -134,6 +134,31 @@ class PortalServiceTest : public testing::Test {
     dialog.say(R"({"answer":"taken"})");
     EXPECT_EQ(answer.response(), 0U);
   }
+  // Brings a print to a stage, and to an end: the dialog's, in JSON, or another's.
+  void expectEnd(const char* stage, const QByteArray& end, uint response) {
+    SCOPED_TRACE(end.toStdString() + ' ' + stage);
+    const QString path = handle();
+    uint token = 0;
+    std::optional<Dialog> dialog;
+    if (*stage == 'p') dialog = chosenDialog(&token);
+    const bool hasDocument = qstrcmp(stage, "asked") != 0;
+    Answer answer(hasDocument ? print(path, token) : prepare(path));
+    if (!dialog) dialog = startedDialog();
+    while (dialog->nextWord() != (hasDocument ? u"print" : u"open"))
+      continue;
+    const bool isDialogs = end.startsWith('{');
+    if (isDialogs) dialog->say(end);
+    if (end.contains("client")) QDBusConnection::disconnectFromBus(u"client"_s);
+    if (end.contains("request")) close(path);
+    EXPECT_EQ(answer.response(), response);
+    if (!isDialogs) {
+      EXPECT_EQ(dialog->nextWord(), u"close");  // it knows whether its document is whole
+    }
+    dialog->say(R"({"answer":"taken"})");
+    QDBusPendingCallWatcher again(close(path));
+    waitFor([&] { return again.isFinished(); });
+    EXPECT_TRUE(again.isError()) << "the request is still on the bus";
+  }
   static QString hash(const QByteArray& bytes) {
     return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex());
   }
@@ -220,30 +245,8 @@ TEST_F(PortalServiceTest, WhateverEndsAPrintEndsItsRequestAndItsDialog) {
       {"the request is withdrawn", 2},  {"the client goes", 2},
   };
   for (const auto& [end, response] : ends) {
-    for (const char* stage : {"asked", "asked with a document", "printing"}) {
-      SCOPED_TRACE(end.toStdString() + ' ' + stage);
-      const QString path = handle();
-      uint token = 0;
-      std::optional<Dialog> dialog;
-      if (*stage == 'p') dialog = chosenDialog(&token);
-      const bool hasDocument = qstrcmp(stage, "asked") != 0;
-      Answer answer(hasDocument ? print(path, token) : prepare(path));
-      if (!dialog) dialog = startedDialog();
-      while (dialog->nextWord() != (hasDocument ? u"print" : u"open"))
-        continue;
-      const bool isDialogs = end.startsWith('{');
-      if (isDialogs) dialog->say(end);
-      if (end.contains("client")) QDBusConnection::disconnectFromBus(u"client"_s);
-      if (end.contains("request")) close(path);
-      EXPECT_EQ(answer.response(), response);
-      if (!isDialogs) {
-        EXPECT_EQ(dialog->nextWord(), u"close");  // it knows whether its document is whole
-      }
-      dialog->say(R"({"answer":"taken"})");
-      QDBusPendingCallWatcher again(close(path));
-      waitFor([&] { return again.isFinished(); });
-      EXPECT_TRUE(again.isError()) << "the request is still on the bus";
-    }
+    for (const char* stage : {"asked", "asked with a document", "printing"})
+      expectEnd(stage, end, response);
   }
   uint token = 0;
   Dialog waiting = chosenDialog(&token);
