@@ -11,6 +11,7 @@
 #include "hosts/command/server_options.h"
 #include "hosts/cups/option_array.h"
 #include "hosts/lp/help_text.h"
+#include "hosts/session/page_range.h"
 
 namespace kesto {
 namespace {
@@ -171,7 +172,9 @@ void CommandLine::setHold(const QString& when) {
 
 void CommandLine::addJob() {
   addUsual("-o", [this](const QString& text) { addJobOptions(text, &m_options.jobOptions); });
-  addUsualOption("-P", "page-ranges");
+  addUsual("-P", [this](const QString& pages) {
+    addJobOption(QStringLiteral("page-ranges"), pageRangesOf(pages).value_or(pages), &m_options.jobOptions);
+  });
   addUsualOption("-n", "copies")->transform(wholeNumber("copies", 1, 9999));
   addUsualOption("-q,-p", "job-priority")->transform(wholeNumber("priority", 1, 100));
   addUsual("-H", [this](const QString& when) { setHold(when); })->check(faultOfHold);

@@ -40,9 +40,9 @@ constexpr std::array rows{
 // A value of the standard, and what PPDs call it; the first that the PPD has is it. Values whose names differ
 // in letter case and signs alone, as "tray-1" and "Tray1" do, need no line.
 struct Value {
-  const char* option;
-  const char* standard;
-  const char* choices;
+  const char* option = "";
+  const char* standard = "";
+  const char* choices = "";
   const char* text = nullptr;
 };
 

@@ -26,7 +26,7 @@ enum class OptionGroup { General, Layout };
 
 /// One option. It is the queue's own where the PPD has an option of the key, else one of the job's alone.
 struct OptionRow {
-  const char* key;             ///< The name under which it is kept and travels.
+  const char* key = "";        ///< The name under which it is kept and travels.
   const char* text = nullptr;  ///< For people, to be translated as of "JobOptions"; null for the PPD's.
   std::array<const char*, 3> names{};  ///< Others that it goes by; of several given, the first counts.
   OptionKind kind = OptionKind::Choice;

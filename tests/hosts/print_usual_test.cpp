@@ -116,6 +116,7 @@ TEST_F(BesideTheUsualCommand, TheSameLinesComeToTheSame) {
       {"-t a -t \"-x y\" FILE"},
       {"-P 1 -P 2-4,7 FILE"},
       {"-P x FILE"},
+      {"-P \"5, -3\" FILE", Own, "page-ranges=1-3,5-5"},
       {"-U nobody -Uanna FILE"},
       {"-H hold FILE"},
       {"-H immediate FILE"},
