@@ -478,6 +478,22 @@
         <source>the printer&apos;s answer is not a list of folders</source>
         <translation>die Antwort des Druckers ist keine Ordnerliste</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file (%1)</source>
+        <translation>dieser Drucker nimmt diesen Dateityp nicht an (%1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs</source>
+        <translation>„%1“ nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs: %2</source>
+        <translation>„%1“ nimmt keine Aufträge an: %2</translation>
+    </message>
+    <message>
+        <source>there is no printer named &quot;%1&quot;</source>
+        <translation>es gibt keinen Drucker namens „%1“</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

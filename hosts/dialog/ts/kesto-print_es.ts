@@ -478,6 +478,22 @@
         <source>the printer&apos;s answer is not a list of folders</source>
         <translation>la respuesta de la impresora no es una lista de carpetas</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file (%1)</source>
+        <translation>esta impresora no acepta este tipo de archivo (%1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs</source>
+        <translation>«%1» no acepta trabajos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs: %2</source>
+        <translation>«%1» no acepta trabajos: %2</translation>
+    </message>
+    <message>
+        <source>there is no printer named &quot;%1&quot;</source>
+        <translation>no hay ninguna impresora llamada «%1»</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

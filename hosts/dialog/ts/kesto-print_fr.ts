@@ -478,6 +478,22 @@
         <source>the printer&apos;s answer is not a list of folders</source>
         <translation>la réponse de l’imprimante n’est pas une liste de dossiers</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file (%1)</source>
+        <translation>cette imprimante n’accepte pas ce type de fichier (%1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs</source>
+        <translation>« %1 » n’accepte pas de tâches</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs: %2</source>
+        <translation>« %1 » n’accepte pas de tâches : %2</translation>
+    </message>
+    <message>
+        <source>there is no printer named &quot;%1&quot;</source>
+        <translation>il n’y a pas d’imprimante nommée « %1 »</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

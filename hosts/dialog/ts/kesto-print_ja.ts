@@ -477,6 +477,22 @@
         <source>the printer&apos;s answer is not a list of folders</source>
         <translation>プリンターの応答はフォルダーの一覧ではありません</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file (%1)</source>
+        <translation>このプリンターはこの種類のファイルを受け付けません (%1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs</source>
+        <translation>「%1」はジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs: %2</source>
+        <translation>「%1」はジョブを受け付けていません: %2</translation>
+    </message>
+    <message>
+        <source>there is no printer named &quot;%1&quot;</source>
+        <translation>「%1」という名前のプリンターはありません</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

@@ -477,6 +477,22 @@
         <source>the printer&apos;s answer is not a list of folders</source>
         <translation>打印机的应答不是文件夹列表</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file (%1)</source>
+        <translation>此打印机不接受这种类型的文件（%1）</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs</source>
+        <translation>“%1”不接受作业</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not accepting jobs: %2</source>
+        <translation>“%1”不接受作业：%2</translation>
+    </message>
+    <message>
+        <source>there is no printer named &quot;%1&quot;</source>
+        <translation>没有名为“%1”的打印机</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>
