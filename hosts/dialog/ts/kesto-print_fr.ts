@@ -170,7 +170,7 @@
     </message>
     <message>
         <source>Print quality:</source>
-        <translation>Qualité d’impression :</translation>
+        <translation>Qualité d’impression&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -304,11 +304,11 @@
     </message>
     <message>
         <source>cannot find out what other users see: %1</source>
-        <translation>impossible de savoir ce que voient les autres utilisateurs : %1</translation>
+        <translation>impossible de savoir ce que voient les autres utilisateurs&#xa0;: %1</translation>
     </message>
     <message>
         <source>the Job Handling extension has no panel for the print dialog</source>
-        <translation>l’extension de gestion des tâches n’a pas de panneau pour la boîte de dialogue d’impression</translation>
+        <translation>l’extension de gestion des travaux n’a pas de panneau pour la boîte de dialogue d’impression</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
@@ -324,11 +324,11 @@
     </message>
     <message>
         <source>cannot store the PPD: %1</source>
-        <translation>impossible d’enregistrer le fichier PPD : %1</translation>
+        <translation>impossible d’enregistrer le fichier PPD&#xa0;: %1</translation>
     </message>
     <message>
         <source>cannot get the PPD of %1: %2</source>
-        <translation>impossible d’obtenir le fichier PPD de %1 : %2</translation>
+        <translation>impossible d’obtenir le fichier PPD de %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>a preset cannot store this folder&apos;s name</source>
@@ -336,11 +336,11 @@
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; this printer has no presets</source>
-        <translation>il n’y a pas de préréglage « %1 » ; cette imprimante n’a pas de préréglages</translation>
+        <translation>il n’y a pas de préréglage «&#xa0;%1&#xa0;»&#xa0;; cette imprimante n’a pas de préréglages</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;; this printer has: %2</source>
-        <translation>il n’y a pas de préréglage « %1 » ; cette imprimante a : %2</translation>
+        <translation>il n’y a pas de préréglage «&#xa0;%1&#xa0;»&#xa0;; cette imprimante a&#xa0;: %2</translation>
     </message>
     <message>
         <source>the preset &quot;%1&quot; is damaged and was left unchanged</source>
@@ -392,7 +392,7 @@
     </message>
     <message>
         <source>cannot connect to the print server %1. Is it running?</source>
-        <translation>connexion impossible au serveur d’impression %1. Est-il en marche ?</translation>
+        <translation>connexion impossible au serveur d’impression %1. Est-il en marche&#xa0;?</translation>
     </message>
     <message>
         <source>the print server %1 stopped reading the document</source>
@@ -408,7 +408,7 @@
     </message>
     <message>
         <source>the print server %1 redirected to another address (HTTP status %2); redirects are not followed</source>
-        <translation>le serveur d’impression %1 redirige vers une autre adresse (état HTTP %2) ; les redirections ne sont pas suivies</translation>
+        <translation>le serveur d’impression %1 redirige vers une autre adresse (état HTTP %2)&#xa0;; les redirections ne sont pas suivies</translation>
     </message>
     <message>
         <source>the print server %1 asks for a password</source>
@@ -424,7 +424,7 @@
     </message>
     <message>
         <source>cannot create a job on &quot;%1&quot;: %2</source>
-        <translation>impossible de créer une tâche sur « %1 » : %2</translation>
+        <translation>impossible de créer un travail sur «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>cannot cancel job %1-%2: %3</source>
@@ -436,15 +436,15 @@
     </message>
     <message>
         <source>the print server refused the job: %1</source>
-        <translation>le serveur d’impression a refusé la tâche : %1</translation>
+        <translation>le serveur d’impression a refusé le travail&#xa0;: %1</translation>
     </message>
     <message>
         <source>could not print %1: %2</source>
-        <translation>impossible d’imprimer %1 : %2</translation>
+        <translation>impossible d’imprimer %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>cannot open the printer &quot;%1&quot;: %2</source>
-        <translation>impossible d’ouvrir l’imprimante « %1 » : %2</translation>
+        <translation>impossible d’ouvrir l’imprimante «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>the print server stopped the job: %1</source>
@@ -456,7 +456,7 @@
     </message>
     <message>
         <source>cannot read this printer&apos;s presets: %1</source>
-        <translation>impossible de lire les préréglages de cette imprimante : %1</translation>
+        <translation>impossible de lire les préréglages de cette imprimante&#xa0;: %1</translation>
     </message>
     <message>
         <source>the job&apos;s options</source>
@@ -472,7 +472,7 @@
     </message>
     <message>
         <source>cannot write the printer&apos;s answer to the temporary folder. Is the disk full?</source>
-        <translation>impossible d’écrire la réponse de l’imprimante dans le dossier temporaire. Le disque est-il plein ?</translation>
+        <translation>impossible d’écrire la réponse de l’imprimante dans le dossier temporaire. Le disque est-il plein&#xa0;?</translation>
     </message>
     <message>
         <source>the printer&apos;s answer is not a list of folders</source>
@@ -484,15 +484,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not accepting jobs</source>
-        <translation>« %1 » n’accepte pas de tâches</translation>
+        <translation>«&#xa0;%1&#xa0;» n’accepte pas de travaux</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not accepting jobs: %2</source>
-        <translation>« %1 » n’accepte pas de tâches : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’accepte pas de travaux&#xa0;: %2</translation>
     </message>
     <message>
         <source>there is no printer named &quot;%1&quot;</source>
-        <translation>il n’y a pas d’imprimante nommée « %1 »</translation>
+        <translation>il n’y a pas d’imprimante nommée «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -768,14 +768,14 @@
     </message>
     <message>
         <source>There is no printer named &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’imprimante nommée « %1 ».</translation>
+        <translation>Il n’y a pas d’imprimante nommée «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>kesto::QueueListModel</name>
     <message>
         <source>Not accepting jobs: %1</source>
-        <translation>N’accepte pas de travaux : %1</translation>
+        <translation>N’accepte pas de travaux&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not accepting jobs</source>
@@ -783,7 +783,7 @@
     </message>
     <message>
         <source>Paused: %1</source>
-        <translation>En pause : %1</translation>
+        <translation>En pause&#xa0;: %1</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -820,7 +820,7 @@
     </message>
     <message>
         <source>Who sees this job?</source>
-        <translation>Qui voit ce travail ?</translation>
+        <translation>Qui voit ce travail&#xa0;?</translation>
     </message>
     <message>
         <source>Other users of the print server see that there is a job, and no more of it.</source>
@@ -828,7 +828,7 @@
     </message>
     <message>
         <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
-        <translation>Les autres utilisateurs du serveur d’impression voient : %1. Ces lignes dans sa règle %2 le masquent :</translation>
+        <translation>Les autres utilisateurs du serveur d’impression voient&#xa0;: %1. Ces lignes dans sa règle %2 le masquent&#xa0;:</translation>
     </message>
 </context>
 </TS>

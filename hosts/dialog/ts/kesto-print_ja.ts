@@ -307,7 +307,7 @@
     </message>
     <message>
         <source>the Job Handling extension has no panel for the print dialog</source>
-        <translation>ジョブ処理の拡張機能に印刷ダイアログ用のパネルがありません</translation>
+        <translation>ジョブ管理の拡張機能に印刷ダイアログ用のパネルがありません</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
