@@ -50,7 +50,7 @@ inline std::string faultOfUnknown(const CLI::App& app) {
 
 /// What is wrong with a command line, in our words where the parser's are hard to read.
 inline std::string faultOf(const CLI::App& app, const CLI::ParseError& error) {
-  const std::string text = error.what();
+  std::string text = error.what();
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) return faultOfUnknown(app);
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
     const std::size_t flag = text.find(" was given a disallowed flag override");

@@ -118,9 +118,10 @@ QList<ImagePlace> placesOf(const QSizeF& image, const SheetPaper& paper, const S
 
 // The sides of one file. Its pages are laid out on a space that is the side, or the side turned so that more
 // pages lie beside than above each other; all pages lie the same way there, those that do not are turned.
-class Layout {
+class DocumentLayout {
  public:
-  Layout(const SheetDocument& document, int number, const SheetPaper& paper, const SheetSettings& settings);
+  DocumentLayout(const SheetDocument& document, int number, const SheetPaper& paper,
+                 const SheetSettings& settings);
 
   QList<SheetSide> sides() const;
 
@@ -143,8 +144,8 @@ class Layout {
   int m_turn;     // from the space to how the printer takes the paper
 };
 
-Layout::Layout(const SheetDocument& document, int number, const SheetPaper& paper,
-               const SheetSettings& settings)
+DocumentLayout::DocumentLayout(const SheetDocument& document, int number, const SheetPaper& paper,
+                               const SheetSettings& settings)
     : m_pages(document.pages),
       m_document(number),
       m_settings(settings),
@@ -178,20 +179,20 @@ Layout::Layout(const SheetDocument& document, int number, const SheetPaper& pape
   m_area = QRectF({margins.top(), margins.right()}, printable.size().transposed());
 }
 
-int Layout::turnOf(int page) const {
+int DocumentLayout::turnOf(int page) const {
   return isLandscape(m_pages.at(page)) == m_isPagesLandscape ? 0 : m_pageTurn;
 }
 
 // What there is of a page around its middle: all of it, as much as the paper is large, or what has the
 // paper's form.
-QSizeF Layout::shown(const QSizeF& page) const {
+QSizeF DocumentLayout::shown(const QSizeF& page) const {
   if (m_scaling == SheetScaling::Fit) return page;
   const QSizeF form =
       isLandscape(page) == isLandscape(m_area.size()) ? m_area.size() : m_area.size().transposed();
   return m_scaling == SheetScaling::None ? form : form.scaled(page, Qt::KeepAspectRatio);
 }
 
-SheetCell Layout::cell(int page, int place) const {
+SheetCell DocumentLayout::cell(int page, int place) const {
   const auto [column, row] = m_settings.columnAndRow(m_grid, place);
   const QSizeF cell(m_area.width() / m_grid.columns, m_area.height() / m_grid.rows);
   const QPointF middle =
@@ -224,7 +225,7 @@ SheetCell Layout::cell(int page, int place) const {
 }
 
 // `first`: of the pages in `order`; a side begins there. A side without pages lies as the file's first page.
-SheetSide Layout::side(const QList<int>& order, int first) const {
+SheetSide DocumentLayout::side(const QList<int>& order, int first) const {
   QList<SheetCell> cells;
   const int count = std::min(m_grid.columns * m_grid.rows, static_cast<int>(order.size()) - first);
   for (int place = 0; place < count; ++place) {
@@ -242,7 +243,7 @@ SheetSide Layout::side(const QList<int>& order, int first) const {
   return {.size = turned(m_space, turn), .turn = 90 * quarters(turn - m_turn), .cells = std::move(cells)};
 }
 
-QList<SheetSide> Layout::sides() const {
+QList<SheetSide> DocumentLayout::sides() const {
   const int pages = static_cast<int>(m_pages.size());
   QList<int> order(m_pages.size());
   std::iota(order.begin(), order.end(), 0);
@@ -303,7 +304,7 @@ SheetPlan::SheetPlan(const QList<SheetDocument>& documents, const SheetPaper& pa
   m_pagesOnSide = settings.isBooklet ? 2 : settings.grid.columns * settings.grid.rows;
   m_sheets = coverOf(covers.section(u',', 0, 0), paper);
   for (int document = 0; document < documents.size(); ++document)
-    m_sheets += sheetsOf(Layout(documents[document], document, paper, settings).sides(), settings);
+    m_sheets += sheetsOf(DocumentLayout(documents[document], document, paper, settings).sides(), settings);
   m_sheets += coverOf(covers.section(u',', 1, 1), paper);
   const int copies = std::max(QByteArray(array.value("copies")).toInt(), 1);
   for (const Sheet& sheet : m_sheets)
