@@ -16,7 +16,7 @@ done
 scratch=$(mktemp -d)
 printer=
 cleanup() {
-  if [[ $printer ]]; then kill "$printer"; fi
+  if [[ $printer ]]; then kill "$printer" && wait "$printer" || true; fi
   rm -rf "$scratch"
 }
 trap cleanup EXIT
