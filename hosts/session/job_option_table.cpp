@@ -12,29 +12,29 @@ using enum OptionGroup;
 
 // key, text, other names, kind, group, initial value, what it needs
 constexpr std::array rows{
-    OptionRow{"copies", QT_TRANSLATE_NOOP("JobOptions", "Copies:"), {}, Number, General, "1"},
+    OptionRow{"copies", QT_TRANSLATE_NOOP("JobOptions", "Copies"), {}, Number, General, "1"},
     OptionRow{"collate", QT_TRANSLATE_NOOP("JobOptions", "Collate"), {}, Switch, General, "true", "copies"},
-    OptionRow{"page-ranges", QT_TRANSLATE_NOOP("JobOptions", "Pages:"), {}, Pages},
-    OptionRow{"PageSize", QT_TRANSLATE_NOOP("JobOptions", "Paper size:"), {"PageRegion", "media"}},
-    OptionRow{"InputSlot", QT_TRANSLATE_NOOP("JobOptions", "Paper source:"), {"media-source"}},
-    OptionRow{"MediaType", QT_TRANSLATE_NOOP("JobOptions", "Paper type:"), {"media-type"}},
-    OptionRow{"Duplex", QT_TRANSLATE_NOOP("JobOptions", "Two-sided:"), {"sides"}},
-    OptionRow{"ColorModel", QT_TRANSLATE_NOOP("JobOptions", "Color:"), {"print-color-mode"}},
-    OptionRow{"cupsPrintQuality", QT_TRANSLATE_NOOP("JobOptions", "Print quality:"), {"print-quality"}},
+    OptionRow{"page-ranges", QT_TRANSLATE_NOOP("JobOptions", "Pages"), {}, Pages},
+    OptionRow{"PageSize", QT_TRANSLATE_NOOP("JobOptions", "Paper size"), {"PageRegion", "media"}},
+    OptionRow{"InputSlot", QT_TRANSLATE_NOOP("JobOptions", "Paper source"), {"media-source"}},
+    OptionRow{"MediaType", QT_TRANSLATE_NOOP("JobOptions", "Paper type"), {"media-type"}},
+    OptionRow{"Duplex", QT_TRANSLATE_NOOP("JobOptions", "Two-sided"), {"sides"}},
+    OptionRow{"ColorModel", QT_TRANSLATE_NOOP("JobOptions", "Color"), {"print-color-mode"}},
+    OptionRow{"cupsPrintQuality", QT_TRANSLATE_NOOP("JobOptions", "Print quality"), {"print-quality"}},
     OptionRow{"OutputMode", nullptr, {"print-quality"}},  // where a PPD has no cupsPrintQuality
     OptionRow{
-        "Resolution", QT_TRANSLATE_NOOP("JobOptions", "Resolution:"), {"printer-resolution", "resolution"}},
-    OptionRow{"OutputBin", QT_TRANSLATE_NOOP("JobOptions", "Output tray:"), {"output-bin"}},
-    OptionRow{"StapleLocation", QT_TRANSLATE_NOOP("JobOptions", "Staple:")},
-    OptionRow{"number-up", QT_TRANSLATE_NOOP("JobOptions", "Pages per sheet:"), {}, Text, Layout, "1"},
+        "Resolution", QT_TRANSLATE_NOOP("JobOptions", "Resolution"), {"printer-resolution", "resolution"}},
+    OptionRow{"OutputBin", QT_TRANSLATE_NOOP("JobOptions", "Output tray"), {"output-bin"}},
+    OptionRow{"StapleLocation", QT_TRANSLATE_NOOP("JobOptions", "Staple")},
+    OptionRow{"number-up", QT_TRANSLATE_NOOP("JobOptions", "Pages per sheet"), {}, Text, Layout, "1"},
     OptionRow{"number-up-layout",
-              QT_TRANSLATE_NOOP("JobOptions", "Page order:"),
+              QT_TRANSLATE_NOOP("JobOptions", "Page order"),
               {},
               Text,
               Layout,
               nullptr,
               "number-up"},
-    OptionRow{"scaling", QT_TRANSLATE_NOOP("JobOptions", "Scaling:"), {}, Text, Layout, "100"},
+    OptionRow{"scaling", QT_TRANSLATE_NOOP("JobOptions", "Scaling"), {}, Text, Layout, "100"},
 };
 
 // A value of the standard, and what PPDs call it; the first that the PPD has is it. Values whose names differ

@@ -79,6 +79,13 @@ void expectInPlace(const QWidget& window) {
   }
 }
 
+void expectOneColon(const QWidget& window) {
+  for (const auto* label : window.findChildren<QLabel*>()) {
+    const QString text = label->text();
+    EXPECT_TRUE(!text.endsWith(u':') || text == withColon(withoutColon(text))) << text;
+  }
+}
+
 void expectNamed(const QWidget& window) {
   for (QWidget* widget : seenIn(window)) {
     if (widget->focusPolicy() == Qt::NoFocus || widget->inherits("QAbstractScrollArea")) continue;
@@ -165,6 +172,7 @@ class DialogLook : public testing::Test {
     SCOPED_TRACE(page.toStdString() + ' ' + theme);
     EXPECT_TRUE(DialogUser::waitUntil([this] { return m_dialog->preview().isSettled(); }, u"the preview"_s));
     expectInPlace(*m_dialog);
+    expectOneColon(*m_dialog);
     expectNamed(*m_dialog);
     expectMnemonics(*m_dialog);
     expectAligned(*m_dialog->findChild<PanelPane*>());

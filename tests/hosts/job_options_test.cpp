@@ -168,8 +168,8 @@ TEST_F(OptionsOfAJob, WhatIsOfTheQueueGoesWithIt) {
       << "without what is kept for the queue or unknown";
   QStringList lines;
   for (const auto& [label, value] : options.summary())
-    lines += label + value;
-  EXPECT_EQ(lines.join(u' '), u"Copies:4 Pages:2 Paper size:Custom 10 x 15 cm Two-sided:Long edge"_s);
+    lines += label + u": "_s + value;
+  EXPECT_EQ(lines.join(u' '), u"Copies: 4 Pages: 2 Paper size: Custom 10 x 15 cm Two-sided: Long edge"_s);
   options.close();
   options.openFor(second);
   EXPECT_EQ(options.travelling(), parseJobOptions(u"PageSize=A5 page-ranges=2 x=y"_s));

@@ -135,7 +135,7 @@ void GeneralPane::addPages(const OptionRow& row) {
     if (!pages.isEmpty()) m_somePages->setChecked(true);
     takePages(row);
   });
-  m_form->addRow(new QLabel(m_options.text(keyOf(row)), this), line);
+  m_form->addRow(new QLabel(withColon(m_options.text(keyOf(row))), this), line);
   m_controls.push_back({&row, line});
 }
 

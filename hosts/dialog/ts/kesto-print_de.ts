@@ -93,12 +93,12 @@
         <translation>Sortieren</translation>
     </message>
     <message>
-        <source>Copies:</source>
-        <translation>Exemplare:</translation>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
     </message>
     <message>
-        <source>Pages:</source>
-        <translation>Seiten:</translation>
+        <source>Pages</source>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>Custom %1 x %2 %3</source>
@@ -113,48 +113,48 @@
         <translation>Ein</translation>
     </message>
     <message>
-        <source>Pages per sheet:</source>
-        <translation>Seiten pro Blatt:</translation>
+        <source>Pages per sheet</source>
+        <translation>Seiten pro Blatt</translation>
     </message>
     <message>
-        <source>Page order:</source>
-        <translation>Seitenreihenfolge:</translation>
+        <source>Page order</source>
+        <translation>Seitenreihenfolge</translation>
     </message>
     <message>
-        <source>Scaling:</source>
-        <translation>Skalierung:</translation>
+        <source>Scaling</source>
+        <translation>Skalierung</translation>
     </message>
     <message>
-        <source>Paper size:</source>
-        <translation>Papierformat:</translation>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
     </message>
     <message>
-        <source>Paper source:</source>
-        <translation>Papierquelle:</translation>
+        <source>Paper source</source>
+        <translation>Papierquelle</translation>
     </message>
     <message>
-        <source>Paper type:</source>
-        <translation>Papiersorte:</translation>
+        <source>Paper type</source>
+        <translation>Papiersorte</translation>
     </message>
     <message>
-        <source>Two-sided:</source>
-        <translation>Beidseitig:</translation>
+        <source>Two-sided</source>
+        <translation>Beidseitig</translation>
     </message>
     <message>
-        <source>Color:</source>
-        <translation>Farbe:</translation>
+        <source>Color</source>
+        <translation>Farbe</translation>
     </message>
     <message>
-        <source>Resolution:</source>
-        <translation>Auflösung:</translation>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
     </message>
     <message>
-        <source>Output tray:</source>
-        <translation>Ausgabefach:</translation>
+        <source>Output tray</source>
+        <translation>Ausgabefach</translation>
     </message>
     <message>
-        <source>Staple:</source>
-        <translation>Heften:</translation>
+        <source>Staple</source>
+        <translation>Heften</translation>
     </message>
     <message>
         <source>Off</source>
@@ -169,8 +169,8 @@
         <translation>Kurze Kante</translation>
     </message>
     <message>
-        <source>Print quality:</source>
-        <translation>Druckqualität:</translation>
+        <source>Print quality</source>
+        <translation>Druckqualität</translation>
     </message>
 </context>
 <context>

@@ -93,12 +93,12 @@
         <translation>Intercalar</translation>
     </message>
     <message>
-        <source>Copies:</source>
-        <translation>Copias:</translation>
+        <source>Copies</source>
+        <translation>Copias</translation>
     </message>
     <message>
-        <source>Pages:</source>
-        <translation>Páginas:</translation>
+        <source>Pages</source>
+        <translation>Páginas</translation>
     </message>
     <message>
         <source>Custom %1 x %2 %3</source>
@@ -113,48 +113,48 @@
         <translation>Sí</translation>
     </message>
     <message>
-        <source>Pages per sheet:</source>
-        <translation>Páginas por hoja:</translation>
+        <source>Pages per sheet</source>
+        <translation>Páginas por hoja</translation>
     </message>
     <message>
-        <source>Page order:</source>
-        <translation>Orden de las páginas:</translation>
+        <source>Page order</source>
+        <translation>Orden de las páginas</translation>
     </message>
     <message>
-        <source>Scaling:</source>
-        <translation>Escala:</translation>
+        <source>Scaling</source>
+        <translation>Escala</translation>
     </message>
     <message>
-        <source>Paper size:</source>
-        <translation>Tamaño del papel:</translation>
+        <source>Paper size</source>
+        <translation>Tamaño del papel</translation>
     </message>
     <message>
-        <source>Paper source:</source>
-        <translation>Origen del papel:</translation>
+        <source>Paper source</source>
+        <translation>Origen del papel</translation>
     </message>
     <message>
-        <source>Paper type:</source>
-        <translation>Tipo de papel:</translation>
+        <source>Paper type</source>
+        <translation>Tipo de papel</translation>
     </message>
     <message>
-        <source>Two-sided:</source>
-        <translation>Doble cara:</translation>
+        <source>Two-sided</source>
+        <translation>Doble cara</translation>
     </message>
     <message>
-        <source>Color:</source>
-        <translation>Color:</translation>
+        <source>Color</source>
+        <translation>Color</translation>
     </message>
     <message>
-        <source>Resolution:</source>
-        <translation>Resolución:</translation>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
     </message>
     <message>
-        <source>Output tray:</source>
-        <translation>Bandeja de salida:</translation>
+        <source>Output tray</source>
+        <translation>Bandeja de salida</translation>
     </message>
     <message>
-        <source>Staple:</source>
-        <translation>Grapado:</translation>
+        <source>Staple</source>
+        <translation>Grapado</translation>
     </message>
     <message>
         <source>Off</source>
@@ -169,8 +169,8 @@
         <translation>Borde corto</translation>
     </message>
     <message>
-        <source>Print quality:</source>
-        <translation>Calidad de impresión:</translation>
+        <source>Print quality</source>
+        <translation>Calidad de impresión</translation>
     </message>
 </context>
 <context>

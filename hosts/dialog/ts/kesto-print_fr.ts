@@ -93,12 +93,12 @@
         <translation>Assembler</translation>
     </message>
     <message>
-        <source>Copies:</source>
-        <translation>Copies&#xa0;:</translation>
+        <source>Copies</source>
+        <translation>Copies</translation>
     </message>
     <message>
-        <source>Pages:</source>
-        <translation>Pages&#xa0;:</translation>
+        <source>Pages</source>
+        <translation>Pages</translation>
     </message>
     <message>
         <source>Custom %1 x %2 %3</source>
@@ -113,48 +113,48 @@
         <translation>Oui</translation>
     </message>
     <message>
-        <source>Pages per sheet:</source>
-        <translation>Pages par feuille&#xa0;:</translation>
+        <source>Pages per sheet</source>
+        <translation>Pages par feuille</translation>
     </message>
     <message>
-        <source>Page order:</source>
-        <translation>Ordre des pages&#xa0;:</translation>
+        <source>Page order</source>
+        <translation>Ordre des pages</translation>
     </message>
     <message>
-        <source>Scaling:</source>
-        <translation>Mise à l’échelle&#xa0;:</translation>
+        <source>Scaling</source>
+        <translation>Mise à l’échelle</translation>
     </message>
     <message>
-        <source>Paper size:</source>
-        <translation>Format du papier&#xa0;:</translation>
+        <source>Paper size</source>
+        <translation>Format du papier</translation>
     </message>
     <message>
-        <source>Paper source:</source>
-        <translation>Source du papier&#xa0;:</translation>
+        <source>Paper source</source>
+        <translation>Source du papier</translation>
     </message>
     <message>
-        <source>Paper type:</source>
-        <translation>Type de papier&#xa0;:</translation>
+        <source>Paper type</source>
+        <translation>Type de papier</translation>
     </message>
     <message>
-        <source>Two-sided:</source>
-        <translation>Recto verso&#xa0;:</translation>
+        <source>Two-sided</source>
+        <translation>Recto verso</translation>
     </message>
     <message>
-        <source>Color:</source>
-        <translation>Couleur&#xa0;:</translation>
+        <source>Color</source>
+        <translation>Couleur</translation>
     </message>
     <message>
-        <source>Resolution:</source>
-        <translation>Résolution&#xa0;:</translation>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
     </message>
     <message>
-        <source>Output tray:</source>
-        <translation>Bac de sortie&#xa0;:</translation>
+        <source>Output tray</source>
+        <translation>Bac de sortie</translation>
     </message>
     <message>
-        <source>Staple:</source>
-        <translation>Agrafage&#xa0;:</translation>
+        <source>Staple</source>
+        <translation>Agrafage</translation>
     </message>
     <message>
         <source>Off</source>
@@ -169,8 +169,8 @@
         <translation>Bord court</translation>
     </message>
     <message>
-        <source>Print quality:</source>
-        <translation>Qualité d’impression&#xa0;:</translation>
+        <source>Print quality</source>
+        <translation>Qualité d’impression</translation>
     </message>
 </context>
 <context>

@@ -93,12 +93,12 @@
         <translation>部単位で印刷</translation>
     </message>
     <message>
-        <source>Copies:</source>
-        <translation>部数:</translation>
+        <source>Copies</source>
+        <translation>部数</translation>
     </message>
     <message>
-        <source>Pages:</source>
-        <translation>ページ:</translation>
+        <source>Pages</source>
+        <translation>ページ</translation>
     </message>
     <message>
         <source>Custom %1 x %2 %3</source>
@@ -113,48 +113,48 @@
         <translation>オン</translation>
     </message>
     <message>
-        <source>Pages per sheet:</source>
-        <translation>1 枚あたりのページ数:</translation>
+        <source>Pages per sheet</source>
+        <translation>1 枚あたりのページ数</translation>
     </message>
     <message>
-        <source>Page order:</source>
-        <translation>ページの順序:</translation>
+        <source>Page order</source>
+        <translation>ページの順序</translation>
     </message>
     <message>
-        <source>Scaling:</source>
-        <translation>拡大縮小:</translation>
+        <source>Scaling</source>
+        <translation>拡大縮小</translation>
     </message>
     <message>
-        <source>Paper size:</source>
-        <translation>用紙サイズ:</translation>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
     </message>
     <message>
-        <source>Paper source:</source>
-        <translation>給紙方法:</translation>
+        <source>Paper source</source>
+        <translation>給紙方法</translation>
     </message>
     <message>
-        <source>Paper type:</source>
-        <translation>用紙の種類:</translation>
+        <source>Paper type</source>
+        <translation>用紙の種類</translation>
     </message>
     <message>
-        <source>Two-sided:</source>
-        <translation>両面印刷:</translation>
+        <source>Two-sided</source>
+        <translation>両面印刷</translation>
     </message>
     <message>
-        <source>Color:</source>
-        <translation>カラー:</translation>
+        <source>Color</source>
+        <translation>カラー</translation>
     </message>
     <message>
-        <source>Resolution:</source>
-        <translation>解像度:</translation>
+        <source>Resolution</source>
+        <translation>解像度</translation>
     </message>
     <message>
-        <source>Output tray:</source>
-        <translation>排紙トレイ:</translation>
+        <source>Output tray</source>
+        <translation>排紙トレイ</translation>
     </message>
     <message>
-        <source>Staple:</source>
-        <translation>ステープル:</translation>
+        <source>Staple</source>
+        <translation>ステープル</translation>
     </message>
     <message>
         <source>Off</source>
@@ -169,8 +169,8 @@
         <translation>短辺とじ</translation>
     </message>
     <message>
-        <source>Print quality:</source>
-        <translation>印刷品質:</translation>
+        <source>Print quality</source>
+        <translation>印刷品質</translation>
     </message>
 </context>
 <context>

@@ -93,12 +93,12 @@
         <translation>逐份打印</translation>
     </message>
     <message>
-        <source>Copies:</source>
-        <translation>份数:</translation>
+        <source>Copies</source>
+        <translation>份数</translation>
     </message>
     <message>
-        <source>Pages:</source>
-        <translation>页面:</translation>
+        <source>Pages</source>
+        <translation>页面</translation>
     </message>
     <message>
         <source>Custom %1 x %2 %3</source>
@@ -113,48 +113,48 @@
         <translation>开</translation>
     </message>
     <message>
-        <source>Pages per sheet:</source>
-        <translation>每张页数:</translation>
+        <source>Pages per sheet</source>
+        <translation>每张页数</translation>
     </message>
     <message>
-        <source>Page order:</source>
-        <translation>页面顺序:</translation>
+        <source>Page order</source>
+        <translation>页面顺序</translation>
     </message>
     <message>
-        <source>Scaling:</source>
-        <translation>缩放:</translation>
+        <source>Scaling</source>
+        <translation>缩放</translation>
     </message>
     <message>
-        <source>Paper size:</source>
-        <translation>纸张大小:</translation>
+        <source>Paper size</source>
+        <translation>纸张大小</translation>
     </message>
     <message>
-        <source>Paper source:</source>
-        <translation>纸张来源:</translation>
+        <source>Paper source</source>
+        <translation>纸张来源</translation>
     </message>
     <message>
-        <source>Paper type:</source>
-        <translation>纸张类型:</translation>
+        <source>Paper type</source>
+        <translation>纸张类型</translation>
     </message>
     <message>
-        <source>Two-sided:</source>
-        <translation>双面打印:</translation>
+        <source>Two-sided</source>
+        <translation>双面打印</translation>
     </message>
     <message>
-        <source>Color:</source>
-        <translation>颜色:</translation>
+        <source>Color</source>
+        <translation>颜色</translation>
     </message>
     <message>
-        <source>Resolution:</source>
-        <translation>分辨率:</translation>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
     </message>
     <message>
-        <source>Output tray:</source>
-        <translation>出纸盒:</translation>
+        <source>Output tray</source>
+        <translation>出纸盒</translation>
     </message>
     <message>
-        <source>Staple:</source>
-        <translation>装订:</translation>
+        <source>Staple</source>
+        <translation>装订</translation>
     </message>
     <message>
         <source>Off</source>
@@ -169,8 +169,8 @@
         <translation>短边</translation>
     </message>
     <message>
-        <source>Print quality:</source>
-        <translation>打印质量：</translation>
+        <source>Print quality</source>
+        <translation>打印质量</translation>
     </message>
 </context>
 <context>
