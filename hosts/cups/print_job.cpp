@@ -120,6 +120,17 @@ Outcome outcomeOfState(ipp_t* reply) {
   return Outcome::failed(Faults::tr("the print server stopped the job: %1").arg(reasons.join(u", ")));
 }
 
+// Names the type that the job says its document has, else what the file's name suggests.
+QString refusalOfType(const QString& file, const QByteArray& format) {
+  const QMimeDatabase types;
+  const QMimeType type = format == CUPS_FORMAT_AUTO
+                             ? types.mimeTypeForFile(file, QMimeDatabase::MatchExtension)
+                             : types.mimeTypeForName(QString::fromUtf8(format));
+  if (!type.isValid() || type.isDefault())
+    return Faults::tr("this printer does not accept this type of file");
+  return Faults::tr("this printer does not accept this type of file (%1)").arg(type.comment());
+}
+
 // A job that is created but not complete; it is cancelled unless it is kept. It is made with single requests,
 // because libcups's calls for a job first ask the printer for every attribute, value by value.
 class OpenJob {
@@ -168,11 +179,9 @@ class OpenJob {
     Outcome sent = m_server.order(request.get(), m_resource, &reply, copy);
     if (sent) sent = outcomeOfState(reply.get());
     if (sent || !read) return sent;
-    QString reason = sent.reason();
-    if (ippGetStatusCode(reply.get()) == IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED) {
-      const QMimeType type = QMimeDatabase().mimeTypeForFile(document.name, QMimeDatabase::MatchExtension);
-      reason = Faults::tr("this printer does not accept this type of file (%1)").arg(type.comment());
-    }
+    const bool isTypeRefused =
+        ippGetStatusCode(reply.get()) == IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED;
+    const QString reason = isTypeRefused ? refusalOfType(document.name, format) : sent.reason();
     return Outcome::failed(Faults::tr("could not print %1: %2").arg(document.name, reason));
   }
 

@@ -383,14 +383,19 @@ TEST_F(LpTest, AnAnswerWithoutWhatWasAskedIsAFault) {
   const QByteArray aborted =
       "\2\x23\0\x09job-state\0\4\0\0\0\x08\x44\0\x11job-state-reasons\0\x11"
       "aborted-by-system"_ba;
+  const QString file = QFileInfo(m_ppd.path()).fileName();
   const std::tuple<int, QByteArray, QString, QString> cases[] = {
       {IPP_OP_GET_JOB_ATTRIBUTES, reply("\5\7", {}), u"--check q"_s,
        u"cannot find out what other users see: server-error-busy"_s},
       {IPP_OP_GET_JOB_ATTRIBUTES, reply(ok, {}), u"--check q"_s,
        u"cannot find out what other users see: the print server's answer does not have the job"_s},
       {IPP_OP_SEND_DOCUMENT, reply(ok, aborted), u"-d q "_s + m_ppd.path(),
-       u"could not print %1: the print server stopped the job: aborted-by-system"_s.arg(
-           QFileInfo(m_ppd.path()).fileName())},
+       u"could not print %1: the print server stopped the job: aborted-by-system"_s.arg(file)},
+      {IPP_OP_SEND_DOCUMENT, reply("\4\12", {}), u"-d q "_s + m_ppd.path(),
+       u"could not print %1: this printer does not accept this type of file"_s.arg(file)},
+      {IPP_OP_SEND_DOCUMENT, reply("\4\12", {}), u"-d q -o document-format=image/png "_s + m_ppd.path(),
+       u"could not print %1: this printer does not accept this type of file (PNG image)"_s.arg(file)},
+      {IPP_OP_CREATE_JOB, reply("\5\6", {}), u"-d q "_s + m_ppd.path(), u"\"q\" is not accepting jobs"_s},
   };
   for (const auto& [operation, answer, arguments, fault] : cases) {
     const HostileServer server(operation, {.once = answer, .closes = true});

@@ -494,6 +494,10 @@
         <source>there is no printer named &quot;%1&quot;</source>
         <translation>es gibt keinen Drucker namens „%1“</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file</source>
+        <translation>dieser Drucker nimmt diesen Dateityp nicht an</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

@@ -494,6 +494,10 @@
         <source>there is no printer named &quot;%1&quot;</source>
         <translation>no hay ninguna impresora llamada «%1»</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file</source>
+        <translation>esta impresora no acepta este tipo de archivo</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

@@ -494,6 +494,10 @@
         <source>there is no printer named &quot;%1&quot;</source>
         <translation>il n’y a pas d’imprimante nommée «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file</source>
+        <translation>cette imprimante n’accepte pas ce type de fichier</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

@@ -493,6 +493,10 @@
         <source>there is no printer named &quot;%1&quot;</source>
         <translation>「%1」という名前のプリンターはありません</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file</source>
+        <translation>このプリンターはこの種類のファイルを受け付けません</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>

@@ -493,6 +493,10 @@
         <source>there is no printer named &quot;%1&quot;</source>
         <translation>没有名为“%1”的打印机</translation>
     </message>
+    <message>
+        <source>this printer does not accept this type of file</source>
+        <translation>此打印机不接受这种类型的文件</translation>
+    </message>
 </context>
 <context>
     <name>kesto::GeneralPane</name>
