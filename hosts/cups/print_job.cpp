@@ -38,7 +38,7 @@ struct Document {
   qint64 size = -1;
 };
 
-// Opening a named pipe waits for a writer; a signal ends the wait if the job is to be stopped.
+// Opening a named pipe waits for a writer; a signal ends the wait if the job should stop.
 int openForReading(const QByteArray& path, const std::function<bool()>& goesOn) {
   int descriptor = -1;
   do

@@ -16,7 +16,7 @@
 
 namespace kesto {
 
-/// What is to be printed: files, which stay open after they are chosen, and the contents of pipes and other
+/// The document to print: files, which stay open after they are chosen, and the contents of pipes and other
 /// sources that can be read only once, which a thread copies. Signals are emitted in the thread of this
 /// object.
 class Document : public QObject {

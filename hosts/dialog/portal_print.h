@@ -37,7 +37,7 @@ class PortalPrint : public QObject {
   QJsonObject m_pageSetup;
   PortalChoice m_choice;
   bool m_isChosen = false;
-  bool m_hasFailed = false;  // the document cannot be printed, and the user is told
+  bool m_hasFailed = false;  // the document cannot be printed, and the user has seen why
   bool m_isTaken = false;    // the document is here whole, and the user wants it printed
   std::unique_ptr<PrintDialog> m_dialog;
 };

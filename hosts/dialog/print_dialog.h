@@ -58,7 +58,7 @@ class PrintDialog : public QDialog {
  Q_SIGNALS:
   /// The queues are listed.
   void listed();
-  /// The chosen queue can be printed on, or cannot be had.
+  /// The chosen queue can be printed on, or cannot be opened.
   void settled();
   /// The user has pressed Print and the panel agrees. With a document the job is on its way; without one the
   /// dialog is hidden, and sends the job when the document is ready.

@@ -40,7 +40,7 @@ struct Entries {
       texts;  ///< For the folder, "quick" and "main" mean the fixed ones.
   std::array<std::optional<bool>, entryCount> remember;  ///< Hold buttons to turn on (true) or off (false).
 
-  /// Whether a hold button is to be turned on or off.
+  /// Whether to turn a hold button on or off.
   bool asksForMemory() const {
     return std::any_of(remember.begin(), remember.end(), [](const auto& turn) { return turn.has_value(); });
   }

@@ -273,8 +273,10 @@ std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
   if (fault.isNull()) return {};
   // The parser may have stopped before it came to it.
   const bool json = std::ranges::count(argv, argv + argc, std::string_view("--json")) > 0;
-  Messages(json).error(fault);
-  if (!json) std::cerr << "Try 'kesto-lp --help'.\n";
+  if (json)
+    Messages(json).error(fault);
+  else
+    failUsage("kesto-lp", fault.toStdString());
   return ExitUsage;
 }
 

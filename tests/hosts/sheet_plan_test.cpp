@@ -83,7 +83,7 @@ void forEachRow(const Visit& visit) {
     visit(Row(line));
 }
 
-// Margins that differ, so that none is taken for another.
+// All four margins differ, so that a mix-up fails the test.
 const SheetPaper portrait{.size = {595, 842}, .margins = {10, 20, 30, 40}};
 
 QString shown(SheetSide side) {

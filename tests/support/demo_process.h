@@ -37,7 +37,7 @@ inline void waitFor(const std::function<bool()>& isSo) {
   QTimer wake;
   wake.start(20);
   while (!isSo()) {
-    ASSERT_FALSE(deadline.hasExpired()) << "waited in vain";
+    ASSERT_FALSE(deadline.hasExpired()) << "timed out";
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }

@@ -82,7 +82,7 @@ Outcome DialogUser::choose(const QString& name, int index) {
 Outcome DialogUser::waitUntil(const std::function<bool()>& isSo, const QString& what, int milliseconds) {
   return QTest::qWaitFor(isSo, milliseconds)
              ? Outcome::done()
-             : Outcome::failed(QStringLiteral("in vain waited for %1").arg(what));
+             : Outcome::failed(QStringLiteral("timed out waiting for %1").arg(what));
 }
 
 }  // namespace kesto
