@@ -115,8 +115,9 @@ QString JobOptions::pages() const {
 
 std::vector<OptionChoice> JobOptions::choices(const QString& option) const {
   std::vector<OptionChoice> choices = m_choices.choices(option);
-  for (OptionChoice& each : choices)
-    each.text = textOf(option, each.keyword);
+  for (OptionChoice& each : choices) {
+    if (const QString own = ownText(option, each.keyword); !own.isNull()) each.text = own;
+  }
   return choices;
 }
 
@@ -126,12 +127,17 @@ QString JobOptions::text(const QString& option) const {
   return isOurs ? QCoreApplication::translate("JobOptions", row->text) : m_choices.text(option);
 }
 
-QString JobOptions::textOf(const QString& option, const QString& value) const {
+QString JobOptions::ownText(const QString& option, const QString& value) const {
   const OptionRow* row = rowOf(option, m_choices);
   if (row != nullptr && row->kind == OptionKind::Switch)
     return value == u"true" ? QCoreApplication::translate("JobOptions", "On")
                             : QCoreApplication::translate("JobOptions", "Off");
-  if (const char* ours = textOfChoice(option, value)) return QCoreApplication::translate("JobOptions", ours);
+  const char* ours = textOfChoice(option, value);
+  return ours == nullptr ? QString() : QCoreApplication::translate("JobOptions", ours);
+}
+
+QString JobOptions::textOf(const QString& option, const QString& value) const {
+  if (QString own = ownText(option, value); !own.isNull()) return own;
   for (const OptionChoice& each : m_choices.choices(option)) {
     if (each.keyword == value) return each.text;
   }

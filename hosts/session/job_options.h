@@ -95,6 +95,8 @@ class JobOptions : public QObject {
     return m_given.at(static_cast<std::size_t>(source));
   }
   QString defaultOf(const QString& key) const;
+  /// The text of ours for a value; null when only the PPD has one.
+  QString ownText(const QString& option, const QString& value) const;
   bool travels(const QString& key) const;
   void resolve();
   void markChanges(const Values& before);
