@@ -13,12 +13,11 @@ namespace kesto {
 
 /// One text entry: everything for its options, their help and its messages.
 struct FieldRow {
-  const char* name;  ///< The option is "--" and the name; --remember and --forget take the name alone.
-  const char*
-      argument;        ///< The option's argument; null for an entry that cannot be given on the command line.
-  const char* prompt;  ///< The prompt for a secret entry at the terminal; null for the others.
-  const char* help;    ///< A description.
-  const char* limit;   ///< What the field's filter accepts; null without a filter.
+  const char* name;         ///< The option is "--" and the name; --remember and --forget take the name alone.
+  const char* argument;     ///< Of the option; null for an entry that no command line can give.
+  const char* prompt;       ///< The prompt for a secret entry at the terminal; null for the others.
+  const char* help;         ///< A description.
+  const char* limit;        ///< What the field's filter accepts; null without a filter.
   const char* whenRefused;  ///< Why the panel refuses it, if not for lack of --hold.
 
   bool isSecret() const { return prompt != nullptr; }
@@ -35,9 +34,8 @@ inline constexpr int noHold = -1;
 
 /// What the user has given for the panel. None leaves a control as it is.
 struct Entries {
-  std::optional<int> hold;  ///< A position in `holdChoices`, or `noHold`.
-  std::array<std::optional<QString>, entryCount>
-      texts;  ///< For the folder, "quick" and "main" mean the fixed ones.
+  std::optional<int> hold;                               ///< A position in `holdChoices`, or `noHold`.
+  std::array<std::optional<QString>, entryCount> texts;  ///< Folders "quick" and "main" are the fixed ones.
   std::array<std::optional<bool>, entryCount> remember;  ///< Hold buttons to turn on (true) or off (false).
 
   /// Whether to turn a hold button on or off.
