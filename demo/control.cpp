@@ -23,7 +23,7 @@ QString wordOf(Release release) {
     case Release::Printed:
       return QStringLiteral("printed");
     case Release::Refused:
-      return QStringLiteral("refused");
+      return QStringLiteral("wrong pass code");
     case Release::NotHeld:
       return QStringLiteral("not held");
     case Release::NoSuchJob:

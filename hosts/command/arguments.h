@@ -2,10 +2,12 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
 #include <iostream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/shown_text.h"
 
@@ -34,6 +36,17 @@ inline CLI::Validator wholeNumber(const std::string& name, int least, int most) 
     return {};
   };
   return {read, std::to_string(least) + " to " + std::to_string(most)};
+}
+
+/// Accepts only one of the words. Its message names them.
+inline CLI::Validator oneOf(const std::vector<std::string>& words) {
+  std::string list;
+  for (std::size_t i = 0; i < words.size(); ++i)
+    list += (i == 0 ? "" : i + 1 == words.size() ? " or " : ", ") + words[i];
+  const auto check = [words, list](const std::string& word) {
+    return std::ranges::find(words, word) == words.end() ? "must be " + list : std::string();
+  };
+  return {check, list};
 }
 
 /// What is wrong with the arguments that the parser does not know; empty for nothing. An unknown option is

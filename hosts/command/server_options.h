@@ -4,8 +4,8 @@
 #include <CLI/CLI.hpp>
 #include <QtCore/QString>
 #include <array>
+#include <charconv>
 #include <chrono>
-#include <cmath>
 #include <string>
 
 namespace kesto {
@@ -19,11 +19,15 @@ std::array<CLI::Option*, 2> addServerOptions(CLI::App& app, Server* server) {
         option, [name](const std::string& given) { *name = QString::fromStdString(given); });
   };
   app.add_flag("-E", server->encrypt);
-  const auto setLimit = [server](double seconds) {
-    if (std::isnan(seconds)) throw CLI::ValidationError("--timeout", "must be a number");
+  const auto setLimit = [server](const std::string& text) {
+    double seconds = 0;
+    const char* end = text.data() + text.size();
+    const bool isNumber = std::from_chars(text.data(), end, seconds).ptr == end;
+    if (!isNumber || !(seconds >= 0.1 && seconds <= 3600))
+      throw CLI::ValidationError("--timeout", "must be between 0.1 and 3600 seconds");
     server->limit = std::chrono::milliseconds(static_cast<int>(seconds * 1000));
   };
-  app.add_option_function<double>("--timeout", setLimit)->check(CLI::Range(0.1, 3600.0));
+  app.add_option_function<std::string>("--timeout", setLimit);
   return {addName("-h", &server->address), addName("-U", &server->user)};
 }
 

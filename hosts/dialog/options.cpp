@@ -40,7 +40,7 @@ class CommandLine {
     addText("-t", &m_options.title);
     addServerOptions(m_app, &m_options.server);
     addText("--screenshot", &m_options.screenshot);
-    addText("--pane", &m_options.pane)->check(CLI::IsMember({"general", "job-handling", "summary"}));
+    addText("--pane", &m_options.pane)->check(oneOf({"general", "job-handling", "summary"}));
     m_app.add_flag("--timings", m_options.timings);
     const auto setCopies = [this](const std::string& copies) {
       m_options.jobOptions.insert(QStringLiteral("copies"), QString::fromStdString(copies));

@@ -209,7 +209,7 @@ void CommandLine::addHold() {
     m_options.entries.hold = static_cast<int>(std::ranges::find(holdChoices, choice) - holdChoices.begin());
   };
   CLI::Option* hold = m_app.add_option_function<std::string>("--hold", choose);
-  hold->check(CLI::IsMember(std::vector<std::string>(holdChoices.begin(), holdChoices.end())));
+  hold->check(oneOf({holdChoices.begin(), holdChoices.end()}));
   m_app.add_flag_callback("--no-hold", [this] { m_options.entries.hold = noHold; })->excludes(hold);
 }
 
@@ -248,7 +248,7 @@ void CommandLine::addMemory(const char* name, bool remember) {
   m_app.add_option_function<std::vector<std::string>>(name, turn)
       ->delimiter(',')
       ->allow_extra_args(false)
-      ->check(CLI::IsMember(names));
+      ->check(oneOf(names));
 }
 
 void CommandLine::addPresets() {

@@ -87,7 +87,7 @@ TEST_F(LpEntries, RefusalsGiveAReasonAndNoSecrets) {
       {u"-n 0"_s, 2, u"-n: copies must be between 1 and 9999"_s},
       {u"-n 0x10"_s, 2, u"-n: copies must be between 1 and 9999"_s},
       {u"-q 101"_s, 2, u"-q: priority must be between 1 and 100"_s},
-      {u"--timeout nan"_s, 2, u"--timeout: must be a number"_s},
+      {u"--timeout nan"_s, 2, u"--timeout: must be between 0.1 and 3600 seconds"_s},
       {u"--json=no"_s, 2, u"--json takes no value"_s},
       {u"--list-presets"_s, 2,
        u"use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset"_s},
