@@ -4,6 +4,7 @@
 
 #include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
+#include <algorithm>
 #include <cmath>
 #include <span>
 
@@ -35,6 +36,17 @@ const ppd_option_t* PpdChoices::find(const QString& option) const {
 
 bool PpdChoices::takesCustom(const QString& option) const {
   return m_ppd != nullptr && ppdFindCustomOption(m_ppd, option.toUtf8().constData()) != nullptr;
+}
+
+bool PpdChoices::isIn(const QLocale& language) const {
+  if (m_ppd == nullptr) return false;
+  const QString own = QString::fromUtf8(m_ppd->lang_version == nullptr ? "English" : m_ppd->lang_version);
+  if (own.contains(QLocale::languageToString(language.language()), Qt::CaseInsensitive)) return true;
+  const ppd_attr_t* others = ppdFindAttr(m_ppd, "cupsLanguages", nullptr);
+  const QStringList names =
+      QString::fromUtf8(others == nullptr ? nullptr : others->value).split(u' ', Qt::SkipEmptyParts);
+  return std::ranges::any_of(
+      names, [&](const QString& each) { return QLocale(each).language() == language.language(); });
 }
 
 QString PpdChoices::text(const QString& option) const {

@@ -1,6 +1,7 @@
 // What the queue of a PPD offers for the options of a job.
 #pragma once
 
+#include <QtCore/QLocale>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <optional>
@@ -43,6 +44,8 @@ class PpdChoices {
   bool has(const QString& option) const { return find(option) != nullptr; }
   /// Whether the option also accepts custom values, such as "Custom.100x200mm".
   bool takesCustom(const QString& option) const;
+  /// Whether the texts are in a language, as the PPD says of itself.
+  bool isIn(const QLocale& language) const;
   /// As the PPD names the option for people; null when there is none.
   QString text(const QString& option) const;
   /// The values of an option, without "Custom", which is not a value by itself.

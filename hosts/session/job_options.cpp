@@ -7,6 +7,8 @@
 #include "hosts/cups/queue.h"
 #include "hosts/cups/queue_options.h"
 #include "hosts/session/page_range.h"
+#include "hosts/session/standard_texts.h"
+#include "platform/locale_name.h"
 
 namespace kesto {
 namespace {
@@ -27,6 +29,7 @@ QString customText(const QString& choice) {
 void JobOptions::openFor(const Queue& queue) {
   close();
   m_choices = PpdChoices(queue.ppd.get());
+  m_isInUsersLanguage = m_choices.isIn(userLanguage());
   m_values.clear();  // their names were those of no queue
   given(Source::Kept) = keptOptions(queue);
   resolve();
@@ -116,7 +119,7 @@ QString JobOptions::pages() const {
 std::vector<OptionChoice> JobOptions::choices(const QString& option) const {
   std::vector<OptionChoice> choices = m_choices.choices(option);
   for (OptionChoice& each : choices) {
-    if (const QString own = ownText(option, each.keyword); !own.isNull()) each.text = own;
+    if (const QString own = ownText(option, each.keyword, each.text); !own.isNull()) each.text = own;
   }
   return choices;
 }
@@ -127,20 +130,22 @@ QString JobOptions::text(const QString& option) const {
   return isOurs ? QCoreApplication::translate("JobOptions", row->text) : m_choices.text(option);
 }
 
-QString JobOptions::ownText(const QString& option, const QString& value) const {
+QString JobOptions::ownText(const QString& option, const QString& value, const QString& text) const {
   const OptionRow* row = rowOf(option, m_choices);
   if (row != nullptr && row->kind == OptionKind::Switch)
     return value == u"true" ? QCoreApplication::translate("JobOptions", "On")
                             : QCoreApplication::translate("JobOptions", "Off");
-  const char* ours = textOfChoice(option, value);
-  return ours == nullptr ? QString() : QCoreApplication::translate("JobOptions", ours);
+  if (const char* ours = textOfChoice(option, value); ours != nullptr)
+    return QCoreApplication::translate("JobOptions", ours);
+  const bool isPpds = !text.isEmpty() && m_isInUsersLanguage && !isStandardText(option, value, text);
+  return isPpds ? QString() : standardText(option, value);
 }
 
 QString JobOptions::textOf(const QString& option, const QString& value) const {
-  if (QString own = ownText(option, value); !own.isNull()) return own;
-  for (const OptionChoice& each : m_choices.choices(option)) {
+  for (const OptionChoice& each : choices(option)) {
     if (each.keyword == value) return each.text;
   }
+  if (QString own = ownText(option, value, {}); !own.isNull()) return own;
   return value.startsWith(u"Custom.") ? customText(value) : value;
 }
 

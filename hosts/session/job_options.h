@@ -95,13 +95,14 @@ class JobOptions : public QObject {
     return m_given.at(static_cast<std::size_t>(source));
   }
   QString defaultOf(const QString& key) const;
-  /// The text of ours for a value; null when only the PPD has one.
-  QString ownText(const QString& option, const QString& value) const;
+  /// The text of ours for a value; null when the PPD's `text` is better.
+  QString ownText(const QString& option, const QString& value, const QString& text) const;
   bool travels(const QString& key) const;
   void resolve();
   void markChanges(const Values& before);
 
   PpdChoices m_choices;
+  bool m_isInUsersLanguage = false;  // the texts of the PPD are
   std::array<QMap<QString, QString>, 5> m_given;
   Values m_values;
   ResolvedOptions m_kept;

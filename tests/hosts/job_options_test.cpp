@@ -27,7 +27,7 @@ const QByteArray moreChoices = R"(*VariablePaperSize: True
 *CloseUI: *MediaType
 *OpenUI *OutputBin/Output Bin: PickOne
 *DefaultOutputBin: Upper
-*OutputBin Upper/Upper: ""
+*OutputBin Upper/The shelf: ""
 *OutputBin FaceDown/Face Down: ""
 *CloseUI: *OutputBin
 *OpenUI *OutputMode/Quality: PickOne
@@ -146,6 +146,30 @@ TEST_F(OptionsOfAJob, EachIsOneChoiceAndTravelsOnceByItsNameOnTheQueue) {
     EXPECT_EQ(options.travelling(), parseJobOptions(QString::fromLatin1(each.travels)));
     EXPECT_EQ(options.refused().join(u' '), QLatin1String(each.refused));
   }
+}
+
+TEST_F(OptionsOfAJob, ValuesHaveOurTextsWhereThePrinterHasNoBetterOnes) {
+  const std::tuple<QString, QString, QString> cases[] = {
+      {u"PageSize"_s, u"A4"_s, u"A4"_s},
+      {u"InputSlot"_s, u"Tray2"_s, u"Tray 2"_s},
+      {u"InputSlot"_s, u"tray-7"_s, u"Tray 7"_s},
+      {u"InputSlot"_s, u"by-pass-tray"_s, u"Multi-purpose tray"_s},
+      {u"PageSize"_s, u"EnvDL"_s, u"Envelope DL"_s},
+      {u"PageSize"_s, u"na_number-10_4.125x9.5in"_s, u"Envelope #10"_s},
+      {u"PageSize"_s, u"A4.Fullbleed"_s, u"A4, borderless"_s},
+      {u"MediaType"_s, u"Transparency"_s, u"Transparency"_s},
+      {u"ColorModel"_s, u"Gray"_s, u"Black and white"_s},
+      {u"OutputBin"_s, u"Upper"_s, u"The shelf"_s},
+      {u"OutputBin"_s, u"FaceDown"_s, u"Face down"_s},
+      {u"StapleLocation"_s, u"StapleDualLeft"_s, u"Two staples, left"_s},
+      {u"Finish"_s, u"staple-top-left"_s, u"Staple, top left"_s},
+      {u"Finish"_s, u"Vendor7"_s, u"Vendor7"_s},
+  };
+  const Queue open = queue("more", "");
+  JobOptions options;
+  options.openFor(open);
+  for (const auto& [option, value, text] : cases)
+    EXPECT_EQ(options.textOf(option, value), text);
 }
 
 TEST_F(OptionsOfAJob, WhatIsOfTheQueueGoesWithIt) {

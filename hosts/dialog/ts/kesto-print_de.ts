@@ -182,6 +182,485 @@
     </message>
 </context>
 <context>
+    <name>StandardTexts</name>
+    <message>
+        <source>Letter</source>
+        <translation>US Letter</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>US Legal</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>Executive</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>Tabloid</translation>
+    </message>
+    <message>
+        <source>Ledger</source>
+        <translation>Ledger</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Halbes US Letter</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>Postkarte (Japan)</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>Doppelpostkarte (Japan)</translation>
+    </message>
+    <message>
+        <source>Envelope Monarch</source>
+        <translation>Umschlag Monarch</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>Umschlag %1</translation>
+    </message>
+    <message>
+        <source>Envelope #%1</source>
+        <translation>Umschlag Nr. %1</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Hauptfach</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Alternatives Fach</translation>
+    </message>
+    <message>
+        <source>Cassette</source>
+        <translation>Kassette</translation>
+    </message>
+    <message>
+        <source>Cassette %1</source>
+        <translation>Kassette %1</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Fach %1</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Manueller Einzug</translation>
+    </message>
+    <message>
+        <source>Multi-purpose tray</source>
+        <translation>Mehrzweckfach</translation>
+    </message>
+    <message>
+        <source>Envelope feeder</source>
+        <translation>Umschlageinzug</translation>
+    </message>
+    <message>
+        <source>Manual envelope feed</source>
+        <translation>Manueller Umschlageinzug</translation>
+    </message>
+    <message>
+        <source>Large-capacity tray</source>
+        <translation>Großraumfach</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>Oberes Fach</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Mittleres Fach</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>Unteres Fach</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Linkes Fach</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Rechtes Fach</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Seitliches Fach</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Hinteres Fach</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Zentrales Fach</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Fotofach</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>CD-/DVD-Fach</translation>
+    </message>
+    <message>
+        <source>Postcard tray</source>
+        <translation>Postkartenfach</translation>
+    </message>
+    <message>
+        <source>Paper roll</source>
+        <translation>Papierrolle</translation>
+    </message>
+    <message>
+        <source>Alternate paper roll</source>
+        <translation>Alternative Papierrolle</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rolle %1</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Briefkopf</translation>
+    </message>
+    <message>
+        <source>Preprinted</source>
+        <translation>Vorgedruckt</translation>
+    </message>
+    <message>
+        <source>Prepunched</source>
+        <translation>Vorgelocht</translation>
+    </message>
+    <message>
+        <source>Recycled</source>
+        <translation>Recyclingpapier</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>Bankpostpapier</translation>
+    </message>
+    <message>
+        <source>Heavyweight</source>
+        <translation>Schweres Papier</translation>
+    </message>
+    <message>
+        <source>Lightweight</source>
+        <translation>Leichtes Papier</translation>
+    </message>
+    <message>
+        <source>Coated</source>
+        <translation>Gestrichenes Papier</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Tintenstrahlpapier</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Feinpapier</translation>
+    </message>
+    <message>
+        <source>Colored</source>
+        <translation>Farbiges Papier</translation>
+    </message>
+    <message>
+        <source>Cotton</source>
+        <translation>Baumwollpapier</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>Karton</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparentfolie</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Umschlag</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Fotopapier, glänzend</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Fotopapier, hochglänzend</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Fotopapier, halbglänzend</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Fotopapier, seidenmatt</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Fotopapier, matt</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>Endlospapier</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>Registerpapier</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Folie</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>CD/DVD</translation>
+    </message>
+    <message>
+        <source>Upper output tray</source>
+        <translation>Oberes Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Middle output tray</source>
+        <translation>Mittleres Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Lower output tray</source>
+        <translation>Unteres Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Left output tray</source>
+        <translation>Linkes Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Right output tray</source>
+        <translation>Rechtes Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Center output tray</source>
+        <translation>Zentrales Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Side output tray</source>
+        <translation>Seitliches Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Rear output tray</source>
+        <translation>Hinteres Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Druckseite oben</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Druckseite unten</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Stapler %1</translation>
+    </message>
+    <message>
+        <source>Stacker</source>
+        <translation>Stapler</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Postfach %1</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>Mein Postfach</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Black only, no grays</source>
+        <translation>Nur Schwarz, ohne Graustufen</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Entwurf</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Heften</translation>
+    </message>
+    <message>
+        <source>Two staples</source>
+        <translation>Zwei Heftklammern</translation>
+    </message>
+    <message>
+        <source>Three staples</source>
+        <translation>Drei Heftklammern</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>Kantenheftung</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>Rückenheftung</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Punch two holes</source>
+        <translation>Zwei Löcher</translation>
+    </message>
+    <message>
+        <source>Punch three holes</source>
+        <translation>Drei Löcher</translation>
+    </message>
+    <message>
+        <source>Punch four holes</source>
+        <translation>Vier Löcher</translation>
+    </message>
+    <message>
+        <source>Punch many holes</source>
+        <translation>Viele Löcher</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Binden</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Beschneiden</translation>
+    </message>
+    <message>
+        <source>Add a cover</source>
+        <translation>Deckblatt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Aufträge versetzen</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Laminieren</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>Fold in half</source>
+        <translation>In der Mitte falzen</translation>
+    </message>
+    <message>
+        <source>Letter fold</source>
+        <translation>Wickelfalz</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Z-Falz</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>Halber Z-Falz</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>Leporellofalz</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>Doppelter Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>Parallelfalz</translation>
+    </message>
+    <message>
+        <source>top left</source>
+        <translation>oben links</translation>
+    </message>
+    <message>
+        <source>bottom left</source>
+        <translation>unten links</translation>
+    </message>
+    <message>
+        <source>top right</source>
+        <translation>oben rechts</translation>
+    </message>
+    <message>
+        <source>bottom right</source>
+        <translation>unten rechts</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1, randlos</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>

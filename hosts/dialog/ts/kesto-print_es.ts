@@ -182,6 +182,485 @@
     </message>
 </context>
 <context>
+    <name>StandardTexts</name>
+    <message>
+        <source>Letter</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>Legal</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>Ejecutivo</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>Tabloide</translation>
+    </message>
+    <message>
+        <source>Ledger</source>
+        <translation>Doble carta</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Media carta</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>Tarjeta postal (Japón)</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>Tarjeta postal doble (Japón)</translation>
+    </message>
+    <message>
+        <source>Envelope Monarch</source>
+        <translation>Sobre Monarch</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>Sobre %1</translation>
+    </message>
+    <message>
+        <source>Envelope #%1</source>
+        <translation>Sobre n.º %1</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Bandeja principal</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Bandeja alternativa</translation>
+    </message>
+    <message>
+        <source>Cassette</source>
+        <translation>Casete</translation>
+    </message>
+    <message>
+        <source>Cassette %1</source>
+        <translation>Casete %1</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Bandeja %1</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Alimentación manual</translation>
+    </message>
+    <message>
+        <source>Multi-purpose tray</source>
+        <translation>Bandeja multipropósito</translation>
+    </message>
+    <message>
+        <source>Envelope feeder</source>
+        <translation>Alimentador de sobres</translation>
+    </message>
+    <message>
+        <source>Manual envelope feed</source>
+        <translation>Alimentación manual de sobres</translation>
+    </message>
+    <message>
+        <source>Large-capacity tray</source>
+        <translation>Bandeja de gran capacidad</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>Bandeja superior</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Bandeja central</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>Bandeja inferior</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Bandeja izquierda</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Bandeja derecha</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Bandeja lateral</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Bandeja trasera</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Bandeja del centro</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Bandeja para fotos</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Bandeja para discos</translation>
+    </message>
+    <message>
+        <source>Postcard tray</source>
+        <translation>Bandeja para postales</translation>
+    </message>
+    <message>
+        <source>Paper roll</source>
+        <translation>Rollo de papel</translation>
+    </message>
+    <message>
+        <source>Alternate paper roll</source>
+        <translation>Rollo de papel alternativo</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rollo %1</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Papel normal</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Papel con membrete</translation>
+    </message>
+    <message>
+        <source>Preprinted</source>
+        <translation>Papel preimpreso</translation>
+    </message>
+    <message>
+        <source>Prepunched</source>
+        <translation>Papel perforado</translation>
+    </message>
+    <message>
+        <source>Recycled</source>
+        <translation>Papel reciclado</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>Papel bond</translation>
+    </message>
+    <message>
+        <source>Heavyweight</source>
+        <translation>Papel grueso</translation>
+    </message>
+    <message>
+        <source>Lightweight</source>
+        <translation>Papel fino</translation>
+    </message>
+    <message>
+        <source>Coated</source>
+        <translation>Papel estucado</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Papel para inyección de tinta</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Papel de calidad</translation>
+    </message>
+    <message>
+        <source>Colored</source>
+        <translation>Papel de color</translation>
+    </message>
+    <message>
+        <source>Cotton</source>
+        <translation>Papel de algodón</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>Cartulina</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparencia</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Papel fotográfico</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Papel fotográfico brillante</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Papel fotográfico muy brillante</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Papel fotográfico semibrillante</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Papel fotográfico satinado</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Papel fotográfico mate</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>Papel continuo</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>Papel con pestañas</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Película</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Disco</translation>
+    </message>
+    <message>
+        <source>Upper output tray</source>
+        <translation>Bandeja de salida superior</translation>
+    </message>
+    <message>
+        <source>Middle output tray</source>
+        <translation>Bandeja de salida central</translation>
+    </message>
+    <message>
+        <source>Lower output tray</source>
+        <translation>Bandeja de salida inferior</translation>
+    </message>
+    <message>
+        <source>Left output tray</source>
+        <translation>Bandeja de salida izquierda</translation>
+    </message>
+    <message>
+        <source>Right output tray</source>
+        <translation>Bandeja de salida derecha</translation>
+    </message>
+    <message>
+        <source>Center output tray</source>
+        <translation>Bandeja de salida del centro</translation>
+    </message>
+    <message>
+        <source>Side output tray</source>
+        <translation>Bandeja de salida lateral</translation>
+    </message>
+    <message>
+        <source>Rear output tray</source>
+        <translation>Bandeja de salida trasera</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Cara arriba</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Cara abajo</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Apilador %1</translation>
+    </message>
+    <message>
+        <source>Stacker</source>
+        <translation>Apilador</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Buzón %1</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>Mi buzón</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Blanco y negro</translation>
+    </message>
+    <message>
+        <source>Black only, no grays</source>
+        <translation>Solo negro, sin grises</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Borrador</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Grapar</translation>
+    </message>
+    <message>
+        <source>Two staples</source>
+        <translation>Dos grapas</translation>
+    </message>
+    <message>
+        <source>Three staples</source>
+        <translation>Tres grapas</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>Cosido en el borde</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>Cosido a caballete</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Folleto</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforar</translation>
+    </message>
+    <message>
+        <source>Punch two holes</source>
+        <translation>Perforar dos agujeros</translation>
+    </message>
+    <message>
+        <source>Punch three holes</source>
+        <translation>Perforar tres agujeros</translation>
+    </message>
+    <message>
+        <source>Punch four holes</source>
+        <translation>Perforar cuatro agujeros</translation>
+    </message>
+    <message>
+        <source>Punch many holes</source>
+        <translation>Perforar varios agujeros</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Encuadernar</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Add a cover</source>
+        <translation>Añadir cubierta</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Desplazar los trabajos</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Laminar</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plegar</translation>
+    </message>
+    <message>
+        <source>Fold in half</source>
+        <translation>Plegar por la mitad</translation>
+    </message>
+    <message>
+        <source>Letter fold</source>
+        <translation>Plegado de carta</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Plegado en Z</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>Medio plegado en Z</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>Plegado en acordeón</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>Plegado en ventana</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>Doble plegado en ventana</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>Plegado paralelo</translation>
+    </message>
+    <message>
+        <source>top left</source>
+        <translation>arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>bottom left</source>
+        <translation>abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>top right</source>
+        <translation>arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>bottom right</source>
+        <translation>abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>a la izquierda</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>arriba</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>a la derecha</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>abajo</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1, sin bordes</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>

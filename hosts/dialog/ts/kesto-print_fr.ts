@@ -182,6 +182,485 @@
     </message>
 </context>
 <context>
+    <name>StandardTexts</name>
+    <message>
+        <source>Letter</source>
+        <translation>Lettre US</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>Legal US</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>Executive</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>Tabloïd</translation>
+    </message>
+    <message>
+        <source>Ledger</source>
+        <translation>Ledger</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Demi-lettre</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>Carte postale (Japon)</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>Carte postale double (Japon)</translation>
+    </message>
+    <message>
+        <source>Envelope Monarch</source>
+        <translation>Enveloppe Monarch</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>Enveloppe %1</translation>
+    </message>
+    <message>
+        <source>Envelope #%1</source>
+        <translation>Enveloppe n° %1</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Bac principal</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Bac auxiliaire</translation>
+    </message>
+    <message>
+        <source>Cassette</source>
+        <translation>Cassette</translation>
+    </message>
+    <message>
+        <source>Cassette %1</source>
+        <translation>Cassette %1</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Bac %1</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Alimentation manuelle</translation>
+    </message>
+    <message>
+        <source>Multi-purpose tray</source>
+        <translation>Bac multifonction</translation>
+    </message>
+    <message>
+        <source>Envelope feeder</source>
+        <translation>Chargeur d’enveloppes</translation>
+    </message>
+    <message>
+        <source>Manual envelope feed</source>
+        <translation>Alimentation manuelle d’enveloppes</translation>
+    </message>
+    <message>
+        <source>Large-capacity tray</source>
+        <translation>Bac grande capacité</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>Bac supérieur</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Bac du milieu</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>Bac inférieur</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Bac gauche</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Bac droit</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Bac latéral</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Bac arrière</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Bac central</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Bac photo</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Bac pour disques</translation>
+    </message>
+    <message>
+        <source>Postcard tray</source>
+        <translation>Bac pour cartes postales</translation>
+    </message>
+    <message>
+        <source>Paper roll</source>
+        <translation>Rouleau de papier</translation>
+    </message>
+    <message>
+        <source>Alternate paper roll</source>
+        <translation>Rouleau auxiliaire</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rouleau %1</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Papier ordinaire</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Papier à en-tête</translation>
+    </message>
+    <message>
+        <source>Preprinted</source>
+        <translation>Papier préimprimé</translation>
+    </message>
+    <message>
+        <source>Prepunched</source>
+        <translation>Papier perforé</translation>
+    </message>
+    <message>
+        <source>Recycled</source>
+        <translation>Papier recyclé</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>Papier fort</translation>
+    </message>
+    <message>
+        <source>Heavyweight</source>
+        <translation>Papier épais</translation>
+    </message>
+    <message>
+        <source>Lightweight</source>
+        <translation>Papier fin</translation>
+    </message>
+    <message>
+        <source>Coated</source>
+        <translation>Papier couché</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Papier jet d’encre</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Papier de qualité</translation>
+    </message>
+    <message>
+        <source>Colored</source>
+        <translation>Papier de couleur</translation>
+    </message>
+    <message>
+        <source>Cotton</source>
+        <translation>Papier coton</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>Papier cartonné</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparent</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Enveloppe</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Papier photo</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Papier photo brillant</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Papier photo très brillant</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Papier photo semi-brillant</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Papier photo satiné</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Papier photo mat</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>Papier continu</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>Papier à onglets</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Upper output tray</source>
+        <translation>Bac de sortie supérieur</translation>
+    </message>
+    <message>
+        <source>Middle output tray</source>
+        <translation>Bac de sortie du milieu</translation>
+    </message>
+    <message>
+        <source>Lower output tray</source>
+        <translation>Bac de sortie inférieur</translation>
+    </message>
+    <message>
+        <source>Left output tray</source>
+        <translation>Bac de sortie gauche</translation>
+    </message>
+    <message>
+        <source>Right output tray</source>
+        <translation>Bac de sortie droit</translation>
+    </message>
+    <message>
+        <source>Center output tray</source>
+        <translation>Bac de sortie central</translation>
+    </message>
+    <message>
+        <source>Side output tray</source>
+        <translation>Bac de sortie latéral</translation>
+    </message>
+    <message>
+        <source>Rear output tray</source>
+        <translation>Bac de sortie arrière</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Face imprimée dessus</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Face imprimée dessous</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Empileur %1</translation>
+    </message>
+    <message>
+        <source>Stacker</source>
+        <translation>Empileur</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Boîte aux lettres %1</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>Ma boîte aux lettres</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Noir et blanc</translation>
+    </message>
+    <message>
+        <source>Black only, no grays</source>
+        <translation>Noir uniquement, sans gris</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Brouillon</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Haute</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Agrafer</translation>
+    </message>
+    <message>
+        <source>Two staples</source>
+        <translation>Deux agrafes</translation>
+    </message>
+    <message>
+        <source>Three staples</source>
+        <translation>Trois agrafes</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>Piqûre sur le bord</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>Piqûre à cheval</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforer</translation>
+    </message>
+    <message>
+        <source>Punch two holes</source>
+        <translation>Perforer deux trous</translation>
+    </message>
+    <message>
+        <source>Punch three holes</source>
+        <translation>Perforer trois trous</translation>
+    </message>
+    <message>
+        <source>Punch four holes</source>
+        <translation>Perforer quatre trous</translation>
+    </message>
+    <message>
+        <source>Punch many holes</source>
+        <translation>Perforer plusieurs trous</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Relier</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Rogner</translation>
+    </message>
+    <message>
+        <source>Add a cover</source>
+        <translation>Ajouter une couverture</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>Décaler les travaux</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Plastifier</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plier</translation>
+    </message>
+    <message>
+        <source>Fold in half</source>
+        <translation>Plier en deux</translation>
+    </message>
+    <message>
+        <source>Letter fold</source>
+        <translation>Pli roulé</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Pli en Z</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>Demi-pli en Z</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>Pli accordéon</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>Pli fenêtre</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>Pli fenêtre double</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>Pli parallèle</translation>
+    </message>
+    <message>
+        <source>top left</source>
+        <translation>en haut à gauche</translation>
+    </message>
+    <message>
+        <source>bottom left</source>
+        <translation>en bas à gauche</translation>
+    </message>
+    <message>
+        <source>top right</source>
+        <translation>en haut à droite</translation>
+    </message>
+    <message>
+        <source>bottom right</source>
+        <translation>en bas à droite</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>à gauche</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>en haut</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>à droite</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>en bas</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1, sans marges</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>

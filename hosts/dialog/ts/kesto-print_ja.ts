@@ -182,6 +182,485 @@
     </message>
 </context>
 <context>
+    <name>StandardTexts</name>
+    <message>
+        <source>Letter</source>
+        <translation>レター</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>リーガル</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>エグゼクティブ</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>タブロイド</translation>
+    </message>
+    <message>
+        <source>Ledger</source>
+        <translation>レジャー</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>ステートメント</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>はがき</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>往復はがき</translation>
+    </message>
+    <message>
+        <source>Envelope Monarch</source>
+        <translation>封筒 Monarch</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>封筒 %1</translation>
+    </message>
+    <message>
+        <source>Envelope #%1</source>
+        <translation>封筒 %1 号</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>メイントレイ</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>予備トレイ</translation>
+    </message>
+    <message>
+        <source>Cassette</source>
+        <translation>カセット</translation>
+    </message>
+    <message>
+        <source>Cassette %1</source>
+        <translation>カセット %1</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>トレイ %1</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>手差し</translation>
+    </message>
+    <message>
+        <source>Multi-purpose tray</source>
+        <translation>多目的トレイ</translation>
+    </message>
+    <message>
+        <source>Envelope feeder</source>
+        <translation>封筒フィーダー</translation>
+    </message>
+    <message>
+        <source>Manual envelope feed</source>
+        <translation>封筒の手差し</translation>
+    </message>
+    <message>
+        <source>Large-capacity tray</source>
+        <translation>大容量トレイ</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>上段トレイ</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>中段トレイ</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>下段トレイ</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>左トレイ</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>右トレイ</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>側面トレイ</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>背面トレイ</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>中央トレイ</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>写真トレイ</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>ディスクトレイ</translation>
+    </message>
+    <message>
+        <source>Postcard tray</source>
+        <translation>はがきトレイ</translation>
+    </message>
+    <message>
+        <source>Paper roll</source>
+        <translation>ロール紙</translation>
+    </message>
+    <message>
+        <source>Alternate paper roll</source>
+        <translation>予備ロール紙</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>ロール紙 %1</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>レターヘッド</translation>
+    </message>
+    <message>
+        <source>Preprinted</source>
+        <translation>印刷済み用紙</translation>
+    </message>
+    <message>
+        <source>Prepunched</source>
+        <translation>穴あき用紙</translation>
+    </message>
+    <message>
+        <source>Recycled</source>
+        <translation>再生紙</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>ボンド紙</translation>
+    </message>
+    <message>
+        <source>Heavyweight</source>
+        <translation>厚紙</translation>
+    </message>
+    <message>
+        <source>Lightweight</source>
+        <translation>薄紙</translation>
+    </message>
+    <message>
+        <source>Coated</source>
+        <translation>コート紙</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>インクジェット用紙</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>上質紙</translation>
+    </message>
+    <message>
+        <source>Colored</source>
+        <translation>色紙</translation>
+    </message>
+    <message>
+        <source>Cotton</source>
+        <translation>コットン紙</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>カード用紙</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>OHP フィルム</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>封筒</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル紙</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>写真用紙</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>高光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>半光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>サテン写真用紙</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>マット写真用紙</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>連続紙</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>インデックス紙</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>フィルム</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Upper output tray</source>
+        <translation>上段排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Middle output tray</source>
+        <translation>中段排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Lower output tray</source>
+        <translation>下段排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Left output tray</source>
+        <translation>左排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Right output tray</source>
+        <translation>右排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Center output tray</source>
+        <translation>中央排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Side output tray</source>
+        <translation>側面排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Rear output tray</source>
+        <translation>背面排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>印刷面を上</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>印刷面を下</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>スタッカー %1</translation>
+    </message>
+    <message>
+        <source>Stacker</source>
+        <translation>スタッカー</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>メールボックス %1</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>マイメールボックス</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>Black only, no grays</source>
+        <translation>黒のみ (グレーなし)</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>ドラフト</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高品質</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>ステープル</translation>
+    </message>
+    <message>
+        <source>Two staples</source>
+        <translation>ステープル 2 か所</translation>
+    </message>
+    <message>
+        <source>Three staples</source>
+        <translation>ステープル 3 か所</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>平とじ</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>中とじ</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Punch two holes</source>
+        <translation>パンチ 2 穴</translation>
+    </message>
+    <message>
+        <source>Punch three holes</source>
+        <translation>パンチ 3 穴</translation>
+    </message>
+    <message>
+        <source>Punch four holes</source>
+        <translation>パンチ 4 穴</translation>
+    </message>
+    <message>
+        <source>Punch many holes</source>
+        <translation>多穴パンチ</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>製本</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>断裁</translation>
+    </message>
+    <message>
+        <source>Add a cover</source>
+        <translation>表紙を付ける</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>ジョブごとにずらす</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>ラミネート</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Fold in half</source>
+        <translation>2 つ折り</translation>
+    </message>
+    <message>
+        <source>Letter fold</source>
+        <translation>3 つ折り (内側)</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Z 折り</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>半 Z 折り</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>蛇腹折り</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>観音折り</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>両観音折り</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>平行折り</translation>
+    </message>
+    <message>
+        <source>top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1 (フチなし)</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>

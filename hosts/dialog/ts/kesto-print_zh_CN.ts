@@ -182,6 +182,485 @@
     </message>
 </context>
 <context>
+    <name>StandardTexts</name>
+    <message>
+        <source>Letter</source>
+        <translation>信纸</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>法律专用纸</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>行政公文纸</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>小报</translation>
+    </message>
+    <message>
+        <source>Ledger</source>
+        <translation>账簿纸</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>半信纸</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>日本明信片</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>日本双联明信片</translation>
+    </message>
+    <message>
+        <source>Envelope Monarch</source>
+        <translation>Monarch 信封</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>%1 信封</translation>
+    </message>
+    <message>
+        <source>Envelope #%1</source>
+        <translation>%1 号信封</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>主纸盒</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>备用纸盒</translation>
+    </message>
+    <message>
+        <source>Cassette</source>
+        <translation>纸盒</translation>
+    </message>
+    <message>
+        <source>Cassette %1</source>
+        <translation>纸盒 %1</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>纸盒 %1</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>手动进纸</translation>
+    </message>
+    <message>
+        <source>Multi-purpose tray</source>
+        <translation>多功能纸盒</translation>
+    </message>
+    <message>
+        <source>Envelope feeder</source>
+        <translation>信封进纸器</translation>
+    </message>
+    <message>
+        <source>Manual envelope feed</source>
+        <translation>手动进信封</translation>
+    </message>
+    <message>
+        <source>Large-capacity tray</source>
+        <translation>大容量纸盒</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>上纸盒</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>中纸盒</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>下纸盒</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>左纸盒</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>右纸盒</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>侧纸盒</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>后纸盒</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>中央纸盒</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>照片纸盒</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>光盘托盘</translation>
+    </message>
+    <message>
+        <source>Postcard tray</source>
+        <translation>明信片纸盒</translation>
+    </message>
+    <message>
+        <source>Paper roll</source>
+        <translation>卷纸</translation>
+    </message>
+    <message>
+        <source>Alternate paper roll</source>
+        <translation>备用卷纸</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>卷纸 %1</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>普通纸</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>信头纸</translation>
+    </message>
+    <message>
+        <source>Preprinted</source>
+        <translation>预印纸</translation>
+    </message>
+    <message>
+        <source>Prepunched</source>
+        <translation>预打孔纸</translation>
+    </message>
+    <message>
+        <source>Recycled</source>
+        <translation>再生纸</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>证券纸</translation>
+    </message>
+    <message>
+        <source>Heavyweight</source>
+        <translation>厚纸</translation>
+    </message>
+    <message>
+        <source>Lightweight</source>
+        <translation>薄纸</translation>
+    </message>
+    <message>
+        <source>Coated</source>
+        <translation>涂层纸</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>喷墨纸</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>高级纸</translation>
+    </message>
+    <message>
+        <source>Colored</source>
+        <translation>彩色纸</translation>
+    </message>
+    <message>
+        <source>Cotton</source>
+        <translation>棉纸</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>卡片纸</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>透明胶片</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>信封</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>相纸</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>光面相纸</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>高光相纸</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>半光面相纸</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>缎面相纸</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>哑光相纸</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>连续纸</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>索引纸</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>胶片</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>光盘</translation>
+    </message>
+    <message>
+        <source>Upper output tray</source>
+        <translation>上出纸盒</translation>
+    </message>
+    <message>
+        <source>Middle output tray</source>
+        <translation>中出纸盒</translation>
+    </message>
+    <message>
+        <source>Lower output tray</source>
+        <translation>下出纸盒</translation>
+    </message>
+    <message>
+        <source>Left output tray</source>
+        <translation>左出纸盒</translation>
+    </message>
+    <message>
+        <source>Right output tray</source>
+        <translation>右出纸盒</translation>
+    </message>
+    <message>
+        <source>Center output tray</source>
+        <translation>中央出纸盒</translation>
+    </message>
+    <message>
+        <source>Side output tray</source>
+        <translation>侧出纸盒</translation>
+    </message>
+    <message>
+        <source>Rear output tray</source>
+        <translation>后出纸盒</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>面朝上</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>面朝下</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>堆纸器 %1</translation>
+    </message>
+    <message>
+        <source>Stacker</source>
+        <translation>堆纸器</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>邮箱 %1</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>我的邮箱</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>彩色</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>黑白</translation>
+    </message>
+    <message>
+        <source>Black only, no grays</source>
+        <translation>纯黑，无灰度</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>草稿</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>装订</translation>
+    </message>
+    <message>
+        <source>Two staples</source>
+        <translation>双钉装订</translation>
+    </message>
+    <message>
+        <source>Three staples</source>
+        <translation>三钉装订</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>边缘装订</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>鞍式装订</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小册子</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>打孔</translation>
+    </message>
+    <message>
+        <source>Punch two holes</source>
+        <translation>打两孔</translation>
+    </message>
+    <message>
+        <source>Punch three holes</source>
+        <translation>打三孔</translation>
+    </message>
+    <message>
+        <source>Punch four holes</source>
+        <translation>打四孔</translation>
+    </message>
+    <message>
+        <source>Punch many holes</source>
+        <translation>打多孔</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>胶装</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>裁切</translation>
+    </message>
+    <message>
+        <source>Add a cover</source>
+        <translation>添加封面</translation>
+    </message>
+    <message>
+        <source>Offset jobs</source>
+        <translation>错位堆叠</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>覆膜</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Fold in half</source>
+        <translation>对折</translation>
+    </message>
+    <message>
+        <source>Letter fold</source>
+        <translation>信函折</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Z 形折</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>半 Z 形折</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>风琴折</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>门形折</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>双门形折</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>平行折</translation>
+    </message>
+    <message>
+        <source>top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>左侧</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右侧</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1（无边距）</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>

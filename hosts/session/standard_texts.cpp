@@ -1,0 +1,278 @@
+#include "hosts/session/standard_texts.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QHash>
+#include <QtCore/QStringList>
+#include <array>
+#include <span>
+
+namespace kesto {
+namespace {
+
+// A value: the PPD options that have it, its names there, among them the standard's without its signs, and
+// our text. "#" at the end of a name stands for a number, "*" for any option.
+struct StandardValue {
+  const char* options;
+  const char* names;
+  const char* text;
+  const char* part = nullptr;  // for "%1", when that is no number
+};
+
+constexpr const char* anyOption = "*";
+
+constexpr std::array values{
+    // Paper sizes; the names of the others, such as A4, are the same in all languages.
+    StandardValue{"PageSize", "Letter na_letter", QT_TRANSLATE_NOOP("StandardTexts", "Letter")},
+    StandardValue{"PageSize", "Legal na_legal", QT_TRANSLATE_NOOP("StandardTexts", "Legal")},
+    StandardValue{"PageSize", "Executive na_executive", QT_TRANSLATE_NOOP("StandardTexts", "Executive")},
+    StandardValue{"PageSize", "Tabloid na_ledger", QT_TRANSLATE_NOOP("StandardTexts", "Tabloid")},
+    StandardValue{"PageSize", "Ledger 11x17", QT_TRANSLATE_NOOP("StandardTexts", "Ledger")},
+    StandardValue{"PageSize", "Statement HalfLetter na_invoice",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Statement")},
+    StandardValue{"PageSize", "Postcard jpn_hagaki", QT_TRANSLATE_NOOP("StandardTexts", "Postcard")},
+    StandardValue{"PageSize", "DoublePostcardRotated DoublePostcard jpn_oufuku",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Double postcard")},
+    StandardValue{"PageSize", "EnvMonarch na_monarch",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Envelope Monarch")},
+    StandardValue{"PageSize", "EnvDL iso_dl", QT_TRANSLATE_NOOP("StandardTexts", "Envelope %1"), "DL"},
+    StandardValue{"PageSize", "EnvC4 iso_c4", QT_TRANSLATE_NOOP("StandardTexts", "Envelope %1"), "C4"},
+    StandardValue{"PageSize", "EnvC5 iso_c5", QT_TRANSLATE_NOOP("StandardTexts", "Envelope %1"), "C5"},
+    StandardValue{"PageSize", "EnvC6 iso_c6", QT_TRANSLATE_NOOP("StandardTexts", "Envelope %1"), "C6"},
+    StandardValue{"PageSize", "EnvISOB5 EnvB5", QT_TRANSLATE_NOOP("StandardTexts", "Envelope %1"), "B5"},
+    StandardValue{"PageSize", "Env# na_number#", QT_TRANSLATE_NOOP("StandardTexts", "Envelope #%1")},
+    // Paper sources.
+    StandardValue{"InputSlot MediaType OutputBin ColorModel Duplex",
+                  "Auto Automatic AutoSelect AutoSource Any Unspecified",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Automatic")},
+    StandardValue{"InputSlot", "Main MainTray", QT_TRANSLATE_NOOP("StandardTexts", "Main tray")},
+    StandardValue{"InputSlot", "Alternate", QT_TRANSLATE_NOOP("StandardTexts", "Alternate tray")},
+    StandardValue{"InputSlot", "Cassette", QT_TRANSLATE_NOOP("StandardTexts", "Cassette")},
+    StandardValue{"InputSlot", "Cassette#", QT_TRANSLATE_NOOP("StandardTexts", "Cassette %1")},
+    StandardValue{"InputSlot OutputBin", "Tray#", QT_TRANSLATE_NOOP("StandardTexts", "Tray %1")},
+    StandardValue{"InputSlot", "Manual ManualFeed ManualTray",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Manual feed")},
+    StandardValue{"InputSlot", "ByPassTray ByPass MultiPurpose MultiPurposeTray MPTray Multi",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Multi-purpose tray")},
+    StandardValue{"InputSlot", "Envelope EnvFeeder EnvelopeFeeder",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Envelope feeder")},
+    StandardValue{"InputSlot", "EnvManual ManualEnvelope EnvelopeManual",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Manual envelope feed")},
+    StandardValue{"InputSlot OutputBin", "LargeCapacity LargeCapacityTray",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Large-capacity tray")},
+    StandardValue{"InputSlot", "Upper Top TopTray", QT_TRANSLATE_NOOP("StandardTexts", "Upper tray")},
+    StandardValue{"InputSlot", "Middle", QT_TRANSLATE_NOOP("StandardTexts", "Middle tray")},
+    StandardValue{"InputSlot", "Lower Bottom BottomTray", QT_TRANSLATE_NOOP("StandardTexts", "Lower tray")},
+    StandardValue{"InputSlot", "Left", QT_TRANSLATE_NOOP("StandardTexts", "Left tray")},
+    StandardValue{"InputSlot", "Right", QT_TRANSLATE_NOOP("StandardTexts", "Right tray")},
+    StandardValue{"InputSlot", "Side", QT_TRANSLATE_NOOP("StandardTexts", "Side tray")},
+    StandardValue{"InputSlot", "Rear", QT_TRANSLATE_NOOP("StandardTexts", "Rear tray")},
+    StandardValue{"InputSlot", "Center", QT_TRANSLATE_NOOP("StandardTexts", "Center tray")},
+    StandardValue{"InputSlot", "Photo", QT_TRANSLATE_NOOP("StandardTexts", "Photo tray")},
+    StandardValue{"InputSlot", "Disc", QT_TRANSLATE_NOOP("StandardTexts", "Disc tray")},
+    StandardValue{"InputSlot", "Hagaki", QT_TRANSLATE_NOOP("StandardTexts", "Postcard tray")},
+    StandardValue{"InputSlot", "MainRoll Roll", QT_TRANSLATE_NOOP("StandardTexts", "Paper roll")},
+    StandardValue{"InputSlot", "AlternateRoll", QT_TRANSLATE_NOOP("StandardTexts", "Alternate paper roll")},
+    StandardValue{"InputSlot", "Roll#", QT_TRANSLATE_NOOP("StandardTexts", "Roll %1")},
+    // Paper types.
+    StandardValue{"MediaType", "Stationery Plain PlainPaper Paper",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Plain")},
+    StandardValue{"MediaType", "StationeryLetterhead Letterhead",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Letterhead")},
+    StandardValue{"MediaType", "StationeryPreprinted Preprinted",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Preprinted")},
+    StandardValue{"MediaType", "StationeryPrepunched Prepunched",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Prepunched")},
+    StandardValue{"MediaType", "StationeryRecycled Recycled", QT_TRANSLATE_NOOP("StandardTexts", "Recycled")},
+    StandardValue{"MediaType", "StationeryBond Bond", QT_TRANSLATE_NOOP("StandardTexts", "Bond")},
+    StandardValue{"MediaType", "StationeryHeavyweight Heavyweight Heavy Thick",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Heavyweight")},
+    StandardValue{"MediaType", "StationeryLightweight Lightweight Light Thin",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Lightweight")},
+    StandardValue{"MediaType", "StationeryCoated Coated", QT_TRANSLATE_NOOP("StandardTexts", "Coated")},
+    StandardValue{"MediaType", "StationeryInkjet Inkjet", QT_TRANSLATE_NOOP("StandardTexts", "Inkjet paper")},
+    StandardValue{"MediaType", "StationeryFine Fine", QT_TRANSLATE_NOOP("StandardTexts", "Fine paper")},
+    StandardValue{"MediaType", "StationeryColored Colored Color",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Colored")},
+    StandardValue{"MediaType", "StationeryCotton Cotton", QT_TRANSLATE_NOOP("StandardTexts", "Cotton")},
+    StandardValue{"MediaType", "Cardstock Card", QT_TRANSLATE_NOOP("StandardTexts", "Cardstock")},
+    StandardValue{"MediaType", "Transparency Transparencies",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Transparency")},
+    StandardValue{"MediaType", "Envelope", QT_TRANSLATE_NOOP("StandardTexts", "Envelope")},
+    StandardValue{"MediaType", "Labels Label", QT_TRANSLATE_NOOP("StandardTexts", "Labels")},
+    StandardValue{"MediaType", "Photographic Photo PhotoPaper",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Photo paper")},
+    StandardValue{"MediaType", "PhotographicGlossy Glossy GlossyPaper PhotoGlossy",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Glossy photo paper")},
+    StandardValue{"MediaType", "PhotographicHighGloss HighGloss",
+                  QT_TRANSLATE_NOOP("StandardTexts", "High-gloss photo paper")},
+    StandardValue{"MediaType", "PhotographicSemiGloss SemiGloss",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Semi-gloss photo paper")},
+    StandardValue{"MediaType", "PhotographicSatin Satin",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Satin photo paper")},
+    StandardValue{"MediaType", "PhotographicMatte Matte",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Matte photo paper")},
+    StandardValue{"MediaType", "Continuous", QT_TRANSLATE_NOOP("StandardTexts", "Continuous paper")},
+    StandardValue{"MediaType", "TabStock Tabs", QT_TRANSLATE_NOOP("StandardTexts", "Tab stock")},
+    StandardValue{"MediaType", "Film", QT_TRANSLATE_NOOP("StandardTexts", "Film")},
+    StandardValue{"MediaType", "Disc", QT_TRANSLATE_NOOP("StandardTexts", "Disc")},
+    // Output trays.
+    StandardValue{"OutputBin", "Top Upper TopBin", QT_TRANSLATE_NOOP("StandardTexts", "Upper output tray")},
+    StandardValue{"OutputBin", "Middle MiddleBin", QT_TRANSLATE_NOOP("StandardTexts", "Middle output tray")},
+    StandardValue{"OutputBin", "Bottom Lower BottomBin",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Lower output tray")},
+    StandardValue{"OutputBin", "Left LeftBin", QT_TRANSLATE_NOOP("StandardTexts", "Left output tray")},
+    StandardValue{"OutputBin", "Right RightBin", QT_TRANSLATE_NOOP("StandardTexts", "Right output tray")},
+    StandardValue{"OutputBin", "Center CenterBin", QT_TRANSLATE_NOOP("StandardTexts", "Center output tray")},
+    StandardValue{"OutputBin", "Side SideBin", QT_TRANSLATE_NOOP("StandardTexts", "Side output tray")},
+    StandardValue{"OutputBin", "Rear RearBin", QT_TRANSLATE_NOOP("StandardTexts", "Rear output tray")},
+    StandardValue{"OutputBin", "FaceUp", QT_TRANSLATE_NOOP("StandardTexts", "Face up")},
+    StandardValue{"OutputBin", "FaceDown", QT_TRANSLATE_NOOP("StandardTexts", "Face down")},
+    StandardValue{"OutputBin", "Stacker#", QT_TRANSLATE_NOOP("StandardTexts", "Stacker %1")},
+    StandardValue{"OutputBin", "Stacker", QT_TRANSLATE_NOOP("StandardTexts", "Stacker")},
+    StandardValue{"OutputBin", "MailBox#", QT_TRANSLATE_NOOP("StandardTexts", "Mailbox %1")},
+    StandardValue{"OutputBin", "MyMailbox", QT_TRANSLATE_NOOP("StandardTexts", "My mailbox")},
+    // Color.
+    StandardValue{"ColorModel", "RGB CMYK Color CMY sRGB DeviceRGB DeviceCMYK AdobeRGB",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Color")},
+    StandardValue{"ColorModel",
+                  "Gray Grayscale Mono Monochrome Black KGray DeviceGray FastGray BlackAndWhite "
+                  "ProcessMonochrome AutoMonochrome",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Black and white")},
+    StandardValue{"ColorModel", "BiLevel ProcessBiLevel",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Black only, no grays")},
+    // Quality.
+    StandardValue{"cupsPrintQuality OutputMode", "Draft FastDraft Fast EconoMode 3",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Draft")},
+    StandardValue{"cupsPrintQuality OutputMode", "Normal Standard 4",
+                  QT_TRANSLATE_NOOP("StandardTexts", "Normal")},
+    StandardValue{"cupsPrintQuality OutputMode", "High Best 5", QT_TRANSLATE_NOOP("StandardTexts", "High")},
+    // Finishings.
+    StandardValue{anyOption, "None", QT_TRANSLATE_NOOP("StandardTexts", "None")},
+    StandardValue{anyOption, "Staple", QT_TRANSLATE_NOOP("StandardTexts", "Staple")},
+    StandardValue{anyOption, "StapleDual", QT_TRANSLATE_NOOP("StandardTexts", "Two staples")},
+    StandardValue{anyOption, "StapleTriple", QT_TRANSLATE_NOOP("StandardTexts", "Three staples")},
+    StandardValue{anyOption, "EdgeStitch", QT_TRANSLATE_NOOP("StandardTexts", "Edge stitch")},
+    StandardValue{anyOption, "SaddleStitch", QT_TRANSLATE_NOOP("StandardTexts", "Saddle stitch")},
+    StandardValue{anyOption, "BookletMaker Booklet", QT_TRANSLATE_NOOP("StandardTexts", "Booklet")},
+    StandardValue{anyOption, "Punch", QT_TRANSLATE_NOOP("StandardTexts", "Punch")},
+    StandardValue{anyOption, "PunchDual", QT_TRANSLATE_NOOP("StandardTexts", "Punch two holes")},
+    StandardValue{anyOption, "PunchTriple", QT_TRANSLATE_NOOP("StandardTexts", "Punch three holes")},
+    StandardValue{anyOption, "PunchQuad", QT_TRANSLATE_NOOP("StandardTexts", "Punch four holes")},
+    StandardValue{anyOption, "PunchMultiple", QT_TRANSLATE_NOOP("StandardTexts", "Punch many holes")},
+    StandardValue{anyOption, "Bind", QT_TRANSLATE_NOOP("StandardTexts", "Bind")},
+    StandardValue{anyOption, "Trim", QT_TRANSLATE_NOOP("StandardTexts", "Trim")},
+    StandardValue{anyOption, "Cover", QT_TRANSLATE_NOOP("StandardTexts", "Add a cover")},
+    StandardValue{anyOption, "JogOffset", QT_TRANSLATE_NOOP("StandardTexts", "Offset jobs")},
+    StandardValue{anyOption, "Laminate", QT_TRANSLATE_NOOP("StandardTexts", "Laminate")},
+    StandardValue{anyOption, "Fold", QT_TRANSLATE_NOOP("StandardTexts", "Fold")},
+    StandardValue{anyOption, "FoldHalf", QT_TRANSLATE_NOOP("StandardTexts", "Fold in half")},
+    StandardValue{anyOption, "FoldLetter", QT_TRANSLATE_NOOP("StandardTexts", "Letter fold")},
+    StandardValue{anyOption, "FoldZ", QT_TRANSLATE_NOOP("StandardTexts", "Z fold")},
+    StandardValue{anyOption, "FoldHalfZ", QT_TRANSLATE_NOOP("StandardTexts", "Half Z fold")},
+    StandardValue{anyOption, "FoldAccordion", QT_TRANSLATE_NOOP("StandardTexts", "Accordion fold")},
+    StandardValue{anyOption, "FoldGate", QT_TRANSLATE_NOOP("StandardTexts", "Gate fold")},
+    StandardValue{anyOption, "FoldDoubleGate", QT_TRANSLATE_NOOP("StandardTexts", "Double gate fold")},
+    StandardValue{anyOption, "FoldParallel", QT_TRANSLATE_NOOP("StandardTexts", "Parallel fold")},
+};
+
+// Where a finishing is made.
+constexpr std::array places{
+    StandardValue{anyOption, "TopLeft", QT_TRANSLATE_NOOP("StandardTexts", "top left")},
+    StandardValue{anyOption, "BottomLeft", QT_TRANSLATE_NOOP("StandardTexts", "bottom left")},
+    StandardValue{anyOption, "TopRight", QT_TRANSLATE_NOOP("StandardTexts", "top right")},
+    StandardValue{anyOption, "BottomRight", QT_TRANSLATE_NOOP("StandardTexts", "bottom right")},
+    StandardValue{anyOption, "Left", QT_TRANSLATE_NOOP("StandardTexts", "left")},
+    StandardValue{anyOption, "Top", QT_TRANSLATE_NOOP("StandardTexts", "top")},
+    StandardValue{anyOption, "Right", QT_TRANSLATE_NOOP("StandardTexts", "right")},
+    StandardValue{anyOption, "Bottom", QT_TRANSLATE_NOOP("StandardTexts", "bottom")},
+};
+
+QString translated(const char* text) {
+  return QCoreApplication::translate("StandardTexts", text);
+}
+
+// Names differ in letter case and signs: "by-pass-tray" is "ByPassTray". The dimensions of
+// "na_letter_8.5x11in" do not matter.
+QString plain(const QString& name) {
+  QString letters = name.count(u'_') > 1 ? name.section(u'_', 0, 1) : name;
+  return letters.toLower().remove(u'-').remove(u'_').remove(u' ');
+}
+
+using Index = QHash<QString, const StandardValue*>;  // by option and plain name
+
+QString keyOf(const QString& option, const QString& name) {
+  return option + u'/' + name;
+}
+
+Index indexOf(std::span<const StandardValue> table) {
+  Index index;
+  for (const StandardValue& each : table) {
+    for (const QString& option : QString::fromLatin1(each.options).split(u' ')) {
+      for (const QString& name : QString::fromLatin1(each.names).split(u' '))
+        index.insert(keyOf(option, plain(name)), &each);
+    }
+  }
+  return index;
+}
+
+const StandardValue* find(const QString& option, const QString& name) {
+  static const Index index = indexOf(values);
+  const StandardValue* found = index.value(keyOf(option, name));
+  return found != nullptr ? found : index.value(keyOf(QLatin1String(anyOption), name));
+}
+
+struct Found {
+  const StandardValue* value = nullptr;
+  QString part;
+};
+
+Found findValue(const QString& option, const QString& value) {
+  const QString name = plain(value);
+  if (const StandardValue* found = find(option, name)) return {found, QLatin1String(found->part)};
+  qsizetype digits = name.size();
+  while (digits > 0 && name[digits - 1].isDigit())
+    --digits;
+  return {find(option, name.first(digits) + u'#'), name.sliced(digits)};
+}
+
+QString textOf(const Found& found) {
+  const QString text = translated(found.value->text);
+  return found.part.isEmpty() ? text : text.arg(found.part);
+}
+
+// "staple-top-left" is a finishing and its place.
+QString placedFinishing(const QString& value) {
+  static const Index index = indexOf(places);
+  const QString name = plain(value);
+  for (qsizetype length = name.size() - 1; length > 0; --length) {
+    const StandardValue* finishing = find(QLatin1String(anyOption), name.first(length));
+    const StandardValue* place = index.value(keyOf(QLatin1String(anyOption), name.sliced(length)));
+    if (finishing == nullptr || place == nullptr) continue;
+    return translated(QT_TRANSLATE_NOOP("StandardTexts", "%1, %2"))
+        .arg(translated(finishing->text), translated(place->text));
+  }
+  return {};
+}
+
+QString borderless(const QString& option, const QString& value) {
+  const QString size = value.section(u'.', 0, 0);
+  const QString text = standardText(option, size);
+  return translated(QT_TRANSLATE_NOOP("StandardTexts", "%1, borderless")).arg(text.isNull() ? size : text);
+}
+
+}  // namespace
+
+QString standardText(const QString& option, const QString& value) {
+  if (option == u"PageSize" && (value.endsWith(u".Fullbleed") || value.endsWith(u".Borderless")))
+    return borderless(option, value);
+  const Found found = findValue(option, value);
+  return found.value != nullptr ? textOf(found) : placedFinishing(value);
+}
+
+bool isStandardText(const QString& option, const QString& value, const QString& text) {
+  if (plain(text) == plain(value)) return true;
+  const Found found = findValue(option, text);
+  return found.value != nullptr && found.value == findValue(option, value).value;
+}
+
+}  // namespace kesto
