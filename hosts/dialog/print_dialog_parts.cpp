@@ -14,6 +14,7 @@
 #include "hosts/dialog/widgets/dialog_foot.h"
 #include "hosts/dialog/widgets/document_line.h"
 #include "hosts/dialog/widgets/help.h"
+#include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"

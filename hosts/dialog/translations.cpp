@@ -5,13 +5,24 @@
 #include <QtCore/QTranslator>
 #include <memory>
 
+#include "hosts/dialog/widgets/mnemonics.h"
 #include "platform/locale_name.h"
 
 namespace kesto {
 namespace {
 
+// What is translated to a script without an alphabet gets the mnemonic of the English text.
+class RememberingTranslator : public QTranslator {
+ public:
+  QString translate(const char* context, const char* source, const char* comment, int count) const override {
+    const QString text = QTranslator::translate(context, source, comment, count);
+    if (!text.isNull()) rememberEnglish(text, QString::fromUtf8(source));
+    return text;
+  }
+};
+
 void install(const QString& name, const QString& folder) {
-  auto translator = std::make_unique<QTranslator>();
+  auto translator = std::make_unique<RememberingTranslator>();
   if (!translator->load(userLanguage(), name, QStringLiteral("_"), folder)) return;
   translator->setParent(QCoreApplication::instance());
   QCoreApplication::installTranslator(translator.release());

@@ -324,18 +324,22 @@ TEST_F(DialogPane, OutlivesItsPanel) {
   EXPECT_TRUE(m_window.isVisible());
 }
 
-TEST(PlainText, TextsForWhichNoLetterIsLeftStayAsTheyAre) {
-  QWidget window;
-  for (int i = 0; i < 30; ++i)
-    setPlainText(*new QCheckBox(&window), u"用&户"_s);
-  assignMnemonics(window);
-  QSet<QString> keys;
-  for (const auto* button : window.findChildren<QCheckBox*>()) {
-    const QString key = QKeySequence::mnemonic(button->text()).toString();
-    EXPECT_EQ(button->text(), key.isEmpty() ? u"用&&户"_s : u"用&&户(&%1)"_s.arg(key.right(1)));
-    keys.insert(key);
+TEST(Mnemonics, FollowTheTextsWhateverIsShown) {
+  rememberEnglish(u"印刷"_s, u"Print"_s);
+  const QStringList all{u"Paper size"_s, u"Copies"_s, u"Staple"_s, u"印刷:"_s,
+                        u"Ss"_s,         u"用&户"_s,  u"A & B"_s,  u"P"_s};
+  const QStringList expected{u"&Paper size"_s, u"&Copies"_s, u"S&taple"_s, u"印刷(&R):"_s,
+                             u"&Ss"_s,         u"用&&户"_s,  u"&A && B"_s, u"P"_s};
+  for (int first = 0; first < all.size(); ++first) {
+    QWidget window;
+    setMnemonicTexts(window, all.first(5).replaceInStrings(u":"_s, u""_s));
+    QList<QCheckBox*> boxes;
+    for (const QString& text : all.sliced(first))
+      setPlainText(*boxes.emplaceBack(new QCheckBox(&window)), text);
+    assignMnemonics(window);
+    for (int i = first; i < all.size(); ++i)
+      EXPECT_EQ(boxes[i - first]->text(), expected[i]);
   }
-  EXPECT_EQ(keys.size(), 27) << "the letters, and none";
 }
 
 }  // namespace

@@ -74,7 +74,7 @@ TEST_F(DialogPrint, WhatThePrinterFieldShowsIsWhatIsPrintedOn) {
     Text said = nullptr;
     std::function<void()> act = [] {};
   };
-  const QKeyCombination letterOfPrint = Qt::AltModifier | Qt::Key_I;  // which is dimmed
+  const QKeyCombination letterOfPrint = Qt::AltModifier | Qt::Key_P;  // which is dimmed
   const char none[] = "There is no printer named \"Upstairs\".";
   const char enter5[] = "Press Enter to choose Office_MFP_0005.";
   const Way ways[] = {

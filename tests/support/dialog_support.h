@@ -7,6 +7,7 @@
 
 #include "hosts/dialog/panel/panel_pane.h"
 #include "hosts/dialog/user/dialog_user.h"
+#include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/session/panel_host.h"
 #include "hosts/session/preset_store.h"

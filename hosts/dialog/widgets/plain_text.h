@@ -1,4 +1,4 @@
-// Texts of widgets without mnemonics, and the assignment of mnemonics.
+// Texts of widgets, apart from their mnemonics.
 #pragma once
 
 #include <QtCore/QString>
@@ -12,16 +12,16 @@ namespace kesto {
 void setPlainText(QWidget& widget, const QString& text);
 /// The text that `setPlainText` showed last.
 QString plainText(const QWidget& widget);
+/// Shows that text with its mnemonic marked by "&".
+void showMarkedText(QWidget& widget, const QString& text);
+/// The text with each "&" doubled, for labels and menus that take a single one as the mark of a mnemonic.
+QString withPlainAmpersands(QString text);
 
 /// A label's text followed by a colon, as the user's language writes it.
 QString withColon(const QString& text);
+/// A fault as a window shows it: with a capital letter first, and a full stop last.
+QString asSentence(const QString& fault);
 /// The text without a colon and spaces at its end.
 QString withoutColon(const QString& text);
-
-/// Gives each button, each label with a buddy and each tab in `window` a mnemonic: a letter of its own text
-/// if one is left, else a letter in brackets after it. Letters are unique among everything that can be
-/// visible together; the pages of one tab widget may share letters. A button without a text beside such a
-/// field (dynamic property "companionOf") gets the field's letter with Shift.
-void assignMnemonics(QWidget& window);
 
 }  // namespace kesto

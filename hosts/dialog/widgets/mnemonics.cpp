@@ -1,0 +1,231 @@
+#include "hosts/dialog/widgets/mnemonics.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QMutex>
+#include <QtCore/QSet>
+#include <QtGui/QKeySequence>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabWidget>
+#include <algorithm>
+
+#include "hosts/dialog/widgets/plain_text.h"
+
+namespace kesto {
+namespace {
+
+constexpr char textsProperty[] = "mnemonicTexts";
+
+using Letters = QSet<QChar>;
+
+bool isCandidate(QChar c) {
+  return c.isLetterOrNumber() && c.unicode() < 0x100;
+}
+
+bool beginsWord(const QString& text, qsizetype place) {
+  return place == 0 || !text[place - 1].isLetterOrNumber();
+}
+
+struct EnglishTexts {
+  QMutex mutex;
+  QHash<QString, QString> texts;
+};
+
+EnglishTexts& englishTexts() {
+  static EnglishTexts texts;
+  return texts;
+}
+
+// Scripts without an alphabet have no keys of their own.
+bool hasAlphabet(const QString& text) {
+  return std::ranges::none_of(text, [](QChar c) {
+    return c.script() == QChar::Script_Han || c.script() == QChar::Script_Hiragana ||
+           c.script() == QChar::Script_Katakana || c.script() == QChar::Script_Hangul;
+  });
+}
+
+// The text that gives the letter.
+QString letteredText(const QString& text) {
+  if (hasAlphabet(text)) return text;
+  EnglishTexts& english = englishTexts();
+  const QMutexLocker lock(&english.mutex);
+  return english.texts.value(text);
+}
+
+QList<QChar> candidatesOf(const QString& text, bool onlyFirst) {
+  QList<QChar> letters;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    const QChar letter = text[i].toUpper();
+    if (isCandidate(letter) && (!onlyFirst || beginsWord(text, i))) letters.append(letter);
+  }
+  return letters;
+}
+
+// Gives texts one letter each.
+class Assignment {
+ public:
+  Assignment(const QStringList& texts, const Letters& taken) : m_taken(taken) {
+    for (const bool onlyFirst : {true, false}) {
+      for (const QString& text : texts)
+        takeFree(text, onlyFirst);
+    }
+    for (const QString& text : texts) {
+      Letters tried = m_taken;
+      if (!m_letters.contains(text)) takeOver(text, &tried);
+    }
+  }
+
+  const QHash<QString, QChar>& letters() const { return m_letters; }
+
+ private:
+  void give(const QString& text, QChar letter) {
+    m_letters.insert(text, letter);
+    m_owners.insert(letter, text);
+  }
+  void takeFree(const QString& text, bool onlyFirst) {
+    if (m_letters.contains(text)) return;
+    for (const QChar letter : candidatesOf(letteredText(text), onlyFirst)) {
+      if (!m_taken.contains(letter) && !m_owners.contains(letter)) return give(text, letter);
+    }
+  }
+  // Takes a letter whose owner finds another.
+  bool takeOver(const QString& text, Letters* tried) {
+    for (const QChar letter : candidatesOf(letteredText(text), false)) {
+      if (tried->contains(letter)) continue;
+      tried->insert(letter);
+      if (m_owners.contains(letter) && !takeOver(m_owners.value(letter), tried)) continue;
+      give(text, letter);
+      return true;
+    }
+    return false;
+  }
+
+  Letters m_taken;
+  QHash<QString, QChar> m_letters;
+  QHash<QChar, QString> m_owners;
+};
+
+Letters lettersIn(const QHash<QString, QChar>& letters) {
+  return {letters.begin(), letters.end()};
+}
+
+qsizetype placeOf(QChar letter, const QString& text) {
+  qsizetype place = -1;
+  for (qsizetype i = text.size() - 1; i >= 0; --i) {
+    if (text[i].toUpper() == letter && (place < 0 || beginsWord(text, i) || !beginsWord(text, place)))
+      place = i;
+  }
+  return place;
+}
+
+QString withMnemonic(const QString& text, QChar letter) {
+  if (letter.isNull()) return withPlainAmpersands(text);
+  if (!hasAlphabet(text)) {
+    const QString stem = withoutColon(text);
+    return withPlainAmpersands(stem) + QStringLiteral("(&%1)").arg(letter) + text.sliced(stem.size());
+  }
+  const qsizetype place = placeOf(letter, text);
+  return withPlainAmpersands(text.first(place)) + u'&' + text[place] +
+         withPlainAmpersands(text.sliced(place + 1));
+}
+
+// Whether the letters below a widget are given apart from those around it.
+bool isScope(const QWidget& widget) {
+  const QWidget* parent = widget.parentWidget();
+  const bool isPage = parent != nullptr && qobject_cast<const QTabWidget*>(parent->parentWidget()) != nullptr;
+  return widget.property(textsProperty).isValid() || (isPage && parent->inherits("QStackedWidget"));
+}
+
+const QWidget* scopeOf(const QWidget& widget) {
+  const QWidget* scope = widget.parentWidget();
+  while (scope != nullptr && !scope->isWindow() && !isScope(*scope))
+    scope = scope->parentWidget();
+  return scope;
+}
+
+bool takesMnemonic(const QWidget& widget) {
+  const auto* label = qobject_cast<const QLabel*>(&widget);
+  return !plainText(widget).isEmpty() && !isScope(widget) &&
+         qobject_cast<const QGroupBox*>(&widget) == nullptr &&
+         (label == nullptr || label->buddy() != nullptr);
+}
+
+void giveCompanion(const QWidget& field, const QString& text) {
+  const QKeySequence mnemonic = QKeySequence::mnemonic(text);
+  for (auto* button : field.parentWidget()->findChildren<QAbstractButton*>()) {
+    if (button->property("companionOf").toString() != field.objectName()) continue;
+    button->setShortcut(mnemonic.isEmpty()
+                            ? QKeySequence()
+                            : QKeySequence(QKeyCombination(Qt::ALT | Qt::SHIFT, mnemonic[0].key())));
+  }
+}
+
+// A widget or a tab that has a text.
+struct Place {
+  QWidget* widget = nullptr;  // for a tab, its page
+  QTabWidget* tabs = nullptr;
+
+  QString text() const { return plainText(*widget); }
+  // The button of Enter comes first, then the fields.
+  int rank() const {
+    const auto* button = qobject_cast<const QPushButton*>(widget);
+    if (button != nullptr && button->isDefault()) return 0;
+    return qobject_cast<const QLabel*>(widget) != nullptr ? 1 : 2;
+  }
+  void show(const QString& text) const {
+    if (tabs != nullptr) return tabs->setTabText(tabs->indexOf(widget), text);
+    showMarkedText(*widget, text);
+    if (const auto* label = qobject_cast<QLabel*>(widget)) giveCompanion(*label->buddy(), text);
+  }
+};
+
+std::vector<Place> placesOf(QWidget& scope) {
+  std::vector<Place> places;
+  for (auto* widget : scope.findChildren<QWidget*>()) {
+    if (scopeOf(*widget) != &scope) continue;
+    if (takesMnemonic(*widget)) places.push_back({widget, nullptr});
+    auto* tabs = qobject_cast<QTabWidget*>(widget);
+    for (int i = 0; tabs != nullptr && i < tabs->count(); ++i)
+      places.push_back({tabs->widget(i), tabs});
+  }
+  std::ranges::stable_sort(places, {}, &Place::rank);
+  return places;
+}
+
+void assign(QWidget& scope, Letters taken) {
+  const std::vector<Place> places = placesOf(scope);
+  QStringList texts = scope.property(textsProperty).toStringList();
+  QHash<QString, QChar> letters = Assignment(texts, taken).letters();
+  taken.unite(lettersIn(letters));
+  texts.clear();
+  for (const Place& place : places) {
+    if (!letters.contains(withoutColon(place.text()))) texts.append(withoutColon(place.text()));
+  }
+  letters.insert(Assignment(texts, taken).letters());
+  taken.unite(lettersIn(letters));
+  for (const Place& place : places)
+    place.show(withMnemonic(place.text(), letters.take(withoutColon(place.text()))));
+  for (auto* widget : scope.findChildren<QWidget*>()) {
+    if (isScope(*widget) && scopeOf(*widget) == &scope) assign(*widget, taken);
+  }
+}
+
+}  // namespace
+
+void assignMnemonics(QWidget& window) {
+  assign(window, {});
+}
+
+void setMnemonicTexts(QWidget& part, const QStringList& texts) {
+  part.setProperty(textsProperty, texts);
+}
+
+void rememberEnglish(const QString& text, const QString& english) {
+  if (hasAlphabet(text)) return;
+  EnglishTexts& known = englishTexts();
+  const QMutexLocker lock(&known.mutex);
+  known.texts.insert(withoutColon(text), withoutColon(english));
+}
+
+}  // namespace kesto

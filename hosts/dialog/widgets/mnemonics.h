@@ -1,0 +1,25 @@
+// The letters that reach controls with Alt.
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+class QWidget;
+
+namespace kesto {
+
+/// Gives the buttons, the labels with a buddy and the tabs in `window` a letter of their own text each, first
+/// one that begins a word; a text of which no letter is left has none. A text in a script without such
+/// letters has the one of the English text in brackets. The window's own letters differ from all others; the
+/// pages of a tab widget, and the widgets of `setMnemonicTexts`, may share theirs. A button without a text
+/// beside such a field (dynamic property "companionOf") gets the field's letter with Shift.
+void assignMnemonics(QWidget& window);
+
+/// Names all texts that `part` can ever show, the important ones first, so that each keeps its letter
+/// whatever else is shown. Others get letters after them.
+void setMnemonicTexts(QWidget& part, const QStringList& texts);
+
+/// Remembers what a text is in English. May be called from any thread.
+void rememberEnglish(const QString& text, const QString& english);
+
+}  // namespace kesto
