@@ -89,7 +89,7 @@ void Document::add(const QByteArray& path) {
   Descriptor file(isInput ? ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0)
                           : ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   if (!file) return addFault(tr("%1 cannot be read: %2").arg(shownPath(path), qt_error_string(errno)));
-  if (isFolder(file.get())) return addFault(tr("%1 is a folder").arg(shownPath(path)));
+  if (isFolder(file.get())) return addFault(tr("%1 is a folder. Choose a file.").arg(shownPath(path)));
   m_parts.push_back({isInput ? QStringLiteral("(stdin)") : shownFileName(path), {}});
   // Standard input is read from its current position.
   if (isInput || !isStored(file.get())) {
@@ -149,10 +149,10 @@ Document::Copied Document::copy(int descriptor, qint64* read, int reading) {
     *read += count;
     if (*read > m_bounds.whole)
       return {{},
-              tr("%1 is larger than %2, the most that is read.")
+              tr("%1 is larger than %2, the most that can be printed.")
                   .arg(QStringLiteral("%1"), QLocale().formattedDataSize(m_bounds.whole, 0))};
     if (Outcome kept = copy.append(block.data(), count); !kept)
-      return {{}, tr("%1 cannot be stored: %2").arg(QStringLiteral("%1"), kept.reason())};
+      return {{}, tr("%1 cannot be copied for printing: %2").arg(QStringLiteral("%1"), kept.reason())};
   }
   return {copy.take(), copy.size() == 0 ? tr("%1 is empty. There is nothing to print.") : QString()};
 }

@@ -1,12 +1,14 @@
 #include "hosts/dialog/job_sending.h"
 
 #include "hosts/dialog/preview/preview.h"
+#include "hosts/dialog/widgets/plain_text.h"
 
 namespace kesto {
 
 JobSending::JobSending(QueueClient& client, Document& document, const Preview& preview)
     : m_client(client), m_document(document), m_preview(preview) {
-  connect(&client, &QueueClient::sendFailed, this, &JobSending::fail);
+  connect(&client, &QueueClient::sendFailed, this,
+          [this](const QString& reason) { fail(asSentence(reason)); });
   connect(&client, &QueueClient::sent, this, [this](int job) {
     m_job = job;
     setPhase(Phase::Sent);

@@ -65,7 +65,7 @@ const QueueListModel& PrintDialog::queues() const {
 void PrintDialog::showOpening() {
   const bool isFault = !m_opening.fault().isNull();
   QString text = m_opening.fault();
-  if (!isFault && m_opening.state() == QueueOpening::State::Asked) text = tr("Asking the print server…");
+  if (!isFault && m_opening.state() == QueueOpening::State::Asked) text = tr("Connecting to the printer…");
   if (m_opening.state() == QueueOpening::State::Open) text = QueueListModel::stateText(m_opening.summary());
   m_chooser->showText(text, isFault);
   updateControls();
@@ -102,8 +102,9 @@ void PrintDialog::openQueue(Queue& queue) {
   m_general->showQueue(panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys());
   m_chooser->takeCurrent(m_opening.wanted());
   if (const QStringList& refused = jobOptions().refused(); !refused.isEmpty())
-    showMessage(tr("This printer cannot do %1. The job is printed without it.").arg(refused.join(u", ")));
-  if (!opened) showMessage(opened.reason());
+    showMessage(
+        tr("This printer does not support %1. The job will be printed without it.").arg(refused.join(u", ")));
+  if (!opened) showMessage(asSentence(opened.reason()));
 }
 
 void PrintDialog::settleQueue() {
@@ -119,7 +120,7 @@ void PrintDialog::settleQueue() {
 void PrintDialog::showPanel() {
   std::unique_ptr<PanelPane> pane;
   if (Outcome made = PanelPane::make(*m_session.view(), m_session.bundle(), &pane); !made)
-    return showMessage(made.reason());
+    return showMessage(asSentence(made.reason()));
   m_panelPane = pane.release();
   if (!m_session.panel()->filesDocuments()) m_panelPane->sayNothingIsFiled();
   m_summary = new SummaryPane(m_panes);
@@ -129,7 +130,7 @@ void PrintDialog::showPanel() {
   m_panes->addTab(m_summary, tr("Summary"));
   connect(m_panelPane, &PanelPane::panelChanged, this, &PrintDialog::updateSummary);
   connect(m_panelPane, &PanelPane::addressJudged, this, [this](const QString& fault) {
-    showMessage(fault.isNull() ? m_session.outcomeOfFetch().reason() : fault);
+    showMessage(fault.isNull() ? asSentence(m_session.outcomeOfFetch().reason()) : fault);
   });
   connect(m_summary, &SummaryPane::privacyAsked, this, [this] { m_client.checkPrivacy(m_opening.wanted()); });
   connect(&m_client, &QueueClient::privacyChecked, m_summary, &SummaryPane::showPrivacy);
@@ -152,12 +153,15 @@ void PrintDialog::showDocument() {
   const State state = m_document.state();
   const std::vector<JobFile> files = state == State::Ready ? m_document.files() : std::vector<JobFile>();
   QString text = m_document.name();
-  if (state == State::None) text = m_options.documentLater ? shownText(m_options.title) : tr("none chosen");
+  if (state == State::None)
+    text = m_options.documentLater ? shownText(m_options.title) : tr("No document selected");
   m_documentLine->show(text, m_document.faults());
-  m_preview->show(files, state == State::Reading   ? tr("The document is being read…")
-                         : state == State::Paused  ? tr("The document is long. Print reads the rest.")
-                         : m_options.documentLater ? tr("The application draws the pages after the choice.")
-                                                   : tr("No document"));
+  m_preview->show(
+      files, state == State::Reading  ? tr("Reading the document…")
+             : state == State::Paused ? tr("The document is long. The rest of it is read when you print.")
+             : m_options.documentLater
+                 ? tr("No preview is available. The application prepares the pages after you press Print.")
+                 : tr("No document"));
   takePageCount();
   m_documentLine->offerChoice(m_options.channel < 0 && !m_options.documentLater &&
                               (state == State::Failed || state == State::None));
@@ -174,7 +178,7 @@ void PrintDialog::takePageCount() {
 
 void PrintDialog::chooseDocument() {
   QByteArrayList files;
-  for (const QString& file : QFileDialog::getOpenFileNames(this, tr("Choose the document")))
+  for (const QString& file : QFileDialog::getOpenFileNames(this, tr("Choose a document")))
     files.append(QFile::encodeName(file));
   if (!files.isEmpty()) m_document.openFiles(files);
 }
@@ -222,8 +226,8 @@ void PrintDialog::send() {
 
 void PrintDialog::takeSent(int job) {
   const bool isRemembered = bool(m_session.remember());
-  const QString text =
-      isRemembered ? tr("Job %1 sent to %2") : tr("Job %1 sent to %2; its entries cannot be remembered");
+  const QString text = isRemembered ? tr("Job %1 was sent to %2.")
+                                    : tr("Job %1 was sent to %2. Its entries could not be remembered.");
   showMessage(text.arg(job).arg(m_session.queue()->id));
   if (!isVisible()) return accept();
   QTimer::singleShot(farewell, this, &QDialog::accept);
@@ -233,7 +237,7 @@ void PrintDialog::takeSendFailure(const QString& reason) {
   show();  // the user may believe it printed
   raise();
   activateWindow();
-  showMessage(tr("Not printed: %1").arg(reason));
+  showMessage(tr("The job was not printed. %1").arg(reason));
 }
 
 void PrintDialog::showPhase() {
@@ -267,13 +271,13 @@ void PrintDialog::updateControls() {
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
   const bool isTaker = m_opening.summary().isAccepting && !m_chooser->isPending();
   m_foot->printButton().setEnabled(isQueueReady() && isTaker && !isMissing);
-  m_foot->printButton().setToolTip(isMissing ? tr("There is no document to print yet.") : QString());
+  m_foot->printButton().setToolTip(isMissing ? tr("Choose a document to print.") : QString());
 }
 
 void PrintDialog::reject() {
   if (m_sending.phase() == JobSending::Phase::Sending) {
     m_sending.stop();
-    return showMessage(tr("Stopping the job…"));
+    return showMessage(tr("Canceling the job…"));
   }
   if (m_sending.phase() == JobSending::Phase::Sent) return accept();
   m_opening.leave();

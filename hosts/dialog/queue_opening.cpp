@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "hosts/dialog/widgets/plain_text.h"
+
 namespace kesto {
 
 QueueOpening::QueueOpening(QueueWatch& watch, QueueClient& client, const QueueListModel& queues)
@@ -80,9 +82,9 @@ void QueueOpening::takeChange() {
 }
 
 void QueueOpening::takeListFault(const QString& reason) {
-  m_listFault = reason;
+  m_listFault = asSentence(reason);
   if (isOpen()) return;
-  m_fault = reason;
+  m_fault = m_listFault;
   Q_EMIT changed();
   settleWithout();
 }
@@ -93,7 +95,7 @@ void QueueOpening::takeOpenFault(const QString& reason) {
     m_suggested = QString();
     return want({});
   }
-  m_openFault = reason;
+  m_openFault = asSentence(reason);
   settleWithout();
 }
 
@@ -109,7 +111,7 @@ void QueueOpening::settleWithout() {
     for (const QueueSummary& queue : m_queues.queues()) {
       if (queue.isAccepting) return want(queue.name);
     }
-    fault = tr("There is no printer that takes jobs.");
+    fault = tr("No printer is accepting jobs. Check the printers in the system settings, then try again.");
   }
   m_state = State::Failed;
   m_fault = fault;

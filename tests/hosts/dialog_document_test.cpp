@@ -59,7 +59,7 @@ TEST_F(DialogDocument, WhatCanBeReadIsOfferedAndTheRestNamed) {
   awaitState(State::Ready);
   EXPECT_EQ(m_document.faults(),
             (QStringList{m_folder.path(u"missing"_s) + u" cannot be read: No such file or directory"_s,
-                         m_folder.path(u""_s) + u" is a folder"_s,
+                         m_folder.path(u""_s) + u" is a folder. Choose a file."_s,
                          u"empty is empty. There is nothing to print."_s}));
   EXPECT_EQ(m_document.name(), u"gr\\xf6n\\n and 3 more"_s);
   EXPECT_EQ(::unlink(odd.constData()), 0);  // it is printed as it was chosen
@@ -79,7 +79,8 @@ TEST_F(DialogDocument, WhatHasNoEndIsReadInBounds) {
   awaitState(State::Paused);
   m_document.readOn();
   awaitState(State::Failed);
-  EXPECT_EQ(m_document.faults(), QStringList{u"zero is larger than 293 KiB, the most that is read."_s});
+  EXPECT_EQ(m_document.faults(),
+            QStringList{u"zero is larger than 293 KiB, the most that can be printed."_s});
 }
 
 TEST_F(DialogDocument, TheEndOfAnotherProgramsPipeIsConfirmed) {
@@ -193,7 +194,7 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
   const QByteArray path = qgetenv("PATH");
   qputenv("PATH", "/nowhere");
   m_preview.show(report);
-  sheet(u"There is no preview: the program pdftoppm of poppler-utils is missing."_s);
+  sheet(u"No preview is available. Install poppler-utils to see one."_s);
   qputenv("PATH", path);
 }
 

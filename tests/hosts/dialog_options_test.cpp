@@ -60,15 +60,16 @@ TEST_F(DialogPrint, WhatIsShownIsWhatTravels) {
   m_options.jobOptions = {{u"copies"_s, u"1"_s}, {u"PageSize"_s, u"Custom"_s}, {u"collate"_s, u"?"_s}};
   openReady();
   EXPECT_EQ(widget<QSpinBox>(u"copies"_s)->value(), 1) << "given for the job";
-  EXPECT_EQ(text(u"message"_s),
-            u"This printer cannot do PageSize=Custom, collate=?. The job is printed without it."_s);
+  EXPECT_EQ(
+      text(u"message"_s),
+      u"This printer does not support PageSize=Custom, collate=?. The job will be printed without it."_s);
 }
 
 TEST_F(DialogPrint, PagesThatTheDocumentHasNotAreNotPrinted) {
   m_options.jobOptions = {{u"page-ranges"_s, u"99"_s}};
   startPrinter();
   openReady({QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")});
-  const QString none = u"The document ends with page 3. Enter pages up to it."_s;
+  const QString none = u"The document ends at page 3. Enter page numbers up to 3."_s;
   await([&] { return noteOf(*m_dialog) == none; }, u"the note"_s);
   for (const auto& [pages, said] :
        Cases{{"99", none}, {"4-", none}, {"3-1", "Enter page numbers or ranges, for example 1-3, 5."}}) {
@@ -82,7 +83,7 @@ TEST_F(DialogPrint, PagesThatTheDocumentHasNotAreNotPrinted) {
   EXPECT_EQ(noteOf(*m_dialog), u""_s);
   EXPECT_EQ(text(u"message"_s), u""_s);
   type(u"pages"_s, u"2-12"_s);
-  EXPECT_EQ(noteOf(*m_dialog), u"The document ends with page 3. Only 2-3 will be printed."_s);
+  EXPECT_EQ(noteOf(*m_dialog), u"The document ends at page 3. Pages that will be printed: 2-3."_s);
   EXPECT_EQ(text(u"paperTotal"_s), u"Total: 2 sheets of paper"_s);
   EXPECT_TRUE(DialogUser(*m_dialog).choose(u"Duplex"_s, 1));
   EXPECT_EQ(text(u"paperTotal"_s), u"Total: 1 sheet of paper"_s);

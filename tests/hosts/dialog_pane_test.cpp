@@ -169,7 +169,7 @@ TEST_F(DialogPane, AHoldButtonLocksItsField) {
   EXPECT_EQ(button->accessibleName(), u"Lock Job Name"_s);
   EXPECT_NE(button->grab().toImage(), open);
   ASSERT_TRUE(DialogUser::waitUntil([&] { return !line->toolTip().isEmpty(); }, u"the reason"_s));
-  EXPECT_TRUE(button->accessibleDescription().startsWith(u"On"_s));
+  EXPECT_TRUE(button->accessibleDescription().startsWith(u"Locked"_s));
   // With its key as well: Alt and Shift with the letter of the field.
   QTest::keySequence(&m_window, button->shortcut());
   ASSERT_TRUE(DialogUser::waitUntil([&] { return line->isEnabled(); }, u"the lock to open"_s));
@@ -302,10 +302,10 @@ TEST_F(DialogPane, ATipSaysWhyAControlIsDimmed) {
       "userNumberEditText="_s);
   use("retentionCheckBox userNumberRadioButton");
   expectTips(
-      u"suspendKeyEditText= folderNameEditText=custom_folder folderPasswordStaticText=guarded "
+      u"suspendKeyEditText= folderNameEditText=custom_folder folderPasswordStaticText=protected "
       "loginNameEditText=user_number"_s);
   use("quickFileRadioButton userNumberButton");
-  expectTips(u"suspendKeyEditText=quick_file userNumberEditText=Locked"_s);
+  expectTips(u"suspendKeyEditText=quick_file userNumberEditText=locked"_s);
 }
 
 TEST_F(DialogPane, TheTestsUserFailsWhereAPersonWould) {

@@ -51,7 +51,7 @@ TEST_F(DialogPrint, AWholeJobIsDoneThroughAssistiveTechnologyAlone) {
   EXPECT_EQ(m_dialog->jobOptions().value(u"copies"_s), u"2"_s);
   act(u"print"_s, QAccessibleActionInterface::pressAction());
   awaitJob(1);
-  EXPECT_EQ(text(u"message"_s), u"Job 1 sent to Office_MFP"_s);
+  EXPECT_EQ(text(u"message"_s), u"Job 1 was sent to Office_MFP."_s);
   const QMap<QString, QString> settings = m_dialog->jobSettings();
   for (const auto& [name, value] :
        Cases{{"jobSuspend", "1"}, {"userNumber", "00042"}, {"jobName", "506C616E"}, {"holdButton", "64"}})
@@ -91,7 +91,7 @@ TEST_F(DialogPrint, AJobThatCannotBeSentKeepsTheEntries) {
   type(u"pages"_s, u"2"_s);
   m_printer.reset();
   click(u"print"_s);
-  await([this] { return text(u"message"_s).startsWith(u"Not printed: "_s); }, u"the reason"_s);
+  await([this] { return text(u"message"_s).startsWith(u"The job was not printed. "_s); }, u"the reason"_s);
   EXPECT_TRUE(m_dialog->isVisible());
   EXPECT_TRUE(widget(u"print"_s)->isEnabled());
   EXPECT_EQ(widget<QLineEdit>(u"userNumberEditText"_s)->text(), u"42"_s);
@@ -120,17 +120,18 @@ TEST_F(DialogPrint, CancelStopsAJobThatIsGoingOut) {
   for (const auto* label : m_dialog->findChildren<QLabel*>())
     EXPECT_TRUE(label->buddy() == nullptr || !label->isEnabled()) << label->text();
   QTest::keyClick(&*m_dialog, Qt::Key_Escape);
-  EXPECT_EQ(text(u"message"_s), u"Stopping the job…"_s);
+  EXPECT_EQ(text(u"message"_s), u"Canceling the job…"_s);
   EXPECT_TRUE(m_dialog->isVisible());
   signalScheduler(SIGCONT);
-  await([this] { return text(u"message"_s) == u"Not printed: the job was stopped"_s; }, u"the end"_s);
+  await([this] { return text(u"message"_s) == u"The job was not printed. The job was stopped."_s; },
+        u"the end"_s);
   EXPECT_TRUE(widget(u"print"_s)->isEnabled());
   EXPECT_EQ(m_printer->jobs(), "[]");
 }
 
 TEST_F(DialogPrint, ADocumentIsChosenInTheDialog) {
   openReady({});
-  auto* button = widgetNamed<QPushButton>(*m_dialog, u"Choose the document"_s);
+  auto* button = widgetNamed<QPushButton>(*m_dialog, u"Choose a document"_s);
   whenModal([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
   button->click();
   EXPECT_FALSE(widget(u"print"_s)->isEnabled());
@@ -308,7 +309,7 @@ TEST_F(DialogPrint, PresetsComeBackAndGo) {
     QAction* stale = entry(u"Held"_s, deletes);
     EXPECT_TRUE(QFile::remove(m_folder.path(u"config/kesto/kesto.presets.Office_MFP.json"_s)));
     const QString alert = alertOn([&] { stale->trigger(); });
-    EXPECT_TRUE(alert.contains(u"there is no preset \"Held & fast\""_s)) << alert;
+    EXPECT_TRUE(alert.contains(u"There is no preset \"Held & fast\""_s)) << alert;
   }
 }
 

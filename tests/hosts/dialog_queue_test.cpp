@@ -148,7 +148,7 @@ TEST_F(DialogPrint, AQueueWithoutThePanelPrintsByItsOwnOptions) {
   EXPECT_TRUE(DialogUser(*m_dialog).choose(u"Duplex"_s, 1));
   click(u"print"_s);
   awaitJob(1);
-  EXPECT_EQ(text(u"message"_s), u"Job 1 sent to Office_MFP_0002"_s);
+  EXPECT_EQ(text(u"message"_s), u"Job 1 was sent to Office_MFP_0002."_s);
   EXPECT_TRUE(m_dialog->jobSettings().isEmpty()) << "of the panel of the queue before";
 }
 
@@ -216,8 +216,9 @@ TEST_F(DialogPrint, TextsOfOthersStayOnTheirLine) {
 }
 
 TEST_F(DialogPrint, TheSummaryTellsWhatOthersSee) {
-  for (const auto& [edits, part] : Cases{
-           {"", "and no more of it."}, {"/JobPrivate/d", "These lines in its policy demo hide it:\n\nJob"}}) {
+  for (const auto& [edits, part] :
+       Cases{{"", "none of its details."},
+             {"/JobPrivate/d", "add these lines to the print server's policy \"demo\":\n\nJob"}}) {
     m_printer.reset();
     changeScheduler(m_folder, edits.toLatin1());
     startPrinter();

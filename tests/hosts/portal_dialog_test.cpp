@@ -169,7 +169,7 @@ TEST_F(PortalDialog, ComesBackWithTheReasonWhenThereIsNothingToPrint) {
   awaitAnswers(u"chosen failed "_s);
   await([] { return window()->isVisible(); }, u"the dialog"_s);
   EXPECT_EQ(window()->findChild<QLabel*>(u"message"_s)->text(),
-            u"Not printed: Report is empty. There is nothing to print."_s);
+            u"The job was not printed. Report is empty. There is nothing to print."_s);
   EXPECT_FALSE(window()->findChild<QWidget*>(u"print"_s)->isEnabled());
   pressEscape();
   awaitEnd();

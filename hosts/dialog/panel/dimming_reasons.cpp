@@ -50,16 +50,16 @@ struct Reason {
 };
 
 constexpr char retentionOff[] =
-    QT_TRANSLATE_NOOP("DimmingReasons", "The job is not held on the printer: turn that on first.");
+    QT_TRANSLATE_NOOP("DimmingReasons", "The job is not held on the printer. Turn on Retention first.");
 constexpr char quickFile[] = QT_TRANSLATE_NOOP("DimmingReasons", "A quick file has no pass code.");
 constexpr char noCustomFolder[] =
-    QT_TRANSLATE_NOOP("DimmingReasons", "Only a custom folder has a name to type.");
+    QT_TRANSLATE_NOOP("DimmingReasons", "Only a custom folder needs a name. Choose Custom Folder first.");
 constexpr char noGuardedFolder[] =
-    QT_TRANSLATE_NOOP("DimmingReasons", "Only a custom folder, or one that is guarded, has a pass code.");
+    QT_TRANSLATE_NOOP("DimmingReasons", "Only a custom folder or a protected folder has a pass code.");
 constexpr char byUserNumber[] =
-    QT_TRANSLATE_NOOP("DimmingReasons", "The user is told by the user number, not by the login name.");
+    QT_TRANSLATE_NOOP("DimmingReasons", "This printer identifies you by user number, not by login name.");
 constexpr char held[] = QT_TRANSLATE_NOOP(
-    "DimmingReasons", "Locked and remembered for this printer: open the padlock to change it.");
+    "DimmingReasons", "This entry is locked and remembered for this printer. Open the padlock to change it.");
 
 // The first reason that applies is shown.
 constexpr std::array reasons{

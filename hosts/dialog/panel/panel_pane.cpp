@@ -16,6 +16,7 @@
 #include "hosts/dialog/panel/control_binders.h"
 #include "hosts/dialog/panel/dimming_reasons.h"
 #include "hosts/dialog/panel/folder_choice.h"
+#include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
@@ -83,6 +84,20 @@ int leftOf(const QGridLayout& grid, const QWidget& page) {
   return parent->mapTo(&page, parent->contentsRect().topLeft()).x() + grid.contentsMargins().left();
 }
 
+// The texts of a form, which are English.
+QList<std::pair<QWidget*, QString>> textsOf(const QWidget& form) {
+  QList<std::pair<QWidget*, QString>> texts;
+  for (auto* label : form.findChildren<QLabel*>())
+    texts.append({label, label->text()});
+  for (auto* button : form.findChildren<QAbstractButton*>())
+    texts.append({button, button->text()});
+  for (auto* tabs : form.findChildren<QTabWidget*>()) {
+    for (int i = 0; i < tabs->count(); ++i)
+      texts.append({tabs->widget(i), tabs->tabText(i)});
+  }
+  return texts;
+}
+
 }  // namespace
 
 PanelPane::PanelPane(PanelView& view) : m_view(&view), m_folderChoice(new FolderChoice(view)) {
@@ -109,7 +124,10 @@ Outcome PanelPane::make(PanelView& view, const Bundle& bundle, std::unique_ptr<P
   auto* layout = new QVBoxLayout(made.get());
   layout->setContentsMargins({});
   layout->addWidget(root);
+  const auto texts = textsOf(*root);
   made->bind();
+  for (const auto& [widget, english] : texts)
+    rememberEnglish(plainText(*widget), english);
   *pane = std::move(made);
   return Outcome::done();
 }
@@ -223,7 +241,8 @@ void PanelPane::sayNothingIsFiled() {
   QWidget* box = widgetOf(QStringLiteral("filingBox"));
   auto* grid = box == nullptr ? nullptr : qobject_cast<QGridLayout*>(box->layout());
   if (grid == nullptr) return;
-  auto* note = new QLabel(tr("This printer does not file documents: the choice of a folder has no effect."));
+  auto* note =
+      new QLabel(tr("This printer does not file documents, so the choice of a folder has no effect."));
   note->setObjectName(QStringLiteral("filingNote"));
   note->setWordWrap(true);
   grid->addWidget(note, grid->rowCount(), 0, 1, grid->columnCount());
@@ -238,9 +257,8 @@ void PanelPane::refresh() {
     QString tip = dimmingReason(*control);
     const auto* button = qobject_cast<const Button*>(control);
     if (button != nullptr && button->type() == Button::Type::HoldButton) {
-      const QString state = button->state() != 0
-                                ? tr("On: the entry is locked, and remembered for this printer.")
-                                : tr("Off: the entry is for this job alone.");
+      const QString state = button->state() != 0 ? tr("Locked: this entry is remembered for this printer.")
+                                                 : tr("Unlocked: this entry is for this job only.");
       widget->setAccessibleDescription(state);
       if (tip.isNull()) tip = state;
     } else {

@@ -119,7 +119,7 @@ void GeneralPane::addPages(const OptionRow& row) {
   m_somePages->setObjectName(QStringLiteral("somePages"));
   m_pages->setObjectName(QStringLiteral("pages"));
   m_pages->setPlaceholderText(tr("1-3, 5"));
-  m_pages->setAccessibleName(tr("Pages to print, such as 1-3, 5"));
+  m_pages->setAccessibleName(tr("Pages to print, for example 1-3, 5"));
   auto* layout = new QHBoxLayout(line);
   layout->setContentsMargins({});
   for (QRadioButton* radio : {m_allPages, m_applicationsPages, m_somePages}) {
@@ -183,7 +183,7 @@ QString GeneralPane::fault() const {
   if (asked.isNull() || m_applicationsPages->isChecked()) return {};
   if (!pageRangesOf(asked)) return tr("Enter page numbers or ranges, for example 1-3, 5.");
   if (m_options.pages().isNull())
-    return tr("The document ends with page %1. Enter pages up to it.").arg(m_options.pageCount());
+    return tr("The document ends at page %1. Enter page numbers up to %1.").arg(m_options.pageCount());
   return {};
 }
 
@@ -201,8 +201,9 @@ QString GeneralPane::note() const {
         shownText(tr("The printer cannot do these together: %1.").arg(m_options.conflicts().join(u", "))));
   const QString pages = m_options.pages();
   if (!pages.isNull() && pages != pageRangesOf(m_options.value(pagesKey)).value_or(QString()))
-    lines.append(
-        tr("The document ends with page %1. Only %2 will be printed.").arg(m_options.pageCount()).arg(pages));
+    lines.append(tr("The document ends at page %1. Pages that will be printed: %2.")
+                     .arg(m_options.pageCount())
+                     .arg(pages));
   return lines.join(u'\n');
 }
 

@@ -17,7 +17,7 @@ SummaryPane::SummaryPane(QWidget* parent)
       m_privacy(new QLabel(this)) {
   auto* page = new QWidget(this);
   m_form->setLabelAlignment(Qt::AlignTrailing);
-  setPlainText(*m_ask, tr("Who sees this job?"));
+  setPlainText(*m_ask, tr("Who can see this job?"));
   m_ask->setAutoDefault(false);
   m_ask->setObjectName(QStringLiteral("privacy"));
   m_privacy->setTextFormat(Qt::PlainText);
@@ -57,11 +57,11 @@ void SummaryPane::show(const QList<std::pair<QString, QString>>& summary) {
 }
 
 void SummaryPane::showPrivacy(const Outcome& outcome, const JobPrivacy& privacy) {
-  QString text = shownText(outcome.reason());
+  QString text = shownText(asSentence(outcome.reason()));
   if (outcome && privacy.shown.isEmpty()) {
-    text = tr("Other users of the print server see that there is a job, and no more of it.");
+    text = tr("Other users can see that this job exists, but none of its details.");
   } else if (outcome) {
-    text = tr("Other users of the print server see: %1. These lines in its policy %2 hide it:")
+    text = tr("Other users can see %1. To hide it, add these lines to the print server's policy \"%2\":")
                .arg(privacy.shown.join(QStringLiteral(", ")), privacy.policy) +
            QStringLiteral("\n\n") + QLatin1String(privatePolicyLines);
   }

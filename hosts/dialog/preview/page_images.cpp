@@ -98,11 +98,12 @@ void PageImages::dropOld() {
 }
 
 QString PageImages::faultOf(PageProgram::End end, bool isPdf) const {
-  if (end == PageProgram::End::Late) return tr("There is no preview: drawing the page takes too long.");
-  if (!isPdf) return tr("There is no preview of this kind of document.");
+  if (end == PageProgram::End::Late)
+    return tr("No preview is available because drawing the page takes too long.");
+  if (!isPdf) return tr("No preview is available for this type of document.");
   if (end == PageProgram::End::Missing)
-    return tr("There is no preview: the program pdftoppm of poppler-utils is missing.");
-  return tr("There is no preview: the document cannot be read as PDF.");
+    return tr("No preview is available. Install poppler-utils to see one.");
+  return tr("No preview is available because this PDF document cannot be read.");
 }
 
 }  // namespace kesto

@@ -122,7 +122,7 @@ void Preview::drawSide() {
 QString Preview::textInPlace() const {
   if (!m_hasFiles) return m_text;
   if (!fault().isNull() || !m_plan) return fault();
-  if (m_places.isEmpty()) return tr("No pages are chosen.");
+  if (m_places.isEmpty()) return tr("No pages are selected.");
   const QList<SheetCell>& cells = m_places[m_position].side->cells;
   return cells.size() == 1 ? m_images.fault({cells.front().document, cells.front().page}) : QString();
 }

@@ -4,28 +4,28 @@
 <context>
     <name>DimmingReasons</name>
     <message>
-        <source>The job is not held on the printer: turn that on first.</source>
-        <translation>Der Auftrag wird nicht auf dem Drucker zurückgehalten: Schalten Sie zuerst „Zurückhalten“ ein.</translation>
-    </message>
-    <message>
         <source>A quick file has no pass code.</source>
         <translation>Die Schnellablage hat keine PIN.</translation>
     </message>
     <message>
-        <source>Only a custom folder has a name to type.</source>
-        <translation>Nur für einen eigenen Ordner lässt sich ein Name eingeben.</translation>
+        <source>The job is not held on the printer. Turn on Retention first.</source>
+        <translation>Der Auftrag wird nicht auf dem Drucker zurückgehalten. Schalten Sie zuerst „Zurückhalten“ ein.</translation>
     </message>
     <message>
-        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
+        <translation>Nur ein eigener Ordner braucht einen Namen. Wählen Sie zuerst „Eigener Ordner“.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>Nur ein eigener oder ein geschützter Ordner hat eine PIN.</translation>
     </message>
     <message>
-        <source>The user is told by the user number, not by the login name.</source>
-        <translation>Der Benutzer wird über die Benutzernummer angegeben, nicht über den Anmeldenamen.</translation>
+        <source>This printer identifies you by user number, not by login name.</source>
+        <translation>Dieser Drucker erkennt Sie an der Benutzernummer, nicht am Anmeldenamen.</translation>
     </message>
     <message>
-        <source>Locked and remembered for this printer: open the padlock to change it.</source>
-        <translation>Gesperrt und für diesen Drucker gemerkt: Öffnen Sie zum Ändern das Schloss.</translation>
+        <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
+        <translation>Dieser Eintrag ist gesperrt und wird für diesen Drucker gemerkt. Öffnen Sie zum Ändern das Schloss.</translation>
     </message>
 </context>
 <context>
@@ -42,48 +42,104 @@
 <context>
     <name>Help</name>
     <message>
-        <source>Hold a job on the printer</source>
-        <translation>Einen Auftrag auf dem Drucker speichern</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>Schalten Sie auf der Registerkarte „Auftragssteuerung“ die Option „Zurückhalten“ ein und geben Sie eine PIN mit bis zu 8 Ziffern an. Der Auftrag wartet im Drucker, bis Sie dort die PIN eingeben.</translation>
-    </message>
-    <message>
         <source>Say who you are</source>
         <translation>Angeben, wer Sie sind</translation>
     </message>
     <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>Wenn der Drucker die Seiten zählt, geben Sie auf der Registerkarte „Benutzer und Konto“ Ihre Benutzernummer oder Ihren Anmeldenamen an.</translation>
-    </message>
-    <message>
-        <source>Have an entry remembered</source>
-        <translation>Einen Eintrag merken lassen</translation>
-    </message>
-    <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>Schließen Sie das Schloss neben einem Eintrag. Er wird dann für diesen Drucker wieder angeboten; zum Ändern öffnen Sie das Schloss.</translation>
-    </message>
-    <message>
-        <source>Choose a folder of the printer</source>
-        <translation>Einen Ordner des Druckers wählen</translation>
-    </message>
-    <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>„Ordnernamen abrufen“ fragt den Drucker unter der darüber angegebenen Adresse nach seinen Ordnern.</translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation>Tasten</translation>
-    </message>
-    <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt und der unterstrichene Buchstabe führen zu einem Eintrag, mit Umschalt zu seinem Schloss. Eingabe druckt, Esc bricht ab, Strg+R zeigt eine PIN an, solange der Cursor darin steht.</translation>
-    </message>
-    <message>
         <source>Help for printing</source>
         <translation>Hilfe zum Drucken</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Einen Drucker auswählen</translation>
+    </message>
+    <message>
+        <source>Choose a printer from the list. When the list is long, type a part of the printer&apos;s name and press Enter. The line below the list says whether the printer is ready.</source>
+        <translation>Wählen Sie einen Drucker aus der Liste. Ist die Liste lang, geben Sie einen Teil des Druckernamens ein und drücken Sie die Eingabetaste. Die Zeile unter der Liste zeigt, ob der Drucker bereit ist.</translation>
+    </message>
+    <message>
+        <source>Print some of the pages</source>
+        <translation>Einige Seiten drucken</translation>
+    </message>
+    <message>
+        <source>Choose Selected pages and enter page numbers or ranges, for example 1-3, 5. A range may be open: 5- prints page 5 and all pages after it.</source>
+        <translation>Wählen Sie „Ausgewählte Seiten“ und geben Sie Seitenzahlen oder Bereiche ein, zum Beispiel 1-3, 5. Ein Bereich darf offen sein: 5- druckt Seite 5 und alle folgenden Seiten.</translation>
+    </message>
+    <message>
+        <source>Print on both sides</source>
+        <translation>Beidseitig drucken</translation>
+    </message>
+    <message>
+        <source>Choose Long edge for pages that turn like those of a book, or Short edge for pages that turn like those of a notepad.</source>
+        <translation>Wählen Sie „Lange Kante“ für Seiten, die wie in einem Buch umgeblättert werden, oder „Kurze Kante“ für Seiten, die wie bei einem Notizblock umgeschlagen werden.</translation>
+    </message>
+    <message>
+        <source>See what will be printed</source>
+        <translation>Sehen, was gedruckt wird</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
+        <translation>Die Vorschau zeigt die Blätter, wie sie aus dem Drucker kommen. Mit den Pfeilen darunter blättern Sie um.</translation>
+    </message>
+    <message>
+        <source>Hold a job on the printer with a pass code</source>
+        <translation>Einen Auftrag mit einer PIN auf dem Drucker zurückhalten</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
+        <translation>Schalten Sie unter „Auftragssteuerung“ die Option „Zurückhalten“ ein und geben Sie eine PIN mit bis zu 8 Ziffern ein. Der Auftrag wartet im Drucker, bis jemand dort die PIN eingibt. „Nach dem Druck halten“ behält den Auftrag nach dem Drucken. „Probedruck“ druckt ein Exemplar und hält die übrigen zurück.</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
+        <translation>Manche Drucker verlangen eine Angabe, wer druckt. Geben Sie unter „Benutzer und Konto“ Ihre Benutzernummer oder Ihren Anmeldenamen und Ihr Passwort ein.</translation>
+    </message>
+    <message>
+        <source>Use an entry again</source>
+        <translation>Einen Eintrag wiederverwenden</translation>
+    </message>
+    <message>
+        <source>Close the padlock next to an entry. The entry is then remembered for this printer. To change it, open the padlock.</source>
+        <translation>Schließen Sie das Schloss neben einem Eintrag. Der Eintrag wird dann für diesen Drucker gemerkt. Öffnen Sie zum Ändern das Schloss.</translation>
+    </message>
+    <message>
+        <source>Choose a folder on the printer</source>
+        <translation>Einen Ordner auf dem Drucker wählen</translation>
+    </message>
+    <message>
+        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Wählen Sie unter „Dokumentenablage“ die Option „Eigener Ordner“ und geben Sie den Namen eines Ordners ein. „Ordnernamen abrufen“ fragt den Drucker nach seinen Ordnern, sodass Sie einen aus der Liste wählen können.</translation>
+    </message>
+    <message>
+        <source>Save your settings as a preset</source>
+        <translation>Einstellungen als Voreinstellung speichern</translation>
+    </message>
+    <message>
+        <source>Press Presets and choose Save as preset. To use the settings again, choose the preset there. The pass codes are saved only if you include them.</source>
+        <translation>Klicken Sie auf „Voreinstellungen“ und wählen Sie „Als Voreinstellung speichern“. Um die Einstellungen wieder zu verwenden, wählen Sie dort die Voreinstellung. PINs werden nur gespeichert, wenn Sie sie einschließen.</translation>
+    </message>
+    <message>
+        <source>See what others can see of a job</source>
+        <translation>Sehen, was andere von einem Auftrag sehen</translation>
+    </message>
+    <message>
+        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Klicken Sie in der Übersicht auf „Wer kann diesen Auftrag sehen?“. Die Antwort sagt, welche Einzelheiten eines Auftrags der Druckserver anderen Benutzern zeigt und wie Sie sie verbergen.</translation>
+    </message>
+    <message>
+        <source>Cancel a job</source>
+        <translation>Einen Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
+        <translation>Klicken Sie auf „Abbrechen“, während der Auftrag gesendet wird. Ein bereits gesendeter Auftrag lässt sich in der Auftragsliste des Systems abbrechen.</translation>
+    </message>
+    <message>
+        <source>Use the keyboard</source>
+        <translation>Die Tastatur verwenden</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
+        <translation>Alt und ein unterstrichener Buchstabe führen zu einem Bedienelement, Alt, Umschalt und der Buchstabe zum Schloss daneben. Die Eingabetaste druckt, Esc bricht ab, und F1 öffnet diese Hilfe. Strg+R zeigt die Ziffern einer PIN, solange der Cursor darin steht.</translation>
     </message>
 </context>
 <context>
@@ -179,6 +235,11 @@
         <source>%1:</source>
         <comment>a label</comment>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>a sentence</comment>
+        <translation>%1.</translation>
     </message>
 </context>
 <context>
@@ -685,10 +746,6 @@
 </context>
 <context>
     <name>kesto::Document</name>
-    <message>
-        <source>%1 is a folder</source>
-        <translation>%1 ist ein Ordner</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
@@ -701,20 +758,24 @@
         <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>%1 is larger than %2, the most that is read.</source>
-        <translation>%1 ist größer als %2; mehr wird nicht gelesen.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be stored: %2</source>
-        <translation>%1 kann nicht zwischengespeichert werden: %2</translation>
-    </message>
-    <message>
         <source>%1 is empty. There is nothing to print.</source>
         <translation>%1 ist leer. Es gibt nichts zu drucken.</translation>
     </message>
     <message>
         <source>The document</source>
         <translation>Das Dokument</translation>
+    </message>
+    <message>
+        <source>%1 is a folder. Choose a file.</source>
+        <translation>%1 ist ein Ordner. Wählen Sie eine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that can be printed.</source>
+        <translation>%1 ist größer als %2. Mehr kann nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied for printing: %2</source>
+        <translation>%1 kann nicht zum Drucken kopiert werden: %2</translation>
     </message>
 </context>
 <context>
@@ -739,7 +800,7 @@
         <translation>Auswählen&#xa0;…</translation>
     </message>
     <message>
-        <source>Choose the document</source>
+        <source>Choose a document</source>
         <translation>Dokument auswählen</translation>
     </message>
 </context>
@@ -993,10 +1054,6 @@
         <translation>1-3, 5</translation>
     </message>
     <message>
-        <source>Pages to print, such as 1-3, 5</source>
-        <translation>Zu druckende Seiten, etwa 1-3, 5</translation>
-    </message>
-    <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>Diese Einstellungen kann der Drucker nicht kombinieren: %1.</translation>
     </message>
@@ -1005,31 +1062,35 @@
         <translation>Geben Sie Seitenzahlen oder Bereiche ein, zum Beispiel 1-3, 5.</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Enter pages up to it.</source>
-        <translation>Das Dokument endet mit Seite %1. Geben Sie Seiten bis dahin ein.</translation>
+        <source>Pages to print, for example 1-3, 5</source>
+        <translation>Zu druckende Seiten, zum Beispiel 1-3, 5</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Only %2 will be printed.</source>
-        <translation>Das Dokument endet mit Seite %1. Nur %2 wird gedruckt.</translation>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>Das Dokument endet auf Seite %1. Geben Sie Seitenzahlen bis %1 ein.</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>Das Dokument endet auf Seite %1. Gedruckt wird: %2.</translation>
     </message>
 </context>
 <context>
     <name>kesto::PageImages</name>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>Keine Vorschau: Das Zeichnen der Seite dauert zu lange.</translation>
+        <source>No preview is available because drawing the page takes too long.</source>
+        <translation>Keine Vorschau verfügbar, weil das Zeichnen der Seite zu lange dauert.</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
-        <translation>Für diese Art von Dokument gibt es keine Vorschau.</translation>
+        <source>No preview is available for this type of document.</source>
+        <translation>Für diese Art von Dokument ist keine Vorschau verfügbar.</translation>
     </message>
     <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>Keine Vorschau: Das Programm pdftoppm aus poppler-utils fehlt.</translation>
+        <source>No preview is available. Install poppler-utils to see one.</source>
+        <translation>Keine Vorschau verfügbar. Installieren Sie poppler-utils, um eine zu sehen.</translation>
     </message>
     <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>Keine Vorschau: Das Dokument lässt sich nicht als PDF lesen.</translation>
+        <source>No preview is available because this PDF document cannot be read.</source>
+        <translation>Keine Vorschau verfügbar, weil dieses PDF-Dokument nicht gelesen werden kann.</translation>
     </message>
 </context>
 <context>
@@ -1037,14 +1098,6 @@
     <message>
         <source>Lock %1</source>
         <translation>%1 sperren</translation>
-    </message>
-    <message>
-        <source>On: the entry is locked, and remembered for this printer.</source>
-        <translation>Ein: Der Eintrag ist gesperrt und wird für diesen Drucker gemerkt.</translation>
-    </message>
-    <message>
-        <source>Off: the entry is for this job alone.</source>
-        <translation>Aus: Der Eintrag gilt nur für diesen Auftrag.</translation>
     </message>
     <message>
         <source>Enter the printer&apos;s address to get the names of its folders.</source>
@@ -1055,8 +1108,16 @@
         <translation>„%1“ ist keine Adresse. Geben Sie den Namen oder die IP-Adresse des Druckers ein.</translation>
     </message>
     <message>
-        <source>This printer does not file documents: the choice of a folder has no effect.</source>
-        <translation>Dieser Drucker legt keine Dokumente ab: Die Wahl eines Ordners hat keine Wirkung.</translation>
+        <source>This printer does not file documents, so the choice of a folder has no effect.</source>
+        <translation>Dieser Drucker legt keine Dokumente ab. Die Wahl eines Ordners hat deshalb keine Wirkung.</translation>
+    </message>
+    <message>
+        <source>Locked: this entry is remembered for this printer.</source>
+        <translation>Gesperrt: Dieser Eintrag wird für diesen Drucker gemerkt.</translation>
+    </message>
+    <message>
+        <source>Unlocked: this entry is for this job only.</source>
+        <translation>Entsperrt: Dieser Eintrag gilt nur für diesen Auftrag.</translation>
     </message>
 </context>
 <context>
@@ -1093,12 +1154,12 @@
         <translation>Als Voreinstellung speichern</translation>
     </message>
     <message>
-        <source>Keep the pass codes, too</source>
-        <translation>Auch die PINs speichern</translation>
-    </message>
-    <message>
         <source>Name:</source>
         <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Include the pass codes</source>
+        <translation>PINs mit speichern</translation>
     </message>
 </context>
 <context>
@@ -1114,10 +1175,6 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
-    </message>
-    <message>
-        <source>No pages are chosen.</source>
-        <translation>Es sind keine Seiten ausgewählt.</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
@@ -1139,16 +1196,16 @@
         <source>Total: %1 sheets of paper</source>
         <translation>Gesamt: %1 Blatt Papier</translation>
     </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>Es sind keine Seiten ausgewählt.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrintDialog</name>
     <message>
         <source>Print</source>
         <translation>Drucken</translation>
-    </message>
-    <message>
-        <source>Choose the document</source>
-        <translation>Dokument auswählen</translation>
     </message>
     <message>
         <source>Printer:</source>
@@ -1163,60 +1220,64 @@
         <translation>Allgemein</translation>
     </message>
     <message>
-        <source>Asking the print server…</source>
-        <translation>Druckserver wird abgefragt&#xa0;…</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Übersicht</translation>
-    </message>
-    <message>
-        <source>none chosen</source>
-        <translation>keines ausgewählt</translation>
-    </message>
-    <message>
-        <source>The document is being read…</source>
-        <translation>Das Dokument wird gelesen&#xa0;…</translation>
     </message>
     <message>
         <source>No document</source>
         <translation>Kein Dokument</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2</source>
-        <translation>Auftrag %1 an %2 gesendet</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>Nicht gedruckt: %1</translation>
-    </message>
-    <message>
-        <source>There is no document to print yet.</source>
-        <translation>Es gibt noch kein Dokument zum Drucken.</translation>
-    </message>
-    <message>
-        <source>Stopping the job…</source>
-        <translation>Auftrag wird abgebrochen&#xa0;…</translation>
-    </message>
-    <message>
         <source>Print on %1</source>
         <translation>Drucken auf %1</translation>
     </message>
     <message>
-        <source>The application draws the pages after the choice.</source>
-        <translation>Die Anwendung zeichnet die Seiten nach der Auswahl.</translation>
+        <source>Connecting to the printer…</source>
+        <translation>Verbindung zum Drucker wird hergestellt …</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2; its entries cannot be remembered</source>
-        <translation>Auftrag %1 an %2 gesendet; die Einträge können nicht gemerkt werden</translation>
+        <source>This printer does not support %1. The job will be printed without it.</source>
+        <translation>Dieser Drucker unterstützt %1 nicht. Der Auftrag wird ohne diese Angabe gedruckt.</translation>
     </message>
     <message>
-        <source>The document is long. Print reads the rest.</source>
-        <translation>Das Dokument ist lang. Beim Drucken wird der Rest gelesen.</translation>
+        <source>No document selected</source>
+        <translation>Kein Dokument ausgewählt</translation>
     </message>
     <message>
-        <source>This printer cannot do %1. The job is printed without it.</source>
-        <translation>Dieser Drucker kann %1 nicht. Der Auftrag wird ohne dies gedruckt.</translation>
+        <source>Reading the document…</source>
+        <translation>Dokument wird gelesen …</translation>
+    </message>
+    <message>
+        <source>The document is long. The rest of it is read when you print.</source>
+        <translation>Das Dokument ist lang. Der Rest wird beim Drucken gelesen.</translation>
+    </message>
+    <message>
+        <source>No preview is available. The application prepares the pages after you press Print.</source>
+        <translation>Keine Vorschau verfügbar. Die Anwendung erstellt die Seiten, nachdem Sie auf „Drucken“ geklickt haben.</translation>
+    </message>
+    <message>
+        <source>Choose a document</source>
+        <translation>Dokument auswählen</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2.</source>
+        <translation>Auftrag %1 wurde an %2 gesendet.</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
+        <translation>Auftrag %1 wurde an %2 gesendet. Seine Einträge konnten nicht gemerkt werden.</translation>
+    </message>
+    <message>
+        <source>The job was not printed. %1</source>
+        <translation>Der Auftrag wurde nicht gedruckt. %1</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>Wählen Sie ein Dokument zum Drucken.</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Auftrag wird abgebrochen …</translation>
     </message>
 </context>
 <context>
@@ -1284,8 +1345,8 @@
 <context>
     <name>kesto::QueueOpening</name>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>Es gibt keinen Drucker, der Aufträge annimmt.</translation>
+        <source>No printer is accepting jobs. Check the printers in the system settings, then try again.</source>
+        <translation>Kein Drucker nimmt Aufträge an. Prüfen Sie die Drucker in den Systemeinstellungen und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -1302,16 +1363,16 @@
         <translation>Übersicht</translation>
     </message>
     <message>
-        <source>Who sees this job?</source>
-        <translation>Wer sieht diesen Auftrag?</translation>
+        <source>Who can see this job?</source>
+        <translation>Wer kann diesen Auftrag sehen?</translation>
     </message>
     <message>
-        <source>Other users of the print server see that there is a job, and no more of it.</source>
-        <translation>Andere Benutzer des Druckservers sehen, dass es einen Auftrag gibt, und sonst nichts davon.</translation>
+        <source>Other users can see that this job exists, but none of its details.</source>
+        <translation>Andere Benutzer können sehen, dass es diesen Auftrag gibt, aber keine Einzelheiten.</translation>
     </message>
     <message>
-        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
-        <translation>Andere Benutzer des Druckservers sehen: %1. Diese Zeilen in seiner Richtlinie %2 verbergen es:</translation>
+        <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
+        <translation>Andere Benutzer können sehen: %1. Um dies zu verbergen, fügen Sie der Richtlinie „%2“ des Druckservers diese Zeilen hinzu:</translation>
     </message>
 </context>
 </TS>

@@ -4,28 +4,28 @@
 <context>
     <name>DimmingReasons</name>
     <message>
-        <source>The job is not held on the printer: turn that on first.</source>
-        <translation>El trabajo no se retiene en la impresora: active primero «Retener el trabajo».</translation>
-    </message>
-    <message>
         <source>A quick file has no pass code.</source>
         <translation>El archivado rápido no lleva código de acceso.</translation>
     </message>
     <message>
-        <source>Only a custom folder has a name to type.</source>
-        <translation>Solo se escribe el nombre de una carpeta personalizada.</translation>
+        <source>The job is not held on the printer. Turn on Retention first.</source>
+        <translation>El trabajo no se retiene en la impresora. Active primero «Retener el trabajo».</translation>
     </message>
     <message>
-        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
+        <translation>Solo una carpeta personalizada necesita un nombre. Elija primero «Carpeta personalizada».</translation>
+    </message>
+    <message>
+        <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>Solo tienen código de acceso las carpetas personalizadas o protegidas.</translation>
     </message>
     <message>
-        <source>The user is told by the user number, not by the login name.</source>
-        <translation>El usuario se indica con su número, no con el nombre de inicio de sesión.</translation>
+        <source>This printer identifies you by user number, not by login name.</source>
+        <translation>Esta impresora le identifica por el número de usuario, no por el nombre de inicio de sesión.</translation>
     </message>
     <message>
-        <source>Locked and remembered for this printer: open the padlock to change it.</source>
-        <translation>Bloqueado y recordado para esta impresora: abra el candado para cambiarlo.</translation>
+        <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
+        <translation>Este dato está bloqueado y se recuerda para esta impresora. Abra el candado para cambiarlo.</translation>
     </message>
 </context>
 <context>
@@ -42,48 +42,104 @@
 <context>
     <name>Help</name>
     <message>
-        <source>Hold a job on the printer</source>
-        <translation>Retener un trabajo en la impresora</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>En la pestaña «Gestión de trabajos», active «Retener el trabajo» e indique un código de acceso de hasta 8 dígitos. El trabajo espera en la impresora hasta que introduzca allí el código.</translation>
-    </message>
-    <message>
         <source>Say who you are</source>
         <translation>Indicar quién es usted</translation>
     </message>
     <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>Si la impresora cuenta las páginas, indique su número de usuario o su nombre de inicio de sesión en la pestaña «Usuario y cuenta».</translation>
+        <source>Help for printing</source>
+        <translation>Ayuda para imprimir</translation>
     </message>
     <message>
-        <source>Have an entry remembered</source>
-        <translation>Recordar un dato</translation>
+        <source>Choose a printer</source>
+        <translation>Elegir una impresora</translation>
     </message>
     <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>Cierre el candado que hay junto a un dato. Se volverá a ofrecer para esta impresora; abra el candado para cambiarlo.</translation>
+        <source>Choose a printer from the list. When the list is long, type a part of the printer&apos;s name and press Enter. The line below the list says whether the printer is ready.</source>
+        <translation>Elija una impresora de la lista. Si la lista es larga, escriba una parte del nombre de la impresora y pulse Intro. La línea situada bajo la lista indica si la impresora está lista.</translation>
     </message>
     <message>
-        <source>Choose a folder of the printer</source>
+        <source>Print some of the pages</source>
+        <translation>Imprimir algunas páginas</translation>
+    </message>
+    <message>
+        <source>Choose Selected pages and enter page numbers or ranges, for example 1-3, 5. A range may be open: 5- prints page 5 and all pages after it.</source>
+        <translation>Elija «Páginas seleccionadas» y escriba números o intervalos de páginas, por ejemplo, 1-3, 5. Un intervalo puede quedar abierto: 5- imprime la página 5 y todas las siguientes.</translation>
+    </message>
+    <message>
+        <source>Print on both sides</source>
+        <translation>Imprimir por las dos caras</translation>
+    </message>
+    <message>
+        <source>Choose Long edge for pages that turn like those of a book, or Short edge for pages that turn like those of a notepad.</source>
+        <translation>Elija «Borde largo» para que las páginas se pasen como las de un libro, o «Borde corto» para que se pasen como las de un bloc de notas.</translation>
+    </message>
+    <message>
+        <source>See what will be printed</source>
+        <translation>Ver lo que se va a imprimir</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
+        <translation>La vista previa muestra las hojas de papel tal como saldrán de la impresora. Use las flechas de debajo para pasar las páginas.</translation>
+    </message>
+    <message>
+        <source>Hold a job on the printer with a pass code</source>
+        <translation>Retener un trabajo en la impresora con un código de acceso</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
+        <translation>En «Gestión de trabajos», active «Retener el trabajo» y escriba un código de acceso de hasta 8 dígitos. El trabajo espera en la impresora hasta que alguien introduce allí el código. «Retener tras imprimir» conserva el trabajo después de imprimirlo. «Imprimir una muestra» imprime una copia y retiene las demás.</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
+        <translation>Algunas impresoras preguntan quién imprime. En «Usuario y cuenta», escriba su número de usuario, o su nombre de inicio de sesión y su contraseña.</translation>
+    </message>
+    <message>
+        <source>Use an entry again</source>
+        <translation>Volver a usar un dato</translation>
+    </message>
+    <message>
+        <source>Close the padlock next to an entry. The entry is then remembered for this printer. To change it, open the padlock.</source>
+        <translation>Cierre el candado que hay junto a un dato. El dato se recordará para esta impresora. Para cambiarlo, abra el candado.</translation>
+    </message>
+    <message>
+        <source>Choose a folder on the printer</source>
         <translation>Elegir una carpeta de la impresora</translation>
     </message>
     <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>«Obtener nombres de carpetas» pide sus carpetas a la impresora cuya dirección figura encima.</translation>
+        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>En «Archivado del documento», elija «Carpeta personalizada» y escriba el nombre de una carpeta. «Obtener nombres de carpetas» pide sus carpetas a la impresora, para que pueda elegir una de la lista.</translation>
     </message>
     <message>
-        <source>Keys</source>
-        <translation>Teclas</translation>
+        <source>Save your settings as a preset</source>
+        <translation>Guardar los ajustes como preajuste</translation>
     </message>
     <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt y la letra subrayada llevan a un dato; con Mayús, a su candado. Intro imprime, Esc cancela y Ctrl+R muestra un código de acceso mientras el cursor está en él.</translation>
+        <source>Press Presets and choose Save as preset. To use the settings again, choose the preset there. The pass codes are saved only if you include them.</source>
+        <translation>Pulse «Preajustes» y elija «Guardar como preajuste». Para volver a usar los ajustes, elija allí el preajuste. Los códigos de acceso solo se guardan si los incluye.</translation>
     </message>
     <message>
-        <source>Help for printing</source>
-        <translation>Ayuda para imprimir</translation>
+        <source>See what others can see of a job</source>
+        <translation>Ver qué pueden ver los demás de un trabajo</translation>
+    </message>
+    <message>
+        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>En el resumen, pulse «¿Quién puede ver este trabajo?». La respuesta indica qué detalles de un trabajo muestra el servidor de impresión a los demás usuarios y cómo ocultarlos.</translation>
+    </message>
+    <message>
+        <source>Cancel a job</source>
+        <translation>Cancelar un trabajo</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
+        <translation>Pulse «Cancelar» mientras se envía el trabajo. Un trabajo ya enviado se puede cancelar en la lista de trabajos de impresión del sistema.</translation>
+    </message>
+    <message>
+        <source>Use the keyboard</source>
+        <translation>Usar el teclado</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
+        <translation>Alt y una letra subrayada llevan a un control; Alt, Mayús y la letra, al candado que hay junto a él. Intro imprime, Esc cancela y F1 abre esta ayuda. Ctrl+R muestra los dígitos de un código de acceso mientras el cursor está en él.</translation>
     </message>
 </context>
 <context>
@@ -179,6 +235,11 @@
         <source>%1:</source>
         <comment>a label</comment>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>a sentence</comment>
+        <translation>%1.</translation>
     </message>
 </context>
 <context>
@@ -685,10 +746,6 @@
 </context>
 <context>
     <name>kesto::Document</name>
-    <message>
-        <source>%1 is a folder</source>
-        <translation>%1 es una carpeta</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
@@ -701,20 +758,24 @@
         <translation>%1 no se puede leer: %2</translation>
     </message>
     <message>
-        <source>%1 is larger than %2, the most that is read.</source>
-        <translation>%1 supera %2, el máximo que se lee.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be stored: %2</source>
-        <translation>%1 no se puede guardar: %2</translation>
-    </message>
-    <message>
         <source>%1 is empty. There is nothing to print.</source>
         <translation>%1 está vacío. No hay nada que imprimir.</translation>
     </message>
     <message>
         <source>The document</source>
         <translation>El documento</translation>
+    </message>
+    <message>
+        <source>%1 is a folder. Choose a file.</source>
+        <translation>%1 es una carpeta. Elija un archivo.</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that can be printed.</source>
+        <translation>%1 supera %2, el máximo que se puede imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied for printing: %2</source>
+        <translation>%1 no se puede copiar para imprimirlo: %2</translation>
     </message>
 </context>
 <context>
@@ -739,8 +800,8 @@
         <translation>Elegir…</translation>
     </message>
     <message>
-        <source>Choose the document</source>
-        <translation>Elegir el documento</translation>
+        <source>Choose a document</source>
+        <translation>Elegir un documento</translation>
     </message>
 </context>
 <context>
@@ -993,10 +1054,6 @@
         <translation>1-3, 5</translation>
     </message>
     <message>
-        <source>Pages to print, such as 1-3, 5</source>
-        <translation>Páginas que imprimir, por ejemplo, 1-3, 5</translation>
-    </message>
-    <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>La impresora no puede combinar estos ajustes: %1.</translation>
     </message>
@@ -1005,31 +1062,35 @@
         <translation>Escriba números o intervalos de páginas, por ejemplo 1-3, 5.</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Enter pages up to it.</source>
-        <translation>El documento termina en la página %1. Escriba páginas hasta ella.</translation>
+        <source>Pages to print, for example 1-3, 5</source>
+        <translation>Páginas que imprimir, por ejemplo, 1-3, 5</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Only %2 will be printed.</source>
-        <translation>El documento termina en la página %1. Solo se imprimirá %2.</translation>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>El documento termina en la página %1. Escriba números de página hasta %1.</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>El documento termina en la página %1. Páginas que se imprimirán: %2.</translation>
     </message>
 </context>
 <context>
     <name>kesto::PageImages</name>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>Sin vista previa: dibujar la página tarda demasiado.</translation>
+        <source>No preview is available because drawing the page takes too long.</source>
+        <translation>No hay vista previa porque dibujar la página tarda demasiado.</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
+        <source>No preview is available for this type of document.</source>
         <translation>No hay vista previa para este tipo de documento.</translation>
     </message>
     <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>Sin vista previa: falta el programa pdftoppm de poppler-utils.</translation>
+        <source>No preview is available. Install poppler-utils to see one.</source>
+        <translation>No hay vista previa. Instale poppler-utils para verla.</translation>
     </message>
     <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>Sin vista previa: el documento no se puede leer como PDF.</translation>
+        <source>No preview is available because this PDF document cannot be read.</source>
+        <translation>No hay vista previa porque este documento PDF no se puede leer.</translation>
     </message>
 </context>
 <context>
@@ -1037,14 +1098,6 @@
     <message>
         <source>Lock %1</source>
         <translation>Bloquear %1</translation>
-    </message>
-    <message>
-        <source>On: the entry is locked, and remembered for this printer.</source>
-        <translation>Activado: el dato está bloqueado y se recuerda para esta impresora.</translation>
-    </message>
-    <message>
-        <source>Off: the entry is for this job alone.</source>
-        <translation>Desactivado: el dato vale solo para este trabajo.</translation>
     </message>
     <message>
         <source>Enter the printer&apos;s address to get the names of its folders.</source>
@@ -1055,8 +1108,16 @@
         <translation>«%1» no es una dirección. Introduzca el nombre o la dirección IP de la impresora.</translation>
     </message>
     <message>
-        <source>This printer does not file documents: the choice of a folder has no effect.</source>
-        <translation>Esta impresora no archiva documentos: la elección de una carpeta no tiene efecto.</translation>
+        <source>This printer does not file documents, so the choice of a folder has no effect.</source>
+        <translation>Esta impresora no archiva documentos, por lo que la elección de una carpeta no tiene efecto.</translation>
+    </message>
+    <message>
+        <source>Locked: this entry is remembered for this printer.</source>
+        <translation>Bloqueado: este dato se recuerda para esta impresora.</translation>
+    </message>
+    <message>
+        <source>Unlocked: this entry is for this job only.</source>
+        <translation>Desbloqueado: este dato vale solo para este trabajo.</translation>
     </message>
 </context>
 <context>
@@ -1093,12 +1154,12 @@
         <translation>Guardar como preajuste</translation>
     </message>
     <message>
-        <source>Keep the pass codes, too</source>
-        <translation>Guardar también los códigos de acceso</translation>
-    </message>
-    <message>
         <source>Name:</source>
         <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>Include the pass codes</source>
+        <translation>Incluir los códigos de acceso</translation>
     </message>
 </context>
 <context>
@@ -1114,10 +1175,6 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Página %1 de %2</translation>
-    </message>
-    <message>
-        <source>No pages are chosen.</source>
-        <translation>No se ha elegido ninguna página.</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
@@ -1139,16 +1196,16 @@
         <source>Total: %1 sheets of paper</source>
         <translation>Total: %1 hojas de papel</translation>
     </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>No hay ninguna página seleccionada.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrintDialog</name>
     <message>
         <source>Print</source>
         <translation>Imprimir</translation>
-    </message>
-    <message>
-        <source>Choose the document</source>
-        <translation>Elegir el documento</translation>
     </message>
     <message>
         <source>Printer:</source>
@@ -1163,60 +1220,64 @@
         <translation>General</translation>
     </message>
     <message>
-        <source>Asking the print server…</source>
-        <translation>Consultando el servidor de impresión…</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Resumen</translation>
-    </message>
-    <message>
-        <source>none chosen</source>
-        <translation>ninguno elegido</translation>
-    </message>
-    <message>
-        <source>The document is being read…</source>
-        <translation>Leyendo el documento…</translation>
     </message>
     <message>
         <source>No document</source>
         <translation>Ningún documento</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2</source>
-        <translation>Trabajo %1 enviado a %2</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>No se ha impreso: %1</translation>
-    </message>
-    <message>
-        <source>There is no document to print yet.</source>
-        <translation>Aún no hay ningún documento que imprimir.</translation>
-    </message>
-    <message>
-        <source>Stopping the job…</source>
-        <translation>Deteniendo el trabajo…</translation>
-    </message>
-    <message>
         <source>Print on %1</source>
         <translation>Imprimir en %1</translation>
     </message>
     <message>
-        <source>The application draws the pages after the choice.</source>
-        <translation>La aplicación dibuja las páginas después de la selección.</translation>
+        <source>Connecting to the printer…</source>
+        <translation>Conectando con la impresora…</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2; its entries cannot be remembered</source>
-        <translation>Trabajo %1 enviado a %2; sus datos no se pueden recordar</translation>
+        <source>This printer does not support %1. The job will be printed without it.</source>
+        <translation>Esta impresora no admite %1. El trabajo se imprimirá sin ello.</translation>
     </message>
     <message>
-        <source>The document is long. Print reads the rest.</source>
+        <source>No document selected</source>
+        <translation>Ningún documento seleccionado</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Leyendo el documento…</translation>
+    </message>
+    <message>
+        <source>The document is long. The rest of it is read when you print.</source>
         <translation>El documento es largo. El resto se lee al imprimir.</translation>
     </message>
     <message>
-        <source>This printer cannot do %1. The job is printed without it.</source>
-        <translation>Esta impresora no admite %1. El trabajo se imprime sin ello.</translation>
+        <source>No preview is available. The application prepares the pages after you press Print.</source>
+        <translation>No hay vista previa. La aplicación prepara las páginas después de pulsar «Imprimir».</translation>
+    </message>
+    <message>
+        <source>Choose a document</source>
+        <translation>Elegir un documento</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2.</source>
+        <translation>El trabajo %1 se ha enviado a %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
+        <translation>El trabajo %1 se ha enviado a %2. Sus datos no se han podido recordar.</translation>
+    </message>
+    <message>
+        <source>The job was not printed. %1</source>
+        <translation>El trabajo no se ha impreso. %1</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>Elija un documento que imprimir.</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Cancelando el trabajo…</translation>
     </message>
 </context>
 <context>
@@ -1284,8 +1345,8 @@
 <context>
     <name>kesto::QueueOpening</name>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>No hay ninguna impresora que acepte trabajos.</translation>
+        <source>No printer is accepting jobs. Check the printers in the system settings, then try again.</source>
+        <translation>Ninguna impresora acepta trabajos. Compruebe las impresoras en la configuración del sistema y vuelva a intentarlo.</translation>
     </message>
 </context>
 <context>
@@ -1302,16 +1363,16 @@
         <translation>Resumen</translation>
     </message>
     <message>
-        <source>Who sees this job?</source>
-        <translation>¿Quién ve este trabajo?</translation>
+        <source>Who can see this job?</source>
+        <translation>¿Quién puede ver este trabajo?</translation>
     </message>
     <message>
-        <source>Other users of the print server see that there is a job, and no more of it.</source>
-        <translation>Los demás usuarios del servidor de impresión ven que hay un trabajo, y nada más.</translation>
+        <source>Other users can see that this job exists, but none of its details.</source>
+        <translation>Los demás usuarios pueden ver que existe este trabajo, pero ninguno de sus detalles.</translation>
     </message>
     <message>
-        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
-        <translation>Los demás usuarios del servidor de impresión ven: %1. Estas líneas en su política %2 lo ocultan:</translation>
+        <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
+        <translation>Los demás usuarios pueden ver %1. Para ocultarlo, añada estas líneas a la política «%2» del servidor de impresión:</translation>
     </message>
 </context>
 </TS>

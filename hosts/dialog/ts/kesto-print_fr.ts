@@ -4,28 +4,28 @@
 <context>
     <name>DimmingReasons</name>
     <message>
-        <source>The job is not held on the printer: turn that on first.</source>
-        <translation>Le travail n’est pas conservé sur l’imprimante&#xa0;: activez d’abord «&#xa0;Conserver le travail&#xa0;».</translation>
-    </message>
-    <message>
         <source>A quick file has no pass code.</source>
         <translation>Le classement rapide n’a pas de code d’accès.</translation>
     </message>
     <message>
-        <source>Only a custom folder has a name to type.</source>
-        <translation>Seul un dossier personnalisé a un nom à saisir.</translation>
+        <source>The job is not held on the printer. Turn on Retention first.</source>
+        <translation>Le travail n’est pas conservé sur l’imprimante. Activez d’abord «&#xa0;Conserver le travail&#xa0;».</translation>
     </message>
     <message>
-        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
+        <translation>Seul un dossier personnalisé a besoin d’un nom. Choisissez d’abord «&#xa0;Dossier personnalisé&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>Seul un dossier personnalisé ou protégé a un code d’accès.</translation>
     </message>
     <message>
-        <source>The user is told by the user number, not by the login name.</source>
-        <translation>L’utilisateur est identifié par son numéro, et non par son nom de connexion.</translation>
+        <source>This printer identifies you by user number, not by login name.</source>
+        <translation>Cette imprimante vous identifie par votre numéro d’utilisateur, et non par votre nom de connexion.</translation>
     </message>
     <message>
-        <source>Locked and remembered for this printer: open the padlock to change it.</source>
-        <translation>Verrouillé et mémorisé pour cette imprimante&#xa0;: ouvrez le cadenas pour modifier.</translation>
+        <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
+        <translation>Cette saisie est verrouillée et mémorisée pour cette imprimante. Ouvrez le cadenas pour la modifier.</translation>
     </message>
 </context>
 <context>
@@ -42,48 +42,104 @@
 <context>
     <name>Help</name>
     <message>
-        <source>Hold a job on the printer</source>
-        <translation>Conserver un travail sur l’imprimante</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>Dans l’onglet «&#xa0;Gestion des travaux&#xa0;», activez «&#xa0;Conserver le travail&#xa0;» et indiquez un code d’accès de 8 chiffres au plus. Le travail attend dans l’imprimante jusqu’à ce que vous y saisissiez ce code.</translation>
-    </message>
-    <message>
         <source>Say who you are</source>
         <translation>Indiquer qui vous êtes</translation>
     </message>
     <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>Si l’imprimante compte les pages, indiquez votre numéro d’utilisateur ou votre nom de connexion dans l’onglet «&#xa0;Utilisateur et compte&#xa0;».</translation>
+        <source>Help for printing</source>
+        <translation>Aide à l’impression</translation>
     </message>
     <message>
-        <source>Have an entry remembered</source>
-        <translation>Mémoriser une saisie</translation>
+        <source>Choose a printer</source>
+        <translation>Choisir une imprimante</translation>
     </message>
     <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>Fermez le cadenas à côté d’une saisie. Elle sera de nouveau proposée pour cette imprimante&#xa0;; ouvrez le cadenas pour la modifier.</translation>
+        <source>Choose a printer from the list. When the list is long, type a part of the printer&apos;s name and press Enter. The line below the list says whether the printer is ready.</source>
+        <translation>Choisissez une imprimante dans la liste. Si la liste est longue, saisissez une partie du nom de l’imprimante et appuyez sur Entrée. La ligne sous la liste indique si l’imprimante est prête.</translation>
     </message>
     <message>
-        <source>Choose a folder of the printer</source>
+        <source>Print some of the pages</source>
+        <translation>Imprimer une partie des pages</translation>
+    </message>
+    <message>
+        <source>Choose Selected pages and enter page numbers or ranges, for example 1-3, 5. A range may be open: 5- prints page 5 and all pages after it.</source>
+        <translation>Choisissez «&#xa0;Pages sélectionnées&#xa0;» et saisissez des numéros ou des plages de pages, par exemple 1-3, 5. Une plage peut être ouverte&#xa0;: 5- imprime la page 5 et toutes les suivantes.</translation>
+    </message>
+    <message>
+        <source>Print on both sides</source>
+        <translation>Imprimer en recto verso</translation>
+    </message>
+    <message>
+        <source>Choose Long edge for pages that turn like those of a book, or Short edge for pages that turn like those of a notepad.</source>
+        <translation>Choisissez «&#xa0;Bord long&#xa0;» pour des pages qui se tournent comme celles d’un livre, ou «&#xa0;Bord court&#xa0;» pour des pages qui se tournent comme celles d’un bloc-notes.</translation>
+    </message>
+    <message>
+        <source>See what will be printed</source>
+        <translation>Voir ce qui sera imprimé</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
+        <translation>L’aperçu montre les feuilles de papier telles qu’elles sortiront de l’imprimante. Les flèches au-dessous servent à tourner les pages.</translation>
+    </message>
+    <message>
+        <source>Hold a job on the printer with a pass code</source>
+        <translation>Conserver un travail sur l’imprimante avec un code d’accès</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
+        <translation>Sous «&#xa0;Gestion des travaux&#xa0;», activez «&#xa0;Conserver le travail&#xa0;» et saisissez un code d’accès de 8 chiffres au plus. Le travail attend dans l’imprimante jusqu’à ce que quelqu’un y saisisse ce code. «&#xa0;Conserver après impression&#xa0;» garde le travail une fois imprimé. «&#xa0;Imprimer une épreuve&#xa0;» imprime un exemplaire et retient les autres.</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
+        <translation>Certaines imprimantes demandent qui imprime. Sous «&#xa0;Utilisateur et compte&#xa0;», saisissez votre numéro d’utilisateur, ou votre nom de connexion et votre mot de passe.</translation>
+    </message>
+    <message>
+        <source>Use an entry again</source>
+        <translation>Réutiliser une saisie</translation>
+    </message>
+    <message>
+        <source>Close the padlock next to an entry. The entry is then remembered for this printer. To change it, open the padlock.</source>
+        <translation>Fermez le cadenas à côté d’une saisie. La saisie est alors mémorisée pour cette imprimante. Pour la modifier, ouvrez le cadenas.</translation>
+    </message>
+    <message>
+        <source>Choose a folder on the printer</source>
         <translation>Choisir un dossier de l’imprimante</translation>
     </message>
     <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>«&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante dont l’adresse figure au-dessus.</translation>
+        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Sous «&#xa0;Classement du document&#xa0;», choisissez «&#xa0;Dossier personnalisé&#xa0;» et saisissez le nom d’un dossier. «&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante, afin que vous puissiez en choisir un dans la liste.</translation>
     </message>
     <message>
-        <source>Keys</source>
-        <translation>Touches</translation>
+        <source>Save your settings as a preset</source>
+        <translation>Enregistrer vos réglages comme préréglage</translation>
     </message>
     <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt et la lettre soulignée mènent à une saisie, avec Maj à son cadenas. Entrée imprime, Échap annule, Ctrl+R affiche un code d’accès tant que le curseur s’y trouve.</translation>
+        <source>Press Presets and choose Save as preset. To use the settings again, choose the preset there. The pass codes are saved only if you include them.</source>
+        <translation>Cliquez sur «&#xa0;Préréglages&#xa0;» et choisissez «&#xa0;Enregistrer comme préréglage&#xa0;». Pour réutiliser les réglages, choisissez-y le préréglage. Les codes d’accès ne sont enregistrés que si vous les incluez.</translation>
     </message>
     <message>
-        <source>Help for printing</source>
-        <translation>Aide à l’impression</translation>
+        <source>See what others can see of a job</source>
+        <translation>Voir ce que les autres peuvent voir d’un travail</translation>
+    </message>
+    <message>
+        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Dans le résumé, cliquez sur «&#xa0;Qui peut voir ce travail&#xa0;?&#xa0;». La réponse indique quels détails d’un travail le serveur d’impression montre aux autres utilisateurs, et comment les masquer.</translation>
+    </message>
+    <message>
+        <source>Cancel a job</source>
+        <translation>Annuler un travail</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
+        <translation>Cliquez sur «&#xa0;Annuler&#xa0;» pendant l’envoi du travail. Un travail déjà envoyé peut être annulé dans la liste des travaux d’impression du système.</translation>
+    </message>
+    <message>
+        <source>Use the keyboard</source>
+        <translation>Utiliser le clavier</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
+        <translation>Alt et une lettre soulignée mènent à un élément&#xa0;; Alt, Maj et la lettre mènent au cadenas à côté. Entrée imprime, Échap annule et F1 ouvre cette aide. Ctrl+R affiche les chiffres d’un code d’accès tant que le curseur s’y trouve.</translation>
     </message>
 </context>
 <context>
@@ -179,6 +235,11 @@
         <source>%1:</source>
         <comment>a label</comment>
         <translation>%1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>a sentence</comment>
+        <translation>%1.</translation>
     </message>
 </context>
 <context>
@@ -685,10 +746,6 @@
 </context>
 <context>
     <name>kesto::Document</name>
-    <message>
-        <source>%1 is a folder</source>
-        <translation>%1 est un dossier</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
@@ -701,20 +758,24 @@
         <translation>%1 ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
-        <source>%1 is larger than %2, the most that is read.</source>
-        <translation>%1 dépasse %2, la taille maximale qui est lue.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be stored: %2</source>
-        <translation>%1 ne peut pas être enregistré&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>%1 is empty. There is nothing to print.</source>
         <translation>%1 est vide. Il n’y a rien à imprimer.</translation>
     </message>
     <message>
         <source>The document</source>
         <translation>Le document</translation>
+    </message>
+    <message>
+        <source>%1 is a folder. Choose a file.</source>
+        <translation>%1 est un dossier. Choisissez un fichier.</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that can be printed.</source>
+        <translation>%1 dépasse %2, la taille maximale qui peut être imprimée.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied for printing: %2</source>
+        <translation>%1 ne peut pas être copié pour l’impression&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -739,8 +800,8 @@
         <translation>Choisir…</translation>
     </message>
     <message>
-        <source>Choose the document</source>
-        <translation>Choisir le document</translation>
+        <source>Choose a document</source>
+        <translation>Choisir un document</translation>
     </message>
 </context>
 <context>
@@ -993,10 +1054,6 @@
         <translation>1-3, 5</translation>
     </message>
     <message>
-        <source>Pages to print, such as 1-3, 5</source>
-        <translation>Pages à imprimer, par exemple 1-3, 5</translation>
-    </message>
-    <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>L’imprimante ne peut pas combiner ces réglages&#xa0;: %1.</translation>
     </message>
@@ -1005,31 +1062,35 @@
         <translation>Saisissez des numéros ou des plages de pages, par exemple 1-3, 5.</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Enter pages up to it.</source>
-        <translation>Le document se termine à la page %1. Saisissez des pages jusqu’à celle-ci.</translation>
+        <source>Pages to print, for example 1-3, 5</source>
+        <translation>Pages à imprimer, par exemple 1-3, 5</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Only %2 will be printed.</source>
-        <translation>Le document se termine à la page %1. Seul %2 sera imprimé.</translation>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>Le document se termine à la page %1. Saisissez des numéros de page jusqu’à %1.</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>Le document se termine à la page %1. Pages qui seront imprimées&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>kesto::PageImages</name>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>Aucun aperçu&#xa0;: le dessin de la page prend trop de temps.</translation>
+        <source>No preview is available because drawing the page takes too long.</source>
+        <translation>Aucun aperçu n’est disponible, car le dessin de la page prend trop de temps.</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
-        <translation>Aucun aperçu pour ce type de document.</translation>
+        <source>No preview is available for this type of document.</source>
+        <translation>Aucun aperçu n’est disponible pour ce type de document.</translation>
     </message>
     <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>Aucun aperçu&#xa0;: le programme pdftoppm de poppler-utils est absent.</translation>
+        <source>No preview is available. Install poppler-utils to see one.</source>
+        <translation>Aucun aperçu n’est disponible. Installez poppler-utils pour en voir un.</translation>
     </message>
     <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>Aucun aperçu&#xa0;: le document n’est pas lisible comme PDF.</translation>
+        <source>No preview is available because this PDF document cannot be read.</source>
+        <translation>Aucun aperçu n’est disponible, car ce document PDF ne peut pas être lu.</translation>
     </message>
 </context>
 <context>
@@ -1037,14 +1098,6 @@
     <message>
         <source>Lock %1</source>
         <translation>Verrouiller %1</translation>
-    </message>
-    <message>
-        <source>On: the entry is locked, and remembered for this printer.</source>
-        <translation>Activé&#xa0;: la saisie est verrouillée et mémorisée pour cette imprimante.</translation>
-    </message>
-    <message>
-        <source>Off: the entry is for this job alone.</source>
-        <translation>Désactivé&#xa0;: la saisie ne vaut que pour ce travail.</translation>
     </message>
     <message>
         <source>Enter the printer&apos;s address to get the names of its folders.</source>
@@ -1055,8 +1108,16 @@
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse. Saisissez le nom ou l’adresse IP de l’imprimante.</translation>
     </message>
     <message>
-        <source>This printer does not file documents: the choice of a folder has no effect.</source>
-        <translation>Cette imprimante ne classe pas les documents&#xa0;: le choix d’un dossier est sans effet.</translation>
+        <source>This printer does not file documents, so the choice of a folder has no effect.</source>
+        <translation>Cette imprimante ne classe pas les documents&#xa0;; le choix d’un dossier est donc sans effet.</translation>
+    </message>
+    <message>
+        <source>Locked: this entry is remembered for this printer.</source>
+        <translation>Verrouillé&#xa0;: cette saisie est mémorisée pour cette imprimante.</translation>
+    </message>
+    <message>
+        <source>Unlocked: this entry is for this job only.</source>
+        <translation>Déverrouillé&#xa0;: cette saisie ne vaut que pour ce travail.</translation>
     </message>
 </context>
 <context>
@@ -1093,12 +1154,12 @@
         <translation>Enregistrer comme préréglage</translation>
     </message>
     <message>
-        <source>Keep the pass codes, too</source>
-        <translation>Enregistrer aussi les codes d’accès</translation>
-    </message>
-    <message>
         <source>Name:</source>
         <translation>Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Include the pass codes</source>
+        <translation>Inclure les codes d’accès</translation>
     </message>
 </context>
 <context>
@@ -1114,10 +1175,6 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
-    </message>
-    <message>
-        <source>No pages are chosen.</source>
-        <translation>Aucune page n’est choisie.</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
@@ -1139,16 +1196,16 @@
         <source>Total: %1 sheets of paper</source>
         <translation>Total&#xa0;: %1 feuilles de papier</translation>
     </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>Aucune page n’est sélectionnée.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrintDialog</name>
     <message>
         <source>Print</source>
         <translation>Imprimer</translation>
-    </message>
-    <message>
-        <source>Choose the document</source>
-        <translation>Choisir le document</translation>
     </message>
     <message>
         <source>Printer:</source>
@@ -1163,60 +1220,64 @@
         <translation>Général</translation>
     </message>
     <message>
-        <source>Asking the print server…</source>
-        <translation>Interrogation du serveur d’impression…</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Résumé</translation>
-    </message>
-    <message>
-        <source>none chosen</source>
-        <translation>aucun choisi</translation>
-    </message>
-    <message>
-        <source>The document is being read…</source>
-        <translation>Lecture du document…</translation>
     </message>
     <message>
         <source>No document</source>
         <translation>Aucun document</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2</source>
-        <translation>Travail %1 envoyé à %2</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>Non imprimé&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>There is no document to print yet.</source>
-        <translation>Il n’y a pas encore de document à imprimer.</translation>
-    </message>
-    <message>
-        <source>Stopping the job…</source>
-        <translation>Annulation du travail…</translation>
-    </message>
-    <message>
         <source>Print on %1</source>
         <translation>Imprimer sur %1</translation>
     </message>
     <message>
-        <source>The application draws the pages after the choice.</source>
-        <translation>L’application dessine les pages après le choix.</translation>
+        <source>Connecting to the printer…</source>
+        <translation>Connexion à l’imprimante…</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2; its entries cannot be remembered</source>
-        <translation>Travail %1 envoyé à %2&#xa0;; ses entrées ne peuvent pas être mémorisées</translation>
+        <source>This printer does not support %1. The job will be printed without it.</source>
+        <translation>Cette imprimante ne prend pas en charge %1. Le travail sera imprimé sans cette option.</translation>
     </message>
     <message>
-        <source>The document is long. Print reads the rest.</source>
+        <source>No document selected</source>
+        <translation>Aucun document sélectionné</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Lecture du document…</translation>
+    </message>
+    <message>
+        <source>The document is long. The rest of it is read when you print.</source>
         <translation>Le document est long. Le reste est lu à l’impression.</translation>
     </message>
     <message>
-        <source>This printer cannot do %1. The job is printed without it.</source>
-        <translation>Cette imprimante ne permet pas %1. Le travail est imprimé sans cela.</translation>
+        <source>No preview is available. The application prepares the pages after you press Print.</source>
+        <translation>Aucun aperçu n’est disponible. L’application prépare les pages une fois que vous avez cliqué sur «&#xa0;Imprimer&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Choose a document</source>
+        <translation>Choisir un document</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2.</source>
+        <translation>Le travail %1 a été envoyé à %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
+        <translation>Le travail %1 a été envoyé à %2. Ses saisies n’ont pas pu être mémorisées.</translation>
+    </message>
+    <message>
+        <source>The job was not printed. %1</source>
+        <translation>Le travail n’a pas été imprimé. %1</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>Choisissez un document à imprimer.</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Annulation du travail…</translation>
     </message>
 </context>
 <context>
@@ -1284,8 +1345,8 @@
 <context>
     <name>kesto::QueueOpening</name>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>Aucune imprimante n’accepte de travaux.</translation>
+        <source>No printer is accepting jobs. Check the printers in the system settings, then try again.</source>
+        <translation>Aucune imprimante n’accepte de travaux. Vérifiez les imprimantes dans les paramètres du système, puis réessayez.</translation>
     </message>
 </context>
 <context>
@@ -1302,16 +1363,16 @@
         <translation>Résumé</translation>
     </message>
     <message>
-        <source>Who sees this job?</source>
-        <translation>Qui voit ce travail&#xa0;?</translation>
+        <source>Who can see this job?</source>
+        <translation>Qui peut voir ce travail&#xa0;?</translation>
     </message>
     <message>
-        <source>Other users of the print server see that there is a job, and no more of it.</source>
-        <translation>Les autres utilisateurs du serveur d’impression voient qu’il y a un travail, rien de plus.</translation>
+        <source>Other users can see that this job exists, but none of its details.</source>
+        <translation>Les autres utilisateurs peuvent voir que ce travail existe, mais aucun de ses détails.</translation>
     </message>
     <message>
-        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
-        <translation>Les autres utilisateurs du serveur d’impression voient&#xa0;: %1. Ces lignes dans sa règle %2 le masquent&#xa0;:</translation>
+        <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
+        <translation>Les autres utilisateurs peuvent voir %1. Pour le masquer, ajoutez ces lignes à la politique «&#xa0;%2&#xa0;» du serveur d’impression&#xa0;:</translation>
     </message>
 </context>
 </TS>

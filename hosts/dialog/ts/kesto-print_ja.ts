@@ -4,28 +4,28 @@
 <context>
     <name>DimmingReasons</name>
     <message>
-        <source>The job is not held on the printer: turn that on first.</source>
-        <translation>ジョブはプリンターに保留されません。先に「ジョブの保留」をオンにしてください。</translation>
-    </message>
-    <message>
         <source>A quick file has no pass code.</source>
         <translation>クイック保存には暗証番号はありません。</translation>
     </message>
     <message>
-        <source>Only a custom folder has a name to type.</source>
-        <translation>名前を入力できるのはカスタムフォルダーだけです。</translation>
+        <source>The job is not held on the printer. Turn on Retention first.</source>
+        <translation>ジョブはプリンターに保留されません。先に「ジョブの保留」をオンにしてください。</translation>
     </message>
     <message>
-        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
+        <translation>名前が必要なのはカスタムフォルダーだけです。先に「カスタムフォルダー」を選択してください。</translation>
+    </message>
+    <message>
+        <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>暗証番号があるのは、カスタムフォルダーと保護されたフォルダーだけです。</translation>
     </message>
     <message>
-        <source>The user is told by the user number, not by the login name.</source>
-        <translation>ユーザーはログイン名ではなく、ユーザー番号で指定されています。</translation>
+        <source>This printer identifies you by user number, not by login name.</source>
+        <translation>このプリンターは、ログイン名ではなくユーザー番号でユーザーを識別します。</translation>
     </message>
     <message>
-        <source>Locked and remembered for this printer: open the padlock to change it.</source>
-        <translation>ロックされ、このプリンター用に記憶されています。変更するには南京錠を開いてください。</translation>
+        <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
+        <translation>この入力内容はロックされ、このプリンター用に記憶されています。変更するには南京錠を開いてください。</translation>
     </message>
 </context>
 <context>
@@ -42,48 +42,104 @@
 <context>
     <name>Help</name>
     <message>
-        <source>Hold a job on the printer</source>
-        <translation>ジョブをプリンターに保留する</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>「ジョブ管理」タブで「ジョブの保留」をオンにし、8 桁までの暗証番号を入力します。プリンターでその暗証番号を入力するまで、ジョブはプリンター内で待機します。</translation>
-    </message>
-    <message>
         <source>Say who you are</source>
         <translation>ユーザーを指定する</translation>
     </message>
     <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>プリンターがページ数を集計している場合は、「ユーザーとアカウント」タブでユーザー番号またはログイン名を入力します。</translation>
+        <source>Help for printing</source>
+        <translation>印刷のヘルプ</translation>
     </message>
     <message>
-        <source>Have an entry remembered</source>
-        <translation>入力内容を記憶させる</translation>
+        <source>Choose a printer</source>
+        <translation>プリンターを選ぶ</translation>
     </message>
     <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>入力欄の横にある南京錠を閉じます。その内容はこのプリンターで次回も使われます。変更するには南京錠を開きます。</translation>
+        <source>Choose a printer from the list. When the list is long, type a part of the printer&apos;s name and press Enter. The line below the list says whether the printer is ready.</source>
+        <translation>一覧からプリンターを選びます。一覧が長いときは、プリンター名の一部を入力して Enter を押します。一覧の下の行に、プリンターの準備ができているかどうかが表示されます。</translation>
     </message>
     <message>
-        <source>Choose a folder of the printer</source>
+        <source>Print some of the pages</source>
+        <translation>一部のページを印刷する</translation>
+    </message>
+    <message>
+        <source>Choose Selected pages and enter page numbers or ranges, for example 1-3, 5. A range may be open: 5- prints page 5 and all pages after it.</source>
+        <translation>「選択したページ」を選び、ページ番号または範囲を入力します (例: 1-3, 5)。範囲の終わりは省略できます。5- と入力すると、5 ページ以降がすべて印刷されます。</translation>
+    </message>
+    <message>
+        <source>Print on both sides</source>
+        <translation>両面に印刷する</translation>
+    </message>
+    <message>
+        <source>Choose Long edge for pages that turn like those of a book, or Short edge for pages that turn like those of a notepad.</source>
+        <translation>本のようにめくる場合は「長辺とじ」を、メモ帳のようにめくる場合は「短辺とじ」を選びます。</translation>
+    </message>
+    <message>
+        <source>See what will be printed</source>
+        <translation>印刷される内容を確認する</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
+        <translation>プレビューには、プリンターから出てくる用紙がそのまま表示されます。下の矢印でページをめくります。</translation>
+    </message>
+    <message>
+        <source>Hold a job on the printer with a pass code</source>
+        <translation>ジョブを暗証番号付きでプリンターに保留する</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
+        <translation>「ジョブ管理」で「ジョブの保留」をオンにし、8 桁までの暗証番号を入力します。プリンターで暗証番号が入力されるまで、ジョブはプリンター内で待機します。「印刷後に保留」では、印刷した後もジョブが残ります。「試し印刷」では 1 部だけを印刷し、残りを保留します。</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
+        <translation>印刷するユーザーの指定が必要なプリンターがあります。「ユーザーとアカウント」で、ユーザー番号、またはログイン名とパスワードを入力します。</translation>
+    </message>
+    <message>
+        <source>Use an entry again</source>
+        <translation>入力内容を再利用する</translation>
+    </message>
+    <message>
+        <source>Close the padlock next to an entry. The entry is then remembered for this printer. To change it, open the padlock.</source>
+        <translation>入力欄の横にある南京錠を閉じます。入力内容がこのプリンター用に記憶されます。変更するには南京錠を開きます。</translation>
+    </message>
+    <message>
+        <source>Choose a folder on the printer</source>
         <translation>プリンターのフォルダーを選ぶ</translation>
     </message>
     <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>「フォルダー名を取得」は、その上のアドレスにあるプリンターにフォルダーを問い合わせます。</translation>
+        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>「文書の保存先」で「カスタムフォルダー」を選び、フォルダーの名前を入力します。「フォルダー名を取得」を押すと、プリンターのフォルダーが取得され、一覧から選べるようになります。</translation>
     </message>
     <message>
-        <source>Keys</source>
-        <translation>キー操作</translation>
+        <source>Save your settings as a preset</source>
+        <translation>設定をプリセットとして保存する</translation>
     </message>
     <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt と下線付きの文字で入力欄に移動し、さらに Shift を押すとその南京錠に移動します。Enter で印刷、Esc でキャンセル、Ctrl+R でカーソルのある暗証番号を表示します。</translation>
+        <source>Press Presets and choose Save as preset. To use the settings again, choose the preset there. The pass codes are saved only if you include them.</source>
+        <translation>「プリセット」を押して「プリセットとして保存」を選びます。設定を再び使うには、そこでプリセットを選びます。暗証番号は、含めるように指定した場合にだけ保存されます。</translation>
     </message>
     <message>
-        <source>Help for printing</source>
-        <translation>印刷のヘルプ</translation>
+        <source>See what others can see of a job</source>
+        <translation>ジョブについて他の人に何が見えるかを確認する</translation>
+    </message>
+    <message>
+        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>概要で「このジョブを見ることができるのは?」を押します。プリントサーバーがジョブのどの内容を他のユーザーに見せるか、またその隠し方が表示されます。</translation>
+    </message>
+    <message>
+        <source>Cancel a job</source>
+        <translation>ジョブをキャンセルする</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
+        <translation>ジョブの送信中に「キャンセル」を押します。送信済みのジョブは、システムの印刷ジョブの一覧でキャンセルできます。</translation>
+    </message>
+    <message>
+        <source>Use the keyboard</source>
+        <translation>キーボードを使う</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
+        <translation>Alt と下線付きの文字で項目に移動し、Alt と Shift とその文字で横の南京錠に移動します。Enter で印刷、Esc でキャンセル、F1 でこのヘルプを表示します。暗証番号にカーソルがあるときは、Ctrl+R で数字を表示します。</translation>
     </message>
 </context>
 <context>
@@ -179,6 +235,11 @@
         <source>%1:</source>
         <comment>a label</comment>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>a sentence</comment>
+        <translation>%1。</translation>
     </message>
 </context>
 <context>
@@ -685,10 +746,6 @@
 </context>
 <context>
     <name>kesto::Document</name>
-    <message>
-        <source>%1 is a folder</source>
-        <translation>%1 はフォルダーです</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
@@ -700,20 +757,24 @@
         <translation>%1 を読み取れません: %2</translation>
     </message>
     <message>
-        <source>%1 is larger than %2, the most that is read.</source>
-        <translation>%1 は、読み取れる上限の %2 を超えています。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be stored: %2</source>
-        <translation>%1 を保存できません: %2</translation>
-    </message>
-    <message>
         <source>%1 is empty. There is nothing to print.</source>
         <translation>%1 は空です。印刷するものがありません。</translation>
     </message>
     <message>
         <source>The document</source>
         <translation>文書</translation>
+    </message>
+    <message>
+        <source>%1 is a folder. Choose a file.</source>
+        <translation>%1 はフォルダーです。ファイルを選択してください。</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that can be printed.</source>
+        <translation>%1 は、印刷できる上限の %2 を超えています。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied for printing: %2</source>
+        <translation>%1 を印刷用にコピーできません: %2</translation>
     </message>
 </context>
 <context>
@@ -738,7 +799,7 @@
         <translation>選択…</translation>
     </message>
     <message>
-        <source>Choose the document</source>
+        <source>Choose a document</source>
         <translation>文書を選択</translation>
     </message>
 </context>
@@ -992,10 +1053,6 @@
         <translation>1-3, 5</translation>
     </message>
     <message>
-        <source>Pages to print, such as 1-3, 5</source>
-        <translation>印刷するページ (例: 1-3, 5)</translation>
-    </message>
-    <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>プリンターは次の設定を同時に使えません: %1。</translation>
     </message>
@@ -1004,31 +1061,35 @@
         <translation>ページ番号または範囲を入力してください (例: 1-3, 5)。</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Enter pages up to it.</source>
-        <translation>文書は %1 ページまでです。その範囲のページを入力してください。</translation>
+        <source>Pages to print, for example 1-3, 5</source>
+        <translation>印刷するページ (例: 1-3, 5)</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Only %2 will be printed.</source>
-        <translation>文書は %1 ページまでです。%2 だけが印刷されます。</translation>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>文書は %1 ページまでです。%1 までのページ番号を入力してください。</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>文書は %1 ページまでです。印刷されるページ: %2。</translation>
     </message>
 </context>
 <context>
     <name>kesto::PageImages</name>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>プレビューできません: ページの描画に時間がかかりすぎます。</translation>
+        <source>No preview is available because drawing the page takes too long.</source>
+        <translation>ページの描画に時間がかかりすぎるため、プレビューを表示できません。</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
-        <translation>この種類の文書はプレビューできません。</translation>
+        <source>No preview is available for this type of document.</source>
+        <translation>この種類の文書はプレビューを表示できません。</translation>
     </message>
     <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>プレビューできません: poppler-utils のプログラム pdftoppm がありません。</translation>
+        <source>No preview is available. Install poppler-utils to see one.</source>
+        <translation>プレビューを表示できません。表示するには poppler-utils をインストールしてください。</translation>
     </message>
     <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>プレビューできません: 文書を PDF として読み取れません。</translation>
+        <source>No preview is available because this PDF document cannot be read.</source>
+        <translation>この PDF 文書を読み取れないため、プレビューを表示できません。</translation>
     </message>
 </context>
 <context>
@@ -1036,14 +1097,6 @@
     <message>
         <source>Lock %1</source>
         <translation>%1をロック</translation>
-    </message>
-    <message>
-        <source>On: the entry is locked, and remembered for this printer.</source>
-        <translation>オン: 入力内容はロックされ、このプリンター用に記憶されます。</translation>
-    </message>
-    <message>
-        <source>Off: the entry is for this job alone.</source>
-        <translation>オフ: 入力内容はこのジョブだけに使われます。</translation>
     </message>
     <message>
         <source>Enter the printer&apos;s address to get the names of its folders.</source>
@@ -1054,8 +1107,16 @@
         <translation>「%1」はアドレスではありません。プリンターの名前または IP アドレスを入力してください。</translation>
     </message>
     <message>
-        <source>This printer does not file documents: the choice of a folder has no effect.</source>
-        <translation>このプリンターは文書を保存しません。フォルダーを選択しても効果はありません。</translation>
+        <source>This printer does not file documents, so the choice of a folder has no effect.</source>
+        <translation>このプリンターは文書を保存しないため、フォルダーを選択しても効果はありません。</translation>
+    </message>
+    <message>
+        <source>Locked: this entry is remembered for this printer.</source>
+        <translation>ロック中: この入力内容はこのプリンター用に記憶されます。</translation>
+    </message>
+    <message>
+        <source>Unlocked: this entry is for this job only.</source>
+        <translation>ロック解除: この入力内容はこのジョブだけに使われます。</translation>
     </message>
 </context>
 <context>
@@ -1092,12 +1153,12 @@
         <translation>プリセットとして保存</translation>
     </message>
     <message>
-        <source>Keep the pass codes, too</source>
-        <translation>暗証番号も保存する</translation>
-    </message>
-    <message>
         <source>Name:</source>
         <translation>名前:</translation>
+    </message>
+    <message>
+        <source>Include the pass codes</source>
+        <translation>暗証番号も含める</translation>
     </message>
 </context>
 <context>
@@ -1113,10 +1174,6 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>%1 / %2 ページ</translation>
-    </message>
-    <message>
-        <source>No pages are chosen.</source>
-        <translation>ページが選択されていません。</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
@@ -1138,16 +1195,16 @@
         <source>Total: %1 sheets of paper</source>
         <translation>合計: 用紙 %1 枚</translation>
     </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>ページが選択されていません。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrintDialog</name>
     <message>
         <source>Print</source>
         <translation>印刷</translation>
-    </message>
-    <message>
-        <source>Choose the document</source>
-        <translation>文書を選択</translation>
     </message>
     <message>
         <source>Printer:</source>
@@ -1162,60 +1219,64 @@
         <translation>全般</translation>
     </message>
     <message>
-        <source>Asking the print server…</source>
-        <translation>プリントサーバーに問い合わせています…</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>概要</translation>
-    </message>
-    <message>
-        <source>none chosen</source>
-        <translation>未選択</translation>
-    </message>
-    <message>
-        <source>The document is being read…</source>
-        <translation>文書を読み込んでいます…</translation>
     </message>
     <message>
         <source>No document</source>
         <translation>文書なし</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2</source>
-        <translation>ジョブ %1 を %2 に送信しました</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>印刷されませんでした: %1</translation>
-    </message>
-    <message>
-        <source>There is no document to print yet.</source>
-        <translation>印刷する文書がまだありません。</translation>
-    </message>
-    <message>
-        <source>Stopping the job…</source>
-        <translation>ジョブを中止しています…</translation>
-    </message>
-    <message>
         <source>Print on %1</source>
         <translation>%1 で印刷</translation>
     </message>
     <message>
-        <source>The application draws the pages after the choice.</source>
-        <translation>ページは選択の後にアプリケーションが描画します。</translation>
+        <source>Connecting to the printer…</source>
+        <translation>プリンターに接続しています…</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2; its entries cannot be remembered</source>
-        <translation>ジョブ %1 を %2 に送信しましたが、入力内容は記憶できません</translation>
-    </message>
-    <message>
-        <source>The document is long. Print reads the rest.</source>
-        <translation>文書が長いため、残りは「印刷」を押した後に読み取ります。</translation>
-    </message>
-    <message>
-        <source>This printer cannot do %1. The job is printed without it.</source>
+        <source>This printer does not support %1. The job will be printed without it.</source>
         <translation>このプリンターは %1 に対応していません。ジョブはこれなしで印刷されます。</translation>
+    </message>
+    <message>
+        <source>No document selected</source>
+        <translation>文書が選択されていません</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>文書を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>The document is long. The rest of it is read when you print.</source>
+        <translation>文書が長いため、残りは印刷するときに読み込まれます。</translation>
+    </message>
+    <message>
+        <source>No preview is available. The application prepares the pages after you press Print.</source>
+        <translation>プレビューを表示できません。「印刷」を押した後に、アプリケーションがページを作成します。</translation>
+    </message>
+    <message>
+        <source>Choose a document</source>
+        <translation>文書を選択</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2.</source>
+        <translation>ジョブ %1 を %2 に送信しました。</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
+        <translation>ジョブ %1 を %2 に送信しました。入力内容は記憶できませんでした。</translation>
+    </message>
+    <message>
+        <source>The job was not printed. %1</source>
+        <translation>ジョブは印刷されませんでした。%1</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>印刷する文書を選択してください。</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>ジョブをキャンセルしています…</translation>
     </message>
 </context>
 <context>
@@ -1283,8 +1344,8 @@
 <context>
     <name>kesto::QueueOpening</name>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>ジョブを受け付けるプリンターがありません。</translation>
+        <source>No printer is accepting jobs. Check the printers in the system settings, then try again.</source>
+        <translation>ジョブを受け付けているプリンターがありません。システム設定でプリンターを確認してから、再試行してください。</translation>
     </message>
 </context>
 <context>
@@ -1301,16 +1362,16 @@
         <translation>概要</translation>
     </message>
     <message>
-        <source>Who sees this job?</source>
-        <translation>このジョブは誰に見えますか?</translation>
+        <source>Who can see this job?</source>
+        <translation>このジョブを見ることができるのは?</translation>
     </message>
     <message>
-        <source>Other users of the print server see that there is a job, and no more of it.</source>
-        <translation>プリントサーバーの他のユーザーには、ジョブがあることだけが見えます。</translation>
+        <source>Other users can see that this job exists, but none of its details.</source>
+        <translation>他のユーザーには、このジョブがあることだけが見え、内容は見えません。</translation>
     </message>
     <message>
-        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
-        <translation>プリントサーバーの他のユーザーに見えるもの: %1。ポリシー %2 に次の行を加えると隠れます:</translation>
+        <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
+        <translation>他のユーザーに見える内容: %1。隠すには、プリントサーバーのポリシー「%2」に次の行を追加してください:</translation>
     </message>
 </context>
 </TS>

@@ -4,28 +4,28 @@
 <context>
     <name>DimmingReasons</name>
     <message>
-        <source>The job is not held on the printer: turn that on first.</source>
-        <translation>作业不会保留在打印机上，请先开启“保留作业”。</translation>
-    </message>
-    <message>
         <source>A quick file has no pass code.</source>
         <translation>快速归档没有 PIN 码。</translation>
     </message>
     <message>
-        <source>Only a custom folder has a name to type.</source>
-        <translation>只有自定义文件夹才能输入名称。</translation>
+        <source>The job is not held on the printer. Turn on Retention first.</source>
+        <translation>作业不会保留在打印机上。请先开启“保留作业”。</translation>
     </message>
     <message>
-        <source>Only a custom folder, or one that is guarded, has a pass code.</source>
+        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
+        <translation>只有自定义文件夹才需要名称。请先选择“自定义文件夹”。</translation>
+    </message>
+    <message>
+        <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>只有自定义文件夹或受保护的文件夹才有 PIN 码。</translation>
     </message>
     <message>
-        <source>The user is told by the user number, not by the login name.</source>
-        <translation>当前用用户编号而非登录名来标识用户。</translation>
+        <source>This printer identifies you by user number, not by login name.</source>
+        <translation>此打印机通过用户编号而不是登录名来识别您。</translation>
     </message>
     <message>
-        <source>Locked and remembered for this printer: open the padlock to change it.</source>
-        <translation>已锁定并为此打印机记住：要更改，请打开挂锁。</translation>
+        <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
+        <translation>此内容已锁定，并为此打印机记住。要更改，请打开挂锁。</translation>
     </message>
 </context>
 <context>
@@ -42,48 +42,104 @@
 <context>
     <name>Help</name>
     <message>
-        <source>Hold a job on the printer</source>
-        <translation>将作业保留在打印机上</translation>
-    </message>
-    <message>
-        <source>Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The job waits in the printer until you enter the code there.</source>
-        <translation>在“作业处理”选项卡上开启“保留作业”，并输入最多 8 位数字的 PIN 码。作业会在打印机中等待，直到您在打印机上输入该 PIN 码。</translation>
-    </message>
-    <message>
         <source>Say who you are</source>
         <translation>说明您的身份</translation>
     </message>
     <message>
-        <source>Where the printer counts pages, give your user number or your login name on the page User and Account.</source>
-        <translation>如果打印机统计页数，请在“用户和账户”选项卡上输入用户编号或登录名。</translation>
+        <source>Help for printing</source>
+        <translation>打印帮助</translation>
     </message>
     <message>
-        <source>Have an entry remembered</source>
-        <translation>记住输入的内容</translation>
+        <source>Choose a printer</source>
+        <translation>选择打印机</translation>
     </message>
     <message>
-        <source>Close the padlock beside an entry. It is offered again for this printer; open the padlock to change it.</source>
-        <translation>锁上输入项旁的挂锁。下次使用此打印机时会再次提供该内容；要更改，请打开挂锁。</translation>
+        <source>Choose a printer from the list. When the list is long, type a part of the printer&apos;s name and press Enter. The line below the list says whether the printer is ready.</source>
+        <translation>从列表中选择打印机。如果列表很长，请输入打印机名称的一部分，然后按 Enter。列表下方的一行会显示打印机是否就绪。</translation>
     </message>
     <message>
-        <source>Choose a folder of the printer</source>
+        <source>Print some of the pages</source>
+        <translation>打印部分页面</translation>
+    </message>
+    <message>
+        <source>Choose Selected pages and enter page numbers or ranges, for example 1-3, 5. A range may be open: 5- prints page 5 and all pages after it.</source>
+        <translation>选择“所选页面”，然后输入页码或页码范围，例如 1-3, 5。范围可以不写结尾：5- 会打印第 5 页及其后的所有页面。</translation>
+    </message>
+    <message>
+        <source>Print on both sides</source>
+        <translation>双面打印</translation>
+    </message>
+    <message>
+        <source>Choose Long edge for pages that turn like those of a book, or Short edge for pages that turn like those of a notepad.</source>
+        <translation>如果要像书本一样翻页，请选择“长边”；如果要像便笺本一样翻页，请选择“短边”。</translation>
+    </message>
+    <message>
+        <source>See what will be printed</source>
+        <translation>查看将要打印的内容</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
+        <translation>预览显示纸张从打印机输出时的样子。使用预览下方的箭头翻页。</translation>
+    </message>
+    <message>
+        <source>Hold a job on the printer with a pass code</source>
+        <translation>使用 PIN 码将作业保留在打印机上</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
+        <translation>在“作业处理”下开启“保留作业”，并输入最多 8 位数字的 PIN 码。作业会在打印机中等待，直到有人在打印机上输入该 PIN 码。“打印后保留”会在打印后保留作业。“打印样张”会打印一份，并保留其余各份。</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
+        <translation>有些打印机会要求说明由谁打印。请在“用户和账户”下输入您的用户编号，或者登录名和密码。</translation>
+    </message>
+    <message>
+        <source>Use an entry again</source>
+        <translation>再次使用输入的内容</translation>
+    </message>
+    <message>
+        <source>Close the padlock next to an entry. The entry is then remembered for this printer. To change it, open the padlock.</source>
+        <translation>锁上输入项旁的挂锁。其内容随后会为此打印机记住。要更改，请打开挂锁。</translation>
+    </message>
+    <message>
+        <source>Choose a folder on the printer</source>
         <translation>选择打印机上的文件夹</translation>
     </message>
     <message>
-        <source>Get Folder Names asks the printer at the address above for its folders.</source>
-        <translation>“获取文件夹名称”会向其上方地址处的打印机查询文件夹。</translation>
+        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>在“文档归档”下选择“自定义文件夹”，然后输入文件夹的名称。“获取文件夹名称”会向打印机查询其文件夹，以便您从列表中选择。</translation>
     </message>
     <message>
-        <source>Keys</source>
-        <translation>按键</translation>
+        <source>Save your settings as a preset</source>
+        <translation>将设置保存为预设</translation>
     </message>
     <message>
-        <source>Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, Escape cancels, Ctrl+R shows a pass code while the cursor is in it.</source>
-        <translation>Alt 加带下划线的字母跳到输入项，再加 Shift 则跳到其挂锁。Enter 打印，Esc 取消；光标位于 PIN 码中时，Ctrl+R 显示该 PIN 码。</translation>
+        <source>Press Presets and choose Save as preset. To use the settings again, choose the preset there. The pass codes are saved only if you include them.</source>
+        <translation>按“预设”，然后选择“另存为预设”。要再次使用这些设置，请在那里选择该预设。只有选择包含 PIN 码时，才会保存 PIN 码。</translation>
     </message>
     <message>
-        <source>Help for printing</source>
-        <translation>打印帮助</translation>
+        <source>See what others can see of a job</source>
+        <translation>查看他人能看到作业的哪些内容</translation>
+    </message>
+    <message>
+        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>在摘要中按“谁能看到此作业？”。结果会说明打印服务器向其他用户显示作业的哪些详细信息，以及如何隐藏它们。</translation>
+    </message>
+    <message>
+        <source>Cancel a job</source>
+        <translation>取消作业</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
+        <translation>在发送作业时按“取消”。已发送的作业可以在系统的打印作业列表中取消。</translation>
+    </message>
+    <message>
+        <source>Use the keyboard</source>
+        <translation>使用键盘</translation>
+    </message>
+    <message>
+        <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
+        <translation>Alt 加带下划线的字母会跳到相应的控件；Alt、Shift 加该字母会跳到其旁边的挂锁。Enter 打印，Esc 取消，F1 打开此帮助。光标位于 PIN 码中时，Ctrl+R 会显示其数字。</translation>
     </message>
 </context>
 <context>
@@ -179,6 +235,11 @@
         <source>%1:</source>
         <comment>a label</comment>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>a sentence</comment>
+        <translation>%1。</translation>
     </message>
 </context>
 <context>
@@ -685,10 +746,6 @@
 </context>
 <context>
     <name>kesto::Document</name>
-    <message>
-        <source>%1 is a folder</source>
-        <translation>%1 是文件夹</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
@@ -700,20 +757,24 @@
         <translation>无法读取 %1：%2</translation>
     </message>
     <message>
-        <source>%1 is larger than %2, the most that is read.</source>
-        <translation>%1 超过了可读取的上限 %2。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be stored: %2</source>
-        <translation>无法存储 %1：%2</translation>
-    </message>
-    <message>
         <source>%1 is empty. There is nothing to print.</source>
         <translation>%1 是空的，没有可打印的内容。</translation>
     </message>
     <message>
         <source>The document</source>
         <translation>文档</translation>
+    </message>
+    <message>
+        <source>%1 is a folder. Choose a file.</source>
+        <translation>%1 是文件夹。请选择文件。</translation>
+    </message>
+    <message>
+        <source>%1 is larger than %2, the most that can be printed.</source>
+        <translation>%1 超过了可打印的上限 %2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied for printing: %2</source>
+        <translation>无法为打印复制 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -738,7 +799,7 @@
         <translation>选择…</translation>
     </message>
     <message>
-        <source>Choose the document</source>
+        <source>Choose a document</source>
         <translation>选择文档</translation>
     </message>
 </context>
@@ -992,10 +1053,6 @@
         <translation>1-3, 5</translation>
     </message>
     <message>
-        <source>Pages to print, such as 1-3, 5</source>
-        <translation>要打印的页面，例如 1-3, 5</translation>
-    </message>
-    <message>
         <source>The printer cannot do these together: %1.</source>
         <translation>打印机无法同时使用以下设置：%1。</translation>
     </message>
@@ -1004,31 +1061,35 @@
         <translation>请输入页码或页码范围，例如 1-3, 5。</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Enter pages up to it.</source>
-        <translation>文档到第 %1 页为止。请输入不超过该页的页码。</translation>
+        <source>Pages to print, for example 1-3, 5</source>
+        <translation>要打印的页面，例如 1-3, 5</translation>
     </message>
     <message>
-        <source>The document ends with page %1. Only %2 will be printed.</source>
-        <translation>文档到第 %1 页为止。只会打印 %2。</translation>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>文档到第 %1 页为止。请输入不超过 %1 的页码。</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>文档到第 %1 页为止。将打印的页面：%2。</translation>
     </message>
 </context>
 <context>
     <name>kesto::PageImages</name>
     <message>
-        <source>There is no preview: drawing the page takes too long.</source>
-        <translation>无法预览：绘制页面耗时过长。</translation>
+        <source>No preview is available because drawing the page takes too long.</source>
+        <translation>绘制页面耗时过长，无法显示预览。</translation>
     </message>
     <message>
-        <source>There is no preview of this kind of document.</source>
+        <source>No preview is available for this type of document.</source>
         <translation>此类文档无法预览。</translation>
     </message>
     <message>
-        <source>There is no preview: the program pdftoppm of poppler-utils is missing.</source>
-        <translation>无法预览：缺少 poppler-utils 中的程序 pdftoppm。</translation>
+        <source>No preview is available. Install poppler-utils to see one.</source>
+        <translation>无法预览。要查看预览，请安装 poppler-utils。</translation>
     </message>
     <message>
-        <source>There is no preview: the document cannot be read as PDF.</source>
-        <translation>无法预览：文档无法作为 PDF 读取。</translation>
+        <source>No preview is available because this PDF document cannot be read.</source>
+        <translation>无法读取此 PDF 文档，因此无法预览。</translation>
     </message>
 </context>
 <context>
@@ -1036,14 +1097,6 @@
     <message>
         <source>Lock %1</source>
         <translation>锁定“%1”</translation>
-    </message>
-    <message>
-        <source>On: the entry is locked, and remembered for this printer.</source>
-        <translation>开：内容已锁定，并为此打印机记住。</translation>
-    </message>
-    <message>
-        <source>Off: the entry is for this job alone.</source>
-        <translation>关：内容仅用于此作业。</translation>
     </message>
     <message>
         <source>Enter the printer&apos;s address to get the names of its folders.</source>
@@ -1054,8 +1107,16 @@
         <translation>“%1”不是地址。请输入打印机的名称或 IP 地址。</translation>
     </message>
     <message>
-        <source>This printer does not file documents: the choice of a folder has no effect.</source>
-        <translation>此打印机不归档文档：选择文件夹没有效果。</translation>
+        <source>This printer does not file documents, so the choice of a folder has no effect.</source>
+        <translation>此打印机不归档文档，因此选择文件夹没有效果。</translation>
+    </message>
+    <message>
+        <source>Locked: this entry is remembered for this printer.</source>
+        <translation>已锁定：此内容会为此打印机记住。</translation>
+    </message>
+    <message>
+        <source>Unlocked: this entry is for this job only.</source>
+        <translation>未锁定：此内容仅用于此作业。</translation>
     </message>
 </context>
 <context>
@@ -1092,12 +1153,12 @@
         <translation>另存为预设</translation>
     </message>
     <message>
-        <source>Keep the pass codes, too</source>
-        <translation>同时保存 PIN 码</translation>
-    </message>
-    <message>
         <source>Name:</source>
         <translation>名称:</translation>
+    </message>
+    <message>
+        <source>Include the pass codes</source>
+        <translation>包含 PIN 码</translation>
     </message>
 </context>
 <context>
@@ -1113,10 +1174,6 @@
     <message>
         <source>Page %1 of %2</source>
         <translation>第 %1 页，共 %2 页</translation>
-    </message>
-    <message>
-        <source>No pages are chosen.</source>
-        <translation>未选择任何页面。</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
@@ -1138,16 +1195,16 @@
         <source>Total: %1 sheets of paper</source>
         <translation>总计：%1 张纸</translation>
     </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>未选择任何页面。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrintDialog</name>
     <message>
         <source>Print</source>
         <translation>打印</translation>
-    </message>
-    <message>
-        <source>Choose the document</source>
-        <translation>选择文档</translation>
     </message>
     <message>
         <source>Printer:</source>
@@ -1162,60 +1219,64 @@
         <translation>常规</translation>
     </message>
     <message>
-        <source>Asking the print server…</source>
-        <translation>正在查询打印服务器…</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>摘要</translation>
-    </message>
-    <message>
-        <source>none chosen</source>
-        <translation>未选择</translation>
-    </message>
-    <message>
-        <source>The document is being read…</source>
-        <translation>正在读取文档…</translation>
     </message>
     <message>
         <source>No document</source>
         <translation>无文档</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2</source>
-        <translation>作业 %1 已发送到 %2</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>未打印：%1</translation>
-    </message>
-    <message>
-        <source>There is no document to print yet.</source>
-        <translation>还没有要打印的文档。</translation>
-    </message>
-    <message>
-        <source>Stopping the job…</source>
-        <translation>正在停止作业…</translation>
-    </message>
-    <message>
         <source>Print on %1</source>
         <translation>在 %1 上打印</translation>
     </message>
     <message>
-        <source>The application draws the pages after the choice.</source>
-        <translation>应用程序在选择之后绘制页面。</translation>
+        <source>Connecting to the printer…</source>
+        <translation>正在连接打印机…</translation>
     </message>
     <message>
-        <source>Job %1 sent to %2; its entries cannot be remembered</source>
-        <translation>作业 %1 已发送到 %2；无法记住其条目</translation>
+        <source>This printer does not support %1. The job will be printed without it.</source>
+        <translation>此打印机不支持 %1。作业将在没有此设置的情况下打印。</translation>
     </message>
     <message>
-        <source>The document is long. Print reads the rest.</source>
-        <translation>文档很长，其余部分将在按下“打印”后读取。</translation>
+        <source>No document selected</source>
+        <translation>未选择文档</translation>
     </message>
     <message>
-        <source>This printer cannot do %1. The job is printed without it.</source>
-        <translation>此打印机不支持 %1。作业将不使用它打印。</translation>
+        <source>Reading the document…</source>
+        <translation>正在读取文档…</translation>
+    </message>
+    <message>
+        <source>The document is long. The rest of it is read when you print.</source>
+        <translation>文档很长，其余部分将在打印时读取。</translation>
+    </message>
+    <message>
+        <source>No preview is available. The application prepares the pages after you press Print.</source>
+        <translation>无法预览。应用程序会在您按下“打印”后生成页面。</translation>
+    </message>
+    <message>
+        <source>Choose a document</source>
+        <translation>选择文档</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2.</source>
+        <translation>作业 %1 已发送到 %2。</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
+        <translation>作业 %1 已发送到 %2。无法记住输入的内容。</translation>
+    </message>
+    <message>
+        <source>The job was not printed. %1</source>
+        <translation>作业未打印。%1</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>请选择要打印的文档。</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>正在取消作业…</translation>
     </message>
 </context>
 <context>
@@ -1283,8 +1344,8 @@
 <context>
     <name>kesto::QueueOpening</name>
     <message>
-        <source>There is no printer that takes jobs.</source>
-        <translation>没有可接受作业的打印机。</translation>
+        <source>No printer is accepting jobs. Check the printers in the system settings, then try again.</source>
+        <translation>没有接受作业的打印机。请在系统设置中检查打印机，然后重试。</translation>
     </message>
 </context>
 <context>
@@ -1301,16 +1362,16 @@
         <translation>摘要</translation>
     </message>
     <message>
-        <source>Who sees this job?</source>
-        <translation>谁能看到此作业?</translation>
+        <source>Who can see this job?</source>
+        <translation>谁能看到此作业？</translation>
     </message>
     <message>
-        <source>Other users of the print server see that there is a job, and no more of it.</source>
-        <translation>打印服务器的其他用户只能看到有一个作业，看不到其他内容。</translation>
+        <source>Other users can see that this job exists, but none of its details.</source>
+        <translation>其他用户可以看到存在此作业，但看不到任何详细信息。</translation>
     </message>
     <message>
-        <source>Other users of the print server see: %1. These lines in its policy %2 hide it:</source>
-        <translation>打印服务器的其他用户能看到: %1。在其策略 %2 中加入以下几行即可隐藏:</translation>
+        <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
+        <translation>其他用户可以看到%1。要隐藏这些内容，请在打印服务器的策略“%2”中添加以下几行：</translation>
     </message>
 </context>
 </TS>

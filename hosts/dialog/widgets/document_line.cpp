@@ -13,7 +13,7 @@ DocumentLine::DocumentLine(QWidget* parent)
   m_text->setObjectName(QStringLiteral("documentName"));
   m_text->setTextFormat(Qt::PlainText);
   setPlainText(*m_choose, tr("Choose…"));
-  m_choose->setAccessibleName(tr("Choose the document"));
+  m_choose->setAccessibleName(tr("Choose a document"));
   m_choose->setAutoDefault(false);
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins({});

@@ -1,6 +1,7 @@
 #include "hosts/dialog/widgets/help.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtGui/QScreen>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QTextBrowser>
@@ -16,29 +17,59 @@ struct Topic {
 };
 
 constexpr std::array topics{
-    Topic{QT_TRANSLATE_NOOP("Help", "Hold a job on the printer"),
+    Topic{QT_TRANSLATE_NOOP("Help", "Choose a printer"),
           QT_TRANSLATE_NOOP(
               "Help",
-              "Turn on Retention on the pane Job Handling and give a pass code of up to 8 digits. The "
-              "job waits in the printer until you enter the code there.")},
+              "Choose a printer from the list. When the list is long, type a part of the printer's name and "
+              "press Enter. The line below the list says whether the printer is ready.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Print some of the pages"),
+          QT_TRANSLATE_NOOP("Help",
+                            "Choose Selected pages and enter page numbers or ranges, for example 1-3, 5. A "
+                            "range may be open: 5- prints page 5 and all pages after it.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Print on both sides"),
+          QT_TRANSLATE_NOOP("Help",
+                            "Choose Long edge for pages that turn like those of a book, or Short edge for "
+                            "pages that turn like those of a notepad.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "See what will be printed"),
+          QT_TRANSLATE_NOOP("Help",
+                            "The preview shows the sheets of paper as they will leave the printer. Use the "
+                            "arrows below it to turn the pages.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Hold a job on the printer with a pass code"),
+          QT_TRANSLATE_NOOP(
+              "Help",
+              "Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits "
+              "in the printer until someone enters the pass code there. Hold After Print keeps the job after "
+              "it is printed. Sample Print prints one copy and holds the others.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Say who you are"),
+          QT_TRANSLATE_NOOP("Help",
+                            "Some printers ask who is printing. Under User and Account, enter your user "
+                            "number, or your login name and password.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Use an entry again"),
+          QT_TRANSLATE_NOOP("Help",
+                            "Close the padlock next to an entry. The entry is then remembered for this "
+                            "printer. To change it, open the padlock.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Choose a folder on the printer"),
           QT_TRANSLATE_NOOP(
               "Help",
-              "Where the printer counts pages, give your user number or your login name on the page "
-              "User and Account.")},
-    Topic{
-        QT_TRANSLATE_NOOP("Help", "Have an entry remembered"),
-        QT_TRANSLATE_NOOP("Help",
-                          "Close the padlock beside an entry. It is offered again for this printer; open the "
-                          "padlock to change it.")},
-    Topic{
-        QT_TRANSLATE_NOOP("Help", "Choose a folder of the printer"),
-        QT_TRANSLATE_NOOP("Help", "Get Folder Names asks the printer at the address above for its folders.")},
-    Topic{QT_TRANSLATE_NOOP("Help", "Keys"),
-          QT_TRANSLATE_NOOP(
-              "Help",
-              "Alt and the underlined letter go to an entry, with Shift to its padlock. Enter prints, "
-              "Escape cancels, Ctrl+R shows a pass code while the cursor is in it.")},
+              "Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names "
+              "asks the printer for its folders, so that you can choose one from the list.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Save your settings as a preset"),
+          QT_TRANSLATE_NOOP("Help",
+                            "Press Presets and choose Save as preset. To use the settings again, choose the "
+                            "preset there. The pass codes are saved only if you include them.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "See what others can see of a job"),
+          QT_TRANSLATE_NOOP("Help",
+                            "On the Summary, press Who can see this job? The answer says which details of a "
+                            "job the print server shows to other users, and how to hide them.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Cancel a job"),
+          QT_TRANSLATE_NOOP("Help",
+                            "Press Cancel while the job is being sent. A job that was sent already can be "
+                            "canceled in the system's list of print jobs.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Use the keyboard"),
+          QT_TRANSLATE_NOOP("Help",
+                            "Alt and an underlined letter go to a control; Alt, Shift and the letter go to "
+                            "the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. "
+                            "Ctrl+R shows the digits of a pass code while the cursor is in it.")},
 };
 
 QString helpText() {
@@ -67,7 +98,8 @@ void showHelp(QWidget& parent) {
     auto* column = new QVBoxLayout(dialog);
     column->addWidget(text);
     column->addWidget(buttons);
-    dialog->resize(parent.fontMetrics().horizontalAdvance(u'0') * 55, parent.fontMetrics().height() * 22);
+    const QSize whole(parent.fontMetrics().horizontalAdvance(u'0') * 80, parent.fontMetrics().height() * 40);
+    dialog->resize(whole.boundedTo(parent.screen()->availableSize() * 0.9));
   }
   dialog->show();
   dialog->raise();

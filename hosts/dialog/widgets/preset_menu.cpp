@@ -13,14 +13,6 @@
 #include "hosts/session/panel_session.h"
 
 namespace kesto {
-namespace {
-
-// A menu shows "&" as a mnemonic.
-QString menuText(QString name) {
-  return name.replace(u'&', QLatin1String("&&"));
-}
-
-}  // namespace
 
 PresetMenu::PresetMenu(PanelSession& session, QWidget* parent)
     : QToolButton(parent), m_session(session), m_menu(new QMenu(this)) {
@@ -37,21 +29,23 @@ void PresetMenu::fill() {
   m_menu->clear();
   QStringList names;
   const Outcome found = m_session.presets()->names(&names);
-  if (!found) m_menu->addAction(found.reason())->setEnabled(false);
+  if (!found) m_menu->addAction(withPlainAmpersands(asSentence(found.reason())))->setEnabled(false);
   if (found && names.isEmpty()) m_menu->addAction(tr("No presets for this printer"))->setEnabled(false);
   for (const QString& name : names)
-    connect(m_menu->addAction(menuText(name)), &QAction::triggered, this, [this, name] { load(name); });
+    connect(m_menu->addAction(withPlainAmpersands(name)), &QAction::triggered, this,
+            [this, name] { load(name); });
   m_menu->addSeparator();
   connect(m_menu->addAction(tr("Save as preset…")), &QAction::triggered, this, &PresetMenu::save);
   QMenu* removal = m_menu->addMenu(tr("Delete preset"));
   removal->setEnabled(!names.isEmpty());
   for (const QString& name : names)
-    connect(removal->addAction(menuText(name)), &QAction::triggered, this, [this, name] { remove(name); });
+    connect(removal->addAction(withPlainAmpersands(name)), &QAction::triggered, this,
+            [this, name] { remove(name); });
 }
 
 void PresetMenu::load(const QString& name) {
   if (Outcome loaded = m_session.loadPreset(name); !loaded) {
-    QMessageBox::warning(window(), tr("Presets"), loaded.reason());
+    QMessageBox::warning(window(), tr("Presets"), asSentence(loaded.reason()));
     return;
   }
   Q_EMIT this->loaded();
@@ -61,7 +55,7 @@ void PresetMenu::save() {
   QDialog dialog(window());
   dialog.setWindowTitle(tr("Save as preset"));
   auto* name = new QLineEdit(&dialog);
-  auto* codes = new QCheckBox(tr("Keep the pass codes, too"), &dialog);
+  auto* codes = new QCheckBox(tr("Include the pass codes"), &dialog);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, &dialog);
   QPushButton* accept = buttons->button(QDialogButtonBox::Save);
   accept->setEnabled(false);
@@ -75,12 +69,12 @@ void PresetMenu::save() {
   connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
   if (dialog.exec() != QDialog::Accepted || m_session.presets() == nullptr) return;
   if (Outcome saved = m_session.savePreset(name->text().trimmed(), codes->isChecked()); !saved)
-    QMessageBox::warning(window(), tr("Presets"), saved.reason());
+    QMessageBox::warning(window(), tr("Presets"), asSentence(saved.reason()));
 }
 
 void PresetMenu::remove(const QString& name) {
   if (Outcome removed = m_session.presets()->remove(name); !removed)
-    QMessageBox::warning(window(), tr("Presets"), removed.reason());
+    QMessageBox::warning(window(), tr("Presets"), asSentence(removed.reason()));
 }
 
 }  // namespace kesto
