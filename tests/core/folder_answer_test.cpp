@@ -8,7 +8,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// The names of an answer; "-" for one that is no list, "malformed" for one that is no XML. A protected
+// The names of an answer; "-" for one that is not a list, "malformed" for one that is not XML. A protected
 // folder's name ends in "*", a directory's in "/".
 QString summaryOf(const QByteArray& xml) {
   const std::optional<FolderAnswer> answer = readFolderAnswer(xml);
@@ -135,7 +135,7 @@ TEST(FolderAnswer, HostileDocuments) {
   });
 }
 
-// Each bound, kept and not: an answer beyond it takes neither long nor much memory.
+// Each limit, just met and just exceeded. An answer beyond a limit takes neither long nor much memory.
 TEST(FolderAnswer, Bounds) {
   using namespace answer_limits;
   const auto declared = [](const QByteArray& declarations, const QByteArray& name = "A") {
@@ -151,7 +151,7 @@ TEST(FolderAnswer, Bounds) {
   const auto within = [](qsizetype levels, const QByteArray& inside) {
     return QByteArray("<x>").repeated(levels) + inside + QByteArray("</x>").repeated(levels);
   };
-  // Each stands for the one before, as often as the factor says.
+  // Each entity repeats the one before it as often as the factor says.
   const auto entitiesThatGrow = [](int levels, int factor, const QByteArray& leaf,
                                    const QByteArray& sign = "&") {
     QByteArray list = "<!ENTITY a0 '" + leaf + "'>";

@@ -32,7 +32,7 @@ struct Query {
     file.close();
     ask("");
   }
-  // The folders of the panel, which are those of its record, too.
+  // The folders of the panel, which must be those of its record as well.
   QString known() const {
     QStringList names;
     const QVariantList entries = panel->fact("folderList").toList();
@@ -151,7 +151,7 @@ TEST(FolderPopup, ItemsFollowTheList) {
   }
 }
 
-// A folder that is found again has its action sent, which moves focus.
+// When a folder is found again, its action is sent, which moves the focus.
 TEST(FolderPopup, ARebuildKeepsTheChoice) {
   struct Row {
     int chosen = 0;

@@ -172,7 +172,7 @@ TEST(SoapClient, EndsWithTheApplication) {
   EXPECT_EQ(exchange.answer(), "old");
 }
 
-// What comes after the authority of a valid URL goes out as it is written, and the authority itself.
+// The authority of a valid URL and everything after it are sent as they are written.
 TEST(SoapClient, AValidUrlGoesOutUnchanged) {
   for (const auto& [suffix, target] :
        Cases{{"", "/"},
@@ -224,7 +224,7 @@ TEST(SoapClient, TheAnswerFileIsPrivateAndReplacesALink) {
   EXPECT_EQ(exchange.path(), u"/tmp/vwxyz.xml"_s);
 }
 
-// Also when the exchange has just ended otherwise: the context may no longer exist.
+// This holds when the exchange has just ended in another way, too: the context may no longer exist.
 TEST(SoapClient, CancelledIsCancelledInEveryState) {
   struct Row {
     const char* name;

@@ -138,7 +138,7 @@ TEST(PanelProtocol, TheViewIsMadeAndPreparedOnce) {
   EXPECT_EQ(button(*view, "retentionCheckBox").title(), u"Changed"_s);
 }
 
-// The same rules hold on each layout; what it lacks is done without.
+// The same rules hold on each layout. Controls that a layout lacks are left out.
 TEST(PanelProtocol, TheLayoutFollowsTheMode) {
   using Case = std::tuple<int, Text, Text, Text>;  // mode, print settings, the user's operations, controls
   for (const auto& [mode, settings, operations, controls] :

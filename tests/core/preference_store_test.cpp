@@ -53,8 +53,8 @@ TEST_F(PreferenceStoreTest, ARecordOfAnotherModelOrReleaseIsReset) {
   }
 }
 
-// The store fails in the read of the check or in its write: another model's record counts as reset all the
-// same, and the printer's own is loaded.
+// The store fails while the check reads or writes. Another model's record still counts as reset, and the
+// printer's own is loaded.
 TEST_F(PreferenceStoreTest, ACheckThatCannotBeWrittenHoldsAllTheSame) {
   for (const auto& [failing, name] :
        {std::pair(1, u"KESTO VQ-900"_s), {2, u"KESTO VQ-900"_s}, {1, model}, {2, model}}) {
@@ -149,8 +149,8 @@ TEST_F(PreferenceStoreTest, AHeldLoginNameIsStoredFromBehindItsBullets) {
       << "an empty held name replaces nothing";
 }
 
-// The entries of a record beside those of the panel's own, which all hold a text; the mask, and how many of
-// them were loaded.
+// Entries that replace those of a record in which every entry has a text; the mask, and how many entries were
+// loaded.
 TEST_F(PreferenceStoreTest, MasksAndValuesOfEveryKind) {
   using Case = std::tuple<const char*, int, qsizetype>;
   for (const auto& [entries, flag, values] :

@@ -12,14 +12,14 @@ namespace {
 
 constexpr char mask = 0x5A;
 
-// Both ways: the search itself must not put what it looks for into the memory.
+// Masks and unmasks a text, because the search itself must not put the text into memory.
 QByteArray masked(QByteArray bytes) {
   for (char& byte : bytes)
     byte = static_cast<char>(byte ^ mask);
   return bytes;
 }
 
-// Whether the heap holds the bytes, which are given masked, one by one or as UTF-16.
+// Whether the heap contains the masked text, as bytes or as UTF-16.
 bool isInHeap(const QByteArray& wanted) {
   QByteArray wide;
   for (const char byte : wanted)
@@ -31,7 +31,7 @@ bool isInHeap(const QByteArray& wanted) {
       std::ranges::find_if(lines, [](const QByteArray& line) { return line.contains("[heap]"); });
   if (heap == lines.end()) return false;
   const auto* start = reinterpret_cast<const char*>(heap->left(heap->indexOf('-')).toULongLong(nullptr, 16));
-  // Not the end that was read: freeing what was read can have made the heap smaller.
+  // The end is not taken from there, because the heap can have become smaller since.
   const auto* end = static_cast<const char*>(::sbrk(0));
   const auto holds = [&](const QByteArray& bytes) {
     const auto isWanted = [](char byte, char other) { return (byte ^ mask) == other; };
@@ -40,7 +40,7 @@ bool isInHeap(const QByteArray& wanted) {
   return holds(wanted) || holds(wide);
 }
 
-// The sanitizers and valgrind see a byte too many.
+// The sanitizers and valgrind notice when a byte too many is wiped.
 TEST(Secrets, ABufferIsWipedWithinItsStorage) {
   const std::function<void(QString&)> edits[] = {
       [](QString& text) { text.prepend(u'b'); }, [](QString& text) { text.remove(0, 1); },

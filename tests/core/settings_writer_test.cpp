@@ -140,8 +140,8 @@ TEST_F(SettingsWriterTest, AStoredSpoolTimeIsKeptUnlessItCannotBeOne) {
   }
 }
 
-// What a model with a hard disk files by its layout and its choices, when its list ends with the folder of
-// item 4.
+// The filing keys of a model with a hard disk, by its layout and its choices, when its list ends with the
+// folder of item 4.
 TEST(SettingsWriterWithHardDisk, FilingModeAndFolder) {
   using Case = std::tuple<Text, Text, Text>;
   for (const auto& [layout, controls, settings] :

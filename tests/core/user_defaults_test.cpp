@@ -77,7 +77,8 @@ TEST_F(JsonUserDefaultsTest, WrittenPrivatelyAndOnlyWhenItChanges) {
   writeInode(others);
 }
 
-// sha256sum has the digests. There is room beside the longest for a temporary file and for a damaged one.
+// The digests are those of sha256sum. The longest name leaves room for the suffixes of a temporary and of a
+// damaged file.
 TEST_F(JsonUserDefaultsTest, NamesArePercentEncodedAndCut) {
   const QString kanji = u"kesto.mfp."_s + QString(27, u'印');
   const QString encoded = QString::fromLatin1(kanji.toUtf8().toPercentEncoding());

@@ -68,7 +68,7 @@ TEST(AsciiValue, StoredOrTheKeyRemoved) {
 }
 
 TEST(MultiKey, PiecesOf254AndOneStalePieceRemoved) {
-  // The lengths of five pieces, all there before; 0 for a removed one.
+  // The lengths of five pieces, all of which existed before; 0 for one that is removed.
   using Case = std::pair<int, std::vector<qsizetype>>;
   for (const auto& [length, expected] : {Case{0, {0, 5, 5, 5, 5}}, Case{254, {254, 0, 5, 5, 5}},
                                          Case{255, {254, 1, 0, 5, 5}}, Case{600, {254, 254, 92, 0, 5}}}) {

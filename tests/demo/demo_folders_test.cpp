@@ -22,7 +22,7 @@ class PanelProcess : public DemoProcess {
     write(command + '\n');
     return QJsonDocument::fromJson(readOutLine()).object();
   }
-  // Fetches from the address; whether there was an alert.
+  // Fetches the folders from an address. Returns whether there was an alert.
   bool fetch(const QString& address) {
     ask(R"({"do": "caret", "control": "printersAddressEditText", "location": 0, "length": 1000})");
     ask(R"({"do": "paste", "control": "printersAddressEditText", "text": ")" + address.toLatin1() + "\"}");
@@ -30,7 +30,7 @@ class PanelProcess : public DemoProcess {
     EXPECT_FALSE(answer.contains(u"error"_s)) << address;
     return answer.contains(u"alerts"_s);
   }
-  // The names of the folders, a locked one with "*"; of many their number and the last.
+  // The names of the folders, a locked one with "*"; of a long list, the number of names and the last one.
   QString folders() {
     QStringList names;
     for (const QJsonValue folder : ask(R"({"do": "facts"})")[u"folderList"].toArray())
@@ -39,8 +39,8 @@ class PanelProcess : public DemoProcess {
   }
 };
 
-// What a panel that listed "Before" makes of each, and that it lists "Before" again. Not here are "never" and
-// "trickle": each takes the panel its 20 seconds.
+// What a panel that listed "Before" does with each answer, and that it lists "Before" again. "never" and
+// "trickle" are left out, because the panel waits 20 seconds for them.
 TEST(DemoFolders, MisbehaveAsTheyAreTold) {
   const ScratchFolder folder;
   folder.write(u"before"_s, "Before\n");

@@ -33,7 +33,7 @@ OPERATIONS = {
 
 
 def ipp(operation, user):
-    """A request about the queue and its first job, in the name of a user."""
+    """A request about the queue and its first job, under a user's name."""
     uri = "ipp://localhost/classes/All" if operation == 0x4006 else "ipp://localhost/printers/Office_MFP"
     message = struct.pack(">HHI", 0x0200, operation, 1)
     for group, attributes in [

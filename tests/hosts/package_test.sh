@@ -96,7 +96,7 @@ in_examples() (cd "$scratch/examples" && PATH=$bin:$PATH && eval "$1" </dev/null
 # The demo printer finds its programs and its queue's PPD beside it.
 mkdir -m 711 "$scratch/examples"
 cp "$(dirname "$0")/../../demo/quarterly-report.pdf" "$scratch/examples/report.pdf"
-# One process, so that the number that is kept is the printer's own.
+# "exec" keeps one process, so that the number that is noted is the printer's own.
 (cd "$scratch/examples" && PATH=$bin:$PATH && eval "exec $(example_of kesto-demo-printer 1)" </dev/null) \
   >"$scratch/examples/places" 2>&1 &
 printer=$!
@@ -131,7 +131,7 @@ expect "nor is the program's name" '^$' complete_word -l
 expect "completion of the help" '^--help$' complete_word --he
 expect "completion of files" '^file names' complete_word rep
 
-# Names of queues are data: neither the completion nor what it offers runs any part of a name.
+# The names of queues are data. Neither the completion nor the words that it offers run any part of a name.
 # shellcheck disable=SC2016
 queues=('$(touch${IFS}ran)' 'a b' 'q"uote' "it's" '`touch ran`' 'x;touch ran' '*' '~' 'b\c' 'Zürich')
 mkdir "$scratch/hostile"

@@ -109,7 +109,7 @@ TEST_F(PanelProcess, ItsTraceShowsCallsAndNoSecret) {
        {u"enter initWithCallback:(HostCallback, 0x"_s, u"note Constraint Handling Available: YES"_s,
         u"leave initWithCallback:=id(self)"_s})
     EXPECT_TRUE(trace.contains(line)) << line << " is not in\n" << trace;
-  // One panel, which all calls name but those of the entry object.
+  // There is one panel, which all calls name except those of the entry object.
   QSet<QString> objects;
   for (const QString& line : trace.split(u'\n')) {
     if (line.startsWith(u"kesto.pde: ") && !line.contains(u"PDEPanelsForType") &&

@@ -19,7 +19,7 @@ TESTS = pathlib.Path(__file__).resolve().parent.parent
 FRONT_END = pathlib.Path("/usr/libexec/xdg-desktop-portal")
 NAME = "org.freedesktop.impl.portal.desktop.kesto"
 CODE = "24681357"
-# Longer than anything here takes, but shorter than a start that hangs, for which the front end waits 25 s.
+# Longer than any step here takes, but shorter than the 25 s for which the front end waits for a service that hangs.
 PATIENCE = 20
 
 
@@ -161,7 +161,7 @@ class Printing(unittest.TestCase):
         self.assertRegex(facts, r"Page size: +(595\.\d+ x 419\.\d+|419\.\d+ x 595\.\d+)")
 
     def test_standard_input(self):
-        """As the print command of an application, without the portal."""
+        """Prints like the print command of an application, without the portal."""
         report = TESTS.parent / "demo/quarterly-report.pdf"
         with open(report, "rb") as document:
             dialog = self.session.start([BUILD / "bin/kesto-print"], stdin=document)

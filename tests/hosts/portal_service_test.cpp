@@ -1,5 +1,5 @@
-// The portal's service on a private bus: a front end that calls it, clients that come and go, and dialogs
-// that the test plays the user of.
+// The portal's service on a private bus. The test plays the front end, the clients and the users of the
+// dialogs.
 #include <QtCore/QCryptographicHash>
 #include <QtDBus/QDBusPendingCallWatcher>
 #include <QtDBus/QDBusPendingReply>
@@ -13,7 +13,7 @@
 namespace kesto::test {
 namespace {
 
-// A dialog that was started, as its user and its window.
+// A started dialog, which the test operates.
 class Dialog {
  public:
   explicit Dialog(QLocalSocket* socket) : m_socket(socket), m_self(next()) {}
@@ -35,7 +35,7 @@ class Dialog {
   QJsonObject m_self;
 };
 
-// The answer that a call gets some time.
+// The answer to a call, once it arrives.
 class Answer {
  public:
   explicit Answer(const QDBusPendingCall& call) : m_watcher(call) {}
@@ -79,7 +79,7 @@ class PortalServiceTest : public testing::Test {
   QDBusConnection connection(const char* name) const {
     return QDBusConnection::connectToBus(m_address, QLatin1String(name));
   }
-  // A new handle of a client's.
+  // A new handle for a request of a client.
   QString handle(const char* client = "client") {
     QString sender = connection(client).baseService().mid(1);
     return u"/org/freedesktop/portal/desktop/request/%1/t%2"_s.arg(sender.replace(u'.', u'_'))
@@ -114,7 +114,7 @@ class PortalServiceTest : public testing::Test {
     waitFor([&] { return m_dialogs.hasPendingConnections(); });
     return Dialog(m_dialogs.nextPendingConnection());
   }
-  // A dialog whose user has chosen; gives the token, too.
+  // Opens a dialog whose user has chosen, and returns its token as well.
   Dialog chosenDialog(uint* token) {
     Answer answer(prepare(handle()));
     Dialog dialog = startedDialog();
@@ -124,7 +124,7 @@ class PortalServiceTest : public testing::Test {
     EXPECT_NE(*token, 0U);
     return dialog;
   }
-  // A token that is no good: the document gets a dialog of its own, whose user chooses first.
+  // With an unknown token the document gets a dialog of its own, whose user chooses first.
   void expectAnotherDialog(const QVariant& token, const char* client = "client") {
     Answer answer(print(handle(client), token));
     Dialog dialog = startedDialog();
@@ -134,7 +134,7 @@ class PortalServiceTest : public testing::Test {
     dialog.say(R"({"answer":"taken"})");
     EXPECT_EQ(answer.response(), 0U);
   }
-  // Brings a print to a stage, and to an end: the dialog's, in JSON, or another's.
+  // Brings a print to a stage and ends it there, by the dialog's answer in JSON or in another way.
   void expectEnd(const char* stage, const QByteArray& end, uint response) {
     SCOPED_TRACE(end.toStdString() + ' ' + stage);
     const QString path = handle();

@@ -1,4 +1,4 @@
-// kesto-lp and its print server: what is refused, broken off, kept, checked and listed.
+// kesto-lp and its print server: refused jobs, broken connections, lists and checks.
 #include <QtNetwork/QTcpServer>
 #include <future>
 #include <list>
@@ -197,7 +197,7 @@ TEST_F(PrintTest, ListsFoldersAndKeepsOnlyItsOwn) {
   EXPECT_EQ(second[u"name"], u"Plans & <Papers>"_s);
   EXPECT_EQ(second[u"password"], true);
 
-  // An answer in the shared folder is another printer's, or another user's.
+  // An answer file in a shared folder may be that of another printer or another user.
   QFile(m_folder.path(u"vwxyz.xml"_s)).remove();
   m_folder.write(u"vwxyz.xml"_s, "<e><b><r><files><f><name>Foreign</name></f></files></r></b></e>");
   const LpRun unreached = lp(u"--folders --address 127.0.0.1:1"_s);
@@ -216,7 +216,7 @@ TEST_F(PrintTest, ListsFoldersAndKeepsOnlyItsOwn) {
 
 const QString tooLarge = u"the print server's answer is too large"_s;
 
-// Replies as bytes: a value is its tag, its name and its value, each behind its length.
+// Replies as bytes. An attribute is a tag, a name and a value; the name and the value follow their lengths.
 TEST(IppReply, IsReadOnlyWithinItsBounds) {
   const auto value = [](int tag, const QByteArray& name, const QByteArray& bytes) {
     const auto part = [](const QByteArray& text) {
@@ -271,7 +271,7 @@ QByteArray chunk(const QByteArray& bytes) {
   return QByteArray::number(bytes.size(), 16) + "\r\n" + bytes + "\r\n";
 }
 
-// Twenty megabytes in a few kilobytes: what Qt packs, in gzip's frame.
+// Twenty megabytes in a few kilobytes: data that Qt has compressed, between gzip's header and trailer.
 QByteArray gzipBomb() {
   const QByteArray packed = qCompress(QByteArray(20'000'000, ' ')).mid(4 + 2);
   return "\x1f\x8b\x08\0\0\0\0\0\0\3"_ba + packed;
@@ -284,7 +284,7 @@ const QString moved =
 const QByteArray chunked = answered("200 OK", "Transfer-Encoding: chunked\r\n");
 const QByteArray packed = answered("200 OK", "Content-Encoding: gzip\r\nTransfer-Encoding: chunked\r\n");
 
-// Each way to go wrong, and how every operation says so; "%1" is the server.
+// Each misbehaviour, and the message that every operation gives for it; "%1" is the server.
 const std::tuple<const char*, Misbehaviour, QString> misbehaviours[] = {
     {"silent", {}, lateAnswer},
     {"a field that never ends", {answered("200 OK", "X: ").chopped(2), "x", 20ms}, lateAnswer},
@@ -306,7 +306,7 @@ const std::tuple<const char*, Misbehaviour, QString> misbehaviours[] = {
      QString(moved).replace(u"%2"_s, u"308"_s)},
 };
 
-// What is asked of a server, by what it goes wrong at.
+// The command lines, by the operation at which the server misbehaves.
 Outcome askAt(int operation, PrintServer& server) {
   std::vector<QueueSummary> queues;
   Destination queue;
@@ -374,7 +374,7 @@ TEST(HostilePrintServer, AHandshakeEndsToo) {
     EXPECT_EQ(reasons[i].get(), lateAnswer) << std::get<0>(cases[i]);
 }
 
-// Answers that are whole and well-formed, and not what was to be known.
+// Well-formed answers that lack what was asked for.
 TEST_F(LpTest, AnAnswerWithoutWhatWasAskedIsAFault) {
   const auto reply = [](const QByteArray& status, const QByteArray& attributes) {
     const QByteArray ipp = "\2\0"_ba + status + "\0\0\0\1"_ba + attributes + '\3';

@@ -10,7 +10,7 @@ namespace {
 const QString prefix = QLatin1String(printSettingsPrefix);
 const QString oddTitle = u" Größe \"A4\" & 'B5' \\ 100 % = Ωμ"_s;
 
-// One argument of a command line, whatever is in it.
+// Quotes any text as one argument of a command line.
 QString quoted(QString argument) {
   return u'"' + argument.replace(u'"', uR"(""")"_s) + u'"';
 }
@@ -53,7 +53,7 @@ TEST_F(PrintTest, EverySettingArrivesAsTheDryRunShowsIt) {
       expected.remove(key);
       return arrived.take(key).toString().toLatin1();
     };
-    // What is of the moment: the time, and what is made from it.
+    // These differ in each run: the time, and what is made from it.
     const QByteArray time = QByteArray::fromHex(taken("spoolTime"));
     const auto moment = QDateTime::fromString(QString::fromLatin1(time), Qt::RFC2822Date);
     EXPECT_TRUE(time.size() == 31 && start <= moment && moment <= QDateTime::currentDateTime()) << time;
@@ -116,7 +116,7 @@ TEST_F(PrintTest, DocumentsAndOptionsOfTheJobArrive) {
           << arguments;
     }
   }
-  // A name that is no text, which Qt can neither give nor remove.
+  // A file name that is not valid text. Qt can neither create nor remove such a file.
   m_folder.write(u"job"_s, "odd\n");
   DemoProcess odd(
       m_folder, u"sh"_s,
@@ -144,7 +144,8 @@ TEST_F(PrintTest, WhatCannotBePrintedOrReadIsAFault) {
       {u"kesto-demo-printer"_s, u"--folders-only --folder-port 0 --dir "_s + m_folder.path(u"other"_s)},
   };
   for (const auto& [program, arguments] : cases) {
-    // A stream that is closed at the start is not the one that the program opens first, its server's perhaps.
+    // If a standard stream is closed at the start, the first file that the program opens must not take its
+    // place.
     for (const auto& output : {u">/dev/full"_s, u">&-"_s, u">&- <&-"_s}) {
       const QString command = builtProgram(program.toLatin1()) + u' ' + arguments + u' ' + output;
       DemoProcess shell(m_folder, u"sh"_s,

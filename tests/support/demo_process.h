@@ -75,7 +75,7 @@ class ScratchFolder {
   QTemporaryDir m_folder;
 };
 
-/// Puts a scheduler in front of the system's that first edits its configuration and its list of queues.
+/// Makes programs find a scheduler that edits its configuration and its list of queues before it starts.
 inline void changeScheduler(const ScratchFolder& folder, const QByteArray& edits) {
   QDir().mkdir(folder.path(u"bin"_s));
   folder.writeProgram(u"bin/cupsd"_s, "sed -i '" + edits +
@@ -164,7 +164,7 @@ class RunningPrinter : public DemoProcess {
     EXPECT_EQ(jobs.code(), 0);
     return jobs.readAllStandardOutput().trimmed();
   }
-  /// What the scheduler says of a job to a user; it believes the owner's programs any user name.
+  /// What the scheduler says about a job to a user. It believes any user name that its owner's programs give.
   QMap<QString, QString> attributesOfJob(int job, const QByteArray& user) const {
     std::unique_ptr<PrintServer> server;
     EXPECT_TRUE(PrintServer::connect(place(u"server"_s), std::chrono::seconds(5), &server));

@@ -15,7 +15,7 @@
 
 namespace kesto::test {
 
-/// What a server sends instead of a reply: one part once, then another for ever, if there is one.
+/// What a server sends instead of a reply: one part once, then another over and over, if there is one.
 struct Misbehaviour {
   QByteArray once{};
   QByteArray again{};
@@ -84,7 +84,7 @@ class HostileServer {
     return !m_isOver;
   }
 
-  // One request after the other, as a server takes them; in parts it would be harder to follow.
+  // The steps of one connection in their order; in several functions they would be harder to follow.
   // NOLINTNEXTLINE(readability-function-cognitive-complexity)
   void serve(int client) {
     if (m_operation == atConnect) return misbehave(client);

@@ -42,7 +42,7 @@ inline QJsonObject json(const char* text) {
   return QJsonDocument::fromJson(text).object();
 }
 
-/// Pairs of what is given and what is expected.
+/// Pairs of an input and what is expected of it.
 using Cases = std::initializer_list<std::pair<Text, Text>>;
 
 /// Calls `visit` with each key and value of "key=value key=value".

@@ -1,4 +1,4 @@
-// The platform's double: nothing of the machine but the bundle, and everything can fail.
+// A double of the platform. It uses nothing of the machine but the bundle, and all of it can be made to fail.
 #pragma once
 
 #include <QtCore/QMap>
