@@ -135,8 +135,7 @@ class Printing(unittest.TestCase):
                     "print-pages": "ranges", "page-ranges": "1-2,7-20"}
         client = self.client(pages=9, paper="iso_a5", settings=settings)
         self.focus_dialog()
-        self.keys("alt+e")  # Retention
-        self.keys("alt+p")  # Pass Code
+        self.keys("alt+t")  # Retention, which leads to the pass code
         self.keys(*CODE)
         self.keys("Return")
         answer = self.end_of(client)

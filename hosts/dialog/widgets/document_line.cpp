@@ -3,6 +3,7 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 
+#include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/wrapped_label.h"
 
@@ -14,6 +15,7 @@ DocumentLine::DocumentLine(QWidget* parent)
   m_text->setTextFormat(Qt::PlainText);
   setPlainText(*m_choose, tr("Choose…"));
   m_choose->setAccessibleName(tr("Choose a document"));
+  exceptFromMnemonics(*m_choose);
   m_choose->setAutoDefault(false);
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins({});

@@ -4,6 +4,7 @@
 #include <QtCore/QMutex>
 #include <QtCore/QSet>
 #include <QtGui/QKeySequence>
+#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -16,6 +17,7 @@ namespace kesto {
 namespace {
 
 constexpr char textsProperty[] = "mnemonicTexts";
+constexpr char exceptProperty[] = "withoutMnemonic";
 
 using Letters = QSet<QChar>;
 
@@ -146,7 +148,7 @@ const QWidget* scopeOf(const QWidget& widget) {
 
 bool takesMnemonic(const QWidget& widget) {
   const auto* label = qobject_cast<const QLabel*>(&widget);
-  return !plainText(widget).isEmpty() && !isScope(widget) &&
+  return !plainText(widget).isEmpty() && !widget.property(exceptProperty).toBool() && !isScope(widget) &&
          qobject_cast<const QGroupBox*>(&widget) == nullptr &&
          (label == nullptr || label->buddy() != nullptr);
 }
@@ -167,11 +169,12 @@ struct Place {
   QTabWidget* tabs = nullptr;
 
   QString text() const { return plainText(*widget); }
-  // The button of Enter comes first, then the fields.
+  // The dialog's buttons come first, before them the one that Enter presses; then the fields.
   int rank() const {
     const auto* button = qobject_cast<const QPushButton*>(widget);
     if (button != nullptr && button->isDefault()) return 0;
-    return qobject_cast<const QLabel*>(widget) != nullptr ? 1 : 2;
+    if (qobject_cast<const QDialogButtonBox*>(widget->parentWidget()) != nullptr) return 1;
+    return qobject_cast<const QLabel*>(widget) != nullptr ? 2 : 3;
   }
   void show(const QString& text) const {
     if (tabs != nullptr) return tabs->setTabText(tabs->indexOf(widget), text);
@@ -219,6 +222,10 @@ void assignMnemonics(QWidget& window) {
 
 void setMnemonicTexts(QWidget& part, const QStringList& texts) {
   part.setProperty(textsProperty, texts);
+}
+
+void exceptFromMnemonics(QWidget& widget) {
+  widget.setProperty(exceptProperty, true);
 }
 
 void rememberEnglish(const QString& text, const QString& english) {

@@ -19,6 +19,9 @@ void assignMnemonics(QWidget& window);
 /// whatever else is shown. Others get letters after them.
 void setMnemonicTexts(QWidget& part, const QStringList& texts);
 
+/// Leaves a rarely shown widget without a letter, which others need more.
+void exceptFromMnemonics(QWidget& widget);
+
 /// Remembers what a text is in English. May be called from any thread.
 void rememberEnglish(const QString& text, const QString& english);
 

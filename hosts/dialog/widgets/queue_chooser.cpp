@@ -12,6 +12,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/wrapped_label.h"
 #include "platform/shown_text.h"
@@ -41,6 +42,7 @@ QueueChooser::QueueChooser(QWidget* parent)
   m_state->setObjectName(QStringLiteral("printerState"));
   m_state->setTextFormat(Qt::PlainText);
   setPlainText(*m_retry, tr("Try again"));
+  exceptFromMnemonics(*m_retry);
   m_retry->setAutoDefault(false);
   m_retry->setObjectName(QStringLiteral("retry"));
   m_retry->hide();
