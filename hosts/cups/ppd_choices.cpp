@@ -20,6 +20,17 @@ bool isAbout(float one, double other) {
   return std::abs(one - other) <= sizeTolerance;
 }
 
+// The order of the marked choice, else that of the marked output tray, else that of the printer, as the print
+// system's filters take it.
+bool isOrderReversed(ppd_file_t* ppd) {
+  const ppd_choice_t* order = ppdFindMarkedChoice(ppd, "OutputOrder");
+  const ppd_choice_t* tray = ppdFindMarkedChoice(ppd, "OutputBin");
+  const ppd_attr_t* attribute = tray == nullptr ? nullptr : ppdFindAttr(ppd, "PageStackOrder", tray->choice);
+  if (attribute == nullptr) attribute = ppdFindAttr(ppd, "DefaultOutputOrder", nullptr);
+  const char* value = order != nullptr ? order->choice : attribute != nullptr ? attribute->value : nullptr;
+  return qstricmp(value, "reverse") == 0;
+}
+
 }  // namespace
 
 PpdChoices::PpdChoices(ppd_file_t* ppd) : m_ppd(ppd) {
@@ -153,7 +164,8 @@ std::optional<PpdPaper> PpdChoices::markedPaper() const {
       .right = (size->width - size->right) * perPoint,
       .top = (size->length - size->top) * perPoint,
       .bottom = size->bottom * perPoint,
-      .isLandscapeMinus90 = m_ppd->landscape < 0};
+      .isLandscapeMinus90 = m_ppd->landscape < 0,
+      .isReversed = isOrderReversed(m_ppd)};
 }
 
 std::optional<CustomSize> customSizeOf(const QString& choice) {

@@ -30,6 +30,7 @@ struct PpdPaper {
   double top = 0;
   double bottom = 0;
   bool isLandscapeMinus90 = false;  ///< Whether the printer turns landscape pages clockwise.
+  bool isReversed = false;          ///< Whether the last page comes first unless a job says otherwise.
 };
 
 /// The options of a PPD, by their keywords, and which of their values are marked in it. A queue without a PPD

@@ -260,6 +260,19 @@ QList<SheetSide> DocumentLayout::sides() const {
   return sides;
 }
 
+QList<Sheet> pagesOf(const SheetDocument& document, int number, const SheetSettings& settings) {
+  QList<Sheet> pages;
+  for (int page = 0; page < document.pages.size(); ++page) {
+    if (!settings.isSelected(page + 1)) continue;
+    const QRectF area({}, document.pages[page]);
+    const SheetCell cell{
+        .document = number, .page = page, .area = area, .visible = area, .rotation = 0, .border = {}};
+    pages.push_back({.cover = {}, .sides = {SheetSide{.size = area.size(), .cells = {cell}}}});
+  }
+  if (settings.isReversed) std::ranges::reverse(pages);
+  return pages;
+}
+
 // The back as it lies when the sheet is turned over around its upright middle.
 int rotationOfBack(const SheetSide& front, const SheetSide& back, bool isShortEdge) {
   return 90 * quarters(((isShortEdge ? 180 : 0) - front.turn - back.turn) / 90);
@@ -291,13 +304,20 @@ SheetPaper sheetPaperOf(const std::optional<PpdPaper>& paper) {
   const auto points = [](double millimetres) { return std::round(millimetres * 72 / 25.4 * 1000) / 1000; };
   return {.size = {points(paper->width), points(paper->height)},
           .margins = {points(paper->left), points(paper->top), points(paper->right), points(paper->bottom)},
-          .isLandscapeMinus90 = paper->isLandscapeMinus90};
+          .isLandscapeMinus90 = paper->isLandscapeMinus90,
+          .isReversed = paper->isReversed};
 }
 
 SheetPlan::SheetPlan(const QList<SheetDocument>& documents, const SheetPaper& paper,
                      const QMap<QString, QString>& options) {
   const OptionArray array(options);
-  const SheetSettings settings(array);
+  SheetSettings settings(array);
+  if (!array.has("outputorder")) settings.isReversed = paper.isReversed;
+  if (paper.isFile) {
+    for (int document = 0; document < documents.size(); ++document)
+      m_sheets += pagesOf(documents[document], document, settings);
+    return;
+  }
   const QString covers = QString::fromUtf8(array.value("job-sheets"));
   m_borderWidth = settings.border.width;
   m_isGray = settings.isGray;

@@ -23,9 +23,16 @@ struct SheetDocument {
 /// Paper as the printer takes it and its PPD describes it; lengths in points.
 struct SheetPaper {
   QSizeF size{595, 842};
-  QMarginsF margins;  ///< Where the printer does not print.
+  QMarginsF margins = {};  ///< Where the printer does not print.
   /// The PPD's LandscapeOrientation is Minus90: what lies across is turned the other way.
   bool isLandscapeMinus90 = false;
+  /// The last page comes first unless a job says otherwise.
+  bool isReversed = false;
+  /// No paper but a file is made, where each page has its own size and nothing but the choice and the order
+  /// of pages counts.
+  bool isFile = false;
+
+  bool operator==(const SheetPaper&) const = default;
 };
 
 /// The paper of a PPD; without one, that of `SheetPaper`.

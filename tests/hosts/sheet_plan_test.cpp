@@ -108,7 +108,7 @@ QString shown(const SheetPlan& plan) {
 }
 
 // A document whose pages have "aN" at a quarter and "bN" at three quarters of the way from the upper left to
-// the lower right corner. The filter finds its objects without their table.
+// the lower right corner of what its trim box leaves of it. The filter finds its objects without their table.
 QByteArray pdfOf(const QList<QSizeF>& pages) {
   QByteArray pdf = "%PDF-1.4\n1 0 obj <</Type/Catalog/Pages 2 0 R>> endobj\n";
   QByteArray kids;
@@ -116,7 +116,8 @@ QByteArray pdfOf(const QList<QSizeF>& pages) {
     const auto [x, y] = std::pair(pages[i].width() / 4, pages[i].height() / 4);
     kids += QString::asprintf("1%d 0 R ", i).toLatin1();
     pdf += QString::asprintf(
-               "1%d 0 obj <</Type/Page/Parent 2 0 R/MediaBox[0 0 %f %f]/Contents 2%d 0 R>> endobj\n"
+               "1%d 0 obj <</Type/Page/Parent 2 0 R/MediaBox[-9 -9 900 1300]/TrimBox[0 0 %f %f]/Contents 2%d "
+               "0 R>> endobj\n"
                "2%d 0 obj <<>> stream\nBT /F .1 Tf 1 0 0 1 %f %f Tm (a%d) Tj 1 0 0 1 %f %f Tm (b%d) Tj ET\n"
                "endstream endobj\n",
                i, 4 * x, 4 * y, i, i, x, 3 * y, i, 3 * x, y, i)
@@ -128,13 +129,18 @@ QByteArray pdfOf(const QList<QSizeF>& pages) {
 }
 
 QByteArray ppdOf(const SheetPaper& paper) {
-  const auto& [size, margins, isMinus90] = paper;
+  const QSizeF& size = paper.size;
+  const QMarginsF& margins = paper.margins;
   return QString::asprintf(
              "*PPD-Adobe: \"4.3\"\n*OpenUI *PageSize: PickOne\n*DefaultPageSize: P\n"
-             "*PageSize P: \"\"\n*CloseUI: *PageSize\n*ImageableArea P: \"%f %f %f %f\"\n"
-             "*PaperDimension P: \"%f %f\"\n*LandscapeOrientation: %s90\n",
+             "*PageSize P: \"\"\n*CloseUI: *PageSize\n*OpenUI *Duplex: PickOne\n*DefaultDuplex: None\n"
+             "*Duplex None: \"\"\n*Duplex DuplexTumble: \"\"\n*Duplex DuplexNoTumble: \"\"\n*CloseUI: "
+             "*Duplex\n"
+             "*ImageableArea P: \"%f %f %f %f\"\n"
+             "*PaperDimension P: \"%f %f\"\n*LandscapeOrientation: %s90\n*DefaultOutputOrder: %s\n",
              margins.left(), margins.bottom(), size.width() - margins.right(), size.height() - margins.top(),
-             size.width(), size.height(), isMinus90 ? "Minus" : "Plus")
+             size.width(), size.height(), paper.isLandscapeMinus90 ? "Minus" : "Plus",
+             paper.isReversed ? "Reverse" : "Normal")
       .toLatin1();
 }
 
@@ -211,6 +217,10 @@ TEST(SheetPlan, CountsCopiesFilesAndCovers) {
   EXPECT_EQ(std::pair(plan.placeOf(0, 1)->sheet, plan.placeOf(0, 1)->side), std::pair(1, 1));
   EXPECT_EQ(plan.placeOf(2, 0)->sheet, 3);
   EXPECT_FALSE(plan.placeOf(0, 3));
+  const SheetPlan file({{{page, page / 2, page}}, {{page}}}, {.isFile = true},
+                       parseJobOptions(u"page-ranges=1-2 outputorder=reverse number-up=4 job-sheets=a,b"_s));
+  EXPECT_EQ(shown(file), u"2/1/1"_s);
+  EXPECT_EQ(file.sheets().front().sides.front().size, page / 2);
 }
 
 // As the filters imagetopdf and pdftopdf do it, on paper whose margins are 12 points wide.
@@ -256,13 +266,17 @@ TEST(SheetPlan, AgreesWithTheFilter) {
   if (!program.open(QIODevice::ReadOnly)) GTEST_SKIP() << "pdftopdf of cups-filters is not installed";
   if (program.readAll().contains("libcupsfilters.so.2")) GTEST_SKIP() << "pdftopdf is not of cups-filters 1";
   const SheetPaper borderless{.size = portrait.size.transposed(), .margins = {}};
-  const SheetPaper turning{.size = portrait.size, .margins = portrait.margins, .isLandscapeMinus90 = true};
+  const SheetPaper turning{
+      .size = portrait.size, .margins = portrait.margins, .isLandscapeMinus90 = true, .isReversed = true};
   const QTemporaryDir folder;
   QFile ppd(folder.filePath(u"ppd"_s));
   qputenv("PPD", QFile::encodeName(ppd.fileName()));
   for (const SheetPaper& paper : {portrait, borderless, turning}) {
     ASSERT_TRUE(ppd.open(QIODevice::WriteOnly) && ppd.write(ppdOf(paper)) > 0);
     ppd.close();
+    PpdFile opened;
+    ASSERT_TRUE(openPpdFile(ppd.fileName(), &opened));
+    ASSERT_EQ(sheetPaperOf(PpdChoices(opened.get()).markedPaper()), paper);
     forEachRow(
         [&](const Row& row) { EXPECT_EQ(planned(row.planOn(paper), paper), filtered(row)) << row.options; });
   }
