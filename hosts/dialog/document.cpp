@@ -206,11 +206,16 @@ QString Document::name() const {
   return others < 1 ? first : tr("%1 and %n more", nullptr, others).arg(first);
 }
 
+void Document::replace(int file, Descriptor other) {
+  if (m_state != State::Ready) return;
+  m_parts.at(static_cast<std::size_t>(file)).file = std::move(other);
+  Q_EMIT changed();
+}
+
 std::vector<JobFile> Document::files() const {
   std::vector<JobFile> files;
-  const QByteArray folder = "/proc/" + QByteArray::number(::getpid()) + "/fd/";
   for (const Part& part : m_parts) {
-    if (part.file) files.push_back({.path = folder + QByteArray::number(part.file.get()), .name = part.name});
+    if (part.file) files.push_back({.path = pathOf(part.file), .name = part.name});
   }
   return files;
 }

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "hosts/cups/print_job.h"
-#include "hosts/dialog/private_copy.h"
+#include "hosts/session/private_copy.h"
 #include "platform/descriptor.h"
 
 namespace kesto {
@@ -57,6 +57,8 @@ class Document : public QObject {
   const QStringList& faults() const { return m_faults; }
   /// Its name for the user: the file's name, or that of the first file with the number of others.
   QString name() const;
+  /// Puts another file in the place of one of `files`, which keeps its name.
+  void replace(int file, Descriptor other);
   /// The files to send. Their paths are valid for this user's processes until the document changes.
   std::vector<JobFile> files() const;
 

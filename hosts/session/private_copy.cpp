@@ -1,4 +1,4 @@
-#include "hosts/dialog/private_copy.h"
+#include "hosts/session/private_copy.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -82,6 +82,10 @@ Outcome PrivateCopy::append(const char* bytes, qint64 count) {
   }
   m_size += count;
   return Outcome::done();
+}
+
+QByteArray pathOf(const Descriptor& file) {
+  return "/proc/" + QByteArray::number(::getpid()) + "/fd/" + QByteArray::number(file.get());
 }
 
 void removeLeftCopies() {

@@ -1,6 +1,7 @@
-// The copy of a document that can be read only once.
+// Private copies of documents.
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QStringList>
 
 #include "platform/descriptor.h"
@@ -17,7 +18,7 @@ class PrivateCopy {
 
   explicit PrivateCopy(QStringList folders = usualFolders()) : m_folders(std::move(folders)) {}
 
-  /// Adds bytes at the end. Fails when no folder has room for the whole.
+  /// Adds bytes at the end, perhaps none. Fails when no folder has room for the whole.
   Outcome append(const char* bytes, qint64 count);
   qint64 size() const { return m_size; }
   /// Gives the file up to the caller; none before something was added.
@@ -30,6 +31,9 @@ class PrivateCopy {
   Descriptor m_file;
   qint64 m_size = 0;
 };
+
+/// A path to an open file for the processes of this user, valid while it stays open.
+QByteArray pathOf(const Descriptor& file);
 
 /// Removes named copies that earlier versions left when they were killed, unless a process has them open.
 void removeLeftCopies();
