@@ -5,7 +5,12 @@
 #include <sys/socket.h>
 #include <sys/stat.h>
 
+#include <QtGui/QAccessible>
 #include <QtGui/QImage>
+#include <QtGui/QWheelEvent>
+#include <QtWidgets/QAbstractScrollArea>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QSpinBox>
 
 #include "hosts/cups/option_array.h"
 #include "hosts/dialog/preview/preview.h"
@@ -161,11 +166,23 @@ TEST(DialogPages, AreRangesInRisingOrderThatDoNotOverlap) {
 class DialogPreview : public DialogDocument {
  protected:
   DialogPreview() { m_preview.QWidget::show(); }
-  // The sheet when the wanted picture is on it.
-  QImage sheet(const QString& what = u"Preview of the page"_s) {
-    waitFor([this] { return m_preview.isSettled(); });
-    return widgetNamed(m_preview, what)->grab().toImage();
+  void awaitSide() {
+    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isSettled(); }, u"the side"_s));
   }
+  // The sheet when it is drawn.
+  QImage sheet() {
+    awaitSide();
+    return view()->grab().toImage();
+  }
+  QWidget* view() const { return widgetNamed(m_preview, u"Preview"_s); }
+  // What assistive technology says of it.
+  QString shown() {
+    awaitSide();
+    const QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(view());
+    EXPECT_EQ(picture->role(), QAccessible::Graphic);
+    return picture->text(QAccessible::Description);
+  }
+  QString textOf(const QString& name) const { return m_preview.findChild<QLabel*>(name)->text(); }
 
   Preview m_preview{nullptr};
 };
@@ -174,16 +191,15 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
   const std::vector<JobFile> report{{KESTO_TEST_DATA "/../../demo/quarterly-report.pdf"}};
   auto* back = widgetNamed<QToolButton>(m_preview, u"Previous page"_s);
   auto* forward = widgetNamed<QToolButton>(m_preview, u"Next page"_s);
-  const auto* position = m_preview.findChild<QLabel*>();
   m_preview.show(report);
   m_preview.resize(2 * m_preview.size());  // while the page is drawn for the size before
   const QImage first = sheet();
-  waitFor([&] { return position->text() == u"Page 1 of 3"_s; });
+  EXPECT_EQ(shown(), u"Page 1 of 3"_s);
   EXPECT_EQ(m_preview.pageCount(), 3);
   EXPECT_FALSE(back->isEnabled());
   forward->click();
   EXPECT_NE(sheet(), first);
-  EXPECT_EQ(position->text(), u"Page 2 of 3"_s);
+  EXPECT_EQ(shown(), u"Page 2 of 3"_s);
   forward->click();
   EXPECT_FALSE(forward->isEnabled());
   back->click();
@@ -194,7 +210,7 @@ TEST_F(DialogPreview, ThePagesOfAPdfAreTurned) {
   const QByteArray path = qgetenv("PATH");
   qputenv("PATH", "/nowhere");
   m_preview.show(report);
-  sheet(u"No preview is available. Install poppler-utils to see one."_s);
+  EXPECT_EQ(shown(), u"No preview is available. Install poppler-utils to see one."_s);
   qputenv("PATH", path);
 }
 
@@ -207,6 +223,8 @@ TEST_F(DialogPreview, SheetsAreShownAsTheyComeOut) {
     const char* last;
     const char* total;
   };
+  const char* damaged =
+      "The document is damaged and cannot be shown. The printer may not be able to print it.";
   const Case cases[] = {
       {{report}, "", "Page 1 of 3", "Page 3 of 3", "Total: 3 sheets of paper"},
       {{report, report}, "page-ranges=1-2", "Page 1 of 6", "Page 5 of 6", "Total: 4 sheets of paper"},
@@ -227,25 +245,96 @@ TEST_F(DialogPreview, SheetsAreShownAsTheyComeOut) {
        "Sheet 1 of 2, front",
        "Sheet 2 of 2, back",
        "Total: 2 sheets of paper"},
-      {{report}, "page-ranges=7", "", "", "Total: 0 sheets of paper"},
-      {{{QFile::encodeName(m_folder.path(u"report.pdf"_s))}}, "", "Page 1 of 1", "Page 1 of 1", ""}};
-  const auto textOf = [this](const QString& name) { return m_preview.findChild<QLabel*>(name)->text(); };
-  const auto awaitSide = [this] {
-    EXPECT_TRUE(DialogUser::waitUntil([this] { return m_preview.isSettled(); }, u"the side"_s));
-  };
+      {{report},
+       "page-ranges=7",
+       "No pages are selected.",
+       "No pages are selected.",
+       "Total: 0 sheets of paper"},
+      {{{path(u"report.pdf"_s)}}, "", damaged, damaged, ""}};
   auto* forward = widgetNamed<QToolButton>(m_preview, u"Next page"_s);
   for (const auto& [files, options, first, last, total] : cases) {
     SCOPED_TRACE(options);
     m_preview.show(files);
     m_preview.setJob({}, parseJobOptions(QLatin1String(options)));
-    awaitSide();
-    EXPECT_EQ(textOf(u"position"_s), QLatin1String(first));
+    EXPECT_EQ(shown(), QLatin1String(first));
     EXPECT_EQ(textOf(u"paperTotal"_s), QLatin1String(total));
     while (forward->isEnabled())
       forward->click();
-    awaitSide();
-    EXPECT_EQ(textOf(u"position"_s), QLatin1String(last));
+    EXPECT_EQ(shown(), QLatin1String(last));
   }
+}
+
+TEST_F(DialogPreview, AnyPageIsReachedByKeysWheelAndNumber) {
+  const QByteArray report(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf");
+  m_preview.show({{report, u"one.pdf"_s}, {report, u"two.pdf"_s}});
+  EXPECT_EQ(shown(), u"Page 1 of 6"_s);
+  auto* sheets = qobject_cast<QAbstractScrollArea*>(view());
+  const auto wheel = [&](int by, Qt::KeyboardModifiers modifiers) {
+    const QPointF middle(sheets->viewport()->rect().center());
+    QWheelEvent event(middle, sheets->mapToGlobal(middle), {}, {0, by}, Qt::NoButton, modifiers, {}, false);
+    QCoreApplication::sendEvent(sheets->viewport(), &event);
+  };
+  auto* number = m_preview.findChild<QSpinBox*>(u"pageNumber"_s);
+  const std::pair<std::function<void()>, const char*> steps[] = {
+      {[&] { QTest::keyClick(sheets, Qt::Key_End); }, "Page 6 of 6"},
+      {[&] { QTest::keyClick(sheets, Qt::Key_PageUp); }, "Page 5 of 6"},
+      {[&] { QTest::keyClick(sheets, Qt::Key_Home); }, "Page 1 of 6"},
+      {[&] { QTest::keyClick(number, Qt::Key_PageDown); }, "Page 2 of 6"},
+      {[&] { wheel(-120, {}); }, "Page 3 of 6"},
+      {[&] { wheel(60, {}), wheel(60, {}); }, "Page 2 of 6"},
+      {[&] { number->selectAll(), QTest::keyClicks(number, u"4"_s), pressEnter(*number); }, "Page 4 of 6"}};
+  for (const auto& [step, expected] : steps) {
+    step();
+    EXPECT_EQ(shown(), QLatin1String(expected));
+  }
+  EXPECT_EQ(textOf(u"previewedFile"_s), u"two.pdf, 3 pages"_s);
+  const auto isWhole = [&] { return sheets->verticalScrollBar()->maximum() == 0; };
+  for (const bool isZoomed : {true, false}) {
+    QTest::mouseClick(sheets->viewport(), Qt::LeftButton);
+    EXPECT_EQ(isWhole(), !isZoomed);
+  }
+  wheel(120, Qt::ControlModifier);
+  EXPECT_FALSE(isWhole());
+  wheel(-120, {});  // scrolls
+  EXPECT_EQ(shown(), u"Page 4 of 6"_s);
+}
+
+TEST_F(DialogPreview, OnlyWhatTheTrimBoxLeavesIsShown) {
+  m_folder.write(u"trimmed.pdf"_s, R"(%PDF-1.4
+1 0 obj <</Type/Catalog/Pages 2 0 R>> endobj
+2 0 obj <</Type/Pages/Count 1/Kids[3 0 R]>> endobj
+3 0 obj <</Type/Page/Parent 2 0 R/MediaBox[0 0 600 850]/CropBox[10 10 590 840]/TrimBox[100 200 400 600]
+/Rotate 90/Contents 4 0 R>> endobj
+4 0 obj <</Length 57>> stream
+1 0 0 rg 100 200 300 400 re f 0 0 1 rg 100 200 100 100 re f
+endstream endobj
+trailer <</Root 1 0 R>>
+)");
+  m_preview.setJob({.size = {300, 400}}, {});
+  m_preview.show({{path(u"trimmed.pdf"_s)}});
+  const QImage shown = sheet();
+  const int quarter = shown.width() / 4;
+  const QPoint middle = shown.rect().center();
+  EXPECT_EQ(shown.pixelColor(middle + QPoint(quarter, quarter)), QColor(Qt::red));
+  EXPECT_EQ(shown.pixelColor(middle - QPoint(quarter, quarter)), QColor(Qt::blue));
+}
+
+TEST_F(DialogPreview, OtherDocumentsAreConvertedByThePrintSystem) {
+  const QByteArray report(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf");
+  const QByteArray before = qgetenv("PATH");
+  qputenv("PATH", path(u""_s) + ':' + before);
+  m_folder.write(u"notes.txt"_s, "Notes");
+  const JobFile notes{path(u"notes.txt"_s), u"notes.txt"_s};
+  m_folder.writeProgram(
+      u"cupsfilter"_s,
+      "test \"$4\" = application/pdf && grep -q '300.00 400.00' \"$2\" && cat " + report + "\n");
+  m_preview.setJob({.size = {300, 400}}, {});
+  m_preview.show({notes});
+  EXPECT_EQ(shown(), u"Page 1 of 3"_s);
+  m_preview.setJob({}, {});  // for another paper, which it refuses here
+  EXPECT_EQ(shown(), u"No preview is available for this type of document."_s);
+  EXPECT_EQ(m_preview.fault(), QString());
+  qputenv("PATH", before);
 }
 
 TEST_F(DialogPreview, AnImageLiesOnItsPaper) {
@@ -258,7 +347,7 @@ TEST_F(DialogPreview, AnImageLiesOnItsPaper) {
     ASSERT_TRUE(image.save(m_folder.path(u"image.png"_s)));
     m_preview.show({{QFile::encodeName(m_folder.path(u"image.png"_s))}});
     const QImage shown = sheet();
-    EXPECT_EQ(m_preview.findChild<QLabel*>()->text(), u"Page 1 of 1"_s);
+    EXPECT_EQ(this->shown(), u"Page 1 of 1"_s);
     const QPoint middle = shown.rect().center();
     EXPECT_EQ(shown.pixelColor(middle), QColor(Qt::blue));
     // A landscape sheet has 30 of its 42 parts in height, and the image 21 of them.
@@ -289,7 +378,8 @@ TEST_F(DialogPreview, WhatCannotBePrintedIsSaidInItsPlace) {
     waitFor([this] { return m_preview.isExamined(); });
     EXPECT_TRUE((m_preview.fault() + u'.').startsWith(QLatin1String(fault))) << m_preview.fault();
     EXPECT_EQ(m_preview.fault().isNull(), *fault == 0);
-    if (!m_preview.fault().isNull()) sheet(m_preview.fault());
+    const QString text = shown();
+    EXPECT_EQ(text, m_preview.fault().isNull() ? text : m_preview.fault());
   }
 }
 
@@ -299,7 +389,7 @@ TEST_F(DialogPreview, AProgramIsBoundedInTimeAndMemory) {
   const auto run = [&](PageProgram& program, const QString& name, const QStringList& arguments) {
     std::optional<PageProgram::End> end;
     QObject::connect(&program, &PageProgram::ended, &program, [&](PageProgram::End how) { end = how; });
-    program.start(name, arguments, m_folder.path(u"report.pdf"_s));
+    program.start({name, arguments, m_folder.path(u"report.pdf"_s), {}});
     waitFor([&] { return end.has_value(); });
     program.disconnect();
     return end;

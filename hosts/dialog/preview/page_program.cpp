@@ -10,7 +10,7 @@
 namespace kesto {
 namespace {
 
-constexpr rlim_t longestWork = 20;  // seconds of the processor
+constexpr rlim_t largestFile = rlim_t{4} << 30;
 #ifdef __SANITIZE_ADDRESS__
 constexpr rlim_t largestMemory = RLIM_INFINITY;  // the address sanitizer reserves far more
 #else
@@ -23,12 +23,13 @@ void limit(__rlimit_resource resource, rlim_t most) {
 }
 
 // Runs in the child before the program, so it makes only calls that are safe there.
-void confine(pid_t parent) {
+void confine(pid_t parent, std::chrono::milliseconds longest) {
   (void)::setpgid(0, 0);
   (void)::prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (::getppid() != parent) ::_exit(EXIT_FAILURE);  // it has ended already
-  limit(RLIMIT_CPU, longestWork);
+  limit(RLIMIT_CPU, static_cast<rlim_t>(longest.count() / 1000 + 1));
   limit(RLIMIT_CORE, 0);
+  limit(RLIMIT_FSIZE, largestFile);
   limit(RLIMIT_AS, largestMemory);
 }
 
@@ -51,15 +52,17 @@ PageProgram::~PageProgram() {
   stop();
 }
 
-void PageProgram::start(const QString& program, const QStringList& arguments, const QString& document) {
+void PageProgram::start(const Work& work) {
   stop();
   m_process = std::make_unique<QProcess>();
   // In some locales the page's fonts would be replaced by ones that lack its letters.
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
   m_process->setProcessEnvironment(environment);
-  m_process->setStandardInputFile(document);
-  m_process->setChildProcessModifier([parent = ::getpid()] { confine(parent); });
+  if (!work.input.isNull()) m_process->setStandardInputFile(work.input);
+  if (!work.output.isNull()) m_process->setStandardOutputFile(work.output);
+  m_process->setChildProcessModifier(
+      [parent = ::getpid(), longest = m_limit.intervalAsDuration()] { confine(parent, longest); });
   connect(m_process.get(), &QProcess::finished, this, [this](int code, QProcess::ExitStatus status) {
     finish(code == 0 && status == QProcess::NormalExit ? End::Done : End::Failed);
   });
@@ -70,7 +73,10 @@ void PageProgram::start(const QString& program, const QStringList& arguments, co
       },
       Qt::QueuedConnection);
   m_limit.start();
-  m_process->start(program, arguments);
+  m_process->start(work.program, work.arguments);
+  if (!work.input.isNull()) return;
+  m_process->write(work.secret);
+  m_process->closeWriteChannel();
 }
 
 void PageProgram::finish(End outcome) {

@@ -13,20 +13,30 @@ class QProcess;
 namespace kesto {
 
 /// One program at a time, in a separate process, because a document may be damaged or hostile. The program
-/// has a time limit and 1 GiB of address space, and ends with this process, however that ends.
+/// has a time limit, 1 GiB of address space and a limit on what it writes to files, and ends with this
+/// process, however that ends.
 class PageProgram : public QObject {
   Q_OBJECT
 
  public:
   enum class End { Done, Failed, Missing, Late };
 
+  struct Work {
+    QString program;
+    QStringList arguments;
+    QString input;        ///< The file that is its standard input; null for `secret`.
+    QByteArray secret;    ///< Its standard input in place of a file.
+    QString output = {};  ///< The file that takes its standard output; null to keep that for `output`.
+  };
+
   explicit PageProgram(std::chrono::milliseconds limit = std::chrono::seconds(20));
   ~PageProgram() override;
 
-  /// Stops a running program, and runs another with the document's file as its standard input.
-  void start(const QString& program, const QStringList& arguments, const QString& document);
+  /// Stops a running program, and runs another.
+  void start(const Work& work);
   /// Ends the program and discards its output.
   void stop();
+  bool isRunning() const { return m_process != nullptr; }
 
   /// The output of the program that has ended.
   const QByteArray& output() const { return m_output; }

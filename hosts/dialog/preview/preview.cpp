@@ -1,13 +1,14 @@
 #include "hosts/dialog/preview/preview.h"
 
 #include <QtCore/QFile>
-#include <QtWidgets/QHBoxLayout>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 
+#include "hosts/dialog/preview/page_navigator.h"
 #include "hosts/dialog/preview/sheet_view.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -19,51 +20,80 @@ constexpr int redrawDelay = 150;  // ms of rest after a change of size
 Preview::Preview(QWidget* parent)
     : QWidget(parent),
       m_view(new SheetView(m_images, this)),
-      m_back(new QToolButton(this)),
-      m_forward(new QToolButton(this)),
-      m_positionLabel(new QLabel(this)),
+      m_navigator(new PageNavigator(this)),
+      m_file(new QLabel(this)),
       m_total(new QLabel(this)) {
-  m_back->setArrowType(Qt::LeftArrow);
-  m_back->setAccessibleName(tr("Previous page"));
-  m_back->setToolTip(m_back->accessibleName());
-  m_forward->setArrowType(Qt::RightArrow);
-  m_forward->setAccessibleName(tr("Next page"));
-  m_forward->setToolTip(m_forward->accessibleName());
-  m_positionLabel->setAlignment(Qt::AlignCenter);
+  m_file->setAlignment(Qt::AlignCenter);
+  m_file->setTextFormat(Qt::PlainText);
+  m_file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  m_file->setObjectName(QStringLiteral("previewedFile"));
   m_total->setAlignment(Qt::AlignCenter);
-  m_positionLabel->setObjectName(QStringLiteral("position"));
   m_total->setObjectName(QStringLiteral("paperTotal"));
-  auto* row = new QHBoxLayout;
-  row->addWidget(m_back);
-  row->addWidget(m_positionLabel, 1);
-  row->addWidget(m_forward);
+  m_view->setMinimumSize(fontMetrics().horizontalAdvance(u'0') * 24, fontMetrics().height() * 12);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
-  m_view->setMinimumSize(fontMetrics().horizontalAdvance(u'0') * 24, fontMetrics().height() * 12);
   column->addWidget(m_view, 1);
-  column->addLayout(row);
-  column->addWidget(m_total);
+  for (QWidget* part :
+       {static_cast<QWidget*>(m_navigator), static_cast<QWidget*>(m_file), static_cast<QWidget*>(m_total)})
+    column->addWidget(part);
   m_redraw.setSingleShot(true);
-  connect(&m_redraw, &QTimer::timeout, this, &Preview::drawSide);
+  connectParts();
+  showPlace();
+}
+
+void Preview::connectParts() {
+  connect(&m_redraw, &QTimer::timeout, this, [this] {
+    showPlace();
+    drawSide();
+  });
   connect(&m_images, &PageImages::drawn, this, &Preview::showSide);
   connect(&m_examiner, &DocumentExaminer::examined, this, [this] {
-    if (m_hasFiles) plan();
+    m_isPlanned = !m_hasFiles;
     Q_EMIT examined();
+    if (!m_isPlanned) plan();  // nobody has done so by an option that depends on it
   });
-  connect(m_back, &QToolButton::clicked, this, [this] { goTo(m_position - 1); });
-  connect(m_forward, &QToolButton::clicked, this, [this] { goTo(m_position + 1); });
-  updateButtons();
+  connect(m_view, &SheetView::turned, this, [this](int by) {
+    turn(by);
+    m_view->scrollToEnd(by < 0);
+  });
+  connect(m_view, &SheetView::zoomed, this, [this] {
+    m_isSettled = false;
+    m_redraw.start(redrawDelay);
+  });
+  connect(m_navigator, &PageNavigator::previousAsked, this, [this] { turn(-1); });
+  connect(m_navigator, &PageNavigator::nextAsked, this, [this] { turn(1); });
+  connect(m_navigator, &PageNavigator::numberAsked, this, &Preview::goToNumber);
 }
 
 QSize Preview::sizeHint() const {
   return {fontMetrics().horizontalAdvance(u'0') * 40, fontMetrics().height() * 26};
 }
 
+std::optional<int> Preview::lockedFile() const {
+  const QList<ExaminedFile>& files = m_examiner.files();
+  const auto found = std::ranges::find_if(files, &ExaminedFile::isLocked);
+  if (!isExamined() || found == files.end()) return {};
+  return static_cast<int>(found - files.begin());
+}
+
+PageSequence Preview::pages() const {
+  PageSequence sequence;
+  for (const ExaminedFile& file : m_examiner.files())
+    sequence.files.append(file.path);
+  for (const Place& place : m_places)
+    for (const SheetCell& cell : place.side->cells)
+      sequence.pages.append({cell.document, cell.page});
+  return sequence;
+}
+
+QString Preview::saveFault() const {
+  const auto isPdf = [](const ExaminedFile& file) { return file.kind == ExaminedFile::Kind::Pdf; };
+  if (!isExamined() || std::ranges::all_of(m_examiner.files(), isPdf)) return {};
+  return tr("Only PDF documents can be saved as PDF.");
+}
+
 void Preview::show(const std::vector<JobFile>& files, const QString& text) {
-  QStringList paths;
-  for (const JobFile& file : files)
-    paths.append(QFile::decodeName(file.path));
-  m_images.setFiles(paths);
+  m_images.clear();
   m_examiner.examine(files);
   m_hasFiles = !files.empty();
   m_text = text;
@@ -71,50 +101,93 @@ void Preview::show(const std::vector<JobFile>& files, const QString& text) {
   m_plan.reset();
   m_position = 0;
   m_isSettled = false;
-  updateButtons();
+  showPlace();
   showSide();
+  if (!m_hasFiles) return;
   // The first page is most likely what is wanted, and as large as the paper.
+  const QString path = QFile::decodeName(files.front().path);
+  m_images.setFiles(
+      {{.kind = isPdfFile(path) ? ExaminedFile::Kind::Pdf : ExaminedFile::Kind::Image, .path = path}});
   SheetCell page;
   page.area = {{}, m_paper.size};
   SheetSide side;
   side.size = m_paper.size;
   side.cells = {page};
-  if (m_hasFiles) m_images.draw(m_view->wanted(side));
+  m_images.draw(m_view->wanted(side));
 }
 
 void Preview::setJob(const SheetPaper& paper, const QMap<QString, QString>& options) {
+  if (paper == m_paper && options == m_options) return;
   m_paper = paper;
   m_options = options;
+  m_examiner.setLayout({paper, options});
+  m_isSettled = m_isSettled && isExamined();
   if (m_hasFiles && isExamined()) plan();
 }
 
 // A file whose pages are not known has one as large as the paper, which says why.
 void Preview::plan() {
+  m_isPlanned = true;
+  m_images.setFiles(m_examiner.files());
   QList<SheetDocument> documents;
+  m_pages = {0};
   for (const ExaminedFile& file : m_examiner.files()) {
     documents.append({.pages = file.pages, .isImage = file.kind == ExaminedFile::Kind::Image});
     if (file.pages.isEmpty()) documents.back().pages.append(m_paper.size);
+    m_pages.append(m_pages.back() + static_cast<int>(documents.back().pages.size()));
   }
   m_plan.emplace(documents, m_paper, m_options);
+  m_isTwoSided = std::ranges::any_of(m_plan->sheets(), [](auto& each) { return each.sides.size() > 1; });
+  const bool isPaged = !m_isTwoSided && m_plan->pagesOnSide() == 1;
   m_places.clear();
-  for (const Sheet& sheet : m_plan->sheets())
-    for (const SheetSide& side : sheet.sides)
-      m_places.append({&sheet, &side});
-  goTo(qBound(0, m_position, static_cast<int>(qMax(m_places.size() - 1, 0))));
+  for (int number = 1; const Sheet& sheet : m_plan->sheets()) {
+    for (const SheetSide& side : sheet.sides) {
+      const bool isPage = isPaged && side.cells.size() == 1;
+      m_places.append({&sheet, &side, isPage ? numberOfPage(side.cells.front()) : number, isPage});
+    }
+    ++number;
+  }
+  goTo(m_position);
 }
 
-void Preview::goTo(int position) {
-  m_position = position;
+int Preview::numberOfPage(const SheetCell& cell) const {
+  return m_pages[cell.document] + cell.page + 1;
+}
+
+void Preview::goTo(qsizetype position) {
+  m_position = qBound(qsizetype{0}, position, qMax(m_places.size() - 1, qsizetype{0}));
   m_isSettled = false;
-  updateButtons();
+  showPlace();
   drawSide();
 }
 
-// The page after the shown one is drawn ahead.
+// Goes to the nearest place of the kind that is shown.
+void Preview::goToNumber(int number) {
+  if (m_places.isEmpty()) return;
+  const bool isPage = m_places[m_position].isPage;
+  const auto distance = [&](const Place& place) {
+    return place.isPage == isPage ? std::abs(place.number - number) : std::numeric_limits<int>::max();
+  };
+  goTo(std::ranges::min_element(m_places, {}, distance) - m_places.begin());
+}
+
+void Preview::turn(int by) {
+  if (m_position + by >= 0 && m_position + by < m_places.size()) goTo(m_position + by);
+}
+
+// The pages around the shown side are drawn ahead, as far as they may be kept.
 void Preview::drawSide() {
-  QList<WantedPage> pages;
-  for (int i = m_position; i < qMin(m_position + 2, m_places.size()); ++i)
-    pages += m_view->wanted(*m_places[i].side);
+  if (m_places.isEmpty()) return showSide();
+  QList<WantedPage> pages = m_view->wanted(*m_places[m_position].side);
+  constexpr qsizetype bytesPerPixel = 4;
+  qsizetype room = PageImages::mostKept;
+  for (const int by : {1, -1, 2}) {
+    if (m_position + by < 0 || m_position + by >= m_places.size()) continue;
+    const QList<WantedPage> ahead = m_view->wanted(*m_places[m_position + by].side);
+    for (const WantedPage& page : ahead)
+      room -= bytesPerPixel * page.pixels * page.pixels;
+    if (room >= 0) pages += ahead;
+  }
   m_images.draw(pages);
   showSide();
 }
@@ -131,55 +204,90 @@ void Preview::showSide() {
   const QString text = textInPlace();
   if (!text.isNull() || m_places.isEmpty()) {
     m_view->show(text);
+    m_view->setAccessibleDescription(text);
   } else {
-    const auto& [sheet, side] = m_places[m_position];
-    m_view->show(*side, {.borderWidth = m_plan->borderWidth(), .isGray = m_plan->isGray()}, sheet->cover);
+    const Place& place = m_places[m_position];
+    m_view->show(*place.side, {.borderWidth = m_plan->borderWidth(), .isGray = m_plan->isGray()},
+                 place.sheet->cover);
+    m_view->setAccessibleDescription(positionText(place).arg(place.number));
   }
   const bool isDrawn = m_places.isEmpty() || m_images.areThere(m_view->wanted(*m_places[m_position].side));
   m_isSettled = !m_redraw.isActive() && isExamined() && isDrawn;
   if (m_isSettled) Q_EMIT shown();
 }
 
-// The number of a page that has a side to itself, else that of the sheet.
-QString Preview::positionText() const {
-  if (m_places.isEmpty()) return {};
-  const auto& [sheet, side] = m_places[m_position];
-  const bool isTwoSided =
-      std::ranges::any_of(m_plan->sheets(), [](auto& each) { return each.sides.size() > 1; });
-  if (!isTwoSided && m_plan->pagesOnSide() == 1 && side->cells.size() == 1) {
-    int page = side->cells.front().page + 1;
-    int pages = 0;
-    for (int file = 0; file < m_examiner.files().size(); ++file) {
-      if (file == side->cells.front().document) page += pages;
-      pages += qMax(1, static_cast<int>(m_examiner.files()[file].pages.size()));
-    }
-    return tr("Page %1 of %2").arg(page).arg(pages);
+void Preview::showPlace() {
+  const bool hasPlace = !m_places.isEmpty() && fault().isNull();
+  PageNavigator::Place shown;
+  if (hasPlace) {
+    const Place& place = m_places[m_position];
+    shown = {.text = positionText(place),
+             .number = place.number,
+             .last = place.isPage ? m_pages.back() : static_cast<int>(m_plan->sheets().size()),
+             .hasPrevious = m_position > 0,
+             .hasNext = m_position + 1 < m_places.size()};
   }
-  const auto number = sheet - m_plan->sheets().data() + 1;
-  const QString text = !isTwoSided                     ? tr("Sheet %1 of %2")
-                       : side == &sheet->sides.front() ? tr("Sheet %1 of %2, front")
-                                                       : tr("Sheet %1 of %2, back");
-  return text.arg(number).arg(m_plan->sheets().size());
+  m_navigator->show(shown);
+  const QString file = hasPlace ? fileText() : QString();
+  m_file->setText(fontMetrics().elidedText(file, Qt::ElideMiddle, width()));
+  m_file->setToolTip(file.toHtmlEscaped());
+  m_file->setAccessibleName(file);
+  const QString total = totalText();
+  m_total->setText(total);
+  Q_EMIT totalChanged(total);
+}
+
+// With "%1" for the number.
+QString Preview::positionText(const Place& place) const {
+  const QString text = place.isPage                                ? tr("Page %1 of %2")
+                       : !m_isTwoSided                             ? tr("Sheet %1 of %2")
+                       : place.side == &place.sheet->sides.front() ? tr("Sheet %1 of %2, front")
+                                                                   : tr("Sheet %1 of %2, back");
+  const qsizetype last = place.isPage ? m_pages.back() : m_plan->sheets().size();
+  return text.arg(QStringLiteral("%1"), QString::number(last));
+}
+
+// "report.pdf, 3 pages", of the file whose pages are shown.
+QString Preview::fileText() const {
+  const QList<SheetCell>& cells = m_places[m_position].side->cells;
+  if (cells.isEmpty()) return {};
+  const int number = cells.front().document;
+  const ExaminedFile file = m_examiner.files().value(number);
+  QString text = shownText(m_examiner.nameOf(number));
+  if (file.kind == ExaminedFile::Kind::Pdf && !file.pages.isEmpty()) {
+    const auto count = file.pages.size();
+    text = count == 1 ? tr("%1, 1 page").arg(text) : tr("%1, %2 pages").arg(text).arg(count);
+  }
+  return file.note.isNull() || file.pages.isEmpty() ? text : tr("%1: %2").arg(text, file.note);
 }
 
 QString Preview::totalText() const {
   const auto isUnknown = [](const ExaminedFile& file) { return file.pages.isEmpty(); };
-  if (!m_plan || !fault().isNull() || std::ranges::any_of(m_examiner.files(), isUnknown)) return {};
+  if (!m_plan || m_paper.isFile || !fault().isNull() || std::ranges::any_of(m_examiner.files(), isUnknown))
+    return {};
   const int count = m_plan->paperCount();
   return count == 1 ? tr("Total: 1 sheet of paper") : tr("Total: %1 sheets of paper").arg(count);
-}
-
-void Preview::updateButtons() {
-  m_back->setEnabled(m_position > 0);
-  m_forward->setEnabled(m_position + 1 < m_places.size());
-  m_positionLabel->setText(positionText());
-  m_total->setText(totalText());
 }
 
 void Preview::resizeEvent(QResizeEvent* /*event*/) {
   if (!m_hasFiles) return;
   m_isSettled = false;
   m_redraw.start(redrawDelay);
+}
+
+void Preview::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Home:
+      return goTo(0);
+    case Qt::Key_End:
+      return goTo(m_places.size() - 1);
+    case Qt::Key_PageUp:
+      return turn(-1);
+    case Qt::Key_PageDown:
+      return turn(1);
+    default:
+      QWidget::keyPressEvent(event);
+  }
 }
 
 }  // namespace kesto

@@ -10,14 +10,14 @@
 #include "hosts/session/sheet_plan.h"
 
 class QLabel;
-class QToolButton;
 
 namespace kesto {
 
+class PageNavigator;
 class SheetView;
 
-/// Shows the sheets of paper that a job becomes, side by side, and says so when there is nothing to show.
-/// What is found out about the document on the way is known here as well.
+/// Shows the sheets of paper that a job becomes, one side at a time, and says so when there is nothing to
+/// show. What is found out about the document on the way is known here as well.
 class Preview : public QWidget {
   Q_OBJECT
 
@@ -36,6 +36,12 @@ class Preview : public QWidget {
   int pageCount() const { return m_examiner.pageCount(); }
   /// Why the document cannot be printed, in a sentence; null when nothing is known against it.
   const QString& fault() const { return m_examiner.fault(); }
+  /// The first file that needs a password, among those given to `show`; none while all are looked at.
+  std::optional<int> lockedFile() const;
+  /// The pages in the order of the sheets, once all files have been looked at and nothing has changed since.
+  PageSequence pages() const;
+  /// Why they cannot be saved as PDF, in a sentence; null when nothing is known against it.
+  QString saveFault() const;
   QSize sizeHint() const override;
 
  Q_SIGNALS:
@@ -43,38 +49,51 @@ class Preview : public QWidget {
   void shown();
   /// All files have been looked at.
   void examined();
+  /// How much paper the job takes, as a text; empty while that is not known.
+  void totalChanged(const QString& text);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  // A side. The number is that of its page, or where it has no page to itself that of its sheet.
   struct Place {
     const Sheet* sheet;
     const SheetSide* side;
+    int number;
+    bool isPage;
   };
 
+  void connectParts();
   void plan();
-  void goTo(int position);
+  int numberOfPage(const SheetCell& cell) const;
+  void goTo(qsizetype position);
+  void goToNumber(int number);
+  void turn(int by);
   void drawSide();
   void showSide();
-  void updateButtons();
+  void showPlace();
   QString textInPlace() const;
-  QString positionText() const;
+  QString positionText(const Place& place) const;
+  QString fileText() const;
   QString totalText() const;
 
   std::optional<SheetPlan> m_plan;
   QList<Place> m_places;  // the sides in their order
-  int m_position = 0;
+  QList<int> m_pages;     // the number of pages before each file, and of all
+  bool m_isTwoSided = false;
+  qsizetype m_position = 0;
   bool m_hasFiles = false;
   bool m_isSettled = true;
-  QString m_text;  // without files
+  bool m_isPlanned = false;  // for what is known
+  QString m_text;            // without files
   SheetPaper m_paper;
   QMap<QString, QString> m_options;
   PageImages m_images;
   SheetView* m_view;
-  QToolButton* m_back;
-  QToolButton* m_forward;
-  QLabel* m_positionLabel;
+  PageNavigator* m_navigator;
+  QLabel* m_file;
   QLabel* m_total;
   QTimer m_redraw;
   DocumentExaminer m_examiner;
