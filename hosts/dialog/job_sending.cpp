@@ -9,11 +9,15 @@ JobSending::JobSending(QueueClient& client, Document& document, const Preview& p
     : m_client(client), m_document(document), m_preview(preview) {
   connect(&client, &QueueClient::sendFailed, this,
           [this](const QString& reason) { fail(asSentence(reason)); });
-  connect(&client, &QueueClient::sent, this, [this](int job) {
-    m_job = job;
-    setPhase(Phase::Sent);
-    Q_EMIT sent(job);
-  });
+  connect(&client, &QueueClient::sent, this, &JobSending::takeSent);
+  connect(&m_saving, &PdfSaving::failed, this, &JobSending::fail);
+  connect(&m_saving, &PdfSaving::saved, this, [this] { takeSent(0); });
+}
+
+void JobSending::takeSent(int job) {
+  m_job = job;
+  setPhase(Phase::Sent);
+  Q_EMIT sent(job);
 }
 
 void JobSending::setPhase(Phase phase) {
@@ -55,6 +59,16 @@ void JobSending::examine() {
 void JobSending::send(const QString& queue, const PrintJob& job) {
   setPhase(Phase::Sending);
   m_client.send(queue, job);
+}
+
+void JobSending::save(const PageSequence& pages, const QString& target) {
+  setPhase(Phase::Sending);
+  m_saving.save(pages, target);
+}
+
+void JobSending::stop() {
+  m_client.stopSending();
+  m_saving.stop();
 }
 
 void JobSending::fail(const QString& reason) {

@@ -3,6 +3,7 @@
 
 #include "hosts/cups/queue_client.h"
 #include "hosts/dialog/document.h"
+#include "hosts/dialog/pdf_saving.h"
 
 namespace kesto {
 
@@ -36,10 +37,12 @@ class JobSending : public QObject {
   void takeExamination();
   /// Sends the job, as the answer to `ready`.
   void send(const QString& queue, const PrintJob& job);
+  /// Saves pages in its place, under a path; `sent` follows without a number, or `failed`.
+  void save(const PageSequence& pages, const QString& target);
   /// The job does not go out.
   void fail(const QString& reason);
   /// Stops a job that is being sent; it then fails.
-  void stop() { m_client.stopSending(); }
+  void stop();
 
  Q_SIGNALS:
   void phaseChanged();
@@ -50,11 +53,13 @@ class JobSending : public QObject {
 
  private:
   void setPhase(Phase phase);
+  void takeSent(int job);
   void examine();
 
   QueueClient& m_client;
   Document& m_document;
   const Preview& m_preview;
+  PdfSaving m_saving;
   Phase m_phase = Phase::Choosing;
   qsizetype m_faultsShown = 0;  // of the document, when Print was pressed
   int m_job = 0;

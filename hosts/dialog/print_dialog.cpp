@@ -1,5 +1,6 @@
 #include "hosts/dialog/print_dialog.h"
 
+#include <QtCore/QFileInfo>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
@@ -31,7 +32,8 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
       m_watch(options.server),
       m_client(options.server),
       m_opening(m_watch, m_client, m_chooser->model()),
-      m_sending(m_client, document, *m_preview) {
+      m_sending(m_client, document, *m_preview),
+      m_unlocking(document, *m_preview, *this) {
   m_alerts.setWindow(this);
   build();
   connectParts();
@@ -66,7 +68,11 @@ void PrintDialog::showOpening() {
   const bool isFault = !m_opening.fault().isNull();
   QString text = m_opening.fault();
   if (!isFault && m_opening.state() == QueueOpening::State::Asked) text = tr("Connecting to the printer…");
-  if (m_opening.state() == QueueOpening::State::Open) text = QueueListModel::stateText(m_opening.summary());
+  if (m_opening.isPdf()) {
+    text = tr("Saves the selected pages in a file.");
+  } else if (m_opening.state() == QueueOpening::State::Open) {
+    text = QueueListModel::stateText(m_opening.summary());
+  }
   m_chooser->showText(text, isFault);
   updateControls();
 }
@@ -110,7 +116,8 @@ void PrintDialog::openQueue(Queue& queue) {
 void PrintDialog::settleQueue() {
   if (m_opening.isOpen()) {
     if (m_session.view() != nullptr) showPanel();
-    setWindowTitle(tr("Print on %1").arg(shownText(m_opening.wanted())));
+    setWindowTitle(m_opening.isPdf() ? tr("Save as PDF")
+                                     : tr("Print on %1").arg(shownText(m_opening.wanted())));
     giveNames();
     updateControls();
   }
@@ -193,15 +200,36 @@ void PrintDialog::print() {
     m_choiceFault = m_general->fault();
     return;
   }
-  if (!m_preview->fault().isNull()) return showMessage(m_preview->fault());
+  if (!m_preview->fault().isNull()) {
+    showMessage(m_preview->fault());
+    return m_unlocking.ask();
+  }
   if (const std::optional<Entry> missing = m_session.confirm()) {
     if (m_panelPane != nullptr) m_panelPane->showEntry(*missing);
     return;
   }
+  if (m_opening.isPdf() && !chooseTarget()) return;
   const Document::State state = m_document.state();
   m_sending.begin();
   if (state != Document::State::Ready && state != Document::State::Paused) hide();
   Q_EMIT chosen();
+}
+
+// Whether there is a file to save the pages in. The file dialog asks before it takes one that exists.
+bool PrintDialog::chooseTarget() {
+  if (const QString fault = m_preview->saveFault(); !fault.isNull()) {
+    showMessage(fault);
+    return false;
+  }
+  QFileDialog dialog(this, tr("Save as PDF"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setNameFilter(tr("PDF documents (*.pdf)"));
+  dialog.setDefaultSuffix(QStringLiteral("pdf"));
+  const QString name = QFileInfo(jobName()).completeBaseName();
+  dialog.selectFile(name + QStringLiteral(".pdf"));
+  if (dialog.exec() != QDialog::Accepted) return false;
+  m_target = dialog.selectedFiles().value(0);
+  return true;
 }
 
 // Whoever drew the document as it was chosen has left out the other pages.
@@ -211,6 +239,7 @@ QMap<QString, QString> PrintDialog::ofDocument(QMap<QString, QString> options) c
 }
 
 void PrintDialog::updatePreview() {
+  if (m_opening.isPdf()) return m_preview->setJob({.isFile = true}, ofDocument(jobOptions().inForce()));
   m_preview->setJob(sheetPaperOf(jobOptions().paper()), ofDocument(jobOptions().inForce()));
 }
 
@@ -218,6 +247,10 @@ void PrintDialog::send() {
   if (m_session.queue() == nullptr) return;  // the user has gone in the meantime
   // The document's pages may have been counted since.
   if (!m_general->fault().isNull()) return m_sending.fail(m_general->fault());
+  if (m_opening.isPdf()) {
+    const QString fault = m_preview->saveFault();
+    return fault.isNull() ? m_sending.save(m_preview->pages(), m_target) : m_sending.fail(fault);
+  }
   PrintJob job{
       .title = jobName(), .files = m_document.files(), .options = ofDocument(jobOptions().travelling())};
   job.options.insert(m_session.settings());
@@ -228,7 +261,8 @@ void PrintDialog::takeSent(int job) {
   const bool isRemembered = bool(m_session.remember());
   const QString text = isRemembered ? tr("Job %1 was sent to %2.")
                                     : tr("Job %1 was sent to %2. Its entries could not be remembered.");
-  showMessage(text.arg(job).arg(m_session.queue()->id));
+  showMessage(m_opening.isPdf() ? tr("Saved as %1.").arg(shownText(m_target))
+                                : text.arg(job).arg(m_session.queue()->id));
   if (!isVisible()) return accept();
   QTimer::singleShot(farewell, this, &QDialog::accept);
 }
@@ -237,7 +271,8 @@ void PrintDialog::takeSendFailure(const QString& reason) {
   show();  // the user may believe it printed
   raise();
   activateWindow();
-  showMessage(tr("The job was not printed. %1").arg(reason));
+  showMessage(m_opening.isPdf() ? reason : tr("The job was not printed. %1").arg(reason));
+  m_unlocking.ask();
 }
 
 void PrintDialog::showPhase() {
@@ -270,6 +305,7 @@ void PrintDialog::updateControls() {
   const bool isMissing =
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
   const bool isTaker = m_opening.summary().isAccepting && !m_chooser->isPending();
+  setPlainText(m_foot->printButton(), m_opening.isPdf() ? tr("Save…") : tr("Print"));
   m_foot->printButton().setEnabled(isQueueReady() && isTaker && !isMissing);
   m_foot->printButton().setToolTip(isMissing ? tr("Choose a document to print.") : QString());
 }

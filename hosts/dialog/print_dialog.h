@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "hosts/dialog/document.h"
+#include "hosts/dialog/document_unlocking.h"
 #include "hosts/dialog/job_sending.h"
 #include "hosts/dialog/options.h"
 #include "hosts/dialog/queue_opening.h"
@@ -74,6 +75,7 @@ class PrintDialog : public QDialog {
   QWidget* makePanes();
   void connectParts();
   void connectQueues();
+  void offerPdf();
   void chooseQueue(const QString& name);
   void openQueue(Queue& queue);
   void settleQueue();
@@ -85,6 +87,7 @@ class PrintDialog : public QDialog {
   void showDocument();
   void chooseDocument();
   void print();
+  bool chooseTarget();
   void send();
   void takeSent(int job);
   void takeSendFailure(const QString& reason);
@@ -102,6 +105,7 @@ class PrintDialog : public QDialog {
   DialogAlerts m_alerts;
   PanelSession m_session{m_alerts};
   bool m_isStarted = false;
+  QString m_target;       // the file, where none is printed
   QString m_choiceFault;  // the general pane's, while the message shows it
   Preview* m_preview;
   QueueChooser* m_chooser;
@@ -116,6 +120,7 @@ class PrintDialog : public QDialog {
   QueueClient m_client;
   QueueOpening m_opening;
   JobSending m_sending;
+  DocumentUnlocking m_unlocking;
 };
 
 }  // namespace kesto

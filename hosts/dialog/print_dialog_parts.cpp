@@ -46,6 +46,7 @@ void PrintDialog::build() {
   column->addWidget(m_foot);
   // Room for the panel, so that the window need not grow when that comes.
   resize(fontMetrics().horizontalAdvance(u'0') * 110, fontMetrics().height() * 42);
+  m_chooser->field()->setFocus();
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
   connect(help, &QShortcut::activated, this, [this] { showHelp(*this); });
 }
@@ -110,6 +111,7 @@ void PrintDialog::connectParts() {
 void PrintDialog::connectQueues() {
   connect(&m_watch, &QueueWatch::listed, this, [this](const std::vector<QueueSummary>& queues) {
     m_chooser->setQueues(queues);
+    offerPdf();
     m_opening.takeList();
     Q_EMIT listed();
   });
@@ -121,6 +123,7 @@ void PrintDialog::connectQueues() {
     m_chooser->removeQueue(name);
     m_opening.takeChange();
   });
+  connect(&m_watch, &QueueWatch::failed, this, &PrintDialog::offerPdf);
   connect(&m_watch, &QueueWatch::failed, &m_opening, &QueueOpening::takeListFault);
   connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);
   connect(m_chooser, &QueueChooser::pendingChanged, this, &PrintDialog::updateControls);
@@ -132,6 +135,11 @@ void PrintDialog::connectQueues() {
   connect(&m_opening, &QueueOpening::opened, this, &PrintDialog::openQueue);
   connect(&m_opening, &QueueOpening::changed, this, &PrintDialog::showOpening);
   connect(&m_opening, &QueueOpening::settled, this, &PrintDialog::settleQueue);
+}
+
+// An application that draws its pages for a printer later has nothing to save yet.
+void PrintDialog::offerPdf() {
+  if (!m_options.documentLater) m_chooser->offerPdf();
 }
 
 void PrintDialog::giveNames() {

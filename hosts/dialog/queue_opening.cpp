@@ -26,7 +26,7 @@ void QueueOpening::suggest(const QString& name) {
 void QueueOpening::want(const QString& name) {
   m_wanted = name;
   leave();
-  ask();
+  isPdf() ? take({.id = name}) : ask();
 }
 
 void QueueOpening::leave() {
@@ -77,7 +77,7 @@ void QueueOpening::takeList() {
 
 void QueueOpening::takeChange() {
   if (!isOpen()) return;
-  m_state = m_isListed && m_queues.rowOf(m_wanted) < 0 ? State::Gone : State::Open;
+  m_state = m_isListed && !isPdf() && m_queues.rowOf(m_wanted) < 0 ? State::Gone : State::Open;
   Q_EMIT changed();
 }
 

@@ -44,6 +44,8 @@ class QueueOpening : public QObject {
 
   State state() const { return m_state; }
   bool isOpen() const { return m_state == State::Open || m_state == State::Gone; }
+  /// Whether "Save as PDF" is wanted in place of a queue. It is open at once.
+  bool isPdf() const { return m_wanted == QueueListModel::pdfName; }
   /// Whether `settled` has been emitted for the wanted queue.
   bool isSettled() const { return m_isSettled; }
   /// The wanted queue's name; null for the default queue until that is known.

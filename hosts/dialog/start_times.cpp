@@ -53,7 +53,7 @@ void TimedApplication::watch(PrintDialog& dialog) {
 void TimedApplication::report() {
   if (!m_paint || !m_list || !m_ready) return;
   const auto whole = [](double value) { return QString::number(qRound(value)); };
-  const int queues = m_dialog->queues().rowCount();
+  const auto queues = m_dialog->queues().queues().size();
   m_dialog = nullptr;
   Q_EMIT started(QStringLiteral("paint_ms=%1 list_ms=%2 ready_ms=%3 stall_ms=%4 queues=%5")
                      .arg(whole(*m_paint), whole(*m_list), whole(*m_ready), whole(m_stall))

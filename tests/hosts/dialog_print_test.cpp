@@ -9,6 +9,7 @@
 #include <QtWidgets/QTextBrowser>
 
 #include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/widgets/password_dialog.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "tests/support/dialog_printer.h"
 
@@ -97,15 +98,64 @@ TEST_F(DialogPrint, AJobThatCannotBeSentKeepsTheEntries) {
   EXPECT_EQ(widget<QLineEdit>(u"userNumberEditText"_s)->text(), u"42"_s);
 }
 
-TEST_F(DialogPrint, ADocumentThatCannotBePrintedIsNotSent) {
+TEST_F(DialogPrint, AProtectedDocumentIsPrintedWithItsPasswordOnly) {
   startPrinter();
   open({QLatin1String(KESTO_TEST_DATA "/protected.pdf")});
-  await([this] { return m_dialog->isQueueReady(); }, u"the queue"_s);
-  for (int i = 0; i < 2; ++i) {  // before it is looked at, perhaps, and after that
+  const auto enter = [this](const QStringList& passwords) {
+    auto* asking = m_dialog->findChild<PasswordDialog*>();
+    for (const QString& password : passwords) {
+      auto* field = asking->findChild<QLineEdit*>(u"documentPassword"_s);
+      await([&] { return field->isEnabled(); }, u"the question"_s);
+      field->setText(password);
+      pressEnter(*field);
+    }
+  };
+  const auto isAsked = [this] { return m_dialog->findChild<PasswordDialog*>() != nullptr; };
+  await([&] { return isAsked() && m_dialog->isQueueReady(); }, u"the queue and the question"_s);
+  enter({u"wrong"_s, u"Secret"_s, u"grün"_s});
+  await([&] { return !isAsked(); }, u"the end of the tries"_s);
+  click(u"print"_s);
+  EXPECT_TRUE(text(u"message"_s).contains(u"is protected by a password"_s));
+  enter({u"secre"_s, u"secret"_s});
+  await([&] { return !isAsked() && m_dialog->preview().pageCount() == 1; }, u"the pages"_s);
+  EXPECT_EQ(m_printer->jobs(), "[]");
+  click(u"print"_s);
+  awaitJob(1);
+  EXPECT_TRUE(printout(1).contains("%PDF") && !printout(1).contains("/Encrypt"));
+}
+
+TEST_F(DialogPrint, PagesAreSavedAsPdf) {
+  const QString target = m_folder.path(u"saved.pdf"_s);
+  m_folder.write(u"saved.pdf"_s, "before");
+  openReady({QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")});
+  auto* printer = widget<QComboBox>(u"printer"_s);
+  printer->setCurrentIndex(printer->count() - 1);
+  await([this] { return m_dialog->isQueueReady(); }, u"the file in place of a printer"_s);
+  EXPECT_EQ(m_dialog->windowTitle(), u"Save as PDF"_s);
+  m_dialog->jobOptions().choose(u"page-ranges"_s, u"2-"_s);
+  m_dialog->jobOptions().choose(u"outputorder"_s, u"reverse"_s);
+  await([this] { return m_dialog->preview().isSettled(); }, u"the preview"_s);
+  const auto save = [&](bool overwrites) {
+    whenModal([&, overwrites](QWidget& files) {
+      files.findChild<QLineEdit*>()->setText(target);
+      whenModal([&files, overwrites](QWidget& question) {
+        const auto answer = overwrites ? QMessageBox::Yes : QMessageBox::No;
+        qobject_cast<QMessageBox*>(&question)->button(answer)->click();
+        if (!overwrites) qobject_cast<QDialog*>(&files)->reject();
+      });
+      pressEnter(*files.findChild<QLineEdit*>());
+    });
     click(u"print"_s);
-    await([this] { return text(u"message"_s).contains(u"is protected by a password"_s); }, u"the reason"_s);
-    await([this] { return widget(u"print"_s)->isEnabled(); }, u"another try"_s);
-  }
+  };
+  save(false);
+  EXPECT_EQ(bytesOf(target), "before");
+  save(true);
+  await([&] { return text(u"message"_s) == u"Saved as "_s + target + u'.'; }, u"the file"_s);
+  Preview saved(nullptr);
+  saved.QWidget::show();
+  saved.show({{QFile::encodeName(target)}});
+  await([&] { return saved.isExamined(); }, u"the look at it"_s);
+  EXPECT_EQ(saved.pageCount(), 2);
   EXPECT_EQ(m_printer->jobs(), "[]");
 }
 
@@ -252,7 +302,8 @@ TEST_F(DialogPrint, TabGoesRoundTheDialogAsItIsRead) {
   };
   const QStringList order =
       u"holdAfterRadioButton suspendKeyEditText suspendKeyButton mainFolderRadioButton folderSelectionPopup "
-      "printersAddressEditText getFolderNameButton print Cancel Help Next_page Presets printer tabs tabs "
+      "printersAddressEditText getFolderNameButton print Cancel Help Preview pageNumber Next_page Presets "
+      "printer tabs tabs "
       "retentionCheckBox"_s.split(u' ');
   EXPECT_EQ(walk({}), order);
   QStringList back(order.rbegin() + 1, order.rend());

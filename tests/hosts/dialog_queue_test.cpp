@@ -195,7 +195,8 @@ TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) 
   await([&] { return ask(IPP_OP_GET_SUBSCRIPTION_ATTRIBUTES, 2); }, u"the next subscription"_s);
   change({u"-p"_s, u"Annex"_s, u"-D"_s, u"Moved"_s});
   change({u"-x"_s, u"Office_MFP"_s});
-  await([&] { return queues.rowCount() == 1 && printer->itemText(0) == u"Annex — Moved"_s; }, u"the news"_s);
+  await([&] { return queues.queues().size() == 1 && printer->itemText(0) == u"Annex — Moved"_s; },
+        u"the news"_s);
   EXPECT_EQ(printer->currentIndex(), -1) << "nobody has chosen another";
   EXPECT_EQ(printer->placeholderText(), u"Office_MFP"_s);
   EXPECT_EQ(text(u"printerState"_s), u""_s);

@@ -785,12 +785,32 @@
         <translation>Das Dokument hat keine Seiten. Es gibt nichts zu drucken.</translation>
     </message>
     <message>
-        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
-        <translation>Das Dokument ist durch ein Kennwort geschützt und kann nicht gedruckt werden. Speichern Sie eine Kopie ohne Kennwort und drucken Sie diese.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be shown. The printer may not be able to print it.</source>
+        <translation>Das Dokument ist beschädigt und kann nicht angezeigt werden. Möglicherweise kann der Drucker es nicht drucken.</translation>
+    </message>
+    <message>
+        <source>The document is damaged. Some of it may be missing.</source>
+        <translation>Das Dokument ist beschädigt. Möglicherweise fehlt etwas.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password. Enter the password to print it.</source>
+        <translation>Das Dokument ist durch ein Passwort geschützt. Geben Sie das Passwort ein, um es zu drucken.</translation>
+    </message>
+    <message>
+        <source>No preview is available. Install cups to see one.</source>
+        <translation>Keine Vorschau verfügbar. Installieren Sie cups, um eine zu sehen.</translation>
+    </message>
+    <message>
+        <source>No preview is available because converting the document takes too long.</source>
+        <translation>Keine Vorschau verfügbar, weil das Umwandeln des Dokuments zu lange dauert.</translation>
+    </message>
+    <message>
+        <source>No preview is available for this type of document.</source>
+        <translation>Für diese Art von Dokument ist keine Vorschau verfügbar.</translation>
     </message>
 </context>
 <context>
@@ -802,6 +822,33 @@
     <message>
         <source>Choose a document</source>
         <translation>Dokument auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::DocumentUnlocking</name>
+    <message>
+        <source>Opening the document takes too long.</source>
+        <translation>Das Öffnen des Dokuments dauert zu lange.</translation>
+    </message>
+    <message>
+        <source>There is not enough space for a copy of the document.</source>
+        <translation>Für eine Kopie des Dokuments ist nicht genug Platz.</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be opened.</source>
+        <translation>Das Dokument ist beschädigt und kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try once more.</source>
+        <translation>Falsches Passwort. Sie haben noch einen Versuch.</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try %1 more times.</source>
+        <translation>Falsches Passwort. Sie haben noch %1 Versuche.</translation>
+    </message>
+    <message>
+        <source>The document cannot be opened. Install qpdf to open it.</source>
+        <translation>Das Dokument kann nicht geöffnet werden. Installieren Sie qpdf, um es zu öffnen.</translation>
     </message>
 </context>
 <context>
@@ -1094,6 +1141,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageNavigator</name>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorherige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1118,6 +1180,60 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>Entsperrt: Dieser Eintrag gilt nur für diesen Auftrag.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PasswordDialog</name>
+    <message>
+        <source>Protected document</source>
+        <translation>Geschütztes Dokument</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password. Enter the password to print the document.</source>
+        <translation>%1 ist durch ein Passwort geschützt. Geben Sie das Passwort ein, um das Dokument zu drucken.</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>Das Dokument</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PdfSaving</name>
+    <message>
+        <source>Saving takes too long.</source>
+        <translation>Das Speichern dauert zu lange.</translation>
+    </message>
+    <message>
+        <source>There is not enough space.</source>
+        <translation>Es ist nicht genug Platz.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Angehalten.</translation>
+    </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>Es sind keine Seiten ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Install qpdf to save PDF files.</source>
+        <translation>Installieren Sie qpdf, um PDF-Dateien zu speichern.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved. %2</source>
+        <translation>%1 kann nicht gespeichert werden. %2</translation>
     </message>
 </context>
 <context>
@@ -1165,14 +1281,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Previous page</source>
-        <translation>Vorherige Seite</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Nächste Seite</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
     </message>
@@ -1199,6 +1307,22 @@
     <message>
         <source>No pages are selected.</source>
         <translation>Es sind keine Seiten ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Only PDF documents can be saved as PDF.</source>
+        <translation>Nur PDF-Dokumente können als PDF gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1, 1 page</source>
+        <translation>%1, 1 Seite</translation>
+    </message>
+    <message>
+        <source>%1, %2 pages</source>
+        <translation>%1, %2 Seiten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1279,6 +1403,26 @@
         <source>Canceling the job…</source>
         <translation>Auftrag wird abgebrochen …</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF-Dokumente (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Speichern …</translation>
+    </message>
+    <message>
+        <source>Saves the selected pages in a file.</source>
+        <translation>Speichert die ausgewählten Seiten in einer Datei.</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Gespeichert als %1.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -1341,6 +1485,10 @@
         <source>Ready</source>
         <translation>Bereit</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueOpening</name>
@@ -1352,8 +1500,8 @@
 <context>
     <name>kesto::SheetView</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>Vorschau der Seite</translation>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>

@@ -785,12 +785,32 @@
         <translation>El documento no tiene páginas. No hay nada que imprimir.</translation>
     </message>
     <message>
-        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
-        <translation>El documento está protegido con una contraseña y no se puede imprimir. Guarde una copia sin contraseña e imprímala.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be shown. The printer may not be able to print it.</source>
+        <translation>El documento está dañado y no se puede mostrar. Es posible que la impresora no pueda imprimirlo.</translation>
+    </message>
+    <message>
+        <source>The document is damaged. Some of it may be missing.</source>
+        <translation>El documento está dañado. Es posible que falte una parte.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password. Enter the password to print it.</source>
+        <translation>El documento está protegido con una contraseña. Introduzca la contraseña para imprimirlo.</translation>
+    </message>
+    <message>
+        <source>No preview is available. Install cups to see one.</source>
+        <translation>No hay vista previa disponible. Instale cups para verla.</translation>
+    </message>
+    <message>
+        <source>No preview is available because converting the document takes too long.</source>
+        <translation>No hay vista previa disponible porque convertir el documento tarda demasiado.</translation>
+    </message>
+    <message>
+        <source>No preview is available for this type of document.</source>
+        <translation>No hay vista previa para este tipo de documento.</translation>
     </message>
 </context>
 <context>
@@ -802,6 +822,33 @@
     <message>
         <source>Choose a document</source>
         <translation>Elegir un documento</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::DocumentUnlocking</name>
+    <message>
+        <source>Opening the document takes too long.</source>
+        <translation>Abrir el documento tarda demasiado.</translation>
+    </message>
+    <message>
+        <source>There is not enough space for a copy of the document.</source>
+        <translation>No hay espacio suficiente para una copia del documento.</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be opened.</source>
+        <translation>El documento está dañado y no se puede abrir.</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try once more.</source>
+        <translation>Contraseña incorrecta. Puede intentarlo una vez más.</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try %1 more times.</source>
+        <translation>Contraseña incorrecta. Puede intentarlo %1 veces más.</translation>
+    </message>
+    <message>
+        <source>The document cannot be opened. Install qpdf to open it.</source>
+        <translation>El documento no se puede abrir. Instale qpdf para abrirlo.</translation>
     </message>
 </context>
 <context>
@@ -1094,6 +1141,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageNavigator</name>
+    <message>
+        <source>Previous page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1118,6 +1180,60 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>Desbloqueado: este dato vale solo para este trabajo.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PasswordDialog</name>
+    <message>
+        <source>Protected document</source>
+        <translation>Documento protegido</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password. Enter the password to print the document.</source>
+        <translation>%1 está protegido con una contraseña. Introduzca la contraseña para imprimir el documento.</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>El documento</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PdfSaving</name>
+    <message>
+        <source>Saving takes too long.</source>
+        <translation>Guardar tarda demasiado.</translation>
+    </message>
+    <message>
+        <source>There is not enough space.</source>
+        <translation>No hay espacio suficiente.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Detenido.</translation>
+    </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>No hay ninguna página seleccionada.</translation>
+    </message>
+    <message>
+        <source>Install qpdf to save PDF files.</source>
+        <translation>Instale qpdf para guardar archivos PDF.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved. %2</source>
+        <translation>%1 no se puede guardar. %2</translation>
     </message>
 </context>
 <context>
@@ -1165,14 +1281,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Previous page</source>
-        <translation>Página anterior</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Página siguiente</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Página %1 de %2</translation>
     </message>
@@ -1199,6 +1307,22 @@
     <message>
         <source>No pages are selected.</source>
         <translation>No hay ninguna página seleccionada.</translation>
+    </message>
+    <message>
+        <source>Only PDF documents can be saved as PDF.</source>
+        <translation>Solo los documentos PDF se pueden guardar como PDF.</translation>
+    </message>
+    <message>
+        <source>%1, 1 page</source>
+        <translation>%1, 1 página</translation>
+    </message>
+    <message>
+        <source>%1, %2 pages</source>
+        <translation>%1, %2 páginas</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1279,6 +1403,26 @@
         <source>Canceling the job…</source>
         <translation>Cancelando el trabajo…</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Guardar como PDF</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>Documentos PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Guardar…</translation>
+    </message>
+    <message>
+        <source>Saves the selected pages in a file.</source>
+        <translation>Guarda las páginas seleccionadas en un archivo.</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Guardado como %1.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -1341,6 +1485,10 @@
         <source>Ready</source>
         <translation>Lista</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Guardar como PDF</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueOpening</name>
@@ -1352,8 +1500,8 @@
 <context>
     <name>kesto::SheetView</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>Vista previa de la página</translation>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
     </message>
 </context>
 <context>

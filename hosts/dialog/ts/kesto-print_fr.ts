@@ -785,12 +785,32 @@
         <translation>Le document n’a aucune page. Il n’y a rien à imprimer.</translation>
     </message>
     <message>
-        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
-        <translation>Le document est protégé par un mot de passe et ne peut pas être imprimé. Enregistrez une copie sans mot de passe et imprimez-la.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be shown. The printer may not be able to print it.</source>
+        <translation>Le document est endommagé et ne peut pas être affiché. L’imprimante ne pourra peut-être pas l’imprimer.</translation>
+    </message>
+    <message>
+        <source>The document is damaged. Some of it may be missing.</source>
+        <translation>Le document est endommagé. Il en manque peut-être une partie.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password. Enter the password to print it.</source>
+        <translation>Le document est protégé par un mot de passe. Saisissez le mot de passe pour l’imprimer.</translation>
+    </message>
+    <message>
+        <source>No preview is available. Install cups to see one.</source>
+        <translation>Aucun aperçu n’est disponible. Installez cups pour en voir un.</translation>
+    </message>
+    <message>
+        <source>No preview is available because converting the document takes too long.</source>
+        <translation>Aucun aperçu n’est disponible, car la conversion du document prend trop de temps.</translation>
+    </message>
+    <message>
+        <source>No preview is available for this type of document.</source>
+        <translation>Aucun aperçu n’est disponible pour ce type de document.</translation>
     </message>
 </context>
 <context>
@@ -802,6 +822,33 @@
     <message>
         <source>Choose a document</source>
         <translation>Choisir un document</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::DocumentUnlocking</name>
+    <message>
+        <source>Opening the document takes too long.</source>
+        <translation>L’ouverture du document prend trop de temps.</translation>
+    </message>
+    <message>
+        <source>There is not enough space for a copy of the document.</source>
+        <translation>Il n’y a pas assez de place pour une copie du document.</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be opened.</source>
+        <translation>Le document est endommagé et ne peut pas être ouvert.</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try once more.</source>
+        <translation>Mot de passe incorrect. Il reste un essai.</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try %1 more times.</source>
+        <translation>Mot de passe incorrect. Il reste %1 essais.</translation>
+    </message>
+    <message>
+        <source>The document cannot be opened. Install qpdf to open it.</source>
+        <translation>Le document ne peut pas être ouvert. Installez qpdf pour l’ouvrir.</translation>
     </message>
 </context>
 <context>
@@ -1094,6 +1141,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageNavigator</name>
+    <message>
+        <source>Previous page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1118,6 +1180,60 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>Déverrouillé&#xa0;: cette saisie ne vaut que pour ce travail.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PasswordDialog</name>
+    <message>
+        <source>Protected document</source>
+        <translation>Document protégé</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password. Enter the password to print the document.</source>
+        <translation>%1 est protégé par un mot de passe. Saisissez le mot de passe pour imprimer le document.</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>Le document</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PdfSaving</name>
+    <message>
+        <source>Saving takes too long.</source>
+        <translation>L’enregistrement prend trop de temps.</translation>
+    </message>
+    <message>
+        <source>There is not enough space.</source>
+        <translation>Il n’y a pas assez de place.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Arrêté.</translation>
+    </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>Aucune page n’est sélectionnée.</translation>
+    </message>
+    <message>
+        <source>Install qpdf to save PDF files.</source>
+        <translation>Installez qpdf pour enregistrer des fichiers PDF.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved. %2</source>
+        <translation>%1 ne peut pas être enregistré. %2</translation>
     </message>
 </context>
 <context>
@@ -1165,14 +1281,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Previous page</source>
-        <translation>Page précédente</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Page suivante</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
     </message>
@@ -1199,6 +1307,22 @@
     <message>
         <source>No pages are selected.</source>
         <translation>Aucune page n’est sélectionnée.</translation>
+    </message>
+    <message>
+        <source>Only PDF documents can be saved as PDF.</source>
+        <translation>Seuls les documents PDF peuvent être enregistrés au format PDF.</translation>
+    </message>
+    <message>
+        <source>%1, 1 page</source>
+        <translation>%1, 1 page</translation>
+    </message>
+    <message>
+        <source>%1, %2 pages</source>
+        <translation>%1, %2 pages</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1279,6 +1403,26 @@
         <source>Canceling the job…</source>
         <translation>Annulation du travail…</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Enregistrer au format PDF</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>Documents PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Enregistrer…</translation>
+    </message>
+    <message>
+        <source>Saves the selected pages in a file.</source>
+        <translation>Enregistre les pages sélectionnées dans un fichier.</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Enregistré sous %1.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -1341,6 +1485,10 @@
         <source>Ready</source>
         <translation>Prête</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Enregistrer au format PDF</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueOpening</name>
@@ -1352,8 +1500,8 @@
 <context>
     <name>kesto::SheetView</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>Aperçu de la page</translation>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
     </message>
 </context>
 <context>

@@ -784,12 +784,32 @@
         <translation>文書にページがありません。印刷するものがありません。</translation>
     </message>
     <message>
-        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
-        <translation>文書はパスワードで保護されているため印刷できません。パスワードのないコピーを保存して印刷してください。</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be shown. The printer may not be able to print it.</source>
+        <translation>文書が壊れているため表示できません。プリンターで印刷できない可能性があります。</translation>
+    </message>
+    <message>
+        <source>The document is damaged. Some of it may be missing.</source>
+        <translation>文書が壊れています。一部が欠けている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password. Enter the password to print it.</source>
+        <translation>この文書はパスワードで保護されています。印刷するにはパスワードを入力してください。</translation>
+    </message>
+    <message>
+        <source>No preview is available. Install cups to see one.</source>
+        <translation>プレビューできません。表示するには cups をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>No preview is available because converting the document takes too long.</source>
+        <translation>文書の変換に時間がかかりすぎるため、プレビューできません。</translation>
+    </message>
+    <message>
+        <source>No preview is available for this type of document.</source>
+        <translation>この種類の文書はプレビューを表示できません。</translation>
     </message>
 </context>
 <context>
@@ -801,6 +821,33 @@
     <message>
         <source>Choose a document</source>
         <translation>文書を選択</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::DocumentUnlocking</name>
+    <message>
+        <source>Opening the document takes too long.</source>
+        <translation>文書を開くのに時間がかかりすぎます。</translation>
+    </message>
+    <message>
+        <source>There is not enough space for a copy of the document.</source>
+        <translation>文書のコピーに必要な空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be opened.</source>
+        <translation>文書が壊れているため開けません。</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try once more.</source>
+        <translation>パスワードが違います。あと 1 回入力できます。</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try %1 more times.</source>
+        <translation>パスワードが違います。あと %1 回入力できます。</translation>
+    </message>
+    <message>
+        <source>The document cannot be opened. Install qpdf to open it.</source>
+        <translation>文書を開けません。開くには qpdf をインストールしてください。</translation>
     </message>
 </context>
 <context>
@@ -1093,6 +1140,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageNavigator</name>
+    <message>
+        <source>Previous page</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1117,6 +1179,60 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>ロック解除: この入力内容はこのジョブだけに使われます。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PasswordDialog</name>
+    <message>
+        <source>Protected document</source>
+        <translation>保護された文書</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password. Enter the password to print the document.</source>
+        <translation>%1 はパスワードで保護されています。文書を印刷するにはパスワードを入力してください。</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PdfSaving</name>
+    <message>
+        <source>Saving takes too long.</source>
+        <translation>保存に時間がかかりすぎます。</translation>
+    </message>
+    <message>
+        <source>There is not enough space.</source>
+        <translation>空き容量が足りません。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>中止しました。</translation>
+    </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>ページが選択されていません。</translation>
+    </message>
+    <message>
+        <source>Install qpdf to save PDF files.</source>
+        <translation>PDF ファイルを保存するには qpdf をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved. %2</source>
+        <translation>%1 を保存できません。%2</translation>
     </message>
 </context>
 <context>
@@ -1164,14 +1280,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Previous page</source>
-        <translation>前のページ</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>次のページ</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>%1 / %2 ページ</translation>
     </message>
@@ -1198,6 +1306,22 @@
     <message>
         <source>No pages are selected.</source>
         <translation>ページが選択されていません。</translation>
+    </message>
+    <message>
+        <source>Only PDF documents can be saved as PDF.</source>
+        <translation>PDF として保存できるのは PDF 文書だけです。</translation>
+    </message>
+    <message>
+        <source>%1, 1 page</source>
+        <translation>%1、1 ページ</translation>
+    </message>
+    <message>
+        <source>%1, %2 pages</source>
+        <translation>%1、%2 ページ</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1402,26 @@
         <source>Canceling the job…</source>
         <translation>ジョブをキャンセルしています…</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>PDF として保存</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF 文書 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>保存…</translation>
+    </message>
+    <message>
+        <source>Saves the selected pages in a file.</source>
+        <translation>選択したページをファイルに保存します。</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>%1. として保存しました</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -1340,6 +1484,10 @@
         <source>Ready</source>
         <translation>準備完了</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>PDF として保存</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueOpening</name>
@@ -1351,8 +1499,8 @@
 <context>
     <name>kesto::SheetView</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>ページのプレビュー</translation>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
     </message>
 </context>
 <context>

@@ -784,12 +784,32 @@
         <translation>文档没有页面。没有可打印的内容。</translation>
     </message>
     <message>
-        <source>The document is protected by a password and cannot be printed. Save a copy without the password and print that.</source>
-        <translation>文档受密码保护，无法打印。请保存一份没有密码的副本并打印该副本。</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be shown. The printer may not be able to print it.</source>
+        <translation>文档已损坏，无法显示。打印机可能无法打印。</translation>
+    </message>
+    <message>
+        <source>The document is damaged. Some of it may be missing.</source>
+        <translation>文档已损坏，部分内容可能缺失。</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password. Enter the password to print it.</source>
+        <translation>文档受密码保护。请输入密码以打印。</translation>
+    </message>
+    <message>
+        <source>No preview is available. Install cups to see one.</source>
+        <translation>无法预览。请安装 cups 以查看预览。</translation>
+    </message>
+    <message>
+        <source>No preview is available because converting the document takes too long.</source>
+        <translation>转换文档耗时过长，无法预览。</translation>
+    </message>
+    <message>
+        <source>No preview is available for this type of document.</source>
+        <translation>此类文档无法预览。</translation>
     </message>
 </context>
 <context>
@@ -801,6 +821,33 @@
     <message>
         <source>Choose a document</source>
         <translation>选择文档</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::DocumentUnlocking</name>
+    <message>
+        <source>Opening the document takes too long.</source>
+        <translation>打开文档耗时过长。</translation>
+    </message>
+    <message>
+        <source>There is not enough space for a copy of the document.</source>
+        <translation>空间不足，无法保存文档的副本。</translation>
+    </message>
+    <message>
+        <source>The document is damaged and cannot be opened.</source>
+        <translation>文档已损坏，无法打开。</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try once more.</source>
+        <translation>密码错误。还可以尝试一次。</translation>
+    </message>
+    <message>
+        <source>Wrong password. You can try %1 more times.</source>
+        <translation>密码错误。还可以尝试 %1 次。</translation>
+    </message>
+    <message>
+        <source>The document cannot be opened. Install qpdf to open it.</source>
+        <translation>无法打开文档。请安装 qpdf 以打开。</translation>
     </message>
 </context>
 <context>
@@ -1093,6 +1140,21 @@
     </message>
 </context>
 <context>
+    <name>kesto::PageNavigator</name>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1117,6 +1179,60 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>未锁定：此内容仅用于此作业。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PasswordDialog</name>
+    <message>
+        <source>Protected document</source>
+        <translation>受保护的文档</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password. Enter the password to print the document.</source>
+        <translation>%1 受密码保护。请输入密码以打印文档。</translation>
+    </message>
+    <message>
+        <source>The document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PdfSaving</name>
+    <message>
+        <source>Saving takes too long.</source>
+        <translation>保存耗时过长。</translation>
+    </message>
+    <message>
+        <source>There is not enough space.</source>
+        <translation>空间不足。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>已停止。</translation>
+    </message>
+    <message>
+        <source>No pages are selected.</source>
+        <translation>未选择任何页面。</translation>
+    </message>
+    <message>
+        <source>Install qpdf to save PDF files.</source>
+        <translation>请安装 qpdf 以保存 PDF 文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved. %2</source>
+        <translation>无法保存 %1。%2</translation>
     </message>
 </context>
 <context>
@@ -1164,14 +1280,6 @@
 <context>
     <name>kesto::Preview</name>
     <message>
-        <source>Previous page</source>
-        <translation>上一页</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>下一页</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>第 %1 页，共 %2 页</translation>
     </message>
@@ -1198,6 +1306,22 @@
     <message>
         <source>No pages are selected.</source>
         <translation>未选择任何页面。</translation>
+    </message>
+    <message>
+        <source>Only PDF documents can be saved as PDF.</source>
+        <translation>只有 PDF 文档可以保存为 PDF。</translation>
+    </message>
+    <message>
+        <source>%1, 1 page</source>
+        <translation>%1，1 页</translation>
+    </message>
+    <message>
+        <source>%1, %2 pages</source>
+        <translation>%1，%2 页</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1402,26 @@
         <source>Canceling the job…</source>
         <translation>正在取消作业…</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>另存为 PDF</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF 文档 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>保存…</translation>
+    </message>
+    <message>
+        <source>Saves the selected pages in a file.</source>
+        <translation>将所选页面保存到文件。</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>已保存为 %1.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueChooser</name>
@@ -1340,6 +1484,10 @@
         <source>Ready</source>
         <translation>就绪</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>另存为 PDF</translation>
+    </message>
 </context>
 <context>
     <name>kesto::QueueOpening</name>
@@ -1351,8 +1499,8 @@
 <context>
     <name>kesto::SheetView</name>
     <message>
-        <source>Preview of the page</source>
-        <translation>页面预览</translation>
+        <source>Preview</source>
+        <translation>预览</translation>
     </message>
 </context>
 <context>

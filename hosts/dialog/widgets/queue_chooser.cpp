@@ -77,6 +77,10 @@ void QueueChooser::removeQueue(const QString& name) {
   update([&] { m_model.removeQueue(name); });
 }
 
+void QueueChooser::offerPdf() {
+  update([this] { m_model.offerPdf(); });
+}
+
 void QueueChooser::offerFilter() {
   const bool isWanted = m_model.rowCount() > manyQueues;
   if (isWanted == m_combo->isEditable()) return;

@@ -27,6 +27,8 @@ class QueueChooser : public QWidget {
   void setQueues(const std::vector<QueueSummary>& queues);
   void setQueue(const QueueSummary& queue);
   void removeQueue(const QString& name);
+  /// Adds "Save as PDF" to the list.
+  void offerPdf();
   /// Shows `name` as the chosen queue, listed or not, instead of what was typed; emits nothing.
   void setCurrent(const QString& name);
   /// Like `setCurrent`, but what is being typed stays.

@@ -7,11 +7,15 @@
 namespace kesto {
 
 int QueueListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_queues.size());
+  return parent.isValid() ? 0 : static_cast<int>(m_queues.size()) + (m_offersPdf ? 1 : 0);
 }
 
 QVariant QueueListModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= rowCount()) return {};
+  if (index.row() == std::ssize(m_queues)) {
+    const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
+    return isText ? QVariant(tr("Save as PDF")) : role == NameRole ? QVariant(QString(pdfName)) : QVariant();
+  }
   const QueueSummary& queue = m_queues[static_cast<std::size_t>(index.row())];
   switch (role) {
     case Qt::DisplayRole:
@@ -34,18 +38,26 @@ void QueueListModel::setQueues(const std::vector<QueueSummary>& queues) {
   endResetModel();
 }
 
+void QueueListModel::offerPdf() {
+  if (m_offersPdf) return;
+  beginInsertRows({}, rowCount(), rowCount());
+  m_offersPdf = true;
+  endInsertRows();
+}
+
 std::vector<QueueSummary>::const_iterator QueueListModel::placeOf(const QString& name) const {
   return std::ranges::lower_bound(m_queues, name, {}, &QueueSummary::name);
 }
 
 int QueueListModel::rowOf(const QString& name) const {
+  if (name == pdfName) return m_offersPdf ? static_cast<int>(m_queues.size()) : -1;
   const auto place = placeOf(name);
   return place != m_queues.end() && place->name == name ? static_cast<int>(place - m_queues.begin()) : -1;
 }
 
 const QueueSummary* QueueListModel::queue(const QString& name) const {
   const int row = rowOf(name);
-  return row < 0 ? nullptr : &m_queues[static_cast<std::size_t>(row)];
+  return row < 0 || name == pdfName ? nullptr : &m_queues[static_cast<std::size_t>(row)];
 }
 
 void QueueListModel::setQueue(const QueueSummary& queue) {

@@ -8,12 +8,16 @@
 
 namespace kesto {
 
-/// Queues by name. A row's text is the name followed by the description, `NameRole` the name alone.
+/// Queues by name, and "Save as PDF" after them once it is offered. A row's text is the name followed by the
+/// description, `NameRole` the name alone.
 class QueueListModel : public QAbstractListModel {
   Q_OBJECT
 
  public:
   enum Role { NameRole = Qt::UserRole };
+
+  /// The `NameRole` of "Save as PDF"; no queue can have this name.
+  static constexpr QLatin1String pdfName{"\n"};
 
   using QAbstractListModel::QAbstractListModel;
 
@@ -25,6 +29,8 @@ class QueueListModel : public QAbstractListModel {
   /// Adds one queue at its place, or changes it.
   void setQueue(const QueueSummary& queue);
   void removeQueue(const QString& name);
+  /// Adds the row "Save as PDF".
+  void offerPdf();
   /// The row of a queue, -1 when it is not listed.
   int rowOf(const QString& name) const;
   /// What is known about a queue, null when it is not listed.
@@ -38,6 +44,7 @@ class QueueListModel : public QAbstractListModel {
   std::vector<QueueSummary>::const_iterator placeOf(const QString& name) const;
 
   std::vector<QueueSummary> m_queues;
+  bool m_offersPdf = false;
 };
 
 }  // namespace kesto
