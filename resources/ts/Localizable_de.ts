@@ -8,11 +8,11 @@
         <translation>Auftragssteuerung</translation>
     </message>
     <message>
-        <source>Job Storage</source>
+        <source>Job storage</source>
         <translation>Auftragsspeicher</translation>
     </message>
     <message>
-        <source>User and Account</source>
+        <source>User and account</source>
         <translation>Benutzer und Konto</translation>
     </message>
     <message>
@@ -20,27 +20,27 @@
         <translation>Zurückhalten</translation>
     </message>
     <message>
-        <source>Hold Mode</source>
+        <source>Hold mode</source>
         <translation>Haltemodus</translation>
     </message>
     <message>
-        <source>Hold Only</source>
+        <source>Hold only</source>
         <translation>Nur zurückhalten</translation>
     </message>
     <message>
-        <source>Hold After Print</source>
+        <source>Hold after printing</source>
         <translation>Nach dem Druck halten</translation>
     </message>
     <message>
-        <source>Sample Print</source>
+        <source>Sample print</source>
         <translation>Probedruck</translation>
     </message>
     <message>
-        <source>Pass Code</source>
+        <source>Pass code</source>
         <translation>PIN</translation>
     </message>
     <message>
-        <source>Document Filing</source>
+        <source>Document filing</source>
         <translation>Dokumentenablage</translation>
     </message>
     <message>
@@ -48,31 +48,31 @@
         <translation>Ordner</translation>
     </message>
     <message>
-        <source>Quick File</source>
+        <source>Quick file</source>
         <translation>Schnellablage</translation>
     </message>
     <message>
-        <source>Main Folder</source>
+        <source>Main folder</source>
         <translation>Hauptordner</translation>
     </message>
     <message>
-        <source>Custom Folder</source>
+        <source>Custom folder</source>
         <translation>Eigener Ordner</translation>
     </message>
     <message>
-        <source>Folder Pass Code</source>
+        <source>Folder pass code</source>
         <translation>PIN des Ordners</translation>
     </message>
     <message>
-        <source>Printer&apos;s Address</source>
+        <source>Printer&apos;s address</source>
         <translation>Druckeradresse</translation>
     </message>
     <message>
-        <source>Get Folder Names</source>
+        <source>Get folder names</source>
         <translation>Ordnernamen abrufen</translation>
     </message>
     <message>
-        <source>Login Name</source>
+        <source>Login name</source>
         <translation>Anmeldename</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>Passwort</translation>
     </message>
     <message>
-        <source>User Number</source>
+        <source>User number</source>
         <translation>Benutzernummer</translation>
     </message>
     <message>
-        <source>Account Number</source>
+        <source>Account number</source>
         <translation>Kontonummer</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>Auftragskennung</translation>
     </message>
     <message>
-        <source>User Name</source>
+        <source>User name</source>
         <translation>Benutzername</translation>
     </message>
     <message>
-        <source>Job Name</source>
+        <source>Job name</source>
         <translation>Auftragsname</translation>
     </message>
     <message>

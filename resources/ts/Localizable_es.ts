@@ -8,11 +8,11 @@
         <translation>Gestión de trabajos</translation>
     </message>
     <message>
-        <source>Job Storage</source>
+        <source>Job storage</source>
         <translation>Almacenamiento</translation>
     </message>
     <message>
-        <source>User and Account</source>
+        <source>User and account</source>
         <translation>Usuario y cuenta</translation>
     </message>
     <message>
@@ -20,27 +20,27 @@
         <translation>Retener el trabajo</translation>
     </message>
     <message>
-        <source>Hold Mode</source>
+        <source>Hold mode</source>
         <translation>Modo de retención</translation>
     </message>
     <message>
-        <source>Hold Only</source>
+        <source>Hold only</source>
         <translation>Solo retener</translation>
     </message>
     <message>
-        <source>Hold After Print</source>
+        <source>Hold after printing</source>
         <translation>Retener tras imprimir</translation>
     </message>
     <message>
-        <source>Sample Print</source>
+        <source>Sample print</source>
         <translation>Imprimir una muestra</translation>
     </message>
     <message>
-        <source>Pass Code</source>
+        <source>Pass code</source>
         <translation>Código de acceso</translation>
     </message>
     <message>
-        <source>Document Filing</source>
+        <source>Document filing</source>
         <translation>Archivado del documento</translation>
     </message>
     <message>
@@ -48,31 +48,31 @@
         <translation>Carpeta</translation>
     </message>
     <message>
-        <source>Quick File</source>
+        <source>Quick file</source>
         <translation>Archivado rápido</translation>
     </message>
     <message>
-        <source>Main Folder</source>
+        <source>Main folder</source>
         <translation>Carpeta principal</translation>
     </message>
     <message>
-        <source>Custom Folder</source>
+        <source>Custom folder</source>
         <translation>Carpeta personalizada</translation>
     </message>
     <message>
-        <source>Folder Pass Code</source>
+        <source>Folder pass code</source>
         <translation>Código de la carpeta</translation>
     </message>
     <message>
-        <source>Printer&apos;s Address</source>
+        <source>Printer&apos;s address</source>
         <translation>Dirección de la impresora</translation>
     </message>
     <message>
-        <source>Get Folder Names</source>
+        <source>Get folder names</source>
         <translation>Obtener nombres de carpetas</translation>
     </message>
     <message>
-        <source>Login Name</source>
+        <source>Login name</source>
         <translation>Nombre de inicio de sesión</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>Contraseña</translation>
     </message>
     <message>
-        <source>User Number</source>
+        <source>User number</source>
         <translation>Número de usuario</translation>
     </message>
     <message>
-        <source>Account Number</source>
+        <source>Account number</source>
         <translation>Número de cuenta</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>Identificación del trabajo</translation>
     </message>
     <message>
-        <source>User Name</source>
+        <source>User name</source>
         <translation>Nombre de usuario</translation>
     </message>
     <message>
-        <source>Job Name</source>
+        <source>Job name</source>
         <translation>Nombre del trabajo</translation>
     </message>
     <message>

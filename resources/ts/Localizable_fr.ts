@@ -8,11 +8,11 @@
         <translation>Gestion des travaux</translation>
     </message>
     <message>
-        <source>Job Storage</source>
+        <source>Job storage</source>
         <translation>Stockage des travaux</translation>
     </message>
     <message>
-        <source>User and Account</source>
+        <source>User and account</source>
         <translation>Utilisateur et compte</translation>
     </message>
     <message>
@@ -20,27 +20,27 @@
         <translation>Conserver le travail</translation>
     </message>
     <message>
-        <source>Hold Mode</source>
+        <source>Hold mode</source>
         <translation>Mode de conservation</translation>
     </message>
     <message>
-        <source>Hold Only</source>
+        <source>Hold only</source>
         <translation>Conserver sans imprimer</translation>
     </message>
     <message>
-        <source>Hold After Print</source>
+        <source>Hold after printing</source>
         <translation>Conserver après impression</translation>
     </message>
     <message>
-        <source>Sample Print</source>
+        <source>Sample print</source>
         <translation>Imprimer une épreuve</translation>
     </message>
     <message>
-        <source>Pass Code</source>
+        <source>Pass code</source>
         <translation>Code d’accès</translation>
     </message>
     <message>
-        <source>Document Filing</source>
+        <source>Document filing</source>
         <translation>Classement du document</translation>
     </message>
     <message>
@@ -48,31 +48,31 @@
         <translation>Dossier</translation>
     </message>
     <message>
-        <source>Quick File</source>
+        <source>Quick file</source>
         <translation>Classement rapide</translation>
     </message>
     <message>
-        <source>Main Folder</source>
+        <source>Main folder</source>
         <translation>Dossier principal</translation>
     </message>
     <message>
-        <source>Custom Folder</source>
+        <source>Custom folder</source>
         <translation>Dossier personnalisé</translation>
     </message>
     <message>
-        <source>Folder Pass Code</source>
+        <source>Folder pass code</source>
         <translation>Code d’accès du dossier</translation>
     </message>
     <message>
-        <source>Printer&apos;s Address</source>
+        <source>Printer&apos;s address</source>
         <translation>Adresse de l’imprimante</translation>
     </message>
     <message>
-        <source>Get Folder Names</source>
+        <source>Get folder names</source>
         <translation>Obtenir les noms des dossiers</translation>
     </message>
     <message>
-        <source>Login Name</source>
+        <source>Login name</source>
         <translation>Nom de connexion</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>Mot de passe</translation>
     </message>
     <message>
-        <source>User Number</source>
+        <source>User number</source>
         <translation>Numéro d’utilisateur</translation>
     </message>
     <message>
-        <source>Account Number</source>
+        <source>Account number</source>
         <translation>Numéro de compte</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>Identification du travail</translation>
     </message>
     <message>
-        <source>User Name</source>
+        <source>User name</source>
         <translation>Nom d’utilisateur</translation>
     </message>
     <message>
-        <source>Job Name</source>
+        <source>Job name</source>
         <translation>Nom du travail</translation>
     </message>
     <message>

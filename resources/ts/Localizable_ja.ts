@@ -8,11 +8,11 @@
         <translation>ジョブ管理</translation>
     </message>
     <message>
-        <source>Job Storage</source>
+        <source>Job storage</source>
         <translation>ジョブ保存</translation>
     </message>
     <message>
-        <source>User and Account</source>
+        <source>User and account</source>
         <translation>ユーザーとアカウント</translation>
     </message>
     <message>
@@ -20,27 +20,27 @@
         <translation>ジョブの保留</translation>
     </message>
     <message>
-        <source>Hold Mode</source>
+        <source>Hold mode</source>
         <translation>保留方法</translation>
     </message>
     <message>
-        <source>Hold Only</source>
+        <source>Hold only</source>
         <translation>保留のみ</translation>
     </message>
     <message>
-        <source>Hold After Print</source>
+        <source>Hold after printing</source>
         <translation>印刷後に保留</translation>
     </message>
     <message>
-        <source>Sample Print</source>
+        <source>Sample print</source>
         <translation>試し印刷</translation>
     </message>
     <message>
-        <source>Pass Code</source>
+        <source>Pass code</source>
         <translation>暗証番号</translation>
     </message>
     <message>
-        <source>Document Filing</source>
+        <source>Document filing</source>
         <translation>文書の保存先</translation>
     </message>
     <message>
@@ -48,31 +48,31 @@
         <translation>フォルダー</translation>
     </message>
     <message>
-        <source>Quick File</source>
+        <source>Quick file</source>
         <translation>クイック保存</translation>
     </message>
     <message>
-        <source>Main Folder</source>
+        <source>Main folder</source>
         <translation>メインフォルダー</translation>
     </message>
     <message>
-        <source>Custom Folder</source>
+        <source>Custom folder</source>
         <translation>カスタムフォルダー</translation>
     </message>
     <message>
-        <source>Folder Pass Code</source>
+        <source>Folder pass code</source>
         <translation>フォルダーの暗証番号</translation>
     </message>
     <message>
-        <source>Printer&apos;s Address</source>
+        <source>Printer&apos;s address</source>
         <translation>プリンターのアドレス</translation>
     </message>
     <message>
-        <source>Get Folder Names</source>
+        <source>Get folder names</source>
         <translation>フォルダー名を取得</translation>
     </message>
     <message>
-        <source>Login Name</source>
+        <source>Login name</source>
         <translation>ログイン名</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>パスワード</translation>
     </message>
     <message>
-        <source>User Number</source>
+        <source>User number</source>
         <translation>ユーザー番号</translation>
     </message>
     <message>
-        <source>Account Number</source>
+        <source>Account number</source>
         <translation>アカウント番号</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>ジョブ ID</translation>
     </message>
     <message>
-        <source>User Name</source>
+        <source>User name</source>
         <translation>ユーザー名</translation>
     </message>
     <message>
-        <source>Job Name</source>
+        <source>Job name</source>
         <translation>ジョブ名</translation>
     </message>
     <message>

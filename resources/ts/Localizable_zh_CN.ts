@@ -8,11 +8,11 @@
         <translation>作业处理</translation>
     </message>
     <message>
-        <source>Job Storage</source>
+        <source>Job storage</source>
         <translation>作业存储</translation>
     </message>
     <message>
-        <source>User and Account</source>
+        <source>User and account</source>
         <translation>用户和账户</translation>
     </message>
     <message>
@@ -20,27 +20,27 @@
         <translation>保留作业</translation>
     </message>
     <message>
-        <source>Hold Mode</source>
+        <source>Hold mode</source>
         <translation>保留方式</translation>
     </message>
     <message>
-        <source>Hold Only</source>
+        <source>Hold only</source>
         <translation>仅保留</translation>
     </message>
     <message>
-        <source>Hold After Print</source>
+        <source>Hold after printing</source>
         <translation>打印后保留</translation>
     </message>
     <message>
-        <source>Sample Print</source>
+        <source>Sample print</source>
         <translation>打印样张</translation>
     </message>
     <message>
-        <source>Pass Code</source>
+        <source>Pass code</source>
         <translation>PIN 码</translation>
     </message>
     <message>
-        <source>Document Filing</source>
+        <source>Document filing</source>
         <translation>文档归档</translation>
     </message>
     <message>
@@ -48,31 +48,31 @@
         <translation>文件夹</translation>
     </message>
     <message>
-        <source>Quick File</source>
+        <source>Quick file</source>
         <translation>快速归档</translation>
     </message>
     <message>
-        <source>Main Folder</source>
+        <source>Main folder</source>
         <translation>主文件夹</translation>
     </message>
     <message>
-        <source>Custom Folder</source>
+        <source>Custom folder</source>
         <translation>自定义文件夹</translation>
     </message>
     <message>
-        <source>Folder Pass Code</source>
+        <source>Folder pass code</source>
         <translation>文件夹 PIN 码</translation>
     </message>
     <message>
-        <source>Printer&apos;s Address</source>
+        <source>Printer&apos;s address</source>
         <translation>打印机地址</translation>
     </message>
     <message>
-        <source>Get Folder Names</source>
+        <source>Get folder names</source>
         <translation>获取文件夹名称</translation>
     </message>
     <message>
-        <source>Login Name</source>
+        <source>Login name</source>
         <translation>登录名</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>密码</translation>
     </message>
     <message>
-        <source>User Number</source>
+        <source>User number</source>
         <translation>用户编号</translation>
     </message>
     <message>
-        <source>Account Number</source>
+        <source>Account number</source>
         <translation>账户编号</translation>
     </message>
     <message>
@@ -92,11 +92,11 @@
         <translation>作业标识</translation>
     </message>
     <message>
-        <source>User Name</source>
+        <source>User name</source>
         <translation>用户名</translation>
     </message>
     <message>
-        <source>Job Name</source>
+        <source>Job name</source>
         <translation>作业名</translation>
     </message>
     <message>

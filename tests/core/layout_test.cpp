@@ -86,14 +86,14 @@ TEST(Layouts, MalformedOnesAreReportedWithTheirLine) {
 
 TEST(LocalizedStringValue, KeyUpToTheColon) {
   const Bundle bundle(Bundle::find(u"JobHandling.pde"_s), QLocale(QLocale::German));
-  for (const auto& [source, text] : Cases{{"User Name:", "Benutzername:"},
-                                          {"User Name", "Benutzername"},
-                                          {"User Name:extra: more", "Benutzername:"},
-                                          {" \n\tJob Name:", "Auftragsname:"},
-                                          {"User Name :", "User Name :"},
+  for (const auto& [source, text] : Cases{{"User name:", "Benutzername:"},
+                                          {"User name", "Benutzername"},
+                                          {"User name:extra: more", "Benutzername:"},
+                                          {" \n\tJob name:", "Auftragsname:"},
+                                          {"User name :", "User name :"},
                                           {"user name", "user name"},
                                           {"Unknown:rest", "Unknown:"},
-                                          {":User Name", ":User Name"},
+                                          {":User name", ":User name"},
                                           {"  :", "  :"},
                                           {":", ":"},
                                           {"  ", "  "},
@@ -146,7 +146,7 @@ TEST(InitializeUI, TranslatesTheFirstTwoPages) {
   PanelGroups panel;
   panel.state.pdeBundle = TestPlatform(QLocale::German).bundle();
   TabView& tabs = *panel.state.outlets.tabView;
-  tabs.setLabels({u"Job Storage"_s, u"Off"_s, u"On"_s});
+  tabs.setLabels({u"Job storage"_s, u"Off"_s, u"On"_s});
   tabs.selectTab(1);
   initializeUI(panel.state);
   EXPECT_EQ(tabs.labels().join(u' '), u"Auftragsspeicher Aus On"_s);
@@ -158,7 +158,7 @@ TEST(InitializeUI, AGermanPanel) {
   std::unique_ptr<PanelView> asLoaded;
   ASSERT_TRUE(loadLayout(layoutForm(*german.bundle(), u"JobControl6"_s), *german.bundle(), &asLoaded));
   expectControls(*asLoaded,
-                 "suspendBox=Hold_Mode userNameStaticText=User_Name: holdOnlyRadioButton=Nur_zurückhalten");
+                 "suspendBox=Hold_mode userNameStaticText=User_name: holdOnlyRadioButton=Nur_zurückhalten");
   TestPanel panel(german);
   expectControls(
       panel.view(),

@@ -166,7 +166,7 @@ TEST_F(DialogPane, AHoldButtonLocksItsField) {
   EXPECT_FALSE(line->isEnabled());
   EXPECT_TRUE(state().checked);
   EXPECT_TRUE(state().checkable);
-  EXPECT_EQ(button->accessibleName(), u"Lock Job Name"_s);
+  EXPECT_EQ(button->accessibleName(), u"Lock Job name"_s);
   EXPECT_NE(button->grab().toImage(), open);
   ASSERT_TRUE(DialogUser::waitUntil([&] { return !line->toolTip().isEmpty(); }, u"the reason"_s));
   EXPECT_TRUE(button->accessibleDescription().startsWith(u"Locked"_s));

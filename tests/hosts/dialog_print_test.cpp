@@ -43,7 +43,7 @@ TEST_F(DialogPrint, AWholeJobIsDoneThroughAssistiveTechnologyAlone) {
   QStringList summary;
   for (const auto* label : m_dialog->findChildren<QLabel*>())
     summary += label->accessibleName();
-  EXPECT_TRUE(summary.contains(u"Hold Mode"_s) && !summary.contains(u"Folder"_s)) << "nothing is filed";
+  EXPECT_TRUE(summary.contains(u"Hold mode"_s) && !summary.contains(u"Folder"_s)) << "nothing is filed";
   act(u"userNumberRadioButton"_s, toggle);
   insert(u"userNumberEditText"_s, u"42"_s);
   act(u"userNumberButton"_s, toggle);

@@ -135,7 +135,7 @@ TEST_F(LpEntries, SettingsOrSummaryAsLinesOrJson) {
   EXPECT_EQ(json.size(), lines.size());
   EXPECT_EQ(json[u"kesto.print.PrintSettings.jobSuspend"_s], u"3"_s);
   EXPECT_EQ(dryRun(arguments + u"--summary"_s).out,
-            u"Hold Mode: Sample Print\nJob Name: offer\nRetention: On\nUser Name: ann\n"_s);
+            u"Hold mode: Sample print\nJob name: offer\nRetention: On\nUser name: ann\n"_s);
 }
 
 TEST_F(LpEntries, AFolderOfThePrinterIsFoundByItsName) {

@@ -53,7 +53,7 @@ constexpr char retentionOff[] =
     QT_TRANSLATE_NOOP("DimmingReasons", "The job is not held on the printer. Turn on Retention first.");
 constexpr char quickFile[] = QT_TRANSLATE_NOOP("DimmingReasons", "A quick file has no pass code.");
 constexpr char noCustomFolder[] =
-    QT_TRANSLATE_NOOP("DimmingReasons", "Only a custom folder needs a name. Choose Custom Folder first.");
+    QT_TRANSLATE_NOOP("DimmingReasons", "Only a custom folder needs a name. Choose Custom folder first.");
 constexpr char noGuardedFolder[] =
     QT_TRANSLATE_NOOP("DimmingReasons", "Only a custom folder or a protected folder has a pass code.");
 constexpr char byUserNumber[] =

@@ -12,10 +12,6 @@
         <translation>Der Auftrag wird nicht auf dem Drucker zurückgehalten. Schalten Sie zuerst „Zurückhalten“ ein.</translation>
     </message>
     <message>
-        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
-        <translation>Nur ein eigener Ordner braucht einen Namen. Wählen Sie zuerst „Eigener Ordner“.</translation>
-    </message>
-    <message>
         <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>Nur ein eigener oder ein geschützter Ordner hat eine PIN.</translation>
     </message>
@@ -26,6 +22,10 @@
     <message>
         <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
         <translation>Dieser Eintrag ist gesperrt und wird für diesen Drucker gemerkt. Öffnen Sie zum Ändern das Schloss.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder needs a name. Choose Custom folder first.</source>
+        <translation>Nur ein eigener Ordner braucht einen Namen. Wählen Sie zuerst „Eigener Ordner“.</translation>
     </message>
 </context>
 <context>
@@ -86,14 +86,6 @@
         <translation>Einen Auftrag mit einer PIN auf dem Drucker zurückhalten</translation>
     </message>
     <message>
-        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
-        <translation>Schalten Sie unter „Auftragssteuerung“ die Option „Zurückhalten“ ein und geben Sie eine PIN mit bis zu 8 Ziffern ein. Der Auftrag wartet im Drucker, bis jemand dort die PIN eingibt. „Nach dem Druck halten“ behält den Auftrag nach dem Drucken. „Probedruck“ druckt ein Exemplar und hält die übrigen zurück.</translation>
-    </message>
-    <message>
-        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
-        <translation>Manche Drucker verlangen eine Angabe, wer druckt. Geben Sie unter „Benutzer und Konto“ Ihre Benutzernummer oder Ihren Anmeldenamen und Ihr Passwort ein.</translation>
-    </message>
-    <message>
         <source>Use an entry again</source>
         <translation>Einen Eintrag wiederverwenden</translation>
     </message>
@@ -104,10 +96,6 @@
     <message>
         <source>Choose a folder on the printer</source>
         <translation>Einen Ordner auf dem Drucker wählen</translation>
-    </message>
-    <message>
-        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>Wählen Sie unter „Dokumentenablage“ die Option „Eigener Ordner“ und geben Sie den Namen eines Ordners ein. „Ordnernamen abrufen“ fragt den Drucker nach seinen Ordnern, sodass Sie einen aus der Liste wählen können.</translation>
     </message>
     <message>
         <source>Save your settings as a preset</source>
@@ -140,6 +128,18 @@
     <message>
         <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
         <translation>Alt und ein unterstrichener Buchstabe führen zu einem Bedienelement, Alt, Umschalt und der Buchstabe zum Schloss daneben. Die Eingabetaste druckt, Esc bricht ab, und F1 öffnet diese Hilfe. Strg+R zeigt die Ziffern einer PIN, solange der Cursor darin steht.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold after printing keeps the job after it is printed. Sample print prints one copy and holds the others.</source>
+        <translation>Schalten Sie unter „Auftragssteuerung“ die Option „Zurückhalten“ ein und geben Sie eine PIN mit bis zu 8 Ziffern ein. Der Auftrag wartet im Drucker, bis jemand dort die PIN eingibt. „Nach dem Druck halten“ behält den Auftrag nach dem Drucken. „Probedruck“ druckt ein Exemplar und hält die übrigen zurück.</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
+        <translation>Manche Drucker verlangen eine Angabe, wer druckt. Geben Sie unter „Benutzer und Konto“ Ihre Benutzernummer oder Ihren Anmeldenamen und Ihr Passwort ein.</translation>
+    </message>
+    <message>
+        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Wählen Sie unter „Dokumentenablage“ die Option „Eigener Ordner“ und geben Sie den Namen eines Ordners ein. „Ordnernamen abrufen“ fragt den Drucker nach seinen Ordnern, sodass Sie einen aus der Liste wählen können.</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,6 @@
         <translation>El trabajo no se retiene en la impresora. Active primero «Retener el trabajo».</translation>
     </message>
     <message>
-        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
-        <translation>Solo una carpeta personalizada necesita un nombre. Elija primero «Carpeta personalizada».</translation>
-    </message>
-    <message>
         <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>Solo tienen código de acceso las carpetas personalizadas o protegidas.</translation>
     </message>
@@ -26,6 +22,10 @@
     <message>
         <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
         <translation>Este dato está bloqueado y se recuerda para esta impresora. Abra el candado para cambiarlo.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder needs a name. Choose Custom folder first.</source>
+        <translation>Solo una carpeta personalizada necesita un nombre. Elija primero «Carpeta personalizada».</translation>
     </message>
 </context>
 <context>
@@ -86,14 +86,6 @@
         <translation>Retener un trabajo en la impresora con un código de acceso</translation>
     </message>
     <message>
-        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
-        <translation>En «Gestión de trabajos», active «Retener el trabajo» y escriba un código de acceso de hasta 8 dígitos. El trabajo espera en la impresora hasta que alguien introduce allí el código. «Retener tras imprimir» conserva el trabajo después de imprimirlo. «Imprimir una muestra» imprime una copia y retiene las demás.</translation>
-    </message>
-    <message>
-        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
-        <translation>Algunas impresoras preguntan quién imprime. En «Usuario y cuenta», escriba su número de usuario, o su nombre de inicio de sesión y su contraseña.</translation>
-    </message>
-    <message>
         <source>Use an entry again</source>
         <translation>Volver a usar un dato</translation>
     </message>
@@ -104,10 +96,6 @@
     <message>
         <source>Choose a folder on the printer</source>
         <translation>Elegir una carpeta de la impresora</translation>
-    </message>
-    <message>
-        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>En «Archivado del documento», elija «Carpeta personalizada» y escriba el nombre de una carpeta. «Obtener nombres de carpetas» pide sus carpetas a la impresora, para que pueda elegir una de la lista.</translation>
     </message>
     <message>
         <source>Save your settings as a preset</source>
@@ -140,6 +128,18 @@
     <message>
         <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
         <translation>Alt y una letra subrayada llevan a un control; Alt, Mayús y la letra, al candado que hay junto a él. Intro imprime, Esc cancela y F1 abre esta ayuda. Ctrl+R muestra los dígitos de un código de acceso mientras el cursor está en él.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold after printing keeps the job after it is printed. Sample print prints one copy and holds the others.</source>
+        <translation>En «Gestión de trabajos», active «Retener el trabajo» y escriba un código de acceso de hasta 8 dígitos. El trabajo espera en la impresora hasta que alguien introduce allí el código. «Retener tras imprimir» conserva el trabajo después de imprimirlo. «Imprimir una muestra» imprime una copia y retiene las demás.</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
+        <translation>Algunas impresoras preguntan quién imprime. En «Usuario y cuenta», escriba su número de usuario, o su nombre de inicio de sesión y su contraseña.</translation>
+    </message>
+    <message>
+        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>En «Archivado del documento», elija «Carpeta personalizada» y escriba el nombre de una carpeta. «Obtener nombres de carpetas» pide sus carpetas a la impresora, para que pueda elegir una de la lista.</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,6 @@
         <translation>Le travail n’est pas conservé sur l’imprimante. Activez d’abord «&#xa0;Conserver le travail&#xa0;».</translation>
     </message>
     <message>
-        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
-        <translation>Seul un dossier personnalisé a besoin d’un nom. Choisissez d’abord «&#xa0;Dossier personnalisé&#xa0;».</translation>
-    </message>
-    <message>
         <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>Seul un dossier personnalisé ou protégé a un code d’accès.</translation>
     </message>
@@ -26,6 +22,10 @@
     <message>
         <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
         <translation>Cette saisie est verrouillée et mémorisée pour cette imprimante. Ouvrez le cadenas pour la modifier.</translation>
+    </message>
+    <message>
+        <source>Only a custom folder needs a name. Choose Custom folder first.</source>
+        <translation>Seul un dossier personnalisé a besoin d’un nom. Choisissez d’abord «&#xa0;Dossier personnalisé&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -86,14 +86,6 @@
         <translation>Conserver un travail sur l’imprimante avec un code d’accès</translation>
     </message>
     <message>
-        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
-        <translation>Sous «&#xa0;Gestion des travaux&#xa0;», activez «&#xa0;Conserver le travail&#xa0;» et saisissez un code d’accès de 8 chiffres au plus. Le travail attend dans l’imprimante jusqu’à ce que quelqu’un y saisisse ce code. «&#xa0;Conserver après impression&#xa0;» garde le travail une fois imprimé. «&#xa0;Imprimer une épreuve&#xa0;» imprime un exemplaire et retient les autres.</translation>
-    </message>
-    <message>
-        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
-        <translation>Certaines imprimantes demandent qui imprime. Sous «&#xa0;Utilisateur et compte&#xa0;», saisissez votre numéro d’utilisateur, ou votre nom de connexion et votre mot de passe.</translation>
-    </message>
-    <message>
         <source>Use an entry again</source>
         <translation>Réutiliser une saisie</translation>
     </message>
@@ -104,10 +96,6 @@
     <message>
         <source>Choose a folder on the printer</source>
         <translation>Choisir un dossier de l’imprimante</translation>
-    </message>
-    <message>
-        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>Sous «&#xa0;Classement du document&#xa0;», choisissez «&#xa0;Dossier personnalisé&#xa0;» et saisissez le nom d’un dossier. «&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante, afin que vous puissiez en choisir un dans la liste.</translation>
     </message>
     <message>
         <source>Save your settings as a preset</source>
@@ -140,6 +128,18 @@
     <message>
         <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
         <translation>Alt et une lettre soulignée mènent à un élément&#xa0;; Alt, Maj et la lettre mènent au cadenas à côté. Entrée imprime, Échap annule et F1 ouvre cette aide. Ctrl+R affiche les chiffres d’un code d’accès tant que le curseur s’y trouve.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold after printing keeps the job after it is printed. Sample print prints one copy and holds the others.</source>
+        <translation>Sous «&#xa0;Gestion des travaux&#xa0;», activez «&#xa0;Conserver le travail&#xa0;» et saisissez un code d’accès de 8 chiffres au plus. Le travail attend dans l’imprimante jusqu’à ce que quelqu’un y saisisse ce code. «&#xa0;Conserver après impression&#xa0;» garde le travail une fois imprimé. «&#xa0;Imprimer une épreuve&#xa0;» imprime un exemplaire et retient les autres.</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
+        <translation>Certaines imprimantes demandent qui imprime. Sous «&#xa0;Utilisateur et compte&#xa0;», saisissez votre numéro d’utilisateur, ou votre nom de connexion et votre mot de passe.</translation>
+    </message>
+    <message>
+        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Sous «&#xa0;Classement du document&#xa0;», choisissez «&#xa0;Dossier personnalisé&#xa0;» et saisissez le nom d’un dossier. «&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante, afin que vous puissiez en choisir un dans la liste.</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,6 @@
         <translation>ジョブはプリンターに保留されません。先に「ジョブの保留」をオンにしてください。</translation>
     </message>
     <message>
-        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
-        <translation>名前が必要なのはカスタムフォルダーだけです。先に「カスタムフォルダー」を選択してください。</translation>
-    </message>
-    <message>
         <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>暗証番号があるのは、カスタムフォルダーと保護されたフォルダーだけです。</translation>
     </message>
@@ -26,6 +22,10 @@
     <message>
         <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
         <translation>この入力内容はロックされ、このプリンター用に記憶されています。変更するには南京錠を開いてください。</translation>
+    </message>
+    <message>
+        <source>Only a custom folder needs a name. Choose Custom folder first.</source>
+        <translation>名前が必要なのはカスタムフォルダーだけです。先に「カスタムフォルダー」を選択してください。</translation>
     </message>
 </context>
 <context>
@@ -86,14 +86,6 @@
         <translation>ジョブを暗証番号付きでプリンターに保留する</translation>
     </message>
     <message>
-        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
-        <translation>「ジョブ管理」で「ジョブの保留」をオンにし、8 桁までの暗証番号を入力します。プリンターで暗証番号が入力されるまで、ジョブはプリンター内で待機します。「印刷後に保留」では、印刷した後もジョブが残ります。「試し印刷」では 1 部だけを印刷し、残りを保留します。</translation>
-    </message>
-    <message>
-        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
-        <translation>印刷するユーザーの指定が必要なプリンターがあります。「ユーザーとアカウント」で、ユーザー番号、またはログイン名とパスワードを入力します。</translation>
-    </message>
-    <message>
         <source>Use an entry again</source>
         <translation>入力内容を再利用する</translation>
     </message>
@@ -104,10 +96,6 @@
     <message>
         <source>Choose a folder on the printer</source>
         <translation>プリンターのフォルダーを選ぶ</translation>
-    </message>
-    <message>
-        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>「文書の保存先」で「カスタムフォルダー」を選び、フォルダーの名前を入力します。「フォルダー名を取得」を押すと、プリンターのフォルダーが取得され、一覧から選べるようになります。</translation>
     </message>
     <message>
         <source>Save your settings as a preset</source>
@@ -140,6 +128,18 @@
     <message>
         <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
         <translation>Alt と下線付きの文字で項目に移動し、Alt と Shift とその文字で横の南京錠に移動します。Enter で印刷、Esc でキャンセル、F1 でこのヘルプを表示します。暗証番号にカーソルがあるときは、Ctrl+R で数字を表示します。</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold after printing keeps the job after it is printed. Sample print prints one copy and holds the others.</source>
+        <translation>「ジョブ管理」で「ジョブの保留」をオンにし、8 桁までの暗証番号を入力します。プリンターで暗証番号が入力されるまで、ジョブはプリンター内で待機します。「印刷後に保留」では、印刷した後もジョブが残ります。「試し印刷」では 1 部だけを印刷し、残りを保留します。</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
+        <translation>印刷するユーザーの指定が必要なプリンターがあります。「ユーザーとアカウント」で、ユーザー番号、またはログイン名とパスワードを入力します。</translation>
+    </message>
+    <message>
+        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>「文書の保存先」で「カスタムフォルダー」を選び、フォルダーの名前を入力します。「フォルダー名を取得」を押すと、プリンターのフォルダーが取得され、一覧から選べるようになります。</translation>
     </message>
 </context>
 <context>

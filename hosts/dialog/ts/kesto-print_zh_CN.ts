@@ -12,10 +12,6 @@
         <translation>作业不会保留在打印机上。请先开启“保留作业”。</translation>
     </message>
     <message>
-        <source>Only a custom folder needs a name. Choose Custom Folder first.</source>
-        <translation>只有自定义文件夹才需要名称。请先选择“自定义文件夹”。</translation>
-    </message>
-    <message>
         <source>Only a custom folder or a protected folder has a pass code.</source>
         <translation>只有自定义文件夹或受保护的文件夹才有 PIN 码。</translation>
     </message>
@@ -26,6 +22,10 @@
     <message>
         <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
         <translation>此内容已锁定，并为此打印机记住。要更改，请打开挂锁。</translation>
+    </message>
+    <message>
+        <source>Only a custom folder needs a name. Choose Custom folder first.</source>
+        <translation>只有自定义文件夹才需要名称。请先选择“自定义文件夹”。</translation>
     </message>
 </context>
 <context>
@@ -86,14 +86,6 @@
         <translation>使用 PIN 码将作业保留在打印机上</translation>
     </message>
     <message>
-        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold After Print keeps the job after it is printed. Sample Print prints one copy and holds the others.</source>
-        <translation>在“作业处理”下开启“保留作业”，并输入最多 8 位数字的 PIN 码。作业会在打印机中等待，直到有人在打印机上输入该 PIN 码。“打印后保留”会在打印后保留作业。“打印样张”会打印一份，并保留其余各份。</translation>
-    </message>
-    <message>
-        <source>Some printers ask who is printing. Under User and Account, enter your user number, or your login name and password.</source>
-        <translation>有些打印机会要求说明由谁打印。请在“用户和账户”下输入您的用户编号，或者登录名和密码。</translation>
-    </message>
-    <message>
         <source>Use an entry again</source>
         <translation>再次使用输入的内容</translation>
     </message>
@@ -104,10 +96,6 @@
     <message>
         <source>Choose a folder on the printer</source>
         <translation>选择打印机上的文件夹</translation>
-    </message>
-    <message>
-        <source>Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>在“文档归档”下选择“自定义文件夹”，然后输入文件夹的名称。“获取文件夹名称”会向打印机查询其文件夹，以便您从列表中选择。</translation>
     </message>
     <message>
         <source>Save your settings as a preset</source>
@@ -140,6 +128,18 @@
     <message>
         <source>Alt and an underlined letter go to a control; Alt, Shift and the letter go to the padlock next to it. Enter prints, Escape cancels, and F1 opens this help. Ctrl+R shows the digits of a pass code while the cursor is in it.</source>
         <translation>Alt 加带下划线的字母会跳到相应的控件；Alt、Shift 加该字母会跳到其旁边的挂锁。Enter 打印，Esc 取消，F1 打开此帮助。光标位于 PIN 码中时，Ctrl+R 会显示其数字。</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold after printing keeps the job after it is printed. Sample print prints one copy and holds the others.</source>
+        <translation>在“作业处理”下开启“保留作业”，并输入最多 8 位数字的 PIN 码。作业会在打印机中等待，直到有人在打印机上输入该 PIN 码。“打印后保留”会在打印后保留作业。“打印样张”会打印一份，并保留其余各份。</translation>
+    </message>
+    <message>
+        <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
+        <translation>有些打印机会要求说明由谁打印。请在“用户和账户”下输入您的用户编号，或者登录名和密码。</translation>
+    </message>
+    <message>
+        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>在“文档归档”下选择“自定义文件夹”，然后输入文件夹的名称。“获取文件夹名称”会向打印机查询其文件夹，以便您从列表中选择。</translation>
     </message>
 </context>
 <context>

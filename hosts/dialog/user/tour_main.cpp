@@ -45,11 +45,11 @@ Outcome takeTour(PrintDialog& dialog, const QString& passCode, const QString& fo
            [&] {
              return DialogUser::waitUntil([&] { return isReady(dialog); }, QStringLiteral("the queue"));
            }},
-      Step{"chooses User Number", [&] { return user.click(QStringLiteral("userNumberRadioButton")); }},
+      Step{"chooses User number", [&] { return user.click(QStringLiteral("userNumberRadioButton")); }},
       Step{"types the user number 42",
            [&] { return user.type(QStringLiteral("userNumberEditText"), QStringLiteral("42")); }},
       Step{"turns Retention on", [&] { return user.click(QStringLiteral("retentionCheckBox")); }},
-      Step{"chooses Hold After Print", [&] { return user.click(QStringLiteral("holdAfterRadioButton")); }},
+      Step{"chooses Hold after printing", [&] { return user.click(QStringLiteral("holdAfterRadioButton")); }},
       Step{"types a pass code", [&] { return user.type(QStringLiteral("suspendKeyEditText"), passCode); }},
       Step{"types the printer's address",
            [&] { return user.replace(QStringLiteral("printersAddressEditText"), folders); }},

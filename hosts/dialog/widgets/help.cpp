@@ -38,11 +38,12 @@ constexpr std::array topics{
           QT_TRANSLATE_NOOP(
               "Help",
               "Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits "
-              "in the printer until someone enters the pass code there. Hold After Print keeps the job after "
-              "it is printed. Sample Print prints one copy and holds the others.")},
+              "in the printer until someone enters the pass code there. Hold after printing keeps the job "
+              "after "
+              "it is printed. Sample print prints one copy and holds the others.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Say who you are"),
           QT_TRANSLATE_NOOP("Help",
-                            "Some printers ask who is printing. Under User and Account, enter your user "
+                            "Some printers ask who is printing. Under User and account, enter your user "
                             "number, or your login name and password.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Use an entry again"),
           QT_TRANSLATE_NOOP("Help",
@@ -51,7 +52,7 @@ constexpr std::array topics{
     Topic{QT_TRANSLATE_NOOP("Help", "Choose a folder on the printer"),
           QT_TRANSLATE_NOOP(
               "Help",
-              "Under Document Filing, choose Custom Folder and enter the name of a folder. Get Folder Names "
+              "Under Document filing, choose Custom folder and enter the name of a folder. Get folder names "
               "asks the printer for its folders, so that you can choose one from the list.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Save your settings as a preset"),
           QT_TRANSLATE_NOOP("Help",
