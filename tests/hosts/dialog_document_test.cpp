@@ -13,6 +13,7 @@
 #include <QtWidgets/QSpinBox>
 
 #include "hosts/cups/option_array.h"
+#include "hosts/dialog/pdf_saving.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/session/page_range.h"
 #include "tests/support/dialog_printer.h"
@@ -152,6 +153,32 @@ TEST_F(DialogDocument, AFileTakesThePlaceOfADocumentThatIsStillRead) {
     EXPECT_EQ(m_document.state(), State::Ready);
     EXPECT_EQ(bytes(), pdfDocument());
   }
+}
+
+TEST_F(DialogDocument, APdfFileIsSavedWholeOrNotAtAll) {
+  PdfSaving saving;
+  std::optional<QString> end;
+  QObject::connect(&saving, &PdfSaving::saved, [&] { end = u"saved"_s; });
+  QObject::connect(&saving, &PdfSaving::failed, [&](const QString& reason) { end = reason; });
+  const auto save = [&](const QString& target) {
+    end.reset();
+    saving.save({.files = {QStringLiteral(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")},
+                 .pages = {{0, 2}, {0, 1}, {0, 0}, {0, 2}}},
+                target);
+    waitFor([&] { return end.has_value(); });
+    return *end;
+  };
+  EXPECT_EQ(save(m_folder.path(u"saved.pdf"_s)), u"saved"_s);
+  EXPECT_TRUE(bytesOf(m_folder.path(u"saved.pdf"_s)).contains("%%EOF"));
+  EXPECT_EQ(save(u"/proc/saved.pdf"_s), u"/proc/saved.pdf cannot be saved. No such file or directory."_s);
+  if (::unshare(CLONE_NEWNS) != 0) GTEST_SKIP() << "only root can fill a folder";
+  ASSERT_EQ(::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
+  ASSERT_EQ(::mount("none", path(u""_s).constData(), "tmpfs", 0, "size=4k"), 0);
+  m_folder.write(u"saved.pdf"_s, "before");
+  EXPECT_TRUE(save(m_folder.path(u"saved.pdf"_s))
+                  .endsWith(u"saved.pdf cannot be saved. There is not enough space."_s));
+  EXPECT_EQ(bytesOf(m_folder.path(u"saved.pdf"_s)), "before");
+  ::umount(path(u""_s).constData());
 }
 
 TEST(DialogPages, AreRangesInRisingOrderThatDoNotOverlap) {
