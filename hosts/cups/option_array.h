@@ -6,6 +6,7 @@
 #include <QtCore/QMap>
 #include <QtCore/QString>
 #include <initializer_list>
+#include <utility>
 
 namespace kesto {
 
@@ -29,6 +30,12 @@ class OptionArray {
   void add(const char* name, const char* value) { m_count = cupsAddOption(name, value, m_count, &m_options); }
   void add(const QMap<QString, QString>& options);
   void parse(const char* text) { m_count = cupsParseOptions(text, m_count, &m_options); }
+  /// Takes the options over that a call of libcups gives back, and their count.
+  template <class Call>
+  void take(Call call) {
+    cupsFreeOptions(std::exchange(m_count, 0), std::exchange(m_options, nullptr));
+    m_count = call(&m_options);
+  }
   bool has(const char* name) const { return value(name) != nullptr; }
   /// Null when there is none of this name.
   const char* value(const char* name) const { return cupsGetOption(name, m_count, m_options); }

@@ -2,11 +2,12 @@
 
 #include <cups/pwg.h>
 
-#include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
 #include <algorithm>
 #include <cmath>
 #include <span>
+
+#include "hosts/cups/option_array.h"
 
 namespace kesto {
 namespace {
@@ -15,6 +16,33 @@ const QString pageSize = QStringLiteral("PageSize");
 // The greatest difference of paper lengths that count as equal, in points.
 constexpr float sizeTolerance = 2;
 constexpr double pointsPerUnit = 72.0 / 2540;  // libcups's units are hundredths of a millimetre
+
+constexpr double millimetresPerPoint = 25.4 / 72;
+
+double pointsOf(const QString& unit) {
+  static const QMap<QString, double> points{
+      {QStringLiteral("pt"), 1},         {QStringLiteral("in"), 72},
+      {QStringLiteral("ft"), 864},       {QStringLiteral("mm"), 72 / 25.4},
+      {QStringLiteral("cm"), 72 / 2.54}, {QStringLiteral("m"), 72 / 0.0254}};
+  return points.value(unit);
+}
+
+std::span<const ppd_choice_t> choicesOf(const ppd_option_t& option) {
+  return {option.choices, static_cast<std::size_t>(option.num_choices)};
+}
+
+// It needs a value from the user, for which a list has no field.
+bool isCustomChoice(const ppd_choice_t& choice) {
+  return QByteArrayView(choice.choice) == "Custom";
+}
+
+// With those of the groups within.
+void addOptions(const ppd_group_t& group, QStringList* options) {
+  for (const ppd_option_t& each : std::span(group.options, static_cast<std::size_t>(group.num_options)))
+    options->append(QString::fromUtf8(each.keyword));
+  for (const ppd_group_t& each : std::span(group.subgroups, static_cast<std::size_t>(group.num_subgroups)))
+    addOptions(each, options);
+}
 
 bool isAbout(float one, double other) {
   return std::abs(one - other) <= sizeTolerance;
@@ -60,6 +88,25 @@ bool PpdChoices::isIn(const QLocale& language) const {
       names, [&](const QString& each) { return QLocale(each).language() == language.language(); });
 }
 
+std::optional<CustomLimits> PpdChoices::customLimits() const {
+  if (m_ppd == nullptr || m_ppd->variable_sizes == 0 || !takesCustom(pageSize)) return {};
+  return CustomLimits{.leastWidth = m_ppd->custom_min[0] * millimetresPerPoint,
+                      .mostWidth = m_ppd->custom_max[0] * millimetresPerPoint,
+                      .leastHeight = m_ppd->custom_min[1] * millimetresPerPoint,
+                      .mostHeight = m_ppd->custom_max[1] * millimetresPerPoint};
+}
+
+std::vector<PpdGroup> PpdChoices::groups() const {
+  std::vector<PpdGroup> groups;
+  if (m_ppd == nullptr) return groups;
+  for (const ppd_group_t& group : std::span(m_ppd->groups, static_cast<std::size_t>(m_ppd->num_groups))) {
+    if (QByteArrayView(group.name).startsWith("InstallableOptions")) continue;
+    groups.push_back({QString::fromUtf8(group.text), {}});
+    addOptions(group, &groups.back().options);
+  }
+  return groups;
+}
+
 QString PpdChoices::text(const QString& option) const {
   const ppd_option_t* found = find(option);
   return found == nullptr ? QString() : QString::fromUtf8(found->text);
@@ -70,12 +117,18 @@ std::vector<OptionChoice> PpdChoices::choices(const QString& option) const {
   const ppd_option_t* found = find(option);
   if (found == nullptr) return choices;
   const bool isCustom = takesCustom(option);
-  for (const ppd_choice_t& each : std::span(found->choices, static_cast<std::size_t>(found->num_choices))) {
-    // It needs a value from the user, for which a list has no field.
-    if (isCustom && QByteArrayView(each.choice) == "Custom") continue;
+  for (const ppd_choice_t& each : choicesOf(*found)) {
+    if (isCustom && isCustomChoice(each)) continue;
     choices.push_back({QString::fromUtf8(each.choice), QString::fromUtf8(each.text)});
   }
   return choices;
+}
+
+int PpdChoices::choiceCount(const QString& option) const {
+  const ppd_option_t* found = find(option);
+  if (found == nullptr) return 0;
+  const bool hasCustom = takesCustom(option) && std::ranges::any_of(choicesOf(*found), isCustomChoice);
+  return found->num_choices - (hasCustom ? 1 : 0);
 }
 
 QString PpdChoices::defaultOf(const QString& option) const {
@@ -102,26 +155,23 @@ QString PpdChoices::choiceOfSize(const char* name, double width, double length) 
 
 // A custom size, if the printer accepts one.
 QString PpdChoices::customPaper(double width, double length, const QString& choice) const {
+  constexpr double sliver = 0.01;  // what millimetres lose on their way
   const auto fits = [&](int side, double value) {
-    return value > 0 && value >= m_ppd->custom_min[side] &&
-           (m_ppd->custom_max[side] <= 0 || value <= m_ppd->custom_max[side]);
+    return value > 0 && value >= m_ppd->custom_min[side] - sliver &&
+           (m_ppd->custom_max[side] <= 0 || value <= m_ppd->custom_max[side] + sliver);
   };
   return m_ppd->variable_sizes != 0 && fits(0, width) && fits(1, length) ? choice : QString();
 }
 
 QString PpdChoices::paperChoice(const QString& name) const {
-  static const QMap<QString, double> points{
-      {QStringLiteral("pt"), 1},         {QStringLiteral("in"), 72},
-      {QStringLiteral("ft"), 864},       {QStringLiteral("mm"), 72 / 25.4},
-      {QStringLiteral("cm"), 72 / 2.54}, {QStringLiteral("m"), 72 / 0.0254}};
   if (m_ppd == nullptr) return {};
   const auto isName = [&](const QString& each) { return each.compare(name, Qt::CaseInsensitive) == 0; };
   if (QString choice = findChoice(pageSize, isName); !choice.isNull()) return choice;
   if (const std::optional<CustomSize> size = customSizeOf(name)) {
-    const double width = size->width.toDouble() * points.value(size->unit);
-    const double length = size->length.toDouble() * points.value(size->unit);
-    const QString choice = choiceOfSize(nullptr, width, length);
-    return choice.isNull() ? customPaper(width, length, name) : choice;
+    const auto [width, length] = millimetresOf(*size);
+    const QString choice = choiceOfSize(nullptr, width / millimetresPerPoint, length / millimetresPerPoint);
+    return choice.isNull() ? customPaper(width / millimetresPerPoint, length / millimetresPerPoint, name)
+                           : choice;
   }
   const QByteArray bytes = name.toUtf8();
   const pwg_media_t* media = pwgMediaForPWG(bytes.constData());
@@ -143,27 +193,62 @@ QStringList PpdChoices::conflicts() const {
   QStringList conflicts;
   if (m_ppd == nullptr || ppdConflicts(m_ppd) == 0) return conflicts;
   for (ppd_option_t* each = ppdFirstOption(m_ppd); each != nullptr; each = ppdNextOption(m_ppd)) {
-    if (each->conflicted != 0) conflicts.append(QString::fromUtf8(each->text));
+    if (each->conflicted != 0) conflicts.append(QString::fromUtf8(each->keyword));
   }
   return conflicts;
+}
+
+QString PpdChoices::marked(const QString& option) const {
+  const ppd_choice_t* choice = ppdFindMarkedChoice(m_ppd, option.toUtf8().constData());
+  return choice == nullptr ? QString() : QString::fromUtf8(choice->choice);
+}
+
+QStringList PpdChoices::conflictsWith(const QString& option) const {
+  OptionArray found;
+  found.take([&](cups_option_t** options) {
+    return cupsGetConflicts(m_ppd, option.toUtf8().constData(), marked(option).toUtf8().constData(), options);
+  });
+  return found.all().keys();
+}
+
+QMap<QString, QString> PpdChoices::resolution(const QString& option) const {
+  QStringList choosable;
+  for (const PpdGroup& group : groups())
+    choosable += group.options;
+  OptionArray changes;
+  changes.take([&](cups_option_t** options) {
+    int count = 0;
+    const int isResolved = cupsResolveConflicts(m_ppd, option.toUtf8().constData(),
+                                                marked(option).toUtf8().constData(), &count, options);
+    return isResolved == 0 ? 0 : count;
+  });
+  QMap<QString, QString> resolution = changes.all();
+  resolution.removeIf(
+      [&](const auto& each) { return each.key() == option || each.value() == marked(each.key()); });
+  // What is installed in the printer cannot be chosen.
+  const bool isChoosable =
+      std::ranges::all_of(resolution.keys(), [&](const QString& each) { return choosable.contains(each); });
+  if (!resolution.isEmpty() && isChoosable) return resolution;
+  const QString initial = defaultOf(option);
+  return initial.isNull() || initial == marked(option) ? QMap<QString, QString>()
+                                                       : QMap<QString, QString>{{option, initial}};
 }
 
 std::optional<PpdPaper> PpdChoices::markedPaper() const {
   const ppd_choice_t* choice = m_ppd == nullptr ? nullptr : ppdFindMarkedChoice(m_ppd, "PageSize");
   const ppd_size_t* size = choice == nullptr ? nullptr : ppdPageSize(m_ppd, choice->choice);
   if (size == nullptr) return {};
-  constexpr double perPoint = 25.4 / 72;
   const pwg_media_t* media = pwgMediaForPPD(size->name);
   return PpdPaper{
       .keyword = QString::fromUtf8(size->name),
       .text = QString::fromUtf8(choice->text),
       .standardName = media == nullptr ? QString() : QString::fromUtf8(media->pwg).section(u'_', 0, -2),
-      .width = size->width * perPoint,
-      .height = size->length * perPoint,
-      .left = size->left * perPoint,
-      .right = (size->width - size->right) * perPoint,
-      .top = (size->length - size->top) * perPoint,
-      .bottom = size->bottom * perPoint,
+      .width = size->width * millimetresPerPoint,
+      .height = size->length * millimetresPerPoint,
+      .left = size->left * millimetresPerPoint,
+      .right = (size->width - size->right) * millimetresPerPoint,
+      .top = (size->length - size->top) * millimetresPerPoint,
+      .bottom = size->bottom * millimetresPerPoint,
       .isLandscapeMinus90 = m_ppd->landscape < 0,
       .isReversed = isOrderReversed(m_ppd)};
 }
@@ -179,7 +264,14 @@ std::optional<CustomSize> customSizeOf(const QString& choice) {
 }
 
 QString customChoice(double width, double length) {
-  return QStringLiteral("Custom.%1x%2mm").arg(width, 0, 'f', 2).arg(length, 0, 'f', 2);
+  // Hundredths, as the standard counts them.
+  const auto text = [](double side) { return QString::number(std::round(side * 100) / 100, 'g', 8); };
+  return QStringLiteral("Custom.%1x%2mm").arg(text(width), text(length));
+}
+
+std::pair<double, double> millimetresOf(const CustomSize& size) {
+  const double unit = pointsOf(size.unit) * millimetresPerPoint;
+  return {size.width.toDouble() * unit, size.length.toDouble() * unit};
 }
 
 }  // namespace kesto

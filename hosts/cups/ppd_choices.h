@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QtCore/QLocale>
+#include <QtCore/QMap>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "hosts/cups/ppd_file.h"
@@ -33,6 +35,20 @@ struct PpdPaper {
   bool isReversed = false;          ///< Whether the last page comes first unless a job says otherwise.
 };
 
+/// A part of a PPD's options.
+struct PpdGroup {
+  QString text;  ///< For people.
+  QStringList options;
+};
+
+/// The smallest and the greatest custom paper, in millimetres.
+struct CustomLimits {
+  double leastWidth = 0;
+  double mostWidth = 0;
+  double leastHeight = 0;
+  double mostHeight = 0;
+};
+
 /// The options of a PPD, by their keywords, and which of their values are marked in it. A queue without a PPD
 /// offers none.
 class PpdChoices {
@@ -47,10 +63,16 @@ class PpdChoices {
   bool takesCustom(const QString& option) const;
   /// Whether the texts are in a language, as the PPD says of itself.
   bool isIn(const QLocale& language) const;
+  /// None when the printer takes no custom paper.
+  std::optional<CustomLimits> customLimits() const;
+  /// The groups of options that people choose from, without what is installed in the printer.
+  std::vector<PpdGroup> groups() const;
   /// As the PPD names the option for people; null when there is none.
   QString text(const QString& option) const;
   /// The values of an option, without "Custom", which is not a value by itself.
   std::vector<OptionChoice> choices(const QString& option) const;
+  /// How many these are.
+  int choiceCount(const QString& option) const;
   /// The keyword of a value that `isIt` is true of, null for none.
   template <class Predicate>
   QString findChoice(const QString& option, Predicate isIt) const {
@@ -67,13 +89,19 @@ class PpdChoices {
   QString paperChoice(const QString& name) const;
 
   void mark(const QString& option, const QString& choice);
-  /// The texts of the options whose marked values conflict.
+  /// The options whose marked values the printer cannot do together.
   QStringList conflicts() const;
+  /// Those of them that an option's marked value conflicts with.
+  QStringList conflictsWith(const QString& option) const;
+  /// The choices of other options that let this one keep its marked value, or else its own default; none when
+  /// that is not known.
+  QMap<QString, QString> resolution(const QString& option) const;
   /// The marked paper size; none when the PPD has none.
   std::optional<PpdPaper> markedPaper() const;
 
  private:
   const ppd_option_t* find(const QString& option) const;
+  QString marked(const QString& option) const;
   QString choiceOfSize(const char* name, double width, double length) const;
   QString customPaper(double width, double length, const QString& choice) const;
 
@@ -88,6 +116,8 @@ struct CustomSize {
 };
 /// None when the choice is not such a size.
 std::optional<CustomSize> customSizeOf(const QString& choice);
+/// Width and length.
+std::pair<double, double> millimetresOf(const CustomSize& size);
 
 /// The choice for a size in millimetres.
 QString customChoice(double width, double length);

@@ -9,12 +9,19 @@ namespace kesto {
 namespace {
 
 // The attributes that describe a queue, and the group with the defaults of its jobs.
-constexpr std::array description{"auth-info-required",    "device-uri",
-                                 "job-sheets-default",    "printer-defaults",
-                                 "printer-info",          "printer-is-accepting-jobs",
-                                 "printer-location",      "printer-make-and-model",
-                                 "printer-name",          "printer-state",
-                                 "printer-state-reasons", "printer-type",
+constexpr std::array description{"auth-info-required",
+                                 "device-uri",
+                                 "job-sheets-default",
+                                 "job-sheets-supported",
+                                 "printer-defaults",
+                                 "printer-info",
+                                 "printer-is-accepting-jobs",
+                                 "printer-location",
+                                 "printer-make-and-model",
+                                 "printer-name",
+                                 "printer-state",
+                                 "printer-state-reasons",
+                                 "printer-type",
                                  "printer-uri-supported"};
 constexpr char defaultSuffix[] = "-default";
 

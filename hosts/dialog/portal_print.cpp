@@ -3,7 +3,8 @@
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 
-#include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/panes/option_pane.h"
+#include "hosts/session/job_option_values.h"
 
 namespace kesto {
 namespace {

@@ -4,10 +4,11 @@
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
+#include <algorithm>
 #include <utility>
 
 #include "hosts/dialog/panel/panel_pane.h"
-#include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/panes/summary_pane.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/widgets/dialog_foot.h"
@@ -84,6 +85,8 @@ void PrintDialog::chooseQueue(const QString& name) {
 
 void PrintDialog::leaveQueue() {
   setWindowTitle(tr("Print"));
+  // The next page would be made only to be seen empty.
+  if (m_panes->currentIndex() >= m_optionPanes.size()) m_panes->setCurrentWidget(m_optionPanes.front());
   for (QWidget* pane : {static_cast<QWidget*>(m_panelPane), static_cast<QWidget*>(m_summary)}) {
     if (pane == nullptr) continue;
     m_panes->removeTab(m_panes->indexOf(pane));
@@ -92,7 +95,7 @@ void PrintDialog::leaveQueue() {
   m_panelPane = nullptr;
   m_summary = nullptr;
   m_session.release();
-  m_general->showQueue({});
+  showOffer();
   updateControls();
 }
 
@@ -104,8 +107,7 @@ QString PrintDialog::jobName() const {
 
 void PrintDialog::openQueue(Queue& queue) {
   const Outcome opened = m_session.open(std::move(queue), {.jobName = jobName()});
-  PrintDialogPanel* panel = m_session.panel();
-  m_general->showQueue(panel == nullptr ? QStringList() : panel->supportedPPDOptionKeys());
+  showOffer();
   m_chooser->takeCurrent(m_opening.wanted());
   if (const QStringList& refused = jobOptions().refused(); !refused.isEmpty())
     showMessage(
@@ -193,13 +195,14 @@ void PrintDialog::chooseDocument() {
 void PrintDialog::print() {
   if (!m_foot->printButton().isEnabled()) return;
   showMessage({});
-  if (!m_general->fault().isNull()) {
-    m_panes->setCurrentWidget(m_general);
-    m_general->showFault();
-    showMessage(m_general->fault());
-    m_choiceFault = m_general->fault();
+  if (OptionPane* faulty = faultyPane()) {
+    m_panes->setCurrentWidget(faulty);
+    faulty->showFault();
+    showMessage(faulty->fault());
+    m_choiceFault = faulty->fault();
     return;
   }
+  if (const auto conflict = conflictOf(jobOptions())) return showMessage(conflict->text);
   if (!m_preview->fault().isNull()) {
     showMessage(m_preview->fault());
     return m_unlocking.ask();
@@ -246,7 +249,8 @@ void PrintDialog::updatePreview() {
 void PrintDialog::send() {
   if (m_session.queue() == nullptr) return;  // the user has gone in the meantime
   // The document's pages may have been counted since.
-  if (!m_general->fault().isNull()) return m_sending.fail(m_general->fault());
+  if (const OptionPane* faulty = faultyPane()) return m_sending.fail(faulty->fault());
+  if (const auto conflict = conflictOf(jobOptions())) return m_sending.fail(conflict->text);
   if (m_opening.isPdf()) {
     const QString fault = m_preview->saveFault();
     return fault.isNull() ? m_sending.save(m_preview->pages(), m_target) : m_sending.fail(fault);
@@ -282,11 +286,28 @@ void PrintDialog::showPhase() {
   updateControls();
 }
 
+// The tabs of the panes that have something to choose.
+void PrintDialog::showOffer() {
+  for (OptionPane* pane : m_optionPanes) {
+    pane->showQueue();
+    m_panes->setTabVisible(m_panes->indexOf(pane), pane->hasChoices());
+  }
+}
+
+// Null for none.
+OptionPane* PrintDialog::faultyPane() const {
+  const auto found =
+      std::ranges::find_if(m_optionPanes, [](const OptionPane* pane) { return !pane->fault().isNull(); });
+  return found == m_optionPanes.end() ? nullptr : *found;
+}
+
 // A message about a choice goes, or changes, with what it is about.
 void PrintDialog::updateChoiceFault() {
-  if (m_choiceFault.isNull() || m_choiceFault == m_general->fault()) return;
-  showMessage(m_general->fault());
-  m_choiceFault = m_general->fault();
+  const OptionPane* faulty = faultyPane();
+  const QString fault = faulty == nullptr ? QString() : faulty->fault();
+  if (m_choiceFault.isNull() || m_choiceFault == fault) return;
+  showMessage(fault);
+  m_choiceFault = fault;
 }
 
 void PrintDialog::showMessage(const QString& message) {

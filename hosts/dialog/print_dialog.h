@@ -18,7 +18,7 @@ namespace kesto {
 
 class DialogFoot;
 class DocumentLine;
-class GeneralPane;
+class OptionPane;
 class PanelPane;
 class PresetMenu;
 class Preview;
@@ -50,7 +50,8 @@ class PrintDialog : public QDialog {
   QString queueName() const { return m_opening.wanted(); }
   /// What is chosen of copies, pages and the queue's options.
   JobOptions& jobOptions() { return m_session.options(); }
-  GeneralPane& general() { return *m_general; }
+  /// The pane of copies and pages.
+  OptionPane& general() { return *m_optionPanes.front(); }
 
   /// Goes over to a queue that is open.
   void takeQueue(Queue queue) { m_opening.take(std::move(queue)); }
@@ -93,7 +94,9 @@ class PrintDialog : public QDialog {
   void takeSendFailure(const QString& reason);
   void showPhase();
   void showMessage(const QString& message);
+  OptionPane* faultyPane() const;
   void updateChoiceFault();
+  void showOffer();
   QMap<QString, QString> ofDocument(QMap<QString, QString> options) const;
   void updatePreview();
   void updateControls();
@@ -106,13 +109,13 @@ class PrintDialog : public QDialog {
   PanelSession m_session{m_alerts};
   bool m_isStarted = false;
   QString m_target;       // the file, where none is printed
-  QString m_choiceFault;  // the general pane's, while the message shows it
+  QString m_choiceFault;  // a pane's, while the message shows it
   Preview* m_preview;
   QueueChooser* m_chooser;
   PresetMenu* m_presets = nullptr;
   DocumentLine* m_documentLine = nullptr;
   QTabWidget* m_panes = nullptr;
-  GeneralPane* m_general = nullptr;
+  QList<OptionPane*> m_optionPanes;  // general first
   PanelPane* m_panelPane = nullptr;
   SummaryPane* m_summary = nullptr;
   DialogFoot* m_foot = nullptr;

@@ -8,7 +8,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "hosts/dialog/panel/panel_pane.h"
-#include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/widgets/dialog_foot.h"
@@ -70,9 +70,16 @@ QWidget* PrintDialog::makeHead() {
 
 QWidget* PrintDialog::makePanes() {
   m_panes = new QTabWidget(this);
-  m_general = new GeneralPane(jobOptions(), m_panes);
-  setPlainText(*m_general, tr("General"));
-  m_panes->addTab(m_general, tr("General"));
+  m_panes->setUsesScrollButtons(false);
+  for (const OptionGroup group :
+       {OptionGroup::General, OptionGroup::Layout, OptionGroup::Job, OptionGroup::More}) {
+    auto* pane = new OptionPane(group, jobOptions(), m_panes);
+    setPlainText(*pane, OptionPane::titleOf(group));
+    m_panes->addTab(pane, OptionPane::titleOf(group));
+    connect(pane, &OptionPane::faultChanged, this, &PrintDialog::updateChoiceFault);
+    connect(pane, &OptionPane::made, this, &PrintDialog::giveNames);
+    m_optionPanes.append(pane);
+  }
   return m_panes;
 }
 

@@ -1,7 +1,6 @@
 #include "hosts/session/job_option_table.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QStringList>
 #include <algorithm>
 
 namespace kesto {
@@ -14,93 +13,57 @@ using enum OptionGroup;
 constexpr std::array rows{
     OptionRow{"copies", QT_TRANSLATE_NOOP("JobOptions", "Copies"), {}, Number, General, "1"},
     OptionRow{"collate", QT_TRANSLATE_NOOP("JobOptions", "Collate"), {}, Switch, General, "true", "copies"},
+    OptionRow{"outputorder", QT_TRANSLATE_NOOP("JobOptions", "Reverse"), {}, Switch, General, "normal"},
     OptionRow{"page-ranges", QT_TRANSLATE_NOOP("JobOptions", "Pages"), {}, Pages},
+    OptionRow{"page-set", QT_TRANSLATE_NOOP("JobOptions", "Only print"), {}, Keyword, General, "all"},
     OptionRow{"PageSize", QT_TRANSLATE_NOOP("JobOptions", "Paper size"), {"PageRegion", "media"}},
-    OptionRow{"InputSlot", QT_TRANSLATE_NOOP("JobOptions", "Paper source"), {"media-source"}},
-    OptionRow{"MediaType", QT_TRANSLATE_NOOP("JobOptions", "Paper type"), {"media-type"}},
     OptionRow{"Duplex", QT_TRANSLATE_NOOP("JobOptions", "Two-sided"), {"sides"}},
     OptionRow{"ColorModel", QT_TRANSLATE_NOOP("JobOptions", "Color"), {"print-color-mode"}},
-    OptionRow{"cupsPrintQuality", QT_TRANSLATE_NOOP("JobOptions", "Print quality"), {"print-quality"}},
+    OptionRow{"cupsPrintQuality", QT_TRANSLATE_NOOP("JobOptions", "Quality"), {"print-quality"}},
     OptionRow{"OutputMode", nullptr, {"print-quality"}},  // where a PPD has no cupsPrintQuality
-    OptionRow{
-        "Resolution", QT_TRANSLATE_NOOP("JobOptions", "Resolution"), {"printer-resolution", "resolution"}},
+    OptionRow{"InputSlot", QT_TRANSLATE_NOOP("JobOptions", "Paper source"), {"media-source"}},
+    OptionRow{"MediaType", QT_TRANSLATE_NOOP("JobOptions", "Paper type"), {"media-type"}},
     OptionRow{"OutputBin", QT_TRANSLATE_NOOP("JobOptions", "Output tray"), {"output-bin"}},
     OptionRow{"StapleLocation", QT_TRANSLATE_NOOP("JobOptions", "Staple")},
-    OptionRow{"number-up", QT_TRANSLATE_NOOP("JobOptions", "Pages per sheet"), {}, Text, Layout, "1"},
+    OptionRow{"PunchMedia", QT_TRANSLATE_NOOP("JobOptions", "Punch")},
+    OptionRow{"FoldType", QT_TRANSLATE_NOOP("JobOptions", "Fold")},
+
+    OptionRow{"orientation-requested",
+              QT_TRANSLATE_NOOP("JobOptions", "Orientation"),
+              {"landscape"},
+              Keyword,
+              Layout},
+    OptionRow{"number-up", QT_TRANSLATE_NOOP("JobOptions", "Pages per sheet"), {}, Keyword, Layout, "1"},
+    OptionRow{"Booklet", QT_TRANSLATE_NOOP("JobOptions", "Booklet"), {}, Choice, Layout},
     OptionRow{"number-up-layout",
               QT_TRANSLATE_NOOP("JobOptions", "Page order"),
               {},
-              Text,
+              Keyword,
               Layout,
-              nullptr,
+              "lrtb",
               "number-up"},
-    OptionRow{"scaling", QT_TRANSLATE_NOOP("JobOptions", "Scaling"), {}, Text, Layout, "100"},
-};
+    OptionRow{"page-border", QT_TRANSLATE_NOOP("JobOptions", "Border"), {}, Keyword, Layout, "none"},
+    OptionRow{"print-scaling",
+              QT_TRANSLATE_NOOP("JobOptions", "Scaling"),
+              {"scaling", "fitplot", "fit-to-page"},
+              Scaling,
+              Layout,
+              "auto"},
 
-// A value of the standard, and what PPDs call it; the first that the PPD has is it. Values whose names differ
-// in letter case and signs alone, as "tray-1" and "Tray1" do, need no line.
-struct Value {
-  const char* option = "";
-  const char* standard = "";
-  const char* choices = "";
-  const char* text = nullptr;
-};
+    OptionRow{"job-hold-until", QT_TRANSLATE_NOOP("JobOptions", "Print"), {}, Hold, Job, "no-hold"},
+    OptionRow{"job-priority", QT_TRANSLATE_NOOP("JobOptions", "Priority"), {}, Keyword, Job, "50"},
+    OptionRow{"job-billing", QT_TRANSLATE_NOOP("JobOptions", "Billing information"), {}, Text, Job, ""},
+    OptionRow{"job-sheets", QT_TRANSLATE_NOOP("JobOptions", "Cover sheets"), {}, Covers, Job, "none,none"},
 
-constexpr std::array values{
-    Value{"InputSlot", "auto", "Auto Automatic AutoSelect AutoSource Default"},
-    Value{"InputSlot", "main", "Main Cassette Tray1 Upper"},
-    Value{"InputSlot", "manual", "Manual ManualFeed"},
-    Value{"InputSlot", "by-pass-tray", "ByPassTray Bypass MultiPurpose MPTray Manual"},
-    Value{"InputSlot", "envelope", "Envelope EnvFeeder EnvManual"},
-    Value{"MediaType", "auto", "Auto Any Unspecified"},
-    Value{"MediaType", "stationery", "Stationery Plain PlainPaper Paper"},
-    Value{"MediaType", "stationery-letterhead", "Letterhead"},
-    Value{"MediaType", "stationery-recycled", "Recycled"},
-    Value{"MediaType", "stationery-heavyweight", "Heavy Thick"},
-    Value{"MediaType", "stationery-lightweight", "Light Thin"},
-    Value{"MediaType", "cardstock", "Cardstock Card"},
-    Value{"MediaType", "photographic", "Photo PhotoPaper"},
-    Value{"MediaType", "photographic-glossy", "Glossy GlossyPaper PhotoGlossy"},
-    Value{"Duplex", "one-sided", "None Off False Simplex", QT_TRANSLATE_NOOP("JobOptions", "Off")},
-    Value{"Duplex", "two-sided-long-edge", "DuplexNoTumble", QT_TRANSLATE_NOOP("JobOptions", "Long edge")},
-    Value{"Duplex", "two-sided-short-edge", "DuplexTumble", QT_TRANSLATE_NOOP("JobOptions", "Short edge")},
-    Value{"ColorModel", "monochrome", "Gray Grayscale Mono Monochrome Black KGray"},
-    Value{"ColorModel", "color", "RGB CMYK Color CMY sRGB"},
-    Value{"cupsPrintQuality", "3", "Draft"},
-    Value{"cupsPrintQuality", "4", "Normal"},
-    Value{"cupsPrintQuality", "5", "High"},
-    Value{"OutputMode", "3", "Draft FastDraft Fast EconoMode"},
-    Value{"OutputMode", "draft", "Draft FastDraft Fast EconoMode"},
-    Value{"OutputMode", "4", "Normal Standard"},
-    Value{"OutputMode", "5", "High Best"},
-    Value{"OutputMode", "high", "High Best"},
+    OptionRow{"Resolution",
+              QT_TRANSLATE_NOOP("JobOptions", "Resolution"),
+              {"printer-resolution", "resolution"},
+              Choice,
+              More},
 };
-
-QString plain(const QString& name) {
-  QString letters = name.toLower();
-  return letters.remove(u'-').remove(u'_').remove(u' ');
-}
 
 bool isSame(const QString& name, const char* other) {
   return name.compare(QLatin1String(other), Qt::CaseInsensitive) == 0;
-}
-
-QStringList choicesOf(const Value& value) {
-  return QString::fromLatin1(value.choices).split(u' ');
-}
-
-const Value* valueOfChoice(const QString& option, const QString& choice) {
-  const auto* found = std::ranges::find_if(values, [&](const Value& each) {
-    return option == QLatin1String(each.option) && choicesOf(each).contains(choice);
-  });
-  return found == values.end() ? nullptr : found;
-}
-
-// "600x600dpi" for "600dpi" as well.
-QString bothWays(const QString& resolution) {
-  const QString text = resolution.toLower();
-  const QString number = text.endsWith(u"dpi") ? text.chopped(3) : QString();
-  return number.isEmpty() || number.contains(u'x') ? text : QStringLiteral("%1x%1dpi").arg(number);
 }
 
 }  // namespace
@@ -127,31 +90,9 @@ const OptionRow* rowOf(const QString& name, const PpdChoices& choices) {
   return found;
 }
 
-QString choiceFor(const PpdChoices& choices, const QString& option, const QString& value) {
-  if (option == u"PageSize") return choices.paperChoice(value);
-  const auto find = [&](const QString& wanted, auto form) {
-    return choices.findChoice(option, [&](const QString& each) { return form(each) == form(wanted); });
-  };
-  if (QString choice = find(value, [](const QString& each) { return each; }); !choice.isNull()) return choice;
-  if (option == u"Resolution") return find(value, bothWays);
-  if (QString choice = find(value, plain); !choice.isNull()) return choice;
-  for (const Value& each : values) {
-    if (option != QLatin1String(each.option) || !isSame(value, each.standard)) continue;
-    for (const QString& name : choicesOf(each)) {
-      if (QString choice = find(name, plain); !choice.isNull()) return choice;
-    }
-  }
-  return choices.takesCustom(option) && value.startsWith(u"Custom.") ? value : QString();
-}
-
-QString standardValueOf(const QString& option, const QString& choice) {
-  const Value* found = valueOfChoice(option, choice);
-  return found == nullptr ? QString() : QLatin1String(found->standard);
-}
-
-const char* textOfChoice(const QString& option, const QString& choice) {
-  const Value* found = valueOfChoice(option, choice);
-  return found == nullptr ? nullptr : found->text;
+QString travellingName(const OptionRow& row, const QString& value) {
+  const bool isPercent = row.kind == Scaling && value.toInt() > 0;
+  return QLatin1String(isPercent ? "scaling" : row.key);
 }
 
 }  // namespace kesto

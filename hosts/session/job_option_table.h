@@ -11,18 +11,24 @@ namespace kesto {
 
 /// What an option takes, and so what control it has.
 enum class OptionKind {
-  Choice,  ///< One of the values that the queue offers, by the PPD's keyword.
-  Number,  ///< From `leastNumber` to `mostNumber`.
-  Switch,  ///< "true" or "false".
-  Pages,   ///< Numbers and ranges as the user writes them; null for all pages.
-  Text,    ///< Whatever was given; it has no control.
+  Choice,   ///< One of the values that the queue offers, by the PPD's keyword.
+  Keyword,  ///< One of the standard's values that the table lists.
+  Switch,   ///< The two that the table lists, off and on.
+  Number,   ///< From `leastNumber` to `mostNumber`.
+  Pages,    ///< Numbers and ranges as the user writes them; null for all pages.
+  Scaling,  ///< A keyword, or a percentage from `leastPercent` to `mostPercent`, which travels as "scaling".
+  Hold,     ///< A keyword, or a time of day in UTC.
+  Covers,   ///< The names of a cover sheet before the job and one after it, with a comma.
+  Text,     ///< A line of the user's.
 };
 
 inline constexpr int leastNumber = 1;
 inline constexpr int mostNumber = 9999;
+inline constexpr int leastPercent = 1;
+inline constexpr int mostPercent = 800;
 
-/// Where a dialog shows it.
-enum class OptionGroup { General, Layout };
+/// Where a dialog shows it. The last group also has the PPD's options that no row knows.
+enum class OptionGroup { General, Layout, Job, More };
 
 /// One option. It is the queue's own where the PPD has an option of the key, else one of the job's alone.
 struct OptionRow {
@@ -32,7 +38,7 @@ struct OptionRow {
   OptionKind kind = OptionKind::Choice;
   OptionGroup group = OptionGroup::General;
   const char* initial = nullptr;  ///< What it is when nobody says; null when that is the queue's to know.
-  const char* needs = nullptr;    ///< The option that must not be at its initial value; it travels with that.
+  const char* needs = nullptr;    ///< The option without which, at its initial value, it means nothing.
 };
 
 /// In the order in which they are shown.
@@ -42,13 +48,7 @@ std::span<const OptionRow> optionTable();
 const OptionRow* rowOf(const QString& name, const PpdChoices& choices);
 /// Where a name stands in a row: 0 for the key, -1 for nowhere.
 int rankIn(const OptionRow& row, const QString& name);
-
-/// What the queue calls a value of one of its options: by the PPD's keyword or the standard's name, or a
-/// value of the user's own where the option takes such. Null when it has no such value.
-QString choiceFor(const PpdChoices& choices, const QString& option, const QString& value);
-/// What the standard calls a PPD's choice; null when it has no name for it.
-QString standardValueOf(const QString& option, const QString& choice);
-/// Our own text for a PPD's choice, to be translated as of "JobOptions"; null when the PPD's serves.
-const char* textOfChoice(const QString& option, const QString& choice);
+/// The name under which a value of an option travels.
+QString travellingName(const OptionRow& row, const QString& value);
 
 }  // namespace kesto

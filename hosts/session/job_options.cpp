@@ -6,6 +6,8 @@
 #include "hosts/cups/option_array.h"
 #include "hosts/cups/queue.h"
 #include "hosts/cups/queue_options.h"
+#include "hosts/session/hold_time.h"
+#include "hosts/session/job_option_values.h"
 #include "hosts/session/page_range.h"
 #include "hosts/session/standard_texts.h"
 #include "platform/locale_name.h"
@@ -32,6 +34,8 @@ void JobOptions::openFor(const Queue& queue) {
   m_isInUsersLanguage = m_choices.isIn(userLanguage());
   m_values.clear();  // their names were those of no queue
   given(Source::Kept) = keptOptions(queue);
+  if (queue.destination)
+    m_covers = optionOf(*queue.destination, "job-sheets-supported").split(u',', Qt::SkipEmptyParts);
   resolve();
 }
 
@@ -42,6 +46,8 @@ void JobOptions::close() {
     return m_choices.has(keyOf(each.key(), m_choices));
   });
   m_choices = {};
+  m_ofPanel.clear();
+  m_covers.clear();
   resolve();
 }
 
@@ -52,6 +58,7 @@ void JobOptions::setPageCount(int count) {
 
 void JobOptions::set(Source source, const QMap<QString, QString>& options) {
   given(source).insert(options);
+  if (!options.isEmpty()) m_lastSet = keyOf(options.firstKey(), m_choices);
   resolve();
 }
 
@@ -118,6 +125,14 @@ QString JobOptions::pages() const {
 
 std::vector<OptionChoice> JobOptions::choices(const QString& option) const {
   std::vector<OptionChoice> choices = m_choices.choices(option);
+  const OptionRow* row = rowOf(option, m_choices);
+  if (row != nullptr && row->kind == OptionKind::Covers) {
+    for (const QString& each : m_covers)
+      choices.push_back({each, each});
+  } else if (row != nullptr && row->kind != OptionKind::Choice) {
+    for (const QString& each : listedValues(*row))
+      choices.push_back({each, each});
+  }
   for (OptionChoice& each : choices) {
     if (const QString own = ownText(option, each.keyword, each.text); !own.isNull()) each.text = own;
   }
@@ -132,11 +147,20 @@ QString JobOptions::text(const QString& option) const {
 
 QString JobOptions::ownText(const QString& option, const QString& value, const QString& text) const {
   const OptionRow* row = rowOf(option, m_choices);
-  if (row != nullptr && row->kind == OptionKind::Switch)
-    return value == u"true" ? QCoreApplication::translate("JobOptions", "On")
-                            : QCoreApplication::translate("JobOptions", "Off");
-  if (const char* ours = textOfChoice(option, value); ours != nullptr)
+  const OptionKind kind = row == nullptr ? OptionKind::Choice : row->kind;
+  if (kind == OptionKind::Scaling && value.toInt() > 0)
+    return QCoreApplication::translate("JobOptions", "%1%").arg(value);
+  if (const QTime time = holdTimeFrom(value); kind == OptionKind::Hold && time.isValid())
+    return QCoreApplication::translate("JobOptions", "At %1").arg(shownHoldTime(time));
+  if (kind == OptionKind::Covers && value.contains(u',')) {
+    QStringList covers;
+    for (const QString& each : value.split(u','))
+      covers.append(textOf(option, each));
+    return covers.join(QStringLiteral(", "));
+  }
+  if (const char* ours = textOfValue(option, value); ours != nullptr)
     return QCoreApplication::translate("JobOptions", ours);
+  if (kind != OptionKind::Choice) return {};
   const bool isPpds = !text.isEmpty() && m_isInUsersLanguage && !isStandardText(option, value, text);
   return isPpds ? QString() : standardText(option, value);
 }
@@ -149,13 +173,20 @@ QString JobOptions::textOf(const QString& option, const QString& value) const {
   return value.startsWith(u"Custom.") ? customText(value) : value;
 }
 
+bool JobOptions::isIdle(const QString& option) const {
+  const OptionRow* row = rowOf(option, m_choices);
+  return row != nullptr && row->needs != nullptr && isDefault(QLatin1String(row->needs));
+}
+
 bool JobOptions::travels(const QString& key) const {
   const OptionRow* row = rowOf(key, m_choices);
-  if (row != nullptr && row->needs != nullptr) return !isDefault(QLatin1String(row->needs));
+  if (isIdle(key)) return false;
+  if (row != nullptr && row->kind == OptionKind::Switch && row->needs != nullptr) return true;
   if (!isDefault(key)) return true;
-  // The server may have another default than the PPD.
+  // The server may have another default than the PPD, and cover sheets of its own.
   const auto kept = m_kept.options.find(key);
-  return kept != m_kept.options.end() && (m_choices.has(key) || kept->value != defaultOf(key));
+  const bool isServers = m_choices.has(key) || (row != nullptr && row->kind == OptionKind::Covers);
+  return kept != m_kept.options.end() && (isServers || kept->value != defaultOf(key));
 }
 
 QMap<QString, QString> JobOptions::travelling() const {

@@ -31,6 +31,8 @@ class JobOptions : public QObject {
   /// Lets go of the queue, its presets and what was chosen of its own options. What is chosen for the job
   /// itself, such as the copies, stays, and so does what was given.
   void close();
+  /// Leaves options of the queue to its panel; no pane offers them.
+  void leaveToPanel(const QStringList& options) { m_ofPanel = options; }
   /// The pages of the document, 0 when that is not known: no others travel.
   void setPageCount(int count);
   int pageCount() const { return m_pageCount; }
@@ -54,13 +56,20 @@ class JobOptions : public QObject {
   /// The pages as they travel; null for all.
   QString pages() const;
 
-  /// The values that a list offers; a size of the user's own is none of them.
+  /// The values that a list offers; a size, time or percentage of the user's own is none of them.
   std::vector<OptionChoice> choices(const QString& option) const;
+  bool isOfQueue(const QString& option) const { return m_choices.has(option); }
+  bool isLeftToPanel(const QString& option) const { return m_ofPanel.contains(option); }
+  /// Whether the option that this one needs is at its initial value.
+  bool isIdle(const QString& option) const;
+  const PpdChoices& ofQueue() const { return m_choices; }
   /// The option's label, and a value in words.
   QString text(const QString& option) const;
   QString textOf(const QString& option, const QString& value) const;
-  /// The names of the options whose values the printer cannot do together.
+  /// The options whose values the printer cannot do together (`option_conflict.h` has the words).
   const QStringList& conflicts() const { return m_conflicts; }
+  /// The option that was set last.
+  const QString& lastSet() const { return m_lastSet; }
   /// None when the PPD names none.
   std::optional<PpdPaper> paper() const { return m_choices.markedPaper(); }
 
@@ -108,6 +117,9 @@ class JobOptions : public QObject {
   ResolvedOptions m_kept;
   QStringList m_refused;
   QStringList m_conflicts;
+  QString m_lastSet;
+  QStringList m_ofPanel;
+  QStringList m_covers;  // those that the server has
   int m_pageCount = 0;
 };
 

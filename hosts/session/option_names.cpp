@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "hosts/cups/option_array.h"
+#include "hosts/session/job_option_values.h"
 
 namespace kesto {
 namespace {
@@ -75,19 +76,6 @@ std::vector<Given> takeApart(const QMap<QString, QString>& options, const PpdCho
   return given;
 }
 
-// A value of one of the job's own options in its one form; null for none.
-QString valueOfKind(OptionKind kind, const QString& value) {
-  static const QStringList on{QStringLiteral("true"), QStringLiteral("on"), QStringLiteral("yes")};
-  static const QStringList off{QStringLiteral("false"), QStringLiteral("off"), QStringLiteral("no")};
-  if (kind == OptionKind::Number) {
-    const int number = value.toInt();
-    return number >= leastNumber && number <= mostNumber ? QString::number(number) : QString();
-  }
-  if (kind != OptionKind::Switch) return value;
-  if (on.contains(value.toLower())) return on.first();
-  return off.contains(value.toLower()) ? off.first() : QString();
-}
-
 }  // namespace
 
 QString keyOf(const QString& name, const PpdChoices& choices) {
@@ -107,12 +95,14 @@ ResolvedOptions resolveOptions(const QMap<QString, QString>& given, const PpdCho
     if (isOfQueue)
       value = choiceFor(choices, key, value);
     else if (isOfJob)
-      value = valueOfKind(row->kind, value);
+      value = valueFor(*row, value);
     // All pages are a value, too.
     if (value.isNull() && !each.value.isNull()) {
       resolved.refused.append(each.words);
     } else {
-      resolved.options.insert(key, {isOfQueue || isOfJob ? key : each.name, value});
+      QString name = isOfQueue ? key : each.name;
+      if (isOfJob && !isOfQueue) name = travellingName(*row, value);
+      resolved.options.insert(key, {name, value});
     }
   }
   resolved.refused.removeDuplicates();

@@ -29,6 +29,7 @@ Outcome PanelSession::openPanel(const PanelStart& start) {
   m_host->session.currentPrinter = Printer{.id = m_queue->id, .deviceUri = m_queue->deviceUri};
   m_host->settings.emplace().setJobName(start.jobName);
   if (Outcome opened = m_host->openShownPanel(*m_plugIn); !opened) return opened;
+  m_options.leaveToPanel(panel()->supportedPPDOptionKeys());
   m_presets.emplace(m_platform->userDefaults(), m_queue->id);
   if (start.preset) {
     Preset preset;

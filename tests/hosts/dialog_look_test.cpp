@@ -187,8 +187,13 @@ class DialogLook : public testing::Test {
     auto* outer =
         qobject_cast<QTabWidget*>(m_dialog->findChild<PanelPane*>()->parentWidget()->parentWidget());
     ASSERT_NE(outer, nullptr);
-    for (const auto& [pane, page, name] :
-         {std::tuple(0, 0, "general"), {1, 0, "storage"}, {1, 1, "account"}, {2, 0, "summary"}}) {
+    for (const auto& [pane, page, name] : {std::tuple(0, 0, "general"),
+                                           {1, 0, "layout"},
+                                           {2, 0, "job"},
+                                           {3, 0, "more"},
+                                           {4, 0, "storage"},
+                                           {4, 1, "account"},
+                                           {5, 0, "summary"}}) {
       outer->setCurrentIndex(pane);
       inner->setCurrentIndex(page);
       QCoreApplication::processEvents();

@@ -3,10 +3,12 @@
 
 #include <QtWidgets/QSpinBox>
 #include <array>
+#include <ctime>
 
-#include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/panes/option_pane.h"
 #include "tests/support/dialog_printer.h"
 #include "tests/support/dialog_support.h"
+#include "tests/support/more_choices.h"
 
 namespace kesto::test {
 namespace {
@@ -63,6 +65,105 @@ TEST_F(DialogPrint, WhatIsShownIsWhatTravels) {
   EXPECT_EQ(
       text(u"message"_s),
       u"This printer does not support PageSize=Custom, collate=?. The job will be printed without it."_s);
+}
+
+// A user sets a control: "#2" chooses an item of a list, other texts are typed, and "" is a click.
+void setControl(PrintDialog& dialog, const QString& pane, const QString& control, const QString& value) {
+  SCOPED_TRACE(control.toStdString());
+  DialogUser user(dialog);
+  QWidget* shown = nullptr;
+  Outcome done = user.turnTo(pane, &shown);
+  if (done && value.isEmpty())
+    done = user.click(control);
+  else if (done)
+    done =
+        value.startsWith(u'#') ? user.choose(control, value.sliced(1).toInt()) : user.replace(control, value);
+  EXPECT_TRUE(done) << done.reason();
+}
+
+TEST_F(DialogPrint, EachOptionArrivesAsItsControlHasIt) {
+  qputenv("TZ", "Asia/Kolkata");
+  ::tzset();
+  startPrinter();
+  changePpd(u"Office_MFP"_s, fewChoices, moreChoices);
+  const QString pdf = QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf");
+  const struct {
+    int job;
+    Text pane, control, value;
+    Text attribute = "";  // empty where the next row completes the value
+    Text arrives = "";
+  } rows[] = {
+      {1, "general", "copies", "3", "copies", "3"},
+      {1, "general", "collate", "", "collate", "false"},
+      {1, "general", "outputorder", "", "outputorder", "reverse"},
+      {1, "general", "pages", "2-12", "page-ranges", "2-3"},
+      {1, "general", "page-set", "#1", "page-set", "odd"},
+      {1, "general", "PageSize", "#5"},
+      {1, "general", "paperWidth", "100"},
+      {1, "general", "paperHeight", "150.5", "PageSize", "Custom.100x150.5mm"},
+      {1, "general", "Duplex", "#1", "Duplex", "DuplexNoTumble"},
+      {1, "general", "OutputMode", "#1", "OutputMode", "Best"},
+      {1, "general", "InputSlot", "#1", "InputSlot", "Tray2"},
+      {1, "general", "MediaType", "#2", "MediaType", "Thick"},
+      {1, "layout", "orientation-requested", "#3", "orientation-requested", "reverse-landscape"},
+      {1, "layout", "number-up", "#2", "number-up", "4"},
+      {1, "layout", "number-up-layout", "#5", "number-up-layout", "tbrl"},
+      {1, "layout", "page-border", "#3", "page-border", "double"},
+      {1, "layout", "print-scaling", "#4"},
+      {1, "layout", "percent", "75", "scaling", "75"},
+      {1, "job", "job-hold-until", "#1"},
+      {1, "job", "holdTime", "14:30", "job-hold-until", "09:00:00"},
+      {1, "job", "job-priority", "#2", "job-priority", "80"},
+      {1, "job", "job-billing", "Q2-17", "job-billing", "Q2-17"},
+      {1, "job", "job-sheets0", "#1"},
+      {1, "job", "job-sheets1", "#2", "job-sheets", "classified,confidential"},
+      {1, "more", "Resolution", "#1", "Resolution", "1200dpi"},
+      {1, "more", "TonerSave", "#1", "TonerSave", "true"},
+      {2, "general", "page-set", "#2", "page-set", "even"},
+      {2, "general", "OutputBin", "#1", "OutputBin", "FaceDown"},
+      {2, "layout", "number-up", "#6", "Booklet", "true"},
+      {2, "layout", "print-scaling", "#1", "print-scaling", "fit"},
+      {2, "job", "job-hold-until", "#2", "job-hold-until", "indefinite"},
+  };
+  for (const int job : {1, 2}) {
+    openReady({pdf});
+    for (const auto& row : rows) {
+      if (row.job == job) setControl(*m_dialog, row.pane, row.control, row.value);
+    }
+    click(u"print"_s);
+    await([this] { return m_dialog->job() > 0; }, u"the job"_s);
+    for (const auto& row : rows) {
+      if (row.job != job || row.attribute.isEmpty()) continue;
+      EXPECT_EQ(attributeOfJob(m_options.server, job, qPrintable(row.attribute)), row.arrives)
+          << row.attribute;
+    }
+  }
+  EXPECT_EQ(attributeOfJob(m_options.server, 2, "Duplex"), u"DuplexTumble"_s) << "of a booklet";
+}
+
+TEST_F(DialogPrint, AnEntryThatIsNoneIsMarkedWithWhatWouldDo) {
+  startPrinter();
+  changePpd(u"Office_MFP"_s, fewChoices, moreChoices);
+  openReady();
+  const struct {
+    Text pane, list, item, field, bad, fault, good;
+  } cases[] = {
+      {"general", "PageSize", "#5", "paperWidth", "9", "Enter a width between 70.6 and 317.5 mm.", "100"},
+      {"layout", "print-scaling", "#4", "percent", "0", "Enter a percentage between 1 and 800.", "75 %"},
+      {"job", "job-hold-until", "#1", "holdTime", "25:00", "Enter a time of day, for example 14:30.", "9:05"},
+  };
+  for (const auto& [pane, list, item, field, bad, fault, good] : cases) {
+    setControl(*m_dialog, pane, list, item);
+    setControl(*m_dialog, pane, field, bad);
+    setControl(*m_dialog, u"job"_s, u"job-priority"_s, u"#1"_s);
+    click(u"print"_s);
+    EXPECT_EQ(text(u"message"_s), fault);
+    EXPECT_EQ(m_dialog->focusWidget()->objectName(), field);
+    EXPECT_EQ(widget<QLineEdit>(field)->text(), bad);
+    EXPECT_EQ(widget<QLineEdit>(field)->accessibleDescription(), fault);
+    setControl(*m_dialog, pane, field, good);
+    EXPECT_EQ(text(u"message"_s) + widget<QLineEdit>(field)->accessibleDescription(), u""_s);
+  }
 }
 
 TEST_F(DialogPrint, PagesThatTheDocumentHasNotAreNotPrinted) {

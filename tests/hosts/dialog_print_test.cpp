@@ -8,7 +8,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTextBrowser>
 
-#include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/widgets/password_dialog.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "tests/support/dialog_printer.h"

@@ -3,39 +3,13 @@
 
 #include "hosts/cups/option_array.h"
 #include "hosts/cups/queue.h"
+#include "hosts/session/option_conflict.h"
+#include "hosts/session/option_offer.h"
 #include "tests/support/demo_process.h"
+#include "tests/support/more_choices.h"
 
 namespace kesto::test {
 namespace {
-
-// What a PPD of a printer with more choices has beside the demo printer's.
-const QByteArray moreChoices = R"(*VariablePaperSize: True
-*MaxMediaWidth: "900"
-*MaxMediaHeight: "1300"
-*HWMargins: 12 12 12 12
-*NonUIOrderDependency: 20 AnySetup *CustomPageSize
-*CustomPageSize True: "pop pop pop pop pop"
-*ParamCustomPageSize Width: 1 points 200 900
-*ParamCustomPageSize Height: 2 points 200 1300
-*ParamCustomPageSize WidthOffset: 3 points 0 0
-*ParamCustomPageSize HeightOffset: 4 points 0 0
-*ParamCustomPageSize Orientation: 5 int 0 3
-*OpenUI *MediaType/Media Type: PickOne
-*DefaultMediaType: Plain
-*MediaType Plain/Plain: ""
-*MediaType Transparency/Transparency: ""
-*CloseUI: *MediaType
-*OpenUI *OutputBin/Output Bin: PickOne
-*DefaultOutputBin: Upper
-*OutputBin Upper/The shelf: ""
-*OutputBin FaceDown/Face Down: ""
-*CloseUI: *OutputBin
-*OpenUI *OutputMode/Quality: PickOne
-*DefaultOutputMode: Normal
-*OutputMode Normal/Normal: ""
-*OutputMode Best/Best: ""
-*CloseUI: *OutputMode
-)";
 
 // A choice as "option=value"; null pages without "=".
 void choose(JobOptions& options, const QString& choice) {
@@ -61,7 +35,7 @@ class OptionsOfAJob : public testing::Test {
         bytesOf(QCoreApplication::applicationDirPath() + u"/../share/kesto/kesto-vq250n.ppd"_s);
     m_folder.write(u"fixed.ppd"_s, description);
     description.replace("*ColorModel Gray", "*ColorModel RGB/Color: \"\"\n*ColorModel Gray");
-    m_folder.write(u"more.ppd"_s, description.replace("*VariablePaperSize: False", moreChoices));
+    m_folder.write(u"more.ppd"_s, description.replace(fewChoices, moreChoices));
   }
   Queue queue(const char* ppd, const char* kept) const {
     Queue queue{.id = u"q"_s};
@@ -102,6 +76,14 @@ TEST_F(OptionsOfAJob, EachIsOneChoiceAndTravelsOnceByItsNameOnTheQueue) {
       {"fixed", "", "OutputBin=Upper output-bin=top", {}, "OutputBin=Upper"},
       {"fixed", "", "number-up=2 print-quality=5", {}, "number-up=2 print-quality=5"},
       {"fixed", "", "number-up=1 number-up-layout=btlr", {}, ""},
+      {"fixed", "", "number-up=2 number-up-layout=lrtb page-border=none", {}, "number-up=2"},
+      {"fixed", "", "scaling=50", {}, "scaling=50"},
+      {"fixed", "", "scaling=50 print-scaling=fill fit-to-page", {}, "print-scaling=fill"},
+      {"fixed", "scaling=50", "", u"print-scaling=fit"_s, "print-scaling=fit"},
+      {"fixed", "", "scaling=900", {}, "", "scaling=900"},
+      {"fixed", "", "landscape outputorder=reverse-order", {}, "orientation-requested=4 outputorder=reverse"},
+      {"fixed", "", "job-hold-until=hold job-priority=33", {}, "job-hold-until=indefinite job-priority=33"},
+      {"fixed", "", "job-sheets=secret job-billing=\"\"", {}, "job-sheets=secret,none"},
       {"fixed", "printer-info=Office job-sheets=none,none", "", {}, "job-sheets=none,none"},
       // Where a value comes from.
       {"fixed", "media=A5", "", {}, "PageSize=A5"},
@@ -193,11 +175,88 @@ TEST_F(OptionsOfAJob, WhatIsOfTheQueueGoesWithIt) {
   QStringList lines;
   for (const auto& [label, value] : options.summary())
     lines += label + u": "_s + value;
-  EXPECT_EQ(lines.join(u' '), u"Copies: 4 Pages: 2 Paper size: Custom 10 x 15 cm Two-sided: Long edge"_s);
+  EXPECT_EQ(lines.join(u' '),
+            u"Copies: 4 Pages: 2 Paper size: Custom 10 x 15 cm Two-sided: Long edge "
+            "Cover sheets: Secret, None"_s);
   options.close();
   options.openFor(second);
   EXPECT_EQ(options.travelling(), parseJobOptions(u"PageSize=A5 page-ranges=2 x=y"_s));
   EXPECT_EQ(options.source(u"media"_s), JobOptions::Source::Given);
+}
+
+TEST_F(OptionsOfAJob, EachGroupOffersWhatTheQueueHasAndSaysWhatIsChosen) {
+  const struct {
+    OptionGroup group;
+    const char* offers;
+    const char* headline;
+    const char* changed;
+  } cases[] = {
+      {OptionGroup::General,
+       "copies collate outputorder page-ranges page-set PageSize Duplex ColorModel OutputMode MediaType "
+       "OutputBin",
+       "1 copy, All pages, A4", "2 copies, Collate: Off, Pages 2-3, A5, Long edge"},
+      {OptionGroup::Layout, "orientation-requested number-up number-up-layout page-border print-scaling",
+       "Automatic", "Automatic, Booklet, 75%"},
+      {OptionGroup::Job, "job-hold-until job-priority job-billing", "Now", "Now, Urgent"},
+      {OptionGroup::More, "Resolution TonerSave", "", "Resolution: 1200 dpi, Save Toner: On"},
+  };
+  const Queue open = queue("more", "");
+  JobOptions options;
+  options.openFor(open);
+  options.leaveToPanel({u"InputSlot"_s});
+  for (const auto& [group, offers, headline, changed] : cases) {
+    QStringList offered;
+    for (const OfferedOption& each : offeredOptions(options, group))
+      offered.append(each.key);
+    EXPECT_EQ(offered.join(u' '), QLatin1String(offers));
+    EXPECT_EQ(headlineOf(options, group).text, QLatin1String(headline));
+    EXPECT_FALSE(headlineOf(options, group).differs);
+  }
+  options.set(JobOptions::Source::Chosen,
+              parseJobOptions(u"copies=2 nocollate page-ranges=2-3 media=A5 Duplex=DuplexNoTumble Booklet "
+                              "scaling=75 job-priority=100 Resolution=1200dpi TonerSave"_s));
+  for (const auto& [group, offers, headline, changed] : cases) {
+    EXPECT_EQ(headlineOf(options, group).text, QLatin1String(changed));
+    EXPECT_TRUE(headlineOf(options, group).differs);
+  }
+}
+
+TEST_F(OptionsOfAJob, AConflictIsSaidAndResolvedForTheLastChoice) {
+  const struct {
+    QStringList chosen;
+    const char* text;
+    const char* remedy;
+    const char* travels;
+  } cases[] = {
+      {{u"Duplex=DuplexTumble"_s, u"MediaType=Transparency"_s},
+       nullptr,
+       nullptr,
+       "Duplex=DuplexTumble MediaType=Transparency"},
+      {{u"Duplex=DuplexNoTumble"_s, u"MediaType=Transparency"_s},
+       "Two-sided printing is not possible on Transparency.",
+       "Turn off two-sided",
+       "MediaType=Transparency"},
+      {{u"MediaType=Transparency"_s, u"Duplex=DuplexNoTumble"_s},
+       "Two-sided printing is not possible on Transparency.",
+       "Set Paper type to Plain",
+       "Duplex=DuplexNoTumble"},
+      {{u"MediaType=Thick"_s, u"OutputBin=FaceDown"_s},
+       "Output tray \"Face down\" is not possible with Paper type \"Heavyweight\".",
+       "Set Paper type to Plain",
+       "OutputBin=FaceDown"},
+  };
+  for (const auto& [chosen, text, remedy, travels] : cases) {
+    const Queue open = queue("more", "");
+    JobOptions options;
+    options.openFor(open);
+    for (const QString& choice : chosen)
+      choose(options, choice);
+    const std::optional<OptionConflict> conflict = conflictOf(options);
+    EXPECT_EQ(conflict ? conflict->text : QString(), QLatin1String(text));
+    EXPECT_EQ(conflict ? conflict->remedy : QString(), QLatin1String(remedy));
+    if (conflict) options.set(JobOptions::Source::Chosen, conflict->changes);
+    EXPECT_EQ(options.travelling(), parseJobOptions(QString::fromLatin1(travels)));
+  }
 }
 
 }  // namespace

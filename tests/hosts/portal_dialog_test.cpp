@@ -1,7 +1,7 @@
 // The dialog of kesto-print --portal: what it says to its service, what ends it, and what is printed then.
 #include <fcntl.h>
 
-#include "hosts/dialog/panes/general_pane.h"
+#include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/portal_print.h"
 #include "tests/support/dialog_printer.h"
 

@@ -225,8 +225,240 @@
         <translation>Kurze Kante</translation>
     </message>
     <message>
-        <source>Print quality</source>
-        <translation>Druckqualität</translation>
+        <source>Reverse</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Only print</source>
+        <translation>Nur drucken</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Abrechnungsinformation</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Deckblätter</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>Ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>Gerade Seiten</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Umgekehrtes Querformat</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Umgekehrtes Hochformat</translation>
+    </message>
+    <message>
+        <source>Left to right, top to bottom</source>
+        <translation>Von links nach rechts, von oben nach unten</translation>
+    </message>
+    <message>
+        <source>Left to right, bottom to top</source>
+        <translation>Von links nach rechts, von unten nach oben</translation>
+    </message>
+    <message>
+        <source>Right to left, top to bottom</source>
+        <translation>Von rechts nach links, von oben nach unten</translation>
+    </message>
+    <message>
+        <source>Right to left, bottom to top</source>
+        <translation>Von rechts nach links, von unten nach oben</translation>
+    </message>
+    <message>
+        <source>Top to bottom, left to right</source>
+        <translation>Von oben nach unten, von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Top to bottom, right to left</source>
+        <translation>Von oben nach unten, von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Bottom to top, left to right</source>
+        <translation>Von unten nach oben, von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Bottom to top, right to left</source>
+        <translation>Von unten nach oben, von rechts nach links</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ohne</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>Einfache Linie</translation>
+    </message>
+    <message>
+        <source>Thick single line</source>
+        <translation>Dicke einfache Linie</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>Doppelte Linie</translation>
+    </message>
+    <message>
+        <source>Thick double line</source>
+        <translation>Dicke doppelte Linie</translation>
+    </message>
+    <message>
+        <source>Fit to paper</source>
+        <translation>An Papier anpassen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Fill paper</source>
+        <translation>Papier füllen</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>Zurückgehalten</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Dringend</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Nicht eingestuft</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Eingestuft</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Vertraulich</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Geheim</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Streng geheim</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>At %1</source>
+        <translation>Um %1</translation>
+    </message>
+    <message>
+        <source>Two-sided printing is not possible on %1.</source>
+        <translation>Beidseitiger Druck ist auf %1 nicht möglich.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not possible with %3 &quot;%4&quot;.</source>
+        <translation>%1 „%2“ ist mit %3 „%4“ nicht möglich.</translation>
+    </message>
+    <message>
+        <source>Turn off two-sided</source>
+        <translation>Beidseitig ausschalten</translation>
+    </message>
+    <message>
+        <source>Set %1 to %2</source>
+        <translation>%1 auf %2 setzen</translation>
+    </message>
+    <message>
+        <source>Pages %1</source>
+        <translation>Seiten %1</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>1 Exemplar</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>%1 Exemplare</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>Geben Sie Seitenzahlen oder Bereiche ein, zum Beispiel 1-3, 5.</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>Das Dokument endet auf Seite %1. Geben Sie Seitenzahlen bis %1 ein.</translation>
     </message>
 </context>
 <context>
@@ -1087,41 +1319,6 @@
     </message>
 </context>
 <context>
-    <name>kesto::GeneralPane</name>
-    <message>
-        <source>All</source>
-        <translation>Alle</translation>
-    </message>
-    <message>
-        <source>These:</source>
-        <translation>Bereich:</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The printer cannot do these together: %1.</source>
-        <translation>Diese Einstellungen kann der Drucker nicht kombinieren: %1.</translation>
-    </message>
-    <message>
-        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
-        <translation>Geben Sie Seitenzahlen oder Bereiche ein, zum Beispiel 1-3, 5.</translation>
-    </message>
-    <message>
-        <source>Pages to print, for example 1-3, 5</source>
-        <translation>Zu druckende Seiten, zum Beispiel 1-3, 5</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Enter page numbers up to %1.</source>
-        <translation>Das Dokument endet auf Seite %1. Geben Sie Seitenzahlen bis %1 ein.</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>Das Dokument endet auf Seite %1. Gedruckt wird: %2.</translation>
-    </message>
-</context>
-<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1340,10 +1537,6 @@
         <translation>Dokument:</translation>
     </message>
     <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Übersicht</translation>
     </message>
@@ -1521,6 +1714,120 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Andere Benutzer können sehen: %1. Um dies zu verbergen, fügen Sie der Richtlinie „%2“ des Druckservers diese Zeilen hinzu:</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>Deckblatt vorher</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>Deckblatt nachher</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>Um</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>Geben Sie eine Uhrzeit ein, zum Beispiel 14:30.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>Ausgewählte Seiten</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>Das Dokument endet auf Seite %1. Gedruckt wird: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>Eigene Größe</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>Geben Sie eine Breite zwischen %1 und %2 %3 ein.</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>Geben Sie eine Höhe zwischen %1 und %2 %3 ein.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>Geben Sie einen Prozentsatz zwischen %1 und %2 ein.</translation>
     </message>
 </context>
 </TS>

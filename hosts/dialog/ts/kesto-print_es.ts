@@ -225,8 +225,240 @@
         <translation>Borde corto</translation>
     </message>
     <message>
-        <source>Print quality</source>
-        <translation>Calidad de impresión</translation>
+        <source>Reverse</source>
+        <translation>Invertir</translation>
+    </message>
+    <message>
+        <source>Only print</source>
+        <translation>Imprimir solo</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforar</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plegar</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientación</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Folleto</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Borde</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Información de facturación</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Portadas</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Todas las páginas</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>Páginas impares</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>Páginas pares</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Horizontal invertida</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Vertical invertida</translation>
+    </message>
+    <message>
+        <source>Left to right, top to bottom</source>
+        <translation>De izquierda a derecha, de arriba abajo</translation>
+    </message>
+    <message>
+        <source>Left to right, bottom to top</source>
+        <translation>De izquierda a derecha, de abajo arriba</translation>
+    </message>
+    <message>
+        <source>Right to left, top to bottom</source>
+        <translation>De derecha a izquierda, de arriba abajo</translation>
+    </message>
+    <message>
+        <source>Right to left, bottom to top</source>
+        <translation>De derecha a izquierda, de abajo arriba</translation>
+    </message>
+    <message>
+        <source>Top to bottom, left to right</source>
+        <translation>De arriba abajo, de izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>Top to bottom, right to left</source>
+        <translation>De arriba abajo, de derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>Bottom to top, left to right</source>
+        <translation>De abajo arriba, de izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>Bottom to top, right to left</source>
+        <translation>De abajo arriba, de derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>Línea simple</translation>
+    </message>
+    <message>
+        <source>Thick single line</source>
+        <translation>Línea simple gruesa</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>Línea doble</translation>
+    </message>
+    <message>
+        <source>Thick double line</source>
+        <translation>Línea doble gruesa</translation>
+    </message>
+    <message>
+        <source>Fit to paper</source>
+        <translation>Ajustar al papel</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>Fill paper</source>
+        <translation>Rellenar el papel</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>En espera</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baja</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Estándar</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Sin clasificar</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Clasificado</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidencial</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secreto</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Alto secreto</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>At %1</source>
+        <translation>A las %1</translation>
+    </message>
+    <message>
+        <source>Two-sided printing is not possible on %1.</source>
+        <translation>No es posible imprimir a doble cara en %1.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not possible with %3 &quot;%4&quot;.</source>
+        <translation>%1 «%2» no es posible con %3 «%4».</translation>
+    </message>
+    <message>
+        <source>Turn off two-sided</source>
+        <translation>Desactivar la doble cara</translation>
+    </message>
+    <message>
+        <source>Set %1 to %2</source>
+        <translation>Cambiar %1 a %2</translation>
+    </message>
+    <message>
+        <source>Pages %1</source>
+        <translation>Páginas %1</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>1 copia</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>%1 copias</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>Escriba números o intervalos de páginas, por ejemplo 1-3, 5.</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>El documento termina en la página %1. Escriba números de página hasta %1.</translation>
     </message>
 </context>
 <context>
@@ -1087,41 +1319,6 @@
     </message>
 </context>
 <context>
-    <name>kesto::GeneralPane</name>
-    <message>
-        <source>All</source>
-        <translation>Todas</translation>
-    </message>
-    <message>
-        <source>These:</source>
-        <translation>Intervalo:</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The printer cannot do these together: %1.</source>
-        <translation>La impresora no puede combinar estos ajustes: %1.</translation>
-    </message>
-    <message>
-        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
-        <translation>Escriba números o intervalos de páginas, por ejemplo 1-3, 5.</translation>
-    </message>
-    <message>
-        <source>Pages to print, for example 1-3, 5</source>
-        <translation>Páginas que imprimir, por ejemplo, 1-3, 5</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Enter page numbers up to %1.</source>
-        <translation>El documento termina en la página %1. Escriba números de página hasta %1.</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>El documento termina en la página %1. Páginas que se imprimirán: %2.</translation>
-    </message>
-</context>
-<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1340,10 +1537,6 @@
         <translation>Documento:</translation>
     </message>
     <message>
-        <source>General</source>
-        <translation>General</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Resumen</translation>
     </message>
@@ -1521,6 +1714,120 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Los demás usuarios pueden ver %1. Para ocultarlo, añada estas líneas a la política «%2» del servidor de impresión:</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>Portada antes</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>Portada después</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>A las</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>Introduzca una hora, por ejemplo 14:30.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Diseño</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>Más opciones</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>Todas las páginas</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>Páginas seleccionadas</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>El documento termina en la página %1. Páginas que se imprimirán: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>Tamaño personalizado</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>Introduzca un ancho entre %1 y %2 %3.</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>Introduzca un alto entre %1 y %2 %3.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>Porcentaje</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizada</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>Introduzca un porcentaje entre %1 y %2.</translation>
     </message>
 </context>
 </TS>

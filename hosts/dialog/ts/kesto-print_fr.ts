@@ -225,8 +225,240 @@
         <translation>Bord court</translation>
     </message>
     <message>
-        <source>Print quality</source>
-        <translation>Qualité d’impression</translation>
+        <source>Reverse</source>
+        <translation>Inverser</translation>
+    </message>
+    <message>
+        <source>Only print</source>
+        <translation>Imprimer seulement</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforation</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Pliage</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Bordure</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorité</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Informations de facturation</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Pages de couverture</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Toutes les pages</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>Pages impaires</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>Pages paires</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Paysage inversé</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Portrait inversé</translation>
+    </message>
+    <message>
+        <source>Left to right, top to bottom</source>
+        <translation>De gauche à droite, de haut en bas</translation>
+    </message>
+    <message>
+        <source>Left to right, bottom to top</source>
+        <translation>De gauche à droite, de bas en haut</translation>
+    </message>
+    <message>
+        <source>Right to left, top to bottom</source>
+        <translation>De droite à gauche, de haut en bas</translation>
+    </message>
+    <message>
+        <source>Right to left, bottom to top</source>
+        <translation>De droite à gauche, de bas en haut</translation>
+    </message>
+    <message>
+        <source>Top to bottom, left to right</source>
+        <translation>De haut en bas, de gauche à droite</translation>
+    </message>
+    <message>
+        <source>Top to bottom, right to left</source>
+        <translation>De haut en bas, de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom to top, left to right</source>
+        <translation>De bas en haut, de gauche à droite</translation>
+    </message>
+    <message>
+        <source>Bottom to top, right to left</source>
+        <translation>De bas en haut, de droite à gauche</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>Ligne simple</translation>
+    </message>
+    <message>
+        <source>Thick single line</source>
+        <translation>Ligne simple épaisse</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>Ligne double</translation>
+    </message>
+    <message>
+        <source>Thick double line</source>
+        <translation>Ligne double épaisse</translation>
+    </message>
+    <message>
+        <source>Fit to paper</source>
+        <translation>Ajuster au papier</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>Fill paper</source>
+        <translation>Remplir le papier</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Basse</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Haute</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Non classifié</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classifié</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidentiel</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Très secret</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>At %1</source>
+        <translation>À %1</translation>
+    </message>
+    <message>
+        <source>Two-sided printing is not possible on %1.</source>
+        <translation>L’impression recto verso n’est pas possible sur %1.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not possible with %3 &quot;%4&quot;.</source>
+        <translation>%1 «&#xa0;%2&#xa0;» n’est pas possible avec %3 «&#xa0;%4&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Turn off two-sided</source>
+        <translation>Désactiver le recto verso</translation>
+    </message>
+    <message>
+        <source>Set %1 to %2</source>
+        <translation>Régler %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Pages %1</source>
+        <translation>Pages %1</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>1 copie</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>%1 copies</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>Saisissez des numéros ou des plages de pages, par exemple 1-3, 5.</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>Le document se termine à la page %1. Saisissez des numéros de page jusqu’à %1.</translation>
     </message>
 </context>
 <context>
@@ -1087,41 +1319,6 @@
     </message>
 </context>
 <context>
-    <name>kesto::GeneralPane</name>
-    <message>
-        <source>All</source>
-        <translation>Toutes</translation>
-    </message>
-    <message>
-        <source>These:</source>
-        <translation>Plage&#xa0;:</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The printer cannot do these together: %1.</source>
-        <translation>L’imprimante ne peut pas combiner ces réglages&#xa0;: %1.</translation>
-    </message>
-    <message>
-        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
-        <translation>Saisissez des numéros ou des plages de pages, par exemple 1-3, 5.</translation>
-    </message>
-    <message>
-        <source>Pages to print, for example 1-3, 5</source>
-        <translation>Pages à imprimer, par exemple 1-3, 5</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Enter page numbers up to %1.</source>
-        <translation>Le document se termine à la page %1. Saisissez des numéros de page jusqu’à %1.</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>Le document se termine à la page %1. Pages qui seront imprimées&#xa0;: %2.</translation>
-    </message>
-</context>
-<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1340,10 +1537,6 @@
         <translation>Document&#xa0;:</translation>
     </message>
     <message>
-        <source>General</source>
-        <translation>Général</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Résumé</translation>
     </message>
@@ -1521,6 +1714,120 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Les autres utilisateurs peuvent voir %1. Pour le masquer, ajoutez ces lignes à la politique «&#xa0;%2&#xa0;» du serveur d’impression&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>Page de couverture avant</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>Page de couverture après</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>À</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>Saisissez une heure, par exemple 14:30.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Travail</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>Autres options</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrer</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>Toutes les pages</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>Pages sélectionnées</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>Le document se termine à la page %1. Pages qui seront imprimées&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>po</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>Taille personnalisée</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>Saisissez une largeur comprise entre %1 et %2 %3.</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>Saisissez une hauteur comprise entre %1 et %2 %3.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>Pourcentage</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisée</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>Saisissez un pourcentage compris entre %1 et %2.</translation>
     </message>
 </context>
 </TS>

@@ -225,8 +225,240 @@
         <translation>短辺とじ</translation>
     </message>
     <message>
-        <source>Print quality</source>
-        <translation>印刷品質</translation>
+        <source>Reverse</source>
+        <translation>逆順</translation>
+    </message>
+    <message>
+        <source>Only print</source>
+        <translation>印刷対象</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>用紙の向き</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>枠線</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>課金情報</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>表紙</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>すべてのページ</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>奇数ページ</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>偶数ページ</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>横 (逆向き)</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>縦 (逆向き)</translation>
+    </message>
+    <message>
+        <source>Left to right, top to bottom</source>
+        <translation>左から右、上から下</translation>
+    </message>
+    <message>
+        <source>Left to right, bottom to top</source>
+        <translation>左から右、下から上</translation>
+    </message>
+    <message>
+        <source>Right to left, top to bottom</source>
+        <translation>右から左、上から下</translation>
+    </message>
+    <message>
+        <source>Right to left, bottom to top</source>
+        <translation>右から左、下から上</translation>
+    </message>
+    <message>
+        <source>Top to bottom, left to right</source>
+        <translation>上から下、左から右</translation>
+    </message>
+    <message>
+        <source>Top to bottom, right to left</source>
+        <translation>上から下、右から左</translation>
+    </message>
+    <message>
+        <source>Bottom to top, left to right</source>
+        <translation>下から上、左から右</translation>
+    </message>
+    <message>
+        <source>Bottom to top, right to left</source>
+        <translation>下から上、右から左</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>一重線</translation>
+    </message>
+    <message>
+        <source>Thick single line</source>
+        <translation>太い一重線</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>二重線</translation>
+    </message>
+    <message>
+        <source>Thick double line</source>
+        <translation>太い二重線</translation>
+    </message>
+    <message>
+        <source>Fit to paper</source>
+        <translation>用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Fill paper</source>
+        <translation>用紙全体に印刷</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>今すぐ</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>至急</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>機密指定なし</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>機密</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>部外秘</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>極秘</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>最高機密</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>At %1</source>
+        <translation>%1 に印刷</translation>
+    </message>
+    <message>
+        <source>Two-sided printing is not possible on %1.</source>
+        <translation>%1 には両面印刷できません。</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not possible with %3 &quot;%4&quot;.</source>
+        <translation>%1「%2」は %3「%4」と同時に使用できません。</translation>
+    </message>
+    <message>
+        <source>Turn off two-sided</source>
+        <translation>両面印刷を解除</translation>
+    </message>
+    <message>
+        <source>Set %1 to %2</source>
+        <translation>%1 を %2 に変更</translation>
+    </message>
+    <message>
+        <source>Pages %1</source>
+        <translation>%1 ページ</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>1 部</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>%1 部</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>ページ番号または範囲を入力してください (例: 1-3, 5)。</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>文書は %1 ページまでです。%1 までのページ番号を入力してください。</translation>
     </message>
 </context>
 <context>
@@ -1086,41 +1318,6 @@
     </message>
 </context>
 <context>
-    <name>kesto::GeneralPane</name>
-    <message>
-        <source>All</source>
-        <translation>すべて</translation>
-    </message>
-    <message>
-        <source>These:</source>
-        <translation>指定:</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The printer cannot do these together: %1.</source>
-        <translation>プリンターは次の設定を同時に使えません: %1。</translation>
-    </message>
-    <message>
-        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
-        <translation>ページ番号または範囲を入力してください (例: 1-3, 5)。</translation>
-    </message>
-    <message>
-        <source>Pages to print, for example 1-3, 5</source>
-        <translation>印刷するページ (例: 1-3, 5)</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Enter page numbers up to %1.</source>
-        <translation>文書は %1 ページまでです。%1 までのページ番号を入力してください。</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>文書は %1 ページまでです。印刷されるページ: %2。</translation>
-    </message>
-</context>
-<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1339,10 +1536,6 @@
         <translation>文書:</translation>
     </message>
     <message>
-        <source>General</source>
-        <translation>全般</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>概要</translation>
     </message>
@@ -1520,6 +1713,120 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>他のユーザーに見える内容: %1。隠すには、プリントサーバーのポリシー「%2」に次の行を追加してください:</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>前の表紙</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>後の表紙</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>時刻を指定</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>時刻を入力してください (例: 14:30)。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>レイアウト</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>その他のオプション</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>フィルター</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>すべてのページ</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>指定したページ</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>文書は %1 ページまでです。印刷されるページ: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>カスタムサイズ</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>%1 ～ %2 %3 の幅を入力してください。</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>%1 ～ %2 %3 の高さを入力してください。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>パーセント</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>%1 ～ %2 のパーセント値を入力してください。</translation>
     </message>
 </context>
 </TS>

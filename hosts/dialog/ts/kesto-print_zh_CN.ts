@@ -225,8 +225,240 @@
         <translation>短边</translation>
     </message>
     <message>
-        <source>Print quality</source>
-        <translation>打印质量</translation>
+        <source>Reverse</source>
+        <translation>逆序</translation>
+    </message>
+    <message>
+        <source>Only print</source>
+        <translation>仅打印</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>打孔</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小册子</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>边框</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>账单信息</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>封面</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>所有页面</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>奇数页</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>偶数页</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>反向横向</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>反向纵向</translation>
+    </message>
+    <message>
+        <source>Left to right, top to bottom</source>
+        <translation>从左到右，从上到下</translation>
+    </message>
+    <message>
+        <source>Left to right, bottom to top</source>
+        <translation>从左到右，从下到上</translation>
+    </message>
+    <message>
+        <source>Right to left, top to bottom</source>
+        <translation>从右到左，从上到下</translation>
+    </message>
+    <message>
+        <source>Right to left, bottom to top</source>
+        <translation>从右到左，从下到上</translation>
+    </message>
+    <message>
+        <source>Top to bottom, left to right</source>
+        <translation>从上到下，从左到右</translation>
+    </message>
+    <message>
+        <source>Top to bottom, right to left</source>
+        <translation>从上到下，从右到左</translation>
+    </message>
+    <message>
+        <source>Bottom to top, left to right</source>
+        <translation>从下到上，从左到右</translation>
+    </message>
+    <message>
+        <source>Bottom to top, right to left</source>
+        <translation>从下到上，从右到左</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>单线</translation>
+    </message>
+    <message>
+        <source>Thick single line</source>
+        <translation>粗单线</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>双线</translation>
+    </message>
+    <message>
+        <source>Thick double line</source>
+        <translation>粗双线</translation>
+    </message>
+    <message>
+        <source>Fit to paper</source>
+        <translation>适合纸张</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>实际大小</translation>
+    </message>
+    <message>
+        <source>Fill paper</source>
+        <translation>填满纸张</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>现在</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>紧急</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>非密</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>机密</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>保密</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>秘密</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>绝密</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>At %1</source>
+        <translation>于 %1</translation>
+    </message>
+    <message>
+        <source>Two-sided printing is not possible on %1.</source>
+        <translation>无法在“%1”上双面打印。</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not possible with %3 &quot;%4&quot;.</source>
+        <translation>%1“%2”不能与%3“%4”同时使用。</translation>
+    </message>
+    <message>
+        <source>Turn off two-sided</source>
+        <translation>关闭双面打印</translation>
+    </message>
+    <message>
+        <source>Set %1 to %2</source>
+        <translation>将%1设为%2</translation>
+    </message>
+    <message>
+        <source>Pages %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>1 份</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>%1 份</translation>
+    </message>
+    <message>
+        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
+        <translation>请输入页码或页码范围，例如 1-3, 5。</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Enter page numbers up to %1.</source>
+        <translation>文档到第 %1 页为止。请输入不超过 %1 的页码。</translation>
     </message>
 </context>
 <context>
@@ -1086,41 +1318,6 @@
     </message>
 </context>
 <context>
-    <name>kesto::GeneralPane</name>
-    <message>
-        <source>All</source>
-        <translation>全部</translation>
-    </message>
-    <message>
-        <source>These:</source>
-        <translation>指定:</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The printer cannot do these together: %1.</source>
-        <translation>打印机无法同时使用以下设置：%1。</translation>
-    </message>
-    <message>
-        <source>Enter page numbers or ranges, for example 1-3, 5.</source>
-        <translation>请输入页码或页码范围，例如 1-3, 5。</translation>
-    </message>
-    <message>
-        <source>Pages to print, for example 1-3, 5</source>
-        <translation>要打印的页面，例如 1-3, 5</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Enter page numbers up to %1.</source>
-        <translation>文档到第 %1 页为止。请输入不超过 %1 的页码。</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>文档到第 %1 页为止。将打印的页面：%2。</translation>
-    </message>
-</context>
-<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1339,10 +1536,6 @@
         <translation>文档:</translation>
     </message>
     <message>
-        <source>General</source>
-        <translation>常规</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>摘要</translation>
     </message>
@@ -1520,6 +1713,120 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>其他用户可以看到%1。要隐藏这些内容，请在打印服务器的策略“%2”中添加以下几行：</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>前置封面</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>后置封面</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>定时</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>请输入时间，例如 14:30。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>作业</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>更多选项</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>所有页面</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>选定页面</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>文档到第 %1 页为止。将打印的页面：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>毫米</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>自定义大小</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>请输入 %1 到 %2 %3之间的宽度。</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>请输入 %1 到 %2 %3之间的高度。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>百分比</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>请输入 %1 到 %2 之间的百分比。</translation>
     </message>
 </context>
 </TS>

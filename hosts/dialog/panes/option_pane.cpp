@@ -1,0 +1,233 @@
+#include "hosts/dialog/panes/option_pane.h"
+
+#include <QtCore/QSet>
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "hosts/dialog/panes/pages_control.h"
+#include "hosts/dialog/widgets/plain_text.h"
+#include "platform/shown_text.h"
+
+namespace kesto {
+namespace {
+
+// Whether an option comes and goes with the queue.
+bool isOfQueue(const OfferedOption& option) {
+  return option.kind == OptionKind::Choice || option.kind == OptionKind::Covers;
+}
+
+}  // namespace
+
+OptionPane::OptionPane(OptionGroup group, JobOptions& options, QWidget* parent)
+    : QWidget(parent),
+      m_group(group),
+      m_options(options),
+      m_form(new QFormLayout),
+      m_note(new QLabel(this)),
+      m_remedy(new QPushButton(this)) {
+  setObjectName(nameOf(group));
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(m_form);
+  column->addWidget(m_note);
+  column->addWidget(m_remedy, 0, Qt::AlignLeading);
+  column->addStretch();
+  m_form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+  m_note->setWordWrap(true);
+  m_note->setObjectName(nameOf(group) + QStringLiteral("Note"));
+  m_remedy->setObjectName(QStringLiteral("remedy"));
+  m_remedy->setAutoDefault(false);
+  m_remedy->hide();
+  connect(m_remedy, &QPushButton::clicked, this,
+          [this, &options] { options.set(JobOptions::Source::Chosen, QMap(m_conflict->changes)); });
+  connect(&m_options, &JobOptions::changed, this, &OptionPane::update);
+}
+
+QString OptionPane::nameOf(OptionGroup group) {
+  static constexpr std::array names{"general", "layout", "job", "more"};
+  return QLatin1String(names.at(static_cast<std::size_t>(group)));
+}
+
+QString OptionPane::titleOf(OptionGroup group) {
+  switch (group) {
+    case OptionGroup::General:
+      return tr("General");
+    case OptionGroup::Layout:
+      return tr("Layout");
+    case OptionGroup::Job:
+      return tr("Job");
+    case OptionGroup::More:
+      break;
+  }
+  return tr("More options");
+}
+
+// Before it is seen, so that it appears whole.
+void OptionPane::setVisible(bool isVisible) {
+  if (isVisible) make();
+  QWidget::setVisible(isVisible);
+}
+
+void OptionPane::make() {
+  if (std::exchange(m_isMade, true)) return;
+  showQueue();
+  Q_EMIT made();
+}
+
+// The job's own options stay as they are, with what is being typed there.
+void OptionPane::showQueue() {
+  if (!m_isMade) return;
+  m_section = QString();
+  removeQueuesLines();
+  const std::vector<OfferedOption> offered = offeredOptions(m_options, m_group);
+  if (m_group == OptionGroup::More && !offered.empty()) addFilter();
+  for (const OfferedOption& each : offered) {
+    const bool isThere = std::ranges::any_of(
+        m_lines, [&](const Line& line) { return line.control->option().key == each.key; });
+    if (!isThere) addOption(each);
+  }
+  update();
+}
+
+void OptionPane::removeQueuesLines() {
+  std::erase_if(m_lines, [](const Line& line) { return isOfQueue(line.control->option()); });
+  QSet<const QLayoutItem*> kept;
+  for (const Line& line : m_lines) {
+    if (line.label != nullptr) kept.insert(m_form->itemAt(rowOf(*line.label), QFormLayout::FieldRole));
+    line.control->showQueue();
+  }
+  for (int row = m_form->rowCount() - 1; row >= 0; --row) {
+    if (!kept.contains(m_form->itemAt(row, QFormLayout::FieldRole))) m_form->removeRow(row);
+  }
+}
+
+int OptionPane::rowOf(QLabel& label) const {
+  int row = -1;
+  m_form->getWidgetPosition(&label, &row, nullptr);
+  return row;
+}
+
+void OptionPane::addOption(const OfferedOption& option) {
+  if (option.section != std::exchange(m_section, option.section)) addSection(option.section);
+  for (OptionControl* control : makeControls(option, m_options, this))
+    addControl(*control);
+}
+
+// What has its text in itself stands beside the control before it.
+void OptionPane::addControl(OptionControl& control) {
+  control.showQueue();
+  connect(&control, &OptionControl::faultChanged, this, [this] {
+    m_note->setText(note());
+    Q_EMIT faultChanged();
+  });
+  if (auto* pages = qobject_cast<PagesControl*>(&control); pages != nullptr && !m_applicationsPages.isNull())
+    pages->offerApplicationsPages(m_applicationsPages);
+  const QString text = control.label();
+  if (text.isNull() && m_line != nullptr) {
+    m_line->insertWidget(m_line->count() - 1, &control);
+    return m_lines.push_back({&control, nullptr});
+  }
+  auto* label = new QLabel(this);
+  if (control.field() != nullptr) label->setBuddy(control.field());
+  setPlainText(*label, text.isNull() ? QString() : withColon(text));
+  auto* line = new QHBoxLayout;
+  line->addWidget(&control);
+  // Other switches follow the number.
+  if (control.option().kind == OptionKind::Number) {
+    m_line = line;
+    line->addStretch();
+  }
+  m_form->addRow(label, line);
+  m_lines.push_back({&control, label});
+}
+
+void OptionPane::addSection(const QString& text) {
+  auto* heading = new QLabel(this);
+  setPlainText(*heading, text);
+  QFont font = heading->font();
+  font.setBold(true);
+  heading->setFont(font);
+  m_form->addRow(heading);
+}
+
+void OptionPane::addFilter() {
+  auto* filter = new QLineEdit(this);
+  filter->setObjectName(QStringLiteral("filter"));
+  filter->setClearButtonEnabled(true);
+  filter->setAccessibleName(tr("Filter"));
+  auto* label = new QLabel(this);
+  label->setBuddy(filter);
+  setPlainText(*label, withColon(tr("Filter")));
+  m_form->addRow(label, filter);
+  connect(filter, &QLineEdit::textChanged, this, &OptionPane::filter);
+}
+
+// A heading is shown with any of its options.
+void OptionPane::filter(const QString& text) {
+  int heading = -1;
+  for (int row = 1; row < m_form->rowCount(); ++row) {
+    const QLayoutItem* label = m_form->itemAt(row, QFormLayout::LabelRole);
+    if (label == nullptr) {
+      heading = row;
+      m_form->setRowVisible(row, false);
+      continue;
+    }
+    const bool isFound = plainText(*label->widget()).contains(text.trimmed(), Qt::CaseInsensitive);
+    m_form->setRowVisible(row, isFound);
+    if (isFound && heading >= 0) m_form->setRowVisible(heading, true);
+  }
+}
+
+void OptionPane::offerApplicationsPages(const QString& name) {
+  m_applicationsPages = name;
+  for (const Line& line : m_lines) {
+    if (auto* pages = qobject_cast<PagesControl*>(line.control)) pages->offerApplicationsPages(name);
+  }
+}
+
+QString OptionPane::fault() const {
+  if (!m_isMade && m_group == OptionGroup::General) return faultOfPages(m_options);
+  for (const Line& line : m_lines) {
+    if (QString fault = line.control->fault(); !fault.isNull()) return fault;
+  }
+  return {};
+}
+
+void OptionPane::showFault() {
+  make();
+  for (const Line& line : m_lines) {
+    if (!line.control->fault().isNull()) return line.control->faultyField()->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+// What cannot be printed as it is chosen, and what is printed instead of what was asked for.
+QString OptionPane::note() const {
+  QStringList lines;
+  for (const Line& line : m_lines) {
+    const QString fault = line.control->isTouched() ? line.control->fault() : QString();
+    const QString note = fault.isNull() ? line.control->note() : fault;
+    if (!note.isNull()) lines.append(note);
+  }
+  if (m_conflict) lines.append(shownText(m_conflict->text));
+  return lines.join(u'\n');
+}
+
+void OptionPane::update() {
+  m_conflict = m_group == OptionGroup::General ? conflictOf(m_options) : std::nullopt;
+  m_remedy->setVisible(m_conflict && !m_conflict->changes.isEmpty());
+  if (m_conflict) setPlainText(*m_remedy, m_conflict->remedy);
+  for (const Line& line : m_lines) {
+    line.control->showValue();
+    const bool isIdle = m_options.isIdle(line.control->option().key);
+    line.control->setEnabled(!isIdle);
+    if (line.label != nullptr) line.label->setEnabled(!isIdle);
+  }
+  m_note->setText(note());
+}
+
+}  // namespace kesto

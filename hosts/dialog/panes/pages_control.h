@@ -1,0 +1,37 @@
+// Which pages of the document are printed.
+#pragma once
+
+#include "hosts/dialog/panes/option_control.h"
+
+class QRadioButton;
+
+namespace kesto {
+
+/// All pages, those that the application alone knows, or those that the user writes.
+class PagesControl : public OptionControl {
+  Q_OBJECT
+
+ public:
+  PagesControl(const OfferedOption& option, JobOptions& options, QWidget* parent);
+
+  /// Offers pages that the application alone knows, such as the current one.
+  void offerApplicationsPages(const QString& name);
+
+  QWidget* field() override { return nullptr; }
+  void showValue() override;
+  QString fault() const override { return faultOfPages(options()); }
+  QWidget* faultyField() override;
+  bool isTouched() const override;
+  QString note() const override;
+
+ private:
+  QRadioButton* addRadio(const QString& text, const QString& objectName);
+  void takePages();
+
+  QRadioButton* m_all;
+  QRadioButton* m_applications;
+  QRadioButton* m_some;
+  QLineEdit* m_pages;
+};
+
+}  // namespace kesto

@@ -1,0 +1,114 @@
+#include "hosts/session/option_offer.h"
+
+#include <QtCore/QCoreApplication>
+#include <algorithm>
+
+#include "hosts/session/page_range.h"
+
+namespace kesto {
+namespace {
+
+const QString pagesKey = QStringLiteral("page-ranges");
+const QString numberUpKey = QStringLiteral("number-up");
+
+bool hasChoice(const JobOptions& options, const OptionRow& row) {
+  const QString key = QLatin1String(row.key);
+  if (key == bookletKey && !bookletChoice(options, true).isNull()) return false;
+  if (options.isLeftToPanel(key)) return false;
+  if (row.kind == OptionKind::Covers) return options.choices(key).size() > 1;
+  return row.kind != OptionKind::Choice || options.ofQueue().choiceCount(key) > 1;
+}
+
+// Those that only the PPD knows.
+void addOthers(const JobOptions& options, std::vector<OfferedOption>* offered) {
+  for (const PpdGroup& group : options.ofQueue().groups()) {
+    for (const QString& key : group.options) {
+      const bool isKnown = rowOf(key, options.ofQueue()) != nullptr || options.isLeftToPanel(key);
+      if (!isKnown && options.ofQueue().choiceCount(key) > 1)
+        offered->push_back({.key = key, .section = group.text});
+    }
+  }
+}
+
+QString shownPages(const JobOptions& options) {
+  const QString pages = options.pages();
+  return pages.isNull() ? QCoreApplication::translate("JobOptions", "All pages")
+                        : QCoreApplication::translate("JobOptions", "Pages %1").arg(pages);
+}
+
+QString shownCopies(const QString& count) {
+  return count == u"1" ? QCoreApplication::translate("JobOptions", "1 copy")
+                       : QCoreApplication::translate("JobOptions", "%1 copies").arg(count);
+}
+
+// A value that says by itself what it is of, such as "Long edge"; "On" and "2" do not.
+QString shownShort(const JobOptions& options, const OfferedOption& option) {
+  const QString value = options.value(option.key);
+  if (option.kind == OptionKind::Pages) return shownPages(options);
+  if (option.kind == OptionKind::Number) return shownCopies(value);
+  if (option.key == numberUpKey && isBooklet(options)) return options.text(bookletKey);
+  const QString text = options.textOf(option.key, value);
+  bool isNumber = false;
+  (void)text.toDouble(&isNumber);
+  const bool saysItself = option.row != nullptr && option.row->group != OptionGroup::More &&
+                          option.kind != OptionKind::Switch && !isNumber;
+  return saysItself ? text : QStringLiteral("%1: %2").arg(options.text(option.key), text);
+}
+
+// What is said of a group whatever it is.
+bool isAlwaysSaid(const QString& key) {
+  static const QStringList said{QStringLiteral("copies"), pagesKey, QStringLiteral("PageSize"),
+                                QStringLiteral("orientation-requested"), QStringLiteral("job-hold-until")};
+  return said.contains(key);
+}
+
+}  // namespace
+
+std::vector<OfferedOption> offeredOptions(const JobOptions& options, OptionGroup group) {
+  std::vector<OfferedOption> offered;
+  for (const OptionRow& row : optionTable()) {
+    if (row.group == group && hasChoice(options, row))
+      offered.push_back({.key = QLatin1String(row.key), .kind = row.kind, .row = &row});
+  }
+  if (group == OptionGroup::More) addOthers(options, &offered);
+  return offered;
+}
+
+QString bookletChoice(const JobOptions& options, bool isOn) {
+  const auto choice = [&](bool isTrue) {
+    return options.choiceFor(bookletKey, isTrue ? QStringLiteral("true") : QStringLiteral("false"));
+  };
+  return choice(!isOn).isNull() ? QString() : choice(isOn);
+}
+
+bool isBooklet(const JobOptions& options) {
+  const QString on = bookletChoice(options, true);
+  return !on.isNull() && options.value(bookletKey) == on;
+}
+
+Headline headlineOf(const JobOptions& options, OptionGroup group) {
+  Headline headline;
+  QStringList texts;
+  for (const OfferedOption& each : offeredOptions(options, group)) {
+    const bool isOther = !options.isDefault(each.key) && !options.isIdle(each.key);
+    const bool differs = isOther || (each.key == numberUpKey && !options.isDefault(bookletKey));
+    if (differs || isAlwaysSaid(each.key)) texts.append(shownShort(options, each));
+    headline.differs = headline.differs || differs;
+  }
+  headline.text = texts.join(QStringLiteral(", "));
+  return headline;
+}
+
+QString faultOfPages(const JobOptions& options) {
+  const QString asked = options.value(pagesKey);
+  if (asked.isNull() || asked == JobOptions::applicationsPages) return {};
+  if (!pageRangesOf(asked))
+    return QCoreApplication::translate("JobOptions", "Enter page numbers or ranges, for example 1-3, 5.");
+  if (options.pages().isNull())
+    return QCoreApplication::translate("JobOptions",
+                                       "The document ends at page %1. Enter page numbers up to %1.")
+        .arg(options.pageCount());
+  return {};
+}
+
+}  // namespace kesto
