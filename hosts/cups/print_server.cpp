@@ -29,11 +29,15 @@ void addAttribute(ipp_attribute_t* attribute, QueueSummary* queue) {
   if (name == "printer-state") queue->state = nameOfState(ippGetInteger(attribute, 0));
   if (name == "printer-state-message") queue->stateMessage = text();
   if (name == "printer-is-accepting-jobs") queue->isAccepting = ippGetBoolean(attribute, 0) != 0;
+  if (name == "printer-location") queue->location = text();
+  if (name == "queued-job-count") queue->jobs = ippGetInteger(attribute, 0);
 }
 
 void askForSummary(ipp_t* request) {
-  static const char* const shown[] = {"printer-name",  "printer-info",          "device-uri",
-                                      "printer-state", "printer-state-message", "printer-is-accepting-jobs"};
+  static const char* const shown[] = {
+      "printer-name",     "printer-info",          "device-uri",
+      "printer-state",    "printer-state-message", "printer-is-accepting-jobs",
+      "printer-location", "queued-job-count"};
   ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", std::size(shown),
                 nullptr, shown);
 }

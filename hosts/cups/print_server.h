@@ -32,6 +32,8 @@ struct QueueSummary {
   QString state;         ///< "idle", "processing" or "stopped".
   QString stateMessage;  ///< The server's message about it, such as why it is stopped or accepts no jobs.
   bool isAccepting = true;
+  QString location;  ///< Where it stands, as its administrator wrote it.
+  int jobs = 0;      ///< Jobs that it has not finished.
 };
 
 /// One print server. Every operation ends in time and uses no more memory than `bounds.h` allows, whatever

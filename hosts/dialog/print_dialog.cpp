@@ -3,7 +3,6 @@
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTabWidget>
 #include <algorithm>
 #include <utility>
 
@@ -16,6 +15,8 @@
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
+#include "hosts/dialog/widgets/section.h"
+#include "hosts/dialog/widgets/section_column.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -66,15 +67,18 @@ const QueueListModel& PrintDialog::queues() const {
 
 // What there is to say of the queue, beside its choice.
 void PrintDialog::showOpening() {
-  const bool isFault = !m_opening.fault().isNull();
+  using Kind = StateIcon::Kind;
   QString text = m_opening.fault();
-  if (!isFault && m_opening.state() == QueueOpening::State::Asked) text = tr("Connecting to the printer…");
+  Kind kind = text.isNull() ? Kind::None : Kind::Fault;
+  if (m_opening.state() == QueueOpening::State::Asked && text.isNull())
+    text = tr("Connecting to the printer…");
   if (m_opening.isPdf()) {
     text = tr("Saves the selected pages in a file.");
   } else if (m_opening.state() == QueueOpening::State::Open) {
     text = QueueListModel::stateText(m_opening.summary());
+    kind = QueueListModel::stateKind(m_opening.summary());
   }
-  m_chooser->showText(text, isFault);
+  m_chooser->showState(text, kind);
   updateControls();
 }
 
@@ -85,15 +89,13 @@ void PrintDialog::chooseQueue(const QString& name) {
 
 void PrintDialog::leaveQueue() {
   setWindowTitle(tr("Print"));
-  // The next page would be made only to be seen empty.
-  if (m_panes->currentIndex() >= m_optionPanes.size()) m_panes->setCurrentWidget(m_optionPanes.front());
-  for (QWidget* pane : {static_cast<QWidget*>(m_panelPane), static_cast<QWidget*>(m_summary)}) {
-    if (pane == nullptr) continue;
-    m_panes->removeTab(m_panes->indexOf(pane));
-    pane->deleteLater();  // it may be waiting inside one of its own events
-  }
+  m_idle.stop();
   m_panelPane = nullptr;
   m_summary = nullptr;
+  for (Section* section : {m_panelSection, m_summarySection}) {
+    section->hide();
+    section->clear();  // it may be waiting inside one of its own events
+  }
   m_session.release();
   showOffer();
   updateControls();
@@ -112,46 +114,25 @@ void PrintDialog::openQueue(Queue& queue) {
   if (const QStringList& refused = jobOptions().refused(); !refused.isEmpty())
     showMessage(
         tr("This printer does not support %1. The job will be printed without it.").arg(refused.join(u", ")));
-  if (!opened) showMessage(asSentence(opened.reason()));
+  if (!opened) showFault(asSentence(opened.reason()));
 }
 
 void PrintDialog::settleQueue() {
   if (m_opening.isOpen()) {
-    if (m_session.view() != nullptr) showPanel();
+    showSections();
     setWindowTitle(m_opening.isPdf() ? tr("Save as PDF")
                                      : tr("Print on %1").arg(shownText(m_opening.wanted())));
-    giveNames();
     updateControls();
   }
+  giveNames();
   Q_EMIT settled();
 }
 
-void PrintDialog::showPanel() {
-  std::unique_ptr<PanelPane> pane;
-  if (Outcome made = PanelPane::make(*m_session.view(), m_session.bundle(), &pane); !made)
-    return showMessage(asSentence(made.reason()));
-  m_panelPane = pane.release();
-  if (!m_session.panel()->filesDocuments()) m_panelPane->sayNothingIsFiled();
-  m_summary = new SummaryPane(m_panes);
-  setPlainText(*m_panelPane, m_session.panel()->panelName());
-  setPlainText(*m_summary, tr("Summary"));
-  m_panes->addTab(m_panelPane, m_session.panel()->panelName());
-  m_panes->addTab(m_summary, tr("Summary"));
-  connect(m_panelPane, &PanelPane::panelChanged, this, &PrintDialog::updateSummary);
-  connect(m_panelPane, &PanelPane::addressJudged, this, [this](const QString& fault) {
-    showMessage(fault.isNull() ? asSentence(m_session.outcomeOfFetch().reason()) : fault);
-  });
-  connect(m_summary, &SummaryPane::privacyAsked, this, [this] { m_client.checkPrivacy(m_opening.wanted()); });
-  connect(&m_client, &QueueClient::privacyChecked, m_summary, &SummaryPane::showPrivacy);
-  updateSummary();
-  if (m_options.pane != u"general") m_panes->setCurrentWidget(m_panelPane);
-  if (m_options.pane == u"summary") m_panes->setCurrentWidget(m_summary);
-}
-
 void PrintDialog::updateSummary() {
-  if (m_summary == nullptr || m_session.panel() == nullptr) return;
+  showHeadlines();
+  if (m_summary == nullptr) return;
   auto lines = jobOptions().summary();
-  const QMap<QString, QString> ofPanel = summaryOf(*m_session.panel());
+  const QMap<QString, QString> ofPanel = panelSummary();
   for (auto it = ofPanel.begin(); it != ofPanel.end(); ++it)
     lines.append({it.key(), it.value()});
   m_summary->show(lines);
@@ -196,18 +177,19 @@ void PrintDialog::print() {
   if (!m_foot->printButton().isEnabled()) return;
   showMessage({});
   if (OptionPane* faulty = faultyPane()) {
-    m_panes->setCurrentWidget(faulty);
+    m_sections->reveal(faulty);
     faulty->showFault();
-    showMessage(faulty->fault());
+    showFault(faulty->fault());
     m_choiceFault = faulty->fault();
     return;
   }
-  if (const auto conflict = conflictOf(jobOptions())) return showMessage(conflict->text);
+  if (const auto conflict = conflictOf(jobOptions())) return showConflict(*conflict);
   if (!m_preview->fault().isNull()) {
-    showMessage(m_preview->fault());
+    showFault(m_preview->fault());
     return m_unlocking.ask();
   }
   if (const std::optional<Entry> missing = m_session.confirm()) {
+    m_panelSection->setOpen(true);
     if (m_panelPane != nullptr) m_panelPane->showEntry(*missing);
     return;
   }
@@ -221,7 +203,7 @@ void PrintDialog::print() {
 // Whether there is a file to save the pages in. The file dialog asks before it takes one that exists.
 bool PrintDialog::chooseTarget() {
   if (const QString fault = m_preview->saveFault(); !fault.isNull()) {
-    showMessage(fault);
+    showFault(fault);
     return false;
   }
   QFileDialog dialog(this, tr("Save as PDF"));
@@ -275,7 +257,7 @@ void PrintDialog::takeSendFailure(const QString& reason) {
   show();  // the user may believe it printed
   raise();
   activateWindow();
-  showMessage(m_opening.isPdf() ? reason : tr("The job was not printed. %1").arg(reason));
+  showFault(m_opening.isPdf() ? reason : tr("The job was not printed. %1").arg(reason));
   m_unlocking.ask();
 }
 
@@ -284,14 +266,6 @@ void PrintDialog::showPhase() {
   m_foot->showProgress(phase == JobSending::Phase::Sending);
   if (phase == JobSending::Phase::Sent) m_foot->offerClose();
   updateControls();
-}
-
-// The tabs of the panes that have something to choose.
-void PrintDialog::showOffer() {
-  for (OptionPane* pane : m_optionPanes) {
-    pane->showQueue();
-    m_panes->setTabVisible(m_panes->indexOf(pane), pane->hasChoices());
-  }
 }
 
 // Null for none.
@@ -306,19 +280,28 @@ void PrintDialog::updateChoiceFault() {
   const OptionPane* faulty = faultyPane();
   const QString fault = faulty == nullptr ? QString() : faulty->fault();
   if (m_choiceFault.isNull() || m_choiceFault == fault) return;
-  showMessage(fault);
+  showFault(fault);
   m_choiceFault = fault;
 }
 
-void PrintDialog::showMessage(const QString& message) {
+void PrintDialog::showMessage(const QString& message, MessageBar::Kind kind) {
   m_choiceFault.clear();
-  m_foot->showMessage(message);
+  m_foot->bar().show(message, kind);
+}
+
+void PrintDialog::showConflict(const OptionConflict& conflict) {
+  if (conflict.changes.isEmpty()) return showFault(conflict.text);
+  m_foot->bar().show(conflict.text, MessageBar::Kind::Fault, conflict.remedy,
+                     [this, changes = conflict.changes] {
+                       showMessage({});
+                       jobOptions().set(JobOptions::Source::Chosen, changes);
+                     });
 }
 
 void PrintDialog::updateControls() {
   const bool isChoosing = m_sending.phase() == JobSending::Phase::Choosing;
   // With the chooser, its label and the document.
-  for (QWidget* part : {m_chooser->parentWidget(), static_cast<QWidget*>(m_panes)})
+  for (QWidget* part : {m_chooser->parentWidget(), static_cast<QWidget*>(m_sections)})
     part->setEnabled(isChoosing);
   m_presets->setEnabled(isChoosing && m_session.presets() != nullptr);
   using State = Document::State;
@@ -329,6 +312,11 @@ void PrintDialog::updateControls() {
   setPlainText(m_foot->printButton(), m_opening.isPdf() ? tr("Save…") : tr("Print"));
   m_foot->printButton().setEnabled(isQueueReady() && isTaker && !isMissing);
   m_foot->printButton().setToolTip(isMissing ? tr("Choose a document to print.") : QString());
+}
+
+void PrintDialog::done(int result) {
+  keepLooks();
+  QDialog::done(result);
 }
 
 void PrintDialog::reject() {

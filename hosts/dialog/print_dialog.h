@@ -2,27 +2,32 @@
 #pragma once
 
 #include <QtWidgets/QDialog>
+#include <functional>
 #include <memory>
 
+#include "hosts/dialog/dialog_memory.h"
 #include "hosts/dialog/document.h"
 #include "hosts/dialog/document_unlocking.h"
 #include "hosts/dialog/job_sending.h"
 #include "hosts/dialog/options.h"
 #include "hosts/dialog/queue_opening.h"
 #include "hosts/dialog/widgets/dialog_alerts.h"
+#include "hosts/dialog/widgets/message_bar.h"
+#include "hosts/session/option_conflict.h"
 #include "hosts/session/panel_session.h"
-
-class QTabWidget;
 
 namespace kesto {
 
 class DialogFoot;
 class DocumentLine;
+class FoldingSplitter;
 class OptionPane;
 class PanelPane;
 class PresetMenu;
 class Preview;
 class QueueChooser;
+class Section;
+class SectionColumn;
 class SummaryPane;
 
 /// The dialog for one document: choose a queue, its options and the panel's entries, and print. It asks the
@@ -56,6 +61,7 @@ class PrintDialog : public QDialog {
   /// Goes over to a queue that is open.
   void takeQueue(Queue queue) { m_opening.take(std::move(queue)); }
   void reject() override;
+  void done(int result) override;
 
  Q_SIGNALS:
   /// The queues are listed.
@@ -73,7 +79,15 @@ class PrintDialog : public QDialog {
   void start();
   void build();
   QWidget* makeHead();
-  QWidget* makePanes();
+  QWidget* makeSections();
+  Section* addSection(const QString& name, const QString& title,
+                      const std::function<QWidget*(QWidget*)>& make);
+  void addOptions(OptionGroup group);
+  QWidget* makePanel(QWidget* parent);
+  QWidget* makeSummary(QWidget* parent);
+  void buildNext();
+  void restoreLooks();
+  void keepLooks();
   void connectParts();
   void connectQueues();
   void offerPdf();
@@ -83,7 +97,9 @@ class PrintDialog : public QDialog {
   void showOpening();
   QString jobName() const;
   void takePageCount();
-  void showPanel();
+  void showSections();
+  void showHeadlines();
+  QMap<QString, QString> panelSummary();
   void leaveQueue();
   void showDocument();
   void chooseDocument();
@@ -93,7 +109,9 @@ class PrintDialog : public QDialog {
   void takeSent(int job);
   void takeSendFailure(const QString& reason);
   void showPhase();
-  void showMessage(const QString& message);
+  void showMessage(const QString& message, MessageBar::Kind kind = MessageBar::Kind::Note);
+  void showFault(const QString& fault) { showMessage(fault, MessageBar::Kind::Fault); }
+  void showConflict(const OptionConflict& conflict);
   OptionPane* faultyPane() const;
   void updateChoiceFault();
   void showOffer();
@@ -114,7 +132,12 @@ class PrintDialog : public QDialog {
   QueueChooser* m_chooser;
   PresetMenu* m_presets = nullptr;
   DocumentLine* m_documentLine = nullptr;
-  QTabWidget* m_panes = nullptr;
+  FoldingSplitter* m_body = nullptr;
+  SectionColumn* m_sections = nullptr;
+  Section* m_panelSection = nullptr;
+  Section* m_summarySection = nullptr;
+  QTimer m_idle;  // runs while sections are left to make
+  DialogMemory m_memory;
   QList<OptionPane*> m_optionPanes;  // general first
   PanelPane* m_panelPane = nullptr;
   SummaryPane* m_summary = nullptr;

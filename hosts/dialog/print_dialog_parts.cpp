@@ -1,24 +1,20 @@
 // The parts of the print dialog, where they stand and what they call.
 #include <QtGui/QShortcut>
 #include <QtWidgets/QFormLayout>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
 
 #include "hosts/dialog/panel/panel_pane.h"
-#include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/widgets/dialog_foot.h"
 #include "hosts/dialog/widgets/document_line.h"
+#include "hosts/dialog/widgets/folding_splitter.h"
 #include "hosts/dialog/widgets/help.h"
-#include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
-#include "hosts/dialog/widgets/tab_order.h"
 
 namespace kesto {
 namespace {
@@ -34,18 +30,20 @@ QLabel* labelFor(QWidget* field, const QString& text) {
 
 void PrintDialog::build() {
   setWindowTitle(tr("Print"));
-  auto* side = new QVBoxLayout;
+  auto* sideBox = new QWidget(this);
+  auto* side = new QVBoxLayout(sideBox);
+  side->setContentsMargins({});
   side->addWidget(makeHead());
-  side->addWidget(makePanes(), 1);
+  side->addWidget(makeSections(), 1);
+  m_body = new FoldingSplitter(m_preview, sideBox, this);
   m_foot = new DialogFoot(this);
-  auto* body = new QHBoxLayout;
-  body->addWidget(m_preview, 1);
-  body->addLayout(side);
+  m_presets = new PresetMenu(m_session, m_foot);
+  m_foot->addLeading(m_presets);
+  m_foot->addLeading(m_preview->total());
   auto* column = new QVBoxLayout(this);
-  column->addLayout(body, 1);
+  column->addWidget(m_body, 1);
   column->addWidget(m_foot);
-  // Room for the panel, so that the window need not grow when that comes.
-  resize(fontMetrics().horizontalAdvance(u'0') * 110, fontMetrics().height() * 42);
+  restoreLooks();
   m_chooser->field()->setFocus();
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
   connect(help, &QShortcut::activated, this, [this] { showHelp(*this); });
@@ -53,34 +51,14 @@ void PrintDialog::build() {
 
 QWidget* PrintDialog::makeHead() {
   auto* head = new QWidget(this);
-  m_presets = new PresetMenu(m_session, head);
   m_chooser->setParent(head);
   m_documentLine = new DocumentLine(head);
-  auto* presets = new QHBoxLayout;
-  presets->addWidget(m_presets);
-  presets->addStretch();
   auto* form = new QFormLayout(head);
   form->setContentsMargins({});
   form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-  form->addRow(QString(), presets);
   form->addRow(labelFor(m_chooser->field(), tr("Printer:")), m_chooser);
   form->addRow(new QLabel(tr("Document:")), m_documentLine);
   return head;
-}
-
-QWidget* PrintDialog::makePanes() {
-  m_panes = new QTabWidget(this);
-  m_panes->setUsesScrollButtons(false);
-  for (const OptionGroup group :
-       {OptionGroup::General, OptionGroup::Layout, OptionGroup::Job, OptionGroup::More}) {
-    auto* pane = new OptionPane(group, jobOptions(), m_panes);
-    setPlainText(*pane, OptionPane::titleOf(group));
-    m_panes->addTab(pane, OptionPane::titleOf(group));
-    connect(pane, &OptionPane::faultChanged, this, &PrintDialog::updateChoiceFault);
-    connect(pane, &OptionPane::made, this, &PrintDialog::giveNames);
-    m_optionPanes.append(pane);
-  }
-  return m_panes;
 }
 
 void PrintDialog::connectParts() {
@@ -147,15 +125,6 @@ void PrintDialog::connectQueues() {
 // An application that draws its pages for a printer later has nothing to save yet.
 void PrintDialog::offerPdf() {
   if (!m_options.documentLater) m_chooser->offerPdf();
-}
-
-void PrintDialog::giveNames() {
-  assignMnemonics(*this);
-  // Enter prints, wherever the focus is.
-  for (auto* button : findChildren<QPushButton*>())
-    button->setAutoDefault(button == &m_foot->printButton());
-  if (m_panelPane != nullptr) m_panelPane->alignLabels();
-  orderTabStops(*this);
 }
 
 }  // namespace kesto

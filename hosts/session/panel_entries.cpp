@@ -3,6 +3,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QUrl>
 
+#include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/radio_matrix.h"
 #include "panel/model/text_field.h"
@@ -44,6 +45,14 @@ bool needsHold(Entry entry) {
 Entry missingEntry(const PanelView& view) {
   const auto* authentication = view.control<RadioMatrix>(QStringLiteral("authenticationMatrix"));
   return authentication != nullptr && authentication->selectedRow() == ByLogin ? Login : UserNumber;
+}
+
+QString holdMode(const PanelView& view) {
+  const auto* retention = view.control<Button>(QStringLiteral("retentionCheckBox"));
+  const auto* mode = view.control<RadioMatrix>(QStringLiteral("suspendMatrix"));
+  const bool isHeld = retention != nullptr && retention->state() == 1;
+  return isHeld && mode != nullptr && mode->selectedCell() != nullptr ? mode->selectedCell()->title()
+                                                                      : QString();
 }
 
 QString printerAddress(const PanelView& view) {

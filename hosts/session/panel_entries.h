@@ -37,6 +37,9 @@ bool needsHold(Entry entry);
 /// The entry that a panel misses when it refuses a job: the login name or the user number.
 Entry missingEntry(const PanelView& view);
 
+/// How the printer holds the job, in the panel's words; null when it does not.
+QString holdMode(const PanelView& view);
+
 /// The address in the panel, at which it asks for the printer's folders.
 QString printerAddress(const PanelView& view);
 /// Whether a text is a printer's address: a host name or a numeric address, optionally with a port. With any

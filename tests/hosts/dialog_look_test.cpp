@@ -7,17 +7,17 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QStyle>
-#include <QtWidgets/QTabWidget>
 
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/translations.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
+#include "hosts/dialog/widgets/section.h"
+#include "hosts/dialog/widgets/section_column.h"
 #include "tests/support/dialog_support.h"
 
 namespace kesto::test {
@@ -27,7 +27,7 @@ namespace {
 bool isPart(const QWidget& widget) {
   const QWidget* parent = widget.parentWidget();
   if (parent == nullptr) return false;
-  for (const char* whole : {"QComboBox", "QAbstractSpinBox", "QTabBar", "QLineEdit", "QAbstractScrollArea"}) {
+  for (const char* whole : {"QComboBox", "QAbstractSpinBox", "QLineEdit", "QTextEdit"}) {
     if (parent->inherits(whole)) return true;
   }
   return isPart(*parent);
@@ -50,10 +50,6 @@ bool showsWholeText(const QWidget& widget) {
     return label->wordWrap() ? label->heightForWidth(label->width()) <= label->height()
                              : label->sizeHint().width() <= label->width();
   }
-  if (const auto* tabs = qobject_cast<const QTabBar*>(&widget))
-    return tabs->sizeHint().width() <= tabs->width();
-  if (const auto* box = qobject_cast<const QGroupBox*>(&widget))
-    return box->fontMetrics().horizontalAdvance(box->title()) <= box->width();
   if (const auto* list = qobject_cast<const QComboBox*>(&widget)) {
     const int arrow = list->style()->pixelMetric(QStyle::PM_MenuButtonIndicator) + 12;
     return list->fontMetrics().horizontalAdvance(list->currentText()) + arrow <= list->width();
@@ -68,7 +64,8 @@ void expectInPlace(const QWidget& window) {
   const QList<QWidget*> seen = seenIn(window);
   for (const QWidget* widget : seen) {
     const QWidget* parent = widget->parentWidget();
-    EXPECT_TRUE(parent->rect().contains(widget->geometry()))
+    const bool scrolls = parent->parentWidget() != nullptr && parent->parentWidget()->inherits("QScrollArea");
+    EXPECT_TRUE(scrolls || parent->rect().contains(widget->geometry()))
         << nameOf(*widget) << " leaves " << nameOf(*parent);
     EXPECT_TRUE(showsWholeText(*widget)) << nameOf(*widget) << " does not show its whole text";
     for (const QWidget* other : seen) {
@@ -91,39 +88,45 @@ void expectNamed(const QWidget& window) {
     if (widget->focusPolicy() == Qt::NoFocus || widget->inherits("QAbstractScrollArea")) continue;
     const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
     ASSERT_NE(accessible, nullptr) << nameOf(*widget);
-    if (accessible->role() == QAccessible::PageTabList || accessible->role() == QAccessible::Client) continue;
+    if (accessible->role() == QAccessible::Client) continue;
     EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << nameOf(*widget) << " has no name";
   }
 }
 
+// Sections share letters.
+QString scopeOf(const QWidget& widget) {
+  for (const QWidget* each = &widget; each != nullptr; each = each->parentWidget()) {
+    const auto* section = qobject_cast<const Section*>(each->parentWidget());
+    if (section != nullptr && section->content() == each) return section->objectName();
+  }
+  return {};
+}
+
 void expectMnemonics(const QWidget& window) {
   QMap<QString, QString> owners;
-  const auto take = [&](const QString& text) {
-    const QString key = QKeySequence::mnemonic(text).toString();
-    if (key.isEmpty()) return;
+  const auto take = [&](const QWidget& widget, const QString& text) {
+    const QString letter = QKeySequence::mnemonic(text).toString();
+    if (letter.isEmpty()) return;
+    const QString key = letter + scopeOf(widget);
     EXPECT_FALSE(owners.contains(key)) << text << " and " << owners.value(key) << " share " << key;
     owners.insert(key, text);
   };
   for (const QWidget* widget : seenIn(window)) {
     if (const auto* label = qobject_cast<const QLabel*>(widget);
         label != nullptr && label->buddy() != nullptr)
-      take(label->text());
+      take(*widget, label->text());
     if (const auto* button = qobject_cast<const QAbstractButton*>(widget);
         button != nullptr && !button->text().isEmpty())
-      take(button->text());
-    if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
-      for (int i = 0; i < tabs->count(); ++i)
-        take(tabs->tabText(i));
-    }
+      take(*widget, button->text());
   }
 }
 
-// The labels before the fields of a pane: their last characters and positions.
-void expectAligned(const QWidget& pane) {
+// The labels before the fields of all sections: their last characters and positions.
+void expectAligned(const QWidget& column) {
   QSet<int> ends;
-  for (const auto* label : pane.findChildren<QLabel*>()) {
+  for (const auto* label : column.findChildren<QLabel*>()) {
     if (!label->isVisible() || label->buddy() == nullptr) continue;
-    ends.insert(label->mapTo(&pane, QPoint(label->width(), 0)).x());
+    ends.insert(label->mapTo(&column, QPoint(label->width(), 0)).x());
     const bool hasColon = label->text().endsWith(QLocale().language() == QLocale::French ? u"\u00A0:" : u":");
     EXPECT_TRUE(hasColon) << label->text();
   }
@@ -165,7 +168,7 @@ class DialogLook : public testing::Test {
                "retentionCheckBox customFolderRadioButton suspendKeyEditText=2468 userNumberRadioButton "
                "userNumberEditText=42 userNumberButton");
     m_dialog->findChild<QWidget*>(u"chasingArrow"_s)->show();
-    m_dialog->findChild<QueueChooser*>()->showText(fault, true);
+    m_dialog->findChild<QueueChooser*>()->showState(fault, StateIcon::Kind::Fault);
   }
 
   void expectPage(const char* theme, const QString& page) {
@@ -175,30 +178,31 @@ class DialogLook : public testing::Test {
     expectOneColon(*m_dialog);
     expectNamed(*m_dialog);
     expectMnemonics(*m_dialog);
-    expectAligned(*m_dialog->findChild<PanelPane*>());
+    expectAligned(*m_dialog->findChild<SectionColumn*>());
     const QString file = u"%1/%2-%3-%4-%5.png"_s.arg(m_pictures, QLocale().name())
                              .arg(m_percent)
                              .arg(QLatin1String(theme), page);
     EXPECT_TRUE(m_dialog->grab().save(file)) << file;
   }
 
+  // Each section alone, and all at once on a small screen.
   void expectPages(const char* theme) {
-    auto* inner = m_dialog->findChild<QTabWidget*>(u"tabView"_s);
-    auto* outer =
-        qobject_cast<QTabWidget*>(m_dialog->findChild<PanelPane*>()->parentWidget()->parentWidget());
-    ASSERT_NE(outer, nullptr);
-    for (const auto& [pane, page, name] : {std::tuple(0, 0, "general"),
-                                           {1, 0, "layout"},
-                                           {2, 0, "job"},
-                                           {3, 0, "more"},
-                                           {4, 0, "storage"},
-                                           {4, 1, "account"},
-                                           {5, 0, "summary"}}) {
-      outer->setCurrentIndex(pane);
-      inner->setCurrentIndex(page);
+    const QList<Section*>& sections = m_dialog->findChild<SectionColumn*>()->sections();
+    const QSize size = m_dialog->size();
+    for (const Section* shown : sections) {
+      for (Section* section : sections)
+        section->setOpen(section == shown);
       QCoreApplication::processEvents();
-      expectPage(theme, QLatin1String(name));
+      expectPage(theme, shown->objectName());
     }
+    for (Section* section : sections)
+      section->setOpen(true);
+    m_dialog->resize(QSize(960, 540) * m_percent / 100);
+    QCoreApplication::processEvents();
+    EXPECT_LE(m_dialog->height(), 540 * m_percent / 100);
+    EXPECT_LE(m_dialog->width(), 960 * m_percent / 100);
+    expectPage(theme, u"small"_s);
+    m_dialog->resize(size);
   }
 
   QTemporaryDir m_home;

@@ -8,7 +8,6 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
 
 #include "panel/model/button.h"
@@ -285,8 +284,11 @@ TEST_F(DialogPane, AssistiveTechnologyGoesThroughTheRules) {
 TEST_F(DialogPane, TabsAndProgressFollow) {
   m_window.control<ProgressIndicator>(u"chasingArrow"_s)->setHidden(false);
   EXPECT_TRUE(m_window.widget(u"chasingArrow"_s)->isVisible());
-  m_window.widget<QTabWidget>(u"tabView"_s)->setCurrentIndex(1);
-  EXPECT_EQ(m_window.control<TabView>(u"tabView"_s)->selectedTab(), 1);
+  auto* tabs = m_window.control<TabView>(u"tabView"_s);
+  for (const auto& [entered, page] : {std::pair{u"jobNameEditText"_s, 1}, {u"retentionCheckBox"_s, 0}}) {
+    m_window.widget(entered)->setFocus();
+    EXPECT_EQ(tabs->selectedTab(), page) << entered;
+  }
 }
 
 TEST_F(DialogPane, ATipSaysWhyAControlIsDimmed) {

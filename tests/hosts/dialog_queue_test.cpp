@@ -202,6 +202,38 @@ TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) 
   EXPECT_EQ(text(u"printerState"_s), u""_s);
 }
 
+TEST_F(DialogPrint, ASectionFoldsAndIsFoundAsItWasLeft) {
+  openReady();
+  const auto header = [this] { return widget<QAbstractButton>(u"job-handlingHeader"_s); };
+  const auto accessible = [&] { return QAccessible::queryAccessibleInterface(header()); };
+  const std::function<void()> ways[] = {
+      [&] { QTest::keyClick(header(), Qt::Key_Space); },
+      [&] { QTest::keyClick(header(), Qt::Key_Return); },
+      [&] { QTest::mouseClick(header(), Qt::LeftButton); },
+      [&] { accessible()->actionInterface()->doAction(QAccessibleActionInterface::pressAction()); },
+  };
+  const QSize size = m_dialog->size();
+  for (const auto& operate : ways) {
+    for (const bool isOpen : {false, true}) {
+      if (!isOpen) widget(u"retentionCheckBox"_s)->setFocus();
+      operate();
+      EXPECT_EQ(widget(u"retentionCheckBox"_s)->isVisible(), isOpen);
+      EXPECT_TRUE(accessible()->state().expanded == isOpen && accessible()->state().collapsed != isOpen);
+      EXPECT_EQ(m_dialog->focusWidget(), header());
+    }
+  }
+  EXPECT_EQ(m_dialog->size(), size);
+  EXPECT_EQ(accessible()->text(QAccessible::Name), u"Job Handling"_s);
+  click(u"retentionCheckBox"_s);
+  await([&] { return accessible()->text(QAccessible::Description) == u"Hold only"_s; }, u"the headline"_s);
+  header()->click();
+  m_dialog->resize(size - QSize(10, 10));
+  m_dialog->reject();
+  openReady();
+  EXPECT_FALSE(header()->isChecked());
+  EXPECT_EQ(m_dialog->size(), size - QSize(10, 10));
+}
+
 TEST_F(DialogPrint, TextsOfOthersStayOnTheirLine) {
   startPrinter();
   changePpd(u"Office_MFP"_s, "*PageSize A5/A5:", "*PageSize A5/A\x9b 5:");
@@ -209,7 +241,10 @@ TEST_F(DialogPrint, TextsOfOthersStayOnTheirLine) {
   const auto* paper = widget<QComboBox>(u"PageSize"_s);
   EXPECT_EQ(paper->itemText(paper->findData(u"A5"_s)), u"A\\x9b 5"_s);
   QueueListModel queues;
-  queues.setQueues({{u"q"_s, u"Floor\n\u202e2"_s, {}, {}, {}}});
+  QueueSummary queue;
+  queue.name = u"q"_s;
+  queue.info = u"Floor\n\u202e2"_s;
+  queues.setQueues({queue});
   EXPECT_EQ(queues.index(0).data(), u"q — Floor\\n\\u202e2"_s);
   QLabel label;
   setPlainText(label, u"Folder\r\u0085 & more"_s);

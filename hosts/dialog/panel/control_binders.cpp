@@ -9,13 +9,12 @@
 #include <QtGui/QStandardItemModel>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QProgressBar>
-#include <QtWidgets/QTabWidget>
 
 #include "hosts/dialog/panel/field_binder.h"
+#include "hosts/dialog/panel/panel_groups.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/tab_order.h"
 #include "panel/model/button.h"
@@ -249,17 +248,12 @@ void bindLabel(TextField& control, QLabel& widget) {
   });
 }
 
-void bindTabs(TabView& control, QTabWidget& widget) {
+void bindTabs(TabView& control, PanelPages& widget) {
   follow(control, widget, [&control, &widget] {
-    for (int i = 0; i < qMin(widget.count(), static_cast<int>(control.labels().size())); ++i) {
-      if (plainText(*widget.widget(i)) == control.labels().at(i)) continue;
-      setPlainText(*widget.widget(i), control.labels().at(i));
-      widget.setTabText(i, control.labels().at(i));
-    }
-    widget.setCurrentIndex(control.selectedTab());
+    widget.setTitles(control.labels());
+    widget.turnTo(control.selectedTab());
   });
-  QObject::connect(&widget, &QTabWidget::currentChanged, &control,
-                   [&control](int index) { control.selectTab(index); });
+  QObject::connect(&widget, &PanelPages::entered, &control, &TabView::selectTab);
 }
 
 void bindProgress(ProgressIndicator& control, QProgressBar& widget) {
@@ -269,8 +263,8 @@ void bindProgress(ProgressIndicator& control, QProgressBar& widget) {
   follow(control, widget, [&control, &widget] { widget.setVisible(!control.isHidden()); });
 }
 
-void bindBox(Box& control, QGroupBox& widget) {
-  follow(control, widget, [&control, &widget] { setPlainText(widget, control.title()); });
+void bindBox(Box& control, PanelGroup& widget) {
+  follow(control, widget, [&control, &widget] { widget.setTitle(control.title()); });
 }
 
 void bindText(TextField& control, QWidget& widget) {

@@ -8,7 +8,6 @@
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -16,6 +15,7 @@
 #include "hosts/dialog/panel/control_binders.h"
 #include "hosts/dialog/panel/dimming_reasons.h"
 #include "hosts/dialog/panel/folder_choice.h"
+#include "hosts/dialog/panel/panel_groups.h"
 #include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "panel/model/button.h"
@@ -63,26 +63,18 @@ constexpr std::array nextEntries{
     NextEntry{"getFolderNameButton", lacksAddress, "printersAddressEditText"},
 };
 
-// The width that the first column of a grid needs by itself, including hidden widgets.
-int firstColumnOf(const QGridLayout& grid) {
-  int widest = 0;
-  for (int i = 0; i < grid.count(); ++i) {
-    int row = 0;
-    int column = 0;
-    int rows = 0;
-    int columns = 0;
-    grid.getItemPosition(i, &row, &column, &rows, &columns);
-    const QWidget* widget = grid.itemAt(i)->widget();
-    if (column == 0 && columns == 1 && widget != nullptr) widest = qMax(widest, widget->sizeHint().width());
+// Makes what stands in one column of pages and boxes.
+class FormLoader : public QUiLoader {
+ public:
+  QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
+    QWidget* made = nullptr;
+    if (className == u"QTabWidget") made = new PanelPages(parent);
+    if (className == u"QGroupBox") made = new PanelGroup(parent);
+    if (made == nullptr) return QUiLoader::createWidget(className, parent, name);
+    made->setObjectName(name);
+    return made;
   }
-  return widest;
-}
-
-// The position of a grid's labels on the page.
-int leftOf(const QGridLayout& grid, const QWidget& page) {
-  const QWidget* parent = grid.parentWidget();
-  return parent->mapTo(&page, parent->contentsRect().topLeft()).x() + grid.contentsMargins().left();
-}
+};
 
 // The texts of a form, which are English.
 QList<std::pair<QWidget*, QString>> textsOf(const QWidget& form) {
@@ -91,10 +83,6 @@ QList<std::pair<QWidget*, QString>> textsOf(const QWidget& form) {
     texts.append({label, label->text()});
   for (auto* button : form.findChildren<QAbstractButton*>())
     texts.append({button, button->text()});
-  for (auto* tabs : form.findChildren<QTabWidget*>()) {
-    for (int i = 0; i < tabs->count(); ++i)
-      texts.append({tabs->widget(i), tabs->tabText(i)});
-  }
   return texts;
 }
 
@@ -113,7 +101,7 @@ PanelPane::PanelPane(PanelView& view) : m_view(&view), m_folderChoice(new Folder
 Outcome PanelPane::make(PanelView& view, const Bundle& bundle, std::unique_ptr<PanelPane>* pane) {
   pane->reset();
   std::unique_ptr<PanelPane> made(new PanelPane(view));
-  QUiLoader loader;
+  FormLoader loader;
   loader.setTranslationEnabled(false);  // the controls supply the texts in the user's language
   loader.setWorkingDirectory(
       QFileInfo(bundle.pathForResource(QStringLiteral("ulck"), QStringLiteral("png"))).dir());
@@ -121,6 +109,11 @@ Outcome PanelPane::make(PanelView& view, const Bundle& bundle, std::unique_ptr<P
   QBuffer buffer(&form);
   QWidget* root = loader.load(&buffer, made.get());
   if (root == nullptr) return Outcome::failed(loader.errorString());
+  for (auto* pages : root->findChildren<PanelPages*>())
+    pages->layOut();
+  root->layout()->setContentsMargins({});
+  for (auto* grid : root->findChildren<QGridLayout*>())
+    grid->setContentsMargins({});
   auto* layout = new QVBoxLayout(made.get());
   layout->setContentsMargins({});
   layout->addWidget(root);
@@ -150,7 +143,6 @@ void PanelPane::bind() {
     QWidget* field = widgetOf(stemOf(label->objectName()) + QStringLiteral("EditText"));
     if (field == nullptr) field = widgetOf(stemOf(label->objectName()) + QStringLiteral("Popup"));
     label->setBuddy(field);
-    label->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
   }
   for (Control* control : m_view->controls()) {
     if (QWidget* widget = widgetOf(control->objectName())) describe(*widget);
@@ -180,23 +172,6 @@ void PanelPane::describeHoldButton(QWidget& button, const QString& stem) {
   const QString label = text == nullptr ? stem : withoutColon(plainText(*text));
   button.setAccessibleName(tr("Lock %1").arg(label));
   button.setProperty("companionOf", field->objectName());
-}
-
-void PanelPane::alignLabels() {
-  for (const auto* tabs : findChildren<QTabWidget*>()) {
-    for (int i = 0; i < tabs->count(); ++i) {
-      const QWidget& page = *tabs->widget(i);
-      const QList<QGridLayout*> grids = page.findChildren<QGridLayout*>();
-      int widest = 0;
-      int inmost = 0;
-      for (const auto* grid : grids) {
-        widest = qMax(widest, firstColumnOf(*grid));
-        inmost = qMax(inmost, leftOf(*grid, page));
-      }
-      for (auto* grid : grids)
-        grid->setColumnMinimumWidth(0, widest + inmost - leftOf(*grid, page));
-    }
-  }
 }
 
 void PanelPane::alignChoices() {
@@ -245,7 +220,7 @@ void PanelPane::sayNothingIsFiled() {
       new QLabel(tr("This printer does not file documents, so the choice of a folder has no effect."));
   note->setObjectName(QStringLiteral("filingNote"));
   note->setWordWrap(true);
-  grid->addWidget(note, grid->rowCount(), 0, 1, grid->columnCount());
+  grid->addWidget(note, grid->rowCount(), 1);
   box->setAccessibleDescription(note->text());
 }
 
@@ -274,10 +249,6 @@ void PanelPane::showEntry(Entry entry) {
   // A locked entry must be unlocked first.
   if (widget != nullptr && !widget->isEnabled()) widget = widgetOf(holdButtonOf(entry));
   if (widget == nullptr) return;
-  for (QWidget* each = widget; each->parentWidget() != nullptr; each = each->parentWidget()) {
-    auto* tabs = qobject_cast<QTabWidget*>(each->parentWidget()->parentWidget());
-    if (tabs != nullptr) tabs->setCurrentWidget(each);
-  }
   widget->setFocus(Qt::OtherFocusReason);
 }
 

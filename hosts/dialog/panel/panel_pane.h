@@ -25,13 +25,11 @@ class PanelPane : public QWidget {
   /// Loads the panel's form, with images from the bundle's resources. On failure `*pane` is null.
   static Outcome make(PanelView& view, const Bundle& bundle, std::unique_ptr<PanelPane>* pane);
 
-  /// Aligns the labels of all groups on a page. Call this when they have their final texts.
-  void alignLabels();
   /// After a restore, brings choices in step that the form offers twice.
   void alignChoices();
   /// Says beside the choice of a folder that it has no effect on the job.
   void sayNothingIsFiled();
-  /// Shows the page of the entry that is missing in a refused job, and puts the focus there.
+  /// Puts the focus on the entry that is missing in a refused job.
   void showEntry(Entry entry);
 
  Q_SIGNALS:

@@ -11,11 +11,7 @@
 namespace kesto {
 
 SummaryPane::SummaryPane(QWidget* parent)
-    : QScrollArea(parent),
-      m_form(new QFormLayout),
-      m_ask(new QPushButton(this)),
-      m_privacy(new QLabel(this)) {
-  auto* page = new QWidget(this);
+    : QWidget(parent), m_form(new QFormLayout), m_ask(new QPushButton(this)), m_privacy(new QLabel(this)) {
   m_form->setLabelAlignment(Qt::AlignTrailing);
   setPlainText(*m_ask, tr("Who can see this job?"));
   m_ask->setAutoDefault(false);
@@ -25,7 +21,7 @@ SummaryPane::SummaryPane(QWidget* parent)
   m_privacy->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   m_privacy->setObjectName(QStringLiteral("privacyText"));
   m_privacy->hide();
-  auto* column = new QVBoxLayout(page);
+  auto* column = new QVBoxLayout(this);
   column->addLayout(m_form);
   column->addWidget(m_ask, 0, Qt::AlignLeading);
   column->addWidget(m_privacy);
@@ -34,9 +30,6 @@ SummaryPane::SummaryPane(QWidget* parent)
     m_ask->setEnabled(false);
     Q_EMIT privacyAsked();
   });
-  setWidget(page);
-  setWidgetResizable(true);
-  setFrameShape(QFrame::NoFrame);
   setAccessibleName(tr("Summary"));
 }
 

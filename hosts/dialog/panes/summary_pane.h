@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QtCore/QList>
-#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QWidget>
 
 #include "hosts/cups/job_privacy.h"
 
@@ -14,7 +14,7 @@ namespace kesto {
 
 /// Labels with their values, in their order; below them, when it is asked for, what other users see
 /// of the job.
-class SummaryPane : public QScrollArea {
+class SummaryPane : public QWidget {
   Q_OBJECT
 
  public:

@@ -42,6 +42,8 @@ class Preview : public QWidget {
   PageSequence pages() const;
   /// Why they cannot be saved as PDF, in a sentence; null when nothing is known against it.
   QString saveFault() const;
+  /// The line that says how much paper the job takes. It stands below the preview unless it is moved.
+  QLabel* total() const { return m_total; }
   QSize sizeHint() const override;
 
  Q_SIGNALS:

@@ -954,6 +954,17 @@
     </message>
 </context>
 <context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>Deckblatt vorher</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>Deckblatt nachher</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1319,6 +1330,44 @@
     </message>
 </context>
 <context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>Um</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>Geben Sie eine Uhrzeit ein, zum Beispiel 14:30.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1353,6 +1402,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>Ausgewählte Seiten</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>Das Dokument endet auf Seite %1. Gedruckt wird: %2.</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1377,6 +1445,37 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>Entsperrt: Dieser Eintrag gilt nur für diesen Auftrag.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>Eigene Größe</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>Geben Sie eine Breite zwischen %1 und %2 %3 ein.</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>Geben Sie eine Höhe zwischen %1 und %2 %3 ein.</translation>
     </message>
 </context>
 <context>
@@ -1431,6 +1530,21 @@
     <message>
         <source>%1 cannot be saved. %2</source>
         <translation>%1 kann nicht gespeichert werden. %2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>Geben Sie einen Prozentsatz zwischen %1 und %2 ein.</translation>
     </message>
 </context>
 <context>
@@ -1597,6 +1711,10 @@
         <translation>Auftrag wird abgebrochen …</translation>
     </message>
     <message>
+        <source>Not held</source>
+        <translation>Nicht zurückgehalten</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>Als PDF speichern</translation>
     </message>
@@ -1679,6 +1797,14 @@
         <translation>Bereit</translation>
     </message>
     <message>
+        <source>1 job waiting</source>
+        <translation>1 Auftrag wartet</translation>
+    </message>
+    <message>
+        <source>%1 jobs waiting</source>
+        <translation>%1 Aufträge warten</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>Als PDF speichern</translation>
     </message>
@@ -1714,120 +1840,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Andere Benutzer können sehen: %1. Um dies zu verbergen, fügen Sie der Richtlinie „%2“ des Druckservers diese Zeilen hinzu:</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CoverControl</name>
-    <message>
-        <source>Cover sheet before</source>
-        <translation>Deckblatt vorher</translation>
-    </message>
-    <message>
-        <source>Cover sheet after</source>
-        <translation>Deckblatt nachher</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::HoldControl</name>
-    <message>
-        <source>Time</source>
-        <translation>Uhrzeit</translation>
-    </message>
-    <message>
-        <source>At</source>
-        <translation>Um</translation>
-    </message>
-    <message>
-        <source>Enter a time of day, for example 14:30.</source>
-        <translation>Geben Sie eine Uhrzeit ein, zum Beispiel 14:30.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::OptionPane</name>
-    <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>Layout</translation>
-    </message>
-    <message>
-        <source>Job</source>
-        <translation>Auftrag</translation>
-    </message>
-    <message>
-        <source>More options</source>
-        <translation>Weitere Optionen</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PagesControl</name>
-    <message>
-        <source>All pages</source>
-        <translation>Alle Seiten</translation>
-    </message>
-    <message>
-        <source>Selected pages</source>
-        <translation>Ausgewählte Seiten</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>Das Dokument endet auf Seite %1. Gedruckt wird: %2.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PaperControl</name>
-    <message>
-        <source>Width</source>
-        <translation>Breite</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>Höhe</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <translation>Zoll</translation>
-    </message>
-    <message>
-        <source>Custom size</source>
-        <translation>Eigene Größe</translation>
-    </message>
-    <message>
-        <source>Enter a width between %1 and %2 %3.</source>
-        <translation>Geben Sie eine Breite zwischen %1 und %2 %3 ein.</translation>
-    </message>
-    <message>
-        <source>Enter a height between %1 and %2 %3.</source>
-        <translation>Geben Sie eine Höhe zwischen %1 und %2 %3 ein.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PercentControl</name>
-    <message>
-        <source>Percent</source>
-        <translation>Prozent</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Benutzerdefiniert</translation>
-    </message>
-    <message>
-        <source>Enter a percentage between %1 and %2.</source>
-        <translation>Geben Sie einen Prozentsatz zwischen %1 und %2 ein.</translation>
     </message>
 </context>
 </TS>

@@ -954,6 +954,17 @@
     </message>
 </context>
 <context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>Portada antes</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>Portada después</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1319,6 +1330,44 @@
     </message>
 </context>
 <context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>A las</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>Introduzca una hora, por ejemplo 14:30.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Diseño</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>Más opciones</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1353,6 +1402,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>Todas las páginas</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>Páginas seleccionadas</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>El documento termina en la página %1. Páginas que se imprimirán: %2.</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1377,6 +1445,37 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>Desbloqueado: este dato vale solo para este trabajo.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>Tamaño personalizado</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>Introduzca un ancho entre %1 y %2 %3.</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>Introduzca un alto entre %1 y %2 %3.</translation>
     </message>
 </context>
 <context>
@@ -1431,6 +1530,21 @@
     <message>
         <source>%1 cannot be saved. %2</source>
         <translation>%1 no se puede guardar. %2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>Porcentaje</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizada</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>Introduzca un porcentaje entre %1 y %2.</translation>
     </message>
 </context>
 <context>
@@ -1597,6 +1711,10 @@
         <translation>Cancelando el trabajo…</translation>
     </message>
     <message>
+        <source>Not held</source>
+        <translation>No se retiene</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>Guardar como PDF</translation>
     </message>
@@ -1679,6 +1797,14 @@
         <translation>Lista</translation>
     </message>
     <message>
+        <source>1 job waiting</source>
+        <translation>1 trabajo en espera</translation>
+    </message>
+    <message>
+        <source>%1 jobs waiting</source>
+        <translation>%1 trabajos en espera</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>Guardar como PDF</translation>
     </message>
@@ -1714,120 +1840,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Los demás usuarios pueden ver %1. Para ocultarlo, añada estas líneas a la política «%2» del servidor de impresión:</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CoverControl</name>
-    <message>
-        <source>Cover sheet before</source>
-        <translation>Portada antes</translation>
-    </message>
-    <message>
-        <source>Cover sheet after</source>
-        <translation>Portada después</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::HoldControl</name>
-    <message>
-        <source>Time</source>
-        <translation>Hora</translation>
-    </message>
-    <message>
-        <source>At</source>
-        <translation>A las</translation>
-    </message>
-    <message>
-        <source>Enter a time of day, for example 14:30.</source>
-        <translation>Introduzca una hora, por ejemplo 14:30.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::OptionPane</name>
-    <message>
-        <source>General</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>Diseño</translation>
-    </message>
-    <message>
-        <source>Job</source>
-        <translation>Trabajo</translation>
-    </message>
-    <message>
-        <source>More options</source>
-        <translation>Más opciones</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PagesControl</name>
-    <message>
-        <source>All pages</source>
-        <translation>Todas las páginas</translation>
-    </message>
-    <message>
-        <source>Selected pages</source>
-        <translation>Páginas seleccionadas</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>El documento termina en la página %1. Páginas que se imprimirán: %2.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PaperControl</name>
-    <message>
-        <source>Width</source>
-        <translation>Ancho</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>Alto</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <translation>in</translation>
-    </message>
-    <message>
-        <source>Custom size</source>
-        <translation>Tamaño personalizado</translation>
-    </message>
-    <message>
-        <source>Enter a width between %1 and %2 %3.</source>
-        <translation>Introduzca un ancho entre %1 y %2 %3.</translation>
-    </message>
-    <message>
-        <source>Enter a height between %1 and %2 %3.</source>
-        <translation>Introduzca un alto entre %1 y %2 %3.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PercentControl</name>
-    <message>
-        <source>Percent</source>
-        <translation>Porcentaje</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizada</translation>
-    </message>
-    <message>
-        <source>Enter a percentage between %1 and %2.</source>
-        <translation>Introduzca un porcentaje entre %1 y %2.</translation>
     </message>
 </context>
 </TS>

@@ -954,6 +954,17 @@
     </message>
 </context>
 <context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>Page de couverture avant</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>Page de couverture après</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1319,6 +1330,44 @@
     </message>
 </context>
 <context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>À</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>Saisissez une heure, par exemple 14:30.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Travail</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>Autres options</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrer</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1353,6 +1402,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>Toutes les pages</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>Pages sélectionnées</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>Le document se termine à la page %1. Pages qui seront imprimées&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1377,6 +1445,37 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>Déverrouillé&#xa0;: cette saisie ne vaut que pour ce travail.</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>po</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>Taille personnalisée</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>Saisissez une largeur comprise entre %1 et %2 %3.</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>Saisissez une hauteur comprise entre %1 et %2 %3.</translation>
     </message>
 </context>
 <context>
@@ -1431,6 +1530,21 @@
     <message>
         <source>%1 cannot be saved. %2</source>
         <translation>%1 ne peut pas être enregistré. %2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>Pourcentage</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisée</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>Saisissez un pourcentage compris entre %1 et %2.</translation>
     </message>
 </context>
 <context>
@@ -1597,6 +1711,10 @@
         <translation>Annulation du travail…</translation>
     </message>
     <message>
+        <source>Not held</source>
+        <translation>Non conservé</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>Enregistrer au format PDF</translation>
     </message>
@@ -1679,6 +1797,14 @@
         <translation>Prête</translation>
     </message>
     <message>
+        <source>1 job waiting</source>
+        <translation>1 travail en attente</translation>
+    </message>
+    <message>
+        <source>%1 jobs waiting</source>
+        <translation>%1 travaux en attente</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>Enregistrer au format PDF</translation>
     </message>
@@ -1714,120 +1840,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Les autres utilisateurs peuvent voir %1. Pour le masquer, ajoutez ces lignes à la politique «&#xa0;%2&#xa0;» du serveur d’impression&#xa0;:</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CoverControl</name>
-    <message>
-        <source>Cover sheet before</source>
-        <translation>Page de couverture avant</translation>
-    </message>
-    <message>
-        <source>Cover sheet after</source>
-        <translation>Page de couverture après</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::HoldControl</name>
-    <message>
-        <source>Time</source>
-        <translation>Heure</translation>
-    </message>
-    <message>
-        <source>At</source>
-        <translation>À</translation>
-    </message>
-    <message>
-        <source>Enter a time of day, for example 14:30.</source>
-        <translation>Saisissez une heure, par exemple 14:30.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::OptionPane</name>
-    <message>
-        <source>General</source>
-        <translation>Général</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>Mise en page</translation>
-    </message>
-    <message>
-        <source>Job</source>
-        <translation>Travail</translation>
-    </message>
-    <message>
-        <source>More options</source>
-        <translation>Autres options</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtrer</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PagesControl</name>
-    <message>
-        <source>All pages</source>
-        <translation>Toutes les pages</translation>
-    </message>
-    <message>
-        <source>Selected pages</source>
-        <translation>Pages sélectionnées</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>Le document se termine à la page %1. Pages qui seront imprimées&#xa0;: %2.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PaperControl</name>
-    <message>
-        <source>Width</source>
-        <translation>Largeur</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>Hauteur</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <translation>po</translation>
-    </message>
-    <message>
-        <source>Custom size</source>
-        <translation>Taille personnalisée</translation>
-    </message>
-    <message>
-        <source>Enter a width between %1 and %2 %3.</source>
-        <translation>Saisissez une largeur comprise entre %1 et %2 %3.</translation>
-    </message>
-    <message>
-        <source>Enter a height between %1 and %2 %3.</source>
-        <translation>Saisissez une hauteur comprise entre %1 et %2 %3.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PercentControl</name>
-    <message>
-        <source>Percent</source>
-        <translation>Pourcentage</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personnalisée</translation>
-    </message>
-    <message>
-        <source>Enter a percentage between %1 and %2.</source>
-        <translation>Saisissez un pourcentage compris entre %1 et %2.</translation>
     </message>
 </context>
 </TS>

@@ -954,6 +954,17 @@
     </message>
 </context>
 <context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>前の表紙</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>後の表紙</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1318,6 +1329,44 @@
     </message>
 </context>
 <context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>時刻を指定</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>時刻を入力してください (例: 14:30)。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>レイアウト</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>その他のオプション</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>フィルター</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1352,6 +1401,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>すべてのページ</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>指定したページ</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>文書は %1 ページまでです。印刷されるページ: %2。</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1376,6 +1444,37 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>ロック解除: この入力内容はこのジョブだけに使われます。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>カスタムサイズ</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>%1 ～ %2 %3 の幅を入力してください。</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>%1 ～ %2 %3 の高さを入力してください。</translation>
     </message>
 </context>
 <context>
@@ -1430,6 +1529,21 @@
     <message>
         <source>%1 cannot be saved. %2</source>
         <translation>%1 を保存できません。%2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>パーセント</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>%1 ～ %2 のパーセント値を入力してください。</translation>
     </message>
 </context>
 <context>
@@ -1596,6 +1710,10 @@
         <translation>ジョブをキャンセルしています…</translation>
     </message>
     <message>
+        <source>Not held</source>
+        <translation>保留しない</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>PDF として保存</translation>
     </message>
@@ -1678,6 +1796,14 @@
         <translation>準備完了</translation>
     </message>
     <message>
+        <source>1 job waiting</source>
+        <translation>1 件のジョブが待機中</translation>
+    </message>
+    <message>
+        <source>%1 jobs waiting</source>
+        <translation>%1 件のジョブが待機中</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>PDF として保存</translation>
     </message>
@@ -1713,120 +1839,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>他のユーザーに見える内容: %1。隠すには、プリントサーバーのポリシー「%2」に次の行を追加してください:</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CoverControl</name>
-    <message>
-        <source>Cover sheet before</source>
-        <translation>前の表紙</translation>
-    </message>
-    <message>
-        <source>Cover sheet after</source>
-        <translation>後の表紙</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::HoldControl</name>
-    <message>
-        <source>Time</source>
-        <translation>時刻</translation>
-    </message>
-    <message>
-        <source>At</source>
-        <translation>時刻を指定</translation>
-    </message>
-    <message>
-        <source>Enter a time of day, for example 14:30.</source>
-        <translation>時刻を入力してください (例: 14:30)。</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::OptionPane</name>
-    <message>
-        <source>General</source>
-        <translation>全般</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>レイアウト</translation>
-    </message>
-    <message>
-        <source>Job</source>
-        <translation>ジョブ</translation>
-    </message>
-    <message>
-        <source>More options</source>
-        <translation>その他のオプション</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>フィルター</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PagesControl</name>
-    <message>
-        <source>All pages</source>
-        <translation>すべてのページ</translation>
-    </message>
-    <message>
-        <source>Selected pages</source>
-        <translation>指定したページ</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>文書は %1 ページまでです。印刷されるページ: %2。</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PaperControl</name>
-    <message>
-        <source>Width</source>
-        <translation>幅</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>高さ</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <translation>インチ</translation>
-    </message>
-    <message>
-        <source>Custom size</source>
-        <translation>カスタムサイズ</translation>
-    </message>
-    <message>
-        <source>Enter a width between %1 and %2 %3.</source>
-        <translation>%1 ～ %2 %3 の幅を入力してください。</translation>
-    </message>
-    <message>
-        <source>Enter a height between %1 and %2 %3.</source>
-        <translation>%1 ～ %2 %3 の高さを入力してください。</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PercentControl</name>
-    <message>
-        <source>Percent</source>
-        <translation>パーセント</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>カスタム</translation>
-    </message>
-    <message>
-        <source>Enter a percentage between %1 and %2.</source>
-        <translation>%1 ～ %2 のパーセント値を入力してください。</translation>
     </message>
 </context>
 </TS>

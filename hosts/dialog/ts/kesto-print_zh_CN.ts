@@ -954,6 +954,17 @@
     </message>
 </context>
 <context>
+    <name>kesto::CoverControl</name>
+    <message>
+        <source>Cover sheet before</source>
+        <translation>前置封面</translation>
+    </message>
+    <message>
+        <source>Cover sheet after</source>
+        <translation>后置封面</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1318,6 +1329,44 @@
     </message>
 </context>
 <context>
+    <name>kesto::HoldControl</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>定时</translation>
+    </message>
+    <message>
+        <source>Enter a time of day, for example 14:30.</source>
+        <translation>请输入时间，例如 14:30。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::OptionPane</name>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>作业</translation>
+    </message>
+    <message>
+        <source>More options</source>
+        <translation>更多选项</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PageImages</name>
     <message>
         <source>No preview is available because drawing the page takes too long.</source>
@@ -1352,6 +1401,25 @@
     </message>
 </context>
 <context>
+    <name>kesto::PagesControl</name>
+    <message>
+        <source>All pages</source>
+        <translation>所有页面</translation>
+    </message>
+    <message>
+        <source>Selected pages</source>
+        <translation>选定页面</translation>
+    </message>
+    <message>
+        <source>1-3, 5</source>
+        <translation>1-3, 5</translation>
+    </message>
+    <message>
+        <source>The document ends at page %1. Pages that will be printed: %2.</source>
+        <translation>文档到第 %1 页为止。将打印的页面：%2。</translation>
+    </message>
+</context>
+<context>
     <name>kesto::PanelPane</name>
     <message>
         <source>Lock %1</source>
@@ -1376,6 +1444,37 @@
     <message>
         <source>Unlocked: this entry is for this job only.</source>
         <translation>未锁定：此内容仅用于此作业。</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PaperControl</name>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>毫米</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>自定义大小</translation>
+    </message>
+    <message>
+        <source>Enter a width between %1 and %2 %3.</source>
+        <translation>请输入 %1 到 %2 %3之间的宽度。</translation>
+    </message>
+    <message>
+        <source>Enter a height between %1 and %2 %3.</source>
+        <translation>请输入 %1 到 %2 %3之间的高度。</translation>
     </message>
 </context>
 <context>
@@ -1430,6 +1529,21 @@
     <message>
         <source>%1 cannot be saved. %2</source>
         <translation>无法保存 %1。%2</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::PercentControl</name>
+    <message>
+        <source>Percent</source>
+        <translation>百分比</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Enter a percentage between %1 and %2.</source>
+        <translation>请输入 %1 到 %2 之间的百分比。</translation>
     </message>
 </context>
 <context>
@@ -1596,6 +1710,10 @@
         <translation>正在取消作业…</translation>
     </message>
     <message>
+        <source>Not held</source>
+        <translation>不保留</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>另存为 PDF</translation>
     </message>
@@ -1678,6 +1796,14 @@
         <translation>就绪</translation>
     </message>
     <message>
+        <source>1 job waiting</source>
+        <translation>1 个作业正在等待</translation>
+    </message>
+    <message>
+        <source>%1 jobs waiting</source>
+        <translation>%1 个作业正在等待</translation>
+    </message>
+    <message>
         <source>Save as PDF</source>
         <translation>另存为 PDF</translation>
     </message>
@@ -1713,120 +1839,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>其他用户可以看到%1。要隐藏这些内容，请在打印服务器的策略“%2”中添加以下几行：</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CoverControl</name>
-    <message>
-        <source>Cover sheet before</source>
-        <translation>前置封面</translation>
-    </message>
-    <message>
-        <source>Cover sheet after</source>
-        <translation>后置封面</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::HoldControl</name>
-    <message>
-        <source>Time</source>
-        <translation>时间</translation>
-    </message>
-    <message>
-        <source>At</source>
-        <translation>定时</translation>
-    </message>
-    <message>
-        <source>Enter a time of day, for example 14:30.</source>
-        <translation>请输入时间，例如 14:30。</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::OptionPane</name>
-    <message>
-        <source>General</source>
-        <translation>常规</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>布局</translation>
-    </message>
-    <message>
-        <source>Job</source>
-        <translation>作业</translation>
-    </message>
-    <message>
-        <source>More options</source>
-        <translation>更多选项</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>筛选</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PagesControl</name>
-    <message>
-        <source>All pages</source>
-        <translation>所有页面</translation>
-    </message>
-    <message>
-        <source>Selected pages</source>
-        <translation>选定页面</translation>
-    </message>
-    <message>
-        <source>1-3, 5</source>
-        <translation>1-3, 5</translation>
-    </message>
-    <message>
-        <source>The document ends at page %1. Pages that will be printed: %2.</source>
-        <translation>文档到第 %1 页为止。将打印的页面：%2。</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PaperControl</name>
-    <message>
-        <source>Width</source>
-        <translation>宽度</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>高度</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>毫米</translation>
-    </message>
-    <message>
-        <source>in</source>
-        <translation>英寸</translation>
-    </message>
-    <message>
-        <source>Custom size</source>
-        <translation>自定义大小</translation>
-    </message>
-    <message>
-        <source>Enter a width between %1 and %2 %3.</source>
-        <translation>请输入 %1 到 %2 %3之间的宽度。</translation>
-    </message>
-    <message>
-        <source>Enter a height between %1 and %2 %3.</source>
-        <translation>请输入 %1 到 %2 %3之间的高度。</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PercentControl</name>
-    <message>
-        <source>Percent</source>
-        <translation>百分比</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>自定义</translation>
-    </message>
-    <message>
-        <source>Enter a percentage between %1 and %2.</source>
-        <translation>请输入 %1 到 %2 之间的百分比。</translation>
     </message>
 </context>
 </TS>

@@ -1,13 +1,11 @@
 #include "hosts/dialog/user/dialog_user.h"
 
-#include <QtCore/QList>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionButton>
-#include <QtWidgets/QTabBar>
-#include <QtWidgets/QTabWidget>
 
 namespace kesto {
 namespace {
@@ -22,22 +20,30 @@ QPoint placeToClick(const QWidget& widget) {
 
 }  // namespace
 
+// A folded section may hold it, or be about to.
+QWidget* DialogUser::unfoldTo(const QString& name) {
+  const auto isSeen = [](const QWidget* widget) { return widget != nullptr && widget->isVisible(); };
+  auto* widget = m_window.findChild<QWidget*>(name);
+  for (auto* header : m_window.findChildren<QAbstractButton*>()) {
+    if (isSeen(widget)) break;
+    const bool isHeader = header->objectName().endsWith(QLatin1String("Header"));
+    if (!isHeader || !header->isVisible() || header->isChecked()) continue;
+    if (widget != nullptr && !header->parentWidget()->isAncestorOf(widget)) continue;
+    QTest::mouseClick(header, Qt::LeftButton);
+    widget = m_window.findChild<QWidget*>(name);
+  }
+  return widget;
+}
+
 Outcome DialogUser::turnTo(const QString& name, QWidget** widget) {
-  *widget = m_window.findChild<QWidget*>(name);
+  QCoreApplication::processEvents();  // a person sees what is laid out
+  *widget = unfoldTo(name);
   if (*widget == nullptr) return Outcome::failed(QStringLiteral("there is no %1").arg(name));
-  QList<std::pair<QTabWidget*, QWidget*>> turns;  // outermost first
-  for (QWidget* each = *widget; each != &m_window && each->parentWidget() != nullptr;
-       each = each->parentWidget()) {
-    auto* tabs = qobject_cast<QTabWidget*>(each->parentWidget()->parentWidget());
-    if (tabs != nullptr && tabs->indexOf(each) >= 0) turns.prepend({tabs, each});
-  }
-  for (const auto& [tabs, page] : turns) {
-    if (tabs->currentWidget() == page) continue;
-    const QRect tab = tabs->tabBar()->tabRect(tabs->indexOf(page));
-    QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tab.center());
-  }
   if (!(*widget)->isVisible()) return Outcome::failed(QStringLiteral("%1 is not seen").arg(name));
   if (!(*widget)->isEnabled()) return Outcome::failed(QStringLiteral("%1 is dimmed").arg(name));
+  for (QWidget* each = (*widget)->parentWidget(); each != nullptr; each = each->parentWidget()) {
+    if (auto* area = qobject_cast<QScrollArea*>(each)) area->ensureWidgetVisible(*widget);
+  }
   return Outcome::done();
 }
 
@@ -51,8 +57,16 @@ Outcome DialogUser::click(const QString& name) {
 Outcome DialogUser::type(const QString& name, const QString& text) {
   if (Outcome clicked = click(name); !clicked) return clicked;
   QWidget* focused = m_window.focusWidget();
+  if (focused == nullptr || focused->objectName() != name) {
+    // The window was still being laid out.
+    QTest::qWait(50);
+    if (Outcome clicked = click(name); !clicked) return clicked;
+    focused = m_window.focusWidget();
+  }
   if (focused == nullptr || focused->objectName() != name)
-    return Outcome::failed(QStringLiteral("%1 does not take the focus").arg(name));
+    return Outcome::failed(
+        QStringLiteral("%1 does not take the focus, %2 has it")
+            .arg(name, focused == nullptr ? QStringLiteral("nothing") : focused->objectName()));
   QTest::keyClicks(focused, text);
   return Outcome::done();
 }

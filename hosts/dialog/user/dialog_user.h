@@ -16,7 +16,7 @@ class DialogUser {
  public:
   explicit DialogUser(QWidget& window) : m_window(window) {}
 
-  /// Clicks a button, a check box or a radio button, after turning to its page.
+  /// Clicks a button, a check box or a radio button, after unfolding its section.
   Outcome click(const QString& name);
   /// Clicks into a field and types into it.
   Outcome type(const QString& name, const QString& text);
@@ -24,12 +24,14 @@ class DialogUser {
   Outcome replace(const QString& name, const QString& text);
   /// Chooses an item of a list with keys.
   Outcome choose(const QString& name, int index);
-  /// Turns to the page of a widget with clicks on tabs.
+  /// Unfolds the section of a widget and scrolls to it.
   Outcome turnTo(const QString& name, QWidget** widget);
   /// Handles events until a condition holds, for at most this many milliseconds.
   static Outcome waitUntil(const std::function<bool()>& isSo, const QString& what, int milliseconds = 30000);
 
  private:
+  QWidget* unfoldTo(const QString& name);
+
   QWidget& m_window;
 };
 

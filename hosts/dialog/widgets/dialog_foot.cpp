@@ -1,26 +1,23 @@
 #include "hosts/dialog/widgets/dialog_foot.h"
 
-#include <QtGui/QAccessible>
 #include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QLabel>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
 #include "hosts/dialog/widgets/plain_text.h"
-#include "platform/shown_text.h"
 
 namespace kesto {
 
 DialogFoot::DialogFoot(QWidget* parent)
     : QWidget(parent),
-      m_message(new QLabel(this)),
+      m_bar(new MessageBar(this)),
+      m_leading(new QHBoxLayout),
       m_progress(new QProgressBar(this)),
       m_buttons(new QDialogButtonBox(QDialogButtonBox::Help | QDialogButtonBox::Cancel, this)),
       m_print(m_buttons->addButton(QString(), QDialogButtonBox::AcceptRole)) {
-  m_message->setTextFormat(Qt::PlainText);
-  m_message->setWordWrap(true);
-  m_message->setObjectName(QStringLiteral("message"));
   m_progress->setAccessibleName(tr("Sending the job"));
   m_progress->hide();
   m_print->setObjectName(QStringLiteral("print"));
@@ -28,23 +25,35 @@ DialogFoot::DialogFoot(QWidget* parent)
   setPlainText(*m_print, tr("Print"));
   setPlainText(*m_buttons->button(QDialogButtonBox::Help), tr("Help"));
   setPlainText(*m_buttons->button(QDialogButtonBox::Cancel), tr("Cancel"));
+  dressButtons();
+  auto* row = new QHBoxLayout;
+  row->addLayout(m_leading);
+  row->addStretch();
+  row->addWidget(m_buttons);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
-  column->addWidget(m_message);
+  column->addWidget(m_bar);
   column->addWidget(m_progress);
-  column->addWidget(m_buttons);
+  column->addLayout(row);
   connect(m_buttons, &QDialogButtonBox::accepted, this, &DialogFoot::printPressed);
   connect(m_buttons, &QDialogButtonBox::rejected, this, &DialogFoot::cancelPressed);
   connect(m_buttons, &QDialogButtonBox::helpRequested, this, &DialogFoot::helpPressed);
 }
 
-void DialogFoot::showMessage(const QString& message) {
-  const QString text = shownText(message);
-  m_message->setText(text);
-  m_message->setAccessibleName(text);
-  if (text.isEmpty()) return;
-  QAccessibleEvent event(m_message, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+// The style gives icons to the standard buttons alone, and Print is none of these.
+void DialogFoot::dressButtons() {
+  const QIcon icon = QIcon::fromTheme(QStringLiteral("document-print"));
+  const bool haveIcons =
+      style()->styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons, nullptr, m_buttons) != 0 &&
+      !icon.isNull();
+  if (haveIcons) return m_print->setIcon(icon);
+  for (QAbstractButton* button : m_buttons->buttons())
+    button->setIcon({});
+}
+
+void DialogFoot::addLeading(QWidget* widget) {
+  m_leading->addWidget(widget);
+  widget->lower();  // Tab comes to it before the buttons
 }
 
 void DialogFoot::showProgress(bool isShown) {

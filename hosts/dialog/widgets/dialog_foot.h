@@ -1,10 +1,10 @@
-// The foot of a print dialog: messages, the progress of the job, and the buttons.
+// The foot of a print dialog: messages, the progress of the job, its paper, and the buttons.
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include "hosts/dialog/widgets/message_bar.h"
 
 class QDialogButtonBox;
-class QLabel;
+class QHBoxLayout;
 class QProgressBar;
 class QPushButton;
 
@@ -17,10 +17,12 @@ class DialogFoot : public QWidget {
  public:
   explicit DialogFoot(QWidget* parent);
 
+  /// Takes a widget over, before the buttons.
+  void addLeading(QWidget* widget);
+
   /// The default button of the window.
   QPushButton& printButton() { return *m_print; }
-  /// Shows a message and lets assistive technology read it out; an empty one hides it.
-  void showMessage(const QString& message);
+  MessageBar& bar() { return *m_bar; }
   /// Shows or hides the progress of a job, at first without a known extent.
   void showProgress(bool isShown);
   /// Shows how many bytes of a document were sent; the total is -1 when unknown.
@@ -34,7 +36,10 @@ class DialogFoot : public QWidget {
   void helpPressed();
 
  private:
-  QLabel* m_message;
+  void dressButtons();
+
+  MessageBar* m_bar;
+  QHBoxLayout* m_leading;
   QProgressBar* m_progress;
   QDialogButtonBox* m_buttons;
   QPushButton* m_print;

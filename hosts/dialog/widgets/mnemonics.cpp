@@ -5,10 +5,8 @@
 #include <QtCore/QSet>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTabWidget>
 #include <algorithm>
 
 #include "hosts/dialog/widgets/plain_text.h"
@@ -134,9 +132,7 @@ QString withMnemonic(const QString& text, QChar letter) {
 
 // Whether the letters below a widget are given apart from those around it.
 bool isScope(const QWidget& widget) {
-  const QWidget* parent = widget.parentWidget();
-  const bool isPage = parent != nullptr && qobject_cast<const QTabWidget*>(parent->parentWidget()) != nullptr;
-  return widget.property(textsProperty).isValid() || (isPage && parent->inherits("QStackedWidget"));
+  return widget.property(textsProperty).isValid();
 }
 
 const QWidget* scopeOf(const QWidget& widget) {
@@ -149,7 +145,6 @@ const QWidget* scopeOf(const QWidget& widget) {
 bool takesMnemonic(const QWidget& widget) {
   const auto* label = qobject_cast<const QLabel*>(&widget);
   return !plainText(widget).isEmpty() && !widget.property(exceptProperty).toBool() && !isScope(widget) &&
-         qobject_cast<const QGroupBox*>(&widget) == nullptr &&
          (label == nullptr || label->buddy() != nullptr);
 }
 
@@ -163,52 +158,38 @@ void giveCompanion(const QWidget& field, const QString& text) {
   }
 }
 
-// A widget or a tab that has a text.
-struct Place {
-  QWidget* widget = nullptr;  // for a tab, its page
-  QTabWidget* tabs = nullptr;
+// The dialog's buttons come first, before them the one that Enter presses; then the fields.
+int rankOf(const QWidget* widget) {
+  const auto* button = qobject_cast<const QPushButton*>(widget);
+  if (button != nullptr && button->isDefault()) return 0;
+  if (qobject_cast<const QDialogButtonBox*>(widget->parentWidget()) != nullptr) return 1;
+  return qobject_cast<const QLabel*>(widget) != nullptr ? 2 : 3;
+}
 
-  QString text() const { return plainText(*widget); }
-  // The dialog's buttons come first, before them the one that Enter presses; then the fields.
-  int rank() const {
-    const auto* button = qobject_cast<const QPushButton*>(widget);
-    if (button != nullptr && button->isDefault()) return 0;
-    if (qobject_cast<const QDialogButtonBox*>(widget->parentWidget()) != nullptr) return 1;
-    return qobject_cast<const QLabel*>(widget) != nullptr ? 2 : 3;
-  }
-  void show(const QString& text) const {
-    if (tabs != nullptr) return tabs->setTabText(tabs->indexOf(widget), text);
-    showMarkedText(*widget, text);
-    if (const auto* label = qobject_cast<QLabel*>(widget)) giveCompanion(*label->buddy(), text);
-  }
-};
-
-std::vector<Place> placesOf(QWidget& scope) {
-  std::vector<Place> places;
-  for (auto* widget : scope.findChildren<QWidget*>()) {
-    if (scopeOf(*widget) != &scope) continue;
-    if (takesMnemonic(*widget)) places.push_back({widget, nullptr});
-    auto* tabs = qobject_cast<QTabWidget*>(widget);
-    for (int i = 0; tabs != nullptr && i < tabs->count(); ++i)
-      places.push_back({tabs->widget(i), tabs});
-  }
-  std::ranges::stable_sort(places, {}, &Place::rank);
+QWidgetList placesOf(QWidget& scope) {
+  QWidgetList places = scope.findChildren<QWidget*>();
+  places.removeIf([&](const QWidget* each) { return scopeOf(*each) != &scope || !takesMnemonic(*each); });
+  std::ranges::stable_sort(places, {}, &rankOf);
   return places;
 }
 
 void assign(QWidget& scope, Letters taken) {
-  const std::vector<Place> places = placesOf(scope);
+  const QWidgetList places = placesOf(scope);
   QStringList texts = scope.property(textsProperty).toStringList();
   QHash<QString, QChar> letters = Assignment(texts, taken).letters();
   taken.unite(lettersIn(letters));
   texts.clear();
-  for (const Place& place : places) {
-    if (!letters.contains(withoutColon(place.text()))) texts.append(withoutColon(place.text()));
+  for (const QWidget* place : places) {
+    if (!letters.contains(withoutColon(plainText(*place)))) texts.append(withoutColon(plainText(*place)));
   }
   letters.insert(Assignment(texts, taken).letters());
   taken.unite(lettersIn(letters));
-  for (const Place& place : places)
-    place.show(withMnemonic(place.text(), letters.take(withoutColon(place.text()))));
+  for (QWidget* place : places) {
+    const QString text = plainText(*place);
+    const QString marked = withMnemonic(text, letters.take(withoutColon(text)));
+    showMarkedText(*place, marked);
+    if (const auto* label = qobject_cast<QLabel*>(place)) giveCompanion(*label->buddy(), marked);
+  }
   for (auto* widget : scope.findChildren<QWidget*>()) {
     if (isScope(*widget) && scopeOf(*widget) == &scope) assign(*widget, taken);
   }

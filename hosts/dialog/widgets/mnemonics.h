@@ -8,11 +8,12 @@ class QWidget;
 
 namespace kesto {
 
-/// Gives the buttons, the labels with a buddy and the tabs in `window` a letter of their own text each, first
-/// one that begins a word; a text of which no letter is left has none. A text in a script without such
-/// letters has the one of the English text in brackets. The window's own letters differ from all others; the
-/// pages of a tab widget, and the widgets of `setMnemonicTexts`, may share theirs. A button without a text
-/// beside such a field (dynamic property "companionOf") gets the field's letter with Shift.
+/// Gives the buttons and the labels with a buddy in `window` a letter of their own text each, first one that
+/// begins a word; a text of which no letter is left has none. A text in a script without such
+/// letters has the one of the English text in brackets. The window's own letters differ from all others;
+/// those in the widgets of `setMnemonicTexts` may be shared between them, and go to one after the other. A
+/// button without a text beside such a field (dynamic property "companionOf") gets the field's letter with
+/// Shift.
 void assignMnemonics(QWidget& window);
 
 /// Names all texts that `part` can ever show, the important ones first, so that each keeps its letter

@@ -7,7 +7,6 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
-#include <QtWidgets/QPushButton>
 
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/session/panel_session.h"
@@ -15,12 +14,10 @@
 namespace kesto {
 
 PresetMenu::PresetMenu(PanelSession& session, QWidget* parent)
-    : QToolButton(parent), m_session(session), m_menu(new QMenu(this)) {
+    : QPushButton(parent), m_session(session), m_menu(new QMenu(this)) {
   setPlainText(*this, tr("Presets"));
   setAccessibleName(tr("Presets"));
-  setPopupMode(QToolButton::InstantPopup);
-  setToolButtonStyle(Qt::ToolButtonTextOnly);
-  setFocusPolicy(Qt::StrongFocus);
+  setAutoDefault(false);
   setMenu(m_menu);
   connect(m_menu, &QMenu::aboutToShow, this, &PresetMenu::fill);
 }

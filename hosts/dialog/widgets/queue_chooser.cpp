@@ -27,6 +27,7 @@ constexpr int manyQueues = 12;
 QueueChooser::QueueChooser(QWidget* parent)
     : QWidget(parent),
       m_combo(new QComboBox(this)),
+      m_icon(new StateIcon(this)),
       m_state(new WrappedLabel(this)),
       m_retry(new QPushButton(this)) {
   // Avoids measuring every queue for the width of the field and the height of a row.
@@ -47,6 +48,7 @@ QueueChooser::QueueChooser(QWidget* parent)
   m_retry->setObjectName(QStringLiteral("retry"));
   m_retry->hide();
   auto* line = new QHBoxLayout;
+  line->addWidget(m_icon, 0, Qt::AlignTop);
   line->addWidget(m_state, 1);
   line->addWidget(m_retry);
   auto* column = new QVBoxLayout(this);
@@ -193,7 +195,7 @@ void QueueChooser::update(const std::function<void()>& change) {
   const int cursor = m_combo->isEditable() ? m_combo->lineEdit()->cursorPosition() : 0;
   if (change) change();
   m_combo->setPlaceholderText(!m_current.isNull() ? m_current
-                              : m_isFault         ? tr("No printer")
+                              : isFault()         ? tr("No printer")
                                                   : tr("Looking for printers…"));
   m_combo->setCurrentIndex(m_model.rowOf(m_current));
   if (m_combo->isEditable()) {
@@ -217,12 +219,13 @@ void QueueChooser::updateLine() {
   const QString text = shownText(isPending() ? pendingText() : m_text);
   m_state->setText(text);
   m_combo->setAccessibleDescription(text);
-  m_retry->setVisible(m_isFault && !isPending());
+  m_icon->setKind(text.isEmpty() ? StateIcon::Kind::None : isPending() ? StateIcon::Kind::Attention : m_kind);
+  m_retry->setVisible(isFault() && !isPending());
 }
 
-void QueueChooser::showText(const QString& text, bool isFault) {
+void QueueChooser::showState(const QString& text, StateIcon::Kind kind) {
   m_text = text;
-  m_isFault = isFault;
+  m_kind = kind;
   update();
 }
 

@@ -35,8 +35,8 @@ class QueueChooser : public QWidget {
   void takeCurrent(const QString& name);
   /// Whether the field shows a text other than the chosen queue's.
   bool isPending() const { return !m_typed.isNull(); }
-  /// Shows a text about the chosen queue, with a button to try again after a fault.
-  void showText(const QString& text, bool isFault);
+  /// Shows a text about the chosen queue with an icon, and a button to try again after a fault.
+  void showState(const QString& text, StateIcon::Kind kind);
 
  Q_SIGNALS:
   /// The user has chosen a queue.
@@ -64,15 +64,17 @@ class QueueChooser : public QWidget {
   QString currentText() const;
   QString pendingText() const;
   void update(const std::function<void()>& change = {});
+  bool isFault() const { return m_kind == StateIcon::Kind::Fault; }
   void updateLine();
 
   QueueListModel m_model;
   QString m_current;
   QString m_typed;  // the pending text, null when the field shows the chosen queue
   QString m_text;
-  bool m_isFault = false;
+  StateIcon::Kind m_kind = StateIcon::Kind::None;
   bool m_isUpdating = false;  // the field is changing because of the list, not by a choice
   QComboBox* m_combo;
+  StateIcon* m_icon;
   QLabel* m_state;
   QPushButton* m_retry;
 };

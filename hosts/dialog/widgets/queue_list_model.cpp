@@ -5,7 +5,6 @@
 #include "platform/shown_text.h"
 
 namespace kesto {
-
 int QueueListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(m_queues.size()) + (m_offersPdf ? 1 : 0);
 }
@@ -82,7 +81,7 @@ void QueueListModel::removeQueue(const QString& name) {
   endRemoveRows();
 }
 
-QString QueueListModel::stateText(const QueueSummary& queue) {
+QString QueueListModel::stateOf(const QueueSummary& queue) {
   // The scheduler's message when nobody has given a reason.
   const bool hasReason =
       !QStringList{QString(), QStringLiteral("Rejecting Jobs"), QStringLiteral("Paused")}.contains(
@@ -91,6 +90,19 @@ QString QueueListModel::stateText(const QueueSummary& queue) {
     return hasReason ? tr("Not accepting jobs: %1").arg(queue.stateMessage) : tr("Not accepting jobs");
   if (queue.state == u"stopped") return hasReason ? tr("Paused: %1").arg(queue.stateMessage) : tr("Paused");
   return queue.state == u"processing" ? tr("Printing") : tr("Ready");
+}
+
+QString QueueListModel::stateText(const QueueSummary& queue) {
+  QStringList parts{stateOf(queue)};
+  if (!queue.location.isEmpty()) parts.append(queue.location);
+  const int waiting = queue.state == u"processing" ? queue.jobs - 1 : queue.jobs;
+  if (waiting > 0) parts.append(waiting == 1 ? tr("1 job waiting") : tr("%1 jobs waiting").arg(waiting));
+  return parts.join(QStringLiteral(" · "));
+}
+
+StateIcon::Kind QueueListModel::stateKind(const QueueSummary& queue) {
+  if (!queue.isAccepting || queue.state == u"stopped") return StateIcon::Kind::Attention;
+  return queue.state == u"processing" ? StateIcon::Kind::Busy : StateIcon::Kind::Ready;
 }
 
 }  // namespace kesto

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "hosts/cups/print_server.h"
+#include "hosts/dialog/widgets/state_icon.h"
 
 namespace kesto {
 
@@ -37,10 +38,12 @@ class QueueListModel : public QAbstractListModel {
   const QueueSummary* queue(const QString& name) const;
   const std::vector<QueueSummary>& queues() const { return m_queues; }
 
-  /// The queue's state for the user.
+  /// The queue's state for the user, where it stands and what waits there.
   static QString stateText(const QueueSummary& queue);
+  static StateIcon::Kind stateKind(const QueueSummary& queue);
 
  private:
+  static QString stateOf(const QueueSummary& queue);
   std::vector<QueueSummary>::const_iterator placeOf(const QString& name) const;
 
   std::vector<QueueSummary> m_queues;

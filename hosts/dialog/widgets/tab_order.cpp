@@ -6,8 +6,6 @@
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QRadioButton>
-#include <QtWidgets/QTabBar>
-#include <QtWidgets/QTabWidget>
 
 namespace kesto {
 namespace {
@@ -22,8 +20,7 @@ void makeEntry(const QAbstractButton& chosen) {
 bool isOneStop(const QWidget& widget) {
   return qobject_cast<const QComboBox*>(&widget) != nullptr ||
          qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
-         qobject_cast<const QLineEdit*>(&widget) != nullptr ||
-         qobject_cast<const QTabBar*>(&widget) != nullptr;
+         qobject_cast<const QLineEdit*>(&widget) != nullptr;
 }
 
 // The desktop decides about their order.
@@ -34,12 +31,6 @@ void collectButtons(const QDialogButtonBox& box, QList<QWidget*>* stops) {
 }
 
 void collectStops(QWidget& widget, QList<QWidget*>* stops) {
-  if (auto* tabs = qobject_cast<QTabWidget*>(&widget)) {
-    *stops << tabs << tabs->tabBar();
-    for (int i = 0; i < tabs->count(); ++i)
-      collectStops(*tabs->widget(i), stops);
-    return;
-  }
   // A widget that passes the focus on, such as a box of buttons, counts as a stop too; otherwise its old
   // place in the order would lead back from anywhere.
   if (widget.focusPolicy() != Qt::NoFocus || widget.focusProxy() != nullptr) stops->append(&widget);

@@ -11,8 +11,7 @@ namespace kesto {
 void enterAtChosen(QAbstractButton& radio);
 
 /// Lets Tab move through a window in reading order and back to its beginning: through the widgets in the
-/// order of their creation, with the tabs of a tab widget before their pages. Call it again after adding
-/// widgets.
+/// order of their creation. Call it again after adding widgets.
 void orderTabStops(QWidget& window);
 
 }  // namespace kesto

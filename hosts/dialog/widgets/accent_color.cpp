@@ -1,0 +1,47 @@
+#include "hosts/dialog/widgets/accent_color.h"
+
+#include <cmath>
+
+namespace kesto {
+namespace {
+
+constexpr double leastContrast = 4.5;  // as WCAG asks of text
+
+double luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other) {
+  const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+  return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor mixed(const QColor& one, const QColor& other, double part) {
+  const auto mix = [&](double from, double to) { return static_cast<float>(from + (to - from) * part); };
+  return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
+                          mix(one.blueF(), other.blueF()));
+}
+
+}  // namespace
+
+QColor legible(const QColor& wanted, const QPalette& palette) {
+  const QColor window = palette.color(QPalette::Window);
+  const QColor text = palette.color(QPalette::WindowText);
+  QColor color = wanted;
+  for (double part = 0.1; contrast(color, window) < leastContrast && part < 1; part += 0.1)
+    color = mixed(wanted, text, part);
+  return color;
+}
+
+QColor accentColor(const QPalette& palette) {
+  return legible(palette.color(QPalette::Link), palette);
+}
+
+QColor quietColor(const QPalette& palette) {
+  return legible(mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.4), palette);
+}
+
+}  // namespace kesto
