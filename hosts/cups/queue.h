@@ -13,6 +13,7 @@ struct Queue {
   QString deviceUri{};  ///< Where it sends its jobs; null when the server does not say.
   PpdFile ppd{};        ///< Null for a queue without a PPD.
   Destination destination{};
+  bool isFile = false;  ///< No queue at all: the pages are saved in a file.
 };
 
 /// Fetches the queue `name`, or the user's default queue when it is null, and its PPD.

@@ -26,7 +26,7 @@ void QueueOpening::suggest(const QString& name) {
 void QueueOpening::want(const QString& name) {
   m_wanted = name;
   leave();
-  isPdf() ? take({.id = name}) : ask();
+  isPdf() ? take({.id = name, .isFile = true}) : ask();
 }
 
 void QueueOpening::leave() {

@@ -26,6 +26,13 @@ QString customText(const QString& choice) {
   return QCoreApplication::translate("JobOptions", "Custom %1").arg(choice.section(u'.', 1));
 }
 
+// What counts when pages are saved in a file.
+const QStringList& filesOptions() {
+  static const QStringList options{QStringLiteral("page-ranges"), QStringLiteral("page-set"),
+                                   QStringLiteral("outputorder")};
+  return options;
+}
+
 }  // namespace
 
 void JobOptions::openFor(const Queue& queue) {
@@ -33,6 +40,7 @@ void JobOptions::openFor(const Queue& queue) {
   m_choices = PpdChoices(queue.ppd.get());
   m_isInUsersLanguage = m_choices.isIn(userLanguage());
   m_values.clear();  // their names were those of no queue
+  m_isForFile = queue.isFile;
   given(Source::Kept) = keptOptions(queue);
   if (queue.destination)
     m_covers = optionOf(*queue.destination, "job-sheets-supported").split(u',', Qt::SkipEmptyParts);
@@ -46,6 +54,7 @@ void JobOptions::close() {
     return m_choices.has(keyOf(each.key(), m_choices));
   });
   m_choices = {};
+  m_isForFile = false;
   m_ofPanel.clear();
   m_covers.clear();
   resolve();
@@ -174,6 +183,7 @@ QString JobOptions::textOf(const QString& option, const QString& value) const {
 }
 
 bool JobOptions::isIdle(const QString& option) const {
+  if (m_isForFile && !filesOptions().contains(keyOf(option, m_choices))) return true;
   const OptionRow* row = rowOf(option, m_choices);
   return row != nullptr && row->needs != nullptr && isDefault(QLatin1String(row->needs));
 }

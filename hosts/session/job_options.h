@@ -60,8 +60,10 @@ class JobOptions : public QObject {
   std::vector<OptionChoice> choices(const QString& option) const;
   bool isOfQueue(const QString& option) const { return m_choices.has(option); }
   bool isLeftToPanel(const QString& option) const { return m_ofPanel.contains(option); }
-  /// Whether the option that this one needs is at its initial value.
+  /// Whether the option that this one needs is at its initial value, or a file has no use for it.
   bool isIdle(const QString& option) const;
+  /// Whether the pages are saved in a file.
+  bool isForFile() const { return m_isForFile; }
   const PpdChoices& ofQueue() const { return m_choices; }
   /// The option's label, and a value in words.
   QString text(const QString& option) const;
@@ -121,6 +123,7 @@ class JobOptions : public QObject {
   QStringList m_ofPanel;
   QStringList m_covers;  // those that the server has
   int m_pageCount = 0;
+  bool m_isForFile = false;
 };
 
 /// The options that are kept for a queue, by its user or on the server.

@@ -132,6 +132,8 @@ TEST_F(DialogPrint, PagesAreSavedAsPdf) {
   printer->setCurrentIndex(printer->count() - 1);
   await([this] { return m_dialog->isQueueReady(); }, u"the file in place of a printer"_s);
   EXPECT_EQ(m_dialog->windowTitle(), u"Save as PDF"_s);
+  EXPECT_FALSE(widget(u"copies"_s)->isEnabled());
+  EXPECT_TRUE(widget(u"pages"_s)->isEnabled());
   m_dialog->jobOptions().choose(u"page-ranges"_s, u"2-"_s);
   m_dialog->jobOptions().choose(u"outputorder"_s, u"reverse"_s);
   await([this] { return m_dialog->preview().isSettled(); }, u"the preview"_s);

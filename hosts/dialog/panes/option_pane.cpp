@@ -214,6 +214,8 @@ QString OptionPane::note() const {
     if (!note.isNull()) lines.append(note);
   }
   if (m_conflict) lines.append(shownText(m_conflict->text));
+  if (m_options.isForFile())
+    lines.append(tr("A PDF file keeps its pages as they are. Only pages and their order can be chosen."));
   return lines.join(u'\n');
 }
 

@@ -1366,6 +1366,10 @@
         <source>Filter</source>
         <translation>Filter</translation>
     </message>
+    <message>
+        <source>A PDF file keeps its pages as they are. Only pages and their order can be chosen.</source>
+        <translation>In einer PDF-Datei bleiben die Seiten, wie sie sind. Nur die Seiten und ihre Reihenfolge können gewählt werden.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PageImages</name>

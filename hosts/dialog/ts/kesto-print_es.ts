@@ -1366,6 +1366,10 @@
         <source>Filter</source>
         <translation>Filtrar</translation>
     </message>
+    <message>
+        <source>A PDF file keeps its pages as they are. Only pages and their order can be chosen.</source>
+        <translation>Un archivo PDF conserva sus páginas tal como son. Solo se pueden elegir las páginas y su orden.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PageImages</name>

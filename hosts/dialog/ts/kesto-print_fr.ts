@@ -1366,6 +1366,10 @@
         <source>Filter</source>
         <translation>Filtrer</translation>
     </message>
+    <message>
+        <source>A PDF file keeps its pages as they are. Only pages and their order can be chosen.</source>
+        <translation>Un fichier PDF conserve ses pages telles quelles. Seules les pages et leur ordre peuvent être choisis.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PageImages</name>

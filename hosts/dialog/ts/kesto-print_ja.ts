@@ -1365,6 +1365,10 @@
         <source>Filter</source>
         <translation>フィルター</translation>
     </message>
+    <message>
+        <source>A PDF file keeps its pages as they are. Only pages and their order can be chosen.</source>
+        <translation>PDF ファイルではページはそのまま保存されます。選択できるのはページとその順序だけです。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PageImages</name>

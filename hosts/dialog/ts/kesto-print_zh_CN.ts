@@ -1365,6 +1365,10 @@
         <source>Filter</source>
         <translation>筛选</translation>
     </message>
+    <message>
+        <source>A PDF file keeps its pages as they are. Only pages and their order can be chosen.</source>
+        <translation>PDF 文件中的页面保持原样。只能选择页面及其顺序。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PageImages</name>
