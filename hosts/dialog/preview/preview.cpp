@@ -232,9 +232,7 @@ void Preview::showPlace() {
   m_file->setText(fontMetrics().elidedText(file, Qt::ElideMiddle, width()));
   m_file->setToolTip(file.toHtmlEscaped());
   m_file->setAccessibleName(file);
-  const QString total = totalText();
-  m_total->setText(total);
-  Q_EMIT totalChanged(total);
+  m_total->setText(totalText());
 }
 
 // With "%1" for the number.

@@ -51,8 +51,6 @@ class Preview : public QWidget {
   void shown();
   /// All files have been looked at.
   void examined();
-  /// How much paper the job takes, as a text; empty while that is not known.
-  void totalChanged(const QString& text);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
