@@ -1,6 +1,7 @@
 #include "panel/control_actions.h"
 
 #include <QtCore/QJsonArray>
+#include <random>
 
 #include "tests/support/availability.h"
 #include "tests/support/test_panel.h"
@@ -14,121 +15,86 @@ using namespace test;
 class ControlActionsTest : public testing::Test {
  protected:
   ControlActionsTest() {
-    const QJsonArray files{QJsonObject{{u"name"_s, u"Safe"_s}, {u"password"_s, true}},
-                           QJsonObject{{u"name"_s, u"Open"_s}}};
-    platform.remember({{u"files"_s, files}});
+    platform.remember({{u"files"_s, QJsonArray{jsonOf({.name = u"Safe"_s, .password = true}),
+                                               jsonOf({.name = u"Open"_s})}}});
   }
 
   TestPlatform platform;
 };
 
-struct ActionCase {
-  Text before;
-  Text operations;  // separated by ";"
-  Text after;
-};
-
-const std::array actionCases{
+// The controls before, the operations, separated by ";", and the controls afterwards.
+const std::tuple<Text, Text, Text> actionCases[] = {
     // Retention off: the first hold choice, no quick file, what is not held cleared.
-    ActionCase{"folderSelectionPopup=0 suspendMatrix=1 suspendKey=1 folderPassword=2", "retentionCheckBox",
-               "suspendMatrix=0 folderSelectionPopup=1 folderSelectionMatrix=1 suspendKey= "
-               "folderPassword= "
-               "focus="},
-    ActionCase{"folderSelectionMatrix=0 suspendMatrix=1 folderName=n", "retentionCheckBox",
-               "suspendMatrix=0 folderSelectionPopup=1 folderSelectionMatrix=1 folderName= focus="},
-    ActionCase{"folderSelectionMatrix=2 folderSelectionPopup=3 suspendMatrix=2 folderName=n",
-               "retentionCheckBox",
-               "suspendMatrix=0 folderSelectionPopup=3 folderSelectionMatrix=2 folderName= focus="},
-    ActionCase{"suspendKeyButton=1 folderPasswordButton=1 folderNameButton=1 suspendKey=1 "
-               "folderPassword=2 folderName=n",
-               "retentionCheckBox", "suspendKey=1 folderPassword=2 folderName=n suspendKeyButton=1 focus="},
+    {"item=0 hold=1 suspendKey=1 folderPassword=2", "retention",
+     "hold=0 item=1 folder=1 suspendKey= folderPassword= focus="},
+    {"folder=0 hold=1 folderName=n", "retention", "hold=0 item=1 folder=1 folderName= focus="},
+    {"folder=2 item=3 hold=2 folderName=n", "retention", "hold=0 item=3 folder=2 folderName= focus="},
+    {"suspendKeyButton=1 folderPasswordButton=1 folderNameButton=1 suspendKey=1 folderPassword=2 "
+     "folderName=n",
+     "retention", "suspendKey=1 folderPassword=2 folderName=n suspendKeyButton=1 focus="},
     // And on again: no value changes.
-    ActionCase{"folderSelectionMatrix=2 folderSelectionPopup=3", "retentionCheckBox;retentionCheckBox",
-               "folderSelectionMatrix=2 folderSelectionPopup=3 suspendMatrix=0 focus=folderName"},
+    {"folder=2 item=3", "retention;retention", "folder=2 item=3 hold=0 focus=folderName"},
     // Quick file goes with hold after print alone.
-    ActionCase{"folderSelectionPopup=0 suspendMatrix=1", "suspendMatrix=0",
-               "suspendMatrix=0 folderSelectionPopup=1"},
-    ActionCase{"folderSelectionMatrix=0 suspendMatrix=1 folderPassword=2", "suspendMatrix=2",
-               "suspendMatrix=2 folderSelectionMatrix=1 folderPassword="},
-    ActionCase{"folderSelectionPopup=0", "folderSelectionMatrix=0;suspendMatrix=1",
-               "suspendMatrix=1 folderSelectionPopup=0 folderSelectionMatrix=0"},
-    ActionCase{"suspendMatrix=2 suspendKey=1 folderPassword=2 folderName=n", "folderSelectionPopup=0",
-               "suspendMatrix=1 suspendKey= folderPassword=2 folderName=n focus="},
-    ActionCase{"suspendMatrix=0 suspendKey=1 suspendKeyButton=1", "folderSelectionPopup=0",
-               "suspendMatrix=1 suspendKey=1"},
-    ActionCase{"suspendMatrix=2 suspendKey=1", "folderSelectionPopup=3",
-               "suspendMatrix=2 suspendKey=1 focus=folderPassword"},
+    {"item=0 hold=1", "hold=0", "hold=0 item=1"},
+    {"folder=0 hold=1 folderPassword=2", "hold=2", "hold=2 folder=1 folderPassword="},
+    {"item=0", "folder=0;hold=1", "hold=1 item=0 folder=0"},
+    {"hold=2 suspendKey=1 folderPassword=2 folderName=n", "item=0",
+     "hold=1 suspendKey= folderPassword=2 folderName=n focus="},
+    {"hold=0 suspendKey=1 suspendKeyButton=1", "item=0", "hold=1 suspendKey=1"},
+    {"hold=2 suspendKey=1", "item=3", "hold=2 suspendKey=1 focus=folderPassword"},
     // The folder matrix.
-    ActionCase{"suspendMatrix=0 suspendKey=1 folderPassword=2 folderName=n", "folderSelectionMatrix=0",
-               "suspendMatrix=1 suspendKey= folderPassword= folderName= focus="},
-    ActionCase{"folderSelectionMatrix=2 suspendKey=1 folderPassword=2 folderName=n",
-               "folderSelectionMatrix=1", "suspendMatrix=0 suspendKey=1 folderPassword= folderName= focus="},
-    ActionCase{"folderPasswordButton=1 folderNameButton=1 folderPassword=2 folderName=n",
-               "folderSelectionMatrix=1", "folderPassword=2 folderName=n"},
-    ActionCase{"suspendMatrix=2 suspendKey=1 folderPassword=2 folderName=n", "folderSelectionMatrix=2",
-               "suspendMatrix=2 suspendKey=1 folderPassword=2 folderName=n "
-               "focus=folderName"},
+    {"hold=0 suspendKey=1 folderPassword=2 folderName=n", "folder=0",
+     "hold=1 suspendKey= folderPassword= folderName= focus="},
+    {"folder=2 suspendKey=1 folderPassword=2 folderName=n", "folder=1",
+     "hold=0 suspendKey=1 folderPassword= folderName= focus="},
+    {"folderPasswordButton=1 folderNameButton=1 folderPassword=2 folderName=n", "folder=1",
+     "folderPassword=2 folderName=n"},
+    {"hold=2 suspendKey=1 folderPassword=2 folderName=n", "folder=2",
+     "hold=2 suspendKey=1 folderPassword=2 folderName=n focus=folderName"},
     // The user number takes focus, held or not.
-    ActionCase{"", "authenticationMatrix=1", "focus=userNumber"},
-    ActionCase{"userNumberButton=1", "authenticationMatrix=1;authenticationMatrix=0", "focus=userNumber"},
+    {"", "who=1", "focus=userNumber"},
+    {"userNumberButton=1", "who=1;who=0", "focus=userNumber"},
     // The held login name.
-    ActionCase{"loginName=jdoe1", "loginNameButton", "loginName=\u2022\u2022\u2022\u2022\u2022 focus="},
-    ActionCase{"loginName=\U0001F600", "loginNameButton", "loginName=\u2022\u2022"},
-    ActionCase{"loginName=jdoe1", "loginNameButton;loginNameButton", "loginName= focus=loginName"},
+    {"loginName=jdoe1", "loginNameButton", "loginName=\u2022\u2022\u2022\u2022\u2022 focus="},
+    {"loginName=\U0001F600", "loginNameButton", "loginName=\u2022\u2022"},
+    {"loginName=jdoe1", "loginNameButton;loginNameButton", "loginName= focus=loginName"},
     // A hold button leaves the text, and gives focus back where the field is free.
-    ActionCase{"suspendKey=1", "suspendKeyButton", "suspendKey=1 focus="},
-    ActionCase{"suspendKey=1", "suspendKeyButton;suspendKeyButton", "suspendKey=1 focus=suspendKey"},
-    ActionCase{"password=s", "passwordButton;passwordButton", "password=s focus=password"},
-    ActionCase{"userNumber=4", "userNumberButton;userNumberButton", "userNumber=4 focus=userNumber"},
-    ActionCase{"accountNumber=4", "accountNumberButton;accountNumberButton", "focus=accountNumber"},
-    ActionCase{"", "userNameButton;userNameButton", "focus=userName"},
-    ActionCase{"", "jobNameButton;jobNameButton;userNameButton", "focus="},
+    {"suspendKey=1", "suspendKeyButton", "suspendKey=1 focus="},
+    {"suspendKey=1", "suspendKeyButton;suspendKeyButton", "suspendKey=1 focus=suspendKey"},
+    {"password=s", "passwordButton;passwordButton", "password=s focus=password"},
+    {"userNumber=4", "userNumberButton;userNumberButton", "userNumber=4 focus=userNumber"},
+    {"accountNumber=4", "accountNumberButton;accountNumberButton", "focus=accountNumber"},
+    {"", "userNameButton;userNameButton", "focus=userName"},
+    {"", "jobNameButton;jobNameButton;userNameButton", "focus="},
 };
 
 TEST_F(ControlActionsTest, OneByOne) {
-  for (const ActionCase& row : actionCases) {
-    SCOPED_TRACE(row.before + u" -> "_s + row.operations);
+  for (const auto& [before, operations, after] : actionCases) {
+    SCOPED_TRACE(before + u" -> "_s + operations);
     TestPanel fresh(platform);
     fresh.restore();
-    ASSERT_TRUE(operate(fresh.view(), "retentionCheckBox"));
-    setControls(fresh.view(), row.before);
-    for (const QString& operation : row.operations.split(u';')) {
+    ASSERT_TRUE(operate(fresh.view(), "retention"));
+    setControls(fresh.view(), before);
+    for (const QString& operation : operations.split(u';'))
       EXPECT_TRUE(operate(fresh.view(), operation)) << operation;
-    }
-    expectControls(fresh.view(), row.after);
+    expectControls(fresh.view(), after);
     expectRulesHold(fresh.view(), {firstFolderItem});
   }
 }
 
-// Every choice of folder and authentication, with retention and without, for every set of held fields.
+// A long walk through the choices and the hold buttons that touch each other.
 TEST_F(ControlActionsTest, TheRulesHoldWhateverTheUserDoes) {
   TestPanel panel(platform);
   panel.restore();
-  const auto use = [&](const QString& operation) {
-    ASSERT_TRUE(operate(panel.view(), operation)) << operation;
+  const QStringList operations =
+      u"retention hold=0 hold=1 hold=2 item=0 item=1 item=3 item=4 folder=0 folder=1 folder=2 who=0 who=1 "
+      "suspendKeyButton folderPasswordButton folderNameButton loginNameButton passwordButton"_s.split(u' ');
+  std::mt19937 random(20240229);
+  for (int step = 0; step < 5000 && !HasFailure(); ++step) {
+    const QString& operation = operations[static_cast<qsizetype>(random() % operations.size())];
+    SCOPED_TRACE(operation);
+    (void)operate(panel.view(), operation);  // which may be dimmed
     expectRulesHold(panel.view(), {firstFolderItem});
-  };
-  const QStringList freezable{u"suspendKey"_s, u"folderPassword"_s, u"folderName"_s, u"loginName"_s,
-                              u"password"_s};
-  use(u"retentionCheckBox"_s);
-  for (unsigned held = 0; held < 1U << freezable.size(); ++held) {
-    SCOPED_TRACE(held);
-    for (const char* freeAll :
-         {"folderSelectionPopup=1", "folderSelectionMatrix=2", "authenticationMatrix=0"})
-      use(Text(freeAll));
-    for (qsizetype i = 0; i < freezable.size(); ++i) {
-      const QString hold = freezable[i] + u"Button"_s;
-      if (button(panel.view(), hold).state() != static_cast<int>(held >> i & 1U)) use(hold);
-    }
-    for (int choice = 0; choice < 24; ++choice) {
-      use(u"folderSelectionPopup=%1"_s.arg(QList{0, 1, 3, 4}[choice % 4]));
-      use(u"folderSelectionMatrix=%1"_s.arg(choice / 4 % 3));
-      use(u"authenticationMatrix=%1"_s.arg(choice / 12));
-      use(u"suspendMatrix=%1"_s.arg(choice % 3));
-      use(u"retentionCheckBox"_s);
-      use(u"retentionCheckBox"_s);
-      if (HasFailure()) return;
-    }
   }
 }
 
@@ -141,7 +107,7 @@ TEST(ControlActions, AHeldLoginNameIsKeptOnceAlsoAnEmptyOne) {
     panel.actions.loginNameButtonProc(nullptr);
   }
   EXPECT_FALSE(panel.state.loginNameStringRef.isNull());
-  setControls(*panel.view, "retentionCheckBox=1 suspendKeyButton=2");  // which is not on
+  setControls(*panel.view, "retention=1 suspendKeyButton=2");  // which is not on
   EXPECT_TRUE(panel.rules.runByName(u"suspendKeyEditTextEnabled"_s));
   EXPECT_TRUE(isAvailable(field(*panel.view, "suspendKey")));
 }

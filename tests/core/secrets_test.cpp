@@ -1,7 +1,6 @@
 // What a panel leaves in the memory of its process.
 #include <unistd.h>
 
-#include <QtCore/QFile>
 #include <algorithm>
 
 #include "platform/secret.h"
@@ -24,9 +23,7 @@ bool isInHeap(const QByteArray& wanted) {
   QByteArray wide;
   for (const char byte : wanted)
     wide.append(byte).append(mask);
-  QFile maps(u"/proc/self/maps"_s);
-  EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
-  const QList<QByteArray> lines = maps.readAll().split('\n');
+  const QList<QByteArray> lines = bytesOf(u"/proc/self/maps"_s).split('\n');
   const auto heap =
       std::ranges::find_if(lines, [](const QByteArray& line) { return line.contains("[heap]"); });
   if (heap == lines.end()) return false;
@@ -70,8 +67,8 @@ TEST(Secrets, NothingStaysInTheHeapOfAPanelThatIsGone) {
   {
     TestPanel panel(platform);
     panel.restore();
-    ASSERT_TRUE(operate(panel.view(), "retentionCheckBox"));
-    ASSERT_TRUE(operate(panel.view(), "folderSelectionMatrix=2"));
+    ASSERT_TRUE(operate(panel.view(), "retention"));
+    ASSERT_TRUE(operate(panel.view(), "folder=2"));
     for (const auto& [name, secret] : secrets) {
       for (const char byte : secret)
         EXPECT_TRUE(field(panel.view(), name).type(QString(QChar(static_cast<char16_t>(byte ^ mask)))));

@@ -26,8 +26,7 @@ class SettingsReaderTest : public testing::Test {
       fresh.host.put(settings);
       fresh.reader.getNonPPDSettingsFromPrintSettings();
       expectControls(*fresh.view, controls);
-      if (valueOf(*fresh.view, "authenticationMatrix") == u"0")
-        expectRulesHold(*fresh.view, {firstFolderItem});
+      if (valueOf(*fresh.view, "who") == u"0") expectRulesHold(*fresh.view, {firstFolderItem});
     }
   }
 
@@ -36,28 +35,22 @@ class SettingsReaderTest : public testing::Test {
 };
 
 TEST_F(SettingsReaderTest, ChoicesAndDefaults) {
-  expectCases(
-      {{"",
-        "retentionCheckBox=0 suspendMatrix=0 suspendKey= suspendKeyButton=0 authenticationMatrix=0 focus="},
-       {"", "folderSelectionPopup=1 folderSelectionMatrix=1 userName=Jane_Doe jobName="},
-       {"jobSuspend=2", "retentionCheckBox=1 suspendMatrix=0"},
-       {"jobSuspend=1", "retentionCheckBox=1 suspendMatrix=1"},
-       {"jobSuspend=3x", "retentionCheckBox=1 suspendMatrix=2"},
-       {"jobSuspend=0", "retentionCheckBox=0 suspendMatrix=0"},
-       {"jobSuspend=\u0663", "retentionCheckBox=0"},
-       {"Authentication=0", "authenticationMatrix=1 focus="},
-       {"Authentication=", "authenticationMatrix=1"},
-       {"jobSuspend=1 filing=1", "folderSelectionPopup=0 folderSelectionMatrix=0 suspendMatrix=1"},
-       {"jobSuspend=3 filing=1", "folderSelectionPopup=0 folderSelectionMatrix=0 suspendMatrix=1"},
-       {"jobSuspend=0 filing=1", "folderSelectionPopup=1 folderSelectionMatrix=1"},
-       {"jobSuspend=1 filing=3", "folderSelectionPopup=1 folderSelectionMatrix=1"},
-       {"jobSuspend=1 filing=3 folderPath=5A576549",
-        "folderSelectionPopup=5 folderSelectionMatrix=2 folderName=ZWeI focus=folderPassword"},
-       {"jobSuspend=1 filing=3 folderPath=616B74656E", "folderSelectionPopup=3 focus=folderPassword"},
-       {"jobSuspend=1 filing=3 folderPath=8E",
-        "folderSelectionPopup=1 folderSelectionMatrix=2 folderName=\u00E9"},
-       {"jobSuspend=0 filing=3 folderPath=5A576549", "folderSelectionMatrix=2 folderName="},
-       {"jobSuspend=0 filing=3 folderPath=5A576549 holdButton=256", "folderName=ZWeI folderNameButton=1"}});
+  expectCases({Pair{"", "retention=0 hold=0 suspendKey= suspendKeyButton=0 who=0 focus="},
+               Pair{"", "item=1 folder=1 userName=Jane_Doe jobName="},
+               Pair{"jobSuspend=2", "retention=1 hold=0"}, Pair{"jobSuspend=1", "retention=1 hold=1"},
+               Pair{"jobSuspend=3x", "retention=1 hold=2"}, Pair{"jobSuspend=0", "retention=0 hold=0"},
+               Pair{"jobSuspend=\u0663", "retention=0"}, Pair{"Authentication=0", "who=1 focus="},
+               Pair{"Authentication=", "who=1"}, Pair{"jobSuspend=1 filing=1", "item=0 folder=0 hold=1"},
+               Pair{"jobSuspend=3 filing=1", "item=0 folder=0 hold=1"},
+               Pair{"jobSuspend=0 filing=1", "item=1 folder=1"},
+               Pair{"jobSuspend=1 filing=3", "item=1 folder=1"},
+               Pair{"jobSuspend=1 filing=3 folderPath=5A576549",
+                    "item=5 folder=2 folderName=ZWeI focus=folderPassword"},
+               Pair{"jobSuspend=1 filing=3 folderPath=616B74656E", "item=3 focus=folderPassword"},
+               Pair{"jobSuspend=1 filing=3 folderPath=8E", "item=1 folder=2 folderName=\u00E9"},
+               Pair{"jobSuspend=0 filing=3 folderPath=5A576549", "folder=2 folderName="},
+               Pair{"jobSuspend=0 filing=3 folderPath=5A576549 holdButton=256",
+                    "folderName=ZWeI folderNameButton=1"}});
 }
 
 // Sealed by openssl enc -aes-128-ecb.
@@ -72,19 +65,18 @@ TEST_F(SettingsReaderTest, SealedFields) {
        {"jobSuspend=2 jobSuspend2Key= holdButton=1", "suspendKey= suspendKeyButton=1"},
        {"jobSuspend=2 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA9", "suspendKey="},
        {"jobSuspend=2 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991FF", "suspendKey=7"},
-       {"userNumber2=AF545963687A84AFEC6B471B38AEA7CC holdButton=64",
-        "userNumber=123456789 userNumberButton=1"},
-       {"userNumber2=C604CF6E588747093B725502E4C1A943", "userNumber=0123456789abcdef userNumberButton=0"},
-       {"accountNumber2=14B7EEEE335A1C6F80913C213FC87AC6 holdButton=128",
-        "accountNumber=12345 accountNumberButton=1"},
-       {"accountNumber2=BDD2763479D559E89A55CC4BB3E1E136", "accountNumber="},
-       {"jobSuspend=2 folderPassword2=3F3FA6A226B041DE0CA8F37F0E03543E holdButton=32",
-        "folderPassword=1234 folderPasswordButton=1"},
-       {"jobSuspend=2 folderPassword2=AF545963687A84AFEC6B471B38AEA7CC", "folderPassword="},
-       {"password2=42A8039B150545E873199E0B2A645FB300000000000000000000000000000000 holdButton=4",
-        "password=secret passwordButton=1"},
-       {"password2=C604CF6E588747093B725502E4C1A94300000000000000000000000000000000",
-        "password=0123456789abcdef"},
+       {"userNumber2=AF545963687A84AFEC6B471B38AEA7CC holdButton=64 "
+        "accountNumber2=BDD2763479D559E89A55CC4BB3E1E136",
+        "userNumber=123456789 userNumberButton=1 accountNumber="},
+       {"userNumber2=C604CF6E588747093B725502E4C1A943 holdButton=128 "
+        "accountNumber2=14B7EEEE335A1C6F80913C213FC87AC6",
+        "userNumber=0123456789abcdef userNumberButton=0 accountNumber=12345 accountNumberButton=1"},
+       {"jobSuspend=2 folderPassword2=3F3FA6A226B041DE0CA8F37F0E03543E holdButton=36 "
+        "password2=42A8039B150545E873199E0B2A645FB300000000000000000000000000000000",
+        "folderPassword=1234 folderPasswordButton=1 password=secret passwordButton=1"},
+       {"jobSuspend=2 folderPassword2=AF545963687A84AFEC6B471B38AEA7CC "
+        "password2=C604CF6E588747093B725502E4C1A94300000000000000000000000000000000",
+        "folderPassword= password=0123456789abcdef"},
        {"password2=C604CF6E588747093B725502E4C1A943A490E3E9BA0E3E79B7A9E0E91EC7F553",
         "password=0123456789abcdefgh12"},
        {"password2=42A8039B150545E873199E0B2A645FB3", "password="}});
@@ -109,8 +101,8 @@ TEST_F(SettingsReaderTest, NamesAndLoginNames) {
   expectControls(*panel.view, "userName=kept jobName=report");
 
   panel.state.active_directory = true;
-  expectCases({{"jobSuspend=0", "retentionCheckBox=1 suspendMatrix=0 userName=jdoe loginName=jdoe"},
-               {"jobSuspend=3 userName=41", "suspendMatrix=0 userName=A"},
+  expectCases({{"jobSuspend=0", "retention=1 hold=0 userName=jdoe loginName=jdoe"},
+               {"jobSuspend=3 userName=41", "hold=0 userName=A"},
                {"loginName12=J715aTy6C1tJPaVj4yTI/Q== holdButton=2", "loginName=•••• loginNameButton=1"},
                {"loginName11=s3bezgBn+w9AsV4L loginName12=UZX8fw==", "loginName=jdoe1"}});
 }
@@ -144,18 +136,15 @@ TEST_F(SettingsReaderTest, ARememberedValueWinsOnce) {
   read();
   EXPECT_EQ(panel.state.prefHoldButtonFlag, 0);
   EXPECT_EQ(panel.state.loginNameStringRef, u"jdoe"_s);
+  // The last two are held without a remembered value: the button is on, the value comes from the job.
   expectControls(*panel.view,
-                 "suspendKey=123456 suspendKeyButton=1 loginName=•••• password=secret passwordButton=1");
-  expectControls(*panel.view,
-                 "userName=held-name folderName=held-folder folderSelectionMatrix=2 folderNameButton=1");
-  // Held without a remembered value: the button is on, the value comes from the job.
-  expectControls(*panel.view,
-                 "authenticationMatrix=1 jobName= jobNameButton=1 userNumber= userNumberButton=1");
+                 "suspendKey=123456 suspendKeyButton=1 loginName=•••• password=secret passwordButton=1 "
+                 "userName=held-name folderName=held-folder folder=2 folderNameButton=1 who=1 jobName= "
+                 "jobNameButton=1 userNumber= userNumberButton=1");
   read();
   expectControls(*panel.view,
-                 "suspendKey=7 suspendKeyButton=0 loginName= loginNameButton=0 password= passwordButton=0");
-  expectControls(*panel.view,
-                 "userName=A userNameButton=0 folderName=Zwei folderNameButton=0 authenticationMatrix=0");
+                 "suspendKey=7 suspendKeyButton=0 loginName= loginNameButton=0 password= passwordButton=0 "
+                 "userName=A userNameButton=0 folderName=Zwei folderNameButton=0 who=0");
   EXPECT_TRUE(panel.state.loginNameStringRef.isNull());
 }
 
@@ -167,7 +156,7 @@ TEST_F(SettingsReaderTest, BitsThatConcernMoreThanTheirField) {
       fresh.state.prefHoldButtonFlag = bit;
       fresh.reader.getNonPPDSettingsFromPrintSettings();
       const bool isOfAuthentication = bit == 2 || bit == 4 || bit == 64;
-      EXPECT_EQ(matrix(*fresh.view, "authenticationMatrix").selectedRow(), isOfAuthentication ? 1 : 0) << bit;
+      EXPECT_EQ(matrix(*fresh.view, "who").selectedRow(), isOfAuthentication ? 1 : 0) << bit;
       const bool isLeft = bit == 256 && fresh.state.outlets.folderSelectionMatrix == nullptr;
       EXPECT_EQ(fresh.state.prefHoldButtonFlag, isLeft ? bit : 0)
           << "the folder name's bit waits for its matrix";
@@ -179,7 +168,7 @@ TEST_F(SettingsReaderTest, TheLongestPathAndName) {
   for (const auto& [bytes, isRead] : {std::pair(127, true), std::pair(128, false)}) {
     host.put(u"jobSuspend=1 filing=3 folderPath=%1 jobName=%1"_s.arg(u"61"_s.repeated(bytes)));
     read();
-    EXPECT_EQ(matrix(*panel.view, "folderSelectionMatrix").selectedRow(), isRead ? 2 : 1);
+    EXPECT_EQ(matrix(*panel.view, "folder").selectedRow(), isRead ? 2 : 1);
     EXPECT_EQ(field(*panel.view, "jobName").stringValue().size(), isRead ? bytes : 0);
   }
 }
@@ -189,32 +178,7 @@ TEST_F(SettingsReaderTest, FoldersThatThePopUpDoesNotHaveAreOffered) {
     panel.state.folderList = {{.name = name}};
     host.put(u"filing=3 folderPath="_s + settings);
     read();
-    EXPECT_EQ(popUp(*panel.view, "folderSelectionPopup").selectedItem()->title, name);
-  }
-}
-
-// Whatever a job or a preference file holds, the panel comes up, and a held field is closed.
-TEST_F(SettingsReaderTest, HostileValues) {
-  for (const QString& value :
-       {QString(100000, u'A'), QString(256, u'9'), QString(510, u'+'), u"zz"_s.repeated(64),
-        u"\u00E9\U0001F600"_s, u"FFFE81"_s, QString(QChar(0xD800)), QString(64, QChar(0)), u""_s}) {
-    PanelGroups fresh;
-    fresh.state.systemEncoding = TextEncoding::MacJapanese;
-    for (const char* key : {"holdButton", "jobSuspend", "filing", "Authentication", "loginName12"})
-      fresh.host.put(key, value);
-    for (const HeldField& row : heldFields) {
-      fresh.host.put(row.key, value);
-      fresh.state.remembered.*row.remembered = value;
-    }
-    for (const int mask : {0, 511}) {
-      fresh.state.prefHoldButtonFlag = mask;
-      fresh.reader.getNonPPDSettingsFromPrintSettings();
-      for (const QString& name : heldNames) {
-        const TextField& text = field(*fresh.view, name);
-        EXPECT_FALSE(button(*fresh.view, name + u"Button"_s).state() == 1 && isAvailable(text)) << name;
-        EXPECT_TRUE(text.stringValue().size() <= 511 || text.stringValue() == value) << name;
-      }
-    }
+    EXPECT_EQ(popUp(*panel.view, "item").selectedItem()->title, name);
   }
 }
 

@@ -36,32 +36,32 @@ TEST_F(SettingsWriterTest, AnEmptyPanelWritesItsChoicesAlone) {
 
 // One job, written again after each change.
 TEST_F(SettingsWriterTest, ControlsBecomeKeys) {
-  for (const auto& [controls, settings] : Cases{
-           {"retentionCheckBox=1 suspendMatrix=0", "jobSuspend=2 filing=0 jobSuspendKey= jobSuspend2Key="},
-           {"suspendMatrix=1", "jobSuspend=1"},
-           {"suspendMatrix=2", "jobSuspend=3"},
-           {"suspendKey=123456",
-            "jobSuspendKey=5a9a398d3592cd5165361b093f991bd6 jobSuspend2Key=BDD2763479D559E89A55CC4BB3E1E136"},
-           {"suspendKey=123456789",
-            "jobSuspendKey=bab005ea7df521b54c51d50d0cde291d jobSuspend2Key=B70A9DC22C0094FFBCA920D972EC3098"},
-           {"suspendKey=7",
-            "jobSuspendKey=bd5fb32cb206a0cd8c93b584b5df8a20 jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991"},
-           {"retentionCheckBox=0 suspendKey=",
-            "jobSuspend=0 jobSuspendKey=bd5fb32cb206a0cd8c93b584b5df8a20 "
-            "jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991"},
-           {"authenticationMatrix=1", "Authentication=0"},
-           {"userNumber=42", "userNumber=00042 userNumber2=D4C886221F974CE34F262182C082702D"},
-           {"userNumber=123456789", "userNumber=12345678 userNumber2=B70A9DC22C0094FFBCA920D972EC3098"},
-           {"userNumber=", "userNumber= userNumber2="},
-           {"accountNumber=1234567", "accountNumber=12345 accountNumber2=14B7EEEE335A1C6F80913C213FC87AC6"},
-           {"folderPassword=1234",
-            "folderPassword=4d13731819794f6d52135eae89332c29 "
-            "folderPassword2=3F3FA6A226B041DE0CA8F37F0E03543E"},
-           {"suspendKeyButton=1", "holdButton=1"},
-           {"loginNameButton=1 passwordButton=1", "holdButton=7"},
-           {"userNameButton=1 jobNameButton=1 folderPasswordButton=1", "holdButton=63"},
-           {"userNumberButton=1 accountNumberButton=1 folderNameButton=1", "holdButton=511"},
-           {"loginName=jdoe password=secret", "loginName11= loginName12= password2="}}) {
+  for (const auto& [controls, settings] :
+       Cases{{"retention=1 hold=0", "jobSuspend=2 filing=0 jobSuspendKey= jobSuspend2Key="},
+             {"hold=1 suspendKey=123456",
+              "jobSuspend=1 jobSuspendKey=5a9a398d3592cd5165361b093f991bd6 "
+              "jobSuspend2Key=BDD2763479D559E89A55CC4BB3E1E136"},
+             {"hold=2 suspendKey=123456789",
+              "jobSuspend=3 jobSuspendKey=bab005ea7df521b54c51d50d0cde291d "
+              "jobSuspend2Key=B70A9DC22C0094FFBCA920D972EC3098"},
+             {"suspendKey=7 who=1",
+              "jobSuspendKey=bd5fb32cb206a0cd8c93b584b5df8a20 "
+              "jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991 Authentication=0"},
+             {"retention=0 suspendKey=",
+              "jobSuspend=0 jobSuspendKey=bd5fb32cb206a0cd8c93b584b5df8a20 "
+              "jobSuspend2Key=898A6A33D5CDC2286B1F5D0458FBA991"},
+             {"userNumber=42", "userNumber=00042 userNumber2=D4C886221F974CE34F262182C082702D"},
+             {"userNumber=123456789 accountNumber=1234567",
+              "userNumber=12345678 userNumber2=B70A9DC22C0094FFBCA920D972EC3098 accountNumber=12345 "
+              "accountNumber2=14B7EEEE335A1C6F80913C213FC87AC6"},
+             {"userNumber= folderPassword=1234",
+              "userNumber= userNumber2= folderPassword=4d13731819794f6d52135eae89332c29 "
+              "folderPassword2=3F3FA6A226B041DE0CA8F37F0E03543E"},
+             {"suspendKeyButton=1", "holdButton=1"},
+             {"loginNameButton=1 passwordButton=1", "holdButton=7"},
+             {"userNameButton=1 jobNameButton=1 folderPasswordButton=1", "holdButton=63"},
+             {"userNumberButton=1 accountNumberButton=1 folderNameButton=1", "holdButton=511"},
+             {"loginName=jdoe password=secret", "loginName11= loginName12= password2="}}) {
     SCOPED_TRACE(controls);
     setControls(*panel.view, controls);
     write();
@@ -77,7 +77,8 @@ TEST_F(SettingsWriterTest, NamesInTheThreeFormsOfEachSystemEncoding) {
        {Case{MacRoman, "Aé", "userName=418E userName2=41E9 userName31=41C3A9"},
         Case{MacRoman, "é漢é", "userName=8E userName2=E920E9 userName31=C3A9E6BCA2C3A9"},
         Case{MacRoman, "漢é", "userName=8ABF20 userName2=20E9 userName31=E6BCA2C3A9"},
-        Case{MacRoman, "a\"b\n\tc", "userName=6122620A0963 userName2=612062200963 userName31=612062200963"},
+        Case{MacRoman, "a\"\x01\x08\t\n\x1F!c",
+             "userName=61220108090A1F2163 userName2=612020200920202163 userName31=612020200920202163"},
         Case{MacRoman, "😀", "userName=20 userName2=20 userName31=F09F9880"},
         Case{MacRoman, u"x"_s + QChar(0xD83D), "userName=78 userName2=7820 userName31=7820"},
         Case{MacJapanese, "漢\"é", "userName=8ABF22 userName2=8ABF20 userName31=E6BCA220C3A9"},
@@ -133,7 +134,7 @@ TEST_F(SettingsWriterTest, AStoredSpoolTimeIsKeptUnlessItCannotBeOne) {
         Case{u"30"_s.repeated(64), false, ofClock}, Case{"é0", false, ofClock},
         Case{u"30"_s + QString(126, QChar(0)), false, ofClock}}) {
     host.put("spoolTime", stored);
-    setControls(*panel.view, "retentionCheckBox=1 suspendKey=7");
+    setControls(*panel.view, "retention=1 suspendKey=7");
     write();
     EXPECT_EQ(host.value("spoolTime"), isKept ? stored : Text(spoolTime.section(u'=', 1)));
     EXPECT_EQ(host.value("jobSuspendKey"), digest) << stored;
@@ -145,24 +146,19 @@ TEST_F(SettingsWriterTest, AStoredSpoolTimeIsKeptUnlessItCannotBeOne) {
 TEST(SettingsWriterWithHardDisk, FilingModeAndFolder) {
   using Case = std::tuple<Text, Text, Text>;
   for (const auto& [layout, controls, settings] :
-       {Case{"JobControl6", "retentionCheckBox=0 folderSelectionMatrix=2", "filing=0 folderPath=00"},
-        Case{"JobControl6", "folderSelectionMatrix=0 folderSelectionPopup=4", "filing=1 folderPath=00"},
-        Case{"JobControl6", "folderSelectionMatrix=1 folderSelectionPopup=3",
-             "filing=2 folderPath=2A7374616E64617264"},
-        Case{"JobControl6", "folderSelectionMatrix=2 folderName=b",
-             "filing=3 folderPath=62 folderPath2=62 folderPath31=62"},
-        Case{"JobControl6", "folderSelectionMatrix=2 folderSelectionPopup=3 folderName=b",
-             "filing=3 folderPath=416B74656E"},
-        Case{"JobControl6", "folderSelectionMatrix=2 folderName=", "filing=3 folderPath= folderPath31="},
-        Case{"JobControl6", "folderSelectionMatrix=2 folderSelectionPopup=5",
-             "filing=3 folderPath=00 folderPath2="},
-        Case{"JobControl5", "folderSelectionPopup=0", "filing=1 folderPath=00"},
-        Case{"JobControl5", "folderSelectionPopup=1", "filing=2 folderPath=2A7374616E64617264"},
-        Case{"JobControl5", "folderSelectionPopup=4",
+       {Case{"JobControl6", "retention=0 folder=2", "filing=0 folderPath=00"},
+        Case{"JobControl6", "folder=0 item=4", "filing=1 folderPath=00"},
+        Case{"JobControl6", "folder=1 item=3", "filing=2 folderPath=2A7374616E64617264"},
+        Case{"JobControl6", "folder=2 folderName=b", "filing=3 folderPath=62 folderPath2=62 folderPath31=62"},
+        Case{"JobControl6", "folder=2 item=3 folderName=b", "filing=3 folderPath=416B74656E"},
+        Case{"JobControl6", "folder=2 folderName=", "filing=3 folderPath= folderPath31="},
+        Case{"JobControl6", "folder=2 item=5", "filing=3 folderPath=00 folderPath2="},
+        Case{"JobControl5", "item=0", "filing=1 folderPath=00"},
+        Case{"JobControl5", "item=1", "filing=2 folderPath=2A7374616E64617264"},
+        Case{"JobControl5", "item=4",
              "filing=3 folderPath=5A776569 folderPath2=5A776569 folderPath31=5A776569"},
-        Case{"JobControl5", "folderSelectionPopup=4 jobName=no-list",
-             "filing=3 folderPath2= folderPath=2A7374616E64617264"},
-        Case{"JobControl4", "folderSelectionMatrix=2 folderName=b", "filing=3 folderPath=62 jobSuspend=2"}}) {
+        Case{"JobControl5", "item=4 jobName=no-list", "filing=3 folderPath2= folderPath=2A7374616E64617264"},
+        Case{"JobControl4", "folder=2 folderName=b", "filing=3 folderPath=62 jobSuspend=2"}}) {
     SCOPED_TRACE(layout + u": "_s + controls);
     PanelGroups panel(layout);
     panel.state.hasInited = panel.model.hasHardDisk = true;
@@ -171,7 +167,7 @@ TEST(SettingsWriterWithHardDisk, FilingModeAndFolder) {
     panel.state.folderList->pop_back();
     if (controls.contains(u"no-list"_s)) panel.state.folderList.reset();
     panel.host.put("folderPath=00");
-    setControls(*panel.view, u"retentionCheckBox=1 "_s + controls);
+    setControls(*panel.view, u"retention=1 "_s + controls);
     panel.writer.writeNonPPDSettingsToPrintSettings();
     panel.host.expect(settings);
   }
@@ -192,7 +188,7 @@ TEST(SettingsWriterWithHardDisk, FolderNamesConvertWholeOrNotAtAll) {
     PanelGroups panel;
     panel.state.hasInited = panel.model.hasHardDisk = true;
     panel.state.systemEncoding = encoding;
-    setControls(*panel.view, "retentionCheckBox=1 folderSelectionMatrix=2");
+    setControls(*panel.view, "retention=1 folder=2");
     field(*panel.view, "folderName").setStringValue(name);
     panel.writer.writeNonPPDSettingsToPrintSettings();
     std::vector sizes{panel.host.value("folderPath").size(), panel.host.value("folderPath2").size()};
@@ -209,7 +205,7 @@ TEST(SettingsWriterOfOtherModels, TheControllerAsksItsCapabilities) {
   EXPECT_FALSE(panel.controller->filesDocuments());
   panel.controller->hasHardDisk = panel.controller->isVelko = true;
   EXPECT_TRUE(panel.controller->filesDocuments());
-  setControls(panel.view(), "retentionCheckBox=1 suspendMatrix=1 folderSelectionMatrix=0 suspendKey=7");
+  setControls(panel.view(), "retention=1 hold=1 folder=0 suspendKey=7");
   panel.save();
   panel.host.expect("filing=1 jobSuspend=0 jobSuspendKey= jobSuspend2Key=");
   panel.controller->isVelko = false;

@@ -2,7 +2,7 @@
 
 #include <QtCore/QTimeZone>
 
-#include "tests/support/guarded_buffer.h"
+#include "tests/support/filled_array.h"
 #include "tests/support/printing.h"
 
 namespace kesto {
@@ -11,21 +11,20 @@ namespace {
 using namespace test;
 
 TEST(HexText, BytesToUpperCaseDigitsAndBackByTheirArithmetic) {
-  GuardedBuffer<char, 7> text;
-  myitoa(std::array<std::uint8_t, 3>{0x00, 0xAB, 0xFF}, text.span());
+  FilledArray<char, 7> text;
+  myitoa(std::array<std::uint8_t, 3>{0x00, 0xAB, 0xFF}, text);
   EXPECT_STREQ(text.text(), "00ABFF");
-  myitoa(std::array<std::uint8_t, 4>{0x12, 0x34, 0x56, 0x78}, text.span());
+  myitoa(std::array<std::uint8_t, 4>{0x12, 0x34, 0x56, 0x78}, text);
   EXPECT_STREQ(text.text(), "123456") << "a byte that does not fit was begun";
-  myitoa({}, text.span());
+  myitoa({}, text);
   EXPECT_STREQ(text.text(), "");
   using Case = std::pair<std::string, QByteArray>;
   for (const auto& [digits, expected] :
        {Case{"00ABFF", QByteArray("\x00\xAB\xFF", 3)}, Case{"1", ""}, Case{"123", "\x12"}, Case{"a0", "\xA0"},
         Case{"0a", "*"}, Case{"::", "3"}, Case{"\xFF\xFF", "H"}, Case{"0102030405", "\x01\x02\x03"}}) {
-    GuardedBuffer<std::uint8_t, 4> bytes;
-    myatoi(digits, bytes.span());
+    FilledArray<std::uint8_t, 4> bytes;
+    myatoi(digits, bytes);
     EXPECT_EQ(QByteArray(bytes.text(), expected.size() + 1).toHex(), expected.toHex() + "00") << digits;
-    EXPECT_TRUE(bytes.isGuardIntact() && text.isGuardIntact());
   }
 }
 
@@ -36,35 +35,13 @@ TEST(SpoolTime, EnglishWithTheZonesOffset) {
         Case{{2023, 12, 3}, 0, "Sun, 03 Dec 2023 07:08:09 +0000"},
         Case{{2000, 9, 30}, 840, "Sat, 30 Sep 2000 07:08:09 +1400"},
         Case{{2038, 1, 20}, -45, "Wed, 20 Jan 2038 07:08:09 -0045"}}) {
-    GuardedBuffer<char, 64> text;
-    EXPECT_EQ(GetSpoolTime(text.span(), QDateTime(date, {7, 8, 9}, QTimeZone(minutes * 60))), 31U);
+    FilledArray<char, 64> text;
+    EXPECT_EQ(GetSpoolTime(text, QDateTime(date, {7, 8, 9}, QTimeZone(minutes * 60))), 31U);
     EXPECT_STREQ(text.text(), expected);
-    EXPECT_TRUE(text.isGuardIntact());
   }
-  GuardedBuffer<char, 63> small;
-  EXPECT_EQ(GetSpoolTime(small.span(), QDateTime::currentDateTime()), 0U);
+  FilledArray<char, 63> small;
+  EXPECT_EQ(GetSpoolTime(small, QDateTime::currentDateTime()), 0U);
   EXPECT_STREQ(small.text(), "");
-}
-
-TEST(ReplaceSpaceCode, ControlCharactersAndQuotesBecomeBlanks) {
-  std::array<std::uint8_t, 256> bytes{};
-  for (std::size_t byte = 0; byte < 256; ++byte)
-    bytes.at(byte) = static_cast<std::uint8_t>(byte);
-  ReplaceSpaceCode(bytes);
-  for (std::size_t byte = 0; byte < 256; ++byte) {
-    const bool isReplaced = (byte >= 0x01 && byte <= 0x08) || (byte >= 0x0A && byte <= 0x1F) || byte == 0x22;
-    EXPECT_EQ(bytes.at(byte), isReplaced ? 0x20 : byte);
-  }
-}
-
-TEST(AsciiValue, StoredOrTheKeyRemoved) {
-  PrintSettings settings;
-  for (const char* value : {static_cast<const char*>(nullptr), "", "\xE9", "abc\x80"}) {
-    MyPMPrintSetAsciiCStrValue(&settings, u"k"_s, "new\x7F");
-    EXPECT_EQ(settings.value(u"k"_s), u"new\x7F"_s);
-    MyPMPrintSetAsciiCStrValue(&settings, u"k"_s, value);
-    EXPECT_EQ(settings.value(u"k"_s), std::nullopt);
-  }
 }
 
 TEST(MultiKey, PiecesOf254AndOneStalePieceRemoved) {
@@ -92,8 +69,8 @@ TEST(MultiKey, BaseKeysOfOneTo98Characters) {
     const QByteArray key(length, 'k');
     MyMultiPMPrintSetAsciiCStrValue(&settings, key.constData(), "value");
     EXPECT_EQ(settings.all().size(), length == 98 ? 1 : 0);
-    GuardedBuffer<char, 8> joined;
-    MyMultiPMPrintGetAsciiCStrValue(&settings, key.constData(), joined.span());
+    FilledArray<char, 8> joined;
+    MyMultiPMPrintGetAsciiCStrValue(&settings, key.constData(), joined);
     EXPECT_EQ(joined[0], length == 98 ? 'v' : static_cast<char>(0xAA));
   }
 }
@@ -101,21 +78,20 @@ TEST(MultiKey, BaseKeysOfOneTo98Characters) {
 TEST(MultiKey, JoinsAtMostTenPiecesThatFit) {
   PrintSettings settings;
   const auto joinedWithin = [&](auto buffer) {
-    MyMultiPMPrintGetAsciiCStrValue(&settings, "k", buffer.span());
-    EXPECT_TRUE(buffer.isGuardIntact());
+    MyMultiPMPrintGetAsciiCStrValue(&settings, "k", buffer);
     return QByteArray(buffer.text());
   };
   for (int piece = 1; piece <= 11; ++piece)
     settings.setValue(u"k%1"_s.arg(piece), QString(254, u'a'));
-  EXPECT_EQ(joinedWithin(GuardedBuffer<char, 254 * 11 + 1>()).size(), 2540);
+  EXPECT_EQ(joinedWithin(FilledArray<char, 254 * 11 + 1>()).size(), 2540);
   int piece = 2;
   for (const QString& value : {u"b"_s, u"\u00E9"_s, QString(256, u'd'), u""_s, u"f"_s})
     settings.setValue(u"k%1"_s.arg(piece++), value);
   settings.setValue(u"k7"_s, std::nullopt);
   const QByteArray first(254, 'a');
-  EXPECT_EQ(joinedWithin(GuardedBuffer<char, 257>()), first + "bf");
-  EXPECT_EQ(joinedWithin(GuardedBuffer<char, 256>()), first + "b") << "the last piece does not fit";
-  EXPECT_EQ(joinedWithin(GuardedBuffer<char, 2>()), "b") << "the first does not, the next does";
+  EXPECT_EQ(joinedWithin(FilledArray<char, 257>()), first + "bf");
+  EXPECT_EQ(joinedWithin(FilledArray<char, 256>()), first + "b") << "the last piece does not fit";
+  EXPECT_EQ(joinedWithin(FilledArray<char, 2>()), "b") << "the first does not, the next does";
 }
 
 }  // namespace

@@ -89,24 +89,6 @@ TEST_F(DialogDocument, WhatHasNoEndIsReadInBounds) {
             QStringList{u"zero is larger than 293 KiB, the most that can be printed."_s});
 }
 
-TEST_F(DialogDocument, TheEndOfAnotherProgramsPipeIsConfirmed) {
-  int ends = 0;
-  QObject::connect(&m_document, &Document::ended, [&] { ++ends; });
-  m_document.readFromClient(pipeOf("half"), u"Report"_s);
-  waitFor([&] { return ends == 1; });
-  EXPECT_EQ(m_document.state(), State::Reading);
-  EXPECT_TRUE(m_document.isOpenEnded());
-  m_document.confirmEnd();
-  EXPECT_EQ(m_document.state(), State::Ready);
-  m_document.readFromClient(Descriptor(::open(path(u"report.pdf"_s).constData(), O_RDONLY | O_CLOEXEC)),
-                            u"Report"_s);
-  EXPECT_FALSE(m_document.isOpenEnded());
-  m_document.readOn();
-  awaitState(State::Ready);
-  EXPECT_EQ(bytes(), pdfDocument());
-  EXPECT_EQ(ends, 1);
-}
-
 TEST_F(DialogDocument, ACopyGoesWhereThereIsRoom) {
   qputenv("TMPDIR", path(u"missing"_s));
   const Descriptor pipe = pipeOf("elsewhere");
@@ -443,8 +425,7 @@ TEST_F(DialogPreview, AProgramEndsWithTheDialogHoweverThatEnds) {
                         "echo $$ >" + QFile::encodeName(m_folder.path(u"process"_s)) + "\nexec sleep 600\n");
   const QByteArray path = qgetenv("PATH");
   qputenv("PATH", QFile::encodeName(m_folder.path(u""_s)) + ':' + path);
-  DemoProcess dialog(m_folder, builtProgram("kesto-print"),
-                     {u"-h"_s, u"127.0.0.1:9"_s, m_folder.path(u"report.pdf"_s)});
+  DemoProcess dialog(m_folder, u"kesto-print"_s, {u"-h"_s, u"127.0.0.1:9"_s, m_folder.path(u"report.pdf"_s)});
   qputenv("PATH", path);
   const QString file = m_folder.path(u"process"_s);
   waitFor([&] { return QFileInfo(file).size() > 0; });

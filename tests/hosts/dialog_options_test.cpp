@@ -1,8 +1,5 @@
 // What the dialog shows of a job's options, and what travels.
-#include <fcntl.h>
-
 #include <QtWidgets/QSpinBox>
-#include <array>
 #include <ctime>
 
 #include "hosts/dialog/panes/option_pane.h"
@@ -12,22 +9,6 @@
 
 namespace kesto::test {
 namespace {
-
-// What the scheduler answers to the owner of a job; empty for nothing.
-QString attributeOfJob(const ServerAddress& address, int job, const char* name) {
-  std::unique_ptr<PrintServer> server;
-  EXPECT_TRUE(address.connect(&server));
-  const Ipp request(ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES));
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
-               qPrintable(u"ipp://localhost/jobs/%1"_s.arg(job)));
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-  Ipp reply;
-  EXPECT_TRUE(server->ask(request.get(), &reply));
-  std::array<char, 200> value{};
-  ipp_attribute_t* found = ippFindAttribute(reply.get(), name, IPP_TAG_ZERO);
-  if (found != nullptr) ippAttributeString(found, value.data(), value.size());
-  return QString::fromUtf8(value.data());
-}
 
 QString noteOf(const PrintDialog& dialog) {
   return dialog.findChild<QLabel*>(u"generalNote"_s)->text();
@@ -52,13 +33,11 @@ TEST_F(DialogPrint, WhatIsShownIsWhatTravels) {
   EXPECT_TRUE(DialogUser(*m_dialog).choose(u"Duplex"_s, 0));
   widget<QSpinBox>(u"copies"_s)->setValue(1);
   click(u"print"_s);
-  await([this] { return m_dialog->job() > 0; }, u"the job"_s);
-  m_printer->waitForLog("job 1");
-  const std::pair<const char*, QString> expected[] = {{"copies", u"1"_s}, {"page-ranges", u"2-2"_s},
-                                                      {"sides", u""_s},   {"Duplex", u"None"_s},
-                                                      {"media", u""_s},   {"PageSize", u"A5"_s}};
-  for (const auto& [name, value] : expected)
-    EXPECT_EQ(attributeOfJob(m_options.server, 1, name), value) << name;
+  awaitJob(1);
+  const QMap<QString, QString> sent = m_printer->attributesOfJob(1, cupsUser());
+  forEachValue(
+      u"copies=1 page-ranges=2-2 sides= Duplex=None media= PageSize=A5"_s,
+      [&](const QString& name, const QString& value) { EXPECT_EQ(sent.value(name), value) << name; });
   m_options.jobOptions = {{u"copies"_s, u"1"_s}, {u"PageSize"_s, u"Custom"_s}, {u"collate"_s, u"?"_s}};
   openReady();
   EXPECT_EQ(widget<QSpinBox>(u"copies"_s)->value(), 1) << "given for the job";
@@ -134,11 +113,12 @@ TEST_F(DialogPrint, EachOptionArrivesAsItsControlHasIt) {
     await([this] { return m_dialog->job() > 0; }, u"the job"_s);
     for (const auto& row : rows) {
       if (row.job != job || row.attribute.isEmpty()) continue;
-      EXPECT_EQ(attributeOfJob(m_options.server, job, qPrintable(row.attribute)), row.arrives)
+      EXPECT_EQ(m_printer->attributesOfJob(job, cupsUser()).value(row.attribute), row.arrives)
           << row.attribute;
     }
   }
-  EXPECT_EQ(attributeOfJob(m_options.server, 2, "Duplex"), u"DuplexTumble"_s) << "of a booklet";
+  EXPECT_EQ(m_printer->attributesOfJob(2, cupsUser()).value(u"Duplex"_s), u"DuplexTumble"_s)
+      << "of a booklet";
 }
 
 TEST_F(DialogPrint, AnEntryThatIsNoneIsMarkedWithWhatWouldDo) {
@@ -192,23 +172,7 @@ TEST_F(DialogPrint, PagesThatTheDocumentHasNotAreNotPrinted) {
   EXPECT_EQ(text(u"paperTotal"_s), u"Total: 3 sheets of paper"_s);
   click(u"print"_s);
   await([this] { return m_dialog->job() > 0; }, u"the job"_s);
-  EXPECT_EQ(attributeOfJob(m_options.server, 1, "page-ranges"), u"2-3"_s);
-}
-
-TEST_F(DialogPrint, ADocumentThatComesAfterTheChoiceBringsItsName) {
-  startPrinter();
-  m_options.title = u"Window"_s;
-  m_options.documentLater = true;
-  m_options.channel = 0;
-  openReady({});
-  click(u"print"_s);
-  EXPECT_FALSE(m_dialog->isVisible());
-  m_document.readFromClient(Descriptor(::open(qPrintable(m_folder.path(u"report.pdf"_s)), O_RDONLY)),
-                            u"Plan"_s);
-  await([this] { return m_dialog->job() > 0; }, u"the job"_s);
-  EXPECT_EQ(attributeOfJob(m_options.server, 1, "job-name"), u"Plan"_s);
-  EXPECT_EQ(m_dialog->jobSettings().value(u"kesto.print.PrintSettings.jobName"_s),
-            QString::fromLatin1(QByteArray("Plan").toHex().toUpper()));
+  EXPECT_EQ(m_printer->attributesOfJob(1, cupsUser()).value(u"page-ranges"_s), u"2-3"_s);
 }
 
 }  // namespace

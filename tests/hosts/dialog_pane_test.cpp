@@ -20,9 +20,16 @@
 namespace kesto::test {
 namespace {
 
+QAccessibleInterface& accessible(QWidget* widget) {
+  return *QAccessible::queryAccessibleInterface(widget);
+}
+
 class DialogPane : public testing::Test {
  protected:
   void use(const Text& operations) { useWidgets(m_window, operations); }
+  void toggle(const QString& name) {
+    accessible(m_window.widget(name)).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  }
 
   PaneWindow m_window;
   DialogUser& m_user = m_window.user;
@@ -31,23 +38,6 @@ class DialogPane : public testing::Test {
 TEST_F(DialogPane, EveryControlHasItsWidget) {
   for (const Control* control : m_window.view->controls())
     EXPECT_NE(m_window.findChild<QWidget*>(control->objectName()), nullptr) << control->objectName();
-}
-
-TEST_F(DialogPane, WhatAUserDoesReachesTheJob) {
-  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
-  use("retentionCheckBox samplePrintRadioButton suspendKeyEditText=13579 userNumberRadioButton "
-      "userNumberEditText=42 jobNameEditText=Plan");
-  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"3"_s);
-  EXPECT_EQ(m_window.setting(u"userNumber"_s), u"00042"_s);
-  EXPECT_EQ(m_window.setting(u"jobName"_s), QString::fromLatin1(QByteArray("Plan").toHex().toUpper()));
-  EXPECT_EQ(m_window.setting(u"jobSuspendKey"_s).size(), 32) << "the digest of the pass code";
-  use("retentionCheckBox");
-  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
-  EXPECT_EQ(m_window.widget<QLineEdit>(u"suspendKeyEditText"_s)->text(), u""_s);
-}
-
-QAccessibleInterface& accessible(QWidget* widget) {
-  return *QAccessible::queryAccessibleInterface(widget);
 }
 
 // The ways to edit a line: a user's, who is in it, and those of assistive technology, wherever the focus is.
@@ -157,7 +147,7 @@ TEST_F(DialogPane, EveryWayToEditGoesThroughTheFilter) {
 TEST_F(DialogPane, AHoldButtonLocksItsField) {
   auto* line = m_window.widget<QLineEdit>(u"jobNameEditText"_s);
   auto* button = m_window.widget<QToolButton>(u"jobNameButton"_s);
-  const auto state = [&] { return QAccessible::queryAccessibleInterface(button)->state(); };
+  const auto state = [&] { return accessible(button).state(); };
   EXPECT_TRUE(line->isEnabled());
   EXPECT_FALSE(state().checked);
   const QImage open = button->grab().toImage();
@@ -195,31 +185,42 @@ TEST_F(DialogPane, SecretsHideThemselves) {
   EXPECT_EQ(eye.pixelColor(2, 8).rgb(), code->palette().color(QPalette::Disabled, QPalette::Text).rgb());
 }
 
+// By a user, and by assistive technology.
 TEST_F(DialogPane, PopUpAndMatrixOfFoldersStayInStep) {
   use("retentionCheckBox");
   auto* popUp = m_window.control<PopUp>(u"folderSelectionPopup"_s);
-  std::vector<PopUpItem> items = popUp->items();
-  items.push_back({.title = {}, .image = {}, .separator = true});
-  items.push_back({.title = u"Invoices"_s, .image = {}});
-  popUp->setItems(items);
-  // What is chosen, an item or a cell, and the row and the item that are chosen then.
-  const std::tuple<QString, int, int> cases[] = {
-      {u"3"_s, 2, 3},
-      {u"1"_s, 1, 1},
-      {u"quickFileRadioButton"_s, 0, 0},
-      {u"customFolderRadioButton"_s, 2, 1},
-      {u"0"_s, 0, 0},
-      {u"3"_s, 2, 3},
-      {u"customFolderRadioButton"_s, 2, 3},
-      {u"mainFolderRadioButton"_s, 1, 1},
+  auto* items = m_window.widget<QComboBox>(u"folderSelectionPopup"_s);
+  std::vector<PopUpItem> more = popUp->items();
+  more.push_back({.title = {}, .image = {}, .separator = true});
+  more.push_back({.title = u"Invoices"_s, .image = {}});
+  popUp->setItems(more);
+  const auto choose = [&](const Text& chosen, bool isAssistive) {
+    if (chosen.size() > 1) return isAssistive ? toggle(chosen) : use(chosen);
+    if (isAssistive) return items->setCurrentIndex(chosen.toInt());
+    EXPECT_TRUE(m_user.choose(u"folderSelectionPopup"_s, chosen.toInt()));
   };
-  for (const auto& [chosen, row, index] : cases) {
-    const bool isItem = chosen.size() == 1;
-    EXPECT_TRUE(isItem ? m_user.choose(u"folderSelectionPopup"_s, chosen.toInt()) : m_user.click(chosen));
-    EXPECT_EQ(m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s)->selectedRow(), row) << chosen;
-    EXPECT_EQ(popUp->selectedIndex(), index) << chosen;
-    EXPECT_EQ(m_window.widget<QComboBox>(u"folderSelectionPopup"_s)->currentIndex(), index) << chosen;
+  // What is chosen, an item or a cell, and the row and the item that are chosen then.
+  using Case = std::tuple<Text, int, int>;
+  const Case cases[] = {
+      {"3", 2, 3}, {"1", 1, 1}, {"quickFileRadioButton", 0, 0},    {"customFolderRadioButton", 2, 1},
+      {"0", 0, 0}, {"3", 2, 3}, {"customFolderRadioButton", 2, 3}, {"mainFolderRadioButton", 1, 1}};
+  for (const bool isAssistive : {false, true}) {
+    for (const auto& [chosen, row, index] : cases) {
+      choose(chosen, isAssistive);
+      EXPECT_EQ(m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s)->selectedRow(), row) << chosen;
+      EXPECT_EQ(popUp->selectedIndex(), index) << chosen;
+      EXPECT_EQ(items->currentIndex(), index) << chosen;
+    }
   }
+  toggle(u"quickFileRadioButton"_s);
+  EXPECT_EQ(m_window.control<RadioMatrix>(u"suspendMatrix"_s)->selectedRow(), 1) << "the rules have run";
+  toggle(u"retentionCheckBox"_s);
+  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
+  toggle(u"holdAfterRadioButton"_s);  // dimmed
+  m_window.widget<QAbstractButton>(u"samplePrintRadioButton"_s)->setChecked(true);
+  items->setCurrentIndex(0);
+  EXPECT_TRUE(m_window.widget<QAbstractButton>(u"holdOnlyRadioButton"_s)->isChecked());
+  EXPECT_EQ(items->currentIndex(), 1);
 }
 
 TEST_F(DialogPane, FocusFollowsTheModelAndBack) {
@@ -253,35 +254,11 @@ TEST_F(DialogPane, FocusFollowsTheModelAndBack) {
   EXPECT_TRUE(m_window.widget(u"loginNameEditText"_s)->hasFocus());
 }
 
-TEST_F(DialogPane, AssistiveTechnologyGoesThroughTheRules) {
-  const auto toggle = [this](const QString& name) {
-    accessible(m_window.widget(name)).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-  };
-  auto* items = m_window.widget<QComboBox>(u"folderSelectionPopup"_s);
-  const auto* rows = m_window.control<RadioMatrix>(u"folderSelectionMatrix"_s);
-  use("retentionCheckBox");
-  // The next key goes to a caret that was moved without the focus.
+TEST_F(DialogPane, TabsProgressAndACaretMovedWithoutTheFocusFollow) {
   auto* line = m_window.widget<QLineEdit>(u"jobNameEditText"_s);
   line->setCursorPosition(0);
   accessible(line).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
   EXPECT_EQ(m_window.control<TextField>(u"jobNameEditText"_s)->selection(), TextRange());
-  toggle(u"quickFileRadioButton"_s);
-  EXPECT_EQ(rows->selectedRow(), 0);
-  EXPECT_EQ(m_window.control<RadioMatrix>(u"suspendMatrix"_s)->selectedRow(), 1) << "the rules have run";
-  EXPECT_EQ(items->currentIndex(), 0);
-  items->setCurrentIndex(1);
-  EXPECT_EQ(m_window.control<PopUp>(u"folderSelectionPopup"_s)->selectedIndex(), 1);
-  EXPECT_EQ(rows->selectedRow(), 1);
-  toggle(u"retentionCheckBox"_s);
-  EXPECT_EQ(m_window.setting(u"jobSuspend"_s), u"0"_s);
-  toggle(u"holdAfterRadioButton"_s);  // dimmed
-  m_window.widget<QAbstractButton>(u"samplePrintRadioButton"_s)->setChecked(true);
-  items->setCurrentIndex(0);
-  EXPECT_TRUE(m_window.widget<QAbstractButton>(u"holdOnlyRadioButton"_s)->isChecked());
-  EXPECT_EQ(items->currentIndex(), 1);
-}
-
-TEST_F(DialogPane, TabsAndProgressFollow) {
   m_window.control<ProgressIndicator>(u"chasingArrow"_s)->setHidden(false);
   EXPECT_TRUE(m_window.widget(u"chasingArrow"_s)->isVisible());
   auto* tabs = m_window.control<TabView>(u"tabView"_s);
@@ -308,13 +285,6 @@ TEST_F(DialogPane, ATipSaysWhyAControlIsDimmed) {
       "loginNameEditText=user_number"_s);
   use("quickFileRadioButton userNumberButton");
   expectTips(u"suspendKeyEditText=quick_file userNumberEditText=locked"_s);
-}
-
-TEST_F(DialogPane, TheTestsUserFailsWhereAPersonWould) {
-  EXPECT_FALSE(m_user.click(u"noSuchButton"_s));
-  EXPECT_FALSE(m_user.click(u"holdOnlyRadioButton"_s)) << "it is dimmed";
-  EXPECT_FALSE(m_user.type(u"jobNameStaticText"_s, u"x"_s)) << "a label takes no keys";
-  EXPECT_FALSE(m_user.choose(u"jobNameEditText"_s, 0)) << "a line has no items";
 }
 
 TEST_F(DialogPane, OutlivesItsPanel) {

@@ -53,12 +53,12 @@ TEST_F(DialogPrint, AWholeJobIsDoneThroughAssistiveTechnologyAlone) {
   act(u"print"_s, QAccessibleActionInterface::pressAction());
   awaitJob(1);
   EXPECT_EQ(text(u"message"_s), u"Job 1 was sent to Office_MFP."_s);
-  const QMap<QString, QString> settings = m_dialog->jobSettings();
-  for (const auto& [name, value] :
-       Cases{{"jobSuspend", "1"}, {"userNumber", "00042"}, {"jobName", "506C616E"}, {"holdButton", "64"}})
-    EXPECT_EQ(settings.value(u"kesto.print.PrintSettings."_s + name), value);
-  EXPECT_EQ(m_printer->release({u"1"_s}), 3) << "without its pass code";
-  EXPECT_EQ(m_printer->release({u"1"_s, u"--pin-file"_s, m_folder.path(u"pin"_s)}), 0);
+  forEachValue(u"jobSuspend=1 userNumber=00042 jobName=506C616E holdButton=64"_s,
+               [this](const QString& name, const QString& value) {
+                 EXPECT_EQ(m_dialog->jobSettings().value(u"kesto.print.PrintSettings."_s + name), value);
+               });
+  EXPECT_EQ(m_printer->release(u"1"_s), 3) << "without its pass code";
+  EXPECT_EQ(m_printer->release(u"1 --pin-file %1/pin"_s), 0);
   EXPECT_TRUE(printout(1).contains(pdfDocument()));
   openReady();
   EXPECT_TRUE(widget<QToolButton>(u"userNumberButton"_s)->isChecked());
@@ -248,24 +248,11 @@ TEST_F(DialogPrint, TheEndOfAFolderFetchIsSaid) {
     EXPECT_FALSE(text(u"message"_s).contains(QChar(0x202E)));
     EXPECT_EQ(m_dialog->focusWidget(), address);
   }
-  QTcpServer gone;
-  ASSERT_TRUE(gone.listen(QHostAddress::LocalHost));
-  address->setText(u"127.0.0.1:%1"_s.arg(gone.serverPort()));
-  gone.close();
+  address->setText(u"127.0.0.1:1"_s);  // nobody listens there
   EXPECT_EQ(alertOn([this] { click(u"getFolderNameButton"_s); }), u"Could not retrieve Folder Names."_s);
   EXPECT_EQ(m_dialog->focusWidget(), widget(u"getFolderNameButton"_s));
   EXPECT_TRUE(widget<QPushButton>(u"print"_s)->isDefault());
   EXPECT_TRUE(m_dialog->isVisible());
-
-  const QByteArray temporary = qgetenv("TMPDIR");
-  qputenv("TMPDIR", "/nonexistent");
-  openReady();
-  widget<QLineEdit>(u"printersAddressEditText"_s)->setText(m_printer->place(u"folders"_s));
-  click(u"getFolderNameButton"_s);
-  qputenv("TMPDIR", temporary);
-  EXPECT_TRUE(text(u"message"_s).contains(u"to the temporary folder"_s)) << text(u"message"_s);
-  click(u"getFolderNameButton"_s);
-  EXPECT_EQ(text(u"message"_s), u""_s) << "there is room again";
 }
 
 TEST_F(DialogPrint, CancelEndsAFolderFetch) {

@@ -164,18 +164,12 @@ TEST_F(DialogPrint, TheFirstQueueThatTakesJobsStandsInForOneThatIsMissing) {
     EXPECT_EQ(tip(0), u"Not accepting jobs"_s);
     EXPECT_EQ(tip(1), u"Ready"_s);
   }
-  DemoProcess program(m_folder, builtProgram("kesto-print"),
-                      {u"-h"_s, m_options.server.address, u"--timings"_s});
-  EXPECT_EQ(program.code(), 0) << program.log();
+  DemoProcess(m_folder, u"kesto-print --timings -h "_s + m_options.server.address).output();
 }
 
 TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) {
   openReady();
-  const auto change = [this](const QStringList& arguments) {
-    DemoProcess lpadmin(m_folder, u"/usr/sbin/lpadmin"_s,
-                        QStringList{u"-h"_s, m_printer->place(u"server"_s)} + arguments);
-    EXPECT_EQ(lpadmin.code(), 0) << lpadmin.log();
-  };
+  const auto change = [this](const QString& how) { m_printer->ofPrintSystem(u"/usr/sbin/lpadmin "_s + how); };
   const auto ask = [this](ipp_op_t operation, int subscription) {
     const Ipp request(ippNewRequest(operation));
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
@@ -188,13 +182,13 @@ TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) 
   const QueueListModel& queues = m_dialog->queues();
   const auto* printer = widget<QComboBox>(u"printer"_s);
   await([&] { return ask(IPP_OP_GET_SUBSCRIPTION_ATTRIBUTES, 1); }, u"the subscription"_s);
-  change({u"-p"_s, u"Annex"_s, u"-E"_s, u"-v"_s, u"socket://127.0.0.1:9"_s});
+  change(u"-p Annex -E -v socket://127.0.0.1:9"_s);
   await([&] { return queues.rowOf(u"Annex"_s) == 0; }, u"the new queue"_s);
   EXPECT_EQ(printer->currentText(), u"Office_MFP — Kesto VQ-250n (demo)"_s);
   EXPECT_TRUE(ask(IPP_OP_CANCEL_SUBSCRIPTION, 1));
   await([&] { return ask(IPP_OP_GET_SUBSCRIPTION_ATTRIBUTES, 2); }, u"the next subscription"_s);
-  change({u"-p"_s, u"Annex"_s, u"-D"_s, u"Moved"_s});
-  change({u"-x"_s, u"Office_MFP"_s});
+  change(u"-p Annex -D Moved"_s);
+  change(u"-x Office_MFP"_s);
   await([&] { return queues.queues().size() == 1 && printer->itemText(0) == u"Annex — Moved"_s; },
         u"the news"_s);
   EXPECT_EQ(printer->currentIndex(), -1) << "nobody has chosen another";
@@ -268,33 +262,21 @@ TEST_F(DialogPrint, TheSummaryTellsWhatOthersSee) {
 
 TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
   startPrinter();
-  const struct {
-    QString arguments;  // "%1" stands for the server, "%2" for a folder
-    int code = 0;
-    const char* output = "";
-    const char* error = "";
-  } runs[] = {
-      {u"-h %1 --timings"_s, 0, "queues=1"},
-      {u"-h %1 --screenshot %2/picture.png %2/report.pdf"_s},
-      {u"-h %1 --screenshot %2/picture.png /no/such.pdf"_s, 0, "", "/no/such.pdf cannot be read"},
-      {u"-h %1 -d None --timings"_s, 1, "", "no printer"},
-      {u"--help"_s, 0, "usage: kesto-print"},
-      {u"--nonsense"_s, 2, "", "--nonsense"},
-      {u"--\u001b[2J"_s, 2, "", "--\\x1b[2J"},  // which a terminal would obey
-      {u"--timeout 0"_s, 2, "", "--timeout"},
-      {u"--timeout nan"_s, 2, "", "--timeout"},
-      {u"-n 0x10"_s, 2, "", "-n"},
-      {u"--portal 77"_s, 2, "", "must be an open descriptor"},
-  };
-  for (const auto& [arguments, code, output, error] : runs) {
-    const QString given = QString(arguments)
-                              .replace(u"%1"_s, m_printer->place(u"server"_s))
-                              .replace(u"%2"_s, m_folder.path(u""_s));
-    DemoProcess program(m_folder, builtProgram("kesto-print"), given.split(u' '));
+  using Run = std::tuple<Text, int, const char*, const char*>;  // "%1" is the folder, "%2" the server
+  for (const auto& [line, code, output, error] :
+       {Run{"-h %2 --timings", 0, "queues=1", ""},
+        Run{"-h %2 --screenshot %1/picture.png %1/report.pdf", 0, "", ""},
+        Run{"-h %2 --screenshot %1/picture.png /no/such.pdf", 0, "", "/no/such.pdf cannot be read"},
+        Run{"-h %2 -d None --timings", 1, "", "no printer"}, Run{"--help", 0, "usage: kesto-print", ""},
+        Run{"--nonsense", 2, "", "--nonsense"}, Run{"--\u001b[2J", 2, "", "--\\x1b[2J"},
+        Run{"--timeout nan", 2, "", "--timeout"}, Run{"-n 0x10", 2, "", "-n"},
+        Run{"--portal 77", 2, "", "must be an open descriptor"}}) {
+    const QString arguments = QString(line).replace(u"%2"_s, m_printer->place(u"server"_s));
+    DemoProcess program(m_folder, u"kesto-print "_s + arguments);
     program.closeWriteChannel();
-    EXPECT_EQ(program.code(), code) << arguments;
-    EXPECT_TRUE(program.readAllStandardOutput().contains(output)) << arguments;
-    EXPECT_TRUE(program.log().contains(error)) << arguments;
+    EXPECT_EQ(program.code(), code) << line;
+    EXPECT_TRUE(program.readAllStandardOutput().contains(output)) << line;
+    EXPECT_TRUE(program.log().contains(error)) << line;
   }
   EXPECT_FALSE(QImage(m_folder.path(u"picture.png"_s)).isNull());
 }

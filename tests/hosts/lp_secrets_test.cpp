@@ -16,22 +16,17 @@ const QString pin1234 = u"jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E"_s;
 class LpSecrets : public LpTest {};
 
 TEST_F(LpSecrets, TheFirstLineOfAFileOrOfStandardInput) {
-  const QPair<QByteArray, QString> cases[] = {
-      {"1234\n", {}},
-      {"1234", {}},
-      {"1234\r\nmore\n", {}},
-      {"", u"kesto-lp: --pin-file: the line is empty\n"_s},
-      {"\n1234\n", u"kesto-lp: --pin-file: the line is empty\n"_s},
-      {QByteArray(1024, 'x') + 'y', u"kesto-lp: --pin-file: the line is too long\n"_s},
-      {"12\xFF", u"kesto-lp: --pin-file: the line is not UTF-8\n"_s},
-  };
-  for (const auto& [bytes, fault] : cases) {
+  using Case = std::pair<QByteArray, Text>;  // the bytes, and what is wrong with them
+  for (const auto& [bytes, fault] :
+       {Case{"1234\n", ""}, Case{"1234", ""}, Case{"1234\r\nmore\n", ""}, Case{"", "the line is empty"},
+        Case{"\n1234\n", "the line is empty"}, Case{QByteArray(1025, 'x'), "the line is too long"},
+        Case{"12\xFF", "the line is not UTF-8"}}) {
     m_folder.write(u"code"_s, bytes);
     for (const QString& source : {u"-"_s, m_folder.path(u"code"_s)}) {
       const LpRun run = dryRun(u"--hold only --pin-file "_s + source, bytes);
-      EXPECT_EQ(run.code, fault.isNull() ? 0 : 1) << bytes.constData();
-      EXPECT_EQ(run.values(u"jobSuspend2Key"_s), fault.isNull() ? pin1234 : u"jobSuspend2Key"_s);
-      EXPECT_EQ(run.err, fault.isNull() ? u""_s : fault);
+      EXPECT_EQ(run.code, fault.isEmpty() ? 0 : 1) << bytes;
+      EXPECT_EQ(run.values(u"jobSuspend2Key"_s), fault.isEmpty() ? pin1234 : u"jobSuspend2Key"_s);
+      EXPECT_EQ(run.err, fault.isEmpty() ? u""_s : u"kesto-lp: --pin-file: %1\n"_s.arg(fault));
     }
   }
   EXPECT_EQ(dryRun(u"--password-file /no/file"_s).err,

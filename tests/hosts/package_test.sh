@@ -6,12 +6,11 @@
 set -euo pipefail
 
 build=$(realpath "${1:?usage: tests/hosts/package_test.sh BUILD_FOLDER}")
-for tool in lintian dpkg-deb; do
-  if command -v "$tool" >/dev/null; then continue; fi
-  echo "package_test: $tool is not installed"
+if ! { command -v lintian && command -v dpkg-deb; } >/dev/null; then
+  echo "package_test: lintian or dpkg-deb is not installed"
   if [[ ${CI:-} == true ]]; then exit 1; fi
   exit 77
-done
+fi
 
 scratch=$(mktemp -d)
 printer=

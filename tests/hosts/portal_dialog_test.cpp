@@ -138,7 +138,8 @@ TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
   const QMap<QString, QString> sent = m_printer->attributesOfJob(1, cupsUser());
   forEachValue(
       u"copies=3 collate=false number-up=2 number-up-layout=rltb page-set=even outputorder=reverse "
-      "scaling=70 Duplex=DuplexTumble PageSize=A5 page-ranges="_s,
+      "scaling=70 Duplex=DuplexTumble PageSize=A5 page-ranges= job-name=Report "
+      "kesto.print.PrintSettings.jobName=5265706F7274"_s,
       [&](const QString& name, const QString& value) { EXPECT_EQ(sent.value(name), value) << name; });
 }
 

@@ -1,7 +1,7 @@
 // Controls by name, and their values in a short notation: "retentionCheckBox=1 suspendMatrix=2 userName=jane
 // focus=jobName". The value is the state of a button, the row of a matrix, the index of a pop-up, the text of
 // a field, the title of a box or radio cell; "focus" is the first responder, empty for none. The name of a
-// text field may omit its "EditText".
+// text field may omit its "EditText"; the choices have the short names below.
 #pragma once
 
 #include "panel/model/button.h"
@@ -14,10 +14,19 @@
 
 namespace kesto::test {
 
+inline QString wholeName(const QString& name) {
+  static const QMap<QString, QString> choices{{u"retention"_s, u"retentionCheckBox"_s},
+                                              {u"hold"_s, u"suspendMatrix"_s},
+                                              {u"item"_s, u"folderSelectionPopup"_s},
+                                              {u"folder"_s, u"folderSelectionMatrix"_s},
+                                              {u"who"_s, u"authenticationMatrix"_s}};
+  return choices.value(name, name);
+}
+
 /// The control of that name and kind; throws when it is missing.
 template <class T>
 T& controlNamed(const PanelView& view, const QString& name) {
-  for (const QString& whole : {name, name + u"EditText"_s}) {
+  for (const QString& whole : {wholeName(name), name + u"EditText"_s}) {
     if (T* control = view.control<T>(whole)) return *control;
   }
   throw std::runtime_error("no control " + name.toStdString());
@@ -60,7 +69,8 @@ inline void expectControls(const PanelView& view, const Text& values) {
 
 /// Sets controls from code, without filters and actions.
 inline void setControls(const PanelView& view, const Text& values) {
-  forEachValue(values, [&](const QString& name, const QString& value) {
+  forEachValue(values, [&](const QString& given, const QString& value) {
+    const QString name = wholeName(given);
     if (auto* button = view.control<Button>(name)) return button->setState(value.toInt());
     if (auto* matrix = view.control<RadioMatrix>(name)) return matrix->selectRow(value.toInt());
     if (auto* popUp = view.control<PopUp>(name)) return popUp->selectItemAtIndex(value.toInt());
@@ -70,7 +80,7 @@ inline void setControls(const PanelView& view, const Text& values) {
 
 /// One operation of the user: "suspendKeyButton" clicks, "suspendMatrix=2" chooses, "userName=x" types.
 inline Outcome operate(const PanelView& view, const Text& operation) {
-  const QString name = operation.section(u'=', 0, 0);
+  const QString name = wholeName(operation.section(u'=', 0, 0));
   const QString value = operation.section(u'=', 1);
   if (auto* button = view.control<Button>(name)) return button->click();
   if (auto* matrix = view.control<RadioMatrix>(name)) return matrix->choose(value.toInt());

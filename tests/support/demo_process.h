@@ -24,12 +24,6 @@ namespace kesto::test {
 
 using namespace Qt::StringLiterals;
 
-inline QByteArray bytesOf(const QString& path) {
-  QFile file(path);
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-  return file.readAll();
-}
-
 /// Handles events until a condition holds, and checks it regularly, because deferred deletions and other
 /// processes do not wake the event loop.
 inline void waitFor(const std::function<bool()>& isSo) {
@@ -60,10 +54,7 @@ class ScratchFolder {
                           QFile::permissions(m_folder.path()) | QFile::ExeGroup | QFile::ExeOther);
   }
   QString path(const QString& name) const { return m_folder.filePath(name); }
-  void write(const QString& name, const QByteArray& bytes) const {
-    QFile file(path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-  }
+  void write(const QString& name, const QByteArray& bytes) const { writeFile(path(name), bytes); }
   /// Writes a script for the shell that may be run.
   void writeProgram(const QString& name, const QByteArray& script) const {
     QFile::remove(path(name));
@@ -93,13 +84,21 @@ inline QProcessEnvironment environmentIn(const ScratchFolder& folder) {
   return environment;
 }
 
+inline QString builtProgram(const QString& name) {
+  return QCoreApplication::applicationDirPath() + u'/' + name;
+}
+
 /// A process that the test follows by its output, and that ends with this object.
 class DemoProcess : public QProcess {
  public:
   DemoProcess(const ScratchFolder& folder, const QString& program, const QStringList& arguments) {
     setProcessEnvironment(environmentIn(folder));
-    start(program, arguments);
+    start(program.startsWith(u"kesto-") ? builtProgram(program) : program, arguments);
   }
+  /// `command` is split as by a shell; "%1" is the folder.
+  DemoProcess(const ScratchFolder& folder, const QString& command)
+      : DemoProcess(folder, splitCommand(command).value(0),
+                    splitCommand(command).replaceInStrings(u"%1"_s, folder.path(u""_s)).mid(1)) {}
   ~DemoProcess() override {
     terminate();
     waitForFinished();
@@ -111,6 +110,11 @@ class DemoProcess : public QProcess {
     while (!canReadLine() && waitForReadyRead()) {
     }
     return readLine();
+  }
+  /// The answer in JSON to a line on standard input.
+  QJsonObject ask(const QByteArray& line) {
+    write(line + '\n');
+    return QJsonDocument::fromJson(readOutLine()).object();
   }
   /// Waits until a line on standard error contains `part`.
   void waitForLog(const QByteArray& part) {
@@ -128,6 +132,11 @@ class DemoProcess : public QProcess {
     EXPECT_TRUE(waitForFinished()) << errorString().toStdString();
     return exitStatus() == NormalExit ? exitCode() : -1;
   }
+  /// Everything on standard output of a program that must succeed.
+  QByteArray output() {
+    EXPECT_EQ(code(), 0) << program() << arguments().join(u' ') << log();
+    return readAllStandardOutput();
+  }
   void signal(int number) { ::kill(static_cast<pid_t>(processId()), number); }
   QByteArray log() {
     m_log += readAllStandardError();
@@ -138,15 +147,11 @@ class DemoProcess : public QProcess {
   QByteArray m_log;
 };
 
-inline QString builtProgram(const char* name) {
-  return QCoreApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(name);
-}
-
 /// A running demo printer.
 class RunningPrinter : public DemoProcess {
  public:
   explicit RunningPrinter(const ScratchFolder& folder, const QStringList& arguments = {})
-      : DemoProcess(folder, builtProgram("kesto-demo-printer"),
+      : DemoProcess(folder, u"kesto-demo-printer"_s,
                     QStringList{u"--dir"_s, folder.path(u"run"_s), u"--folder-port"_s, u"0"_s, u"--json"_s} +
                         arguments),
         m_folder(folder),
@@ -159,10 +164,13 @@ class RunningPrinter : public DemoProcess {
   QStringList printouts() const { return QDir(place(u"output"_s)).entryList(QDir::Files); }
   /// Its jobs, from its list in JSON.
   QByteArray jobs() const {
-    DemoProcess jobs(m_folder, builtProgram("kesto-demo-printer"),
-                     {u"jobs"_s, u"--dir"_s, m_folder.path(u"run"_s), u"--json"_s});
-    EXPECT_EQ(jobs.code(), 0);
-    return jobs.readAllStandardOutput().trimmed();
+    return DemoProcess(m_folder, u"kesto-demo-printer jobs --dir %1/run --json"_s).output().trimmed();
+  }
+  /// What a program of the print system prints.
+  QString ofPrintSystem(const QString& command) const {
+    const QString name = command.section(u' ', 0, 0);
+    const QString server = u" -h "_s + place(u"server"_s);
+    return QString::fromUtf8(DemoProcess(m_folder, name + server + command.sliced(name.size())).output());
   }
   /// What the scheduler says about a job to a user. It believes any user name that its owner's programs give.
   QMap<QString, QString> attributesOfJob(int job, const QByteArray& user) const {
@@ -183,10 +191,8 @@ class RunningPrinter : public DemoProcess {
     return attributes;
   }
   /// The exit status of the program that releases a job.
-  int release(const QStringList& arguments) const {
-    DemoProcess release(m_folder, builtProgram("kesto-demo-printer"),
-                        QStringList{u"release"_s, u"--dir"_s, m_folder.path(u"run"_s)} + arguments);
-    return release.code();
+  int release(const QString& arguments) const {
+    return DemoProcess(m_folder, u"kesto-demo-printer release --dir %1/run "_s + arguments).code();
   }
 
  private:

@@ -27,13 +27,14 @@ inline QByteArray envelope(const QByteArray& response) {
          response + "</r>\n </s:Body>\n</s:Envelope>\n";
 }
 
-/// A good answer with folders; a name that ends in "*" is protected.
-inline QByteArray folders(const QList<QByteArray>& names) {
+/// A good answer with the folders "A|B"; a name that ends in "*" is protected.
+inline QByteArray folders(const Text& names) {
   QByteArray files;
-  for (const QByteArray& name : names) {
+  for (QByteArray name : names.toUtf8().split('|')) {
     const bool isProtected = name.endsWith('*');
-    files += "<file><name>" + (isProtected ? name.chopped(1) : name) + "</name><password>" +
-             (isProtected ? "true" : "false") + "</password><dir>true</dir></file>";
+    if (isProtected) name.chop(1);
+    files += "<file><name>" + name + "</name><password>" + (isProtected ? "true" : "false") +
+             "</password><dir>true</dir></file>";
   }
   return envelope("<result-code>ok</result-code><files>" + files + "</files>");
 }
@@ -51,7 +52,7 @@ class FolderServer : public QTcpServer {
   QString address() const { return QStringLiteral("127.0.0.1:%1").arg(serverPort()); }
   QString url() const { return QStringLiteral("http://") + address() + QStringLiteral("/kesto-mfp-srv"); }
 
-  QByteArray answer = httpAnswer(folders({"Art", "Maps*"}));
+  QByteArray answer = httpAnswer(folders("Art|Maps*"));
   End end = End::Close;
   std::function<void()> onRequest;  ///< Called when a request is complete, before the answer.
   QList<QByteArray> requests;       ///< Heads and bodies, as received.

@@ -42,7 +42,7 @@ class LpTest : public testing::Test {
   std::unique_ptr<QProcess> process(const QString& arguments) const {
     auto process = std::make_unique<QProcess>();
     process->setProcessEnvironment(m_environment);
-    process->setProgram(builtProgram("kesto-lp"));
+    process->setProgram(builtProgram(u"kesto-lp"_s));
     process->setArguments(QProcess::splitCommand(arguments).replaceInStrings(u"{}"_s, u""_s));
     return process;
   }

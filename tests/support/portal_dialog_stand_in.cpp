@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QCryptographicHash>
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -26,10 +25,11 @@ QJsonObject self() {
           {u"environment"_s, environment}};
 }
 
-QString hashOf(const kesto::Descriptor& document) {
+// The document as text.
+QString textOf(const kesto::Descriptor& document) {
   QFile file;
   if (!file.open(document.get(), QIODevice::ReadOnly)) return file.errorString();
-  return QString::fromLatin1(QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha1).toHex());
+  return QString::fromLatin1(file.readAll());
 }
 
 }  // namespace
@@ -49,7 +49,7 @@ int main(int argc, char** argv) {
   const auto tellEnd = [&] { tell({{u"closed"_s, true}}); };
   QObject::connect(channel.get(), &kesto::PrintChannel::received,
                    [&](QJsonObject message, const kesto::Descriptor& document) {
-                     if (document) message.insert(u"document"_s, hashOf(document));
+                     if (document) message.insert(u"document"_s, textOf(document));
                      tell(message);
                    });
   QObject::connect(channel.get(), &kesto::PrintChannel::closed, tellEnd);

@@ -44,14 +44,7 @@ class PrintTest : public LpTest {
     EXPECT_EQ(refused.out, QString()) << arguments;
   }
 
-  // A program of the print system, for this scheduler.
-  QString ofPrintSystem(const QString& command) const {
-    QStringList arguments = QProcess::splitCommand(command);
-    const QString name = arguments.takeFirst();
-    DemoProcess program(m_folder, name, QStringList{u"-h"_s, m_printer->place(u"server"_s)} + arguments);
-    EXPECT_EQ(program.code(), 0) << command << program.log();
-    return QString::fromUtf8(program.readAllStandardOutput());
-  }
+  QString ofPrintSystem(const QString& command) const { return m_printer->ofPrintSystem(command); }
   QString schedulersJobs() const { return ofPrintSystem(u"lpstat -W all -o"_s); }
   void waitUntilListed(int job) const {
     waitFor([&] { return schedulersJobs().contains(u"Office_MFP-%1 "_s.arg(job)); });
@@ -59,7 +52,8 @@ class PrintTest : public LpTest {
   // Adds a queue with the demo queue's PPD, one text in it replaced; without a PPD when that is empty.
   void addQueue(const QString& name, const QByteArray& before, const QByteArray& after) const {
     const QString ppd = before.isEmpty() ? QString() : u" -P "_s + m_folder.path(u"ppd"_s);
-    m_folder.write(u"ppd"_s, bytesOf(builtProgram("../share/kesto/kesto-vq250n.ppd")).replace(before, after));
+    m_folder.write(u"ppd"_s,
+                   bytesOf(builtProgram(u"../share/kesto/kesto-vq250n.ppd"_s)).replace(before, after));
     ofPrintSystem(u"/usr/sbin/lpadmin -p %1 -E -v socket://127.0.0.1:9"_s.arg(name) + ppd);
   }
 

@@ -1,8 +1,9 @@
-// How tests write Qt's values, and how failures show them.
+// How tests write Qt's values and files, and how failures show them.
 #pragma once
 
 #include <gmock/gmock.h>
 
+#include <QtCore/QFile>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
@@ -42,8 +43,20 @@ inline QJsonObject json(const char* text) {
   return QJsonDocument::fromJson(text).object();
 }
 
-/// Pairs of an input and what is expected of it.
-using Cases = std::initializer_list<std::pair<Text, Text>>;
+/// The bytes of a file, which must be readable.
+inline QByteArray bytesOf(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
+  return file.readAll();
+}
+inline void writeFile(const QString& path, const QByteArray& bytes) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()) << path;
+}
+
+/// An input and what is expected of it.
+using Pair = std::pair<Text, Text>;
+using Cases = std::initializer_list<Pair>;
 
 /// Calls `visit` with each key and value of "key=value key=value".
 template <class Visit>

@@ -1,7 +1,6 @@
 // A double of the host with its own printer, and the PPD that it lends.
 #pragma once
 
-#include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 
 #include "hosts/cups/ppd_file.h"
@@ -19,10 +18,7 @@ class PpdFixture {
  public:
   /// `lines` follow the first line of the file.
   explicit PpdFixture(const QByteArray& lines = ppdOfModel) {
-    QFile file(path());
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("*PPD-Adobe: \"4.3\"\n" + lines);
-    file.close();
+    writeFile(path(), "*PPD-Adobe: \"4.3\"\n" + lines);
     const Outcome opened = openPpdFile(path(), &m_ppd);
     EXPECT_TRUE(opened) << opened.reason();
   }
