@@ -78,10 +78,6 @@
         <translation>Sehen, was gedruckt wird</translation>
     </message>
     <message>
-        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
-        <translation>Die Vorschau zeigt die Blätter, wie sie aus dem Drucker kommen. Mit den Pfeilen darunter blättern Sie um.</translation>
-    </message>
-    <message>
         <source>Hold a job on the printer with a pass code</source>
         <translation>Einen Auftrag mit einer PIN auf dem Drucker zurückhalten</translation>
     </message>
@@ -140,6 +136,18 @@
     <message>
         <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
         <translation>Wählen Sie unter „Dokumentenablage“ die Option „Eigener Ordner“ und geben Sie den Namen eines Ordners ein. „Ordnernamen abrufen“ fragt den Drucker nach seinen Ordnern, sodass Sie einen aus der Liste wählen können.</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
+        <translation>Die Vorschau zeigt die Blätter, wie sie aus dem Drucker kommen. Mit den Pfeilen darunter oder mit Bild auf und Bild ab blättern Sie um, mit Strg und dem Mausrad vergrößern Sie die Seiten.</translation>
+    </message>
+    <message>
+        <source>Save the pages as a PDF file</source>
+        <translation>Die Seiten als PDF-Datei speichern</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
+        <translation>Wählen Sie in der Druckerliste „Als PDF speichern“ und klicken Sie auf „Speichern“. Die Datei enthält die ausgewählten Seiten.</translation>
     </message>
 </context>
 <context>
@@ -1521,7 +1529,7 @@
     </message>
     <message>
         <source>Stopped.</source>
-        <translation>Angehalten.</translation>
+        <translation>Abgebrochen.</translation>
     </message>
     <message>
         <source>No pages are selected.</source>

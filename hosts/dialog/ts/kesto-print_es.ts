@@ -78,10 +78,6 @@
         <translation>Ver lo que se va a imprimir</translation>
     </message>
     <message>
-        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
-        <translation>La vista previa muestra las hojas de papel tal como saldrán de la impresora. Use las flechas de debajo para pasar las páginas.</translation>
-    </message>
-    <message>
         <source>Hold a job on the printer with a pass code</source>
         <translation>Retener un trabajo en la impresora con un código de acceso</translation>
     </message>
@@ -140,6 +136,18 @@
     <message>
         <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
         <translation>En «Archivado del documento», elija «Carpeta personalizada» y escriba el nombre de una carpeta. «Obtener nombres de carpetas» pide sus carpetas a la impresora, para que pueda elegir una de la lista.</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
+        <translation>La vista previa muestra las hojas de papel tal como saldrán de la impresora. Pase las páginas con las flechas de debajo o con Re Pág y Av Pág, y amplíelas con Ctrl y la rueda del ratón.</translation>
+    </message>
+    <message>
+        <source>Save the pages as a PDF file</source>
+        <translation>Guardar las páginas como archivo PDF</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
+        <translation>Elija «Guardar como PDF» en la lista de impresoras y pulse «Guardar». El archivo contiene las páginas seleccionadas.</translation>
     </message>
 </context>
 <context>
@@ -1521,7 +1529,7 @@
     </message>
     <message>
         <source>Stopped.</source>
-        <translation>Detenido.</translation>
+        <translation>Cancelado.</translation>
     </message>
     <message>
         <source>No pages are selected.</source>

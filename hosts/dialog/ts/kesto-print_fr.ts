@@ -78,10 +78,6 @@
         <translation>Voir ce qui sera imprimé</translation>
     </message>
     <message>
-        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
-        <translation>L’aperçu montre les feuilles de papier telles qu’elles sortiront de l’imprimante. Les flèches au-dessous servent à tourner les pages.</translation>
-    </message>
-    <message>
         <source>Hold a job on the printer with a pass code</source>
         <translation>Conserver un travail sur l’imprimante avec un code d’accès</translation>
     </message>
@@ -140,6 +136,18 @@
     <message>
         <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
         <translation>Sous «&#xa0;Classement du document&#xa0;», choisissez «&#xa0;Dossier personnalisé&#xa0;» et saisissez le nom d’un dossier. «&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante, afin que vous puissiez en choisir un dans la liste.</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
+        <translation>L’aperçu montre les feuilles de papier telles qu’elles sortiront de l’imprimante. Tournez les pages avec les flèches au-dessous ou avec Page préc. et Page suiv., et agrandissez-les avec Ctrl et la molette de la souris.</translation>
+    </message>
+    <message>
+        <source>Save the pages as a PDF file</source>
+        <translation>Enregistrer les pages dans un fichier PDF</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
+        <translation>Choisissez «&#xa0;Enregistrer au format PDF&#xa0;» dans la liste des imprimantes et cliquez sur «&#xa0;Enregistrer&#xa0;». Le fichier contient les pages sélectionnées.</translation>
     </message>
 </context>
 <context>
@@ -1521,7 +1529,7 @@
     </message>
     <message>
         <source>Stopped.</source>
-        <translation>Arrêté.</translation>
+        <translation>Annulé.</translation>
     </message>
     <message>
         <source>No pages are selected.</source>

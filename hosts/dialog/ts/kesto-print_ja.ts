@@ -78,10 +78,6 @@
         <translation>印刷される内容を確認する</translation>
     </message>
     <message>
-        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
-        <translation>プレビューには、プリンターから出てくる用紙がそのまま表示されます。下の矢印でページをめくります。</translation>
-    </message>
-    <message>
         <source>Hold a job on the printer with a pass code</source>
         <translation>ジョブを暗証番号付きでプリンターに保留する</translation>
     </message>
@@ -140,6 +136,18 @@
     <message>
         <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
         <translation>「文書の保存先」で「カスタムフォルダー」を選び、フォルダーの名前を入力します。「フォルダー名を取得」を押すと、プリンターのフォルダーが取得され、一覧から選べるようになります。</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
+        <translation>プレビューには、プリンターから出てくる用紙がそのまま表示されます。下の矢印または Page Up と Page Down でページをめくり、Ctrl とマウスホイールで拡大します。</translation>
+    </message>
+    <message>
+        <source>Save the pages as a PDF file</source>
+        <translation>ページを PDF ファイルとして保存する</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
+        <translation>プリンターの一覧で「PDF として保存」を選び、「保存」を押します。ファイルには選択したページが保存されます。</translation>
     </message>
 </context>
 <context>
@@ -1735,7 +1743,7 @@
     </message>
     <message>
         <source>Saved as %1.</source>
-        <translation>%1. として保存しました</translation>
+        <translation>%1 として保存しました。</translation>
     </message>
 </context>
 <context>

@@ -78,10 +78,6 @@
         <translation>查看将要打印的内容</translation>
     </message>
     <message>
-        <source>The preview shows the sheets of paper as they will leave the printer. Use the arrows below it to turn the pages.</source>
-        <translation>预览显示纸张从打印机输出时的样子。使用预览下方的箭头翻页。</translation>
-    </message>
-    <message>
         <source>Hold a job on the printer with a pass code</source>
         <translation>使用 PIN 码将作业保留在打印机上</translation>
     </message>
@@ -140,6 +136,18 @@
     <message>
         <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
         <translation>在“文档归档”下选择“自定义文件夹”，然后输入文件夹的名称。“获取文件夹名称”会向打印机查询其文件夹，以便您从列表中选择。</translation>
+    </message>
+    <message>
+        <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
+        <translation>预览显示纸张从打印机输出时的样子。使用预览下方的箭头或 Page Up 和 Page Down 翻页，使用 Ctrl 和鼠标滚轮放大页面。</translation>
+    </message>
+    <message>
+        <source>Save the pages as a PDF file</source>
+        <translation>将页面保存为 PDF 文件</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
+        <translation>在打印机列表中选择“另存为 PDF”，然后按“保存”。文件包含您选择的页面。</translation>
     </message>
 </context>
 <context>
@@ -1520,7 +1528,7 @@
     </message>
     <message>
         <source>Stopped.</source>
-        <translation>已停止。</translation>
+        <translation>已取消。</translation>
     </message>
     <message>
         <source>No pages are selected.</source>
@@ -1735,7 +1743,7 @@
     </message>
     <message>
         <source>Saved as %1.</source>
-        <translation>已保存为 %1.</translation>
+        <translation>已保存为 %1。</translation>
     </message>
 </context>
 <context>

@@ -32,8 +32,13 @@ constexpr std::array topics{
                             "pages that turn like those of a notepad.")},
     Topic{QT_TRANSLATE_NOOP("Help", "See what will be printed"),
           QT_TRANSLATE_NOOP("Help",
-                            "The preview shows the sheets of paper as they will leave the printer. Use the "
-                            "arrows below it to turn the pages.")},
+                            "The preview shows the sheets of paper as they will leave the printer. Turn the "
+                            "pages with the arrows below it or with Page Up and Page Down, and enlarge them "
+                            "with Ctrl and the mouse wheel.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Save the pages as a PDF file"),
+          QT_TRANSLATE_NOOP("Help",
+                            "Choose Save as PDF in the list of printers, and press Save. The file has the "
+                            "pages that you selected.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Hold a job on the printer with a pass code"),
           QT_TRANSLATE_NOOP(
               "Help",
