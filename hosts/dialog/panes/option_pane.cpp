@@ -1,5 +1,6 @@
 #include "hosts/dialog/panes/option_pane.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QSet>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>
@@ -11,6 +12,7 @@
 #include <utility>
 
 #include "hosts/dialog/panes/pages_control.h"
+#include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "platform/shown_text.h"
 
@@ -20,6 +22,16 @@ namespace {
 // Whether an option comes and goes with the queue.
 bool isOfQueue(const OfferedOption& option) {
   return option.kind == OptionKind::Choice || option.kind == OptionKind::Covers;
+}
+
+// The labels that a group can have, whatever the queue offers.
+QStringList labelsOf(OptionGroup group) {
+  QStringList labels;
+  for (const OptionRow& row : optionTable()) {
+    if (row.group == group && row.text != nullptr)
+      labels.append(QCoreApplication::translate("JobOptions", row.text));
+  }
+  return labels;
 }
 
 }  // namespace
@@ -32,6 +44,7 @@ OptionPane::OptionPane(OptionGroup group, JobOptions& options, QWidget* parent)
       m_note(new QLabel(this)),
       m_remedy(new QPushButton(this)) {
   setObjectName(nameOf(group));
+  setMnemonicTexts(*this, labelsOf(group));
   auto* column = new QVBoxLayout(this);
   column->addLayout(m_form);
   column->addWidget(m_note);
