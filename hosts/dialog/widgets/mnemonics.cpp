@@ -202,6 +202,7 @@ void assignMnemonics(QWidget& window) {
 }
 
 void setMnemonicTexts(QWidget& part, const QStringList& texts) {
+  if (texts.isEmpty() && part.property(textsProperty).isValid()) return;
   part.setProperty(textsProperty, texts);
 }
 

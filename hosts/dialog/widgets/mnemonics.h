@@ -17,7 +17,7 @@ namespace kesto {
 void assignMnemonics(QWidget& window);
 
 /// Names all texts that `part` can ever show, the important ones first, so that each keeps its letter
-/// whatever else is shown. Others get letters after them.
+/// whatever else is shown. Others get letters after them. An empty list leaves an earlier one as it is.
 void setMnemonicTexts(QWidget& part, const QStringList& texts);
 
 /// Leaves a rarely shown widget without a letter, which others need more.
