@@ -99,8 +99,8 @@ void PrintDialog::showSections() {
     if (section->objectName() == m_options.pane) section->setOpen(true);
     if (section->isOpen() && !section->isHidden()) section->build();
   }
-  if (auto* asked = m_sections->findChild<Section*>(m_options.pane); asked != nullptr && !asked->isHidden())
-    m_sections->reveal(asked);
+  auto* asked = m_options.pane.isEmpty() ? nullptr : m_sections->findChild<Section*>(m_options.pane);
+  if (asked != nullptr && !asked->isHidden()) m_sections->reveal(asked);
   updateSummary();
   m_idle.start(0);
 }
