@@ -17,6 +17,7 @@
 #include "hosts/dialog/widgets/queue_chooser.h"
 #include "hosts/dialog/widgets/section.h"
 #include "hosts/dialog/widgets/section_column.h"
+#include "hosts/session/last_printer.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -40,7 +41,11 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
   build();
   connectParts();
   jobOptions().set(JobOptions::Source::Given, options.jobOptions);
-  m_chooser->setCurrent(options.queue);
+  if (m_options.queue.isNull()) {
+    m_options.queue = printerToBeginWith();
+    m_isSuggested = true;
+  }
+  m_chooser->setCurrent(m_options.queue);
   showDocument();
   updateControls();
 }
@@ -58,7 +63,8 @@ void PrintDialog::paintEvent(QPaintEvent* event) {
 }
 
 void PrintDialog::start() {
-  m_options.documentLater ? m_opening.suggest(m_options.queue) : m_opening.start(m_options.queue);
+  m_options.documentLater || m_isSuggested ? m_opening.suggest(m_options.queue)
+                                           : m_opening.start(m_options.queue);
 }
 
 const QueueListModel& PrintDialog::queues() const {
@@ -129,6 +135,7 @@ void PrintDialog::settleQueue() {
 }
 
 void PrintDialog::updateSummary() {
+  m_presets->showActive();
   showHeadlines();
   if (m_summary == nullptr) return;
   auto lines = jobOptions().summary();
@@ -245,6 +252,7 @@ void PrintDialog::send() {
 
 void PrintDialog::takeSent(int job) {
   const bool isRemembered = bool(m_session.remember());
+  if (!m_opening.isPdf()) (void)m_session.keepChoice();  // a convenience
   const QString text = isRemembered ? tr("Job %1 was sent to %2.")
                                     : tr("Job %1 was sent to %2. Its entries could not be remembered.");
   showMessage(m_opening.isPdf() ? tr("Saved as %1.").arg(shownText(m_target))
@@ -303,7 +311,8 @@ void PrintDialog::updateControls() {
   // With the chooser, its label and the document.
   for (QWidget* part : {m_chooser->parentWidget(), static_cast<QWidget*>(m_sections)})
     part->setEnabled(isChoosing);
-  m_presets->setEnabled(isChoosing && m_session.presets() != nullptr);
+  m_presets->setEnabled(isChoosing && m_session.shelf() != nullptr);
+  m_presets->showActive();
   using State = Document::State;
   const State state = m_document.state();
   const bool isMissing =

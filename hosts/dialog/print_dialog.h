@@ -126,8 +126,9 @@ class PrintDialog : public QDialog {
   DialogAlerts m_alerts;
   PanelSession m_session{m_alerts};
   bool m_isStarted = false;
-  QString m_target;       // the file, where none is printed
-  QString m_choiceFault;  // a pane's, while the message shows it
+  bool m_isSuggested = false;  // the queue, by what was printed before
+  QString m_target;            // the file, where none is printed
+  QString m_choiceFault;       // a pane's, while the message shows it
   Preview* m_preview;
   QueueChooser* m_chooser;
   PresetMenu* m_presets = nullptr;

@@ -15,6 +15,7 @@
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -67,9 +68,12 @@ void PrintDialog::connectParts() {
   connect(m_foot, &DialogFoot::cancelPressed, this, &PrintDialog::reject);
   connect(m_foot, &DialogFoot::helpPressed, this, [this] { showHelp(*this); });
   connect(m_documentLine, &DocumentLine::choiceAsked, this, &PrintDialog::chooseDocument);
-  connect(m_presets, &PresetMenu::loaded, this, [this] {
+  connect(m_presets, &PresetMenu::loaded, this, [this](const QStringList& others) {
     if (m_panelPane != nullptr) m_panelPane->alignChoices();
     updateSummary();
+    showMessage(others.isEmpty() ? QString()
+                                 : tr("This printer does not support %1 of the preset. The rest is set.")
+                                       .arg(shownText(others.join(QStringLiteral(", ")))));
   });
   connect(&jobOptions(), &JobOptions::changed, this, [this] {
     updateChoiceFault();

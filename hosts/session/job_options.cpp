@@ -71,6 +71,36 @@ void JobOptions::set(Source source, const QMap<QString, QString>& options) {
   resolve();
 }
 
+std::optional<QString> JobOptions::fitting(const QString& name, const QString& value) const {
+  const OptionRow* row = rowOf(name, m_choices);
+  const QString key = keyOf(name, m_choices);
+  QString found;
+  if (m_choices.has(key)) {
+    found = kesto::choiceFor(m_choices, key, value);
+    const QString standard = found.isNull() ? standardValueOf(key, value) : QString();
+    if (!standard.isNull()) found = kesto::choiceFor(m_choices, key, standard);
+  } else if (row != nullptr && row->kind != OptionKind::Choice) {
+    found = valueFor(*row, value);
+  }
+  return found.isNull() ? std::nullopt : std::optional(found);
+}
+
+QStringList JobOptions::choosePreset(const QMap<QString, QString>& options) {
+  QStringList others;
+  given(Source::Chosen).clear();
+  for (auto it = options.begin(); it != options.end(); ++it) {
+    if (const std::optional<QString> value = fitting(it.key(), it.value())) {
+      given(Source::Chosen).insert(it.key(), *value);
+    } else {
+      const QString label = text(it.key());
+      others.append(
+          QStringLiteral("%1: %2").arg(label.isNull() ? it.key() : label, textOf(it.key(), it.value())));
+    }
+  }
+  resolve();
+  return others;
+}
+
 void JobOptions::clear(Source source) {
   given(source).clear();
   resolve();

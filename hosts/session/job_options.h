@@ -41,6 +41,9 @@ class JobOptions : public QObject {
   void set(Source source, const QMap<QString, QString>& options);
   /// The user's choice; null pages are all pages.
   void choose(const QString& name, const QString& value) { set(Source::Chosen, {{name, value}}); }
+  /// Puts the options of a preset, perhaps of another queue, in place of what was chosen. Returns those that
+  /// do not fit the queue, as a label and a value.
+  QStringList choosePreset(const QMap<QString, QString>& options);
   /// Takes back what a source has said.
   void clear(Source source);
 
@@ -109,6 +112,8 @@ class JobOptions : public QObject {
   /// The text of ours for a value; null when the PPD's `text` is better.
   QString ownText(const QString& option, const QString& value, const QString& text) const;
   bool travels(const QString& key) const;
+  /// The value on this queue for a preset's; none when it has no such option or value.
+  std::optional<QString> fitting(const QString& name, const QString& value) const;
   void resolve();
   void markChanges(const Values& before);
 

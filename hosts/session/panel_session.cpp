@@ -1,6 +1,7 @@
 #include "hosts/session/panel_session.h"
 
 #include "hosts/cups/faults.h"
+#include "hosts/session/last_printer.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/text_field.h"
 
@@ -18,6 +19,8 @@ Outcome PanelSession::open(Queue queue, const PanelStart& start) {
   release();
   m_queue = std::move(queue);
   m_options.openFor(*m_queue);
+  m_presets.emplace(m_defaults, m_queue->id);
+  m_shelf.emplace(m_defaults, m_queue->id);
   return m_queue->ppd && offersJobHandling(*m_queue->ppd) ? openPanel(start) : Outcome::done();
 }
 
@@ -30,7 +33,6 @@ Outcome PanelSession::openPanel(const PanelStart& start) {
   m_host->settings.emplace().setJobName(start.jobName);
   if (Outcome opened = m_host->openShownPanel(*m_plugIn); !opened) return opened;
   m_options.leaveToPanel(panel()->supportedPPDOptionKeys());
-  m_presets.emplace(m_platform->userDefaults(), m_queue->id);
   if (start.preset) {
     Preset preset;
     Outcome restored = restorePreset(*start.preset, &preset);
@@ -42,11 +44,13 @@ Outcome PanelSession::openPanel(const PanelStart& start) {
 }
 
 QString PanelSession::model() const {
-  return panel()->modelName();
+  return panel() == nullptr ? QStringLiteral("") : panel()->modelName();
 }
 
 void PanelSession::release() {
   m_options.close();
+  m_active = {};
+  m_shelf.reset();
   m_presets.reset();
   m_host.reset();
   if (m_platform) m_platform->leaveQueue();
@@ -92,32 +96,73 @@ Outcome PanelSession::restorePreset(const QString& name, Preset* preset) {
   return Outcome::done();
 }
 
-Outcome PanelSession::loadPreset(const QString& name) {
+Outcome PanelSession::loadPreset(const QString& name, QStringList* others) {
   Preset preset;
-  if (Outcome restored = restorePreset(name, &preset); !restored) return restored;
-  if (!preset.options) return Outcome::done();
-  m_options.clear(JobOptions::Source::Chosen);
-  m_options.set(JobOptions::Source::Chosen, *preset.options);
+  if (Outcome loaded = m_shelf->load(name, &preset); !loaded) return loaded;
+  *others = take(preset);
+  m_active = activeAs(name);
   return Outcome::done();
+}
+
+Outcome PanelSession::loadLastUsed(QStringList* others) {
+  Preset preset;
+  if (Outcome loaded = m_shelf->loadLastUsed(&preset); !loaded) return loaded;
+  *others = take(preset);
+  m_active = {};
+  return Outcome::done();
+}
+
+QStringList PanelSession::take(const Preset& preset) {
+  QStringList others;
+  if (panel() != nullptr && preset.model == model())
+    restorePanel(*m_host, preset);
+  else if (!preset.settings.isEmpty())
+    others.append(Faults::tr("Job Handling for the model %1").arg(preset.model));
+  if (preset.options) others += m_options.choosePreset(*preset.options);
+  return others;
+}
+
+PanelSession::ActivePreset PanelSession::activeAs(const QString& name) const {
+  return {.name = name,
+          .options = m_options.ofPreset(),
+          .entries = panel() == nullptr ? QMap<QString, QString>() : summaryOf(*panel())};
+}
+
+bool PanelSession::isPresetChanged() const {
+  const ActivePreset now = activeAs(m_active.name);
+  return !m_active.name.isNull() && (now.options != m_active.options || now.entries != m_active.entries);
 }
 
 Outcome PanelSession::makePreset(const QString& name, bool withCodes, Preset* preset) const {
   if (Outcome fits = m_presets->check(name); !fits) return fits;
   preset->model = model();
   preset->options = m_options.ofPreset();
-  return kesto::makePreset(*m_host->settings, *view(), withCodes, preset);
+  return panel() == nullptr ? Outcome::done()
+                            : kesto::makePreset(*m_host->settings, *view(), withCodes, preset);
 }
 
 Outcome PanelSession::keepPreset(const QString& name, const Preset& preset) {
-  m_platform->open();
   return m_presets->save(name, preset);
 }
 
 Outcome PanelSession::savePreset(const QString& name, bool withCodes) {
-  panel()->saveValuesAndReturnError(nullptr);
+  if (panel() != nullptr) panel()->saveValuesAndReturnError(nullptr);
   Preset preset;
-  Outcome made = makePreset(name, withCodes, &preset);
-  return made ? keepPreset(name, preset) : made;
+  if (Outcome made = makePreset(name, withCodes, &preset); !made) return made;
+  const Outcome kept = keepPreset(name, preset);
+  if (kept) m_active = activeAs(name);
+  return kept;
+}
+
+Outcome PanelSession::keepChoice() {
+  keepPrinter(m_queue->id);
+  Preset preset{.model = model(), .settings = {}, .options = m_options.ofPreset()};
+  for (const char* each : {"copies", "collate", "page-ranges", "page-set"})
+    preset.options->remove(QLatin1String(each));
+  if (panel() != nullptr) {
+    if (Outcome made = kesto::makePreset(*m_host->settings, *view(), false, &preset); !made) return made;
+  }
+  return m_shelf->keepLastUsed(preset);
 }
 
 }  // namespace kesto

@@ -9,7 +9,8 @@
 #include "hosts/session/job_options.h"
 #include "hosts/session/panel_entries.h"
 #include "hosts/session/panel_host.h"
-#include "hosts/session/preset_store.h"
+#include "hosts/session/preset_shelf.h"
+#include "platform/json_user_defaults.h"
 
 namespace kesto {
 
@@ -59,22 +60,42 @@ class PanelSession {
   /// nothing to say that the panel has not said.
   Outcome outcomeOfFetch();
 
-  /// The presets of the queue; null without a panel.
+  /// The presets of the queue; null without a queue.
   PresetStore* presets() { return m_presets ? &*m_presets : nullptr; }
-  /// Restores the panel with a preset, and the options as if the user chose them; a preset of before options
-  /// were kept leaves these.
-  Outcome loadPreset(const QString& name);
+  /// Those of all queues; null without a queue.
+  PresetShelf* shelf() { return m_shelf ? &*m_shelf : nullptr; }
+  /// Restores the panel with a preset of any queue, and the options as if the user chose them; a preset of
+  /// before options were kept leaves these. `others` names what does not fit this queue and is left out.
+  Outcome loadPreset(const QString& name, QStringList* others);
+  /// The same with the choice of the last job.
+  Outcome loadLastUsed(QStringList* others);
+  /// The preset that was loaded or saved last; null for none.
+  const QString& activePreset() const { return m_active.name; }
+  /// Whether something was chosen or entered differently since then.
+  bool isPresetChanged() const;
   /// Makes a preset of a confirmed job. Fails when it could not be kept under that name.
   Outcome makePreset(const QString& name, bool withCodes, Preset* preset) const;
   /// Keeps it.
   Outcome keepPreset(const QString& name, const Preset& preset);
-  /// Makes and keeps a preset of the panel's entries.
+  /// Makes and keeps a preset of the job, which is the active one from now on.
   Outcome savePreset(const QString& name, bool withCodes);
+  /// Keeps, for the next dialog, the printer of a job that has gone out and what it was sent with, but for
+  /// copies, pages and pass codes.
+  Outcome keepChoice();
 
  private:
   Outcome loadPlatform();
   Outcome openPanel(const PanelStart& start);
+  /// What the job is made of, to see whether it changes.
+  struct ActivePreset {
+    QString name;
+    QMap<QString, QString> options;
+    QMap<QString, QString> entries;
+  };
+
   Outcome restorePreset(const QString& name, Preset* preset);
+  QStringList take(const Preset& preset);
+  ActivePreset activeAs(const QString& name) const;
   QString model() const;
 
   AlertPresenter& m_alerts;
@@ -83,7 +104,10 @@ class PanelSession {
   std::unique_ptr<GatedPlatform> m_platform;
   std::optional<Queue> m_queue;
   std::unique_ptr<PanelHost> m_host;
+  JsonUserDefaults m_defaults{JsonUserDefaults::defaultDirectory()};
   std::optional<PresetStore> m_presets;
+  std::optional<PresetShelf> m_shelf;
+  ActivePreset m_active;
   JobOptions m_options;
 };
 

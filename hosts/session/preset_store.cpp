@@ -1,5 +1,6 @@
 #include "hosts/session/preset_store.h"
 
+#include <QtCore/QJsonArray>
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -70,21 +71,11 @@ std::optional<QMap<QString, QString>> textsOf(const QJsonValue& value) {
   return texts;
 }
 
-QJsonObject objectOf(const QMap<QString, QString>& texts) {
+QJsonObject objectOfTexts(const QMap<QString, QString>& texts) {
   QJsonObject object;
   for (auto it = texts.begin(); it != texts.end(); ++it)
     object.insert(it.key(), it.value());
   return object;
-}
-
-std::optional<Preset> presetOf(const QJsonValue& value) {
-  const QJsonValue model = value[modelKey];
-  const auto settings = textsOf(value[settingsKey]);
-  const auto options = textsOf(value[optionsKey]);
-  if (!model.isString() || !settings || (!options && !value[optionsKey].isUndefined())) return {};
-  const QStringList keys = settings->keys();
-  if (std::ranges::any_of(keys, [](const QString& key) { return !key.startsWith(prefix); })) return {};
-  return Preset{.model = model.toString(), .settings = *settings, .options = options};
 }
 
 Outcome noSuchPreset(const QString& name, const QJsonObject& presets) {
@@ -113,7 +104,8 @@ Outcome mayReplace(const QString& name, const QJsonObject& presets) {
     return Outcome::failed(Faults::tr("a preset's name must have at most %1 characters; choose a shorter one")
                                .arg(longestPresetName));
   }
-  return presets.contains(name) && !presetOf(presets.value(name)) ? damagedPreset(name) : Outcome::done();
+  const bool isDamaged = presets.contains(name) && !PresetStore::presetOf(presets.value(name));
+  return isDamaged ? damagedPreset(name) : Outcome::done();
 }
 
 }  // namespace
@@ -144,8 +136,24 @@ void restorePanel(PanelHost& host, const Preset& preset) {
     host.settings->setValue(it.key(), std::nullopt);
 }
 
+std::optional<Preset> PresetStore::presetOf(const QJsonValue& value) {
+  const QJsonValue model = value[modelKey];
+  const auto settings = textsOf(value[settingsKey]);
+  const auto options = textsOf(value[optionsKey]);
+  if (!model.isString() || !settings || (!options && !value[optionsKey].isUndefined())) return {};
+  const QStringList keys = settings->keys();
+  if (std::ranges::any_of(keys, [](const QString& key) { return !key.startsWith(prefix); })) return {};
+  return Preset{.model = model.toString(), .settings = *settings, .options = options};
+}
+
+QJsonObject PresetStore::objectOf(const Preset& preset) {
+  QJsonObject object{{modelKey, preset.model}, {settingsKey, objectOfTexts(preset.settings)}};
+  if (preset.options) object.insert(optionsKey, objectOfTexts(*preset.options));
+  return object;
+}
+
 PresetStore::PresetStore(UserDefaults& defaults, const QString& queue)
-    : m_defaults(defaults), m_domain(QStringLiteral("kesto.presets.") + queue) {}
+    : m_defaults(defaults), m_queue(queue), m_domain(sharedDomain + u'.' + queue) {}
 
 Outcome PresetStore::read(QJsonObject* presets) const {
   const Domain stored = m_defaults.persistentDomainForName(m_domain);
@@ -171,17 +179,24 @@ Outcome PresetStore::names(QStringList* names) const {
   return found;
 }
 
-Outcome PresetStore::load(const QString& name, const QString& model, Preset* preset) const {
+Outcome PresetStore::find(const QString& name, Preset* preset) const {
   QJsonObject presets;
   if (Outcome found = read(&presets); !found) return found;
   if (!presets.contains(name)) return noSuchPreset(name, presets);
   const std::optional<Preset> stored = presetOf(presets.value(name));
   if (!stored) return damagedPreset(name);
-  if (stored->model != model) {
-    return Outcome::failed(
-        Faults::tr("the preset \"%1\" is for another printer model, %2").arg(name, stored->model));
-  }
   *preset = *stored;
+  return Outcome::done();
+}
+
+Outcome PresetStore::load(const QString& name, const QString& model, Preset* preset) const {
+  Preset stored;
+  if (Outcome found = find(name, &stored); !found) return found;
+  if (stored.model != model) {
+    return Outcome::failed(
+        Faults::tr("the preset \"%1\" is for another printer model, %2").arg(name, stored.model));
+  }
+  *preset = stored;
   return Outcome::done();
 }
 
@@ -192,11 +207,20 @@ Outcome PresetStore::check(const QString& name) const {
 }
 
 Outcome PresetStore::save(const QString& name, const Preset& preset) {
-  QJsonObject kept{{modelKey, preset.model}, {settingsKey, objectOf(preset.settings)}};
-  if (preset.options) kept.insert(optionsKey, objectOf(*preset.options));
-  return change([&](QJsonObject* presets) {
+  const Outcome saved = change([&](QJsonObject* presets) {
     if (Outcome free = mayReplace(name, *presets); !free) return free;
-    presets->insert(name, kept);
+    presets->insert(name, objectOf(preset));
+    return Outcome::done();
+  });
+  return saved ? enlist() : saved;
+}
+
+// Other queues look for presets here, too.
+Outcome PresetStore::enlist() {
+  return m_defaults.changePersistentDomain(sharedDomain, [this](QJsonObject* values) {
+    QJsonArray queues = values->value(queuesKey).toArray();
+    if (!queues.contains(m_queue)) queues.append(m_queue);
+    values->insert(queuesKey, queues);
     return Outcome::done();
   });
 }

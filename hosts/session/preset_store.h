@@ -32,16 +32,23 @@ void restorePanel(PanelHost& host, const Preset& preset);
 
 /// The presets of one queue, in the domain "kesto.presets." + queue: under "Presets", by name, an object with
 /// the texts "model" and "settings" and "options" (objects of texts, the latter not always there). What else
-/// the domain holds is kept.
+/// the domain holds is kept. The queues that have presets are listed in the domain "kesto.presets".
 class PresetStore {
  public:
+  static constexpr QLatin1String sharedDomain{"kesto.presets"};
+  static constexpr QLatin1String queuesKey{"Queues"};
+  /// A preset as it is stored; none when the value is no such object.
+  static std::optional<Preset> presetOf(const QJsonValue& value);
+  static QJsonObject objectOf(const Preset& preset);
+
   /// `defaults` must outlive the store.
   PresetStore(UserDefaults& defaults, const QString& queue);
 
   /// The names, sorted.
   Outcome names(QStringList* names) const;
-  /// Fails when there is no such preset (the reason lists those that there are), when it is damaged or made
-  /// for another model.
+  /// Fails when there is no such preset (the reason lists those that there are), or when it is damaged.
+  Outcome find(const QString& name, Preset* preset) const;
+  /// Fails also when it is made for another model.
   Outcome load(const QString& name, const QString& model, Preset* preset) const;
   /// Whether a preset of this name can be kept, as things are: one that is damaged is not replaced, and a
   /// name has at most 255 characters.
@@ -54,8 +61,10 @@ class PresetStore {
  private:
   Outcome read(QJsonObject* presets) const;
   Outcome change(const DomainChange& change);  // of the presets alone
+  Outcome enlist();
 
   UserDefaults& m_defaults;
+  QString m_queue;
   QString m_domain;
 };
 

@@ -12,6 +12,7 @@
 #include "hosts/dialog/widgets/password_dialog.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "tests/support/dialog_printer.h"
+#include "tests/support/more_choices.h"
 
 namespace kesto::test {
 namespace {
@@ -313,8 +314,11 @@ TEST_F(DialogPrint, HelpStandsBesideTheDialog) {
 }
 
 TEST_F(DialogPrint, PresetsComeBackAndGo) {
+  startPrinter({u"--queues"_s, u"2"_s});
+  changePpd(u"Office_MFP_0002"_s, fewChoices, moreChoices);
+  m_options.queue = u"Office_MFP_0002"_s;
   openReady();
-  QMenu* menu = widgetNamed<QPushButton>(*m_dialog, u"Presets"_s)->menu();
+  const auto button = [this] { return widgetNamed<QPushButton>(*m_dialog, u"Presets"_s); };
   const auto entryOf = [](const QMenu* shown, const QString& part) {
     const QList<QAction*> entries = shown->actions();
     const auto found = std::ranges::find_if(entries, [&](auto* each) { return each->text().contains(part); });
@@ -322,6 +326,7 @@ TEST_F(DialogPrint, PresetsComeBackAndGo) {
   };
   // An entry of the menu as it is now, or of the menu below it that deletes.
   const auto entry = [&](const QString& part, bool deletes = false) {
+    QMenu* menu = button()->menu();
     QMetaObject::invokeMethod(menu, "aboutToShow");
     return entryOf(deletes ? entryOf(menu, u"Delete"_s)->menu() : menu, part);
   };
@@ -333,16 +338,42 @@ TEST_F(DialogPrint, PresetsComeBackAndGo) {
     entry(u"Save"_s)->trigger();
   };
   use("retentionCheckBox holdAfterRadioButton");
-  JobOptions& options = m_dialog->jobOptions();
-  options.choose(u"Duplex"_s, u"DuplexTumble"_s);
+  const auto choose = [this](const QString& name, const QString& value) {
+    m_dialog->jobOptions().choose(name, value);
+  };
+  const auto chosen = [this] {
+    const JobOptions& options = m_dialog->jobOptions();
+    return options.value(u"Duplex"_s) + options.value(u"copies"_s);
+  };
+  choose(u"Duplex"_s, u"DuplexTumble"_s);
+  choose(u"TonerSave"_s, u"True"_s);
   save();
+  EXPECT_EQ(button()->accessibleDescription(), u"Held & fast"_s);
   click(u"retentionCheckBox"_s);
-  options.choose(u"Duplex"_s, u"None"_s);
-  options.choose(u"copies"_s, u"3"_s);
+  await([&] { return button()->accessibleDescription() == u"Held & fast (changed)"_s; }, u"the mark"_s);
+  choose(u"Duplex"_s, u"None"_s);
+  choose(u"copies"_s, u"3"_s);
   entry(u"Held && fast"_s)->trigger();
-  EXPECT_EQ(options.value(u"Duplex"_s) + options.value(u"copies"_s), u"DuplexTumble1"_s);
+  EXPECT_EQ(chosen(), u"DuplexTumble1"_s);
   EXPECT_TRUE(widget<QAbstractButton>(u"retentionCheckBox"_s)->isChecked());
   EXPECT_TRUE(widget<QAbstractButton>(u"holdAfterRadioButton"_s)->isChecked());
+  choose(u"copies"_s, u"2"_s);
+  EXPECT_FALSE(entry(u"Last"_s)->isEnabled());
+  click(u"print"_s);
+  await([this] { return m_dialog->job() > 0; }, u"the job"_s);
+
+  m_options.queue = QString();
+  openReady();
+  EXPECT_EQ(m_dialog->queueName(), u"Office_MFP_0002"_s) << "of the last job";
+  entry(u"Last"_s)->trigger();
+  EXPECT_EQ(chosen(), u"DuplexTumble1"_s) << "without the copies";
+  EXPECT_TRUE(widget<QAbstractButton>(u"holdAfterRadioButton"_s)->isChecked());
+
+  m_options.queue = u"Office_MFP"_s;
+  openReady();
+  entry(u"Held"_s)->trigger();
+  EXPECT_EQ(chosen(), u"DuplexTumble1"_s);
+  EXPECT_TRUE(text(u"message"_s).contains(u"does not support TonerSave: "_s)) << text(u"message"_s);
   entry(u"Held"_s, true)->trigger();
   EXPECT_EQ(entry(u"Held"_s), nullptr);
   // Another dialog may delete it while the menu is open.

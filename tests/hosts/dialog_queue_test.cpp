@@ -144,7 +144,7 @@ TEST_F(DialogPrint, AQueueWithoutThePanelPrintsByItsOwnOptions) {
   for (const int row : {1, 0, 1})  // only the last one is waited for
     EXPECT_TRUE(DialogUser(*m_dialog).choose(u"printer"_s, row));
   await([this] { return m_dialog->isQueueReady(); }, u"the other queue"_s);
-  EXPECT_FALSE(widgetNamed(*m_dialog, u"Presets"_s)->isEnabled());
+  EXPECT_TRUE(widgetNamed(*m_dialog, u"Presets"_s)->isEnabled());
   EXPECT_TRUE(DialogUser(*m_dialog).choose(u"Duplex"_s, 1));
   click(u"print"_s);
   awaitJob(1);

@@ -182,6 +182,10 @@ TEST_F(OptionsOfAJob, WhatIsOfTheQueueGoesWithIt) {
   options.openFor(second);
   EXPECT_EQ(options.travelling(), parseJobOptions(u"PageSize=A5 page-ranges=2 x=y"_s));
   EXPECT_EQ(options.source(u"media"_s), JobOptions::Source::Given);
+  EXPECT_EQ(options.choosePreset(
+                parseJobOptions(u"Duplex=DuplexTumble PageSize=Custom.10x15cm TonerSave=True number-up=2"_s)),
+            QStringList({u"Paper size: Custom 10 x 15 cm"_s, u"TonerSave: True"_s}));
+  EXPECT_EQ(options.travelling(), parseJobOptions(u"Duplex=DuplexTumble PageSize=A5 number-up=2 x=y"_s));
 }
 
 TEST_F(OptionsOfAJob, EachGroupOffersWhatTheQueueHasAndSaysWhatIsChosen) {

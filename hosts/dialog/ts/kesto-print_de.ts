@@ -1336,6 +1336,14 @@
         <source>this printer does not accept this type of file</source>
         <translation>dieser Drucker nimmt diesen Dateityp nicht an</translation>
     </message>
+    <message>
+        <source>Job Handling for the model %1</source>
+        <translation>Auftragssteuerung für das Modell %1</translation>
+    </message>
+    <message>
+        <source>nothing was printed before</source>
+        <translation>es wurde noch nichts gedruckt</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -1577,10 +1585,6 @@
         <translation>Voreinstellungen</translation>
     </message>
     <message>
-        <source>No presets for this printer</source>
-        <translation>Keine Voreinstellungen für diesen Drucker</translation>
-    </message>
-    <message>
         <source>Save as preset…</source>
         <translation>Als Voreinstellung speichern&#xa0;…</translation>
     </message>
@@ -1599,6 +1603,22 @@
     <message>
         <source>Include the pass codes</source>
         <translation>PINs mit speichern</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>No presets</source>
+        <translation>Keine Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>Voreinstellungen: %1</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +1765,10 @@
     <message>
         <source>Saved as %1.</source>
         <translation>Gespeichert als %1.</translation>
+    </message>
+    <message>
+        <source>This printer does not support %1 of the preset. The rest is set.</source>
+        <translation>Dieser Drucker unterstützt %1 aus der Voreinstellung nicht. Das Übrige ist eingestellt.</translation>
     </message>
 </context>
 <context>

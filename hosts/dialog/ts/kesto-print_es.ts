@@ -1336,6 +1336,14 @@
         <source>this printer does not accept this type of file</source>
         <translation>esta impresora no acepta este tipo de archivo</translation>
     </message>
+    <message>
+        <source>Job Handling for the model %1</source>
+        <translation>Gestión de trabajos para el modelo %1</translation>
+    </message>
+    <message>
+        <source>nothing was printed before</source>
+        <translation>todavía no se ha imprimido nada</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -1577,10 +1585,6 @@
         <translation>Preajustes</translation>
     </message>
     <message>
-        <source>No presets for this printer</source>
-        <translation>No hay preajustes para esta impresora</translation>
-    </message>
-    <message>
         <source>Save as preset…</source>
         <translation>Guardar como preajuste…</translation>
     </message>
@@ -1599,6 +1603,22 @@
     <message>
         <source>Include the pass codes</source>
         <translation>Incluir los códigos de acceso</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Último usado</translation>
+    </message>
+    <message>
+        <source>No presets</source>
+        <translation>No hay preajustes</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificado)</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>Preajustes: %1</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +1765,10 @@
     <message>
         <source>Saved as %1.</source>
         <translation>Guardado como %1.</translation>
+    </message>
+    <message>
+        <source>This printer does not support %1 of the preset. The rest is set.</source>
+        <translation>Esta impresora no admite %1 del preajuste. El resto se ha aplicado.</translation>
     </message>
 </context>
 <context>

@@ -1336,6 +1336,14 @@
         <source>this printer does not accept this type of file</source>
         <translation>cette imprimante n’accepte pas ce type de fichier</translation>
     </message>
+    <message>
+        <source>Job Handling for the model %1</source>
+        <translation>Gestion des travaux pour le modèle %1</translation>
+    </message>
+    <message>
+        <source>nothing was printed before</source>
+        <translation>rien n’a encore été imprimé</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -1577,10 +1585,6 @@
         <translation>Préréglages</translation>
     </message>
     <message>
-        <source>No presets for this printer</source>
-        <translation>Aucun préréglage pour cette imprimante</translation>
-    </message>
-    <message>
         <source>Save as preset…</source>
         <translation>Enregistrer comme préréglage…</translation>
     </message>
@@ -1599,6 +1603,22 @@
     <message>
         <source>Include the pass codes</source>
         <translation>Inclure les codes d’accès</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Dernier utilisé</translation>
+    </message>
+    <message>
+        <source>No presets</source>
+        <translation>Aucun préréglage</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modifié)</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>Préréglages&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +1765,10 @@
     <message>
         <source>Saved as %1.</source>
         <translation>Enregistré sous %1.</translation>
+    </message>
+    <message>
+        <source>This printer does not support %1 of the preset. The rest is set.</source>
+        <translation>Cette imprimante ne prend pas en charge %1 du préréglage. Le reste est appliqué.</translation>
     </message>
 </context>
 <context>

@@ -1335,6 +1335,14 @@
         <source>this printer does not accept this type of file</source>
         <translation>このプリンターはこの種類のファイルを受け付けません</translation>
     </message>
+    <message>
+        <source>Job Handling for the model %1</source>
+        <translation>モデル %1 のジョブ管理</translation>
+    </message>
+    <message>
+        <source>nothing was printed before</source>
+        <translation>まだ何も印刷されていません</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -1576,10 +1584,6 @@
         <translation>プリセット</translation>
     </message>
     <message>
-        <source>No presets for this printer</source>
-        <translation>このプリンターのプリセットはありません</translation>
-    </message>
-    <message>
         <source>Save as preset…</source>
         <translation>プリセットとして保存…</translation>
     </message>
@@ -1598,6 +1602,22 @@
     <message>
         <source>Include the pass codes</source>
         <translation>暗証番号も含める</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>前回の設定</translation>
+    </message>
+    <message>
+        <source>No presets</source>
+        <translation>プリセットはありません</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (変更あり)</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>プリセット: %1</translation>
     </message>
 </context>
 <context>
@@ -1744,6 +1764,10 @@
     <message>
         <source>Saved as %1.</source>
         <translation>%1 として保存しました。</translation>
+    </message>
+    <message>
+        <source>This printer does not support %1 of the preset. The rest is set.</source>
+        <translation>このプリンターはプリセットの %1 に対応していません。その他は設定されました。</translation>
     </message>
 </context>
 <context>

@@ -1335,6 +1335,14 @@
         <source>this printer does not accept this type of file</source>
         <translation>此打印机不接受这种类型的文件</translation>
     </message>
+    <message>
+        <source>Job Handling for the model %1</source>
+        <translation>型号 %1 的作业处理</translation>
+    </message>
+    <message>
+        <source>nothing was printed before</source>
+        <translation>尚未打印过任何内容</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -1576,10 +1584,6 @@
         <translation>预设</translation>
     </message>
     <message>
-        <source>No presets for this printer</source>
-        <translation>此打印机没有预设</translation>
-    </message>
-    <message>
         <source>Save as preset…</source>
         <translation>另存为预设…</translation>
     </message>
@@ -1598,6 +1602,22 @@
     <message>
         <source>Include the pass codes</source>
         <translation>包含 PIN 码</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>上次使用</translation>
+    </message>
+    <message>
+        <source>No presets</source>
+        <translation>没有预设</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1（已更改）</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>预设：%1</translation>
     </message>
 </context>
 <context>
@@ -1744,6 +1764,10 @@
     <message>
         <source>Saved as %1.</source>
         <translation>已保存为 %1。</translation>
+    </message>
+    <message>
+        <source>This printer does not support %1 of the preset. The rest is set.</source>
+        <translation>此打印机不支持预设中的 %1。其余设置已应用。</translation>
     </message>
 </context>
 <context>

@@ -25,12 +25,20 @@ PresetMenu::PresetMenu(PanelSession& session, QWidget* parent)
 void PresetMenu::fill() {
   m_menu->clear();
   QStringList names;
-  const Outcome found = m_session.presets()->names(&names);
+  const Outcome found = m_session.shelf()->names(&names);
   if (!found) m_menu->addAction(withPlainAmpersands(asSentence(found.reason())))->setEnabled(false);
-  if (found && names.isEmpty()) m_menu->addAction(tr("No presets for this printer"))->setEnabled(false);
-  for (const QString& name : names)
-    connect(m_menu->addAction(withPlainAmpersands(name)), &QAction::triggered, this,
-            [this, name] { load(name); });
+  QAction* last = m_menu->addAction(tr("Last used"));
+  last->setEnabled(m_session.shelf()->hasLastUsed());
+  connect(last, &QAction::triggered, this, &PresetMenu::loadLastUsed);
+  m_menu->addSeparator();
+  if (found && names.isEmpty()) m_menu->addAction(tr("No presets"))->setEnabled(false);
+  for (const QString& name : names) {
+    const bool isActive = name == m_session.activePreset();
+    QAction* entry = m_menu->addAction(withPlainAmpersands(isActive ? activeText() : name));
+    entry->setCheckable(isActive);
+    entry->setChecked(isActive);
+    connect(entry, &QAction::triggered, this, [this, name] { load(name); });
+  }
   m_menu->addSeparator();
   connect(m_menu->addAction(tr("Save as preset…")), &QAction::triggered, this, &PresetMenu::save);
   QMenu* removal = m_menu->addMenu(tr("Delete preset"));
@@ -40,12 +48,36 @@ void PresetMenu::fill() {
             [this, name] { remove(name); });
 }
 
+QString PresetMenu::activeText() const {
+  const QString& name = m_session.activePreset();
+  return m_session.isPresetChanged() ? tr("%1 (changed)").arg(name) : name;
+}
+
+void PresetMenu::showActive() {
+  const bool isActive = !m_session.activePreset().isNull();
+  setPlainText(*this, isActive ? tr("Presets: %1").arg(activeText()) : tr("Presets"));
+  setAccessibleDescription(isActive ? activeText() : QString());
+}
+
 void PresetMenu::load(const QString& name) {
-  if (Outcome loaded = m_session.loadPreset(name); !loaded) {
+  QStringList others;
+  const Outcome loaded = m_session.loadPreset(name, &others);
+  take(loaded, others);
+}
+
+void PresetMenu::loadLastUsed() {
+  QStringList others;
+  const Outcome loaded = m_session.loadLastUsed(&others);
+  take(loaded, others);
+}
+
+void PresetMenu::take(const Outcome& loaded, const QStringList& others) {
+  showActive();
+  if (!loaded) {
     QMessageBox::warning(window(), tr("Presets"), asSentence(loaded.reason()));
     return;
   }
-  Q_EMIT this->loaded();
+  Q_EMIT this->loaded(others);
 }
 
 void PresetMenu::save() {
@@ -64,13 +96,14 @@ void PresetMenu::save() {
   form->addRow(buttons);
   connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-  if (dialog.exec() != QDialog::Accepted || m_session.presets() == nullptr) return;
+  if (dialog.exec() != QDialog::Accepted || m_session.shelf() == nullptr) return;
   if (Outcome saved = m_session.savePreset(name->text().trimmed(), codes->isChecked()); !saved)
     QMessageBox::warning(window(), tr("Presets"), asSentence(saved.reason()));
+  showActive();
 }
 
 void PresetMenu::remove(const QString& name) {
-  if (Outcome removed = m_session.presets()->remove(name); !removed)
+  if (Outcome removed = m_session.shelf()->remove(name); !removed)
     QMessageBox::warning(window(), tr("Presets"), asSentence(removed.reason()));
 }
 

@@ -3,11 +3,14 @@
 
 #include <QtWidgets/QPushButton>
 
+#include "platform/outcome.h"
+
 namespace kesto {
 
 class PanelSession;
 
-/// Loads, saves and deletes presets of the queue's panel; usable only while there is one.
+/// Loads, saves and deletes presets; usable only while there is a queue. It shows the one that was loaded or
+/// saved last, with a mark once something is chosen differently.
 class PresetMenu : public QPushButton {
   Q_OBJECT
 
@@ -17,13 +20,19 @@ class PresetMenu : public QPushButton {
   /// With room around the text, which some styles do not count before the arrow of a menu.
   QSize sizeHint() const override { return QPushButton::sizeHint() + QSize(fontMetrics().height(), 0); }
 
+  /// Call it whenever something may be chosen differently.
+  void showActive();
+
  Q_SIGNALS:
-  /// A preset was loaded into the panel.
-  void loaded();
+  /// A preset was loaded; what does not fit the printer is named.
+  void loaded(const QStringList& others);
 
  private:
+  QString activeText() const;
   void fill();
   void load(const QString& name);
+  void loadLastUsed();
+  void take(const Outcome& loaded, const QStringList& others);
   void save();
   void remove(const QString& name);
 
