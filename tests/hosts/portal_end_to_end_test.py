@@ -163,7 +163,7 @@ class Printing(unittest.TestCase):
         wish = json.dumps({"pages": 9, "paper": "iso_a5", "settings": settings})
         client = self.session.start([__file__, "--client", wish], stderr=self.session.log)
         self.focus_dialog()
-        self.keys("alt+t")  # Retention, which leads to the pass code
+        self.keys("alt+i", "alt+i", "space")  # Copies, then Retention, which leads to the pass code
         self.keys(*CODE)
         self.keys("Return")
         answer = json.loads(client.communicate(timeout=PATIENCE)[0])
