@@ -293,7 +293,7 @@ TEST_F(DialogPrint, TabGoesRoundTheDialogAsItIsRead) {
   const QStringList expected =
       u"holdAfterRadioButton suspendKeyEditText suspendKeyButton mainFolderRadioButton folderSelectionPopup "
       "printersAddressEditText getFolderNameButton jobNameEditText summaryHeader Preview pageNumber "
-      "Next_page Presets "
+      "Next_page Presets print Cancel Help "
       "printer generalHeader copies job-handlingHeader retentionCheckBox"_s.split(u' ');
   QStringList order = all;
   order.removeIf([&](const QString& name) { return !expected.contains(name); });

@@ -39,11 +39,15 @@ Outcome DialogUser::turnTo(const QString& name, QWidget** widget) {
   QCoreApplication::processEvents();  // a person sees what is laid out
   *widget = unfoldTo(name);
   if (*widget == nullptr) return Outcome::failed(QStringLiteral("there is no %1").arg(name));
-  if (!(*widget)->isVisible()) return Outcome::failed(QStringLiteral("%1 is not seen").arg(name));
+  // A section that has just been unfolded has no room yet.
+  const bool isSeen = QTest::qWaitFor([&] {
+    for (QWidget* each = (*widget)->parentWidget(); each != nullptr; each = each->parentWidget()) {
+      if (auto* area = qobject_cast<QScrollArea*>(each)) area->ensureWidgetVisible(*widget);
+    }
+    return (*widget)->visibleRegion().contains(placeToClick(**widget));
+  });
+  if (!isSeen) return Outcome::failed(QStringLiteral("%1 is not seen").arg(name));
   if (!(*widget)->isEnabled()) return Outcome::failed(QStringLiteral("%1 is dimmed").arg(name));
-  for (QWidget* each = (*widget)->parentWidget(); each != nullptr; each = each->parentWidget()) {
-    if (auto* area = qobject_cast<QScrollArea*>(each)) area->ensureWidgetVisible(*widget);
-  }
   return Outcome::done();
 }
 
@@ -57,12 +61,6 @@ Outcome DialogUser::click(const QString& name) {
 Outcome DialogUser::type(const QString& name, const QString& text) {
   if (Outcome clicked = click(name); !clicked) return clicked;
   QWidget* focused = m_window.focusWidget();
-  if (focused == nullptr || focused->objectName() != name) {
-    // The window was still being laid out.
-    QTest::qWait(50);
-    if (Outcome clicked = click(name); !clicked) return clicked;
-    focused = m_window.focusWidget();
-  }
   if (focused == nullptr || focused->objectName() != name)
     return Outcome::failed(
         QStringLiteral("%1 does not take the focus, %2 has it")

@@ -23,19 +23,21 @@ bool isOneStop(const QWidget& widget) {
          qobject_cast<const QLineEdit*>(&widget) != nullptr;
 }
 
-// The desktop decides about their order.
-void collectButtons(const QDialogButtonBox& box, QList<QWidget*>* stops) {
+// The desktop decides about their order. The box itself passes the focus on to the first, and as a stop of
+// its own would draw along all that stands between it and the last.
+void collectButtons(QDialogButtonBox& box, QList<QWidget*>* stops) {
+  box.setFocusProxy(nullptr);
   for (int i = 0; i < box.layout()->count(); ++i) {
     if (QWidget* button = box.layout()->itemAt(i)->widget()) stops->append(button);
   }
 }
 
 void collectStops(QWidget& widget, QList<QWidget*>* stops) {
-  // A widget that passes the focus on, such as a box of buttons, counts as a stop too; otherwise its old
-  // place in the order would lead back from anywhere.
+  if (auto* box = qobject_cast<QDialogButtonBox*>(&widget)) return collectButtons(*box, stops);
+  // A widget that passes the focus on counts as a stop too; otherwise its old place in the order would lead
+  // back from anywhere.
   if (widget.focusPolicy() != Qt::NoFocus || widget.focusProxy() != nullptr) stops->append(&widget);
   if (isOneStop(widget)) return;
-  if (auto* box = qobject_cast<QDialogButtonBox*>(&widget)) return collectButtons(*box, stops);
   for (auto* child : widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     if (!child->isWindow()) collectStops(*child, stops);
   }
