@@ -6,12 +6,12 @@
 namespace kesto {
 namespace {
 
-// The next moment at which it is that time, by the day and the clock of `spec`; daylight saving may change
+// The next moment at which it is that time, by the day of that clock; daylight saving may change
 // between now and then.
-QDateTime nextAt(const QTime& time, Qt::TimeSpec spec) {
-  const QDateTime now = QDateTime::currentDateTimeUtc().toTimeSpec(spec);
-  QDateTime next(now.date(), time, spec);
-  if (next < now) next = QDateTime(now.date().addDays(1), time, spec);
+QDateTime nextAt(const QTime& time, Qt::TimeSpec clock) {
+  const QDateTime now = QDateTime::currentDateTimeUtc().toTimeSpec(clock);
+  QDateTime next(now.date(), time, clock);
+  if (next < now) next = QDateTime(now.date().addDays(1), time, clock);
   return next;
 }
 
