@@ -15,7 +15,7 @@ namespace {
 class RememberingTranslator : public QTranslator {
  public:
   QString translate(const char* context, const char* source, const char* comment, int count) const override {
-    const QString text = QTranslator::translate(context, source, comment, count);
+    QString text = QTranslator::translate(context, source, comment, count);
     if (!text.isNull()) rememberEnglish(text, QString::fromUtf8(source));
     return text;
   }

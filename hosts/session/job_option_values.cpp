@@ -106,10 +106,6 @@ QString plain(const QString& name) {
   return letters.remove(u'-').remove(u'_').remove(u' ');
 }
 
-bool isSame(const QString& name, const char* other) {
-  return name.compare(QLatin1String(other), Qt::CaseInsensitive) == 0;
-}
-
 QStringList namesOf(const Value& value) {
   return QString::fromLatin1(value.names).split(u' ', Qt::SkipEmptyParts);
 }
@@ -146,7 +142,9 @@ QString choiceFor(const PpdChoices& choices, const QString& option, const QStrin
   if (option == u"Resolution") return find(value, bothWays);
   if (QString choice = find(value, plain); !choice.isNull()) return choice;
   for (const Value& each : values) {
-    if (option != QLatin1String(each.option) || !isSame(value, each.standard)) continue;
+    if (option != QLatin1String(each.option) ||
+        value.compare(QLatin1String(each.standard), Qt::CaseInsensitive) != 0)
+      continue;
     for (const QString& name : namesOf(each)) {
       if (QString choice = find(name, plain); !choice.isNull()) return choice;
     }

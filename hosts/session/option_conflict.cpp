@@ -26,7 +26,7 @@ QString sentenceOn(const JobOptions& options, QString one, QString other) {
   const QString shown = options.textOf(other, options.value(other));
   if (one == duplexKey && (other == u"MediaType" || other == u"PageSize"))
     return QCoreApplication::translate("JobOptions", "Two-sided printing is not possible on %1.").arg(shown);
-  return QCoreApplication::translate("JobOptions", "%1 \"%2\" is not possible with %3 \"%4\".")
+  return QCoreApplication::translate("JobOptions", R"(%1 "%2" is not possible with %3 "%4".)")
       .arg(options.text(one), options.textOf(one, options.value(one)), options.text(other), shown);
 }
 

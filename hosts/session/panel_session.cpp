@@ -149,7 +149,7 @@ Outcome PanelSession::savePreset(const QString& name, bool withCodes) {
   if (panel() != nullptr) panel()->saveValuesAndReturnError(nullptr);
   Preset preset;
   if (Outcome made = makePreset(name, withCodes, &preset); !made) return made;
-  const Outcome kept = keepPreset(name, preset);
+  Outcome kept = keepPreset(name, preset);
   if (kept) m_active = activeAs(name);
   return kept;
 }

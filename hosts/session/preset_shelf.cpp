@@ -2,6 +2,7 @@
 
 #include <QtCore/QJsonArray>
 #include <algorithm>
+#include <utility>
 
 #include "hosts/cups/faults.h"
 
@@ -12,13 +13,13 @@ constexpr QLatin1String lastUsedKey("Last used");
 
 }  // namespace
 
-PresetShelf::PresetShelf(UserDefaults& defaults, const QString& queue)
-    : m_defaults(defaults), m_queue(queue) {}
+PresetShelf::PresetShelf(UserDefaults& defaults, QString queue)
+    : m_defaults(defaults), m_queue(std::move(queue)) {}
 
 QStringList PresetShelf::queues() const {
   QStringList queues{m_queue};
   const Domain stored = m_defaults.persistentDomainForName(PresetStore::sharedDomain);
-  for (const QJsonValue& queue : stored.values.value_or(QJsonObject())[PresetStore::queuesKey].toArray())
+  for (const auto& queue : stored.values.value_or(QJsonObject())[PresetStore::queuesKey].toArray())
     queues.append(queue.toString());
   queues.removeDuplicates();
   return queues;

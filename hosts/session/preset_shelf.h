@@ -10,7 +10,7 @@ namespace kesto {
 class PresetShelf {
  public:
   /// `defaults` must outlive the shelf.
-  PresetShelf(UserDefaults& defaults, const QString& queue);
+  PresetShelf(UserDefaults& defaults, QString queue);
 
   /// The names, sorted.
   Outcome names(QStringList* names) const;

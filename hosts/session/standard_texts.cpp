@@ -12,15 +12,15 @@ namespace {
 // A value: the PPD options that have it, its names there, among them the standard's without its signs, and
 // our text. "#" at the end of a name stands for a number, "*" for any option.
 struct StandardValue {
-  const char* options;
-  const char* names;
-  const char* text;
+  const char* options = nullptr;
+  const char* names = nullptr;
+  const char* text = nullptr;
   const char* part = nullptr;  // for "%1", when that is no number
 };
 
 constexpr const char* anyOption = "*";
 
-constexpr std::array values{
+constexpr std::array standardValues{
     // Paper sizes; the names of the others, such as A4, are the same in all languages.
     StandardValue{"PageSize", "Letter na_letter", QT_TRANSLATE_NOOP("StandardTexts", "Letter")},
     StandardValue{"PageSize", "Legal na_legal", QT_TRANSLATE_NOOP("StandardTexts", "Legal")},
@@ -193,7 +193,7 @@ QString translated(const char* text) {
 
 // Names differ in letter case and signs: "by-pass-tray" is "ByPassTray". The dimensions of
 // "na_letter_8.5x11in" do not matter.
-QString plain(const QString& name) {
+QString plainName(const QString& name) {
   QString letters = name.count(u'_') > 1 ? name.section(u'_', 0, 1) : name;
   return letters.toLower().remove(u'-').remove(u'_').remove(u' ');
 }
@@ -209,14 +209,14 @@ Index indexOf(std::span<const StandardValue> table) {
   for (const StandardValue& each : table) {
     for (const QString& option : QString::fromLatin1(each.options).split(u' ')) {
       for (const QString& name : QString::fromLatin1(each.names).split(u' '))
-        index.insert(keyOf(option, plain(name)), &each);
+        index.insert(keyOf(option, plainName(name)), &each);
     }
   }
   return index;
 }
 
-const StandardValue* find(const QString& option, const QString& name) {
-  static const Index index = indexOf(values);
+const StandardValue* valueNamed(const QString& option, const QString& name) {
+  static const Index index = indexOf(standardValues);
   const StandardValue* found = index.value(keyOf(option, name));
   return found != nullptr ? found : index.value(keyOf(QLatin1String(anyOption), name));
 }
@@ -227,12 +227,12 @@ struct Found {
 };
 
 Found findValue(const QString& option, const QString& value) {
-  const QString name = plain(value);
-  if (const StandardValue* found = find(option, name)) return {found, QLatin1String(found->part)};
+  const QString name = plainName(value);
+  if (const StandardValue* found = valueNamed(option, name)) return {found, QLatin1String(found->part)};
   qsizetype digits = name.size();
   while (digits > 0 && name[digits - 1].isDigit())
     --digits;
-  return {find(option, name.first(digits) + u'#'), name.sliced(digits)};
+  return {valueNamed(option, name.first(digits) + u'#'), name.sliced(digits)};
 }
 
 QString textOf(const Found& found) {
@@ -243,9 +243,9 @@ QString textOf(const Found& found) {
 // "staple-top-left" is a finishing and its place.
 QString placedFinishing(const QString& value) {
   static const Index index = indexOf(places);
-  const QString name = plain(value);
+  const QString name = plainName(value);
   for (qsizetype length = name.size() - 1; length > 0; --length) {
-    const StandardValue* finishing = find(QLatin1String(anyOption), name.first(length));
+    const StandardValue* finishing = valueNamed(QLatin1String(anyOption), name.first(length));
     const StandardValue* place = index.value(keyOf(QLatin1String(anyOption), name.sliced(length)));
     if (finishing == nullptr || place == nullptr) continue;
     return translated(QT_TRANSLATE_NOOP("StandardTexts", "%1, %2"))
@@ -270,7 +270,7 @@ QString standardText(const QString& option, const QString& value) {
 }
 
 bool isStandardText(const QString& option, const QString& value, const QString& text) {
-  if (plain(text) == plain(value)) return true;
+  if (plainName(text) == plainName(value)) return true;
   const Found found = findValue(option, text);
   return found.value != nullptr && found.value == findValue(option, value).value;
 }

@@ -336,7 +336,7 @@ TEST_F(DialogPreview, OtherDocumentsAreConvertedByThePrintSystem) {
   const JobFile notes{path(u"notes.txt"_s), u"notes.txt"_s};
   m_folder.writeProgram(
       u"cupsfilter"_s,
-      "test \"$4\" = application/pdf && grep -q '300.00 400.00' \"$2\" && cat " + report + "\n");
+      R"(test "$4" = application/pdf && grep -q '300.00 400.00' "$2" && cat )" + report + "\n");
   m_preview.setJob({.size = {300, 400}}, {});
   m_preview.show({notes});
   EXPECT_EQ(shown(), u"Page 1 of 3"_s);

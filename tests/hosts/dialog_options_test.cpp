@@ -67,7 +67,7 @@ TEST_F(DialogPrint, EachOptionArrivesAsItsControlHasIt) {
   changePpd(u"Office_MFP"_s, fewChoices, moreChoices);
   const QString pdf = QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf");
   const struct {
-    int job;
+    int job = 0;
     Text pane, control, value;
     Text attribute = "";  // empty where the next row completes the value
     Text arrives = "";

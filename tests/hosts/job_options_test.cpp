@@ -228,9 +228,9 @@ TEST_F(OptionsOfAJob, EachGroupOffersWhatTheQueueHasAndSaysWhatIsChosen) {
 TEST_F(OptionsOfAJob, AConflictIsSaidAndResolvedForTheLastChoice) {
   const struct {
     QStringList chosen;
-    const char* text;
-    const char* remedy;
-    const char* travels;
+    const char* text = nullptr;
+    const char* remedy = nullptr;
+    const char* travels = nullptr;
   } cases[] = {
       {{u"Duplex=DuplexTumble"_s, u"MediaType=Transparency"_s},
        nullptr,
@@ -245,7 +245,7 @@ TEST_F(OptionsOfAJob, AConflictIsSaidAndResolvedForTheLastChoice) {
        "Set Paper type to Plain",
        "Duplex=DuplexNoTumble"},
       {{u"MediaType=Thick"_s, u"OutputBin=FaceDown"_s},
-       "Output tray \"Face down\" is not possible with Paper type \"Heavyweight\".",
+       R"(Output tray "Face down" is not possible with Paper type "Heavyweight".)",
        "Set Paper type to Plain",
        "OutputBin=FaceDown"},
   };

@@ -24,7 +24,7 @@ struct Dialog {
     socket->write(line + '\n');
     socket->flush();
   }
-  void answer(const QByteArray& word) { say("{\"answer\":\"" + word + "\"}"); }
+  void answer(const QByteArray& word) { say(R"({"answer":")" + word + R"("})"); }
 
   std::unique_ptr<QLocalSocket> socket;
   QJsonObject self;

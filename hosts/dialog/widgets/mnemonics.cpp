@@ -8,6 +8,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <algorithm>
+#include <utility>
 
 #include "hosts/dialog/widgets/plain_text.h"
 
@@ -65,7 +66,7 @@ QList<QChar> candidatesOf(const QString& text, bool onlyFirst) {
 // Gives texts one letter each.
 class Assignment {
  public:
-  Assignment(const QStringList& texts, const Letters& taken) : m_taken(taken) {
+  Assignment(const QStringList& texts, Letters taken) : m_taken(std::move(taken)) {
     for (const bool onlyFirst : {true, false}) {
       for (const QString& text : texts)
         takeFree(text, onlyFirst);

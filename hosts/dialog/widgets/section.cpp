@@ -114,7 +114,7 @@ void SectionHeader::paintEvent(QPaintEvent* /*event*/) {
   const QRect texts(arrowWidth() + gap, 0, width() - arrowWidth() - 2 * gap, height());
   painter.setFont(titleFont());
   painter.drawItemText(place(texts),
-                       flags | QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) |
+                       flags | QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft).toInt() |
                            (showsKeys ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
                        palette(), isEnabled(), text(), QPalette::WindowText);
 
@@ -122,7 +122,7 @@ void SectionHeader::paintEvent(QPaintEvent* /*event*/) {
   const QRect rest = texts.adjusted(taken, 0, 0, 0);
   painter.setFont(font());
   painter.setPen(m_isChanged && isEnabled() ? accentColor(palette()) : quietColor(palette()));
-  painter.drawText(place(rest), flags | QStyle::visualAlignment(layoutDirection(), Qt::AlignRight),
+  painter.drawText(place(rest), flags | QStyle::visualAlignment(layoutDirection(), Qt::AlignRight).toInt(),
                    fontMetrics().elidedText(m_headline, Qt::ElideRight, rest.width()));
   if (!hasFocus()) return;
   QStyleOptionFocusRect focus;
