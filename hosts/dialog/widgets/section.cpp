@@ -111,18 +111,21 @@ void SectionHeader::paintEvent(QPaintEvent* /*event*/) {
 
   const bool showsKeys = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
   const int flags = Qt::AlignVCenter | Qt::TextSingleLine;
+  const auto alignment = [this](Qt::Alignment logical) {
+    return static_cast<int>(QStyle::visualAlignment(layoutDirection(), logical));
+  };
   const QRect texts(arrowWidth() + gap, 0, width() - arrowWidth() - 2 * gap, height());
   painter.setFont(titleFont());
-  painter.drawItemText(place(texts),
-                       flags | QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft).toInt() |
-                           (showsKeys ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
-                       palette(), isEnabled(), text(), QPalette::WindowText);
+  painter.drawItemText(
+      place(texts),
+      flags | alignment(Qt::AlignLeft) | (showsKeys ? Qt::TextShowMnemonic : Qt::TextHideMnemonic), palette(),
+      isEnabled(), text(), QPalette::WindowText);
 
   const int taken = QFontMetrics(titleFont()).horizontalAdvance(plainText(*this)) + 2 * gap;
   const QRect rest = texts.adjusted(taken, 0, 0, 0);
   painter.setFont(font());
   painter.setPen(m_isChanged && isEnabled() ? accentColor(palette()) : quietColor(palette()));
-  painter.drawText(place(rest), flags | QStyle::visualAlignment(layoutDirection(), Qt::AlignRight).toInt(),
+  painter.drawText(place(rest), flags | alignment(Qt::AlignRight),
                    fontMetrics().elidedText(m_headline, Qt::ElideRight, rest.width()));
   if (!hasFocus()) return;
   QStyleOptionFocusRect focus;
