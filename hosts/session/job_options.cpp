@@ -205,10 +205,12 @@ QString JobOptions::ownText(const QString& option, const QString& value, const Q
 }
 
 QString JobOptions::textOf(const QString& option, const QString& value) const {
-  for (const OptionChoice& each : choices(option)) {
-    if (each.keyword == value) return each.text;
+  QString text;
+  for (const OptionChoice& each : m_choices.choices(option)) {
+    if (each.keyword == value) text = each.text;
   }
-  if (QString own = ownText(option, value, {}); !own.isNull()) return own;
+  if (QString own = ownText(option, value, text); !own.isNull()) return own;
+  if (!text.isNull()) return text;
   return value.startsWith(u"Custom.") ? customText(value) : value;
 }
 

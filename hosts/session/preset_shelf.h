@@ -5,8 +5,8 @@
 
 namespace kesto {
 
-/// The presets of one queue and, behind them, those of the others; a name counts where it is found first. And
-/// the choice of the last job, in the domain "kesto.presets" under "Last used".
+/// The presets of one queue, followed by those of the others. Where several have the same name, the first one
+/// counts. Also keeps the last job's choice, in the domain "kesto.presets" under "Last used".
 class PresetShelf {
  public:
   /// `defaults` must outlive the shelf.

@@ -15,7 +15,7 @@ struct StandardValue {
   const char* options = nullptr;
   const char* names = nullptr;
   const char* text = nullptr;
-  const char* part = nullptr;  // for "%1", when that is no number
+  const char* part = nullptr;  // what "%1" in the text stands for, unless that is a number
 };
 
 constexpr const char* anyOption = "*";

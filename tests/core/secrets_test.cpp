@@ -28,7 +28,7 @@ bool isInHeap(const QByteArray& wanted) {
       std::ranges::find_if(lines, [](const QByteArray& line) { return line.contains("[heap]"); });
   if (heap == lines.end()) return false;
   const auto* start = reinterpret_cast<const char*>(heap->left(heap->indexOf('-')).toULongLong(nullptr, 16));
-  // The end is not taken from there, because the heap can have become smaller since.
+  // The heap may have shrunk since, so its end is read anew.
   const auto* end = static_cast<const char*>(::sbrk(0));
   const auto holds = [&](const QByteArray& bytes) {
     const auto isWanted = [](char byte, char other) { return (byte ^ mask) == other; };

@@ -1,4 +1,5 @@
-// The whole demo printer: the real scheduler, its queue, the printer behind it, and its folder service.
+// The whole demo printer: the real scheduler, its queue, the printer that the queue sends to, and the folder
+// service.
 #include <cups/cups.h>
 
 #include <QtNetwork/QLocalSocket>

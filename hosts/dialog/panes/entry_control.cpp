@@ -27,7 +27,7 @@ double millimetresPerUnit() {
   return isMetric() ? 1 : perInch;
 }
 
-// NaN when it is no number, as the user's language or a program writes it.
+// A number as the user's language or a program writes it; NaN for any other text.
 double numberOf(const QString& text) {
   bool isNumber = false;
   double number = QLocale().toDouble(text.trimmed(), &isNumber);

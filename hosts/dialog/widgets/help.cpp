@@ -44,8 +44,7 @@ constexpr std::array topics{
               "Help",
               "Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits "
               "in the printer until someone enters the pass code there. Hold after printing keeps the job "
-              "after "
-              "it is printed. Sample print prints one copy and holds the others.")},
+              "after it is printed. Sample print prints one copy and holds the others.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Say who you are"),
           QT_TRANSLATE_NOOP("Help",
                             "Some printers ask who is printing. Under User and account, enter your user "

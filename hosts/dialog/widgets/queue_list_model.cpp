@@ -5,6 +5,7 @@
 #include "platform/shown_text.h"
 
 namespace kesto {
+
 int QueueListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(m_queues.size()) + (m_offersPdf ? 1 : 0);
 }
