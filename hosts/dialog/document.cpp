@@ -215,7 +215,7 @@ void Document::replace(int file, Descriptor other) {
 std::vector<JobFile> Document::files() const {
   std::vector<JobFile> files;
   for (const Part& part : m_parts) {
-    if (part.file) files.push_back({.path = pathOf(part.file), .name = part.name});
+    if (part.file) files.push_back({.path = pathOf(part.file.get()), .name = part.name});
   }
   return files;
 }

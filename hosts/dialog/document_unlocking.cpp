@@ -1,6 +1,11 @@
 #include "hosts/dialog/document_unlocking.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QtCore/QFile>
+#include <array>
+#include <cerrno>
 
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/widgets/password_dialog.h"
@@ -9,6 +14,22 @@ namespace kesto {
 namespace {
 
 constexpr int mostTries = 3;
+
+// The reading end of a pipe that holds the password, so that no buffer of a process object keeps it in
+// memory.
+Descriptor pipeWith(const QByteArray& password) {
+  std::array<int, 2> ends{};
+  if (::pipe2(ends.data(), O_CLOEXEC) != 0) return {};
+  Descriptor reading(ends[0]);
+  const Descriptor writing(ends[1]);
+  const bool isWhole = ::write(writing.get(), password.constData(),
+                               static_cast<std::size_t>(password.size())) == password.size();
+  return isWhole ? std::move(reading) : Descriptor();
+}
+
+QString nameOf(const Descriptor& file) {
+  return QFile::decodeName(pathOf(file.get()));
+}
 
 }  // namespace
 
@@ -45,19 +66,20 @@ void DocumentUnlocking::ask() {
 void DocumentUnlocking::tryPassword(const QByteArray& password) {
   PrivateCopy copy;
   if (Outcome made = copy.append("", 0); !made) return m_dialog->askAgain(made.reason());
+  const Descriptor pipe = pipeWith(password);
+  if (!pipe) return m_dialog->askAgain(qt_error_string(errno));
   m_copy = copy.take();
   const QByteArray path = m_document.files().at(static_cast<std::size_t>(m_file)).path;
   m_program.start(
       {.program = QStringLiteral("qpdf"),
        .arguments = {QStringLiteral("--password-file=-"), QStringLiteral("--decrypt"),
                      QStringLiteral("--warning-exit-0"), QFile::decodeName(path), QStringLiteral("-")},
-       .input = {},
-       .secret = password,
-       .output = QFile::decodeName(pathOf(m_copy))});
+       .input = nameOf(pipe),
+       .output = nameOf(m_copy)});
 }
 
 void DocumentUnlocking::takeEnd(PageProgram::End end) {
-  if (end == PageProgram::End::Done && isWholePdfFile(QFile::decodeName(pathOf(m_copy))))
+  if (end == PageProgram::End::Done && isWholePdfFile(nameOf(m_copy)))
     return m_document.replace(m_file, std::move(m_copy));
   const QString reason = reasonFor(end);
   if (m_tries > 0) return m_dialog->askAgain(reason);

@@ -1,16 +1,16 @@
 #include "hosts/dialog/pdf_saving.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QSaveFile>
 
 #include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/session/private_copy.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
 
-QString pathOf(const QSaveFile& file) {
-  return QStringLiteral("/proc/%1/fd/%2").arg(QCoreApplication::applicationPid()).arg(file.handle());
+QString nameOf(const QSaveFile& file) {
+  return QFile::decodeName(pathOf(file.handle()));
 }
 
 // "1-3,7,5-2" of the pages that follow each other in one file; `*at` goes on to those of the next.
@@ -57,11 +57,7 @@ void PdfSaving::save(const PageSequence& pages, const QString& target) {
     arguments << rangesAt(pages.pages, &at);
   }
   arguments << QStringLiteral("--") << QStringLiteral("-");
-  m_program.start({.program = QStringLiteral("qpdf"),
-                   .arguments = arguments,
-                   .input = {},
-                   .secret = {},
-                   .output = pathOf(*m_target)});
+  m_program.start({.program = QStringLiteral("qpdf"), .arguments = arguments, .output = nameOf(*m_target)});
 }
 
 void PdfSaving::takeEnd(PageProgram::End end) {
@@ -71,7 +67,7 @@ void PdfSaving::takeEnd(PageProgram::End end) {
     const QString text = QString::fromUtf8(m_program.errors()).trimmed().section(u'\n', -1);
     return fail(shownText(text.startsWith(u"qpdf: ") ? text.sliced(6) : text));
   }
-  if (!isWholePdfFile(pathOf(*m_target))) return fail(tr("There is not enough space."));
+  if (!isWholePdfFile(nameOf(*m_target))) return fail(tr("There is not enough space."));
   commit();
 }
 

@@ -84,8 +84,8 @@ Outcome PrivateCopy::append(const char* bytes, qint64 count) {
   return Outcome::done();
 }
 
-QByteArray pathOf(const Descriptor& file) {
-  return "/proc/" + QByteArray::number(::getpid()) + "/fd/" + QByteArray::number(file.get());
+QByteArray pathOf(int descriptor) {
+  return "/proc/" + QByteArray::number(::getpid()) + "/fd/" + QByteArray::number(descriptor);
 }
 
 void removeLeftCopies() {

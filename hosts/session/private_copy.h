@@ -32,8 +32,8 @@ class PrivateCopy {
   qint64 m_size = 0;
 };
 
-/// A path to an open file for the processes of this user, valid while it stays open.
-QByteArray pathOf(const Descriptor& file);
+/// A path to an open file for the processes of this user, valid while its descriptor stays open.
+QByteArray pathOf(int descriptor);
 
 /// Removes named copies that earlier versions left when they were killed, unless a process has them open.
 void removeLeftCopies();

@@ -44,7 +44,7 @@ PageProgram::Work conversionOf(const QString& document, const QString& ppd, cons
   for (const QString& option : layout.options)
     arguments << QStringLiteral("-o") << option;
   arguments << document;
-  return {.program = program, .arguments = arguments, .input = {}, .secret = {}};
+  return {.program = program, .arguments = arguments};
 }
 
 }  // namespace kesto

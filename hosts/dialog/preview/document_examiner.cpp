@@ -20,7 +20,7 @@ Descriptor privateFile(const QByteArray& bytes) {
 }
 
 QString nameOfFile(const Descriptor& file) {
-  return QFile::decodeName(pathOf(file));
+  return QFile::decodeName(pathOf(file.get()));
 }
 
 }  // namespace
@@ -86,10 +86,7 @@ void DocumentExaminer::examineNext() {
     return goOn();
   }
   constexpr int smallest = 16;  // pixels
-  m_program.start({.program = imageProgram(),
-                   .arguments = {QString::number(smallest)},
-                   .input = file.path,
-                   .secret = {}});
+  m_program.start({.program = imageProgram(), .arguments = {QString::number(smallest)}, .input = file.path});
 }
 
 void DocumentExaminer::goOn() {
@@ -143,8 +140,7 @@ void DocumentExaminer::readInfo() {
   m_examined.back().kind = ExaminedFile::Kind::Pdf;
   m_program.start({.program = QStringLiteral("pdfinfo"),
                    .arguments = pdfInfoArguments(),
-                   .input = m_examined.back().path,
-                   .secret = {}});
+                   .input = m_examined.back().path});
 }
 
 // What the program cannot read, damaged as it may be, the printer perhaps can.

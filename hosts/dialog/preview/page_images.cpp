@@ -110,17 +110,13 @@ void PageImages::draw(const QList<WantedPage>& pages) {
 PageProgram::Work PageImages::workOf(const WantedPage& page) const {
   const ExaminedFile& file = m_files.at(page.number.first);
   if (file.kind != ExaminedFile::Kind::Pdf)
-    return {.program = imageProgram(),
-            .arguments = {QString::number(page.pixels)},
-            .input = file.path,
-            .secret = {}};
+    return {.program = imageProgram(), .arguments = {QString::number(page.pixels)}, .input = file.path};
   const QString number = QString::number(page.number.second + 1);
   return {.program = QStringLiteral("pdftoppm"),
           .arguments = QStringList{QStringLiteral("-singlefile"), QStringLiteral("-f"), number,
                                    QStringLiteral("-l"), number} +
                        partOf(file, page) + QStringList{QStringLiteral("/dev/stdin")},
-          .input = file.path,
-          .secret = {}};
+          .input = file.path};
 }
 
 void PageImages::drawNext() {

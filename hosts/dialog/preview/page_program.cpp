@@ -59,7 +59,7 @@ void PageProgram::start(const Work& work) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
   m_process->setProcessEnvironment(environment);
-  if (!work.input.isNull()) m_process->setStandardInputFile(work.input);
+  m_process->setStandardInputFile(work.input.isNull() ? QProcess::nullDevice() : work.input);
   if (!work.output.isNull()) m_process->setStandardOutputFile(work.output);
   m_process->setChildProcessModifier(
       [parent = ::getpid(), longest = m_limit.intervalAsDuration()] { confine(parent, longest); });
@@ -74,9 +74,6 @@ void PageProgram::start(const Work& work) {
       Qt::QueuedConnection);
   m_limit.start();
   m_process->start(work.program, work.arguments);
-  if (!work.input.isNull()) return;
-  m_process->write(work.secret);
-  m_process->closeWriteChannel();
 }
 
 void PageProgram::finish(End outcome) {

@@ -24,8 +24,7 @@ class PageProgram : public QObject {
   struct Work {
     QString program;
     QStringList arguments;
-    QString input;        ///< The file that is its standard input; null for `secret`.
-    QByteArray secret;    ///< Its standard input in place of a file.
+    QString input = {};   ///< The file that is its standard input; null for none.
     QString output = {};  ///< The file that takes its standard output; null to keep that for `output`.
   };
 

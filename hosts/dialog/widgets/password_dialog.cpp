@@ -23,6 +23,7 @@ PasswordDialog::PasswordDialog(const QString& document, QWidget* parent)
   text->setText(tr("%1 is protected by a password. Enter the password to print the document.")
                     .arg(document.isEmpty() ? tr("The document") : shownText(document)));
   m_field->setEchoMode(QLineEdit::Password);
+  m_field->setMaxLength(longest / 3);  // a character of UTF-16 has at most three bytes in UTF-8
   m_field->setAccessibleName(tr("Password"));
   m_field->setObjectName(QStringLiteral("documentPassword"));
   m_message->setTextFormat(Qt::PlainText);

@@ -14,6 +14,9 @@ class PasswordDialog : public QDialog {
   Q_OBJECT
 
  public:
+  /// What a pipe takes at once. A document's password has at most 127 bytes.
+  static constexpr int longest = 3072;
+
   /// `document` is the document's name.
   PasswordDialog(const QString& document, QWidget* parent);
   ~PasswordDialog() override;
@@ -24,8 +27,8 @@ class PasswordDialog : public QDialog {
   void askAgain(const QString& reason);
 
  Q_SIGNALS:
-  /// In UTF-8; the receiver wipes it.
-  void entered(QByteArray& password);
+  /// In UTF-8, at most `longest` bytes. It is wiped afterwards, so nobody may keep it.
+  void entered(const QByteArray& password);
 
  private:
   void take();
