@@ -1,11 +1,10 @@
 #include "hosts/dialog/dialog_memory.h"
 
+#include "hosts/session/last_printer.h"
 #include "platform/json_user_defaults.h"
 
 namespace kesto {
 namespace {
-
-const QString domainName = QStringLiteral("kesto.dialog");
 
 // Another dialog writes for a moment only, and the looks are worth no longer wait.
 JsonUserDefaults preferences() {
@@ -15,7 +14,8 @@ JsonUserDefaults preferences() {
 }  // namespace
 
 DialogMemory DialogMemory::load() {
-  const QJsonObject values = preferences().persistentDomainForName(domainName).values.value_or(QJsonObject());
+  const QJsonObject values =
+      preferences().persistentDomainForName(dialogDomain).values.value_or(QJsonObject());
   DialogMemory memory{.size = QSize(values.value(u"width").toInt(), values.value(u"height").toInt()),
                       .sideWidth = values.value(u"sideWidth").toInt()};
   const QJsonObject open = values.value(u"open").toObject();
@@ -25,7 +25,7 @@ DialogMemory DialogMemory::load() {
 }
 
 void DialogMemory::save() const {
-  (void)preferences().changePersistentDomain(domainName, [this](QJsonObject* values) {
+  (void)preferences().changePersistentDomain(dialogDomain, [this](QJsonObject* values) {
     values->insert(QStringLiteral("width"), size.width());
     values->insert(QStringLiteral("height"), size.height());
     values->insert(QStringLiteral("sideWidth"), sideWidth);

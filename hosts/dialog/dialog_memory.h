@@ -7,7 +7,7 @@
 
 namespace kesto {
 
-/// Kept in the domain "kesto.dialog" of the user's preferences, so that the next dialog looks as the last one
+/// Kept in `dialogDomain` of the user's preferences, so that the next dialog looks as the last one
 /// was left.
 struct DialogMemory {
   QSize size;                  ///< Of the window; empty when none is remembered.

@@ -68,6 +68,7 @@ void PrintDialog::connectParts() {
   connect(m_foot, &DialogFoot::cancelPressed, this, &PrintDialog::reject);
   connect(m_foot, &DialogFoot::helpPressed, this, [this] { showHelp(*this); });
   connect(m_documentLine, &DocumentLine::choiceAsked, this, &PrintDialog::chooseDocument);
+  connect(m_presets, &PresetMenu::renamed, this, &PrintDialog::giveNames);
   connect(m_presets, &PresetMenu::loaded, this, [this](const QStringList& others) {
     if (m_panelPane != nullptr) m_panelPane->alignChoices();
     updateSummary();

@@ -6,7 +6,6 @@
 namespace kesto {
 namespace {
 
-const QString domain = QStringLiteral("kesto.dialog");
 const QString printerKey = QStringLiteral("printer");
 
 }  // namespace
@@ -14,14 +13,14 @@ const QString printerKey = QStringLiteral("printer");
 QString printerToBeginWith() {
   if (!defaultQueueName().queue.isNull()) return {};
   JsonUserDefaults defaults(JsonUserDefaults::defaultDirectory());
-  const Domain stored = defaults.persistentDomainForName(domain);
+  const Domain stored = defaults.persistentDomainForName(dialogDomain);
   const QString printer = stored.values.value_or(QJsonObject()).value(printerKey).toString();
   return printer.isEmpty() ? QString() : printer;
 }
 
 void keepPrinter(const QString& printer) {
   JsonUserDefaults defaults(JsonUserDefaults::defaultDirectory());
-  (void)defaults.changePersistentDomain(domain, [&](QJsonObject* values) {
+  (void)defaults.changePersistentDomain(dialogDomain, [&](QJsonObject* values) {
     values->insert(printerKey, printer);
     return Outcome::done();
   });

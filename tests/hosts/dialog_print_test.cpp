@@ -349,6 +349,7 @@ TEST_F(DialogPrint, PresetsComeBackAndGo) {
   choose(u"TonerSave"_s, u"True"_s);
   save();
   EXPECT_EQ(button()->accessibleDescription(), u"Held & fast"_s);
+  EXPECT_FALSE(button()->shortcut().isEmpty()) << "keeps a letter";
   click(u"retentionCheckBox"_s);
   await([&] { return button()->accessibleDescription() == u"Held & fast (changed)"_s; }, u"the mark"_s);
   choose(u"Duplex"_s, u"None"_s);

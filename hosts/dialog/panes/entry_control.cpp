@@ -18,8 +18,9 @@ namespace {
 // No keyword of an option.
 const QString entryData = QStringLiteral("\n");
 
+// The British measure paper in millimetres, too.
 bool isMetric() {
-  return QLocale().measurementSystem() == QLocale::MetricSystem;
+  return QLocale().measurementSystem() != QLocale::ImperialUSSystem;
 }
 
 double millimetresPerUnit() {

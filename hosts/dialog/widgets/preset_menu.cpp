@@ -54,9 +54,11 @@ QString PresetMenu::activeText() const {
 }
 
 void PresetMenu::showActive() {
-  const bool isActive = !m_session.activePreset().isNull();
-  setPlainText(*this, isActive ? tr("Presets: %1").arg(activeText()) : tr("Presets"));
-  setAccessibleDescription(isActive ? activeText() : QString());
+  const QString active = m_session.activePreset().isNull() ? QString() : activeText();
+  if (active == accessibleDescription()) return;
+  setAccessibleDescription(active);
+  setPlainText(*this, active.isNull() ? tr("Presets") : tr("Presets: %1").arg(active));
+  Q_EMIT renamed();
 }
 
 void PresetMenu::load(const QString& name) {

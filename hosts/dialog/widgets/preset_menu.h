@@ -26,6 +26,8 @@ class PresetMenu : public QPushButton {
  Q_SIGNALS:
   /// A preset was loaded; what does not fit the printer is named.
   void loaded(const QStringList& others);
+  /// The button has another text, without a mnemonic.
+  void renamed();
 
  private:
   QString activeText() const;
