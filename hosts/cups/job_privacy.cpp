@@ -86,7 +86,7 @@ Outcome lookAtJob(PrintServer& server, const QString& queue, int job, std::span<
   Outcome asked = server.ask(request.get(), &reply, IPP_STATUS_ERROR_FORBIDDEN);
   // A user who may see a job sees at least its number.
   if (asked && ippGetStatusCode(reply.get()) != IPP_STATUS_ERROR_FORBIDDEN && !hasJob(reply.get()))
-    asked = Outcome::failed(Faults::tr("the print server's answer does not have the job"));
+    asked = Outcome::failed(Faults::tr("the print server's answer does not contain the job"));
   if (!asked)
     return Outcome::failed(Faults::tr("cannot find out what other users see: %1").arg(asked.reason()));
   for (const OptionRow& row : options) {

@@ -98,7 +98,7 @@ TEST_F(ControlActionsTest, TheRulesHoldWhateverTheUserDoes) {
   }
 }
 
-TEST(ControlActions, AHeldLoginNameIsKeptOnceAlsoAnEmptyOne) {
+TEST(ControlActions, AHeldLoginNameIsKeptOnceEvenAnEmptyOne) {
   PanelGroups panel;
   setControls(*panel.view, "loginName=jdoe");
   for (const int state : {1, 1, 0, 1}) {

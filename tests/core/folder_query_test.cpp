@@ -48,7 +48,7 @@ struct Query {
   std::optional<TestPanel> panel;
 };
 
-TEST(FolderQuery, WhatTheUserSeesAndWhatTheListHoldsAfterwards) {
+TEST(FolderQuery, WhatTheUserSeesAndWhatTheListContainsAfterwards) {
   const QByteArray failed = envelope("<result-code>no</result-code><files><f><name>X</name></f></files>");
   // The list after an earlier one of "Old".
   using Row = std::tuple<QByteArray, End, Text, FolderFetch>;
@@ -77,7 +77,7 @@ TEST(FolderQuery, WhatTheUserSeesAndWhatTheListHoldsAfterwards) {
   }
 }
 
-TEST(FolderQuery, WithoutANewAnswerTheOlderOneIsRead) {
+TEST(FolderQuery, WithoutANewAnswerTheEarlierOneIsRead) {
   FolderServer server;
   Query query;
   const QString temporary = std::exchange(query.platform.temporary, u"/nonexistent/"_s);

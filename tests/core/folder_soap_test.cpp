@@ -74,7 +74,7 @@ TEST(SoapClient, TriesTheAddressesOfAName) {
   EXPECT_TRUE(server.requests[0].contains("Host: two.test:"));
 }
 
-TEST(SoapClient, ASilentNameServerHoldsNobody) {
+TEST(SoapClient, ASilentNameServerBlocksNothing) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   const auto ask = [] {
     ::alarm(60);  // in place of a process that never ends

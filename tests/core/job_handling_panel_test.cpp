@@ -81,7 +81,7 @@ TEST(Construction, EncodingModelAndFeaturesOfThePpd) {
 }
 
 // Without constraint handling, a PPD or a printer there are fewer facts, and the panel works all the same.
-TEST(Construction, HostsThatLackSomething) {
+TEST(Construction, HostsWithoutSomeFacilities) {
   enum Lack { Nothing, Constraints, Ppd, CurrentPrinter, Address };
   for (const Lack lack : {Nothing, Constraints, Ppd, CurrentPrinter, Address}) {
     SCOPED_TRACE(lack);
@@ -187,7 +187,7 @@ TEST(ShouldPrint, AsksForTheEntryOfTheChoiceInForce) {
   }
 }
 
-TEST(ShouldPrint, RestoresAndSavesWhatNeverWas) {
+TEST(ShouldPrint, RestoresAndSavesWithoutAnEarlierRecord) {
   TestPlatform platform;
   TestPanel panel(platform);
   panel.host.put("jobSuspend=1 userName=41");
@@ -213,7 +213,7 @@ QString linesOf(const QMap<QString, QString>& summary) {
   return lines.join(u'/').replace(u' ', u'_');
 }
 
-TEST(Summary, OfTheChoicesThatTheLayoutHas) {
+TEST(Summary, ListsOnlyTheChoicesOfTheLayout) {
   using Case = std::tuple<int, const char*, Text, Text>;
   for (const auto& [mode, ppdLines, controls, summary] :
        {Case{6, "", "userName=jane", "Auftragsname=report/Benutzername=jane/Zurückhalten=Aus"},
@@ -257,7 +257,7 @@ class Resources : public testing::Test {
   TestPlatform platform;
 };
 
-TEST_F(Resources, AMissingImageOrRequestIsDoneWithout) {
+TEST_F(Resources, AMissingImageOrRequestIsLeftOut) {
   platform.remember({{u"files"_s, QJsonArray{jsonOf({.name = u"Akten"_s, .password = true})}}});
   for (const QString& missing : {u"listfiles2.xml"_s, u"lock.png"_s, u"space.png"_s})
     ASSERT_TRUE(QFile::remove(pathOf(missing)));

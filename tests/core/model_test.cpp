@@ -17,7 +17,7 @@ struct Signals {
   int actions = 0;
 };
 
-TEST(Model, CodeChangesWhatCanBeChosenAndSendsNoAction) {
+TEST(Model, ChangesByCodeSendNoAction) {
   PanelView view;
   TextField text(u"text"_s, &view, 1);
   PopUp popUp(u"popUp"_s, &view);

@@ -88,7 +88,7 @@ TEST(Environment, FoldersOfVariablesAreAbsoluteOrIgnored) {
   }
 }
 
-TEST(ShownText, NothingOfItIsObeyed) {
+TEST(ShownText, ControlCharactersHaveNoEffect) {
   for (const auto& [text, shown] : Cases{{"Größe 印 \U0001F5A8", "Größe 印 \U0001F5A8"},
                                          {"a\nb\r\tc", R"(a\nb\r\tc)"},
                                          {"\x1b[2J\x01\x7f\u009b", R"(\x1b[2J\x01\x7f\x9b)"},

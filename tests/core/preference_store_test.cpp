@@ -131,7 +131,7 @@ TEST_F(PreferenceStoreTest, EveryEntryIsStoredAndTheMaskTellsWhichReturn) {
   }
 }
 
-TEST_F(PreferenceStoreTest, AHeldLoginNameIsStoredFromBehindItsBullets) {
+TEST_F(PreferenceStoreTest, AHeldLoginNameIsStoredAlthoughBulletsAreShown) {
   setControls(*panel.view, "loginName=•• loginNameButton=1");
   panel.state.loginNameStringRef = u"jdoe"_s;
   EXPECT_TRUE(store.SaveUserPreference());

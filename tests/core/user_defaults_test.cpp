@@ -150,7 +150,7 @@ TEST_F(JsonUserDefaultsTest, WhatAKilledWriterLeftGoesWithTheNextWrite) {
   EXPECT_EQ(files(), expected << domain + u".json"_s);
 }
 
-TEST_F(JsonUserDefaultsTest, WhatStandsInTheWayStays) {
+TEST_F(JsonUserDefaultsTest, OtherFilesInThePlaceOfARecordStay) {
   ASSERT_TRUE(QDir().mkpath(file));
   const ExpectedWarning warning("not kept");
   EXPECT_FALSE(defaults.persistentDomainForName(domain).available);

@@ -141,7 +141,7 @@ TEST_F(DemoPrinterTest, CountsNoJobAsPrintedThatItHasRefused) {
   awaitState(printer, 2, u"completed"_s);
 }
 
-TEST_F(DemoPrinterTest, LeavesNothingBehindAndStartsWhereAnotherWasKilled) {
+TEST_F(DemoPrinterTest, LeavesNothingBehindAndStartsAfterAKilledOne) {
   RunningPrinter first(m_folder);
   const QFile::Permissions mode = QFile::permissions(m_folder.path(u"run"_s));
   DemoProcess second(m_folder, u"kesto-demo-printer --dir %1/run"_s);
@@ -258,7 +258,7 @@ class DemoFoldersTest : public LpTest {};
 
 // What kesto-lp does with each answer. "never" and "trickle" are left out, because it waits 20 seconds for
 // them.
-TEST_F(DemoFoldersTest, MisbehaveAsTheyAreTold) {
+TEST_F(DemoFoldersTest, MisbehaveAsConfigured) {
   m_folder.write(u"list"_s, "# The printer's folders\n\nInvoices\nPlans & <Papers>\tlocked\n");
   const Text list = "Invoices\nPlans & <Papers>\tlocked\n";
   const Text failed = "Could not retrieve Folder Names.\n";
@@ -279,7 +279,7 @@ TEST_F(DemoFoldersTest, MisbehaveAsTheyAreTold) {
   }
 }
 
-TEST(DemoFolders, AreGivenToTheirOwnRequestAlone) {
+TEST(DemoFolders, AreGivenOnlyToTheRequestForThem) {
   const ScratchFolder folder;
   DemoProcess service(folder, u"kesto-demo-printer --folders-only --folder-port 0"_s);
   const QString address = QString::fromLatin1(service.readOutLine().trimmed());

@@ -80,7 +80,7 @@ TEST_F(DialogDocument, WhatCanBeReadIsOfferedAndTheRestNamed) {
   EXPECT_EQ(m_document.name(), QString());
 }
 
-TEST_F(DialogDocument, WhatHasNoEndIsReadInBounds) {
+TEST_F(DialogDocument, AnEndlessDocumentIsReadWithinLimits) {
   m_document.openFiles({"/dev/zero"});
   awaitState(State::Paused);
   m_document.readOn();
@@ -137,7 +137,7 @@ TEST_F(DialogDocument, AFileTakesThePlaceOfADocumentThatIsStillRead) {
   }
 }
 
-TEST_F(DialogDocument, APdfFileIsSavedWholeOrNotAtAll) {
+TEST_F(DialogDocument, APdfFileIsSavedCompletelyOrNotAtAll) {
   PdfSaving saving;
   std::optional<QString> end;
   QObject::connect(&saving, &PdfSaving::saved, [&] { end = u"saved"_s; });
@@ -368,7 +368,7 @@ TEST_F(DialogPreview, AnImageLiesOnItsPaper) {
   }
 }
 
-TEST_F(DialogPreview, WhatCannotBePrintedIsSaidInItsPlace) {
+TEST_F(DialogPreview, WhatCannotBePrintedIsReportedInThePreview) {
   const QByteArray folder(KESTO_TEST_DATA "/");
   const JobFile plain{QFile::encodeName(m_folder.path(u"report.pdf"_s)), u"report.pdf"_s};
   const JobFile locked{folder + "protected.pdf", u"locked.pdf"_s};
@@ -420,7 +420,7 @@ bool isAlive(const QByteArray& process) {
   return file.open(QIODevice::ReadOnly) && !file.readAll().contains(") Z ");
 }
 
-TEST_F(DialogPreview, AProgramEndsWithTheDialogHoweverThatEnds) {
+TEST_F(DialogPreview, AProgramEndsWithTheDialogHoweverTheDialogEnds) {
   m_folder.writeProgram(u"pdftoppm"_s,
                         "echo $$ >" + QFile::encodeName(m_folder.path(u"process"_s)) + "\nexec sleep 600\n");
   const QByteArray path = qgetenv("PATH");

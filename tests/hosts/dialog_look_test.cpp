@@ -214,7 +214,7 @@ class DialogLook : public testing::Test {
   std::optional<PrintDialog> m_dialog;
 };
 
-TEST_F(DialogLook, IsWholeInLightAndDark) {
+TEST_F(DialogLook, EveryTextFitsInLightAndDark) {
   if (QLocale().language() != QLocale::English) {
     EXPECT_NE(m_dialog->windowTitle(), u"Print"_s) << "not translated";
     EXPECT_FALSE(m_dialog->findChild<QLabel*>(u"printerState"_s)->text().contains(u"print server"));

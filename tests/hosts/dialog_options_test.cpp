@@ -14,7 +14,7 @@ QString noteOf(const PrintDialog& dialog) {
   return dialog.findChild<QLabel*>(u"generalNote"_s)->text();
 }
 
-TEST_F(DialogPrint, WhatIsShownIsWhatTravels) {
+TEST_F(DialogPrint, WhatIsShownIsWhatIsSent) {
   m_folder.write(u"lpoptions"_s, "Default Office_MFP copies=4 page-ranges=3 sides=two-sided-short-edge\n");
   qputenv("HOME", m_folder.path(u""_s).toUtf8());
   QDir().mkdir(m_folder.path(u".cups"_s));
@@ -60,7 +60,7 @@ void setControl(PrintDialog& dialog, const QString& pane, const QString& control
   EXPECT_TRUE(done) << done.reason();
 }
 
-TEST_F(DialogPrint, EachOptionArrivesAsItsControlHasIt) {
+TEST_F(DialogPrint, EachOptionArrivesAsItsControlShowsIt) {
   qputenv("TZ", "Asia/Kolkata");
   ::tzset();
   startPrinter();
@@ -121,7 +121,7 @@ TEST_F(DialogPrint, EachOptionArrivesAsItsControlHasIt) {
       << "of a booklet";
 }
 
-TEST_F(DialogPrint, AnEntryThatIsNoneIsMarkedWithWhatWouldDo) {
+TEST_F(DialogPrint, AnInvalidEntryIsMarkedWithAnExample) {
   startPrinter();
   changePpd(u"Office_MFP"_s, fewChoices, moreChoices);
   openReady();
@@ -146,7 +146,7 @@ TEST_F(DialogPrint, AnEntryThatIsNoneIsMarkedWithWhatWouldDo) {
   }
 }
 
-TEST_F(DialogPrint, PagesThatTheDocumentHasNotAreNotPrinted) {
+TEST_F(DialogPrint, PagesBeyondTheDocumentAreNotPrinted) {
   m_options.jobOptions = {{u"page-ranges"_s, u"99"_s}};
   startPrinter();
   openReady({QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")});

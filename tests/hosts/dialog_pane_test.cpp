@@ -166,7 +166,7 @@ TEST_F(DialogPane, AHoldButtonLocksItsField) {
   EXPECT_EQ(line->text(), u"report.pdf"_s);
 }
 
-TEST_F(DialogPane, SecretsHideThemselves) {
+TEST_F(DialogPane, SecretsAreHiddenWhenTheFieldIsLeft) {
   auto* login = m_window.widget<QLineEdit>(u"loginNameEditText"_s);
   auto* password = m_window.widget<QLineEdit>(u"passwordEditText"_s);
   auto* code = m_window.widget<QLineEdit>(u"suspendKeyEditText"_s);
@@ -296,7 +296,7 @@ TEST_F(DialogPane, OutlivesItsPanel) {
   EXPECT_TRUE(m_window.isVisible());
 }
 
-TEST(Mnemonics, FollowTheTextsWhateverIsShown) {
+TEST(Mnemonics, BelongToTheTextsWhateverIsShown) {
   rememberEnglish(u"印刷"_s, u"Print"_s);
   const QStringList all{u"Paper size"_s, u"Copies"_s, u"Staple"_s, u"印刷:"_s,
                         u"Ss"_s,         u"用&户"_s,  u"A & B"_s,  u"P"_s};

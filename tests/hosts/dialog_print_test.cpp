@@ -198,7 +198,7 @@ TEST_F(DialogPrint, ADocumentIsChosenInTheDialog) {
   EXPECT_TRUE(widget(u"print"_s)->isEnabled());
 }
 
-TEST_F(DialogPrint, WhatIsMissingOfTheDocumentsIsNamedAndTheRestPrinted) {
+TEST_F(DialogPrint, AMissingDocumentIsNamedAndTheOthersArePrinted) {
   startPrinter();
   m_folder.write(u"second"_s, "another");
   openReady({m_folder.path(u"report.pdf"_s), m_folder.path(u"none.pdf"_s), m_folder.path(u"second"_s)});
@@ -236,7 +236,7 @@ TEST_F(DialogPrint, PrintReadsTheRestOfALongPipe) {
   EXPECT_EQ(printout(1), pdfDocument());
 }
 
-TEST_F(DialogPrint, TheEndOfAFolderFetchIsSaid) {
+TEST_F(DialogPrint, TheEndOfAFolderFetchIsReported) {
   openReady();
   auto* address = widget<QLineEdit>(u"printersAddressEditText"_s);
   for (const auto& [given, reason] : Cases{{"", "Enter the printer's address"},
@@ -272,7 +272,7 @@ TEST_F(DialogPrint, CancelEndsAFolderFetch) {
   EXPECT_FALSE(m_dialog->isVisible());
 }
 
-TEST_F(DialogPrint, TabGoesRoundTheDialogAsItIsRead) {
+TEST_F(DialogPrint, TabGoesRoundTheDialogInReadingOrder) {
   openReady({QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")});
   const auto* forward = widgetNamed<QToolButton>(*m_dialog, u"Next page"_s);
   await([&] { return forward->isEnabled(); }, u"the number of pages"_s);
@@ -302,7 +302,7 @@ TEST_F(DialogPrint, TabGoesRoundTheDialogAsItIsRead) {
   EXPECT_EQ(walk(Qt::ShiftModifier), back << all.last());
 }
 
-TEST_F(DialogPrint, HelpStandsBesideTheDialog) {
+TEST_F(DialogPrint, HelpOpensBesideTheDialog) {
   open();
   await([this] { return m_dialog->isActiveWindow(); }, u"the window"_s);
   QTest::keyClick(&*m_dialog, Qt::Key_F1);
@@ -313,7 +313,7 @@ TEST_F(DialogPrint, HelpStandsBesideTheDialog) {
   EXPECT_TRUE(m_dialog->isVisible() && !help->isVisible()) << "Escape closes the help alone";
 }
 
-TEST_F(DialogPrint, PresetsComeBackAndGo) {
+TEST_F(DialogPrint, PresetsAreRestoredAndDeleted) {
   startPrinter({u"--queues"_s, u"2"_s});
   changePpd(u"Office_MFP_0002"_s, fewChoices, moreChoices);
   m_options.queue = u"Office_MFP_0002"_s;

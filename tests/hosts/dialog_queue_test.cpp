@@ -10,7 +10,7 @@
 namespace kesto::test {
 namespace {
 
-TEST_F(DialogPrint, ASilentServerIsToldAndAskedAgain) {
+TEST_F(DialogPrint, ASilentServerIsReportedAndAskedAgain) {
   QTcpServer silent;
   ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
   m_options.server.address = u"127.0.0.1:%1"_s.arg(silent.serverPort());
@@ -29,7 +29,7 @@ TEST_F(DialogPrint, ASilentServerIsToldAndAskedAgain) {
 }
 
 // With a limit of an hour: only what is interrupted ends.
-TEST_F(DialogPrint, TheDialogGoesWhateverItsServerIsWaitedForWith) {
+TEST_F(DialogPrint, TheDialogClosesWhileItWaitsForItsServer) {
   const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
   const std::pair<int, Misbehaviour> cases[] = {
       {HostileServer::atConnect, {}},
@@ -137,7 +137,7 @@ TEST_F(DialogPrint, WhyAQueueTakesNoJobsOrPrintsNoneIsShown) {
   }
 }
 
-TEST_F(DialogPrint, AQueueWithoutThePanelPrintsByItsOwnOptions) {
+TEST_F(DialogPrint, AQueueWithoutThePanelPrintsWithItsOwnOptions) {
   startPrinter({u"--queues"_s, u"2"_s});
   changePpd(u"Office_MFP_0002"_s, "*APDialogExtension", "*% none");
   openReady();
@@ -152,7 +152,7 @@ TEST_F(DialogPrint, AQueueWithoutThePanelPrintsByItsOwnOptions) {
   EXPECT_TRUE(m_dialog->jobSettings().isEmpty()) << "of the panel of the queue before";
 }
 
-TEST_F(DialogPrint, TheFirstQueueThatTakesJobsStandsInForOneThatIsMissing) {
+TEST_F(DialogPrint, TheFirstQueueThatTakesJobsReplacesAMissingOne) {
   changeScheduler(m_folder, "s/DefaultPrinter/Printer/; 0,/Accepting Yes/s//Accepting No/");
   startPrinter({u"--queues"_s, u"2"_s});
   for (const QString& asked : {QString(), u"Gone"_s}) {
@@ -167,7 +167,7 @@ TEST_F(DialogPrint, TheFirstQueueThatTakesJobsStandsInForOneThatIsMissing) {
   DemoProcess(m_folder, u"kesto-print --timings -h "_s + m_options.server.address).output();
 }
 
-TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) {
+TEST_F(DialogPrint, ChangesOfQueuesAreFollowedEvenWhenTheSubscriptionIsLost) {
   openReady();
   const auto change = [this](const QString& how) { m_printer->ofPrintSystem(u"/usr/sbin/lpadmin "_s + how); };
   const auto ask = [this](ipp_op_t operation, int subscription) {
@@ -196,7 +196,7 @@ TEST_F(DialogPrint, WhatHappensToQueuesIsFollowedEvenWhenTheSchedulerForgetsIt) 
   EXPECT_EQ(text(u"printerState"_s), u""_s);
 }
 
-TEST_F(DialogPrint, ASectionFoldsAndIsFoundAsItWasLeft) {
+TEST_F(DialogPrint, ASectionFoldsAndStaysAsItWasLeft) {
   openReady();
   const auto header = [this] { return widget<QAbstractButton>(u"job-handlingHeader"_s); };
   const auto accessible = [&] { return QAccessible::queryAccessibleInterface(header()); };
@@ -228,7 +228,7 @@ TEST_F(DialogPrint, ASectionFoldsAndIsFoundAsItWasLeft) {
   EXPECT_EQ(m_dialog->size(), size - QSize(10, 10));
 }
 
-TEST_F(DialogPrint, TextsOfOthersStayOnTheirLine) {
+TEST_F(DialogPrint, TextsFromOutsideStayOnTheirLine) {
   startPrinter();
   changePpd(u"Office_MFP"_s, "*PageSize A5/A5:", "*PageSize A5/A\x9b 5:");
   openReady();
@@ -245,7 +245,7 @@ TEST_F(DialogPrint, TextsOfOthersStayOnTheirLine) {
   EXPECT_EQ(label.text(), u"Folder\\r\\x85 & more"_s);
 }
 
-TEST_F(DialogPrint, TheSummaryTellsWhatOthersSee) {
+TEST_F(DialogPrint, TheSummarySaysWhatOthersSee) {
   for (const auto& [edits, part] :
        Cases{{"", "none of its details."},
              {"/JobPrivate/d", "add these lines to the print server's policy \"demo\":\n\nJob"}}) {

@@ -52,7 +52,7 @@ class OptionsOfAJob : public testing::Test {
   ScratchFolder m_folder;
 };
 
-TEST_F(OptionsOfAJob, EachIsOneChoiceAndTravelsOnceByItsNameOnTheQueue) {
+TEST_F(OptionsOfAJob, EachIsSentOnceUnderItsNameOnTheQueue) {
   const Case cases[] = {
       {"fixed", "", "media=A5", {}, "PageSize=A5"},
       {"fixed", "", "media=iso_a5_148x210mm", {}, "PageSize=A5"},
@@ -130,7 +130,7 @@ TEST_F(OptionsOfAJob, EachIsOneChoiceAndTravelsOnceByItsNameOnTheQueue) {
   }
 }
 
-TEST_F(OptionsOfAJob, ValuesHaveOurTextsWhereThePrinterHasNoBetterOnes) {
+TEST_F(OptionsOfAJob, StandardValuesHaveOurTexts) {
   const std::tuple<QString, QString, QString> cases[] = {
       {u"PageSize"_s, u"A4"_s, u"A4"_s},
       {u"InputSlot"_s, u"Tray2"_s, u"Tray 2"_s},
@@ -154,7 +154,7 @@ TEST_F(OptionsOfAJob, ValuesHaveOurTextsWhereThePrinterHasNoBetterOnes) {
     EXPECT_EQ(options.textOf(option, value), text);
 }
 
-TEST_F(OptionsOfAJob, WhatIsOfTheQueueGoesWithIt) {
+TEST_F(OptionsOfAJob, ValuesOfAQueueStayWithTheQueue) {
   JobOptions options;
   QStringList said;
   QObject::connect(&options, &JobOptions::choiceChanged,
@@ -188,7 +188,7 @@ TEST_F(OptionsOfAJob, WhatIsOfTheQueueGoesWithIt) {
   EXPECT_EQ(options.travelling(), parseJobOptions(u"Duplex=DuplexTumble PageSize=A5 number-up=2 x=y"_s));
 }
 
-TEST_F(OptionsOfAJob, EachGroupOffersWhatTheQueueHasAndSaysWhatIsChosen) {
+TEST_F(OptionsOfAJob, EachGroupOffersTheQueuesOptionsAndSumsUpTheChoices) {
   const struct {
     OptionGroup group;
     const char* offers;
@@ -225,7 +225,7 @@ TEST_F(OptionsOfAJob, EachGroupOffersWhatTheQueueHasAndSaysWhatIsChosen) {
   }
 }
 
-TEST_F(OptionsOfAJob, AConflictIsSaidAndResolvedForTheLastChoice) {
+TEST_F(OptionsOfAJob, AConflictIsReportedAndResolvedInFavorOfTheLastChoice) {
   const struct {
     QStringList chosen;
     const char* text = nullptr;

@@ -113,7 +113,7 @@ TEST_F(LpEntries, AFolderOfThePrinterIsFoundByItsName) {
   }
 }
 
-TEST_F(LpEntries, AFolderThatIsNotUsedIsNotShownAsIfItWere) {
+TEST_F(LpEntries, AnUnusedFolderIsNotShown) {
   const QString arguments = u"--hold after --folder X --job-name offer --summary"_s;
   const LpRun lines = dryRun(arguments);
   EXPECT_EQ(lines.err, unfiled);
@@ -139,7 +139,7 @@ class LpMemory : public LpTest {
   }
 };
 
-TEST_F(LpMemory, RememberedOnceOfferedUntilForgotten) {
+TEST_F(LpMemory, EntriesAreRememberedUntilTheyAreForgotten) {
   for (const auto& [field, base, key] : {std::tuple(Text("pin"), Text("--hold only"), Text("jobSuspend2Key")),
                                          {"folder-pin", "--hold only --folder X", "folderPassword2"},
                                          {"user-number", "", "userNumber"},
@@ -165,7 +165,7 @@ TEST_F(LpMemory, RememberedOnceOfferedUntilForgotten) {
   }
 }
 
-TEST_F(LpMemory, ADryRunKeepsWhatItIsAskedForAndNothingElse) {
+TEST_F(LpMemory, ADryRunKeepsOnlyWhatItIsAskedToKeep) {
   dryRun(u"--hold only --pin 1234 letter"_s);
   EXPECT_FALSE(QFile::exists(m_folder.path(u"kesto"_s)));
   const QJsonObject another =
@@ -229,7 +229,7 @@ TEST_F(LpMemory, PresetsAreListedReplacedAndDeleted) {
   EXPECT_EQ(listed(), u"b\n"_s);
 }
 
-TEST_F(LpMemory, SavesOfManyProcessesAllCount) {
+TEST_F(LpMemory, TheSavesOfManyProcessesAreAllKept) {
   std::vector<std::unique_ptr<QProcess>> programs;
   const QString names = u"abcdefghij"_s;
   for (const QChar name : names) {
@@ -244,7 +244,7 @@ TEST_F(LpMemory, SavesOfManyProcessesAllCount) {
   EXPECT_EQ(record()[u"hold button"_s], 16);
 }
 
-TEST_F(LpMemory, APresetThatDoesNotFitIsLeftAsItIs) {
+TEST_F(LpMemory, APresetThatDoesNotFitIsLeftUnchanged) {
   const QJsonObject values = json(R"({"note":1, "Presets":{
       "strange":{"model":"KESTO VQ-250n", "settings":{"jobSuspend":"1"}},
       "number":{"model":"KESTO VQ-250n", "settings":{"kesto.print.PrintSettings.jobSuspend":1}},

@@ -134,7 +134,7 @@ TEST(PortalSettings, MeaninglessValuesBecomeTheDefault) {
   }
 }
 
-TEST(PortalSettings, WhatThePrintSystemDoesIsNeutralForTheClient) {
+TEST(PortalSettings, ThePrintSystemsOptionsAreNeutralForTheClient) {
   const QJsonObject settings = texts(
       u"n-copies=3 reverse=true number-up=2 number-up-layout=rltb scale=70 page-set=even collate=false "
       "output-file-format=ps quality=high output-uri=file:///etc/x print-pages=ranges page-ranges=4"_s);
@@ -166,7 +166,7 @@ TEST(PortalSettings, TheClientDrawsTheChosenPages) {
   }
 }
 
-TEST(PortalSettings, NoEntryOfTheUsersGoesOut) {
+TEST(PortalSettings, NoEntryOfTheUserIsSentToTheClient) {
   QJsonObject settings{{u"print-at"_s, u"now"_s}, {u"my-option"_s, u"kesto."_s}};
   const QJsonObject open = settings;
   for (const QString& name :
@@ -180,7 +180,7 @@ TEST(PortalSettings, NoEntryOfTheUsersGoesOut) {
   EXPECT_EQ(settingsToReturn(settings, {}), settingsToReturn(open, {}));
 }
 
-TEST(PortalSettings, ThePaperOfTheChoiceReplacesTheClients) {
+TEST(PortalSettings, TheChosenPaperReplacesTheClients) {
   PortalChoice choice;
   EXPECT_EQ(pageSetupToReturn(a4, choice), a4) << "the client's own paper stays";
   choice.paper = {u"A5"_s, u"iso_a5"_s, {}, 148, 210, 4, 5, 6, 7};

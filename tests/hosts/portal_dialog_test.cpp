@@ -102,7 +102,7 @@ TEST_F(PortalDialog, EndsWithItsServiceAndItsUser) {
   }
 }
 
-TEST_F(PortalDialog, PrintsWhatIsThereWholeAndNothingElse) {
+TEST_F(PortalDialog, PrintsOnlyACompleteDocument) {
   startPrinter();
   const QJsonObject settings = json(R"({"n-copies":"3", "number-up":"2", "number-up-layout":"rltb",
       "page-set":"even", "reverse":"true", "scale":"70", "collate":"false", "duplex":"vertical",

@@ -149,7 +149,7 @@ class PortalServiceTest : public testing::Test {
   uint m_token = 0;
 };
 
-TEST_F(PortalServiceTest, AsksAndHandsTheDocumentOn) {
+TEST_F(PortalServiceTest, AsksAndPassesTheDocumentOn) {
   qputenv("GTK_USE_PORTAL", "1");
   qputenv("QT_QPA_PLATFORMTHEME", "xdgdesktopportal:gtk3");
   const QString secret = u"kesto.print.PrintSettings.userNumber"_s;
@@ -181,7 +181,7 @@ TEST_F(PortalServiceTest, AsksAndHandsTheDocumentOn) {
   expectAnotherDialog(token);
 }
 
-TEST_F(PortalServiceTest, AnInvalidTokenOpensAnotherDialogAndUsesNoOtherUp) {
+TEST_F(PortalServiceTest, AnInvalidTokenOpensADialogAndKeepsTheValidOnes) {
   Dialog chosen = chosenDialog();
   for (const QVariant& token : {QVariant(), QVariant(0U), QVariant(m_token ^ 1U), QVariant(u"text"_s)})
     expectAnotherDialog(token);
@@ -202,7 +202,7 @@ TEST_F(PortalServiceTest, AnInvalidTokenOpensAnotherDialogAndUsesNoOtherUp) {
   expectAnotherDialog(m_token);
 }
 
-TEST_F(PortalServiceTest, ARequestIsAnsweredOnceAndByWhatWasAsked) {
+TEST_F(PortalServiceTest, ARequestIsAnsweredOnce) {
   const ExpectedWarning twice("this handle is already in use");
   const ExpectedWarning unasked("sent an unexpected answer");
   const QString path = handle();
@@ -232,7 +232,7 @@ TEST_F(PortalServiceTest, WhateverEndsAPrintEndsItsRequestAndItsDialog) {
   expectAnswer(failed, 2);
 }
 
-TEST_F(PortalServiceTest, TheEndOfADocumentIsWholeWhileItsClientLives) {
+TEST_F(PortalServiceTest, ADocumentIsCompleteOnlyWhileItsClientLives) {
   for (const bool lives : {true, false}) {
     Dialog dialog = chosenDialog();
     const QDBusPendingCall printing(print(handle(), m_token));

@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
+TEST_F(PrintTest, ARefusedJobNeverReachesTheScheduler) {
   addQueue(u"Print_System"_s, "*ARKestoPrintSystem: \"False\"", "*ARKestoPrintSystem: \"True\"");
   addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
   addQueue(u"Raw"_s, {}, {});
@@ -46,7 +46,7 @@ TEST_F(PrintTest, WhatIsRefusedNeverReachesTheScheduler) {
   expectRefused(u"DOCUMENT"_s, 1, u"no default printer is set; choose one with -d"_s);
 }
 
-TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
+TEST_F(PrintTest, EntriesAreKeptOnceTheJobIsSent) {
   const QString job = u"--hold only --pin 1234 --remember pin --save-preset p DOCUMENT -"_s;
   const auto kept = [this] {
     return lp(u"--dry-run --hold only"_s).values(u"holdButton jobSuspend2Key"_s) + u' ' +
@@ -83,7 +83,7 @@ TEST_F(PrintTest, EntriesAreKeptWhenTheJobIsOut) {
   EXPECT_EQ(kept(), u"holdButton=1 jobSuspend2Key=3F3FA6A226B041DE0CA8F37F0E03543E p"_s);
 }
 
-TEST_F(PrintTest, ReportsWhatCannotBeKeptOfAJob) {
+TEST_F(PrintTest, ReportsEntriesThatCannotBeKept) {
   ASSERT_TRUE(store(preferences(), {{u"Presets"_s, u"x"_s}}, u"kesto.presets.Office_MFP"_s));
   expectRefused(u"DOCUMENT --save-preset p"_s, 1,
                 u"this printer's presets are damaged and were left unchanged"_s);
@@ -109,7 +109,9 @@ TEST_F(PrintTest, ASignalCancelsAJobThatIsNotWhole) {
     unfinished->setChildProcessModifier([=] { ::signal(signal, isIgnored ? SIG_IGN : SIG_DFL); });
     unfinished->start();
     waitUntilListed(++job);
-    ::kill(static_cast<pid_t>(unfinished->processId()), signal);
+    const auto program = static_cast<pid_t>(unfinished->processId());
+    ASSERT_GT(program, 0);
+    ::kill(program, signal);
     unfinished->write("the end");
     if (isIgnored) unfinished->closeWriteChannel();
     ASSERT_TRUE(unfinished->waitForFinished());
@@ -327,7 +329,7 @@ class HostilePrintServer : public testing::Test {
   std::list<std::future<QString>> m_reasons;
 };
 
-TEST_F(HostilePrintServer, NothingThatItDoesLastsOrFillsMemory) {
+TEST_F(HostilePrintServer, NeitherBlocksAProgramNorFillsItsMemory) {
   const std::pair<int, QString> operations[] = {
       {IPP_OP_CUPS_GET_PRINTERS, {}},
       {IPP_OP_GET_PRINTER_ATTRIBUTES, {}},
@@ -345,7 +347,7 @@ TEST_F(HostilePrintServer, NothingThatItDoesLastsOrFillsMemory) {
   }
 }
 
-TEST_F(HostilePrintServer, AHandshakeEndsToo) {
+TEST_F(HostilePrintServer, AHandshakeHasATimeLimitToo) {
   const QByteArray leave =
       "HTTP/1.1 101 Switching Protocols\r\nConnection: Upgrade\r\nUpgrade: TLS/1.2\r\n\r\n";
   const QByteArray record = "\x16\3\3\x40\0"_ba;  // of sixteen kilobytes
@@ -358,7 +360,7 @@ TEST_F(HostilePrintServer, AHandshakeEndsToo) {
 }
 
 // Well-formed answers that lack what was asked for.
-TEST_F(LpTest, AnAnswerWithoutWhatWasAskedIsAFault) {
+TEST_F(LpTest, AnIncompleteAnswerIsAFault) {
   const auto reply = [](const QByteArray& status, const QByteArray& attributes) {
     const QByteArray ipp = "\2\0"_ba + status + "\0\0\0\1"_ba + attributes + '\3';
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(ipp.size()) + "\r\n\r\n" + ipp;
@@ -372,7 +374,7 @@ TEST_F(LpTest, AnAnswerWithoutWhatWasAskedIsAFault) {
        {Case{IPP_OP_GET_JOB_ATTRIBUTES, reply("\5\7", {}), "--check q",
              "cannot find out what other users see: server-error-busy"},
         Case{IPP_OP_GET_JOB_ATTRIBUTES, reply(ok, {}), "--check q",
-             "cannot find out what other users see: the print server's answer does not have the job"},
+             "cannot find out what other users see: the print server's answer does not contain the job"},
         Case{IPP_OP_SEND_DOCUMENT, reply(ok, aborted), "-d q FILE",
              "could not print test.ppd: the print server stopped the job: aborted-by-system"},
         Case{IPP_OP_SEND_DOCUMENT, reply("\4\12", {}), "-d q FILE",

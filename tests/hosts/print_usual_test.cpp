@@ -117,7 +117,7 @@ FILE; -- FILE FILE; -; no-such-file; FILE no-such-file
 -i 99999 -n 2
 )";
 
-TEST_F(BesideTheUsualCommand, TheSameLinesComeToTheSame) {
+TEST_F(BesideTheUsualCommand, TheSameCommandLinesGiveTheSameJobs) {
   static const QRegularExpression between(u"; |\n"_s);
   const QStringList lines = QString::fromLatin1(sameLines).trimmed().split(between);
   std::vector<std::pair<Result, Result>> results;
@@ -136,7 +136,7 @@ TEST_F(BesideTheUsualCommand, TheSameLinesComeToTheSame) {
 }
 
 // What the usual command takes in another way, or does not refuse.
-TEST_F(BesideTheUsualCommand, OtherLinesComeToWhatTheyAsk) {
+TEST_F(BesideTheUsualCommand, OtherCommandLinesDoWhatTheyAsk) {
   for (const auto& [line, own] : Cases{{"-P \"5, -3\" FILE", "page-ranges=1-3,5-5"},
                                        {"-i JOB -t new", "job-name=new"},
                                        {"-i QJOB -H night -n 2", "job-hold-until=night"},

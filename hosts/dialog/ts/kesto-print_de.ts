@@ -1202,7 +1202,7 @@
     </message>
     <message>
         <source>the job was stopped</source>
-        <translation>der Auftrag wurde abgebrochen</translation>
+        <translation>der Auftrag wurde angehalten</translation>
     </message>
     <message>
         <source>the print server&apos;s answer is incomplete</source>
@@ -1301,7 +1301,7 @@
         <translation>die Optionen des Auftrags</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer does not have the job</source>
+        <source>the print server&apos;s answer does not contain the job</source>
         <translation>die Antwort des Druckservers enthält keinen Auftrag</translation>
     </message>
     <message>

@@ -246,11 +246,11 @@
     </message>
     <message>
         <source>Punch</source>
-        <translation>Perforar</translation>
+        <translation>Perforado</translation>
     </message>
     <message>
         <source>Fold</source>
-        <translation>Plegar</translation>
+        <translation>Plegado</translation>
     </message>
     <message>
         <source>Orientation</source>
@@ -846,7 +846,7 @@
     </message>
     <message>
         <source>Punch</source>
-        <translation>Perforar</translation>
+        <translation>Perforado</translation>
     </message>
     <message>
         <source>Punch two holes</source>
@@ -886,7 +886,7 @@
     </message>
     <message>
         <source>Fold</source>
-        <translation>Plegar</translation>
+        <translation>Plegado</translation>
     </message>
     <message>
         <source>Fold in half</source>
@@ -1301,7 +1301,7 @@
         <translation>las opciones del trabajo</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer does not have the job</source>
+        <source>the print server&apos;s answer does not contain the job</source>
         <translation>la respuesta del servidor de impresión no contiene ningún trabajo</translation>
     </message>
     <message>

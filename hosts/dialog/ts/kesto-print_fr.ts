@@ -1301,7 +1301,7 @@
         <translation>les options du travail</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer does not have the job</source>
+        <source>the print server&apos;s answer does not contain the job</source>
         <translation>la réponse du serveur d’impression ne contient aucun travail</translation>
     </message>
     <message>

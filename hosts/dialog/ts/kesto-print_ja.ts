@@ -63,7 +63,7 @@
     </message>
     <message>
         <source>Choose Selected pages and enter page numbers or ranges, for example 1-3, 5. A range may be open: 5- prints page 5 and all pages after it.</source>
-        <translation>「選択したページ」を選び、ページ番号または範囲を入力します (例: 1-3, 5)。範囲の終わりは省略できます。5- と入力すると、5 ページ以降がすべて印刷されます。</translation>
+        <translation>「指定したページ」を選び、ページ番号または範囲を入力します (例: 1-3, 5)。範囲の終わりは省略できます。5- と入力すると、5 ページ以降がすべて印刷されます。</translation>
     </message>
     <message>
         <source>Print on both sides</source>
@@ -1300,7 +1300,7 @@
         <translation>ジョブのオプション</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer does not have the job</source>
+        <source>the print server&apos;s answer does not contain the job</source>
         <translation>プリントサーバーの応答にジョブが含まれていません</translation>
     </message>
     <message>

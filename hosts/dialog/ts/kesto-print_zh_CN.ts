@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>This entry is locked and remembered for this printer. Open the padlock to change it.</source>
-        <translation>此内容已锁定，并为此打印机记住。要更改，请打开挂锁。</translation>
+        <translation>此内容已锁定，系统会为此打印机记住它。要更改，请打开挂锁。</translation>
     </message>
     <message>
         <source>Only a custom folder needs a name. Choose Custom folder first.</source>
@@ -63,7 +63,7 @@
     </message>
     <message>
         <source>Choose Selected pages and enter page numbers or ranges, for example 1-3, 5. A range may be open: 5- prints page 5 and all pages after it.</source>
-        <translation>选择“所选页面”，然后输入页码或页码范围，例如 1-3, 5。范围可以不写结尾：5- 会打印第 5 页及其后的所有页面。</translation>
+        <translation>选择“选定页面”，然后输入页码或页码范围，例如 1-3, 5。范围可以不写结尾：5- 会打印第 5 页及其后的所有页面。</translation>
     </message>
     <message>
         <source>Print on both sides</source>
@@ -87,7 +87,7 @@
     </message>
     <message>
         <source>Close the padlock next to an entry. The entry is then remembered for this printer. To change it, open the padlock.</source>
-        <translation>锁上输入项旁的挂锁。其内容随后会为此打印机记住。要更改，请打开挂锁。</translation>
+        <translation>锁上输入项旁的挂锁后，会为此打印机记住该内容。要更改，请打开挂锁。</translation>
     </message>
     <message>
         <source>Choose a folder on the printer</source>
@@ -1300,7 +1300,7 @@
         <translation>作业的选项</translation>
     </message>
     <message>
-        <source>the print server&apos;s answer does not have the job</source>
+        <source>the print server&apos;s answer does not contain the job</source>
         <translation>打印服务器的应答中没有作业</translation>
     </message>
     <message>
@@ -1459,7 +1459,7 @@
     </message>
     <message>
         <source>Locked: this entry is remembered for this printer.</source>
-        <translation>已锁定：此内容会为此打印机记住。</translation>
+        <translation>已锁定：系统会为此打印机记住此内容。</translation>
     </message>
     <message>
         <source>Unlocked: this entry is for this job only.</source>
