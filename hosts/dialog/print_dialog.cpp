@@ -79,7 +79,9 @@ void PrintDialog::showOpening() {
   if (m_opening.state() == QueueOpening::State::Asked && text.isNull())
     text = tr("Connecting to the printer…");
   if (m_opening.isPdf()) {
-    text = tr("Saves the selected pages in a file.");
+    text = m_preview->saveFault();
+    if (!text.isNull()) kind = Kind::Attention;
+    if (text.isNull()) text = tr("Saves the selected pages in a file.");
   } else if (m_opening.state() == QueueOpening::State::Open) {
     text = QueueListModel::stateText(m_opening.summary());
     kind = QueueListModel::stateKind(m_opening.summary());
@@ -186,11 +188,9 @@ void PrintDialog::print() {
   if (OptionPane* faulty = faultyPane()) {
     m_sections->reveal(faulty);
     faulty->showFault();
-    showFault(faulty->fault());
-    m_choiceFault = faulty->fault();
-    return;
+    return showChoiceFault({.text = faulty->fault()});
   }
-  if (const auto conflict = conflictOf(jobOptions())) return showConflict(*conflict);
+  if (conflictOf(jobOptions())) return;  // the message shows it
   if (!m_preview->fault().isNull()) {
     showFault(m_preview->fault());
     return m_unlocking.ask();
@@ -209,10 +209,6 @@ void PrintDialog::print() {
 
 // Whether there is a file to save the pages in. The file dialog asks before it takes one that exists.
 bool PrintDialog::chooseTarget() {
-  if (const QString fault = m_preview->saveFault(); !fault.isNull()) {
-    showFault(fault);
-    return false;
-  }
   QFileDialog dialog(this, tr("Save as PDF"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setNameFilter(tr("PDF documents (*.pdf)"));
@@ -283,27 +279,27 @@ OptionPane* PrintDialog::faultyPane() const {
   return found == m_optionPanes.end() ? nullptr : *found;
 }
 
-// A message about a choice goes, or changes, with what it is about.
+// A conflict stands there as long as it lasts. A pane marks its faults itself, and only Print shows them
+// here.
 void PrintDialog::updateChoiceFault() {
-  const OptionPane* faulty = faultyPane();
-  const QString fault = faulty == nullptr ? QString() : faulty->fault();
-  if (m_choiceFault.isNull() || m_choiceFault == fault) return;
-  showFault(fault);
+  OptionConflict fault = conflictOf(jobOptions()).value_or(OptionConflict());
+  const bool isShown = !m_choiceFault.text.isNull();
+  if (const OptionPane* faulty = faultyPane(); fault.text.isNull() && isShown && faulty != nullptr)
+    fault.text = faulty->fault();
+  if (fault != m_choiceFault) showChoiceFault(fault);
+}
+
+void PrintDialog::showChoiceFault(const OptionConflict& fault) {
+  m_foot->bar().show(fault.text, MessageBar::Kind::Fault, fault.remedy, [this, changes = fault.changes] {
+    jobOptions().set(JobOptions::Source::Chosen, changes);
+  });
   m_choiceFault = fault;
 }
 
 void PrintDialog::showMessage(const QString& message, MessageBar::Kind kind) {
-  m_choiceFault.clear();
+  m_choiceFault = {};
   m_foot->bar().show(message, kind);
-}
-
-void PrintDialog::showConflict(const OptionConflict& conflict) {
-  if (conflict.changes.isEmpty()) return showFault(conflict.text);
-  m_foot->bar().show(conflict.text, MessageBar::Kind::Fault, conflict.remedy,
-                     [this, changes = conflict.changes] {
-                       showMessage({});
-                       jobOptions().set(JobOptions::Source::Chosen, changes);
-                     });
+  if (message.isEmpty()) updateChoiceFault();
 }
 
 void PrintDialog::updateControls() {
@@ -318,9 +314,10 @@ void PrintDialog::updateControls() {
   const bool isMissing =
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
   const bool isTaker = m_opening.summary().isAccepting && !m_chooser->isPending();
+  const QString saveFault = m_opening.isPdf() ? m_preview->saveFault() : QString();
   setPlainText(m_foot->printButton(), m_opening.isPdf() ? tr("Save…") : tr("Print"));
-  m_foot->printButton().setEnabled(isQueueReady() && isTaker && !isMissing);
-  m_foot->printButton().setToolTip(isMissing ? tr("Choose a document to print.") : QString());
+  m_foot->printButton().setEnabled(isQueueReady() && isTaker && !isMissing && saveFault.isNull());
+  m_foot->printButton().setToolTip(isMissing ? tr("Choose a document to print.") : saveFault);
 }
 
 void PrintDialog::done(int result) {

@@ -111,8 +111,8 @@ class PrintDialog : public QDialog {
   void showPhase();
   void showMessage(const QString& message, MessageBar::Kind kind = MessageBar::Kind::Note);
   void showFault(const QString& fault) { showMessage(fault, MessageBar::Kind::Fault); }
-  void showConflict(const OptionConflict& conflict);
   OptionPane* faultyPane() const;
+  void showChoiceFault(const OptionConflict& fault);
   void updateChoiceFault();
   void showOffer();
   QMap<QString, QString> ofDocument(QMap<QString, QString> options) const;
@@ -126,9 +126,9 @@ class PrintDialog : public QDialog {
   DialogAlerts m_alerts;
   PanelSession m_session{m_alerts};
   bool m_isStarted = false;
-  bool m_isSuggested = false;  // the queue, by what was printed before
-  QString m_target;            // the file, where none is printed
-  QString m_choiceFault;       // a pane's, while the message shows it
+  bool m_isSuggested = false;    // the queue, by what was printed before
+  QString m_target;              // the file, where none is printed
+  OptionConflict m_choiceFault;  // or a pane's fault without a remedy, while the message shows it
   Preview* m_preview;
   QueueChooser* m_chooser;
   PresetMenu* m_presets = nullptr;

@@ -87,6 +87,7 @@ void PrintDialog::connectParts() {
           });
   connect(m_preview, &Preview::examined, this, [this] {
     takePageCount();
+    showOpening();
     m_sending.takeExamination();
   });
   connect(&m_document, &Document::changed, this, &PrintDialog::showDocument);

@@ -42,7 +42,7 @@ std::optional<OptionConflict> conflictOf(const JobOptions& options) {
   if (options.conflicts().isEmpty()) return {};
   const QString kept = keptOf(options);
   const QStringList others = options.ofQueue().conflictsWith(kept);
-  OptionConflict conflict{.text = sentenceOn(options, kept, others.value(0, kept)), .remedy = {}};
+  OptionConflict conflict{.text = sentenceOn(options, kept, others.value(0, kept))};
   conflict.changes = options.ofQueue().resolution(kept);
   if (!conflict.changes.isEmpty())
     conflict.remedy = remedyOf(options, conflict.changes.firstKey(), conflict.changes.first());

@@ -90,7 +90,8 @@ Headline headlineOf(const JobOptions& options, OptionGroup group) {
   Headline headline;
   QStringList texts;
   for (const OfferedOption& each : offeredOptions(options, group)) {
-    const bool isOther = !options.isDefault(each.key) && !options.isIdle(each.key);
+    if (options.isIdle(each.key)) continue;
+    const bool isOther = !options.isDefault(each.key);
     const bool differs = isOther || (each.key == numberUpKey && !options.isDefault(bookletKey));
     if (differs || isAlwaysSaid(each.key)) texts.append(shownShort(options, each));
     headline.differs = headline.differs || differs;

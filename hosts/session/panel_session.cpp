@@ -108,7 +108,13 @@ Outcome PanelSession::loadLastUsed(QStringList* others) {
   Preset preset;
   if (Outcome loaded = m_shelf->loadLastUsed(&preset); !loaded) return loaded;
   *others = take(preset);
-  m_active = {};
+  m_active = activeAs(QStringLiteral(""));
+  return Outcome::done();
+}
+
+Outcome PanelSession::removePreset(const QString& name) {
+  if (Outcome removed = m_shelf->remove(name); !removed) return removed;
+  if (name == m_active.name) m_active = {};
   return Outcome::done();
 }
 

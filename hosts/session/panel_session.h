@@ -69,7 +69,9 @@ class PanelSession {
   Outcome loadPreset(const QString& name, QStringList* others);
   /// The same with the choice of the last job.
   Outcome loadLastUsed(QStringList* others);
-  /// The preset that was loaded or saved last; null for none.
+  /// Fails when there is no such preset.
+  Outcome removePreset(const QString& name);
+  /// The preset that was loaded or saved last; empty for the choice of the last job, null for none.
   const QString& activePreset() const { return m_active.name; }
   /// Whether something was chosen or entered differently since then.
   bool isPresetChanged() const;

@@ -1,4 +1,5 @@
 // What the dialog shows of a job's options, and what travels.
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <ctime>
 
@@ -144,6 +145,28 @@ TEST_F(DialogPrint, AnInvalidEntryIsMarkedWithAnExample) {
     setControl(*m_dialog, pane, field, good);
     EXPECT_EQ(text(u"message"_s) + widget<QLineEdit>(field)->accessibleDescription(), u""_s);
   }
+}
+
+TEST_F(DialogPrint, ConflictsAreShownInTheBarAndNotSent) {
+  startPrinter();
+  changePpd(u"Office_MFP"_s, fewChoices, moreChoices);
+  openReady();
+  setControl(*m_dialog, u"general"_s, u"Duplex"_s, u"#1"_s);
+  for (const auto& [type, said] : Cases{{"#1", "Two-sided printing is not possible on Transparency."},
+                                        {"#0", ""},
+                                        {"#1", "Two-sided printing is not possible on Transparency."}}) {
+    setControl(*m_dialog, u"general"_s, u"MediaType"_s, type);
+    EXPECT_EQ(text(u"message"_s), said);
+  }
+  click(u"print"_s);
+  EXPECT_EQ(noteOf(*m_dialog), u""_s);
+  EXPECT_EQ(widget<QPushButton>(u"messageButton"_s)->text(), u"Turn off two-sided"_s);
+  EXPECT_EQ(m_dialog->job(), 0);
+  click(u"messageButton"_s);
+  EXPECT_EQ(text(u"message"_s), u""_s);
+  click(u"print"_s);
+  awaitJob(1);
+  EXPECT_EQ(m_printer->attributesOfJob(1, cupsUser()).value(u"MediaType"_s), u"Transparency"_s);
 }
 
 TEST_F(DialogPrint, PagesBeyondTheDocumentAreNotPrinted) {

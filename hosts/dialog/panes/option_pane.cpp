@@ -6,7 +6,6 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -14,7 +13,6 @@
 #include "hosts/dialog/panes/pages_control.h"
 #include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
-#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -37,27 +35,16 @@ QStringList labelsOf(OptionGroup group) {
 }  // namespace
 
 OptionPane::OptionPane(OptionGroup group, JobOptions& options, QWidget* parent)
-    : QWidget(parent),
-      m_group(group),
-      m_options(options),
-      m_form(new QFormLayout),
-      m_note(new QLabel(this)),
-      m_remedy(new QPushButton(this)) {
+    : QWidget(parent), m_group(group), m_options(options), m_form(new QFormLayout), m_note(new QLabel(this)) {
   setObjectName(nameOf(group));
   setMnemonicTexts(*this, labelsOf(group));
   auto* column = new QVBoxLayout(this);
   column->addLayout(m_form);
   column->addWidget(m_note);
-  column->addWidget(m_remedy, 0, Qt::AlignLeading);
   column->addStretch();
   m_form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
   m_note->setWordWrap(true);
   m_note->setObjectName(nameOf(group) + QStringLiteral("Note"));
-  m_remedy->setObjectName(QStringLiteral("remedy"));
-  m_remedy->setAutoDefault(false);
-  m_remedy->hide();
-  connect(m_remedy, &QPushButton::clicked, this,
-          [this, &options] { options.set(JobOptions::Source::Chosen, QMap(m_conflict->changes)); });
   connect(&m_options, &JobOptions::changed, this, &OptionPane::update);
 }
 
@@ -226,16 +213,12 @@ QString OptionPane::note() const {
     const QString note = fault.isNull() ? line.control->note() : fault;
     if (!note.isNull()) lines.append(note);
   }
-  if (m_conflict) lines.append(shownText(m_conflict->text));
   if (m_options.isForFile())
     lines.append(tr("A PDF file keeps its pages as they are. Only pages and their order can be chosen."));
   return lines.join(u'\n');
 }
 
 void OptionPane::update() {
-  m_conflict = m_group == OptionGroup::General ? conflictOf(m_options) : std::nullopt;
-  m_remedy->setVisible(m_conflict && !m_conflict->changes.isEmpty());
-  if (m_conflict) setPlainText(*m_remedy, m_conflict->remedy);
   for (const Line& line : m_lines) {
     line.control->showValue();
     const bool isIdle = m_options.isIdle(line.control->option().key);

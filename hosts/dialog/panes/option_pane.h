@@ -2,12 +2,10 @@
 #pragma once
 
 #include "hosts/dialog/panes/option_control.h"
-#include "hosts/session/option_conflict.h"
 
 class QFormLayout;
 class QHBoxLayout;
 class QLabel;
-class QPushButton;
 
 namespace kesto {
 
@@ -74,8 +72,6 @@ class OptionPane : public QWidget {
   QString m_section;              // the last with a heading
   QFormLayout* m_form;
   QLabel* m_note;
-  std::optional<OptionConflict> m_conflict;  // of the general pane
-  QPushButton* m_remedy;
 };
 
 }  // namespace kesto

@@ -27,7 +27,7 @@ MessageBar::MessageBar(QWidget* parent)
   row->addWidget(m_text, 1);
   row->addWidget(m_button);
   connect(m_button, &QPushButton::clicked, this, [this] {
-    if (m_act) m_act();
+    if (const auto act = m_act) act();  // which may show another message
   });
   hide();
 }

@@ -12,6 +12,14 @@
 #include "hosts/session/panel_session.h"
 
 namespace kesto {
+namespace {
+
+// The choice of the last job has no name of the user's.
+QString nameOf(const QString& preset) {
+  return preset.isEmpty() ? PresetMenu::tr("Last used") : preset;
+}
+
+}  // namespace
 
 PresetMenu::PresetMenu(PanelSession& session, QWidget* parent)
     : QPushButton(parent), m_session(session), m_menu(new QMenu(this)) {
@@ -27,18 +35,13 @@ void PresetMenu::fill() {
   QStringList names;
   const Outcome found = m_session.shelf()->names(&names);
   if (!found) m_menu->addAction(withPlainAmpersands(asSentence(found.reason())))->setEnabled(false);
-  QAction* last = m_menu->addAction(tr("Last used"));
+  QAction* last = addPreset(QStringLiteral(""));
   last->setEnabled(m_session.shelf()->hasLastUsed());
   connect(last, &QAction::triggered, this, &PresetMenu::loadLastUsed);
   m_menu->addSeparator();
   if (found && names.isEmpty()) m_menu->addAction(tr("No presets"))->setEnabled(false);
-  for (const QString& name : names) {
-    const bool isActive = name == m_session.activePreset();
-    QAction* entry = m_menu->addAction(withPlainAmpersands(isActive ? activeText() : name));
-    entry->setCheckable(isActive);
-    entry->setChecked(isActive);
-    connect(entry, &QAction::triggered, this, [this, name] { load(name); });
-  }
+  for (const QString& name : names)
+    connect(addPreset(name), &QAction::triggered, this, [this, name] { load(name); });
   m_menu->addSeparator();
   connect(m_menu->addAction(tr("Save as preset…")), &QAction::triggered, this, &PresetMenu::save);
   QMenu* removal = m_menu->addMenu(tr("Delete preset"));
@@ -48,8 +51,18 @@ void PresetMenu::fill() {
             [this, name] { remove(name); });
 }
 
+// The one in use has a check mark.
+QAction* PresetMenu::addPreset(const QString& name) {
+  const QString& active = m_session.activePreset();
+  const bool isActive = !active.isNull() && name == active;
+  QAction* entry = m_menu->addAction(withPlainAmpersands(isActive ? activeText() : nameOf(name)));
+  entry->setCheckable(isActive);
+  entry->setChecked(isActive);
+  return entry;
+}
+
 QString PresetMenu::activeText() const {
-  const QString& name = m_session.activePreset();
+  const QString name = nameOf(m_session.activePreset());
   return m_session.isPresetChanged() ? tr("%1 (changed)").arg(name) : name;
 }
 
@@ -57,7 +70,10 @@ void PresetMenu::showActive() {
   const QString active = m_session.activePreset().isNull() ? QString() : activeText();
   if (active == accessibleDescription()) return;
   setAccessibleDescription(active);
-  setPlainText(*this, active.isNull() ? tr("Presets") : tr("Presets: %1").arg(active));
+  setToolTip(active.toHtmlEscaped());
+  const int widest = fontMetrics().horizontalAdvance(u'0') * 24;  // a name may be long
+  const QString shown = fontMetrics().elidedText(active, Qt::ElideMiddle, widest);
+  setPlainText(*this, active.isNull() ? tr("Presets") : tr("Presets: %1").arg(shown));
   Q_EMIT renamed();
 }
 
@@ -105,8 +121,9 @@ void PresetMenu::save() {
 }
 
 void PresetMenu::remove(const QString& name) {
-  if (Outcome removed = m_session.shelf()->remove(name); !removed)
+  if (Outcome removed = m_session.removePreset(name); !removed)
     QMessageBox::warning(window(), tr("Presets"), asSentence(removed.reason()));
+  showActive();
 }
 
 }  // namespace kesto

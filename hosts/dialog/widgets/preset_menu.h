@@ -31,6 +31,7 @@ class PresetMenu : public QPushButton {
 
  private:
   QString activeText() const;
+  QAction* addPreset(const QString& name);
   void fill();
   void load(const QString& name);
   void loadLastUsed();
