@@ -10,6 +10,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -59,13 +60,28 @@ bool copyAll(int from, int to) {
   }
 }
 
-// The printer's answer about the job, a line without its end; empty without an answer.
+// Whether the line is about the printer's state, in the form in which the scheduler takes it.
+bool isOfState(std::string_view line) {
+  return line.starts_with("STATE: ") || line.starts_with("INFO: ");
+}
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+// The printer's answer about the job, a line without its end; empty without an answer. The scheduler learns
+// what the printer says about its state meanwhile.
 std::string answerOf(int printer) {
+  const std::unique_ptr<std::FILE, CloseFile> lines(::fdopen(::dup(printer), "r"));
+  std::array<char, 256> line{};
   std::string answer;
-  std::array<char, 256> bytes{};
-  ssize_t count = 0;
-  while (answer.size() < bytes.size() && (count = ::read(printer, bytes.data(), bytes.size())) > 0)
-    answer.append(bytes.data(), static_cast<std::size_t>(count));
+  while (lines && std::fgets(line.data(), line.size(), lines.get()) != nullptr) {
+    if (isOfState(line.data())) {
+      std::fputs(line.data(), stderr);
+    } else {
+      answer = line.data();
+    }
+  }
   return answer.ends_with('\n') ? answer.substr(0, answer.find('\n')) : "";
 }
 

@@ -79,7 +79,27 @@ void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
       ->check(faultOfMisbehaviour);
   app.add_option("--queues", command.setup.queues, "create this many queues, to try long lists")
       ->transform(wholeNumber("the number", 1, 9999));
+  for (const PrinterFault& fault : printerFaults()) {
+    app.add_flag_callback(
+        "--" + std::string(fault.name), [&command, &fault] { command.setup.fault = &fault; },
+        "begin with a fault: " + std::string(fault.description));
+  }
   app.add_flag("--folders-only", command.setup.foldersOnly, "run only the folder service");
+}
+
+void addFault(CLI::App& app, Arguments& arguments, DemoCommand& command) {
+  std::vector<std::string> names;
+  for (const PrinterFault& fault : printerFaults())
+    names.emplace_back(fault.name);
+  names.emplace_back("none");
+  CLI::App* fault =
+      app.add_subcommand("fault", "give the running printer a fault, or clear it with \"none\"");
+  addPlace(*fault, arguments);
+  const auto take = [&command](const std::string& name) {
+    command.kind = DemoCommand::Kind::Fault;
+    command.setup.fault = printerFaultNamed(QString::fromStdString(name));
+  };
+  fault->add_option_function<std::string>("FAULT", take)->required()->check(oneOf(names));
 }
 
 void addCommands(CLI::App& app, Arguments& arguments, DemoCommand& command) {
@@ -88,6 +108,7 @@ void addCommands(CLI::App& app, Arguments& arguments, DemoCommand& command) {
   addPlace(*jobs, arguments);
   addJson(*jobs, command);
   jobs->callback([&command] { command.kind = DemoCommand::Kind::Jobs; });
+  addFault(app, arguments, command);
   CLI::App* release =
       app.add_subcommand("release", "print a held job; exits with 3 if the pass code is wrong");
   addPlace(*release, arguments);

@@ -11,10 +11,10 @@ namespace kesto {
 
 /// What the program has to do.
 struct DemoCommand {
-  enum class Kind : std::uint8_t { Run, ListMisbehaviours, Jobs, Release };
+  enum class Kind : std::uint8_t { Run, ListMisbehaviours, Jobs, Release, Fault };
 
   Kind kind = Kind::Run;
-  DemoSetup setup;  ///< For Jobs and Release only the directory.
+  DemoSetup setup;  ///< For Jobs and Release only the directory, for Fault the fault as well.
   bool json = false;
   int job = 0;       ///< For Release, as is the pass code.
   QString passCode;  ///< Empty for none.

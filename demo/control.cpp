@@ -34,7 +34,8 @@ QString wordOf(Release release) {
   return QStringLiteral("failed");
 }
 
-ControlServer::ControlServer(JobStore& store) : m_store(store) {
+ControlServer::ControlServer(JobStore& store, SetFault setFault)
+    : m_store(store), m_setFault(std::move(setFault)) {
   m_server.setSocketOptions(QLocalServer::UserAccessOption);
   connect(&m_server, &QLocalServer::newConnection, this, &ControlServer::connectionArrived);
 }
@@ -60,6 +61,10 @@ QJsonObject ControlServer::answer(const QJsonObject& request) {
     const Release release = m_store.release(request.value(QStringLiteral("job")).toInt(),
                                             request.value(QStringLiteral("passCode")).toString());
     return {{QStringLiteral("release"), wordOf(release)}};
+  }
+  if (request.value(QStringLiteral("do")) == QStringLiteral("fault")) {
+    const Outcome set = m_setFault(printerFaultNamed(request.value(QStringLiteral("fault")).toString()));
+    return set ? QJsonObject() : QJsonObject{{QStringLiteral("error"), set.reason()}};
   }
   return {{QStringLiteral("jobs"), m_store.list()}};
 }

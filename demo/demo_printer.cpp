@@ -49,14 +49,21 @@ Outcome DemoPrinter::startPrinting() {
   m_printer.emplace(*m_store);
   const QString printerSocket = m_runFolder.socketPath(QStringLiteral("printer"));
   if (Outcome listening = m_printer->listen(printerSocket); !listening) return listening;
-  m_control.emplace(*m_store);
+  m_control.emplace(*m_store, [this](const PrinterFault* fault) { return setFault(fault); });
   if (Outcome listening = m_control->listen(controlPath(m_setup.directory)); !listening) return listening;
   m_scheduler.emplace(m_runFolder);
   QObject::connect(&*m_scheduler, &Scheduler::died, qApp, [] {
     logLine(QStringLiteral("the scheduler has exited"));
     QCoreApplication::exit(1);
   });
-  return m_scheduler->start(printerSocket, m_setup.queues, m_setup.port);
+  Outcome started = m_scheduler->start(printerSocket, m_setup.queues, m_setup.port);
+  return started && m_setup.fault != nullptr ? setFault(m_setup.fault) : started;
+}
+
+Outcome DemoPrinter::setFault(const PrinterFault* fault) {
+  const bool isPrinters = fault != nullptr && fault->reason != nullptr;
+  m_printer->setFault(isPrinters ? fault : nullptr);
+  return m_scheduler->pause(fault == nullptr || isPrinters ? nullptr : fault->message);
 }
 
 QJsonObject DemoPrinter::whereabouts() const {

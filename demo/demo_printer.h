@@ -19,10 +19,11 @@ struct DemoSetup {
   QString output;     ///< Where printed documents go; null for a folder in the run folder.
   DemoFolders folders = sampleFolders();
   Misbehaviour behaviour;
-  std::optional<quint16> folderPort;  ///< As in `FolderService::listen`.
-  std::optional<quint16> port;        ///< Of the scheduler, as in `Scheduler::start`.
-  int queues = 1;                     ///< They all lead to the same printer.
-  bool foldersOnly = false;           ///< Neither scheduler nor printer, and no run folder.
+  std::optional<quint16> folderPort;    ///< As in `FolderService::listen`.
+  std::optional<quint16> port;          ///< Of the scheduler, as in `Scheduler::start`.
+  int queues = 1;                       ///< They all lead to the same printer.
+  const PrinterFault* fault = nullptr;  ///< What it begins with, null for none.
+  bool foldersOnly = false;             ///< Neither scheduler nor printer, and no run folder.
 };
 
 /// Name of the control socket in the run folder.
@@ -43,6 +44,7 @@ class DemoPrinter {
 
  private:
   Outcome startPrinting();
+  Outcome setFault(const PrinterFault* fault);
 
   DemoSetup m_setup;
   FolderService m_folderService;

@@ -92,6 +92,19 @@ int release(const DemoCommand& command) {
   return word == kesto::wordOf(kesto::Release::Refused) ? exitRefused : exitFailed;
 }
 
+int setFault(const DemoCommand& command) {
+  const kesto::PrinterFault* fault = command.setup.fault;
+  QJsonObject answer;
+  const Outcome asked =
+      kesto::askPrinter(kesto::controlPath(command.setup.directory),
+                        {{QStringLiteral("do"), QStringLiteral("fault")},
+                         {QStringLiteral("fault"), QLatin1String(fault == nullptr ? "" : fault->name)}},
+                        &answer);
+  if (!asked) return fail(asked.reason());
+  const QJsonValue error = answer.value(QStringLiteral("error"));
+  return error.isString() ? fail(error.toString()) : 0;
+}
+
 int perform(const DemoCommand& command) {
   switch (command.kind) {
     case DemoCommand::Kind::Run:
@@ -100,6 +113,8 @@ int perform(const DemoCommand& command) {
       return listMisbehaviours();
     case DemoCommand::Kind::Jobs:
       return listJobs(command);
+    case DemoCommand::Kind::Fault:
+      return setFault(command);
     case DemoCommand::Kind::Release:
       break;
   }

@@ -28,20 +28,28 @@ Outcome RawPrinter::listen(const QString& path) {
   return Outcome::failed(path + QStringLiteral(": ") + m_server.errorString());
 }
 
+void RawPrinter::setFault(const PrinterFault* fault) {
+  m_fault = fault;
+  logLine(QStringLiteral("printer: ") +
+          (fault == nullptr ? QStringLiteral("ready") : QLatin1String(fault->description)));
+  Q_EMIT faultChanged();
+}
+
 void RawPrinter::connectionArrived() {
   while (QLocalSocket* socket = m_server.nextPendingConnection()) {
-    new PrinterConnection(socket, m_store);  // owned by the socket
+    new PrinterConnection(socket, *this, m_store);  // owned by the socket
   }
 }
 
-PrinterConnection::PrinterConnection(QLocalSocket* socket, JobStore& store)
-    : QObject(socket), m_socket(socket), m_store(store) {
+PrinterConnection::PrinterConnection(QLocalSocket* socket, const RawPrinter& printer, JobStore& store)
+    : QObject(socket), m_socket(socket), m_printer(printer), m_store(store) {
+  connect(&printer, &RawPrinter::faultChanged, this, &PrinterConnection::takeFault);
   connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
   connect(socket, &QIODevice::readyRead, this, &PrinterConnection::bytesArrived);
 }
 
 PrinterConnection::~PrinterConnection() {
-  if (!m_document.isOpen()) return;
+  if (!m_document.isOpen() && !m_waits) return;
   logLine(QStringLiteral("job %1 from %2: thrown away: the connection broke")
               .arg(m_ticket.job)
               .arg(m_ticket.user));
@@ -49,7 +57,7 @@ PrinterConnection::~PrinterConnection() {
 }
 
 void PrinterConnection::bytesArrived() {
-  while (m_socket->state() == QLocalSocket::ConnectedState && m_socket->bytesAvailable() > 0) {
+  while (!m_waits && m_socket->state() == QLocalSocket::ConnectedState && m_socket->bytesAvailable() > 0) {
     Outcome taken = Outcome::done();
     if (m_pieceLeft > 0) {
       taken = takePiece();
@@ -102,11 +110,35 @@ Outcome PrinterConnection::endDocument() {
   // The rest of the buffer is written here, which fails when the disk is full.
   if (!m_document.flush()) return Outcome::failed(m_document.errorString());
   m_document.close();
+  m_waits = m_printer.fault() != nullptr && m_ticket.retention() != Retention::HoldOnly;
+  if (!m_waits) return acceptDocument();
+  reportFault();
+  return Outcome::done();
+}
+
+Outcome PrinterConnection::acceptDocument() {
   Outcome accepted = m_store.accept(m_ticket, m_document.fileName());
   m_ticket = {};
   m_ticketLines = 0;
   ++m_documents;
   return accepted;
+}
+
+void PrinterConnection::takeFault() {
+  if (!m_waits) return;
+  reportFault();
+  if (m_printer.fault() != nullptr) return;
+  m_waits = false;
+  if (Outcome accepted = acceptDocument(); !accepted) return refuse(accepted.reason());
+  bytesArrived();
+}
+
+void PrinterConnection::reportFault() {
+  const PrinterFault* fault = m_printer.fault();
+  if (!m_reported.isEmpty()) m_socket->write("STATE: -" + m_reported + '\n');
+  m_reported = fault == nullptr ? "" : fault->reason;
+  if (!m_reported.isEmpty()) m_socket->write("STATE: +" + m_reported + '\n');
+  m_socket->write(QByteArray("INFO: ") + (fault == nullptr ? "Printing" : fault->message) + '\n');
 }
 
 Outcome PrinterConnection::endJob() {

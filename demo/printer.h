@@ -5,6 +5,8 @@
 // line with the piece's size in decimal, at most 65536, and that many bytes. A size of 0 ends the document.
 // Another document may follow. After the last one comes the line "@END". The printer answers "taken" when it
 // has every document. Otherwise it answers "refused: REASON" as soon as it knows, and ends the connection.
+// While a fault keeps it from printing a document, it does not go on, and writes lines that begin with
+// "STATE: " and "INFO: ", which are for the scheduler.
 #pragma once
 
 #include <QtCore/QFile>
@@ -13,6 +15,7 @@
 #include <QtNetwork/QLocalSocket>
 
 #include "demo/job_store.h"
+#include "demo/printer_fault.h"
 
 namespace kesto {
 
@@ -28,10 +31,18 @@ class RawPrinter : public QObject {
   /// Listens at `path`, where only the owner may connect.
   Outcome listen(const QString& path);
 
+  /// Nothing is printed while the printer has a fault; null clears it.
+  void setFault(const PrinterFault* fault);
+  const PrinterFault* fault() const { return m_fault; }
+
+ Q_SIGNALS:
+  void faultChanged();
+
  private:
   void connectionArrived();
 
   JobStore& m_store;
+  const PrinterFault* m_fault = nullptr;
   QLocalServer m_server;
 };
 
@@ -40,7 +51,8 @@ class PrinterConnection : public QObject {
   Q_OBJECT
 
  public:
-  PrinterConnection(QLocalSocket* socket, JobStore& store);
+  /// `printer` and `store` outlive the connection.
+  PrinterConnection(QLocalSocket* socket, const RawPrinter& printer, JobStore& store);
   ~PrinterConnection() override;
 
  private:
@@ -50,15 +62,21 @@ class PrinterConnection : public QObject {
   Outcome takePieceSize(const QByteArray& line);
   Outcome takePiece();
   Outcome endDocument();
+  Outcome acceptDocument();
   Outcome endJob();
+  void takeFault();
+  void reportFault();
   void refuse(const QString& reason);
 
   QLocalSocket* m_socket;
+  const RawPrinter& m_printer;
   JobStore& m_store;
   JobTicket m_ticket;
   int m_ticketLines = 0;
-  int m_documents = 0;  // handed to the store
-  QFile m_document;     // open while a document arrives
+  int m_documents = 0;    // handed to the store
+  QFile m_document;       // open while a document arrives
+  bool m_waits = false;   // with a whole document, for the end of a fault
+  QByteArray m_reported;  // the reason that the scheduler knows, empty for none
   qint64 m_pieceLeft = 0;
 };
 

@@ -14,6 +14,7 @@
 #include <QtNetwork/QLocalSocket>
 #include <csignal>
 
+#include "hosts/cups/print_server.h"
 #include "platform/private_file.h"
 
 namespace kesto {
@@ -221,6 +222,7 @@ Outcome Scheduler::start(const QString& printerSocket, int queues, std::optional
     if (Outcome reserved = reservePort(*port); !reserved) return reserved;
   }
   if (Outcome made = makeFolders(); !made) return made;
+  m_queues = queues;
   if (Outcome copied = copyPrograms(queues); !copied) return copied;
   if (Outcome written = writeConfiguration(*identity, printerSocket, queues); !written) return written;
   if (getuid() == 0) {
@@ -321,6 +323,23 @@ Outcome Scheduler::startServer() {
   m_reservation.close();
   connect(&m_server, &QProcess::finished, this, &Scheduler::died);
   return Outcome::done();
+}
+
+Outcome Scheduler::pause(const char* message) {
+  const bool pauses = message != nullptr;
+  if (!pauses && !m_isPaused) return Outcome::done();
+  std::unique_ptr<PrintServer> server;
+  Outcome done = PrintServer::connect(address(), startLimit, &server);
+  for (int number = 1; done && number <= m_queues; ++number) {
+    const Ipp request = requestTo(pauses ? IPP_OP_PAUSE_PRINTER : IPP_OP_RESUME_PRINTER,
+                                  uriOfQueue(demoQueueNumbered(number)));
+    if (pauses)
+      ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_TEXT, "printer-state-message", nullptr, message);
+    Ipp reply;
+    done = server->order(request.get(), "/admin/", &reply);
+  }
+  if (done) m_isPaused = pauses;
+  return done;
 }
 
 bool Scheduler::waitUntilItAnswers() {

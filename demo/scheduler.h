@@ -29,6 +29,8 @@ class Scheduler : public QObject {
   /// that print on the printer at `printerSocket`. With `port`, cupsd also listens on that port of loopback;
   /// 0 means any free port.
   Outcome start(const QString& printerSocket, int queues, std::optional<quint16> port);
+  /// Pauses all queues with a message, or resumes them (null).
+  Outcome pause(const char* message);
   /// The path of its socket, which only its owner can reach.
   QString address() const;
   /// "127.0.0.1:PORT", null without a port.
@@ -53,6 +55,8 @@ class Scheduler : public QObject {
   const RunFolder& m_folder;
   QTcpSocket m_reservation;  // bound to cupsd's port until cupsd listens there
   quint16 m_port = 0;        // 0 without one
+  int m_queues = 0;
+  bool m_isPaused = false;
   QProcess m_server;
 };
 

@@ -166,7 +166,9 @@ Outcome HttpConnection::send(const HttpRequest& request, Watch& watch) {
     httpSetLength(http, request.document ? 0 : static_cast<std::size_t>(request.body.size()));
     httpSetExpect(http, HTTP_STATUS_CONTINUE);
     if (httpPost(http, request.resource.constData()) != 0) return noAnswer(watch);
-    if (httpWrite2(http, request.body.constData(), static_cast<std::size_t>(request.body.size())) < 0)
+    const auto size = static_cast<std::size_t>(request.body.size());
+    // A server that asks for a password may answer and close the connection before it reads the body.
+    if (httpWrite2(http, request.body.constData(), size) < 0 && (m_isSilent || watch.hasCut()))
       return noAnswer(watch);
   }
   m_status = HTTP_STATUS_CONTINUE;

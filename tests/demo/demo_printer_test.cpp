@@ -72,6 +72,7 @@ TEST_F(DemoPrinterTest, ReportsWhatItCannotDo) {
         Case{"release 1 --pin-file %1/bad-pin", 1, "the first line must be 1 to 8 digits"},
         Case{"release 1 --pin-file /no/such", 1, "/no/such: No such file or directory"},
         Case{"release 31 4711x", 2, "unexpected argument"},
+        Case{"fault fire", 2, "FAULT: must be jam, no-paper, paused or none"},
         Case{"release 4711x", 2, "JOB: the number must be"}, Case{"release", 2, "JOB"}}) {
     SCOPED_TRACE(line);
     DemoProcess program(m_folder,
@@ -124,6 +125,23 @@ TEST_F(DemoPrinterTest, HoldsAndPrintsByTheRetentionAndReleasesByThePassCode) {
   EXPECT_EQ(printer.code(), 0);
   for (const QString& printout : {u"paper/job-5-2"_s, u"paper/job-6-1"_s})
     EXPECT_EQ(bytesOf(m_folder.path(printout)), m_document) << "a folder of the caller's stays";
+}
+
+TEST_F(DemoPrinterTest, AFaultStopsJobsUntilItIsCleared) {
+  RunningPrinter printer(m_folder, {u"--jam"_s});
+  int job = 0;
+  for (const auto& [fault, state] :
+       {Pair{"jam", "processing"}, Pair{"no-paper", "processing"}, Pair{"paused", "pending"}}) {
+    printer.setFault(fault);
+    send(printer, {});
+    awaitState(printer, ++job, state);
+    printer.setFault(u"none"_s);
+    awaitState(printer, job, u"completed"_s);
+  }
+  printer.setFault(u"jam"_s);
+  send(printer, u"jobSuspend=2"_s);
+  awaitState(printer, ++job, u"completed"_s);
+  EXPECT_EQ(printer.printouts().size(), job - 1) << "a job that is only held needs no paper";
 }
 
 TEST_F(DemoPrinterTest, CountsNoJobAsPrintedThatItHasRefused) {

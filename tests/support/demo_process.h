@@ -194,6 +194,10 @@ class RunningPrinter : public DemoProcess {
   int release(const QString& arguments) const {
     return DemoProcess(m_folder, u"kesto-demo-printer release --dir %1/run "_s + arguments).code();
   }
+  /// Gives the printer a fault; "none" clears it.
+  void setFault(const QString& fault) const {
+    DemoProcess(m_folder, u"kesto-demo-printer fault --dir %1/run "_s + fault).output();
+  }
 
  private:
   const ScratchFolder& m_folder;
