@@ -35,6 +35,10 @@ QString wordOf(Enumeration value, const std::array<const char*, count>& words) {
   return QLatin1String(words[static_cast<std::size_t>(value)]);
 }
 
+// What the client keeps for the next time, apart from the keys that it would carry out.
+constexpr char numberUpKey[] = "dialog-number-up";
+constexpr char layoutKey[] = "dialog-number-up-layout";
+
 QString text(const QJsonObject& object, const char* key) {
   return object.value(QLatin1String(key)).toString();
 }
@@ -170,8 +174,10 @@ PortalChoice choiceAskedFor(const QJsonObject& settings, const QJsonObject& page
   choice.copies = count(settings, "n-copies");
   choice.isCollated = flag(settings, "collate", true);
   choice.isReversed = flag(settings, "reverse", false);
-  choice.numberUp = count(settings, "number-up");
-  if (const QString layout = text(settings, "number-up-layout"); isOneOf(layout, layoutWords))
+  const bool isOwn = count(settings, "number-up") == 1;
+  choice.numberUp = count(settings, isOwn ? numberUpKey : "number-up");
+  if (const QString layout = text(settings, isOwn ? layoutKey : "number-up-layout");
+      isOneOf(layout, layoutWords))
     choice.numberUpLayout = layout;
   if (const double scale = text(settings, "scale").toDouble(); scale > 0) choice.scale = scale;
   choice.pageSet = valueOf<PortalPageSet>(text(settings, "page-set"), pageSetWords);
@@ -197,6 +203,8 @@ QJsonObject settingsToReturn(const QJsonObject& settings, const PortalChoice& ch
   for (const auto& [key, value] : neutral)
     put(&returned, key, QLatin1String(value));
   put(&returned, "output-file-format", QStringLiteral("pdf"));
+  put(&returned, numberUpKey, QString::number(choice.numberUp));
+  put(&returned, layoutKey, choice.numberUpLayout);
   put(&returned, "orientation", QLatin1String(choice.isLandscape ? "landscape" : "portrait"));
   put(&returned, "duplex", wordOf(choice.duplex, duplexWords));
   if (!choice.printer.isEmpty()) put(&returned, "printer", choice.printer);

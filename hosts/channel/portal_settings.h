@@ -49,8 +49,8 @@ struct PortalChoice {
 PortalChoice choiceAskedFor(const QJsonObject& settings, const QJsonObject& pageSetup);
 
 /// The client's settings with the choice put in. What the print system does is neutral, so that nothing is
-/// done twice; the output format is PDF; `output-uri` and our own keys are dropped; unknown keys pass.
-/// Invalid ranges become all pages.
+/// done twice; the pages per sheet and their order are kept under keys of ours as well; the output format is
+/// PDF; `output-uri` and our own keys are dropped; unknown keys pass. Invalid ranges become all pages.
 QJsonObject settingsToReturn(const QJsonObject& settings, const PortalChoice& choice);
 
 /// The page setup with the paper, its margins and the orientation of the choice put in. Without a paper in

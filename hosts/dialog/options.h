@@ -18,6 +18,8 @@ struct PrintOptions {
   QMap<QString, QString> jobOptions;  ///< Those that the dialog has a control for it starts with.
   ServerAddress server;
   bool documentLater = false;  ///< The document comes only after the choice, drawn as was chosen.
+  bool offersPdf = true;       ///< Whether the pages may be saved in a file instead.
+  QString acceptLabel;         ///< What the button that prints is called; empty for the usual.
   bool timings = false;        ///< Measure the start, print it and end.
   QString screenshot;          ///< Write a picture of the dialog here and end; null for no picture.
   QString pane;      ///< The pane shown first: "general", "job-handling" or "summary"; null for the usual.

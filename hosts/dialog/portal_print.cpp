@@ -1,10 +1,13 @@
 #include "hosts/dialog/portal_print.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 
 #include "hosts/dialog/panes/option_pane.h"
+#include "hosts/dialog/portal_options.h"
 #include "hosts/session/job_option_values.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
@@ -24,6 +27,15 @@ constexpr std::array duplexChoices{
     DuplexChoice{PortalDuplex::ShortEdge, QLatin1String("two-sided-short-edge")},
 };
 
+bool isOfApplication(PortalPages pages) {
+  return pages == PortalPages::Current || pages == PortalPages::Selection;
+}
+
+// The job's pages that the application alone knows.
+QString valueOf(PortalPages pages) {
+  return pages == PortalPages::Current ? JobOptions::currentPage : JobOptions::selection;
+}
+
 // What the client asks for of the job itself. Of what it leaves out, what the user keeps for the queue
 // counts.
 QMap<QString, QString> jobOptionsOf(const PortalChoice& asked, const QJsonObject& settings) {
@@ -32,8 +44,7 @@ QMap<QString, QString> jobOptionsOf(const PortalChoice& asked, const QJsonObject
   if (settings.contains(u"collate"))
     options.insert(QStringLiteral("collate"), QLatin1String(asked.isCollated ? "true" : "false"));
   if (asked.pages == PortalPages::Ranges) options.insert(pagesKey, asked.pageRanges);
-  if (asked.pages == PortalPages::Current || asked.pages == PortalPages::Selection)
-    options.insert(pagesKey, JobOptions::applicationsPages);
+  if (isOfApplication(asked.pages)) options.insert(pagesKey, valueOf(asked.pages));
   if (asked.numberUp > 1) {
     options.insert(QStringLiteral("number-up"), QString::number(asked.numberUp));
     options.insert(QStringLiteral("number-up-layout"), asked.numberUpLayout);
@@ -45,6 +56,13 @@ QMap<QString, QString> jobOptionsOf(const PortalChoice& asked, const QJsonObject
     options.insert(QStringLiteral("page-set"), QLatin1String(isEven ? "even" : "odd"));
   }
   return options;
+}
+
+// A label without GTK's marks of mnemonics: "_Print" is "Print", and "__" is "_".
+QString labelOf(const QString& text) {
+  static constexpr int longestLabel = 40;
+  static const QRegularExpression mark(QStringLiteral("_(.?)"));
+  return shownText(QString(text).replace(mark, QStringLiteral("\\1"))).left(longestLabel);
 }
 
 PortalPaper portalPaperOf(const PpdPaper& paper) {
@@ -84,16 +102,28 @@ void PortalPrint::open(const QJsonObject& message) {
   m_choice = choiceAskedFor(m_settings, m_pageSetup);
   m_options.documentLater = !message.value(u"document").toBool();
   m_options.title = message.value(u"title").toString();
+  m_options.acceptLabel = labelOf(message.value(u"acceptLabel").toString());
+  m_options.offersPdf = message.value(u"canWritePdf").toBool();
   m_options.jobOptions.insert(jobOptionsOf(m_choice, m_settings));
   if (m_options.queue.isNull() && !m_choice.printer.isEmpty()) m_options.queue = m_choice.printer;
   m_dialog = std::make_unique<PrintDialog>(m_options, m_document);
   connect(m_dialog.get(), &PrintDialog::settled, this, &PortalPrint::preset);
   connect(m_dialog.get(), &PrintDialog::chosen, this, &PortalPrint::takeChoice);
   connect(m_dialog.get(), &QDialog::finished, this, &PortalPrint::finish);
-  if (m_choice.pages == PortalPages::Current) m_dialog->general().offerApplicationsPages(tr("Current page"));
-  if (m_choice.pages == PortalPages::Selection) m_dialog->general().offerApplicationsPages(tr("Selection"));
+  offerPages(message);
+  const bool isModal = message.value(u"modal").toBool();
+  m_dialog->setWindowModality(isModal ? Qt::WindowModal : Qt::NonModal);
   attachTo(message.value(u"parentWindow").toString());
   m_dialog->show();
+}
+
+// An older front end does not say which pages the client knows, but the client may ask for them.
+void PortalPrint::offerPages(const QJsonObject& message) {
+  for (const auto& [pages, key] :
+       {std::pair(PortalPages::Current, u"hasCurrentPage"), {PortalPages::Selection, u"hasSelection"}}) {
+    if (message.value(key).toBool() || m_choice.pages == pages)
+      m_dialog->general().offerPages(valueOf(pages));
+  }
 }
 
 // What the client asks for of the queue's own options is chosen once these are known; it passes over paper
@@ -112,6 +142,7 @@ void PortalPrint::preset() {
     if (each.side == m_choice.duplex && each.side != PortalDuplex::Simplex && !choice.isNull())
       options.choose(duplex, choice);
   }
+  chooseOptions(m_settings, options);
 }
 
 // Other platforms give no way to a window of another process.
@@ -132,17 +163,26 @@ void PortalPrint::takeChoice() {
   if (std::exchange(m_isChosen, true)) return;
   if (!m_options.documentLater) return takeDocument();
   const JobOptions& options = m_dialog->jobOptions();
-  m_choice.printer = m_dialog->queueName();
-  m_choice.pageRanges = options.pages();
-  if (options.value(pagesKey) != JobOptions::applicationsPages)
-    m_choice.pages = options.pages().isNull() ? PortalPages::All : PortalPages::Ranges;
+  if (!m_dialog->savesPdf()) m_choice.printer = m_dialog->queueName();
+  takePages(options);
+  m_choice.numberUp = options.value(QStringLiteral("number-up")).toInt();
+  m_choice.numberUpLayout = options.value(QStringLiteral("number-up-layout"));
   for (const DuplexChoice& each : duplexChoices) {
     if (standardValueOf(duplex, options.value(duplex)) == each.sides) m_choice.duplex = each.side;
   }
   const std::optional<PpdPaper> paper = options.paper();
   if (paper) m_choice.paper = portalPaperOf(*paper);
-  answer(QStringLiteral("chosen"), {{QStringLiteral("settings"), settingsToReturn(m_settings, m_choice)},
+  const QJsonObject settings = withOptions(settingsToReturn(m_settings, m_choice), options);
+  answer(QStringLiteral("chosen"), {{QStringLiteral("settings"), settings},
                                     {QStringLiteral("pageSetup"), pageSetupToReturn(m_pageSetup, m_choice)}});
+}
+
+void PortalPrint::takePages(const JobOptions& options) {
+  m_choice.pageRanges = options.pages();
+  m_choice.pages = options.pages().isNull() ? PortalPages::All : PortalPages::Ranges;
+  for (const PortalPages pages : {PortalPages::Current, PortalPages::Selection}) {
+    if (options.value(pagesKey) == valueOf(pages)) m_choice.pages = pages;
+  }
 }
 
 void PortalPrint::takeDocument() {

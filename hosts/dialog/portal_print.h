@@ -22,9 +22,11 @@ class PortalPrint : public QObject {
  private:
   void take(const QJsonObject& message, Descriptor& attached);
   void open(const QJsonObject& message);
+  void offerPages(const QJsonObject& message);
   void preset();
   void attachTo(const QString& parentWindow);
   void takeChoice();
+  void takePages(const JobOptions& options);
   void takeDocument();
   void answer(const QString& word, QJsonObject message = {});
   void withdraw();

@@ -315,7 +315,8 @@ void PrintDialog::updateControls() {
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
   const bool isTaker = m_opening.summary().isAccepting && !m_chooser->isPending();
   const QString saveFault = m_opening.isPdf() ? m_preview->saveFault() : QString();
-  setPlainText(m_foot->printButton(), m_opening.isPdf() ? tr("Save…") : tr("Print"));
+  const QString print = m_options.acceptLabel.isEmpty() ? tr("Print") : m_options.acceptLabel;
+  setPlainText(m_foot->printButton(), m_opening.isPdf() ? tr("Save…") : print);
   m_foot->printButton().setEnabled(isQueueReady() && isTaker && !isMissing && saveFault.isNull());
   m_foot->printButton().setToolTip(isMissing ? tr("Choose a document to print.") : saveFault);
 }

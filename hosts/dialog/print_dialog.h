@@ -53,6 +53,8 @@ class PrintDialog : public QDialog {
   /// The print settings that travel with the job, as the panel last wrote them.
   QMap<QString, QString> jobSettings() const { return m_session.settings(); }
   QString queueName() const { return m_opening.wanted(); }
+  /// Whether a file is chosen in place of a printer.
+  bool savesPdf() const { return m_opening.isPdf(); }
   /// What is chosen of copies, pages and the queue's options.
   JobOptions& jobOptions() { return m_session.options(); }
   /// The pane of copies and pages.

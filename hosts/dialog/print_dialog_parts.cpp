@@ -128,9 +128,8 @@ void PrintDialog::connectQueues() {
   connect(&m_opening, &QueueOpening::settled, this, &PrintDialog::settleQueue);
 }
 
-// An application that draws its pages for a printer later has nothing to save yet.
 void PrintDialog::offerPdf() {
-  if (!m_options.documentLater) m_chooser->offerPdf();
+  if (m_options.offersPdf) m_chooser->offerPdf();
 }
 
 }  // namespace kesto

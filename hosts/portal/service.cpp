@@ -25,12 +25,22 @@ QJsonObject toJson(const QVariantMap& map) {
   return object;
 }
 
+// Without a list, an application can write every format.
+bool canWritePdf(const QVariantMap& options) {
+  const QVariant formats = options.value(QStringLiteral("supported_output_file_formats"));
+  return !formats.isValid() || formats.toStringList().contains(u"pdf");
+}
+
 QJsonObject openMessage(const QString& appId, const QString& parentWindow, const QString& title,
                         const QVariantMap& options) {
   return {{QStringLiteral("do"), QStringLiteral("open")},
           {QStringLiteral("title"), title},
           {QStringLiteral("parentWindow"), parentWindow},
           {QStringLiteral("appId"), appId},
+          {QStringLiteral("acceptLabel"), options.value(QStringLiteral("accept_label")).toString()},
+          {QStringLiteral("hasCurrentPage"), options.value(QStringLiteral("has_current_page")).toBool()},
+          {QStringLiteral("hasSelection"), options.value(QStringLiteral("has_selected_pages")).toBool()},
+          {QStringLiteral("canWritePdf"), canWritePdf(options)},
           {QStringLiteral("modal"), options.value(QStringLiteral("modal"), true).toBool()}};
 }
 

@@ -52,6 +52,8 @@ constexpr std::array values{
     Value{"collate", "true", "on yes", QT_TRANSLATE_NOOP("JobOptions", "On")},
     Value{"outputorder", "normal", "same-order false off no", QT_TRANSLATE_NOOP("JobOptions", "Off")},
     Value{"outputorder", "reverse", "reverse-order true on yes", QT_TRANSLATE_NOOP("JobOptions", "On")},
+    Value{"page-ranges", "\ncurrent", "", QT_TRANSLATE_NOOP("JobOptions", "Current page")},
+    Value{"page-ranges", "\nselection", "", QT_TRANSLATE_NOOP("JobOptions", "Selection")},
     Value{"page-set", "all", "", QT_TRANSLATE_NOOP("JobOptions", "All pages")},
     Value{"page-set", "odd", "", QT_TRANSLATE_NOOP("JobOptions", "Odd pages")},
     Value{"page-set", "even", "", QT_TRANSLATE_NOOP("JobOptions", "Even pages")},

@@ -279,7 +279,8 @@ QList<std::pair<QString, QString>> JobOptions::summary() const {
   for (const OptionRow& row : optionTable()) {
     const QString key = QLatin1String(row.key);
     if (isDefault(key) || !travels(key)) continue;
-    const QString shown = row.kind == OptionKind::Pages ? pages() : textOf(key, value(key));
+    const bool areNumbers = row.kind == OptionKind::Pages && !areOfApplication(value(key));
+    const QString shown = areNumbers ? pages() : textOf(key, value(key));
     if (!shown.isEmpty()) lines.append({text(key), shown});
   }
   return lines;

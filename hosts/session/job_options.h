@@ -21,9 +21,10 @@ class JobOptions : public QObject {
   /// Where a value comes from; a later one counts over an earlier one.
   enum class Source { Default, Kept, Preset, Given, Chosen };
 
-  /// A value of "page-ranges": pages that the application alone knows, such as the current one. No user can
-  /// write it.
-  static constexpr QLatin1String applicationsPages{"\n"};
+  /// Values of "page-ranges": pages that the application alone knows. No user can write them.
+  static constexpr QLatin1String currentPage{"\ncurrent"};
+  static constexpr QLatin1String selection{"\nselection"};
+  static bool areOfApplication(const QString& pages) { return pages.startsWith(u'\n'); }
 
   /// Goes over to a queue, whose PPD must stay until `close`: what it offers, and what is kept for it. Its
   /// PPD is marked with the values from now on.

@@ -32,6 +32,8 @@ void addOthers(const JobOptions& options, std::vector<OfferedOption>* offered) {
 
 QString shownPages(const JobOptions& options) {
   const QString pages = options.pages();
+  const QString asked = options.value(pagesKey);
+  if (JobOptions::areOfApplication(asked)) return options.textOf(pagesKey, asked);
   return pages.isNull() ? QCoreApplication::translate("JobOptions", "All pages")
                         : QCoreApplication::translate("JobOptions", "Pages %1").arg(pages);
 }
@@ -102,7 +104,7 @@ Headline headlineOf(const JobOptions& options, OptionGroup group) {
 
 QString faultOfPages(const JobOptions& options) {
   const QString asked = options.value(pagesKey);
-  if (asked.isNull() || asked == JobOptions::applicationsPages) return {};
+  if (asked.isNull() || JobOptions::areOfApplication(asked)) return {};
   if (!pageRangesOf(asked))
     return QCoreApplication::translate("JobOptions", "Enter page numbers or ranges, for example 1-3, 5.");
   if (options.pages().isNull())

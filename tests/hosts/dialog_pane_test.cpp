@@ -166,7 +166,7 @@ TEST_F(DialogPane, AHoldButtonLocksItsField) {
   EXPECT_EQ(line->text(), u"report.pdf"_s);
 }
 
-TEST_F(DialogPane, SecretsAreHiddenWhenTheFieldIsLeft) {
+TEST_F(DialogPane, SecretsAreHiddenUntilTheyAreShown) {
   auto* login = m_window.widget<QLineEdit>(u"loginNameEditText"_s);
   auto* password = m_window.widget<QLineEdit>(u"passwordEditText"_s);
   auto* code = m_window.widget<QLineEdit>(u"suspendKeyEditText"_s);

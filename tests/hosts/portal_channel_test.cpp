@@ -122,6 +122,8 @@ TEST(PortalSettings, MeaninglessValuesBecomeTheDefault) {
     EXPECT_EQ(choice.pages, PortalPages::All) << value;
   }
   EXPECT_EQ(asked("scale", u"0"_s).scale, 100);
+  EXPECT_EQ(choiceAskedFor(texts(u"number-up=1 dialog-number-up=4"_s), {}).numberUp, 4);
+  EXPECT_EQ(choiceAskedFor(texts(u"number-up=2 dialog-number-up=4"_s), {}).numberUp, 2);
   EXPECT_EQ(asked("number-up-layout", u"xxxx"_s).numberUpLayout, u"lrtb"_s);
   EXPECT_EQ(asked("page-set", u"some"_s).pageSet, PortalPageSet::All);
   EXPECT_TRUE(asked("collate", u""_s).isCollated);
@@ -145,6 +147,7 @@ TEST(PortalSettings, ThePrintSystemsOptionsAreNeutralForTheClient) {
       settingsToReturn(settings, choice),
       texts(u"n-copies=1 reverse=false number-up=1 number-up-layout=lrtb scale=100 page-set=all collate=true "
             "output-file-format=pdf quality=high print-pages=all orientation=portrait duplex=simplex "
+            "dialog-number-up=2 dialog-number-up-layout=rltb "
             "printer=Office paper-format=A4 paper-width=210.000000 paper-height=297.000000"_s));
 }
 

@@ -3,7 +3,9 @@
 
 #include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/portal_print.h"
+#include "hosts/dialog/widgets/plain_text.h"
 #include "tests/support/dialog_printer.h"
+#include "tests/support/more_choices.h"
 
 namespace kesto::test {
 namespace {
@@ -15,7 +17,8 @@ class PortalDialog : public DialogPrint {
     m_folder.write(u"empty"_s, {});
   }
   // Starts the dialog, and waits for its window.
-  void open(bool hasDocument, const QJsonObject& settings = {}, const QJsonObject& pageSetup = {}) {
+  void open(bool hasDocument, const QJsonObject& settings = {}, const QJsonObject& pageSetup = {},
+            QJsonObject more = {}) {
     Descriptor ours;
     Descriptor theirs;
     ASSERT_TRUE(PrintChannel::makePair(&ours, &theirs));
@@ -28,7 +31,10 @@ class PortalDialog : public DialogPrint {
       m_answers += message.value(u"answer"_s).toString() + u' ';
     });
     m_answers.clear();
-    say(u"open"_s, {{u"document"_s, hasDocument}, {u"settings"_s, settings}, {u"pageSetup"_s, pageSetup}});
+    more.insert(u"document"_s, hasDocument);
+    more.insert(u"settings"_s, settings);
+    more.insert(u"pageSetup"_s, pageSetup);
+    say(u"open"_s, more);
     await([] { return window() != nullptr; }, u"the dialog"_s);
   }
   void say(const QString& what, QJsonObject message = {}, int attached = -1) {
@@ -145,20 +151,48 @@ TEST_F(PortalDialog, PrintsOnlyACompleteDocument) {
 
 TEST_F(PortalDialog, TheClientsOwnPagesStayUnlessOthersAreChosen) {
   startPrinter();
-  for (const auto& [asked, isChanged, answered] : {std::tuple("current", false, "current"),
-                                                   {"selection", false, "selection"},
-                                                   {"selection", true, "all"}}) {
-    open(false, {{u"print-pages"_s, QLatin1String(asked)}});
+  for (const auto& [asked, clicked, answered] : {std::tuple(u"current"_s, u""_s, u"current"_s),
+                                                 {u"selection"_s, u""_s, u"selection"_s},
+                                                 {u"selection"_s, u"allPages"_s, u"all"_s},
+                                                 {u"all"_s, u"selection"_s, u"selection"_s}}) {
+    open(false, {{u"print-pages"_s, asked}}, {}, {{u"hasSelection"_s, true}});
     await([] { return window()->isQueueReady(); }, u"the queue"_s);
-    if (isChanged) {
-      EXPECT_TRUE(DialogUser(*window()).click(u"allPages"_s));
-    }
+    EXPECT_EQ(window()->findChild<QWidget*>(u"currentPage"_s)->isVisible(), asked == u"current");
+    EXPECT_TRUE(clicked.isEmpty() || DialogUser(*window()).click(clicked));
     pressPrint();
     awaitAnswers(u"chosen "_s);
-    EXPECT_EQ(m_said[u"settings"_s][u"print-pages"_s].toString(), QLatin1String(answered));
+    EXPECT_EQ(m_said[u"settings"_s][u"print-pages"_s].toString(), answered);
     say(u"close"_s);
     awaitEnd();
   }
+}
+
+TEST_F(PortalDialog, OptionsOfTheQueueComeFromTheClientAndGoBackToIt) {
+  startPrinter();
+  changePpd(u"Office_MFP"_s, fewChoices, moreChoices);
+  const QJsonObject settings =
+      json(R"({"use-color":"true", "quality":"high", "resolution":"1200", "default-source":"Tray2",
+      "media-type":"stationery-heavyweight", "output-bin":"upper", "cups-TonerSave":"True", "cups-Gloss":"On",
+      "number-up":"1", "dialog-number-up":"4"})");
+  open(false, settings, {}, {{u"acceptLabel"_s, u"_Share __now"_s}, {u"canWritePdf"_s, true}});
+  await([] { return window()->isQueueReady(); }, u"the queue"_s);
+  EXPECT_EQ(plainText(*window()->findChild<QWidget*>(u"print"_s)), u"Share _now"_s);
+  const QMap<QString, QString> shown = window()->jobOptions().travelling();
+  forEachValue(
+      u"OutputMode=Best Resolution=1200dpi InputSlot=Tray2 MediaType=Thick TonerSave=True number-up=4"_s,
+      [&](const QString& name, const QString& value) { EXPECT_EQ(shown[name], value) << name; });
+  window()->jobOptions().choose(u"MediaType"_s, u"Transparency"_s);
+  window()->jobOptions().choose(u"TonerSave"_s, u"False"_s);
+  window()->jobOptions().choose(u"number-up"_s, u"2"_s);
+  pressPrint();
+  awaitAnswers(u"chosen "_s);
+  const QJsonObject back = m_said[u"settings"_s].toObject();
+  forEachValue(
+      u"use-color=false quality=high resolution=1200 default-source=Tray2 media-type=Transparency "
+      "output-bin=Upper cups-TonerSave=False cups-Gloss=On number-up=1 dialog-number-up=2"_s,
+      [&](const QString& name, const QString& value) { EXPECT_EQ(back[name], value) << name; });
+  say(u"close"_s);
+  awaitEnd();
 }
 
 TEST_F(PortalDialog, ComesBackWithTheReasonWhenThereIsNothingToPrint) {

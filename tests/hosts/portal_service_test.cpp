@@ -80,9 +80,12 @@ class PortalServiceTest : public testing::Test {
   }
   QDBusPendingCall prepare(const QString& handle, const QVariantMap& settings = {},
                            const QVariantMap& pageSetup = {}) const {
-    return call("PreparePrint",
-                {QVariant::fromValue(QDBusObjectPath(handle)), u"org.example.App"_s, u"x11:2a"_s, u"Report"_s,
-                 settings, pageSetup, QVariantMap{{u"modal"_s, false}}});
+    return call("PreparePrint", {QVariant::fromValue(QDBusObjectPath(handle)), u"org.example.App"_s,
+                                 u"x11:2a"_s, u"Report"_s, settings, pageSetup,
+                                 QVariantMap{{u"modal"_s, false},
+                                             {u"accept_label"_s, u"_Share"_s},
+                                             {u"has_selected_pages"_s, true},
+                                             {u"supported_output_file_formats"_s, QStringList{u"ps"_s}}}});
   }
   QDBusPendingCall print(const QString& handle, const QVariant& token) const {
     QFile file(m_folder.path(u"document"_s));
@@ -160,7 +163,8 @@ TEST_F(PortalServiceTest, AsksAndPassesTheDocumentOn) {
   EXPECT_EQ(dialog.self, json(R"({"arguments":["--portal", "3"],
       "environment":{"QT_QPA_PLATFORMTHEME":"gtk3"}})"));
   EXPECT_EQ(dialog.next(), json(R"({"do":"open", "title":"Report", "parentWindow":"x11:2a",
-      "appId":"org.example.App", "modal":false, "document":false,
+      "appId":"org.example.App", "modal":false, "document":false, "acceptLabel":"_Share",
+      "hasCurrentPage":false, "hasSelection":true, "canWritePdf":false,
       "settings":{"n-copies":"3", "my-key":"Größe"}, "pageSetup":{"PPDName":"A4", "Width":210}})"));
   dialog.say(R"({"answer":"chosen","settings":{"n-copies":"1","cups-job-password":"7"},
                  "pageSetup":{"PPDName":"A5","Width":148}})"_ba.replace('\n', ""));

@@ -125,8 +125,7 @@ void OptionPane::addControl(OptionControl& control) {
     m_note->setText(note());
     Q_EMIT faultChanged();
   });
-  if (auto* pages = qobject_cast<PagesControl*>(&control); pages != nullptr && !m_applicationsPages.isNull())
-    pages->offerApplicationsPages(m_applicationsPages);
+  if (auto* pages = qobject_cast<PagesControl*>(&control)) pages->offer(m_applicationsPages);
   const QString text = control.label();
   if (text.isNull() && m_line != nullptr) {
     m_line->insertWidget(m_line->count() - 1, &control);
@@ -183,10 +182,10 @@ void OptionPane::filter(const QString& text) {
   }
 }
 
-void OptionPane::offerApplicationsPages(const QString& name) {
-  m_applicationsPages = name;
+void OptionPane::offerPages(const QString& pages) {
+  m_applicationsPages.append(pages);
   for (const Line& line : m_lines) {
-    if (auto* pages = qobject_cast<PagesControl*>(line.control)) pages->offerApplicationsPages(name);
+    if (auto* control = qobject_cast<PagesControl*>(line.control)) control->offer(m_applicationsPages);
   }
 }
 

@@ -25,8 +25,8 @@ class OptionPane : public QWidget {
   /// The name of its object: "general", "layout", "job" or "more".
   static QString nameOf(OptionGroup group);
 
-  /// Offers pages that the application alone knows, such as the current one.
-  void offerApplicationsPages(const QString& name);
+  /// Offers pages that the application alone knows: `JobOptions::currentPage` or `selection`.
+  void offerPages(const QString& pages);
   /// Offers what the queue has that the options are open for; call it whenever they go over to another.
   void showQueue();
 
@@ -66,7 +66,7 @@ class OptionPane : public QWidget {
   OptionGroup m_group;
   JobOptions& m_options;
   bool m_isMade = false;
-  QString m_applicationsPages;
+  QStringList m_applicationsPages;
   std::vector<Line> m_lines;
   QHBoxLayout* m_line = nullptr;  // of a number
   QString m_section;              // the last with a heading

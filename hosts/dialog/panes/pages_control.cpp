@@ -14,10 +14,12 @@ namespace kesto {
 PagesControl::PagesControl(const OfferedOption& option, JobOptions& options, QWidget* parent)
     : OptionControl(option, options, parent),
       m_all(addRadio(tr("All pages"), QStringLiteral("allPages"))),
-      m_applications(addRadio({}, QStringLiteral("ownPages"))),
+      m_applications{
+          {JobOptions::currentPage, addRadio(textOf(JobOptions::currentPage), QStringLiteral("currentPage"))},
+          {JobOptions::selection, addRadio(textOf(JobOptions::selection), QStringLiteral("selection"))},
+      },
       m_some(addRadio(tr("Selected pages"), QStringLiteral("somePages"))),
       m_pages(new QLineEdit(this)) {
-  m_applications->hide();
   m_pages->setPlaceholderText(tr("1-3, 5"));
   name(*m_pages, label(), QStringLiteral("pages"));
   auto* some = new QHBoxLayout;
@@ -26,9 +28,12 @@ PagesControl::PagesControl(const OfferedOption& option, JobOptions& options, QWi
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   column->addWidget(m_all);
-  column->addWidget(m_applications);
+  for (QRadioButton* radio : m_applications) {
+    radio->hide();
+    column->addWidget(radio);
+  }
   column->addLayout(some);
-  for (QRadioButton* radio : {m_all, m_applications, m_some}) {
+  for (QRadioButton* radio : QList{m_all, m_some} + m_applications.values()) {
     enterAtChosen(*radio);
     connect(radio, &QRadioButton::toggled, this, [this](bool isOn) {
       if (isOn) takePages();
@@ -41,6 +46,10 @@ PagesControl::PagesControl(const OfferedOption& option, JobOptions& options, QWi
   });
 }
 
+QString PagesControl::textOf(const QString& pages) const {
+  return options().textOf(option().key, pages);
+}
+
 QRadioButton* PagesControl::addRadio(const QString& text, const QString& objectName) {
   auto* radio = new QRadioButton(this);
   setPlainText(*radio, text);
@@ -48,10 +57,18 @@ QRadioButton* PagesControl::addRadio(const QString& text, const QString& objectN
   return radio;
 }
 
-void PagesControl::offerApplicationsPages(const QString& name) {
-  setPlainText(*m_applications, name);
-  m_applications->show();
+void PagesControl::offer(const QStringList& pages) {
+  for (const QString& each : pages)
+    m_applications[each]->show();
   showValue();
+}
+
+// The one whose value counts.
+QRadioButton* PagesControl::chosenRadio() const {
+  const QString pages = value();
+  if (pages.isNull()) return m_all;
+  QRadioButton* radio = m_applications.value(pages, m_some);
+  return radio->isHidden() ? m_some : radio;
 }
 
 QWidget* PagesControl::faultyField() {
@@ -65,16 +82,16 @@ bool PagesControl::isTouched() const {
 
 void PagesControl::takePages() {
   if (m_all->isChecked()) return take(QString());
-  if (m_applications->isChecked()) return take(JobOptions::applicationsPages);
+  for (auto it = m_applications.begin(); it != m_applications.end(); ++it) {
+    if (it.value()->isChecked()) return take(it.key());
+  }
   if (m_some->isChecked()) take(m_pages->text() + QLatin1String(""));
 }
 
 void PagesControl::showValue() {
-  const QString pages = value();
-  const bool areApplications = !m_applications->isHidden() && pages == JobOptions::applicationsPages;
-  if (!pages.isNull() && !areApplications && m_pages->text() != pages) m_pages->setText(pages);
-  QRadioButton* some = areApplications ? m_applications : m_some;
-  (pages.isNull() ? m_all : some)->setChecked(true);
+  QRadioButton* radio = chosenRadio();
+  if (radio == m_some && m_pages->text() != value()) m_pages->setText(value());
+  radio->setChecked(true);
   mark(*m_pages, isTouched() ? fault() : QString());
 }
 

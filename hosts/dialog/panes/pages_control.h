@@ -14,8 +14,8 @@ class PagesControl : public OptionControl {
  public:
   PagesControl(const OfferedOption& option, JobOptions& options, QWidget* parent);
 
-  /// Offers pages that the application alone knows, such as the current one.
-  void offerApplicationsPages(const QString& name);
+  /// Offers pages that the application alone knows: `JobOptions::currentPage` and `selection`.
+  void offer(const QStringList& pages);
 
   QWidget* field() override { return nullptr; }
   void showValue() override;
@@ -25,11 +25,13 @@ class PagesControl : public OptionControl {
   QString note() const override;
 
  private:
+  QString textOf(const QString& pages) const;
+  QRadioButton* chosenRadio() const;
   QRadioButton* addRadio(const QString& text, const QString& objectName);
   void takePages();
 
   QRadioButton* m_all;
-  QRadioButton* m_applications;
+  QMap<QString, QRadioButton*> m_applications;  // by their value
   QRadioButton* m_some;
   QLineEdit* m_pages;
 };

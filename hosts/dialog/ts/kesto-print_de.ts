@@ -153,6 +153,14 @@
 <context>
     <name>JobOptions</name>
     <message>
+        <source>Current page</source>
+        <translation>Aktuelle Seite</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
         <source>Collate</source>
         <translation>Sortieren</translation>
     </message>
@@ -1565,17 +1573,6 @@
     <message>
         <source>Enter a percentage between %1 and %2.</source>
         <translation>Geben Sie einen Prozentsatz zwischen %1 und %2 ein.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PortalPrint</name>
-    <message>
-        <source>Current page</source>
-        <translation>Aktuelle Seite</translation>
-    </message>
-    <message>
-        <source>Selection</source>
-        <translation>Auswahl</translation>
     </message>
 </context>
 <context>

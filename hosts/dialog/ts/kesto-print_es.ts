@@ -153,6 +153,14 @@
 <context>
     <name>JobOptions</name>
     <message>
+        <source>Current page</source>
+        <translation>Página actual</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Selección</translation>
+    </message>
+    <message>
         <source>Collate</source>
         <translation>Intercalar</translation>
     </message>
@@ -1565,17 +1573,6 @@
     <message>
         <source>Enter a percentage between %1 and %2.</source>
         <translation>Introduzca un porcentaje entre %1 y %2.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PortalPrint</name>
-    <message>
-        <source>Current page</source>
-        <translation>Página actual</translation>
-    </message>
-    <message>
-        <source>Selection</source>
-        <translation>Selección</translation>
     </message>
 </context>
 <context>

@@ -153,6 +153,14 @@
 <context>
     <name>JobOptions</name>
     <message>
+        <source>Current page</source>
+        <translation>Page actuelle</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
         <source>Collate</source>
         <translation>Assembler</translation>
     </message>
@@ -1565,17 +1573,6 @@
     <message>
         <source>Enter a percentage between %1 and %2.</source>
         <translation>Saisissez un pourcentage compris entre %1 et %2.</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PortalPrint</name>
-    <message>
-        <source>Current page</source>
-        <translation>Page actuelle</translation>
-    </message>
-    <message>
-        <source>Selection</source>
-        <translation>Sélection</translation>
     </message>
 </context>
 <context>

@@ -153,6 +153,14 @@
 <context>
     <name>JobOptions</name>
     <message>
+        <source>Current page</source>
+        <translation>現在のページ</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>選択した部分</translation>
+    </message>
+    <message>
         <source>Collate</source>
         <translation>部単位で印刷</translation>
     </message>
@@ -1564,17 +1572,6 @@
     <message>
         <source>Enter a percentage between %1 and %2.</source>
         <translation>%1 ～ %2 のパーセント値を入力してください。</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PortalPrint</name>
-    <message>
-        <source>Current page</source>
-        <translation>現在のページ</translation>
-    </message>
-    <message>
-        <source>Selection</source>
-        <translation>選択した部分</translation>
     </message>
 </context>
 <context>

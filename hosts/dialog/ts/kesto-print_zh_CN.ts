@@ -153,6 +153,14 @@
 <context>
     <name>JobOptions</name>
     <message>
+        <source>Current page</source>
+        <translation>当前页</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>所选内容</translation>
+    </message>
+    <message>
         <source>Collate</source>
         <translation>逐份打印</translation>
     </message>
@@ -1564,17 +1572,6 @@
     <message>
         <source>Enter a percentage between %1 and %2.</source>
         <translation>请输入 %1 到 %2 之间的百分比。</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::PortalPrint</name>
-    <message>
-        <source>Current page</source>
-        <translation>当前页</translation>
-    </message>
-    <message>
-        <source>Selection</source>
-        <translation>所选内容</translation>
     </message>
 </context>
 <context>
