@@ -12,14 +12,23 @@ Ipp requestOf(ipp_op_t operation) {
   return requestTo(operation, "ipp://localhost/");
 }
 
+void addAttribute(ipp_attribute_t* attribute, ServerEvent* event) {
+  const QByteArrayView name(ippGetName(attribute));
+  const auto text = [&](int i = 0) { return QString::fromUtf8(ippGetString(attribute, i, nullptr)); };
+  if (name == "printer-name") event->queue = text();
+  if (name == "notify-job-id") event->job = ippGetInteger(attribute, 0);
+  if (name == "job-state") event->jobState = ippGetInteger(attribute, 0);
+  if (name == "notify-text") event->text = text();
+  for (int i = 0; name == "job-state-reasons" && i < ippGetCount(attribute); ++i)
+    event->jobReasons.append(text(i));
+}
+
 }  // namespace
 
-Outcome QueueEvents::subscribe() {
-  static const char* const events[] = {"printer-state-changed", "printer-added", "printer-deleted",
-                                       "printer-modified"};
+Outcome QueueEvents::subscribe(std::span<const char* const> events) {
   const Ipp request = requestOf(IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS);
-  ippAddStrings(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_KEYWORD, "notify-events", std::size(events),
-                nullptr, events);
+  ippAddStrings(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_KEYWORD, "notify-events",
+                static_cast<int>(events.size()), nullptr, events.data());
   ippAddString(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_KEYWORD, "notify-pull-method", nullptr, "ippget");
   ippAddInteger(request.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_INTEGER, "notify-lease-duration",
                 static_cast<int>(lease.count()));
@@ -32,17 +41,22 @@ Outcome QueueEvents::subscribe() {
   return Outcome::done();
 }
 
-Outcome QueueEvents::changedQueues(QSet<QString>* queues) {
+Outcome QueueEvents::take(std::vector<ServerEvent>* events) {
   const Ipp request = requestOf(IPP_OP_GET_NOTIFICATIONS);
   ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-subscription-ids", m_id);
   ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "notify-sequence-numbers", m_sequence);
   Ipp reply;
   if (Outcome asked = m_server.ask(request.get(), &reply); !asked) return asked;
+  bool isInside = false;
   for (ipp_attribute_t* each = ippFirstAttribute(reply.get()); each != nullptr;
        each = ippNextAttribute(reply.get())) {
-    const QByteArrayView name(ippGetName(each));
-    if (name == "notify-sequence-number") m_sequence = qMax(m_sequence, ippGetInteger(each, 0) + 1);
-    if (name == "printer-name") queues->insert(QString::fromUtf8(ippGetString(each, 0, nullptr)));
+    const bool isEvent = ippGetGroupTag(each) == IPP_TAG_EVENT_NOTIFICATION && ippGetName(each) != nullptr;
+    if (isEvent && !isInside) events->emplace_back();
+    isInside = isEvent;
+    if (!isEvent) continue;
+    addAttribute(each, &events->back());
+    if (QByteArrayView(ippGetName(each)) == "notify-sequence-number")
+      m_sequence = qMax(m_sequence, ippGetInteger(each, 0) + 1);
   }
   return Outcome::done();
 }

@@ -1,11 +1,22 @@
-// Changes of a print server's queues, as the server reports them.
+// What happens on a print server, as the server reports it.
 #pragma once
 
-#include <QtCore/QSet>
+#include <QtCore/QStringList>
+#include <span>
+#include <vector>
 
 #include "hosts/cups/print_server.h"
 
 namespace kesto {
+
+/// One event. What it is not about is empty or 0.
+struct ServerEvent {
+  QString queue;
+  int job = 0;
+  int jobState = 0;
+  QStringList jobReasons;
+  QString text;  ///< The server's words.
+};
 
 /// A subscription to events of all queues of one server. It is leased, and ends by itself when nobody asks
 /// any more.
@@ -14,11 +25,10 @@ class QueueEvents {
   /// `server` must outlive the subscription.
   explicit QueueEvents(PrintServer& server) : m_server(server) {}
 
-  /// Fails when the server refuses this user a subscription.
-  Outcome subscribe();
-  /// The queues that were changed, added or removed since the last call. Fails when the subscription has
-  /// ended or the server does not answer.
-  Outcome changedQueues(QSet<QString>* queues);
+  /// Subscribes to events by the standard's keywords. Fails when the server refuses this user a subscription.
+  Outcome subscribe(std::span<const char* const> events);
+  /// The events since the last call. Fails when the subscription has ended or the server does not answer.
+  Outcome take(std::vector<ServerEvent>* events);
   /// Ends the subscription.
   void cancel();
 

@@ -1,11 +1,15 @@
 #include "hosts/cups/queue_watch.h"
 
+#include <QtCore/QSet>
+
 #include "hosts/cups/queue_events.h"
 
 namespace kesto {
 namespace {
 
 constexpr std::chrono::seconds pollInterval(3);
+constexpr const char* queueEvents[] = {"printer-state-changed", "printer-added", "printer-deleted",
+                                       "printer-modified"};
 
 }  // namespace
 
@@ -30,18 +34,21 @@ class QueueWatch::Follower {
     m_isLost = false;
     // Without a subscription the list stays as it was.
     m_events.emplace(*m_server);
-    if (!m_events->subscribe()) m_events.reset();
+    if (!m_events->subscribe(queueEvents)) m_events.reset();
   }
 
   void follow() {
     if (m_isLost) return list();
     if (!m_events) return;
-    QSet<QString> names;
-    Outcome asked = m_events->changedQueues(&names);
+    std::vector<ServerEvent> events;
+    Outcome asked = m_events->take(&events);
     if (!asked) {
       // The scheduler closes idle connections, and forgets subscriptions when it restarts.
       return list();
     }
+    QSet<QString> names;
+    for (const ServerEvent& event : events)
+      names.insert(event.queue);
     for (const QString& name : std::as_const(names))
       tell(name);
   }

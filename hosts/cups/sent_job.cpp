@@ -2,6 +2,9 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <span>
+
+#include "hosts/cups/faults.h"
 #include "hosts/cups/option_array.h"
 
 namespace kesto {
@@ -40,6 +43,63 @@ Outcome orderAbout(PrintServer& server, const SentJob& job, ipp_t* request, cons
   return ordered ? ordered : Outcome::failed(attempt.arg(job.number).arg(ordered.reason()));
 }
 
+// One attribute of a reply after the other, as what C++ has for it.
+class Attributes {
+ public:
+  explicit Attributes(const Ipp& reply) : m_reply(reply.get()) {}
+  int number(const char* name) const { return qMax(0, ippGetInteger(find(name), 0)); }
+  QString text(const char* name) const { return texts(name).value(0); }
+  QStringList texts(const char* name) const {
+    QStringList texts;
+    ipp_attribute_t* attribute = find(name);
+    for (int i = 0; i < ippGetCount(attribute); ++i)
+      texts.append(QString::fromUtf8(ippGetString(attribute, i, nullptr)));
+    return texts;
+  }
+
+ private:
+  ipp_attribute_t* find(const char* name) const { return ippFindAttribute(m_reply, name, IPP_TAG_ZERO); }
+  ipp_t* m_reply;
+};
+
+void askFor(ipp_t* request, std::span<const char* const> attributes) {
+  ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                static_cast<int>(attributes.size()), nullptr, attributes.data());
+}
+
+Outcome askAboutPrinter(PrintServer& server, const SentJob& job, JobReport* report) {
+  static constexpr const char* asked[] = {"printer-state", "printer-state-reasons", "printer-state-message"};
+  const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uriOfQueue(job.queue));
+  askFor(request.get(), asked);
+  Ipp reply;
+  if (Outcome answered = server.ask(request.get(), &reply); !answered) return answered;
+  const Attributes printer(reply);
+  report->isPrinterStopped = printer.number("printer-state") == IPP_PSTATE_STOPPED;
+  report->printerReasons = printer.texts("printer-state-reasons");
+  report->printerMessage = printer.text("printer-state-message");
+  return Outcome::done();
+}
+
+// The server lists jobs in the order in which it prints them.
+Outcome countJobsAhead(PrintServer& server, const SentJob& job, JobReport* report) {
+  static constexpr const char* asked[] = {"job-id", "job-state"};
+  const Ipp request = requestTo(IPP_OP_GET_JOBS, uriOfQueue(job.queue));
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "not-completed");
+  askFor(request.get(), asked);
+  Ipp reply;
+  if (Outcome answered = server.ask(request.get(), &reply, IPP_STATUS_ERROR_NOT_FOUND); !answered)
+    return answered;
+  for (ipp_attribute_t* each = ippFirstAttribute(reply.get()); each != nullptr;
+       each = ippNextAttribute(reply.get())) {
+    const QByteArrayView name(ippGetName(each));
+    const int value = ippGetInteger(each, 0);
+    if (name == "job-id" && value == job.number) break;
+    if (name == "job-state" && (value == IPP_JSTATE_PENDING || value == IPP_JSTATE_PROCESSING))
+      ++report->jobsAhead;
+  }
+  return Outcome::done();
+}
+
 }  // namespace
 
 std::optional<SentJob> SentJob::of(const QString& text) {
@@ -69,6 +129,38 @@ Outcome changeJob(PrintServer& server, const SentJob& job, QMap<QString, QString
   const Ipp request = requestAbout(job, IPP_OP_SET_JOB_ATTRIBUTES);
   OptionArray(options).encode(request.get(), {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION});
   return orderAbout(server, job, request.get(), fault);
+}
+
+Outcome cancelJob(PrintServer& server, const SentJob& job) {
+  const Ipp request = requestAbout(job, IPP_OP_CANCEL_JOB);
+  return orderAbout(server, job, request.get(), Faults::tr("cannot cancel job %1: %2"));
+}
+
+Outcome reportJob(PrintServer& server, const SentJob& job, std::optional<JobReport>* report) {
+  static constexpr const char* asked[] = {
+      "job-state",      "job-state-reasons", "job-state-message",         "job-printer-state-message",
+      "job-hold-until", "job-impressions",   "job-impressions-completed", "job-media-sheets-completed"};
+  report->reset();
+  const Ipp request = requestAbout(job, IPP_OP_GET_JOB_ATTRIBUTES);
+  askFor(request.get(), asked);
+  Ipp reply;
+  if (Outcome answered = server.ask(request.get(), &reply, IPP_STATUS_ERROR_NOT_FOUND); !answered)
+    return answered;
+  const Attributes attributes(reply);
+  JobReport found{.state = attributes.number("job-state"),
+                  .reasons = attributes.texts("job-state-reasons"),
+                  .message = attributes.text("job-state-message"),
+                  .driverMessage = attributes.text("job-printer-state-message"),
+                  .holdUntil = attributes.text("job-hold-until"),
+                  .page = qMax(attributes.number("job-impressions-completed"),
+                               attributes.number("job-media-sheets-completed")),
+                  .pages = attributes.number("job-impressions")};
+  if (found.state == 0) return Outcome::done();
+  Outcome done = Outcome::done();
+  if (!found.isFinished()) done = askAboutPrinter(server, job, &found);
+  if (done && found.state == IPP_JSTATE_PENDING) done = countJobsAhead(server, job, &found);
+  if (done) *report = found;
+  return done;
 }
 
 }  // namespace kesto

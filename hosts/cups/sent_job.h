@@ -25,4 +25,29 @@ Outcome restartJob(PrintServer& server, const SentJob& job);
 /// accept all options.
 Outcome changeJob(PrintServer& server, const SentJob& job, QMap<QString, QString> options);
 
+/// Takes the job from the server, or stops its printing. Fails like `changeJob`, and for a finished job.
+Outcome cancelJob(PrintServer& server, const SentJob& job);
+
+/// What a server says about a job and, until it is finished, about its printer.
+struct JobReport {
+  int state = 0;            ///< IPP's job-state.
+  QStringList reasons{};    ///< Its job-state-reasons.
+  QString message{};        ///< The scheduler's last words about it.
+  QString driverMessage{};  ///< Those of its filters and its backend.
+  QString holdUntil{};      ///< Its job-hold-until.
+  int page = 0;             ///< The page that is printed, 0 when unknown.
+  int pages = 0;            ///< All its pages, 0 when unknown.
+  int jobsAhead = 0;        ///< The jobs that are printed before it.
+  bool isPrinterStopped = false;
+  QStringList printerReasons{};  ///< printer-state-reasons.
+  QString printerMessage{};
+
+  bool operator==(const JobReport&) const = default;
+  /// Whether nothing will change any more: the job is completed, canceled or aborted.
+  bool isFinished() const { return state > IPP_JSTATE_STOPPED; }
+};
+
+/// Asks for the report; none when the server does not know the job, or not any more. The job has a queue.
+Outcome reportJob(PrintServer& server, const SentJob& job, std::optional<JobReport>* report);
+
 }  // namespace kesto

@@ -20,6 +20,9 @@ Prints files, or standard input, with a printer's Job Handling.
   --folders [--address A]   fetch, keep and list the printer's folders
   --check QUEUE             tell what other users of the server see of a job's
                             options, and how to close it
+  --wait[=SECONDS]          print what becomes of the job until it is printed or
+                            held at the printer; ends with 1 if it is not, or
+                            with 4 if it still waits after SECONDS
   --json                    print JSON;  --timeout SECONDS  (5) wait no longer
 
   --hold only|after|sample  hold the job: unprinted, after printing it, or after
@@ -38,7 +41,7 @@ constexpr char helpOfMemory[] =
                             together with --with-codes
   --list-presets, --delete-preset NAME   do this alone, for -d or --ppd
   --help                    print this text
-Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel.
+Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 still waiting.
 )";
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "hosts/command/secret_input.h"
 #include "hosts/cups/option_array.h"
 #include "hosts/cups/queue.h"
+#include "hosts/lp/job_waiting.h"
 #include "hosts/lp/listings.h"
 #include "hosts/lp/submission.h"
 #include "hosts/session/panel_session.h"
@@ -89,6 +90,8 @@ class Job {
   // Prints the settings or sends the job; only then are entries and preset kept. What cannot be kept of them
   // is found before, as far as it can be.
   Outcome finish();
+  // What was sent, once it is.
+  SentJob sent() const { return {.queue = m_session.queue()->id, .number = m_id}; }
 
  private:
   Outcome makePresetToSave(Preset* preset) const;
@@ -103,6 +106,7 @@ class Job {
   const Options& m_options;
   PanelSession& m_session;
   PrintServer* m_server;  // null for a PPD file
+  int m_id = 0;
 };
 
 Outcome Job::enter(const Entries& entries) {
@@ -140,7 +144,7 @@ Outcome Job::finish() {
   if (Outcome made = makePresetToSave(&preset); !made) return made;
   if (m_options.task == Task::Print) {
     Outcome sent = submit(*m_server, m_session.queue()->id, m_options, m_session.options(),
-                          m_session.settings(), facts());
+                          m_session.settings(), &m_id, facts());
     if (!sent) return sent;
     Outcome kept = keep(preset);
     return kept ? kept : Outcome::failed(QStringLiteral("the job was sent, but: ") + kept.reason());
@@ -166,6 +170,13 @@ PanelStart startOf(const Options& options) {
           .keepsAside = options.task == Task::DryRun};
 }
 
+// What kesto-lp ends with once the job is sent, or could not be.
+ExitCode endOfJob(const Options& options, const Outcome& outcome, const SentJob& job,
+                  const QMap<QString, QString>& settings) {
+  if (!outcome || !options.wait) return ended(options, outcome);
+  return waitForJob(options, job, PrinterHold::of(settings));
+}
+
 ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
   StandardErrorAlerts alerts(options.messages());
   PanelSession session(alerts);
@@ -186,7 +197,8 @@ ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
     if (text) wipe(*text);
   }
   if (!entered) return ended(options, entered, ExitRefused);
-  return ended(options, job.finish());
+  const Outcome finished = job.finish();
+  return endOfJob(options, finished, job.sent(), session.settings());
 }
 
 // A queue without the panel prints as usual, and so does a job that the panel's driver never sees.
@@ -201,7 +213,9 @@ ExitCode runPlainJob(const Options& options, const JobOptions& job, const JobQue
                      QStringLiteral("the printer \"%1\" does not offer Job Handling").arg(queue.queue.id)));
   }
   if (options.task == Task::DryRun) return ended(options, printPairs({}, "=", options.json));
-  return ended(options, submit(*queue.server, queue.queue.id, options, job, {}));
+  SentJob sent{.queue = queue.queue.id};
+  const Outcome submitted = submit(*queue.server, sent.queue, options, job, {}, &sent.number);
+  return endOfJob(options, submitted, sent, {});
 }
 
 ExitCode runPresets(const Options& options) {

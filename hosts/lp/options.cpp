@@ -38,6 +38,7 @@ class CommandLine {
   void addField(std::size_t field);
   void addMemory(const char* name, bool remember);
   void addPresets();
+  void addWait();
   // What is wrong with the arguments, null for nothing.
   QString faultOfAll() const;
   QString faultOfTask() const;
@@ -49,6 +50,7 @@ class CommandLine {
   int m_tasks = 0;
   std::array<std::vector<CLI::Option*>, entryCount> m_ways;  // The options that give one entry.
   QString m_contradiction;
+  std::string m_wait;
 };
 
 // An empty name is what an unset variable of a script leaves.
@@ -90,6 +92,7 @@ CommandLine::CommandLine(Options& options) : m_options(options) {
   addMemory("--forget", false);
   addPresets();
   refuseFlagValues(m_app);
+  addWait();  // the only flag with a value
 }
 
 CLI::Option* CommandLine::addText(const std::string& name, std::optional<QString>* value) {
@@ -259,6 +262,17 @@ void CommandLine::addPresets() {
   m_app.add_flag("--with-codes", m_options.withCodes)->needs(save);
 }
 
+void CommandLine::addWait() {
+  const auto take = [this](std::string value) {
+    m_options.wait = true;
+    if (value == "true") return;  // it has none
+    const std::string fault = wholeNumber("the seconds", 1, 999'999)(value);
+    if (!fault.empty()) throw CLI::ValidationError("--wait", fault);
+    m_options.waitLimit = std::chrono::seconds(std::stoi(value));
+  };
+  m_app.add_flag("--wait", m_wait)->each(take);
+}
+
 std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
   QString fault;
   try {
@@ -284,6 +298,8 @@ QString CommandLine::faultOfAll() const {
   if (const std::string fault = faultOfUnknown(m_app); !fault.empty()) return QString::fromStdString(fault);
   if (!m_contradiction.isNull()) return m_contradiction;
   if (QString fault = faultOfTask(); !fault.isNull()) return fault;
+  if (m_options.wait && m_options.task != Task::Print)
+    return QStringLiteral("--wait requires a job to print");
   if (QString fault = faultOfQueue(); !fault.isNull()) return fault;
   const auto fromInput = [](const SecretSource& source) { return source.file == QLatin1String("-"); };
   if (std::ranges::count_if(m_options.secrets, fromInput) < 2) return {};

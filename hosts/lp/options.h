@@ -14,7 +14,7 @@
 
 namespace kesto {
 
-enum ExitCode { ExitDone = 0, ExitFailed = 1, ExitUsage = 2, ExitRefused = 3 };
+enum ExitCode { ExitDone = 0, ExitFailed = 1, ExitUsage = 2, ExitRefused = 3, ExitWaiting = 4 };
 
 /// Where a secret comes from if not from the command line.
 struct SecretSource {
@@ -35,13 +35,15 @@ struct Options {
   std::optional<QString> deviceUri;  ///< The device URI that goes with `ppd`.
   std::optional<QString> queue;      ///< Its name; none for the default queue, or for that of the PPD's file.
 
-  QByteArrayList files;               ///< Paths; "-" is standard input, and none means it alone.
-  std::optional<QString> title;       ///< The job's own name.
-  QMap<QString, QString> jobOptions;  ///< By name.
-  std::optional<SentJob> job;         ///< The job to change.
-  bool restart = false;               ///< Print that job again.
-  bool mail = false;                  ///< To the user, when the job has been printed.
-  QStringList warnings;               ///< Messages about options without effect.
+  QByteArrayList files;                           ///< Paths; "-" is standard input, and none means it alone.
+  std::optional<QString> title;                   ///< The job's own name.
+  QMap<QString, QString> jobOptions;              ///< By name.
+  std::optional<SentJob> job;                     ///< The job to change.
+  bool restart = false;                           ///< Print that job again.
+  bool mail = false;                              ///< To the user, when the job has been printed.
+  bool wait = false;                              ///< For the end of the job.
+  std::optional<std::chrono::seconds> waitLimit;  ///< No longer than this.
+  QStringList warnings;                           ///< Messages about options without effect.
   bool json = false;
   bool silent = false;
   bool summary = false;

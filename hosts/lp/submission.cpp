@@ -67,9 +67,8 @@ bool goesRaw(const JobOptions& job) {
 }
 
 Outcome submit(PrintServer& server, const QString& queue, const Options& options, const JobOptions& given,
-               const QMap<QString, QString>& settings, QJsonObject facts) {
+               const QMap<QString, QString>& settings, int* id, QJsonObject facts) {
   const PrintJob job = jobOf(options, given, settings);
-  int id = 0;
   {
     // Ctrl-C cancels a job that is not whole; a second one does not wait for that.
     HeldSignals signals(SA_RESETHAND);
@@ -79,16 +78,16 @@ Outcome submit(PrintServer& server, const QString& queue, const Options& options
       if (isWatched) line.show(document, sent, total);
       return !signals.hasCome();
     };
-    if (Outcome sent = sendJob(server, queue, job, progress, &id); !sent) return sent;
+    if (Outcome sent = sendJob(server, queue, job, progress, id); !sent) return sent;
     signals.drop();
   }
   if (options.silent) return Outcome::done();
   if (options.json) {
-    facts.insert(QStringLiteral("job"), id);
+    facts.insert(QStringLiteral("job"), *id);
     std::cout << QJsonDocument(facts).toJson(QJsonDocument::Compact).constData() << '\n';
   } else {
     const std::size_t files = std::max(std::size_t{1}, job.files.size());
-    std::cout << "request id is " << shownText(queue).toStdString() << '-' << id << " (" << files
+    std::cout << "request id is " << shownText(queue).toStdString() << '-' << *id << " (" << files
               << " file(s))\n";
   }
   return Outcome::done();

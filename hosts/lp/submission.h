@@ -17,8 +17,8 @@ bool goesRaw(const JobOptions& job);
 
 /// Sends the job that the options describe with the panel's settings (none without a panel), tells of a long
 /// upload at a terminal, and prints the job's number, in JSON with `facts` beside it, unless it is to be
-/// silent.
+/// silent. `*id` is that number.
 Outcome submit(PrintServer& server, const QString& queue, const Options& options, const JobOptions& given,
-               const QMap<QString, QString>& settings, QJsonObject facts = {});
+               const QMap<QString, QString>& settings, int* id, QJsonObject facts = {});
 
 }  // namespace kesto

@@ -1352,6 +1352,14 @@
         <source>nothing was printed before</source>
         <translation>todavía no se ha imprimido nada</translation>
     </message>
+    <message>
+        <source>the print server no longer knows the job</source>
+        <translation>el servidor de impresión ya no conoce el trabajo</translation>
+    </message>
+    <message>
+        <source>cannot cancel job %1: %2</source>
+        <translation>no se puede cancelar el trabajo %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -1873,6 +1881,240 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Los demás usuarios pueden ver %1. Para ocultarlo, añada estas líneas a la política «%2» del servidor de impresión:</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>Connecting</source>
+        <translation>Conectando</translation>
+    </message>
+    <message>
+        <source>Cover open</source>
+        <translation>Cubierta abierta</translation>
+    </message>
+    <message>
+        <source>Driver missing</source>
+        <translation>Falta el controlador</translation>
+    </message>
+    <message>
+        <source>Out of developer</source>
+        <translation>Sin revelador</translation>
+    </message>
+    <message>
+        <source>Developer low</source>
+        <translation>Queda poco revelador</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>Puerta abierta</translation>
+    </message>
+    <message>
+        <source>Too hot</source>
+        <translation>Demasiado caliente</translation>
+    </message>
+    <message>
+        <source>Warming up</source>
+        <translation>Calentando</translation>
+    </message>
+    <message>
+        <source>Holding new jobs</source>
+        <translation>Retiene los trabajos nuevos</translation>
+    </message>
+    <message>
+        <source>Paper tray missing</source>
+        <translation>Falta la bandeja de papel</translation>
+    </message>
+    <message>
+        <source>Out of ink or toner</source>
+        <translation>Sin tinta o tóner</translation>
+    </message>
+    <message>
+        <source>Ink or toner low</source>
+        <translation>Queda poca tinta o tóner</translation>
+    </message>
+    <message>
+        <source>Waste toner almost full</source>
+        <translation>Recipiente de tóner residual casi lleno</translation>
+    </message>
+    <message>
+        <source>Waste toner full</source>
+        <translation>Recipiente de tóner residual lleno</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>Sin papel</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>Atasco de papel</translation>
+    </message>
+    <message>
+        <source>Paper low</source>
+        <translation>Queda poco papel</translation>
+    </message>
+    <message>
+        <source>Paper needed</source>
+        <translation>Se necesita papel</translation>
+    </message>
+    <message>
+        <source>Pausing</source>
+        <translation>Deteniéndose</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Fuera de línea</translation>
+    </message>
+    <message>
+        <source>Drum worn out</source>
+        <translation>Tambor agotado</translation>
+    </message>
+    <message>
+        <source>Drum almost worn out</source>
+        <translation>Tambor casi agotado</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Requiere atención</translation>
+    </message>
+    <message>
+        <source>Output tray almost full</source>
+        <translation>Bandeja de salida casi llena</translation>
+    </message>
+    <message>
+        <source>Output tray full</source>
+        <translation>Bandeja de salida llena</translation>
+    </message>
+    <message>
+        <source>Output tray missing</source>
+        <translation>Falta la bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>Turned off</source>
+        <translation>Apagada</translation>
+    </message>
+    <message>
+        <source>Printer memory full</source>
+        <translation>Memoria de la impresora llena</translation>
+    </message>
+    <message>
+        <source>Partly stopped</source>
+        <translation>Detenida en parte</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>Parando</translation>
+    </message>
+    <message>
+        <source>Not responding</source>
+        <translation>No responde</translation>
+    </message>
+    <message>
+        <source>Out of toner</source>
+        <translation>Sin tóner</translation>
+    </message>
+    <message>
+        <source>Toner low</source>
+        <translation>Queda poco tóner</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::JobWatch</name>
+    <message>
+        <source>Waiting for the printer</source>
+        <translation>Esperando a la impresora</translation>
+    </message>
+    <message>
+        <source>Waiting for 1 other job</source>
+        <translation>Esperando a otro trabajo</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 other jobs</source>
+        <translation>Esperando a otros %1 trabajos</translation>
+    </message>
+    <message>
+        <source>Held: the printer asks for a password</source>
+        <translation>Retenido: la impresora pide una contraseña</translation>
+    </message>
+    <message>
+        <source>Held until its time to print</source>
+        <translation>Retenido hasta la hora de imprimir</translation>
+    </message>
+    <message>
+        <source>Held until it is released</source>
+        <translation>Retenido hasta que se libere</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprimiendo</translation>
+    </message>
+    <message>
+        <source>Printing page %1</source>
+        <translation>Imprimiendo la página %1</translation>
+    </message>
+    <message>
+        <source>Printing page %1 of %2</source>
+        <translation>Imprimiendo la página %1 de %2</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>Detenido: %1</translation>
+    </message>
+    <message>
+        <source>Stopped: the printer is paused</source>
+        <translation>Detenido: la impresora está en pausa</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you enter your pass code there</source>
+        <translation>Espera en %1 hasta que introduzca allí su código de acceso</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you release it there</source>
+        <translation>Espera en %1 hasta que lo libere allí</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Impreso</translation>
+    </message>
+    <message>
+        <source>Printed, and kept at %1 for printing again</source>
+        <translation>Impreso y guardado en %1 para volver a imprimirlo</translation>
+    </message>
+    <message>
+        <source>One copy is printed, the others wait at %1</source>
+        <translation>Se ha impreso una copia; las demás esperan en %1</translation>
+    </message>
+    <message>
+        <source>Canceled by %1</source>
+        <translation>Cancelado por %1</translation>
+    </message>
+    <message>
+        <source>Canceled at the printer</source>
+        <translation>Cancelado en la impresora</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Stopped by the print server</source>
+        <translation>Detenido por el servidor de impresión</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>No se ha impreso</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job is printed</source>
+        <translation>No se sabe si el trabajo se ha impreso</translation>
     </message>
 </context>
 </TS>

@@ -1352,6 +1352,14 @@
         <source>nothing was printed before</source>
         <translation>rien n’a encore été imprimé</translation>
     </message>
+    <message>
+        <source>the print server no longer knows the job</source>
+        <translation>le serveur d’impression ne connaît plus le travail</translation>
+    </message>
+    <message>
+        <source>cannot cancel job %1: %2</source>
+        <translation>impossible d’annuler le travail %1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -1873,6 +1881,240 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Les autres utilisateurs peuvent voir %1. Pour le masquer, ajoutez ces lignes à la politique «&#xa0;%2&#xa0;» du serveur d’impression&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>Connecting</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>Cover open</source>
+        <translation>Capot ouvert</translation>
+    </message>
+    <message>
+        <source>Driver missing</source>
+        <translation>Pilote manquant</translation>
+    </message>
+    <message>
+        <source>Out of developer</source>
+        <translation>Plus de développeur</translation>
+    </message>
+    <message>
+        <source>Developer low</source>
+        <translation>Développeur faible</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>Porte ouverte</translation>
+    </message>
+    <message>
+        <source>Too hot</source>
+        <translation>Trop chaud</translation>
+    </message>
+    <message>
+        <source>Warming up</source>
+        <translation>Préchauffage</translation>
+    </message>
+    <message>
+        <source>Holding new jobs</source>
+        <translation>Nouvelles tâches retenues</translation>
+    </message>
+    <message>
+        <source>Paper tray missing</source>
+        <translation>Bac à papier absent</translation>
+    </message>
+    <message>
+        <source>Out of ink or toner</source>
+        <translation>Plus d’encre ou de toner</translation>
+    </message>
+    <message>
+        <source>Ink or toner low</source>
+        <translation>Encre ou toner faible</translation>
+    </message>
+    <message>
+        <source>Waste toner almost full</source>
+        <translation>Bac de toner usagé presque plein</translation>
+    </message>
+    <message>
+        <source>Waste toner full</source>
+        <translation>Bac de toner usagé plein</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>Plus de papier</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>Bourrage papier</translation>
+    </message>
+    <message>
+        <source>Paper low</source>
+        <translation>Papier faible</translation>
+    </message>
+    <message>
+        <source>Paper needed</source>
+        <translation>Papier requis</translation>
+    </message>
+    <message>
+        <source>Pausing</source>
+        <translation>Mise en pause</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Hors ligne</translation>
+    </message>
+    <message>
+        <source>Drum worn out</source>
+        <translation>Tambour usé</translation>
+    </message>
+    <message>
+        <source>Drum almost worn out</source>
+        <translation>Tambour presque usé</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Intervention nécessaire</translation>
+    </message>
+    <message>
+        <source>Output tray almost full</source>
+        <translation>Bac de sortie presque plein</translation>
+    </message>
+    <message>
+        <source>Output tray full</source>
+        <translation>Bac de sortie plein</translation>
+    </message>
+    <message>
+        <source>Output tray missing</source>
+        <translation>Bac de sortie absent</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Turned off</source>
+        <translation>Éteinte</translation>
+    </message>
+    <message>
+        <source>Printer memory full</source>
+        <translation>Mémoire de l’imprimante pleine</translation>
+    </message>
+    <message>
+        <source>Partly stopped</source>
+        <translation>Arrêtée en partie</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>Arrêt en cours</translation>
+    </message>
+    <message>
+        <source>Not responding</source>
+        <translation>Ne répond pas</translation>
+    </message>
+    <message>
+        <source>Out of toner</source>
+        <translation>Plus de toner</translation>
+    </message>
+    <message>
+        <source>Toner low</source>
+        <translation>Toner faible</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::JobWatch</name>
+    <message>
+        <source>Waiting for the printer</source>
+        <translation>En attente de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Waiting for 1 other job</source>
+        <translation>En attente d’un autre travail</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 other jobs</source>
+        <translation>En attente de %1 autres travaux</translation>
+    </message>
+    <message>
+        <source>Held: the printer asks for a password</source>
+        <translation>Retenu&#xa0;: l’imprimante demande un mot de passe</translation>
+    </message>
+    <message>
+        <source>Held until its time to print</source>
+        <translation>Retenu jusqu’à l’heure d’impression</translation>
+    </message>
+    <message>
+        <source>Held until it is released</source>
+        <translation>Retenu jusqu’à sa libération</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression en cours</translation>
+    </message>
+    <message>
+        <source>Printing page %1</source>
+        <translation>Impression de la page %1</translation>
+    </message>
+    <message>
+        <source>Printing page %1 of %2</source>
+        <translation>Impression de la page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>Arrêté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Stopped: the printer is paused</source>
+        <translation>Arrêté&#xa0;: l’imprimante est en pause</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you enter your pass code there</source>
+        <translation>Attend sur %1 que vous y saisissiez votre code d’accès</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you release it there</source>
+        <translation>Attend sur %1 que vous le libériez</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Imprimé</translation>
+    </message>
+    <message>
+        <source>Printed, and kept at %1 for printing again</source>
+        <translation>Imprimé et conservé sur %1 pour une réimpression</translation>
+    </message>
+    <message>
+        <source>One copy is printed, the others wait at %1</source>
+        <translation>Un exemplaire est imprimé, les autres attendent sur %1</translation>
+    </message>
+    <message>
+        <source>Canceled by %1</source>
+        <translation>Annulé par %1</translation>
+    </message>
+    <message>
+        <source>Canceled at the printer</source>
+        <translation>Annulé sur l’imprimante</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>Stopped by the print server</source>
+        <translation>Arrêté par le serveur d’impression</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>Non imprimé</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job is printed</source>
+        <translation>On ne sait pas si le travail est imprimé</translation>
     </message>
 </context>
 </TS>
