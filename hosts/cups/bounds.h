@@ -19,6 +19,6 @@ constexpr int waitsOfReply = 10;
 /// multiple.
 constexpr int waitsOfConnect = 2;
 /// How often a request is sent again with other credentials or encrypted.
-constexpr int mostAttempts = 4;
+constexpr int mostAttempts = 10;
 
 }  // namespace kesto

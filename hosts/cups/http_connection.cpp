@@ -7,6 +7,7 @@
 
 #include "hosts/cups/bounds.h"
 #include "hosts/cups/faults.h"
+#include "platform/secret.h"
 
 namespace kesto {
 namespace {
@@ -74,20 +75,29 @@ Outcome HttpConnection::findAddresses(const QByteArray& host, int port) {
 }
 
 Outcome HttpConnection::open(std::chrono::milliseconds limit, std::shared_ptr<Watchdog> watchdog,
+                             std::shared_ptr<PasswordKeeper> passwords,
                              std::unique_ptr<HttpConnection>* connection) {
   connection->reset();
-  std::unique_ptr<HttpConnection> made(new HttpConnection(limit, std::move(watchdog)));
-  const QByteArray host = cupsServer();
-  const int port = ippPort();
-  made->m_name = QString::fromUtf8(host);
-  if (!host.startsWith('/')) made->m_name += QStringLiteral(":%1").arg(port);
-  if (Outcome found = made->findAddresses(host, port); !found) return found;
-  made->m_http.reset(httpConnect2(host.constData(), port, made->m_addresses.get(), AF_UNSPEC,
-                                  cupsEncryption(), 1, 0, nullptr));
-  if (!made->m_http) return Outcome::failed(QStringLiteral("not enough memory for a connection"));
-  httpSetTimeout(made->m_http.get(), std::chrono::duration<double>(limit).count(), giveUp, made.get());
+  std::unique_ptr<HttpConnection> made(new HttpConnection(limit, std::move(watchdog), std::move(passwords)));
+  made->m_host = cupsServer();
+  made->m_port = ippPort();
+  made->m_name = QString::fromUtf8(made->m_host);
+  if (!made->m_host.startsWith('/')) made->m_name += QStringLiteral(":%1").arg(made->m_port);
+  if (Outcome found = made->findAddresses(made->m_host, made->m_port); !found) return found;
+  if (Outcome prepared = made->prepare(); !prepared) return prepared;
   if (Outcome connected = made->reconnect(); !connected) return connected;
   *connection = std::move(made);
+  return Outcome::done();
+}
+
+// Makes a connection that knows no password, and does not connect it yet.
+Outcome HttpConnection::prepare() {
+  m_http.reset(httpConnect2(m_host.constData(), m_port, m_addresses.get(), AF_UNSPEC, cupsEncryption(), 1, 0,
+                            nullptr));
+  if (!m_http) return Outcome::failed(QStringLiteral("not enough memory for a connection"));
+  httpSetTimeout(m_http.get(), std::chrono::duration<double>(m_limit).count(), giveUp, this);
+  m_hasGiven = false;
+  m_isUsable = false;
   return Outcome::done();
 }
 
@@ -111,11 +121,16 @@ Outcome HttpConnection::reconnect() {
 }
 
 Outcome HttpConnection::exchange(const HttpRequest& request, QByteArray* reply) {
+  m_tries = 0;
+  m_refusal = QString();
   for (int tries = 1;; ++tries) {
     // If something can be read before a request, it is the end of the connection.
     if (m_isUsable && httpCheck(m_http.get()) != 0) m_isUsable = false;
     if (!m_isUsable) {
       if (Outcome connected = reconnect(); !connected) return connected;
+    }
+    if (request.isSecret) {
+      if (Outcome isPrivate = makePrivate(); !isPrivate) return isPrivate;
     }
     if (Outcome answered = attempt(request, reply); !answered) return answered;
     if (m_status == HTTP_STATUS_OK) return Outcome::done();
@@ -157,7 +172,7 @@ Outcome HttpConnection::send(const HttpRequest& request, Watch& watch) {
   http_t* http = m_http.get();
   httpClearFields(http);
   // Credentials from an earlier attempt on this connection, if any.
-  if (const char* user = httpGetAuthString(http); user != nullptr)
+  if (const char* user = httpGetAuthString(http); user != nullptr && request.mayAskPassword)
     httpSetField(http, HTTP_FIELD_AUTHORIZATION, user);
   if (request.body.isEmpty()) {
     if (httpGet(http, request.resource.constData()) != 0) return noAnswer(watch);
@@ -229,18 +244,59 @@ Outcome HttpConnection::receive(qsizetype longest, QByteArray* reply) {
 
 // Whether another attempt may succeed, now with credentials or with encryption.
 bool HttpConnection::canTryAgain(const HttpRequest& request) {
+  if (m_status == HTTP_STATUS_UPGRADE_REQUIRED && httpIsEncrypted(m_http.get()) == 0) return encrypt();
+  return m_status == HTTP_STATUS_UNAUTHORIZED && request.mayAskPassword && !m_hasBegunDocument &&
+         authenticate(request);
+}
+
+bool HttpConnection::encrypt() {
   http_t* http = m_http.get();
-  if (m_status == HTTP_STATUS_UPGRADE_REQUIRED && httpIsEncrypted(http) == 0) {
-    const Watch watch(*m_watchdog, http, m_addresses.get(), m_limit * waitsOfConnect);
-    letGo(http);
-    httpReconnect2(http, static_cast<int>(m_limit.count()), m_watchdog->cancelFlag());
-    m_isUsable = httpEncryption(http, HTTP_ENCRYPTION_REQUIRED) == 0;
-    return m_isUsable;
-  }
-  if (m_hasBegunDocument) return false;
+  const Watch watch(*m_watchdog, http, m_addresses.get(), m_limit * waitsOfConnect);
+  letGo(http);
+  httpReconnect2(http, static_cast<int>(m_limit.count()), m_watchdog->cancelFlag());
+  m_isUsable = httpEncryption(http, HTTP_ENCRYPTION_REQUIRED) == 0;
+  return m_isUsable;
+}
+
+Outcome HttpConnection::makePrivate() {
+  if (httpIsEncrypted(m_http.get()) != 0 || httpAddrLocalhost(httpGetAddress(m_http.get())) != 0)
+    return Outcome::done();
+  if (encrypt()) return Outcome::done();
+  return Outcome::failed(Faults::tr("cannot connect to the print server %1 with encryption").arg(m_name));
+}
+
+// libcups finds the way of authentication, and asks for a password if that is the way. It would send a
+// refused password a second time before it asks for another, so it is given a new connection.
+bool HttpConnection::authenticate(const HttpRequest& request) {
+  if (m_hasGiven) return bool(prepare());
+  cupsSetPasswordCB2(askPassword, this);
   const char* method = request.body.isEmpty() ? "GET" : "POST";
-  return m_status == HTTP_STATUS_UNAUTHORIZED && request.mayAskPassword &&
-         cupsDoAuthentication(http, method, request.resource.constData()) == 0;
+  const bool isReady = cupsDoAuthentication(m_http.get(), method, request.resource.constData()) == 0;
+  cupsSetPasswordCB2(
+      [](const char*, http_t*, const char*, const char*, void*) -> const char* { return nullptr; }, nullptr);
+  wipe(m_password);
+  return isReady;
+}
+
+const char* HttpConnection::askPassword(const char* /*prompt*/, http_t* /*http*/, const char* /*method*/,
+                                        const char* /*resource*/, void* connection) {
+  return static_cast<HttpConnection*>(connection)->findPassword();
+}
+
+const char* HttpConnection::findPassword() {
+  if (m_passwords == nullptr) return nullptr;
+  PasswordQuestion question{.subject = m_name};
+  question.proposed.user = QString::fromUtf8(cupsUser());
+  Credentials found;
+  if (Outcome asked = m_passwords->find(question, m_given, &m_tries, &found); !asked) {
+    m_refusal = asked.reason();
+    return nullptr;
+  }
+  cupsSetUser(found.user.toUtf8().constData());
+  m_password = found.password.toUtf8();
+  m_given = std::move(found);
+  m_hasGiven = true;
+  return m_password.constData();
 }
 
 Outcome HttpConnection::noAnswer(const Watch& watch) const {
@@ -263,6 +319,7 @@ Outcome HttpConnection::outcomeOfStatus() const {
   // libcups has a status of its own for a password that was not given.
   const bool isPassword =
       m_status == HTTP_STATUS_UNAUTHORIZED || m_status >= HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+  if (isPassword && !m_refusal.isNull()) return Outcome::failed(m_refusal);
   if (isPassword) return Outcome::failed(Faults::tr("the print server %1 asks for a password").arg(m_name));
   return Outcome::failed(Faults::tr("the print server %1 answered: %2 (HTTP status %3)")
                              .arg(m_name, QString::fromUtf8(httpStatus(m_status)))

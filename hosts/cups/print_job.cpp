@@ -9,6 +9,7 @@
 #include <QtCore/QMimeDatabase>
 #include <cerrno>
 
+#include "hosts/cups/auth_info.h"
 #include "hosts/cups/faults.h"
 #include "platform/shown_text.h"
 #include "platform/text_encoding.h"
@@ -150,10 +151,21 @@ class OpenJob {
   OpenJob(const OpenJob&) = delete;
   OpenJob& operator=(const OpenJob&) = delete;
 
+  // Finds out what the printer wants to know of the user. The job may be refused even so.
+  Outcome prepare() {
+    const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, m_uri);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "auth-info-required");
+    Ipp reply;
+    Outcome asked = m_server.order(request.get(), "/", &reply);
+    return reply ? findAuthInfo(m_server, m_queue, reply.get(), &m_authInfo) : asked;
+  }
+
   Outcome create(const QString& title, const OptionArray& options) {
     Ipp request = requestTo(IPP_OP_CREATE_JOB, m_uri);
     addName(request.get(), "job-name", title);
     options.encode(request.get(), {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION});
+    addAuthInfo(request.get(), m_authInfo);
     Ipp reply;
     Outcome created = m_server.order(request.get(), m_resource, &reply);
     m_id = qMax(0, ippGetInteger(ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER), 0));
@@ -214,6 +226,7 @@ class OpenJob {
   QString m_queue;
   QByteArray m_uri;
   QByteArray m_resource;
+  QStringList m_authInfo;
   int m_id = 0;
   bool m_isKept = false;
 };
@@ -226,14 +239,14 @@ Outcome sendJob(PrintServer& server, const QString& queue, const PrintJob& job,
   std::vector<Document> documents;
   const auto goesOn = [&] { return progress(1, 0, -1); };
   if (Outcome opened = openDocuments(job.files, goesOn, &documents); !opened) return opened;
-  // A server that is silent now could later create an empty job from the request, so it is asked a question
-  // first.
-  if (Outcome answered = server.probe(); !answered) return answered;
   const OptionArray options(job.options);
   const char* wanted = options.value("document-format");
   const QByteArray format = job.isRaw ? CUPS_FORMAT_RAW : wanted == nullptr ? CUPS_FORMAT_AUTO : wanted;
 
   OpenJob open(server, queue);
+  // A server that is silent now could later create an empty job from the request, so it is asked a question
+  // first.
+  if (Outcome prepared = open.prepare(); !prepared) return prepared;
   if (Outcome created = open.create(job.title, options); !created) return created;
   for (std::size_t i = 0; i < documents.size(); ++i) {
     Document& document = documents[i];

@@ -99,12 +99,12 @@ Ipp requestTo(ipp_op_t operation, const QByteArray& printerUri, int job, const c
 }
 
 Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds limit,
-                             std::unique_ptr<PrintServer>* server,
-                             const std::shared_ptr<Watchdog>& watchdog) {
+                             std::unique_ptr<PrintServer>* server, const std::shared_ptr<Watchdog>& watchdog,
+                             const std::shared_ptr<PasswordKeeper>& passwords) {
   server->reset();
   if (!address.isNull()) cupsSetServer(address.toUtf8().constData());
   std::unique_ptr<HttpConnection> http;
-  if (Outcome opened = HttpConnection::open(limit, watchdog, &http); !opened) return opened;
+  if (Outcome opened = HttpConnection::open(limit, watchdog, passwords, &http); !opened) return opened;
   server->reset(new PrintServer(std::move(http)));
   return Outcome::done();
 }
@@ -150,15 +150,6 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
   return Outcome::done();
 }
 
-Outcome PrintServer::probe() {
-  const Ipp request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
-  askForName(request.get());
-  Ipp reply;
-  Outcome answered = this->request(request.get(), &reply);
-  // A demand for authentication is an answer as well.
-  return m_http->status() == HTTP_STATUS_ERROR ? answered : Outcome::done();
-}
-
 Outcome PrintServer::exchange(ipp_t* request, HttpRequest message, Ipp* reply) {
   message.body = bytesOfRequest(request);
   message.longestReply = longestReply;
@@ -172,13 +163,19 @@ Outcome PrintServer::request(ipp_t* request, Ipp* reply) {
 }
 
 Outcome PrintServer::ask(ipp_t* request, Ipp* reply, ipp_status_t allowed) {
-  Outcome asked = this->request(request, reply);
+  ipp_attribute_t* user = ippFindAttribute(request, "requesting-user-name", IPP_TAG_NAME);
+  const bool isOwn = user == nullptr || qstrcmp(ippGetString(user, 0, nullptr), cupsUser()) == 0;
+  Outcome asked = exchange(request, {.resource = "/", .mayAskPassword = isOwn}, reply);
   return asked ? outcomeOf(reply->get(), allowed) : asked;
 }
 
 Outcome PrintServer::order(ipp_t* request, const QByteArray& resource, Ipp* reply, const Document& document) {
-  Outcome ordered =
-      exchange(request, {.resource = resource, .document = document, .mayAskPassword = true}, reply);
+  Outcome ordered = exchange(request,
+                             {.resource = resource,
+                              .document = document,
+                              .mayAskPassword = true,
+                              .isSecret = ippFindAttribute(request, "auth-info", IPP_TAG_TEXT) != nullptr},
+                             reply);
   return ordered ? outcomeOf(reply->get(), IPP_STATUS_OK) : ordered;
 }
 

@@ -45,13 +45,12 @@ class PrintServer {
 
   /// Connects to `address` ("host", "host:port" or the path of a socket), or to the server that CUPS_SERVER
   /// and the configuration name when it is null. `limit` applies to every wait without progress; `watchdog`
-  /// ends all waits when it is interrupted.
+  /// ends all waits when it is interrupted; `passwords` has what a request needs that wants a password.
   static Outcome connect(const QString& address, std::chrono::milliseconds limit,
                          std::unique_ptr<PrintServer>* server,
-                         const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>());
+                         const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>(),
+                         const std::shared_ptr<PasswordKeeper>& passwords = {});
 
-  /// Whether the server answers at all.
-  Outcome probe();
   /// The queue `name`, or the user's default queue when it is null, with what the server and the user keep
   /// for it.
   Outcome findQueue(const QString& name, Destination* destination);
@@ -60,15 +59,18 @@ class PrintServer {
   /// What the list shows for one queue; none when the server has no such queue.
   Outcome summarize(const QString& name, std::optional<QueueSummary>* queue);
   /// Sends one request as the user that it names, and reads the reply, whatever its status. Never asks for a
-  /// password.
+  /// password, and sends none.
   Outcome request(ipp_t* request, Ipp* reply);
   /// Like `request`, but fails with the server's words when the reply reports an error other than `allowed`.
+  /// The user may be asked for a password unless the request is in another's name.
   Outcome ask(ipp_t* request, Ipp* reply, ipp_status_t allowed = IPP_STATUS_OK);
-  /// Like `ask`, for operations that may need authorisation: the user may be asked for a password. The
-  /// document follows the request.
+  /// Like `ask`, for operations that servers may allow at this resource alone. The document follows the
+  /// request.
   Outcome order(ipp_t* request, const QByteArray& resource, Ipp* reply, const Document& document = {});
   /// Fetches a PPD or another file; null when there is none.
   Outcome fetch(const QByteArray& resource, qsizetype longest, QByteArray* bytes);
+  /// Null when the user is not to be asked.
+  PasswordKeeper* passwords() const { return m_http->passwords(); }
 
  private:
   explicit PrintServer(std::unique_ptr<HttpConnection> http) : m_http(std::move(http)) {}

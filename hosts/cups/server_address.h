@@ -13,6 +13,8 @@ struct ServerAddress {
   QString address;  ///< "host", "host:port" or the path of a socket; null for the one of the environment.
   QString user;     ///< Null for the account's name.
   bool encrypt = false;
+  /// Has the user's passwords; null when the user is not to be asked.
+  std::shared_ptr<PasswordKeeper> passwords{};
   std::chrono::milliseconds limit = std::chrono::seconds(5);  ///< For each wait without progress.
 
   /// Opens a new connection for the calling thread.
@@ -20,7 +22,7 @@ struct ServerAddress {
                   const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>()) const {
     if (encrypt) cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
     if (!user.isNull()) cupsSetUser(user.toUtf8().constData());
-    return PrintServer::connect(address, limit, server, watchdog);
+    return PrintServer::connect(address, limit, server, watchdog, passwords);
   }
 };
 

@@ -24,6 +24,7 @@ Prints files, or standard input, with a printer's Job Handling.
                             held at the printer; ends with 1 if it is not, or
                             with 4 if it still waits after SECONDS
   --json                    print JSON;  --timeout SECONDS  (5) wait no longer
+  --server-password-file FILE   the password that the server or printer asks for
 
   --hold only|after|sample  hold the job: unprinted, after printing it, or after
                             a sample of it; --no-hold does not hold it

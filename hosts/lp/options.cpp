@@ -11,6 +11,8 @@
 #include "hosts/command/server_options.h"
 #include "hosts/cups/option_array.h"
 #include "hosts/lp/help_text.h"
+#include "hosts/lp/option_faults.h"
+#include "hosts/lp/server_password.h"
 #include "hosts/session/page_range.h"
 
 namespace kesto {
@@ -41,9 +43,6 @@ class CommandLine {
   void addWait();
   // What is wrong with the arguments, null for nothing.
   QString faultOfAll() const;
-  QString faultOfTask() const;
-  QString faultOfChange() const;
-  QString faultOfQueue() const;
 
   Options& m_options;
   CLI::App m_app;
@@ -136,6 +135,7 @@ CLI::Option* CommandLine::addUsualName(const std::string& name, std::optional<QS
 void CommandLine::addServer() {
   for (CLI::Option* usual : addServerOptions(m_app, &m_options.server))
     usual->trigger_on_parse()->check(refuseEmpty);
+  addName("--server-password-file", &m_options.serverPassword);
   addName("--ppd", &m_options.ppd);
   addName("--device-uri", &m_options.deviceUri);
   addUsualName("-d", &m_options.queue);
@@ -297,54 +297,10 @@ std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
 QString CommandLine::faultOfAll() const {
   if (const std::string fault = faultOfUnknown(m_app); !fault.empty()) return QString::fromStdString(fault);
   if (!m_contradiction.isNull()) return m_contradiction;
-  if (QString fault = faultOfTask(); !fault.isNull()) return fault;
-  if (m_options.wait && m_options.task != Task::Print)
-    return QStringLiteral("--wait requires a job to print");
-  if (QString fault = faultOfQueue(); !fault.isNull()) return fault;
-  const auto fromInput = [](const SecretSource& source) { return source.file == QLatin1String("-"); };
-  if (std::ranges::count_if(m_options.secrets, fromInput) < 2) return {};
-  return QStringLiteral("only one entry can be read from standard input");
-}
-
-QString CommandLine::faultOfTask() const {
-  const Task task = m_options.task;
   if (m_tasks > 1)
     return QStringLiteral(
         "use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset");
-  if (m_options.jobHandlingOnly && task != Task::ListQueues)
-    return QStringLiteral("--job-handling requires --list");
-  if (m_options.address && task != Task::ListFolders) return QStringLiteral("--address requires --folders");
-  if (m_options.summary && task != Task::DryRun) return QStringLiteral("--summary requires --dry-run");
-  if (m_options.restart && task != Task::Change) return QStringLiteral("-H restart requires -i JOB");
-  if (task == Task::Change) return faultOfChange();
-  if (task == Task::Print || task == Task::DryRun) return {};
-  const bool hasJob = m_options.wantsPanel() || m_options.title || !m_options.files.isEmpty() ||
-                      !m_options.jobOptions.isEmpty();
-  return hasJob ? QStringLiteral("a list cannot be combined with a job's options") : QString();
-}
-
-// What a job that is sent cannot be given any more.
-QString CommandLine::faultOfChange() const {
-  if (!m_options.files.isEmpty())
-    return QStringLiteral("-i changes a job that was already sent; leave out the files");
-  if (m_options.queue || m_options.ppd)
-    return QStringLiteral("-i changes a job where it is; leave out -d and --ppd");
-  if (m_options.wantsPanel())
-    return QStringLiteral("-i cannot change the Job Handling of a job that was already sent");
-  return {};
-}
-
-QString CommandLine::faultOfQueue() const {
-  const Task task = m_options.task;
-  if (task == Task::ListPresets || task == Task::DeletePreset) {
-    return m_options.queue || m_options.ppd ? QString()
-                                            : QStringLiteral("no printer is given; set it with -d or --ppd");
-  }
-  if (m_options.deviceUri && !m_options.ppd) return QStringLiteral("--device-uri requires --ppd");
-  if (!m_options.ppd) return {};
-  if (!m_options.deviceUri) return QStringLiteral("--ppd requires --device-uri");
-  if (task == Task::DryRun || task == Task::ListFolders) return {};
-  return QStringLiteral("--ppd requires --dry-run or --folders");
+  return faultOfOptions(m_options);
 }
 
 }  // namespace
@@ -357,6 +313,7 @@ bool Options::wantsPanel() const {
 std::optional<ExitCode> parseOptions(int argc, char** argv, Options* options) {
   const std::optional<ExitCode> end = CommandLine(*options).parse(argc, argv);
   wipeSecretArguments(argc, argv);
+  options->server.passwords = makePasswordKeeper(options->serverPassword);
   return end;
 }
 

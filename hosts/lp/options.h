@@ -31,9 +31,10 @@ enum class Task { Print, Change, DryRun, ListQueues, ListFolders, ListPresets, D
 struct Options {
   Task task = Task::Print;
   ServerAddress server;
-  std::optional<QString> ppd;        ///< A PPD file in place of a queue; no server is asked.
-  std::optional<QString> deviceUri;  ///< The device URI that goes with `ppd`.
-  std::optional<QString> queue;      ///< Its name; none for the default queue, or for that of the PPD's file.
+  std::optional<QString> serverPassword;  ///< The file with the password for `server`; "-" is standard input.
+  std::optional<QString> ppd;             ///< A PPD file in place of a queue; no server is asked.
+  std::optional<QString> deviceUri;       ///< The device URI that goes with `ppd`.
+  std::optional<QString> queue;  ///< Its name; none for the default queue, or for that of the PPD's file.
 
   QByteArrayList files;                           ///< Paths; "-" is standard input, and none means it alone.
   std::optional<QString> title;                   ///< The job's own name.

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "platform/descriptor.h"
+#include "tests/support/hostile_server.h"
 #include "tests/support/lp_program.h"
 
 namespace kesto::test {
@@ -68,13 +69,18 @@ class LpAtATerminal : public LpSecrets {
     ::close(m_terminal);
     ::close(m_master);
   }
-  std::unique_ptr<QProcess> ask() {
-    auto lp = process(dry(u"--hold only --ask-pin"_s));
+  std::unique_ptr<QProcess> ask(const QString& arguments) {
+    auto lp = process(arguments);
+    lp->setWorkingDirectory(m_folder.path(u""_s));
     lp->setChildProcessModifier([name = std::string(::ptsname(m_master))] {
       ::setsid();
       ::ioctl(::open(name.c_str(), O_RDWR), TIOCSCTTY, 0);
     });
     lp->start();
+    return lp;
+  }
+  std::unique_ptr<QProcess> ask() {
+    auto lp = ask(dry(u"--hold only --ask-pin"_s));
     EXPECT_EQ(read(), "Pass code: ");
     return lp;
   }
@@ -120,6 +126,39 @@ TEST_F(LpAtATerminal, TheEchoIsRestoredHoweverAProgramEnds) {
   expectEcho(false, SIGCONT);
   ASSERT_EQ(::write(m_master, "1234\n", 5), 5);
   EXPECT_EQ(finish(*lp).values(u"jobSuspend2Key"_s), pin1234);
+}
+
+TEST_F(LpAtATerminal, APasswordForThePrintServerMayBeTriedThreeTimes) {
+  const HostileServer server("anna:open sesame");
+  m_folder.write(u"right"_s, "open sesame\n");
+  m_folder.write(u"wrong"_s, "0815\n");
+  const QString asks = u"kesto-lp: the print server %1 asks for a password: "_s.arg(server.address());
+  const QString wrong =
+      u"kesto-lp: wrong user name or password for the print server %1\n"_s.arg(server.address());
+  using Case = std::tuple<Text, QByteArrayList, Text>;  // options, what is typed, the message
+  for (const auto& [options, typed, message] :
+       {Case{"--server-password-file right", {}, ""}, Case{"--server-password-file wrong", {}, wrong},
+        Case{"--server-password-file none",
+             {},
+             asks + u"--server-password-file: none: No such file or directory\n"_s},
+        Case{"", {"open sesame"}, ""}, Case{"", {"0815", "4711", "open sesame"}, ""},
+        Case{"", {"0815", "4711", "0815"}, wrong}}) {
+    const auto lp = ask(u"-h %1 -U anna -d q %2 %3"_s.arg(server.address(), options, m_ppd.path()));
+    for (const QByteArray& password : typed) {
+      const QByteArray again = password == typed.first() ? "" : "Wrong password. ";
+      EXPECT_EQ(read(), again + "Password of anna for " + server.address().toUtf8() + ": ");
+      expectEcho(false, 0);
+      ASSERT_GT(::write(m_master, (password + '\n').constData(), password.size() + 1), 0);
+      EXPECT_EQ(read(), "\r\n");
+    }
+    const LpRun run = finish(*lp);
+    EXPECT_EQ(run.err, message) << options;
+    EXPECT_EQ(run.out, message.isEmpty() ? u"request id is q-1 (1 file(s))\n"_s : u""_s) << options;
+  }
+  const auto lp = process(u"-h %1 --list"_s.arg(server.address()));
+  lp->setChildProcessModifier([] { ::setsid(); });
+  lp->start();
+  EXPECT_EQ(finish(*lp).err, asks + u"no terminal to ask at; set it with --server-password-file\n"_s);
 }
 
 TEST_F(LpSecrets, WithoutATerminalNothingIsAsked) {

@@ -155,6 +155,30 @@ TEST_F(PrintTest, WhatAnotherUserSeesOfAJob) {
                 u"cannot create a job on \"Nowhere\": The printer or class does not exist."_s);
 }
 
+TEST_F(PrintTest, APrintersPasswordGoesToItsBackendAlone) {
+  const QString backend = m_folder.path(u"run/cups/bin/backend/recording"_s);
+  m_folder.write(u"run/cups/bin/backend/recording"_s,
+                 "#!/bin/sh\n[ $# -gt 0 ] && env >\"$TMPDIR/environment-$1\"\nexit 0\n");
+  ASSERT_TRUE(QFile::setPermissions(backend, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+  const QString queue = u"/usr/sbin/lpadmin -p Shared -E -v recording://x -o auth-info-required="_s;
+  m_folder.write(u"password"_s, "open sesame\n");
+  int job = 0;
+  for (const auto& [wanted, user, arrives] :
+       {std::tuple("username,password", "anna", "AUTH_USERNAME=anna"),
+        {"domain,username,password", "OFFICE\\\\anna", "AUTH_DOMAIN=OFFICE"},
+        {"none", "anna", "USER=anna"}}) {
+    ofPrintSystem(queue + QLatin1String(wanted));
+    const QString arguments = u"-U %1 -d Shared -o raw --server-password-file %2 DOCUMENT"_s;
+    expectPrinted(arguments.arg(QLatin1String(user), m_folder.path(u"password"_s)));
+    const QString environment = m_folder.path(u"run/cups/spool/tmp/environment-%1"_s.arg(++job));
+    waitFor([&] { return QFile::exists(environment) && schedulersJobs().isEmpty(); });
+    const QByteArray text = bytesOf(environment);
+    EXPECT_EQ(text.contains(arrives), QByteArray(wanted) != "none") << text;
+    EXPECT_EQ(text.contains("AUTH_PASSWORD=open sesame\n"), QByteArray(wanted) != "none") << text;
+    EXPECT_FALSE(m_printer->attributesOfJob(job, "anna").keys().contains(u"auth-info"_s));
+  }
+}
+
 TEST_F(PrintTest, ListsQueues) {
   addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
   addQueue(u"A_Raw"_s, {}, {});

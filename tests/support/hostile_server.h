@@ -23,9 +23,11 @@ struct Misbehaviour {
   bool closes = false;                 ///< instead of staying open
 };
 
-/// Answers IPP requests correctly, with a job's number, except for one operation.
+/// Answers IPP requests correctly, with a job's number, except for one operation; to requests without its
+/// password it answers that it wants one.
 class HostileServer {
  public:
+  static constexpr int atNothing = -2;
   static constexpr int atConnect = -1;
   static constexpr int atGet = 0;
 
@@ -56,6 +58,11 @@ class HostileServer {
   }
   HostileServer(const HostileServer&) = delete;
   HostileServer& operator=(const HostileServer&) = delete;
+
+  /// A server that wants a password, in the form "user:password", and otherwise behaves well.
+  explicit HostileServer(const QByteArray& password) : HostileServer(atNothing, {}) {
+    m_password = password.toBase64().toLower();
+  }
 
   QString address() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
   /// Whether it has misbehaved yet.
@@ -107,6 +114,14 @@ class HostileServer {
           head.mid(head.indexOf("content-length: ") + 16).split('\r').first().toLongLong();
       while (bytes.size() < length)
         if (!readMore(client, &bytes)) return;
+      if (!head.contains(m_password)) {
+        bytes.remove(0, length);
+        if (!sendAll(client,
+                     "HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"x\"\r\n"
+                     "Content-Length: 0\r\n\r\n"))
+          return;
+        continue;
+      }
       using namespace Qt::StringLiterals;
       const QByteArray reply = "\2\0\0\0"_ba + bytes.mid(4, 4) + "\2\x21\0\6job-id\0\4\0\0\0\1\3"_ba;
       bytes.remove(0, length);
@@ -126,6 +141,7 @@ class HostileServer {
       std::this_thread::sleep_for(m_misbehaviour.pause);
   }
 
+  QByteArray m_password;  // null for none
   const int m_operation;
   const Misbehaviour m_misbehaviour;
   const int m_listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);

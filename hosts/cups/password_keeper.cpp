@@ -1,0 +1,61 @@
+#include "hosts/cups/password_keeper.h"
+
+#include <utility>
+
+#include "hosts/cups/faults.h"
+#include "platform/secret.h"
+
+namespace kesto {
+namespace {
+
+Outcome failureOf(const PasswordQuestion& question, const QString& reason) {
+  if (question.wasWrong) {
+    return Outcome::failed(
+        question.isPrinter
+            ? Faults::tr("wrong user name or password for the printer \"%1\"").arg(question.subject)
+            : Faults::tr("wrong user name or password for the print server %1").arg(question.subject));
+  }
+  const QString asks = question.isPrinter
+                           ? Faults::tr("the printer \"%1\" asks for a password").arg(question.subject)
+                           : Faults::tr("the print server %1 asks for a password").arg(question.subject);
+  return Outcome::failed(reason.isEmpty() ? asks : asks + QStringLiteral(": ") + reason);
+}
+
+}  // namespace
+
+void wipe(Credentials& credentials) {
+  wipe(credentials.password);
+}
+
+PasswordKeeper::~PasswordKeeper() {
+  for (Credentials& each : m_kept)
+    wipe(each);
+}
+
+Outcome PasswordKeeper::find(PasswordQuestion question, const std::optional<Credentials>& refused, int* tries,
+                             Credentials* found) {
+  const std::lock_guard lock(m_mutex);
+  const QString key = (question.isPrinter ? u'p' : u's') + question.subject;
+  const auto kept = m_kept.find(key);
+  if (kept != m_kept.end() && *kept != refused) {
+    *found = *kept;
+    return Outcome::done();
+  }
+  if (kept != m_kept.end()) wipe(*kept);
+  m_kept.remove(key);
+  question.wasWrong = refused.has_value();
+  if (refused) {
+    question.proposed.domain = refused->domain;
+    question.proposed.user = refused->user;
+  }
+  if (m_declined.contains(key) && m_declined.value(key) == m_round) return failureOf(question, {});
+  const bool isOver = (*tries)++ == mostTries;
+  if (Outcome asked = isOver ? Outcome::failed({}) : m_ask(question, found); !asked) {
+    m_declined.insert(key, m_round);
+    return failureOf(question, asked.reason());
+  }
+  m_kept.insert(key, *found);
+  return Outcome::done();
+}
+
+}  // namespace kesto

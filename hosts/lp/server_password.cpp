@@ -1,0 +1,42 @@
+#include "hosts/lp/server_password.h"
+
+#include "hosts/command/secret_input.h"
+#include "platform/shown_text.h"
+
+namespace kesto {
+namespace {
+
+QString promptOf(const PasswordQuestion& question, const Credentials& answer) {
+  const QString prompt = QStringLiteral("%1Password of %2 for %3");
+  return prompt.arg(QLatin1String(question.wasWrong ? "Wrong password. " : ""), shownText(answer.user),
+                    shownText(question.subject));
+}
+
+// Without a terminal the reason also says what would do in its place.
+Outcome askAtTerminal(const QString& prompt, QString* password) {
+  const Outcome asked = askSecret(prompt, password);
+  return asked ? asked
+               : Outcome::failed(asked.reason() + QStringLiteral("; set it with --server-password-file"));
+}
+
+void splitDomain(const PasswordQuestion& question, Credentials* answer) {
+  const qsizetype end = answer->user.indexOf(u'\\');
+  if (end < 0 || !question.wanted.contains(QStringLiteral("domain"))) return;
+  answer->domain = answer->user.left(end);
+  answer->user.remove(0, end + 1);
+}
+
+}  // namespace
+
+std::shared_ptr<PasswordKeeper> makePasswordKeeper(const std::optional<QString>& file) {
+  return std::make_shared<PasswordKeeper>([file](const PasswordQuestion& question, Credentials* answer) {
+    *answer = question.proposed;
+    splitDomain(question, answer);
+    if (!file) return askAtTerminal(promptOf(question, *answer), &answer->password);
+    if (question.wasWrong) return Outcome::failed({});
+    Outcome read = readSecretLine(*file, &answer->password);
+    return read ? read : Outcome::failed(QStringLiteral("--server-password-file: ") + read.reason());
+  });
+}
+
+}  // namespace kesto
