@@ -32,8 +32,9 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
       m_document(document),
       m_preview(new Preview(this)),
       m_chooser(new QueueChooser(this)),
-      m_watch(options.server),
-      m_client(options.server),
+      m_passwords(*this),
+      m_watch(m_passwords.with(options.server)),
+      m_client(m_passwords.with(options.server)),
       m_opening(m_watch, m_client, m_chooser->model()),
       m_sending(m_client, document, *m_preview),
       m_unlocking(document, *m_preview, *this) {
@@ -51,6 +52,7 @@ PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
 }
 
 PrintDialog::~PrintDialog() {
+  m_passwords.close();
   m_sending.stop();
   m_session.release();
 }
@@ -91,6 +93,7 @@ void PrintDialog::showOpening() {
 }
 
 void PrintDialog::chooseQueue(const QString& name) {
+  m_passwords.allowAgain();
   if (m_sending.phase() == JobSending::Phase::Choosing) return m_opening.want(name);
   m_chooser->setCurrent(m_opening.wanted());
 }
@@ -202,6 +205,7 @@ void PrintDialog::print() {
   }
   if (m_opening.isPdf() && !chooseTarget()) return;
   const Document::State state = m_document.state();
+  m_passwords.allowAgain();
   m_sending.begin();
   if (state != Document::State::Ready && state != Document::State::Paused) hide();
   Q_EMIT chosen();

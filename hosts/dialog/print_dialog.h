@@ -10,6 +10,7 @@
 #include "hosts/dialog/document_unlocking.h"
 #include "hosts/dialog/job_sending.h"
 #include "hosts/dialog/options.h"
+#include "hosts/dialog/password_asking.h"
 #include "hosts/dialog/queue_opening.h"
 #include "hosts/dialog/widgets/dialog_alerts.h"
 #include "hosts/dialog/widgets/message_bar.h"
@@ -145,6 +146,7 @@ class PrintDialog : public QDialog {
   PanelPane* m_panelPane = nullptr;
   SummaryPane* m_summary = nullptr;
   DialogFoot* m_foot = nullptr;
+  PasswordAsking m_passwords;
   QueueWatch m_watch;
   QueueClient m_client;
   QueueOpening m_opening;

@@ -118,6 +118,7 @@ void PrintDialog::connectQueues() {
   connect(&m_watch, &QueueWatch::failed, &m_opening, &QueueOpening::takeListFault);
   connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);
   connect(m_chooser, &QueueChooser::pendingChanged, this, &PrintDialog::updateControls);
+  connect(m_chooser, &QueueChooser::retryAsked, &m_passwords, &PasswordAsking::allowAgain);
   connect(m_chooser, &QueueChooser::retryAsked, &m_opening, &QueueOpening::retry);
   connect(&m_opening, &QueueOpening::left, this, [this] {
     leaveQueue();

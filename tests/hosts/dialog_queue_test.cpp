@@ -51,6 +51,34 @@ TEST_F(DialogPrint, TheDialogClosesWhileItWaitsForItsServer) {
   }
 }
 
+TEST_F(DialogPrint, APasswordIsAskedWithoutBlockingTheWindow) {
+  const HostileServer server("berta:open sesame");
+  m_options.server.address = server.address();
+  m_options.queue = u"q"_s;
+  open();
+  const auto asked = [&](QWidget*& dialog) {
+    await([&] { return (dialog = QApplication::activeModalWidget()) != nullptr; }, u"the question"_s);
+  };
+  QWidget* dialog = nullptr;
+  asked(dialog);
+  QTest::keyClick(dialog, Qt::Key_Escape);
+  await([this] { return widget(u"retry"_s)->isVisible(); }, u"the fault"_s);
+  EXPECT_EQ(text(u"printerState"_s), u"The print server %1 asks for a password."_s.arg(server.address()));
+  click(u"retry"_s);
+  for (const char* password : {"0815", "open sesame"}) {
+    asked(dialog);
+    const bool isAgain = dialog->findChild<QLabel*>(u"credentialsMessage"_s)->isVisible();
+    EXPECT_EQ(isAgain, QByteArray(password) != "0815");
+    dialog->findChild<QLineEdit*>(u"credentialsUser"_s)->setText(u"berta"_s);
+    QTest::keyClicks(dialog->findChild<QLineEdit*>(u"credentialsPassword"_s), QLatin1String(password));
+    pressEnter(*dialog);
+    await([&] { return QApplication::activeModalWidget() != dialog; }, u"the answer"_s);
+  }
+  await([this] { return m_dialog->isQueueReady() && m_dialog->preview().isExamined(); }, u"the queue"_s);
+  click(u"print"_s);
+  await([this] { return m_dialog->job() == 1; }, u"the job"_s);
+}
+
 TEST_F(DialogPrint, WhatThePrinterFieldShowsIsWhatIsPrintedOn) {
   startPrinter({u"--queues"_s, u"14"_s});
   openReady();

@@ -1360,6 +1360,18 @@
         <source>cannot cancel job %1: %2</source>
         <translation>Auftrag %1 lässt sich nicht abbrechen: %2</translation>
     </message>
+    <message>
+        <source>wrong user name or password for the printer &quot;%1&quot;</source>
+        <translation>Benutzername oder Passwort für den Drucker „%1“ ist falsch</translation>
+    </message>
+    <message>
+        <source>wrong user name or password for the print server %1</source>
+        <translation>Benutzername oder Passwort für den Druckserver %1 ist falsch</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; asks for a password</source>
+        <translation>der Drucker „%1“ verlangt ein Passwort</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2115,6 +2127,45 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>Es ist nicht bekannt, ob der Auftrag gedruckt ist</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>Passwort erforderlich</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>Der Drucker %1 verlangt Ihr Passwort.</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>Der Druckserver %1 verlangt Ihr Passwort.</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>Benutzername oder Passwort falsch. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Domäne:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 </TS>

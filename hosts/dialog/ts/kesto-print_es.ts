@@ -1360,6 +1360,18 @@
         <source>cannot cancel job %1: %2</source>
         <translation>no se puede cancelar el trabajo %1: %2</translation>
     </message>
+    <message>
+        <source>wrong user name or password for the printer &quot;%1&quot;</source>
+        <translation>nombre de usuario o contraseña incorrectos para la impresora «%1»</translation>
+    </message>
+    <message>
+        <source>wrong user name or password for the print server %1</source>
+        <translation>nombre de usuario o contraseña incorrectos para el servidor de impresión %1</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; asks for a password</source>
+        <translation>la impresora «%1» pide una contraseña</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2115,6 +2127,45 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>No se sabe si el trabajo se ha impreso</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>Se necesita una contraseña</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>La impresora %1 pide su contraseña.</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>El servidor de impresión %1 pide su contraseña.</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>Nombre de usuario o contraseña incorrectos. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Dominio:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nombre de usuario:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 </TS>

@@ -1360,6 +1360,18 @@
         <source>cannot cancel job %1: %2</source>
         <translation>impossible d’annuler le travail %1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>wrong user name or password for the printer &quot;%1&quot;</source>
+        <translation>nom d’utilisateur ou mot de passe incorrect pour l’imprimante «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>wrong user name or password for the print server %1</source>
+        <translation>nom d’utilisateur ou mot de passe incorrect pour le serveur d’impression %1</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; asks for a password</source>
+        <translation>l’imprimante «&#xa0;%1&#xa0;» demande un mot de passe</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2115,6 +2127,45 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>On ne sait pas si le travail est imprimé</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>Mot de passe requis</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>L’imprimante %1 demande votre mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>Le serveur d’impression %1 demande votre mot de passe.</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>Nom d’utilisateur ou mot de passe incorrect. Réessayez.</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Domaine&#xa0;:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nom d’utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 </TS>

@@ -1359,6 +1359,18 @@
         <source>cannot cancel job %1: %2</source>
         <translation>ジョブ %1 をキャンセルできません: %2</translation>
     </message>
+    <message>
+        <source>wrong user name or password for the printer &quot;%1&quot;</source>
+        <translation>プリンター「%1」のユーザー名またはパスワードが違います</translation>
+    </message>
+    <message>
+        <source>wrong user name or password for the print server %1</source>
+        <translation>プリントサーバー %1 のユーザー名またはパスワードが違います</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; asks for a password</source>
+        <translation>プリンター「%1」がパスワードを求めています</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2114,6 +2126,45 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>ジョブが印刷されたかどうか不明です</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>パスワードが必要です</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>プリンター %1 がパスワードを求めています。</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>プリントサーバー %1 がパスワードを求めています。</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>ユーザー名またはパスワードが違います。もう一度入力してください。</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>ドメイン:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>ユーザー名:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 </TS>

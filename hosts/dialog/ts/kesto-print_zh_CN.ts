@@ -1359,6 +1359,18 @@
         <source>cannot cancel job %1: %2</source>
         <translation>无法取消作业 %1：%2</translation>
     </message>
+    <message>
+        <source>wrong user name or password for the printer &quot;%1&quot;</source>
+        <translation>打印机“%1”的用户名或密码错误</translation>
+    </message>
+    <message>
+        <source>wrong user name or password for the print server %1</source>
+        <translation>打印服务器 %1 的用户名或密码错误</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; asks for a password</source>
+        <translation>打印机“%1”要求输入密码</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2114,6 +2126,45 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>无法确定作业是否已打印</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>需要密码</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>打印机 %1 要求您输入密码。</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>打印服务器 %1 要求您输入密码。</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>用户名或密码错误。请重试。</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>域:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>用户名:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>密码:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 </TS>
