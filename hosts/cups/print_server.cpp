@@ -20,6 +20,27 @@ QString nameOfState(int state) {
   }
 }
 
+QStringList textsOf(ipp_attribute_t* attribute) {
+  QStringList texts;
+  for (int i = 0; i < ippGetCount(attribute); ++i)
+    texts.append(QString::fromUtf8(ippGetString(attribute, i, nullptr)));
+  return texts;
+}
+
+// The printer lists names, colors and levels of its supplies in the same order.
+void addSupplies(const QByteArrayView& name, ipp_attribute_t* attribute, std::vector<Supply>* supplies) {
+  const auto count = static_cast<std::size_t>(ippGetCount(attribute));
+  if (supplies->size() < count) supplies->resize(count);
+  const QStringList texts = name == "marker-levels" ? QStringList() : textsOf(attribute);
+  for (std::size_t i = 0; i < count; ++i) {
+    Supply& supply = (*supplies)[i];
+    const int place = static_cast<int>(i);
+    if (name == "marker-names") supply.name = texts.at(place);
+    if (name == "marker-colors") supply.color = texts.at(place);
+    if (name == "marker-levels") supply.level = qMin(ippGetInteger(attribute, place), 100);
+  }
+}
+
 void addAttribute(ipp_attribute_t* attribute, QueueSummary* queue) {
   const QByteArrayView name(ippGetName(attribute));
   const auto text = [&] { return QString::fromUtf8(ippGetString(attribute, 0, nullptr)); };
@@ -31,13 +52,25 @@ void addAttribute(ipp_attribute_t* attribute, QueueSummary* queue) {
   if (name == "printer-is-accepting-jobs") queue->isAccepting = ippGetBoolean(attribute, 0) != 0;
   if (name == "printer-location") queue->location = text();
   if (name == "queued-job-count") queue->jobs = ippGetInteger(attribute, 0);
+  if (name == "printer-make-and-model") queue->model = text();
+  if (name == "printer-state-reasons") queue->stateReasons = textsOf(attribute);
+  if (name.startsWith("marker-")) addSupplies(name, attribute, &queue->supplies);
 }
 
 void askForSummary(ipp_t* request) {
-  static const char* const shown[] = {
-      "printer-name",     "printer-info",          "device-uri",
-      "printer-state",    "printer-state-message", "printer-is-accepting-jobs",
-      "printer-location", "queued-job-count"};
+  static const char* const shown[] = {"marker-colors",
+                                      "marker-levels",
+                                      "marker-names",
+                                      "printer-name",
+                                      "printer-info",
+                                      "device-uri",
+                                      "printer-make-and-model",
+                                      "printer-state-reasons",
+                                      "printer-state",
+                                      "printer-state-message",
+                                      "printer-is-accepting-jobs",
+                                      "printer-location",
+                                      "queued-job-count"};
   ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", std::size(shown),
                 nullptr, shown);
 }

@@ -24,6 +24,13 @@ struct FreeDest {
 /// A queue with its options, as libcups gives it.
 using Destination = std::unique_ptr<cups_dest_t, FreeDest>;
 
+/// What a printer prints with, such as its black toner.
+struct Supply {
+  QString name;
+  QString color;   ///< "#RRGGBB", as the printer says it; may be empty or another word.
+  int level = -1;  ///< In percent; negative when the printer does not know.
+};
+
 /// What a list of queues shows for one queue.
 struct QueueSummary {
   QString name;
@@ -32,8 +39,11 @@ struct QueueSummary {
   QString state;         ///< "idle", "processing" or "stopped".
   QString stateMessage;  ///< The server's message about it, such as why it is stopped or accepts no jobs.
   bool isAccepting = true;
-  QString location;  ///< Where it stands, as its administrator wrote it.
-  int jobs = 0;      ///< Jobs that it has not finished.
+  QString location;                ///< Where it stands, as its administrator wrote it.
+  int jobs = 0;                    ///< Jobs that it has not finished.
+  QString model;                   ///< Of the printer.
+  QStringList stateReasons{};      ///< The keywords of "printer-state-reasons".
+  std::vector<Supply> supplies{};  ///< Empty when the printer names none.
 };
 
 /// One print server. Every operation ends in time and uses no more memory than `bounds.h` allows, whatever

@@ -89,6 +89,7 @@ void PrintDialog::showOpening() {
     kind = QueueListModel::stateKind(m_opening.summary());
   }
   m_chooser->showState(text, kind);
+  m_chooser->showDetails(m_opening.summary());
   updateControls();
 }
 

@@ -7,6 +7,7 @@
 #include "hosts/cups/job_privacy.h"
 #include "hosts/cups/ppd_file.h"
 #include "hosts/session/panel_entries.h"
+#include "hosts/session/printer_reasons.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/text_field.h"
@@ -20,14 +21,30 @@ QJsonObject jsonOf(const QueueSummary& queue) {
           {QStringLiteral("state"), queue.state},
           {QStringLiteral("accepting"), queue.isAccepting},
           {QStringLiteral("address"), queue.deviceUri},
-          {QStringLiteral("info"), queue.info}};
+          {QStringLiteral("info"), queue.info},
+          {QStringLiteral("model"), queue.model},
+          {QStringLiteral("location"), queue.location},
+          {QStringLiteral("jobs"), queue.jobs},
+          {QStringLiteral("message"), queue.stateMessage},
+          {QStringLiteral("reasons"), QJsonArray::fromStringList(queue.stateReasons)}};
+}
+
+// The state in words: "stopped, not accepting jobs, out of paper, 3 jobs".
+QString stateOf(const QueueSummary& queue) {
+  QStringList parts{queue.state};
+  if (!queue.isAccepting) parts.append(QStringLiteral("not accepting jobs"));
+  for (const PrinterReason& reason : printerReasons(queue.stateReasons))
+    parts.append(reason.text.toLower());
+  if (queue.jobs > 0)
+    parts.append(queue.jobs == 1 ? QStringLiteral("1 job") : QStringLiteral("%1 jobs").arg(queue.jobs));
+  return parts.join(QStringLiteral(", "));
 }
 
 std::string lineOf(const QueueSummary& queue) {
-  const QString state =
-      queue.isAccepting ? queue.state : queue.state + QStringLiteral(", not accepting jobs");
-  return shownText(queue.name).toStdString() + '\t' + shownText(state).toStdString() + '\t' +
-         shownText(queue.deviceUri).toStdString() + '\n';
+  QStringList columns;
+  for (const QString& column : {queue.name, stateOf(queue), queue.deviceUri, queue.model, queue.location})
+    columns.append(shownText(column));
+  return columns.join(u'\t').toStdString() + '\n';
 }
 
 // Keeps the queues whose PPD offers the panel.

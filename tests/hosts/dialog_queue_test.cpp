@@ -1,6 +1,7 @@
 // The dialog and its print server: which printer is chosen, what is said of it, and how the program ends.
 #include <QtGui/QAccessible>
 #include <QtNetwork/QTcpServer>
+#include <QtWidgets/QProgressBar>
 
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
@@ -165,6 +166,43 @@ TEST_F(DialogPrint, WhyAQueueTakesNoJobsOrPrintsNoneIsShown) {
   }
 }
 
+TEST_F(DialogPrint, WhatThePrinterReportsIsSaidByItsSeverity) {
+  using Kind = StateIcon::Kind;
+  using Case = std::tuple<QStringList, Text, Kind>;  // reasons, the line, the icon
+  for (const auto& [reasons, line, kind] :
+       {Case{{u"none"_s}, "Ready · Attic · 2 jobs waiting", Kind::Ready},
+        Case{{u"toner-low-report"_s}, "Ready · Toner low · Attic · 2 jobs waiting", Kind::Ready},
+        Case{{u"toner-low"_s, u"media-jam"_s},
+             "Paper jam · Toner low · Attic · 2 jobs waiting",
+             Kind::Stopped},
+        Case{{u"com.lamp-old-warning"_s, u"paused"_s, u"door-open-report"_s},
+             "Ready · Lamp old · Paused · Door open · Attic · 2 jobs waiting",
+             Kind::Attention}}) {
+    QueueSummary queue;
+    queue.state = u"idle"_s;
+    queue.location = u"Attic"_s;
+    queue.jobs = 2;
+    queue.stateReasons = reasons;
+    EXPECT_EQ(QueueListModel::stateText(queue), line);
+    EXPECT_EQ(QueueListModel::stateKind(queue), kind) << line;
+  }
+  openReady();
+  QueueSummary queue = *m_dialog->queues().queue(u"Office_MFP"_s);
+  queue.supplies = {{.name = u"Black"_s, .color = u"#000000"_s, .level = 40},
+                    {.name = u"Waste"_s, .color = {}}};
+  auto* chooser = m_dialog->findChild<QueueChooser*>();
+  chooser->showDetails(queue);
+  click(u"printerDetailsButton"_s);
+  auto* bar = widgetNamed<QProgressBar>(*m_dialog, u"Black"_s);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(bar)->valueInterface()->currentValue(), 40);
+  queue.supplies.front().level = 39;
+  chooser->showDetails(queue);
+  EXPECT_EQ(widgetNamed<QProgressBar>(*m_dialog, u"Black"_s)->value(), 39);
+  EXPECT_EQ(widgetNamed<QLabel>(*m_dialog, u"Model:"_s)->text(), u"KESTO VQ-250n PS"_s);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  await([] { return QApplication::activePopupWidget() == nullptr; }, u"the end of the details"_s);
+}
+
 TEST_F(DialogPrint, AQueueWithoutThePanelPrintsWithItsOwnOptions) {
   startPrinter({u"--queues"_s, u"2"_s});
   changePpd(u"Office_MFP_0002"_s, "*APDialogExtension", "*% none");
@@ -188,7 +226,9 @@ TEST_F(DialogPrint, TheFirstQueueThatTakesJobsReplacesAMissingOne) {
     m_options.documentLater = !asked.isNull();  // an application may remember a queue that is gone
     openReady();
     EXPECT_EQ(m_dialog->queueName(), u"Office_MFP_0002"_s) << asked;
-    const auto tip = [&](int row) { return m_dialog->queues().index(row).data(Qt::ToolTipRole); };
+    const auto tip = [&](int row) {
+      return m_dialog->queues().index(row).data(Qt::ToolTipRole).toString().section(u'\n', 0, 0);
+    };
     EXPECT_EQ(tip(0), u"Not accepting jobs"_s);
     EXPECT_EQ(tip(1), u"Ready"_s);
   }

@@ -142,7 +142,7 @@ TEST_F(LpAtATerminal, APasswordForThePrintServerMayBeTriedThreeTimes) {
              {},
              asks + u"--server-password-file: none: No such file or directory\n"_s},
         Case{"", {"open sesame"}, ""}, Case{"", {"0815", "4711", "open sesame"}, ""},
-        Case{"", {"0815", "4711", "0815"}, wrong}}) {
+        Case{"", {"0815", "4711", "1234"}, wrong}}) {
     const auto lp = ask(u"-h %1 -U anna -d q %2 %3"_s.arg(server.address(), options, m_ppd.path()));
     for (const QByteArray& password : typed) {
       const QByteArray again = password == typed.first() ? "" : "Wrong password. ";

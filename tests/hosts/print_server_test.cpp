@@ -171,7 +171,7 @@ TEST_F(PrintTest, APrintersPasswordGoesToItsBackendAlone) {
     const QString arguments = u"-U %1 -d Shared -o raw --server-password-file %2 DOCUMENT"_s;
     expectPrinted(arguments.arg(QLatin1String(user), m_folder.path(u"password"_s)));
     const QString environment = m_folder.path(u"run/cups/spool/tmp/environment-%1"_s.arg(++job));
-    waitFor([&] { return QFile::exists(environment) && schedulersJobs().isEmpty(); });
+    waitFor([&] { return QFile::exists(environment) && ofPrintSystem(u"lpstat -o"_s).isEmpty(); });
     const QByteArray text = bytesOf(environment);
     EXPECT_EQ(text.contains(arrives), QByteArray(wanted) != "none") << text;
     EXPECT_EQ(text.contains("AUTH_PASSWORD=open sesame\n"), QByteArray(wanted) != "none") << text;
@@ -184,16 +184,25 @@ TEST_F(PrintTest, ListsQueues) {
   addQueue(u"A_Raw"_s, {}, {});
   ofPrintSystem(u"/usr/sbin/cupsreject Plain"_s);
   ofPrintSystem(u"/usr/sbin/cupsdisable A_Raw"_s);
+  ofPrintSystem(u"/usr/sbin/lpadmin -p A_Raw -L Attic"_s);
+  ofPrintSystem(u"/usr/sbin/lpadmin -p Plain -o printer-state-reasons=media-empty-error"_s);
   const QString address = ofPrintSystem(u"lpstat -v Office_MFP"_s).trimmed().section(u' ', -1);
-  const QString office = u"Office_MFP\tidle\t%1\n"_s.arg(address);
-  EXPECT_EQ(lp(u"--list"_s).out, u"A_Raw\tstopped\tsocket://127.0.0.1:9\n"_s + office +
-                                     u"Plain\tidle, not accepting jobs\tsocket://127.0.0.1:9\n"_s);
+  const QString office = u"Office_MFP\tidle\t%1\tKESTO VQ-250n PS\t\n"_s.arg(address);
+  const QString rest = u"\tsocket://127.0.0.1:9\t%1\t%2\n"_s;
+  EXPECT_EQ(lp(u"--list"_s).out, u"A_Raw\tstopped, paused"_s + rest.arg(u"Local Raw Printer"_s, u"Attic"_s) +
+                                     office + u"Plain\tidle, not accepting jobs, out of paper"_s +
+                                     rest.arg(u"KESTO VQ-250n PS"_s, QString()));
   EXPECT_EQ(lp(u"--list --job-handling"_s).out, office);
   EXPECT_EQ(jsonOf(u"--list --json"_s)[2][u"accepting"], false);
   EXPECT_EQ(jsonOf(u"--list --json --job-handling"_s).toArray(),
             (QJsonArray{QJsonObject{{u"accepting"_s, true},
                                     {u"address"_s, address},
                                     {u"info"_s, u"Kesto VQ-250n (demo)"_s},
+                                    {u"jobs"_s, 0},
+                                    {u"location"_s, u""_s},
+                                    {u"message"_s, u""_s},
+                                    {u"model"_s, u"KESTO VQ-250n PS"_s},
+                                    {u"reasons"_s, QJsonArray{u"none"_s}},
                                     {u"queue"_s, u"Office_MFP"_s},
                                     {u"state"_s, u"idle"_s}}}));
   // The scheduler encrypts once it has a place for its certificate.

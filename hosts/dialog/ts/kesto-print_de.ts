@@ -491,6 +491,145 @@
     </message>
 </context>
 <context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>Connecting</source>
+        <translation>Verbindung wird hergestellt</translation>
+    </message>
+    <message>
+        <source>Cover open</source>
+        <translation>Abdeckung offen</translation>
+    </message>
+    <message>
+        <source>Driver missing</source>
+        <translation>Treiber fehlt</translation>
+    </message>
+    <message>
+        <source>Out of developer</source>
+        <translation>Entwickler leer</translation>
+    </message>
+    <message>
+        <source>Developer low</source>
+        <translation>Wenig Entwickler</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>Klappe offen</translation>
+    </message>
+    <message>
+        <source>Too hot</source>
+        <translation>Zu heiß</translation>
+    </message>
+    <message>
+        <source>Warming up</source>
+        <translation>Wird aufgewärmt</translation>
+    </message>
+    <message>
+        <source>Holding new jobs</source>
+        <translation>Neue Aufträge werden zurückgehalten</translation>
+    </message>
+    <message>
+        <source>Paper tray missing</source>
+        <translation>Papierfach fehlt</translation>
+    </message>
+    <message>
+        <source>Out of ink or toner</source>
+        <translation>Tinte oder Toner leer</translation>
+    </message>
+    <message>
+        <source>Ink or toner low</source>
+        <translation>Wenig Tinte oder Toner</translation>
+    </message>
+    <message>
+        <source>Waste toner almost full</source>
+        <translation>Resttonerbehälter fast voll</translation>
+    </message>
+    <message>
+        <source>Waste toner full</source>
+        <translation>Resttonerbehälter voll</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>Kein Papier</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>Papierstau</translation>
+    </message>
+    <message>
+        <source>Paper low</source>
+        <translation>Wenig Papier</translation>
+    </message>
+    <message>
+        <source>Paper needed</source>
+        <translation>Papier nachlegen</translation>
+    </message>
+    <message>
+        <source>Pausing</source>
+        <translation>Wird angehalten</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Offline</translation>
+    </message>
+    <message>
+        <source>Drum worn out</source>
+        <translation>Trommel verbraucht</translation>
+    </message>
+    <message>
+        <source>Drum almost worn out</source>
+        <translation>Trommel fast verbraucht</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Eingriff nötig</translation>
+    </message>
+    <message>
+        <source>Output tray almost full</source>
+        <translation>Ausgabefach fast voll</translation>
+    </message>
+    <message>
+        <source>Output tray full</source>
+        <translation>Ausgabefach voll</translation>
+    </message>
+    <message>
+        <source>Output tray missing</source>
+        <translation>Ausgabefach fehlt</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Turned off</source>
+        <translation>Ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>Printer memory full</source>
+        <translation>Druckerspeicher voll</translation>
+    </message>
+    <message>
+        <source>Partly stopped</source>
+        <translation>Teilweise angehalten</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>Wird gestoppt</translation>
+    </message>
+    <message>
+        <source>Not responding</source>
+        <translation>Antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Out of toner</source>
+        <translation>Toner leer</translation>
+    </message>
+    <message>
+        <source>Toner low</source>
+        <translation>Wenig Toner</translation>
+    </message>
+</context>
+<context>
     <name>StandardTexts</name>
     <message>
         <source>Letter</source>
@@ -981,6 +1120,45 @@
     </message>
 </context>
 <context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>Passwort erforderlich</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>Der Drucker %1 verlangt Ihr Passwort.</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>Der Druckserver %1 verlangt Ihr Passwort.</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>Benutzername oder Passwort falsch. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Domäne:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1389,6 +1567,101 @@
     </message>
 </context>
 <context>
+    <name>kesto::JobWatch</name>
+    <message>
+        <source>Waiting for the printer</source>
+        <translation>Wartet auf den Drucker</translation>
+    </message>
+    <message>
+        <source>Waiting for 1 other job</source>
+        <translation>Wartet auf 1 anderen Auftrag</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 other jobs</source>
+        <translation>Wartet auf %1 andere Aufträge</translation>
+    </message>
+    <message>
+        <source>Held: the printer asks for a password</source>
+        <translation>Zurückgehalten: Der Drucker verlangt ein Passwort</translation>
+    </message>
+    <message>
+        <source>Held until its time to print</source>
+        <translation>Bis zum Druckzeitpunkt zurückgehalten</translation>
+    </message>
+    <message>
+        <source>Held until it is released</source>
+        <translation>Bis zur Freigabe zurückgehalten</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Printing page %1</source>
+        <translation>Druckt Seite %1</translation>
+    </message>
+    <message>
+        <source>Printing page %1 of %2</source>
+        <translation>Druckt Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>Angehalten: %1</translation>
+    </message>
+    <message>
+        <source>Stopped: the printer is paused</source>
+        <translation>Angehalten: Der Drucker ist angehalten</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you enter your pass code there</source>
+        <translation>Wartet an %1, bis Sie dort Ihre PIN eingeben</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you release it there</source>
+        <translation>Wartet an %1, bis Sie ihn dort freigeben</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Gedruckt</translation>
+    </message>
+    <message>
+        <source>Printed, and kept at %1 for printing again</source>
+        <translation>Gedruckt und an %1 zum erneuten Drucken aufbewahrt</translation>
+    </message>
+    <message>
+        <source>One copy is printed, the others wait at %1</source>
+        <translation>Ein Exemplar ist gedruckt, die anderen warten an %1</translation>
+    </message>
+    <message>
+        <source>Canceled by %1</source>
+        <translation>Abgebrochen von %1</translation>
+    </message>
+    <message>
+        <source>Canceled at the printer</source>
+        <translation>Am Drucker abgebrochen</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Stopped by the print server</source>
+        <translation>Vom Druckserver angehalten</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>Nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job is printed</source>
+        <translation>Es ist nicht bekannt, ob der Auftrag gedruckt ist</translation>
+    </message>
+</context>
+<context>
     <name>kesto::OptionPane</name>
     <message>
         <source>General</source>
@@ -1789,6 +2062,41 @@
     </message>
 </context>
 <context>
+    <name>kesto::PrinterDetails</name>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>Modell:</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>Standort:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Zustand:</translation>
+    </message>
+    <message>
+        <source>Message:</source>
+        <translation>Meldung:</translation>
+    </message>
+    <message>
+        <source>Level unknown</source>
+        <translation>Füllstand unbekannt</translation>
+    </message>
+</context>
+<context>
     <name>kesto::QueueChooser</name>
     <message>
         <source>Printer</source>
@@ -1821,6 +2129,14 @@
     <message>
         <source>There is no printer named &quot;%1&quot;.</source>
         <translation>Es gibt keinen Drucker namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Printer details</source>
+        <translation>Druckerdetails</translation>
     </message>
 </context>
 <context>
@@ -1893,279 +2209,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Andere Benutzer können sehen: %1. Um dies zu verbergen, fügen Sie der Richtlinie „%2“ des Druckservers diese Zeilen hinzu:</translation>
-    </message>
-</context>
-<context>
-    <name>PrinterReasons</name>
-    <message>
-        <source>Connecting</source>
-        <translation>Verbindung wird hergestellt</translation>
-    </message>
-    <message>
-        <source>Cover open</source>
-        <translation>Abdeckung offen</translation>
-    </message>
-    <message>
-        <source>Driver missing</source>
-        <translation>Treiber fehlt</translation>
-    </message>
-    <message>
-        <source>Out of developer</source>
-        <translation>Entwickler leer</translation>
-    </message>
-    <message>
-        <source>Developer low</source>
-        <translation>Wenig Entwickler</translation>
-    </message>
-    <message>
-        <source>Door open</source>
-        <translation>Klappe offen</translation>
-    </message>
-    <message>
-        <source>Too hot</source>
-        <translation>Zu heiß</translation>
-    </message>
-    <message>
-        <source>Warming up</source>
-        <translation>Wird aufgewärmt</translation>
-    </message>
-    <message>
-        <source>Holding new jobs</source>
-        <translation>Neue Aufträge werden zurückgehalten</translation>
-    </message>
-    <message>
-        <source>Paper tray missing</source>
-        <translation>Papierfach fehlt</translation>
-    </message>
-    <message>
-        <source>Out of ink or toner</source>
-        <translation>Tinte oder Toner leer</translation>
-    </message>
-    <message>
-        <source>Ink or toner low</source>
-        <translation>Wenig Tinte oder Toner</translation>
-    </message>
-    <message>
-        <source>Waste toner almost full</source>
-        <translation>Resttonerbehälter fast voll</translation>
-    </message>
-    <message>
-        <source>Waste toner full</source>
-        <translation>Resttonerbehälter voll</translation>
-    </message>
-    <message>
-        <source>Out of paper</source>
-        <translation>Kein Papier</translation>
-    </message>
-    <message>
-        <source>Paper jam</source>
-        <translation>Papierstau</translation>
-    </message>
-    <message>
-        <source>Paper low</source>
-        <translation>Wenig Papier</translation>
-    </message>
-    <message>
-        <source>Paper needed</source>
-        <translation>Papier nachlegen</translation>
-    </message>
-    <message>
-        <source>Pausing</source>
-        <translation>Wird angehalten</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>Offline</translation>
-    </message>
-    <message>
-        <source>Drum worn out</source>
-        <translation>Trommel verbraucht</translation>
-    </message>
-    <message>
-        <source>Drum almost worn out</source>
-        <translation>Trommel fast verbraucht</translation>
-    </message>
-    <message>
-        <source>Needs attention</source>
-        <translation>Eingriff nötig</translation>
-    </message>
-    <message>
-        <source>Output tray almost full</source>
-        <translation>Ausgabefach fast voll</translation>
-    </message>
-    <message>
-        <source>Output tray full</source>
-        <translation>Ausgabefach voll</translation>
-    </message>
-    <message>
-        <source>Output tray missing</source>
-        <translation>Ausgabefach fehlt</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>Angehalten</translation>
-    </message>
-    <message>
-        <source>Turned off</source>
-        <translation>Ausgeschaltet</translation>
-    </message>
-    <message>
-        <source>Printer memory full</source>
-        <translation>Druckerspeicher voll</translation>
-    </message>
-    <message>
-        <source>Partly stopped</source>
-        <translation>Teilweise angehalten</translation>
-    </message>
-    <message>
-        <source>Stopping</source>
-        <translation>Wird gestoppt</translation>
-    </message>
-    <message>
-        <source>Not responding</source>
-        <translation>Antwortet nicht</translation>
-    </message>
-    <message>
-        <source>Out of toner</source>
-        <translation>Toner leer</translation>
-    </message>
-    <message>
-        <source>Toner low</source>
-        <translation>Wenig Toner</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::JobWatch</name>
-    <message>
-        <source>Waiting for the printer</source>
-        <translation>Wartet auf den Drucker</translation>
-    </message>
-    <message>
-        <source>Waiting for 1 other job</source>
-        <translation>Wartet auf 1 anderen Auftrag</translation>
-    </message>
-    <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>Wartet auf %1 andere Aufträge</translation>
-    </message>
-    <message>
-        <source>Held: the printer asks for a password</source>
-        <translation>Zurückgehalten: Der Drucker verlangt ein Passwort</translation>
-    </message>
-    <message>
-        <source>Held until its time to print</source>
-        <translation>Bis zum Druckzeitpunkt zurückgehalten</translation>
-    </message>
-    <message>
-        <source>Held until it is released</source>
-        <translation>Bis zur Freigabe zurückgehalten</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Druckt</translation>
-    </message>
-    <message>
-        <source>Printing page %1</source>
-        <translation>Druckt Seite %1</translation>
-    </message>
-    <message>
-        <source>Printing page %1 of %2</source>
-        <translation>Druckt Seite %1 von %2</translation>
-    </message>
-    <message>
-        <source>Stopped: %1</source>
-        <translation>Angehalten: %1</translation>
-    </message>
-    <message>
-        <source>Stopped: the printer is paused</source>
-        <translation>Angehalten: Der Drucker ist angehalten</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>Angehalten</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you enter your pass code there</source>
-        <translation>Wartet an %1, bis Sie dort Ihre PIN eingeben</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you release it there</source>
-        <translation>Wartet an %1, bis Sie ihn dort freigeben</translation>
-    </message>
-    <message>
-        <source>Printed</source>
-        <translation>Gedruckt</translation>
-    </message>
-    <message>
-        <source>Printed, and kept at %1 for printing again</source>
-        <translation>Gedruckt und an %1 zum erneuten Drucken aufbewahrt</translation>
-    </message>
-    <message>
-        <source>One copy is printed, the others wait at %1</source>
-        <translation>Ein Exemplar ist gedruckt, die anderen warten an %1</translation>
-    </message>
-    <message>
-        <source>Canceled by %1</source>
-        <translation>Abgebrochen von %1</translation>
-    </message>
-    <message>
-        <source>Canceled at the printer</source>
-        <translation>Am Drucker abgebrochen</translation>
-    </message>
-    <message>
-        <source>Canceled</source>
-        <translation>Abgebrochen</translation>
-    </message>
-    <message>
-        <source>Stopped by the print server</source>
-        <translation>Vom Druckserver angehalten</translation>
-    </message>
-    <message>
-        <source>Not printed</source>
-        <translation>Nicht gedruckt</translation>
-    </message>
-    <message>
-        <source>It is not known whether the job is printed</source>
-        <translation>Es ist nicht bekannt, ob der Auftrag gedruckt ist</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CredentialsDialog</name>
-    <message>
-        <source>Password required</source>
-        <translation>Passwort erforderlich</translation>
-    </message>
-    <message>
-        <source>The printer %1 asks for your password.</source>
-        <translation>Der Drucker %1 verlangt Ihr Passwort.</translation>
-    </message>
-    <message>
-        <source>The print server %1 asks for your password.</source>
-        <translation>Der Druckserver %1 verlangt Ihr Passwort.</translation>
-    </message>
-    <message>
-        <source>Wrong user name or password. Try again.</source>
-        <translation>Benutzername oder Passwort falsch. Versuchen Sie es noch einmal.</translation>
-    </message>
-    <message>
-        <source>Domain:</source>
-        <translation>Domäne:</translation>
-    </message>
-    <message>
-        <source>User name:</source>
-        <translation>Benutzername:</translation>
-    </message>
-    <message>
-        <source>Password:</source>
-        <translation>Passwort:</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
     </message>
 </context>
 </TS>

@@ -491,6 +491,145 @@
     </message>
 </context>
 <context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>Connecting</source>
+        <translation>Conectando</translation>
+    </message>
+    <message>
+        <source>Cover open</source>
+        <translation>Cubierta abierta</translation>
+    </message>
+    <message>
+        <source>Driver missing</source>
+        <translation>Falta el controlador</translation>
+    </message>
+    <message>
+        <source>Out of developer</source>
+        <translation>Sin revelador</translation>
+    </message>
+    <message>
+        <source>Developer low</source>
+        <translation>Queda poco revelador</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>Puerta abierta</translation>
+    </message>
+    <message>
+        <source>Too hot</source>
+        <translation>Demasiado caliente</translation>
+    </message>
+    <message>
+        <source>Warming up</source>
+        <translation>Calentando</translation>
+    </message>
+    <message>
+        <source>Holding new jobs</source>
+        <translation>Retiene los trabajos nuevos</translation>
+    </message>
+    <message>
+        <source>Paper tray missing</source>
+        <translation>Falta la bandeja de papel</translation>
+    </message>
+    <message>
+        <source>Out of ink or toner</source>
+        <translation>Sin tinta o tóner</translation>
+    </message>
+    <message>
+        <source>Ink or toner low</source>
+        <translation>Queda poca tinta o tóner</translation>
+    </message>
+    <message>
+        <source>Waste toner almost full</source>
+        <translation>Recipiente de tóner residual casi lleno</translation>
+    </message>
+    <message>
+        <source>Waste toner full</source>
+        <translation>Recipiente de tóner residual lleno</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>Sin papel</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>Atasco de papel</translation>
+    </message>
+    <message>
+        <source>Paper low</source>
+        <translation>Queda poco papel</translation>
+    </message>
+    <message>
+        <source>Paper needed</source>
+        <translation>Se necesita papel</translation>
+    </message>
+    <message>
+        <source>Pausing</source>
+        <translation>Deteniéndose</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Fuera de línea</translation>
+    </message>
+    <message>
+        <source>Drum worn out</source>
+        <translation>Tambor agotado</translation>
+    </message>
+    <message>
+        <source>Drum almost worn out</source>
+        <translation>Tambor casi agotado</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Requiere atención</translation>
+    </message>
+    <message>
+        <source>Output tray almost full</source>
+        <translation>Bandeja de salida casi llena</translation>
+    </message>
+    <message>
+        <source>Output tray full</source>
+        <translation>Bandeja de salida llena</translation>
+    </message>
+    <message>
+        <source>Output tray missing</source>
+        <translation>Falta la bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>Turned off</source>
+        <translation>Apagada</translation>
+    </message>
+    <message>
+        <source>Printer memory full</source>
+        <translation>Memoria de la impresora llena</translation>
+    </message>
+    <message>
+        <source>Partly stopped</source>
+        <translation>Detenida en parte</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>Parando</translation>
+    </message>
+    <message>
+        <source>Not responding</source>
+        <translation>No responde</translation>
+    </message>
+    <message>
+        <source>Out of toner</source>
+        <translation>Sin tóner</translation>
+    </message>
+    <message>
+        <source>Toner low</source>
+        <translation>Queda poco tóner</translation>
+    </message>
+</context>
+<context>
     <name>StandardTexts</name>
     <message>
         <source>Letter</source>
@@ -981,6 +1120,45 @@
     </message>
 </context>
 <context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>Se necesita una contraseña</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>La impresora %1 pide su contraseña.</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>El servidor de impresión %1 pide su contraseña.</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>Nombre de usuario o contraseña incorrectos. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Dominio:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nombre de usuario:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1389,6 +1567,101 @@
     </message>
 </context>
 <context>
+    <name>kesto::JobWatch</name>
+    <message>
+        <source>Waiting for the printer</source>
+        <translation>Esperando a la impresora</translation>
+    </message>
+    <message>
+        <source>Waiting for 1 other job</source>
+        <translation>Esperando a otro trabajo</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 other jobs</source>
+        <translation>Esperando a otros %1 trabajos</translation>
+    </message>
+    <message>
+        <source>Held: the printer asks for a password</source>
+        <translation>Retenido: la impresora pide una contraseña</translation>
+    </message>
+    <message>
+        <source>Held until its time to print</source>
+        <translation>Retenido hasta la hora de imprimir</translation>
+    </message>
+    <message>
+        <source>Held until it is released</source>
+        <translation>Retenido hasta que se libere</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprimiendo</translation>
+    </message>
+    <message>
+        <source>Printing page %1</source>
+        <translation>Imprimiendo la página %1</translation>
+    </message>
+    <message>
+        <source>Printing page %1 of %2</source>
+        <translation>Imprimiendo la página %1 de %2</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>Detenido: %1</translation>
+    </message>
+    <message>
+        <source>Stopped: the printer is paused</source>
+        <translation>Detenido: la impresora está en pausa</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you enter your pass code there</source>
+        <translation>Espera en %1 hasta que introduzca allí su código de acceso</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you release it there</source>
+        <translation>Espera en %1 hasta que lo libere allí</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Impreso</translation>
+    </message>
+    <message>
+        <source>Printed, and kept at %1 for printing again</source>
+        <translation>Impreso y guardado en %1 para volver a imprimirlo</translation>
+    </message>
+    <message>
+        <source>One copy is printed, the others wait at %1</source>
+        <translation>Se ha impreso una copia; las demás esperan en %1</translation>
+    </message>
+    <message>
+        <source>Canceled by %1</source>
+        <translation>Cancelado por %1</translation>
+    </message>
+    <message>
+        <source>Canceled at the printer</source>
+        <translation>Cancelado en la impresora</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Stopped by the print server</source>
+        <translation>Detenido por el servidor de impresión</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>No se ha impreso</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job is printed</source>
+        <translation>No se sabe si el trabajo se ha impreso</translation>
+    </message>
+</context>
+<context>
     <name>kesto::OptionPane</name>
     <message>
         <source>General</source>
@@ -1789,6 +2062,41 @@
     </message>
 </context>
 <context>
+    <name>kesto::PrinterDetails</name>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Descripción:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>Modelo:</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>Ubicación:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>Message:</source>
+        <translation>Mensaje:</translation>
+    </message>
+    <message>
+        <source>Level unknown</source>
+        <translation>Nivel desconocido</translation>
+    </message>
+</context>
+<context>
     <name>kesto::QueueChooser</name>
     <message>
         <source>Printer</source>
@@ -1821,6 +2129,14 @@
     <message>
         <source>There is no printer named &quot;%1&quot;.</source>
         <translation>No hay ninguna impresora llamada «%1».</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Printer details</source>
+        <translation>Detalles de la impresora</translation>
     </message>
 </context>
 <context>
@@ -1893,279 +2209,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Los demás usuarios pueden ver %1. Para ocultarlo, añada estas líneas a la política «%2» del servidor de impresión:</translation>
-    </message>
-</context>
-<context>
-    <name>PrinterReasons</name>
-    <message>
-        <source>Connecting</source>
-        <translation>Conectando</translation>
-    </message>
-    <message>
-        <source>Cover open</source>
-        <translation>Cubierta abierta</translation>
-    </message>
-    <message>
-        <source>Driver missing</source>
-        <translation>Falta el controlador</translation>
-    </message>
-    <message>
-        <source>Out of developer</source>
-        <translation>Sin revelador</translation>
-    </message>
-    <message>
-        <source>Developer low</source>
-        <translation>Queda poco revelador</translation>
-    </message>
-    <message>
-        <source>Door open</source>
-        <translation>Puerta abierta</translation>
-    </message>
-    <message>
-        <source>Too hot</source>
-        <translation>Demasiado caliente</translation>
-    </message>
-    <message>
-        <source>Warming up</source>
-        <translation>Calentando</translation>
-    </message>
-    <message>
-        <source>Holding new jobs</source>
-        <translation>Retiene los trabajos nuevos</translation>
-    </message>
-    <message>
-        <source>Paper tray missing</source>
-        <translation>Falta la bandeja de papel</translation>
-    </message>
-    <message>
-        <source>Out of ink or toner</source>
-        <translation>Sin tinta o tóner</translation>
-    </message>
-    <message>
-        <source>Ink or toner low</source>
-        <translation>Queda poca tinta o tóner</translation>
-    </message>
-    <message>
-        <source>Waste toner almost full</source>
-        <translation>Recipiente de tóner residual casi lleno</translation>
-    </message>
-    <message>
-        <source>Waste toner full</source>
-        <translation>Recipiente de tóner residual lleno</translation>
-    </message>
-    <message>
-        <source>Out of paper</source>
-        <translation>Sin papel</translation>
-    </message>
-    <message>
-        <source>Paper jam</source>
-        <translation>Atasco de papel</translation>
-    </message>
-    <message>
-        <source>Paper low</source>
-        <translation>Queda poco papel</translation>
-    </message>
-    <message>
-        <source>Paper needed</source>
-        <translation>Se necesita papel</translation>
-    </message>
-    <message>
-        <source>Pausing</source>
-        <translation>Deteniéndose</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>Fuera de línea</translation>
-    </message>
-    <message>
-        <source>Drum worn out</source>
-        <translation>Tambor agotado</translation>
-    </message>
-    <message>
-        <source>Drum almost worn out</source>
-        <translation>Tambor casi agotado</translation>
-    </message>
-    <message>
-        <source>Needs attention</source>
-        <translation>Requiere atención</translation>
-    </message>
-    <message>
-        <source>Output tray almost full</source>
-        <translation>Bandeja de salida casi llena</translation>
-    </message>
-    <message>
-        <source>Output tray full</source>
-        <translation>Bandeja de salida llena</translation>
-    </message>
-    <message>
-        <source>Output tray missing</source>
-        <translation>Falta la bandeja de salida</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>En pausa</translation>
-    </message>
-    <message>
-        <source>Turned off</source>
-        <translation>Apagada</translation>
-    </message>
-    <message>
-        <source>Printer memory full</source>
-        <translation>Memoria de la impresora llena</translation>
-    </message>
-    <message>
-        <source>Partly stopped</source>
-        <translation>Detenida en parte</translation>
-    </message>
-    <message>
-        <source>Stopping</source>
-        <translation>Parando</translation>
-    </message>
-    <message>
-        <source>Not responding</source>
-        <translation>No responde</translation>
-    </message>
-    <message>
-        <source>Out of toner</source>
-        <translation>Sin tóner</translation>
-    </message>
-    <message>
-        <source>Toner low</source>
-        <translation>Queda poco tóner</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::JobWatch</name>
-    <message>
-        <source>Waiting for the printer</source>
-        <translation>Esperando a la impresora</translation>
-    </message>
-    <message>
-        <source>Waiting for 1 other job</source>
-        <translation>Esperando a otro trabajo</translation>
-    </message>
-    <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>Esperando a otros %1 trabajos</translation>
-    </message>
-    <message>
-        <source>Held: the printer asks for a password</source>
-        <translation>Retenido: la impresora pide una contraseña</translation>
-    </message>
-    <message>
-        <source>Held until its time to print</source>
-        <translation>Retenido hasta la hora de imprimir</translation>
-    </message>
-    <message>
-        <source>Held until it is released</source>
-        <translation>Retenido hasta que se libere</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Imprimiendo</translation>
-    </message>
-    <message>
-        <source>Printing page %1</source>
-        <translation>Imprimiendo la página %1</translation>
-    </message>
-    <message>
-        <source>Printing page %1 of %2</source>
-        <translation>Imprimiendo la página %1 de %2</translation>
-    </message>
-    <message>
-        <source>Stopped: %1</source>
-        <translation>Detenido: %1</translation>
-    </message>
-    <message>
-        <source>Stopped: the printer is paused</source>
-        <translation>Detenido: la impresora está en pausa</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>Detenido</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you enter your pass code there</source>
-        <translation>Espera en %1 hasta que introduzca allí su código de acceso</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you release it there</source>
-        <translation>Espera en %1 hasta que lo libere allí</translation>
-    </message>
-    <message>
-        <source>Printed</source>
-        <translation>Impreso</translation>
-    </message>
-    <message>
-        <source>Printed, and kept at %1 for printing again</source>
-        <translation>Impreso y guardado en %1 para volver a imprimirlo</translation>
-    </message>
-    <message>
-        <source>One copy is printed, the others wait at %1</source>
-        <translation>Se ha impreso una copia; las demás esperan en %1</translation>
-    </message>
-    <message>
-        <source>Canceled by %1</source>
-        <translation>Cancelado por %1</translation>
-    </message>
-    <message>
-        <source>Canceled at the printer</source>
-        <translation>Cancelado en la impresora</translation>
-    </message>
-    <message>
-        <source>Canceled</source>
-        <translation>Cancelado</translation>
-    </message>
-    <message>
-        <source>Stopped by the print server</source>
-        <translation>Detenido por el servidor de impresión</translation>
-    </message>
-    <message>
-        <source>Not printed</source>
-        <translation>No se ha impreso</translation>
-    </message>
-    <message>
-        <source>It is not known whether the job is printed</source>
-        <translation>No se sabe si el trabajo se ha impreso</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CredentialsDialog</name>
-    <message>
-        <source>Password required</source>
-        <translation>Se necesita una contraseña</translation>
-    </message>
-    <message>
-        <source>The printer %1 asks for your password.</source>
-        <translation>La impresora %1 pide su contraseña.</translation>
-    </message>
-    <message>
-        <source>The print server %1 asks for your password.</source>
-        <translation>El servidor de impresión %1 pide su contraseña.</translation>
-    </message>
-    <message>
-        <source>Wrong user name or password. Try again.</source>
-        <translation>Nombre de usuario o contraseña incorrectos. Inténtelo de nuevo.</translation>
-    </message>
-    <message>
-        <source>Domain:</source>
-        <translation>Dominio:</translation>
-    </message>
-    <message>
-        <source>User name:</source>
-        <translation>Nombre de usuario:</translation>
-    </message>
-    <message>
-        <source>Password:</source>
-        <translation>Contraseña:</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
     </message>
 </context>
 </TS>

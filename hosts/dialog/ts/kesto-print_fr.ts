@@ -491,6 +491,145 @@
     </message>
 </context>
 <context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>Connecting</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>Cover open</source>
+        <translation>Capot ouvert</translation>
+    </message>
+    <message>
+        <source>Driver missing</source>
+        <translation>Pilote manquant</translation>
+    </message>
+    <message>
+        <source>Out of developer</source>
+        <translation>Plus de développeur</translation>
+    </message>
+    <message>
+        <source>Developer low</source>
+        <translation>Développeur faible</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>Porte ouverte</translation>
+    </message>
+    <message>
+        <source>Too hot</source>
+        <translation>Trop chaud</translation>
+    </message>
+    <message>
+        <source>Warming up</source>
+        <translation>Préchauffage</translation>
+    </message>
+    <message>
+        <source>Holding new jobs</source>
+        <translation>Nouvelles tâches retenues</translation>
+    </message>
+    <message>
+        <source>Paper tray missing</source>
+        <translation>Bac à papier absent</translation>
+    </message>
+    <message>
+        <source>Out of ink or toner</source>
+        <translation>Plus d’encre ou de toner</translation>
+    </message>
+    <message>
+        <source>Ink or toner low</source>
+        <translation>Encre ou toner faible</translation>
+    </message>
+    <message>
+        <source>Waste toner almost full</source>
+        <translation>Bac de toner usagé presque plein</translation>
+    </message>
+    <message>
+        <source>Waste toner full</source>
+        <translation>Bac de toner usagé plein</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>Plus de papier</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>Bourrage papier</translation>
+    </message>
+    <message>
+        <source>Paper low</source>
+        <translation>Papier faible</translation>
+    </message>
+    <message>
+        <source>Paper needed</source>
+        <translation>Papier requis</translation>
+    </message>
+    <message>
+        <source>Pausing</source>
+        <translation>Mise en pause</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Hors ligne</translation>
+    </message>
+    <message>
+        <source>Drum worn out</source>
+        <translation>Tambour usé</translation>
+    </message>
+    <message>
+        <source>Drum almost worn out</source>
+        <translation>Tambour presque usé</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Intervention nécessaire</translation>
+    </message>
+    <message>
+        <source>Output tray almost full</source>
+        <translation>Bac de sortie presque plein</translation>
+    </message>
+    <message>
+        <source>Output tray full</source>
+        <translation>Bac de sortie plein</translation>
+    </message>
+    <message>
+        <source>Output tray missing</source>
+        <translation>Bac de sortie absent</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Turned off</source>
+        <translation>Éteinte</translation>
+    </message>
+    <message>
+        <source>Printer memory full</source>
+        <translation>Mémoire de l’imprimante pleine</translation>
+    </message>
+    <message>
+        <source>Partly stopped</source>
+        <translation>Arrêtée en partie</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>Arrêt en cours</translation>
+    </message>
+    <message>
+        <source>Not responding</source>
+        <translation>Ne répond pas</translation>
+    </message>
+    <message>
+        <source>Out of toner</source>
+        <translation>Plus de toner</translation>
+    </message>
+    <message>
+        <source>Toner low</source>
+        <translation>Toner faible</translation>
+    </message>
+</context>
+<context>
     <name>StandardTexts</name>
     <message>
         <source>Letter</source>
@@ -981,6 +1120,45 @@
     </message>
 </context>
 <context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>Mot de passe requis</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>L’imprimante %1 demande votre mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>Le serveur d’impression %1 demande votre mot de passe.</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>Nom d’utilisateur ou mot de passe incorrect. Réessayez.</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>Domaine&#xa0;:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nom d’utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1389,6 +1567,101 @@
     </message>
 </context>
 <context>
+    <name>kesto::JobWatch</name>
+    <message>
+        <source>Waiting for the printer</source>
+        <translation>En attente de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Waiting for 1 other job</source>
+        <translation>En attente d’un autre travail</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 other jobs</source>
+        <translation>En attente de %1 autres travaux</translation>
+    </message>
+    <message>
+        <source>Held: the printer asks for a password</source>
+        <translation>Retenu&#xa0;: l’imprimante demande un mot de passe</translation>
+    </message>
+    <message>
+        <source>Held until its time to print</source>
+        <translation>Retenu jusqu’à l’heure d’impression</translation>
+    </message>
+    <message>
+        <source>Held until it is released</source>
+        <translation>Retenu jusqu’à sa libération</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression en cours</translation>
+    </message>
+    <message>
+        <source>Printing page %1</source>
+        <translation>Impression de la page %1</translation>
+    </message>
+    <message>
+        <source>Printing page %1 of %2</source>
+        <translation>Impression de la page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>Arrêté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Stopped: the printer is paused</source>
+        <translation>Arrêté&#xa0;: l’imprimante est en pause</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you enter your pass code there</source>
+        <translation>Attend sur %1 que vous y saisissiez votre code d’accès</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you release it there</source>
+        <translation>Attend sur %1 que vous le libériez</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Imprimé</translation>
+    </message>
+    <message>
+        <source>Printed, and kept at %1 for printing again</source>
+        <translation>Imprimé et conservé sur %1 pour une réimpression</translation>
+    </message>
+    <message>
+        <source>One copy is printed, the others wait at %1</source>
+        <translation>Un exemplaire est imprimé, les autres attendent sur %1</translation>
+    </message>
+    <message>
+        <source>Canceled by %1</source>
+        <translation>Annulé par %1</translation>
+    </message>
+    <message>
+        <source>Canceled at the printer</source>
+        <translation>Annulé sur l’imprimante</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>Stopped by the print server</source>
+        <translation>Arrêté par le serveur d’impression</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>Non imprimé</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job is printed</source>
+        <translation>On ne sait pas si le travail est imprimé</translation>
+    </message>
+</context>
+<context>
     <name>kesto::OptionPane</name>
     <message>
         <source>General</source>
@@ -1789,6 +2062,41 @@
     </message>
 </context>
 <context>
+    <name>kesto::PrinterDetails</name>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Description&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>Modèle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>Emplacement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>État&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Message:</source>
+        <translation>Message&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Level unknown</source>
+        <translation>Niveau inconnu</translation>
+    </message>
+</context>
+<context>
     <name>kesto::QueueChooser</name>
     <message>
         <source>Printer</source>
@@ -1821,6 +2129,14 @@
     <message>
         <source>There is no printer named &quot;%1&quot;.</source>
         <translation>Il n’y a pas d’imprimante nommée «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>Printer details</source>
+        <translation>Détails de l’imprimante</translation>
     </message>
 </context>
 <context>
@@ -1893,279 +2209,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Les autres utilisateurs peuvent voir %1. Pour le masquer, ajoutez ces lignes à la politique «&#xa0;%2&#xa0;» du serveur d’impression&#xa0;:</translation>
-    </message>
-</context>
-<context>
-    <name>PrinterReasons</name>
-    <message>
-        <source>Connecting</source>
-        <translation>Connexion</translation>
-    </message>
-    <message>
-        <source>Cover open</source>
-        <translation>Capot ouvert</translation>
-    </message>
-    <message>
-        <source>Driver missing</source>
-        <translation>Pilote manquant</translation>
-    </message>
-    <message>
-        <source>Out of developer</source>
-        <translation>Plus de développeur</translation>
-    </message>
-    <message>
-        <source>Developer low</source>
-        <translation>Développeur faible</translation>
-    </message>
-    <message>
-        <source>Door open</source>
-        <translation>Porte ouverte</translation>
-    </message>
-    <message>
-        <source>Too hot</source>
-        <translation>Trop chaud</translation>
-    </message>
-    <message>
-        <source>Warming up</source>
-        <translation>Préchauffage</translation>
-    </message>
-    <message>
-        <source>Holding new jobs</source>
-        <translation>Nouvelles tâches retenues</translation>
-    </message>
-    <message>
-        <source>Paper tray missing</source>
-        <translation>Bac à papier absent</translation>
-    </message>
-    <message>
-        <source>Out of ink or toner</source>
-        <translation>Plus d’encre ou de toner</translation>
-    </message>
-    <message>
-        <source>Ink or toner low</source>
-        <translation>Encre ou toner faible</translation>
-    </message>
-    <message>
-        <source>Waste toner almost full</source>
-        <translation>Bac de toner usagé presque plein</translation>
-    </message>
-    <message>
-        <source>Waste toner full</source>
-        <translation>Bac de toner usagé plein</translation>
-    </message>
-    <message>
-        <source>Out of paper</source>
-        <translation>Plus de papier</translation>
-    </message>
-    <message>
-        <source>Paper jam</source>
-        <translation>Bourrage papier</translation>
-    </message>
-    <message>
-        <source>Paper low</source>
-        <translation>Papier faible</translation>
-    </message>
-    <message>
-        <source>Paper needed</source>
-        <translation>Papier requis</translation>
-    </message>
-    <message>
-        <source>Pausing</source>
-        <translation>Mise en pause</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>Hors ligne</translation>
-    </message>
-    <message>
-        <source>Drum worn out</source>
-        <translation>Tambour usé</translation>
-    </message>
-    <message>
-        <source>Drum almost worn out</source>
-        <translation>Tambour presque usé</translation>
-    </message>
-    <message>
-        <source>Needs attention</source>
-        <translation>Intervention nécessaire</translation>
-    </message>
-    <message>
-        <source>Output tray almost full</source>
-        <translation>Bac de sortie presque plein</translation>
-    </message>
-    <message>
-        <source>Output tray full</source>
-        <translation>Bac de sortie plein</translation>
-    </message>
-    <message>
-        <source>Output tray missing</source>
-        <translation>Bac de sortie absent</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>En pause</translation>
-    </message>
-    <message>
-        <source>Turned off</source>
-        <translation>Éteinte</translation>
-    </message>
-    <message>
-        <source>Printer memory full</source>
-        <translation>Mémoire de l’imprimante pleine</translation>
-    </message>
-    <message>
-        <source>Partly stopped</source>
-        <translation>Arrêtée en partie</translation>
-    </message>
-    <message>
-        <source>Stopping</source>
-        <translation>Arrêt en cours</translation>
-    </message>
-    <message>
-        <source>Not responding</source>
-        <translation>Ne répond pas</translation>
-    </message>
-    <message>
-        <source>Out of toner</source>
-        <translation>Plus de toner</translation>
-    </message>
-    <message>
-        <source>Toner low</source>
-        <translation>Toner faible</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::JobWatch</name>
-    <message>
-        <source>Waiting for the printer</source>
-        <translation>En attente de l’imprimante</translation>
-    </message>
-    <message>
-        <source>Waiting for 1 other job</source>
-        <translation>En attente d’un autre travail</translation>
-    </message>
-    <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>En attente de %1 autres travaux</translation>
-    </message>
-    <message>
-        <source>Held: the printer asks for a password</source>
-        <translation>Retenu&#xa0;: l’imprimante demande un mot de passe</translation>
-    </message>
-    <message>
-        <source>Held until its time to print</source>
-        <translation>Retenu jusqu’à l’heure d’impression</translation>
-    </message>
-    <message>
-        <source>Held until it is released</source>
-        <translation>Retenu jusqu’à sa libération</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Impression en cours</translation>
-    </message>
-    <message>
-        <source>Printing page %1</source>
-        <translation>Impression de la page %1</translation>
-    </message>
-    <message>
-        <source>Printing page %1 of %2</source>
-        <translation>Impression de la page %1 sur %2</translation>
-    </message>
-    <message>
-        <source>Stopped: %1</source>
-        <translation>Arrêté&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Stopped: the printer is paused</source>
-        <translation>Arrêté&#xa0;: l’imprimante est en pause</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>Arrêté</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you enter your pass code there</source>
-        <translation>Attend sur %1 que vous y saisissiez votre code d’accès</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you release it there</source>
-        <translation>Attend sur %1 que vous le libériez</translation>
-    </message>
-    <message>
-        <source>Printed</source>
-        <translation>Imprimé</translation>
-    </message>
-    <message>
-        <source>Printed, and kept at %1 for printing again</source>
-        <translation>Imprimé et conservé sur %1 pour une réimpression</translation>
-    </message>
-    <message>
-        <source>One copy is printed, the others wait at %1</source>
-        <translation>Un exemplaire est imprimé, les autres attendent sur %1</translation>
-    </message>
-    <message>
-        <source>Canceled by %1</source>
-        <translation>Annulé par %1</translation>
-    </message>
-    <message>
-        <source>Canceled at the printer</source>
-        <translation>Annulé sur l’imprimante</translation>
-    </message>
-    <message>
-        <source>Canceled</source>
-        <translation>Annulé</translation>
-    </message>
-    <message>
-        <source>Stopped by the print server</source>
-        <translation>Arrêté par le serveur d’impression</translation>
-    </message>
-    <message>
-        <source>Not printed</source>
-        <translation>Non imprimé</translation>
-    </message>
-    <message>
-        <source>It is not known whether the job is printed</source>
-        <translation>On ne sait pas si le travail est imprimé</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CredentialsDialog</name>
-    <message>
-        <source>Password required</source>
-        <translation>Mot de passe requis</translation>
-    </message>
-    <message>
-        <source>The printer %1 asks for your password.</source>
-        <translation>L’imprimante %1 demande votre mot de passe.</translation>
-    </message>
-    <message>
-        <source>The print server %1 asks for your password.</source>
-        <translation>Le serveur d’impression %1 demande votre mot de passe.</translation>
-    </message>
-    <message>
-        <source>Wrong user name or password. Try again.</source>
-        <translation>Nom d’utilisateur ou mot de passe incorrect. Réessayez.</translation>
-    </message>
-    <message>
-        <source>Domain:</source>
-        <translation>Domaine&#xa0;:</translation>
-    </message>
-    <message>
-        <source>User name:</source>
-        <translation>Nom d’utilisateur&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Password:</source>
-        <translation>Mot de passe&#xa0;:</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
     </message>
 </context>
 </TS>

@@ -491,6 +491,145 @@
     </message>
 </context>
 <context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>Connecting</source>
+        <translation>接続中</translation>
+    </message>
+    <message>
+        <source>Cover open</source>
+        <translation>カバーが開いています</translation>
+    </message>
+    <message>
+        <source>Driver missing</source>
+        <translation>ドライバーがありません</translation>
+    </message>
+    <message>
+        <source>Out of developer</source>
+        <translation>現像剤がありません</translation>
+    </message>
+    <message>
+        <source>Developer low</source>
+        <translation>現像剤残量少</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>ドアが開いています</translation>
+    </message>
+    <message>
+        <source>Too hot</source>
+        <translation>高温</translation>
+    </message>
+    <message>
+        <source>Warming up</source>
+        <translation>ウォームアップ中</translation>
+    </message>
+    <message>
+        <source>Holding new jobs</source>
+        <translation>新しいジョブを保留中</translation>
+    </message>
+    <message>
+        <source>Paper tray missing</source>
+        <translation>給紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>Out of ink or toner</source>
+        <translation>インクまたはトナーがありません</translation>
+    </message>
+    <message>
+        <source>Ink or toner low</source>
+        <translation>インクまたはトナー残量少</translation>
+    </message>
+    <message>
+        <source>Waste toner almost full</source>
+        <translation>廃トナーがほぼ満杯</translation>
+    </message>
+    <message>
+        <source>Waste toner full</source>
+        <translation>廃トナーが満杯</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>用紙切れ</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>紙詰まり</translation>
+    </message>
+    <message>
+        <source>Paper low</source>
+        <translation>用紙残量少</translation>
+    </message>
+    <message>
+        <source>Paper needed</source>
+        <translation>用紙が必要です</translation>
+    </message>
+    <message>
+        <source>Pausing</source>
+        <translation>一時停止しています</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>オフライン</translation>
+    </message>
+    <message>
+        <source>Drum worn out</source>
+        <translation>ドラム寿命</translation>
+    </message>
+    <message>
+        <source>Drum almost worn out</source>
+        <translation>ドラム寿命間近</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>確認が必要です</translation>
+    </message>
+    <message>
+        <source>Output tray almost full</source>
+        <translation>排紙トレイがほぼ満杯</translation>
+    </message>
+    <message>
+        <source>Output tray full</source>
+        <translation>排紙トレイが満杯</translation>
+    </message>
+    <message>
+        <source>Output tray missing</source>
+        <translation>排紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Turned off</source>
+        <translation>電源オフ</translation>
+    </message>
+    <message>
+        <source>Printer memory full</source>
+        <translation>プリンターのメモリー不足</translation>
+    </message>
+    <message>
+        <source>Partly stopped</source>
+        <translation>一部停止</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>停止しています</translation>
+    </message>
+    <message>
+        <source>Not responding</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <source>Out of toner</source>
+        <translation>トナー切れ</translation>
+    </message>
+    <message>
+        <source>Toner low</source>
+        <translation>トナー残量少</translation>
+    </message>
+</context>
+<context>
     <name>StandardTexts</name>
     <message>
         <source>Letter</source>
@@ -981,6 +1120,45 @@
     </message>
 </context>
 <context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>パスワードが必要です</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>プリンター %1 がパスワードを求めています。</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>プリントサーバー %1 がパスワードを求めています。</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>ユーザー名またはパスワードが違います。もう一度入力してください。</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>ドメイン:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>ユーザー名:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1388,6 +1566,101 @@
     </message>
 </context>
 <context>
+    <name>kesto::JobWatch</name>
+    <message>
+        <source>Waiting for the printer</source>
+        <translation>プリンターを待っています</translation>
+    </message>
+    <message>
+        <source>Waiting for 1 other job</source>
+        <translation>ほかの 1 件のジョブを待っています</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 other jobs</source>
+        <translation>ほかの %1 件のジョブを待っています</translation>
+    </message>
+    <message>
+        <source>Held: the printer asks for a password</source>
+        <translation>保留中: プリンターがパスワードを求めています</translation>
+    </message>
+    <message>
+        <source>Held until its time to print</source>
+        <translation>印刷時刻まで保留中</translation>
+    </message>
+    <message>
+        <source>Held until it is released</source>
+        <translation>解放されるまで保留中</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Printing page %1</source>
+        <translation>%1 ページ目を印刷中</translation>
+    </message>
+    <message>
+        <source>Printing page %1 of %2</source>
+        <translation>%2 ページ中 %1 ページ目を印刷中</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>停止: %1</translation>
+    </message>
+    <message>
+        <source>Stopped: the printer is paused</source>
+        <translation>停止: プリンターは一時停止しています</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you enter your pass code there</source>
+        <translation>%1 で暗証番号が入力されるのを待っています</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you release it there</source>
+        <translation>%1 で解放されるのを待っています</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>印刷しました</translation>
+    </message>
+    <message>
+        <source>Printed, and kept at %1 for printing again</source>
+        <translation>印刷しました。再印刷のため %1 に保存されています</translation>
+    </message>
+    <message>
+        <source>One copy is printed, the others wait at %1</source>
+        <translation>1 部印刷しました。残りは %1 で待機しています</translation>
+    </message>
+    <message>
+        <source>Canceled by %1</source>
+        <translation>%1 がキャンセルしました</translation>
+    </message>
+    <message>
+        <source>Canceled at the printer</source>
+        <translation>プリンターでキャンセルされました</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>キャンセルされました</translation>
+    </message>
+    <message>
+        <source>Stopped by the print server</source>
+        <translation>印刷サーバーが停止しました</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>印刷されませんでした</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job is printed</source>
+        <translation>ジョブが印刷されたかどうか不明です</translation>
+    </message>
+</context>
+<context>
     <name>kesto::OptionPane</name>
     <message>
         <source>General</source>
@@ -1788,6 +2061,41 @@
     </message>
 </context>
 <context>
+    <name>kesto::PrinterDetails</name>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名前:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>説明:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>機種:</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>場所:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>状態:</translation>
+    </message>
+    <message>
+        <source>Message:</source>
+        <translation>メッセージ:</translation>
+    </message>
+    <message>
+        <source>Level unknown</source>
+        <translation>残量不明</translation>
+    </message>
+</context>
+<context>
     <name>kesto::QueueChooser</name>
     <message>
         <source>Printer</source>
@@ -1820,6 +2128,14 @@
     <message>
         <source>There is no printer named &quot;%1&quot;.</source>
         <translation>「%1」という名前のプリンターはありません。</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Printer details</source>
+        <translation>プリンターの詳細</translation>
     </message>
 </context>
 <context>
@@ -1892,279 +2208,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>他のユーザーに見える内容: %1。隠すには、プリントサーバーのポリシー「%2」に次の行を追加してください:</translation>
-    </message>
-</context>
-<context>
-    <name>PrinterReasons</name>
-    <message>
-        <source>Connecting</source>
-        <translation>接続中</translation>
-    </message>
-    <message>
-        <source>Cover open</source>
-        <translation>カバーが開いています</translation>
-    </message>
-    <message>
-        <source>Driver missing</source>
-        <translation>ドライバーがありません</translation>
-    </message>
-    <message>
-        <source>Out of developer</source>
-        <translation>現像剤がありません</translation>
-    </message>
-    <message>
-        <source>Developer low</source>
-        <translation>現像剤残量少</translation>
-    </message>
-    <message>
-        <source>Door open</source>
-        <translation>ドアが開いています</translation>
-    </message>
-    <message>
-        <source>Too hot</source>
-        <translation>高温</translation>
-    </message>
-    <message>
-        <source>Warming up</source>
-        <translation>ウォームアップ中</translation>
-    </message>
-    <message>
-        <source>Holding new jobs</source>
-        <translation>新しいジョブを保留中</translation>
-    </message>
-    <message>
-        <source>Paper tray missing</source>
-        <translation>給紙トレイがありません</translation>
-    </message>
-    <message>
-        <source>Out of ink or toner</source>
-        <translation>インクまたはトナーがありません</translation>
-    </message>
-    <message>
-        <source>Ink or toner low</source>
-        <translation>インクまたはトナー残量少</translation>
-    </message>
-    <message>
-        <source>Waste toner almost full</source>
-        <translation>廃トナーがほぼ満杯</translation>
-    </message>
-    <message>
-        <source>Waste toner full</source>
-        <translation>廃トナーが満杯</translation>
-    </message>
-    <message>
-        <source>Out of paper</source>
-        <translation>用紙切れ</translation>
-    </message>
-    <message>
-        <source>Paper jam</source>
-        <translation>紙詰まり</translation>
-    </message>
-    <message>
-        <source>Paper low</source>
-        <translation>用紙残量少</translation>
-    </message>
-    <message>
-        <source>Paper needed</source>
-        <translation>用紙が必要です</translation>
-    </message>
-    <message>
-        <source>Pausing</source>
-        <translation>一時停止しています</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>オフライン</translation>
-    </message>
-    <message>
-        <source>Drum worn out</source>
-        <translation>ドラム寿命</translation>
-    </message>
-    <message>
-        <source>Drum almost worn out</source>
-        <translation>ドラム寿命間近</translation>
-    </message>
-    <message>
-        <source>Needs attention</source>
-        <translation>確認が必要です</translation>
-    </message>
-    <message>
-        <source>Output tray almost full</source>
-        <translation>排紙トレイがほぼ満杯</translation>
-    </message>
-    <message>
-        <source>Output tray full</source>
-        <translation>排紙トレイが満杯</translation>
-    </message>
-    <message>
-        <source>Output tray missing</source>
-        <translation>排紙トレイがありません</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>一時停止中</translation>
-    </message>
-    <message>
-        <source>Turned off</source>
-        <translation>電源オフ</translation>
-    </message>
-    <message>
-        <source>Printer memory full</source>
-        <translation>プリンターのメモリー不足</translation>
-    </message>
-    <message>
-        <source>Partly stopped</source>
-        <translation>一部停止</translation>
-    </message>
-    <message>
-        <source>Stopping</source>
-        <translation>停止しています</translation>
-    </message>
-    <message>
-        <source>Not responding</source>
-        <translation>応答なし</translation>
-    </message>
-    <message>
-        <source>Out of toner</source>
-        <translation>トナー切れ</translation>
-    </message>
-    <message>
-        <source>Toner low</source>
-        <translation>トナー残量少</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::JobWatch</name>
-    <message>
-        <source>Waiting for the printer</source>
-        <translation>プリンターを待っています</translation>
-    </message>
-    <message>
-        <source>Waiting for 1 other job</source>
-        <translation>ほかの 1 件のジョブを待っています</translation>
-    </message>
-    <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>ほかの %1 件のジョブを待っています</translation>
-    </message>
-    <message>
-        <source>Held: the printer asks for a password</source>
-        <translation>保留中: プリンターがパスワードを求めています</translation>
-    </message>
-    <message>
-        <source>Held until its time to print</source>
-        <translation>印刷時刻まで保留中</translation>
-    </message>
-    <message>
-        <source>Held until it is released</source>
-        <translation>解放されるまで保留中</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>印刷中</translation>
-    </message>
-    <message>
-        <source>Printing page %1</source>
-        <translation>%1 ページ目を印刷中</translation>
-    </message>
-    <message>
-        <source>Printing page %1 of %2</source>
-        <translation>%2 ページ中 %1 ページ目を印刷中</translation>
-    </message>
-    <message>
-        <source>Stopped: %1</source>
-        <translation>停止: %1</translation>
-    </message>
-    <message>
-        <source>Stopped: the printer is paused</source>
-        <translation>停止: プリンターは一時停止しています</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you enter your pass code there</source>
-        <translation>%1 で暗証番号が入力されるのを待っています</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you release it there</source>
-        <translation>%1 で解放されるのを待っています</translation>
-    </message>
-    <message>
-        <source>Printed</source>
-        <translation>印刷しました</translation>
-    </message>
-    <message>
-        <source>Printed, and kept at %1 for printing again</source>
-        <translation>印刷しました。再印刷のため %1 に保存されています</translation>
-    </message>
-    <message>
-        <source>One copy is printed, the others wait at %1</source>
-        <translation>1 部印刷しました。残りは %1 で待機しています</translation>
-    </message>
-    <message>
-        <source>Canceled by %1</source>
-        <translation>%1 がキャンセルしました</translation>
-    </message>
-    <message>
-        <source>Canceled at the printer</source>
-        <translation>プリンターでキャンセルされました</translation>
-    </message>
-    <message>
-        <source>Canceled</source>
-        <translation>キャンセルされました</translation>
-    </message>
-    <message>
-        <source>Stopped by the print server</source>
-        <translation>印刷サーバーが停止しました</translation>
-    </message>
-    <message>
-        <source>Not printed</source>
-        <translation>印刷されませんでした</translation>
-    </message>
-    <message>
-        <source>It is not known whether the job is printed</source>
-        <translation>ジョブが印刷されたかどうか不明です</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CredentialsDialog</name>
-    <message>
-        <source>Password required</source>
-        <translation>パスワードが必要です</translation>
-    </message>
-    <message>
-        <source>The printer %1 asks for your password.</source>
-        <translation>プリンター %1 がパスワードを求めています。</translation>
-    </message>
-    <message>
-        <source>The print server %1 asks for your password.</source>
-        <translation>プリントサーバー %1 がパスワードを求めています。</translation>
-    </message>
-    <message>
-        <source>Wrong user name or password. Try again.</source>
-        <translation>ユーザー名またはパスワードが違います。もう一度入力してください。</translation>
-    </message>
-    <message>
-        <source>Domain:</source>
-        <translation>ドメイン:</translation>
-    </message>
-    <message>
-        <source>User name:</source>
-        <translation>ユーザー名:</translation>
-    </message>
-    <message>
-        <source>Password:</source>
-        <translation>パスワード:</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
     </message>
 </context>
 </TS>

@@ -491,6 +491,145 @@
     </message>
 </context>
 <context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>Connecting</source>
+        <translation>正在连接</translation>
+    </message>
+    <message>
+        <source>Cover open</source>
+        <translation>盖子打开</translation>
+    </message>
+    <message>
+        <source>Driver missing</source>
+        <translation>缺少驱动程序</translation>
+    </message>
+    <message>
+        <source>Out of developer</source>
+        <translation>显影剂用尽</translation>
+    </message>
+    <message>
+        <source>Developer low</source>
+        <translation>显影剂不足</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>门打开</translation>
+    </message>
+    <message>
+        <source>Too hot</source>
+        <translation>过热</translation>
+    </message>
+    <message>
+        <source>Warming up</source>
+        <translation>正在预热</translation>
+    </message>
+    <message>
+        <source>Holding new jobs</source>
+        <translation>新任务被保留</translation>
+    </message>
+    <message>
+        <source>Paper tray missing</source>
+        <translation>缺少纸盒</translation>
+    </message>
+    <message>
+        <source>Out of ink or toner</source>
+        <translation>墨水或碳粉用尽</translation>
+    </message>
+    <message>
+        <source>Ink or toner low</source>
+        <translation>墨水或碳粉不足</translation>
+    </message>
+    <message>
+        <source>Waste toner almost full</source>
+        <translation>废粉盒将满</translation>
+    </message>
+    <message>
+        <source>Waste toner full</source>
+        <translation>废粉盒已满</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>缺纸</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>卡纸</translation>
+    </message>
+    <message>
+        <source>Paper low</source>
+        <translation>纸张不足</translation>
+    </message>
+    <message>
+        <source>Paper needed</source>
+        <translation>需要装纸</translation>
+    </message>
+    <message>
+        <source>Pausing</source>
+        <translation>正在暂停</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>脱机</translation>
+    </message>
+    <message>
+        <source>Drum worn out</source>
+        <translation>感光鼓已到寿命</translation>
+    </message>
+    <message>
+        <source>Drum almost worn out</source>
+        <translation>感光鼓寿命将尽</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>需要处理</translation>
+    </message>
+    <message>
+        <source>Output tray almost full</source>
+        <translation>出纸盒将满</translation>
+    </message>
+    <message>
+        <source>Output tray full</source>
+        <translation>出纸盒已满</translation>
+    </message>
+    <message>
+        <source>Output tray missing</source>
+        <translation>缺少出纸盒</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>Turned off</source>
+        <translation>已关机</translation>
+    </message>
+    <message>
+        <source>Printer memory full</source>
+        <translation>打印机内存已满</translation>
+    </message>
+    <message>
+        <source>Partly stopped</source>
+        <translation>部分停止</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>正在停止</translation>
+    </message>
+    <message>
+        <source>Not responding</source>
+        <translation>无响应</translation>
+    </message>
+    <message>
+        <source>Out of toner</source>
+        <translation>碳粉用尽</translation>
+    </message>
+    <message>
+        <source>Toner low</source>
+        <translation>碳粉不足</translation>
+    </message>
+</context>
+<context>
     <name>StandardTexts</name>
     <message>
         <source>Letter</source>
@@ -981,6 +1120,45 @@
     </message>
 </context>
 <context>
+    <name>kesto::CredentialsDialog</name>
+    <message>
+        <source>Password required</source>
+        <translation>需要密码</translation>
+    </message>
+    <message>
+        <source>The printer %1 asks for your password.</source>
+        <translation>打印机 %1 要求您输入密码。</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for your password.</source>
+        <translation>打印服务器 %1 要求您输入密码。</translation>
+    </message>
+    <message>
+        <source>Wrong user name or password. Try again.</source>
+        <translation>用户名或密码错误。请重试。</translation>
+    </message>
+    <message>
+        <source>Domain:</source>
+        <translation>域:</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>用户名:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>密码:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>kesto::DialogFoot</name>
     <message>
         <source>Sending the job</source>
@@ -1388,6 +1566,101 @@
     </message>
 </context>
 <context>
+    <name>kesto::JobWatch</name>
+    <message>
+        <source>Waiting for the printer</source>
+        <translation>正在等待打印机</translation>
+    </message>
+    <message>
+        <source>Waiting for 1 other job</source>
+        <translation>正在等待另外 1 个作业</translation>
+    </message>
+    <message>
+        <source>Waiting for %1 other jobs</source>
+        <translation>正在等待另外 %1 个作业</translation>
+    </message>
+    <message>
+        <source>Held: the printer asks for a password</source>
+        <translation>已保留：打印机需要密码</translation>
+    </message>
+    <message>
+        <source>Held until its time to print</source>
+        <translation>保留至打印时间</translation>
+    </message>
+    <message>
+        <source>Held until it is released</source>
+        <translation>保留至被释放</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>Printing page %1</source>
+        <translation>正在打印第 %1 页</translation>
+    </message>
+    <message>
+        <source>Printing page %1 of %2</source>
+        <translation>正在打印第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>已停止：%1</translation>
+    </message>
+    <message>
+        <source>Stopped: the printer is paused</source>
+        <translation>已停止：打印机已暂停</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you enter your pass code there</source>
+        <translation>正在 %1 上等待您输入 PIN 码</translation>
+    </message>
+    <message>
+        <source>Waits at %1 until you release it there</source>
+        <translation>正在 %1 上等待您释放</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>已打印</translation>
+    </message>
+    <message>
+        <source>Printed, and kept at %1 for printing again</source>
+        <translation>已打印，并保留在 %1 上以便再次打印</translation>
+    </message>
+    <message>
+        <source>One copy is printed, the others wait at %1</source>
+        <translation>已打印一份，其余在 %1 上等待</translation>
+    </message>
+    <message>
+        <source>Canceled by %1</source>
+        <translation>已被 %1 取消</translation>
+    </message>
+    <message>
+        <source>Canceled at the printer</source>
+        <translation>已在打印机上取消</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Stopped by the print server</source>
+        <translation>已被打印服务器停止</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>未打印</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job is printed</source>
+        <translation>无法确定作业是否已打印</translation>
+    </message>
+</context>
+<context>
     <name>kesto::OptionPane</name>
     <message>
         <source>General</source>
@@ -1788,6 +2061,41 @@
     </message>
 </context>
 <context>
+    <name>kesto::PrinterDetails</name>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>描述:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>型号:</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>位置:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>状态:</translation>
+    </message>
+    <message>
+        <source>Message:</source>
+        <translation>消息:</translation>
+    </message>
+    <message>
+        <source>Level unknown</source>
+        <translation>余量未知</translation>
+    </message>
+</context>
+<context>
     <name>kesto::QueueChooser</name>
     <message>
         <source>Printer</source>
@@ -1820,6 +2128,14 @@
     <message>
         <source>There is no printer named &quot;%1&quot;.</source>
         <translation>没有名为“%1”的打印机。</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>Printer details</source>
+        <translation>打印机详细信息</translation>
     </message>
 </context>
 <context>
@@ -1892,279 +2208,6 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>其他用户可以看到%1。要隐藏这些内容，请在打印服务器的策略“%2”中添加以下几行：</translation>
-    </message>
-</context>
-<context>
-    <name>PrinterReasons</name>
-    <message>
-        <source>Connecting</source>
-        <translation>正在连接</translation>
-    </message>
-    <message>
-        <source>Cover open</source>
-        <translation>盖子打开</translation>
-    </message>
-    <message>
-        <source>Driver missing</source>
-        <translation>缺少驱动程序</translation>
-    </message>
-    <message>
-        <source>Out of developer</source>
-        <translation>显影剂用尽</translation>
-    </message>
-    <message>
-        <source>Developer low</source>
-        <translation>显影剂不足</translation>
-    </message>
-    <message>
-        <source>Door open</source>
-        <translation>门打开</translation>
-    </message>
-    <message>
-        <source>Too hot</source>
-        <translation>过热</translation>
-    </message>
-    <message>
-        <source>Warming up</source>
-        <translation>正在预热</translation>
-    </message>
-    <message>
-        <source>Holding new jobs</source>
-        <translation>新任务被保留</translation>
-    </message>
-    <message>
-        <source>Paper tray missing</source>
-        <translation>缺少纸盒</translation>
-    </message>
-    <message>
-        <source>Out of ink or toner</source>
-        <translation>墨水或碳粉用尽</translation>
-    </message>
-    <message>
-        <source>Ink or toner low</source>
-        <translation>墨水或碳粉不足</translation>
-    </message>
-    <message>
-        <source>Waste toner almost full</source>
-        <translation>废粉盒将满</translation>
-    </message>
-    <message>
-        <source>Waste toner full</source>
-        <translation>废粉盒已满</translation>
-    </message>
-    <message>
-        <source>Out of paper</source>
-        <translation>缺纸</translation>
-    </message>
-    <message>
-        <source>Paper jam</source>
-        <translation>卡纸</translation>
-    </message>
-    <message>
-        <source>Paper low</source>
-        <translation>纸张不足</translation>
-    </message>
-    <message>
-        <source>Paper needed</source>
-        <translation>需要装纸</translation>
-    </message>
-    <message>
-        <source>Pausing</source>
-        <translation>正在暂停</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>脱机</translation>
-    </message>
-    <message>
-        <source>Drum worn out</source>
-        <translation>感光鼓已到寿命</translation>
-    </message>
-    <message>
-        <source>Drum almost worn out</source>
-        <translation>感光鼓寿命将尽</translation>
-    </message>
-    <message>
-        <source>Needs attention</source>
-        <translation>需要处理</translation>
-    </message>
-    <message>
-        <source>Output tray almost full</source>
-        <translation>出纸盒将满</translation>
-    </message>
-    <message>
-        <source>Output tray full</source>
-        <translation>出纸盒已满</translation>
-    </message>
-    <message>
-        <source>Output tray missing</source>
-        <translation>缺少出纸盒</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>已暂停</translation>
-    </message>
-    <message>
-        <source>Turned off</source>
-        <translation>已关机</translation>
-    </message>
-    <message>
-        <source>Printer memory full</source>
-        <translation>打印机内存已满</translation>
-    </message>
-    <message>
-        <source>Partly stopped</source>
-        <translation>部分停止</translation>
-    </message>
-    <message>
-        <source>Stopping</source>
-        <translation>正在停止</translation>
-    </message>
-    <message>
-        <source>Not responding</source>
-        <translation>无响应</translation>
-    </message>
-    <message>
-        <source>Out of toner</source>
-        <translation>碳粉用尽</translation>
-    </message>
-    <message>
-        <source>Toner low</source>
-        <translation>碳粉不足</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::JobWatch</name>
-    <message>
-        <source>Waiting for the printer</source>
-        <translation>正在等待打印机</translation>
-    </message>
-    <message>
-        <source>Waiting for 1 other job</source>
-        <translation>正在等待另外 1 个作业</translation>
-    </message>
-    <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>正在等待另外 %1 个作业</translation>
-    </message>
-    <message>
-        <source>Held: the printer asks for a password</source>
-        <translation>已保留：打印机需要密码</translation>
-    </message>
-    <message>
-        <source>Held until its time to print</source>
-        <translation>保留至打印时间</translation>
-    </message>
-    <message>
-        <source>Held until it is released</source>
-        <translation>保留至被释放</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>正在打印</translation>
-    </message>
-    <message>
-        <source>Printing page %1</source>
-        <translation>正在打印第 %1 页</translation>
-    </message>
-    <message>
-        <source>Printing page %1 of %2</source>
-        <translation>正在打印第 %1 页，共 %2 页</translation>
-    </message>
-    <message>
-        <source>Stopped: %1</source>
-        <translation>已停止：%1</translation>
-    </message>
-    <message>
-        <source>Stopped: the printer is paused</source>
-        <translation>已停止：打印机已暂停</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>已停止</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you enter your pass code there</source>
-        <translation>正在 %1 上等待您输入 PIN 码</translation>
-    </message>
-    <message>
-        <source>Waits at %1 until you release it there</source>
-        <translation>正在 %1 上等待您释放</translation>
-    </message>
-    <message>
-        <source>Printed</source>
-        <translation>已打印</translation>
-    </message>
-    <message>
-        <source>Printed, and kept at %1 for printing again</source>
-        <translation>已打印，并保留在 %1 上以便再次打印</translation>
-    </message>
-    <message>
-        <source>One copy is printed, the others wait at %1</source>
-        <translation>已打印一份，其余在 %1 上等待</translation>
-    </message>
-    <message>
-        <source>Canceled by %1</source>
-        <translation>已被 %1 取消</translation>
-    </message>
-    <message>
-        <source>Canceled at the printer</source>
-        <translation>已在打印机上取消</translation>
-    </message>
-    <message>
-        <source>Canceled</source>
-        <translation>已取消</translation>
-    </message>
-    <message>
-        <source>Stopped by the print server</source>
-        <translation>已被打印服务器停止</translation>
-    </message>
-    <message>
-        <source>Not printed</source>
-        <translation>未打印</translation>
-    </message>
-    <message>
-        <source>It is not known whether the job is printed</source>
-        <translation>无法确定作业是否已打印</translation>
-    </message>
-</context>
-<context>
-    <name>kesto::CredentialsDialog</name>
-    <message>
-        <source>Password required</source>
-        <translation>需要密码</translation>
-    </message>
-    <message>
-        <source>The printer %1 asks for your password.</source>
-        <translation>打印机 %1 要求您输入密码。</translation>
-    </message>
-    <message>
-        <source>The print server %1 asks for your password.</source>
-        <translation>打印服务器 %1 要求您输入密码。</translation>
-    </message>
-    <message>
-        <source>Wrong user name or password. Try again.</source>
-        <translation>用户名或密码错误。请重试。</translation>
-    </message>
-    <message>
-        <source>Domain:</source>
-        <translation>域:</translation>
-    </message>
-    <message>
-        <source>User name:</source>
-        <translation>用户名:</translation>
-    </message>
-    <message>
-        <source>Password:</source>
-        <translation>密码:</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>确定</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
     </message>
 </context>
 </TS>

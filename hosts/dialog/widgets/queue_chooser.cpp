@@ -14,6 +14,7 @@
 
 #include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/dialog/widgets/printer_details.h"
 #include "hosts/dialog/widgets/wrapped_label.h"
 #include "platform/shown_text.h"
 
@@ -29,7 +30,8 @@ QueueChooser::QueueChooser(QWidget* parent)
       m_combo(new QComboBox(this)),
       m_icon(new StateIcon(this)),
       m_state(new WrappedLabel(this)),
-      m_retry(new QPushButton(this)) {
+      m_retry(new QPushButton(this)),
+      m_more(new QPushButton(this)) {
   // Avoids measuring every queue for the width of the field and the height of a row.
   m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   m_combo->setMinimumContentsLength(28);
@@ -47,10 +49,17 @@ QueueChooser::QueueChooser(QWidget* parent)
   m_retry->setAutoDefault(false);
   m_retry->setObjectName(QStringLiteral("retry"));
   m_retry->hide();
+  setPlainText(*m_more, tr("Details"));
+  exceptFromMnemonics(*m_more);
+  m_more->setAutoDefault(false);
+  m_more->setObjectName(QStringLiteral("printerDetailsButton"));
+  m_more->setAccessibleName(tr("Printer details"));
+  m_more->hide();
   auto* line = new QHBoxLayout;
   line->addWidget(m_icon, 0, Qt::AlignTop);
   line->addWidget(m_state, 1);
   line->addWidget(m_retry);
+  line->addWidget(m_more, 0, Qt::AlignTop);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   column->addWidget(m_combo);
@@ -62,6 +71,7 @@ QueueChooser::QueueChooser(QWidget* parent)
   connect(m_combo, &QComboBox::activated, this, chooseRow);
   connect(m_combo, &QComboBox::currentIndexChanged, this, chooseRow);
   connect(m_retry, &QPushButton::clicked, this, &QueueChooser::retryAsked);
+  connect(m_more, &QPushButton::clicked, this, &QueueChooser::openDetails);
 }
 
 void QueueChooser::setQueues(const std::vector<QueueSummary>& queues) {
@@ -221,6 +231,22 @@ void QueueChooser::updateLine() {
   m_combo->setAccessibleDescription(text);
   m_icon->setKind(text.isEmpty() ? StateIcon::Kind::None : isPending() ? StateIcon::Kind::Attention : m_kind);
   m_retry->setVisible(isFault() && !isPending());
+}
+
+void QueueChooser::showDetails(const QueueSummary& queue) {
+  m_summary = queue;
+  m_more->setVisible(!queue.name.isEmpty());
+  if (m_details) m_details->showQueue(queue);
+}
+
+void QueueChooser::openDetails() {
+  m_details = new PrinterDetails(this);
+  m_details->setAttribute(Qt::WA_DeleteOnClose);
+  m_details->showQueue(m_summary);
+  m_details->adjustSize();
+  const QPoint below = m_more->mapToGlobal(QPoint(m_more->width(), m_more->height()));
+  m_details->move(below - QPoint(m_details->width(), 0));
+  m_details->open();
 }
 
 void QueueChooser::showState(const QString& text, StateIcon::Kind kind) {

@@ -1,6 +1,7 @@
 // The choice of a printer, with its state.
 #pragma once
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QComboBox>
 #include <functional>
 
@@ -10,6 +11,8 @@ class QLabel;
 class QPushButton;
 
 namespace kesto {
+
+class PrinterDetails;
 
 /// A list of queues, with a filter to type into when there are many, and a line with a message about the
 /// chosen one. A text in the field other than the chosen queue's is pending: it chooses nothing until it is
@@ -37,6 +40,9 @@ class QueueChooser : public QWidget {
   bool isPending() const { return !m_typed.isNull(); }
   /// Shows a text about the chosen queue with an icon, and a button to try again after a fault.
   void showState(const QString& text, StateIcon::Kind kind);
+  /// Offers the details of the chosen queue, and shows them anew where they are open; nothing is offered of a
+  /// queue without a name.
+  void showDetails(const QueueSummary& queue);
 
  Q_SIGNALS:
   /// The user has chosen a queue.
@@ -66,6 +72,7 @@ class QueueChooser : public QWidget {
   void update(const std::function<void()>& change = {});
   bool isFault() const { return m_kind == StateIcon::Kind::Fault; }
   void updateLine();
+  void openDetails();
 
   QueueListModel m_model;
   QString m_current;
@@ -77,6 +84,9 @@ class QueueChooser : public QWidget {
   StateIcon* m_icon;
   QLabel* m_state;
   QPushButton* m_retry;
+  QPushButton* m_more;
+  QueueSummary m_summary;  // of the chosen queue
+  QPointer<PrinterDetails> m_details;
 };
 
 }  // namespace kesto

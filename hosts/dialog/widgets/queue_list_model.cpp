@@ -2,9 +2,27 @@
 
 #include <algorithm>
 
+#include "hosts/session/printer_reasons.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
+namespace {
+
+QString rowText(const QueueSummary& queue) {
+  QStringList texts;
+  for (const QString& text : {queue.info, queue.location}) {
+    if (!text.isEmpty() && text != queue.name) texts.append(shownText(text));
+  }
+  return texts.isEmpty() ? shownText(queue.name)
+                         : QStringLiteral("%1 — %2").arg(shownText(queue.name), texts.join(u", "));
+}
+
+QString tipText(const QueueSummary& queue) {
+  const QString state = shownText(QueueListModel::stateText(queue));
+  return queue.model.isEmpty() ? state : state + u'\n' + shownText(queue.model);
+}
+
+}  // namespace
 
 int QueueListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(m_queues.size()) + (m_offersPdf ? 1 : 0);
@@ -20,11 +38,9 @@ QVariant QueueListModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-      return queue.info.isEmpty() || queue.info == queue.name
-                 ? shownText(queue.name)
-                 : QStringLiteral("%1 — %2").arg(shownText(queue.name), shownText(queue.info));
+      return rowText(queue);
     case Qt::ToolTipRole:
-      return stateText(queue);
+      return tipText(queue);
     case NameRole:
       return queue.name;
     default:
@@ -93,8 +109,15 @@ QString QueueListModel::stateOf(const QueueSummary& queue) {
   return queue.state == u"processing" ? tr("Printing") : tr("Ready");
 }
 
+// The state, then what the printer reports; a printer that cannot print is not called ready.
 QString QueueListModel::stateText(const QueueSummary& queue) {
   QStringList parts{stateOf(queue)};
+  QStringList reasons = queue.stateReasons;
+  if (queue.isAccepting && queue.state == u"stopped") reasons.removeAll(QStringLiteral("paused"));
+  for (const PrinterReason& reason : printerReasons(reasons)) {
+    if (reason.severity == Severity::Error && parts.first() == tr("Ready")) parts.clear();
+    if (!parts.contains(reason.text)) parts.append(reason.text);
+  }
   if (!queue.location.isEmpty()) parts.append(queue.location);
   const int waiting = queue.state == u"processing" ? queue.jobs - 1 : queue.jobs;
   if (waiting > 0) parts.append(waiting == 1 ? tr("1 job waiting") : tr("%1 jobs waiting").arg(waiting));
@@ -102,7 +125,11 @@ QString QueueListModel::stateText(const QueueSummary& queue) {
 }
 
 StateIcon::Kind QueueListModel::stateKind(const QueueSummary& queue) {
-  if (!queue.isAccepting || queue.state == u"stopped") return StateIcon::Kind::Attention;
+  const std::vector<PrinterReason> reasons = printerReasons(queue.stateReasons);
+  const Severity worst = reasons.empty() ? Severity::Report : reasons.front().severity;
+  if (worst == Severity::Error) return StateIcon::Kind::Stopped;
+  if (!queue.isAccepting || queue.state == u"stopped" || worst == Severity::Warning)
+    return StateIcon::Kind::Attention;
   return queue.state == u"processing" ? StateIcon::Kind::Busy : StateIcon::Kind::Ready;
 }
 

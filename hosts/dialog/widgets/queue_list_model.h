@@ -9,8 +9,8 @@
 
 namespace kesto {
 
-/// Queues by name, and "Save as PDF" after them once it is offered. A row's text is the name followed by the
-/// description, `NameRole` the name alone.
+/// Queues by name, and "Save as PDF" after them once it is offered. A row's text is the name followed by
+/// description and location, `NameRole` the name alone.
 class QueueListModel : public QAbstractListModel {
   Q_OBJECT
 
@@ -38,7 +38,7 @@ class QueueListModel : public QAbstractListModel {
   const QueueSummary* queue(const QString& name) const;
   const std::vector<QueueSummary>& queues() const { return m_queues; }
 
-  /// The queue's state for the user, where it stands and what waits there.
+  /// The queue's state for the user, what the printer reports, where it stands and what waits there.
   static QString stateText(const QueueSummary& queue);
   static StateIcon::Kind stateKind(const QueueSummary& queue);
 

@@ -10,7 +10,14 @@ class StateIcon : public QWidget {
   Q_OBJECT
 
  public:
-  enum class Kind { None, Ready, Busy, Attention, Fault };
+  enum class Kind {
+    None,
+    Ready,
+    Busy,
+    Attention,
+    Stopped,  ///< The printer waits for someone to see to it.
+    Fault,    ///< There is no printer.
+  };
 
   explicit StateIcon(QWidget* parent);
 
