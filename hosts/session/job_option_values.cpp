@@ -4,12 +4,14 @@
 #include <QtCore/QStringList>
 #include <algorithm>
 
+#include "hosts/session/standard_texts.h"
+
 namespace kesto {
 namespace {
 
-// A value of the standard, and its other names. Those of an option of the queue are what PPDs call it; the
-// first that the PPD has is it. Values whose names differ in letter case and signs alone, as "tray-1" and
-// "Tray1" do, need no line.
+// A value of the standard, and its other names. Those of an option of the queue are what PPDs call it, or
+// what serves in its place; the first that the PPD has is it. Names of the same thing are in
+// `standard_texts.cpp`.
 struct Value {
   const char* option = "";
   const char* standard = "";
@@ -23,30 +25,11 @@ constexpr std::array values{
     Value{"InputSlot", "manual", "Manual ManualFeed"},
     Value{"InputSlot", "by-pass-tray", "ByPassTray Bypass MultiPurpose MPTray Manual"},
     Value{"InputSlot", "envelope", "Envelope EnvFeeder EnvManual"},
-    Value{"MediaType", "auto", "Auto Any Unspecified"},
-    Value{"MediaType", "stationery", "Stationery Plain PlainPaper Paper"},
-    Value{"MediaType", "stationery-letterhead", "Letterhead"},
-    Value{"MediaType", "stationery-recycled", "Recycled"},
-    Value{"MediaType", "stationery-heavyweight", "Heavy Thick"},
-    Value{"MediaType", "stationery-lightweight", "Light Thin"},
-    Value{"MediaType", "cardstock", "Cardstock Card"},
-    Value{"MediaType", "photographic", "Photo PhotoPaper"},
-    Value{"MediaType", "photographic-glossy", "Glossy GlossyPaper PhotoGlossy"},
     Value{"Duplex", "one-sided", "None Off False Simplex", QT_TRANSLATE_NOOP("JobOptions", "Off")},
     Value{"Duplex", "two-sided-long-edge", "DuplexNoTumble", QT_TRANSLATE_NOOP("JobOptions", "Long edge")},
     Value{"Duplex", "two-sided-short-edge", "DuplexTumble", QT_TRANSLATE_NOOP("JobOptions", "Short edge")},
     Value{"Booklet", "false", "False Off No None", QT_TRANSLATE_NOOP("JobOptions", "Off")},
     Value{"Booklet", "true", "True On Yes Booklet", QT_TRANSLATE_NOOP("JobOptions", "On")},
-    Value{"ColorModel", "monochrome", "Gray Grayscale Mono Monochrome Black KGray"},
-    Value{"ColorModel", "color", "RGB CMYK Color CMY sRGB"},
-    Value{"cupsPrintQuality", "3", "Draft"},
-    Value{"cupsPrintQuality", "4", "Normal"},
-    Value{"cupsPrintQuality", "5", "High"},
-    Value{"OutputMode", "3", "Draft FastDraft Fast EconoMode"},
-    Value{"OutputMode", "draft", "Draft FastDraft Fast EconoMode"},
-    Value{"OutputMode", "4", "Normal Standard"},
-    Value{"OutputMode", "5", "High Best"},
-    Value{"OutputMode", "high", "High Best"},
 
     Value{"collate", "false", "off no", QT_TRANSLATE_NOOP("JobOptions", "Off")},
     Value{"collate", "true", "on yes", QT_TRANSLATE_NOOP("JobOptions", "On")},
@@ -103,11 +86,6 @@ constexpr std::array values{
     Value{"job-sheets", "topsecret", "", QT_TRANSLATE_NOOP("JobOptions", "Top secret")},
 };
 
-QString plain(const QString& name) {
-  QString letters = name.toLower();
-  return letters.remove(u'-').remove(u'_').remove(u' ');
-}
-
 QStringList namesOf(const Value& value) {
   return QString::fromLatin1(value.names).split(u' ', Qt::SkipEmptyParts);
 }
@@ -142,14 +120,16 @@ QString choiceFor(const PpdChoices& choices, const QString& option, const QStrin
   };
   if (QString choice = find(value, [](const QString& each) { return each; }); !choice.isNull()) return choice;
   if (option == u"Resolution") return find(value, bothWays);
-  if (QString choice = find(value, plain); !choice.isNull()) return choice;
+  if (QString choice = find(value, plainName); !choice.isNull()) return choice;
+  QStringList names;
   for (const Value& each : values) {
     if (option != QLatin1String(each.option) ||
         value.compare(QLatin1String(each.standard), Qt::CaseInsensitive) != 0)
       continue;
-    for (const QString& name : namesOf(each)) {
-      if (QString choice = find(name, plain); !choice.isNull()) return choice;
-    }
+    names += namesOf(each);
+  }
+  for (const QString& name : names + standardNames(option, value)) {
+    if (QString choice = find(name, plainName); !choice.isNull()) return choice;
   }
   return choices.takesCustom(option) && value.startsWith(u"Custom.") ? value : QString();
 }

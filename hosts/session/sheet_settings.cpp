@@ -1,10 +1,8 @@
 #include "hosts/session/sheet_settings.h"
 
-#include <QtCore/QStringList>
 #include <algorithm>
 #include <array>
 #include <initializer_list>
-#include <limits>
 
 namespace kesto {
 namespace {
@@ -32,17 +30,6 @@ bool isOneOf(const char* value, std::initializer_list<const char*> values) {
 bool isGrayName(const char* value) {
   const QByteArray name = QByteArray(value).toLower();
   return name.contains("gray") || name.contains("grey") || name.contains("mono") || name == "black";
-}
-
-QList<std::pair<int, int>> rangesOf(const char* text) {
-  QList<std::pair<int, int>> ranges;
-  for (const QString& part : QString::fromLatin1(text).split(u',', Qt::SkipEmptyParts)) {
-    const QString first = part.section(u'-', 0, 0);
-    const QString last = part.section(u'-', -1);
-    ranges.emplaceBack(first.isEmpty() ? 1 : first.toInt(),
-                       last.isEmpty() ? std::numeric_limits<int>::max() : last.toInt());
-  }
-  return ranges;
 }
 
 SheetScaling scalingOf(const OptionArray& options) {
@@ -74,7 +61,7 @@ SheetSettings::SheetSettings(const OptionArray& options)
       hasOdd(!isOneOf(options.value("page-set"), {"even"})),
       hasEven(!isOneOf(options.value("page-set"), {"odd"})),
       scaling(scalingOf(options)),
-      ranges(rangesOf(options.value("page-ranges"))) {
+      ranges(rangesOf(QString::fromLatin1(options.value("page-ranges"))).value_or(std::vector<PageRange>())) {
   const QByteArray layout = QByteArray(options.value("number-up-layout")).toLower();
   if (isOneOf(layout, {"lrtb", "lrbt", "rltb", "rlbt", "tblr", "tbrl", "btlr", "btrl"})) {
     isDownFirst = layout.startsWith('t') || layout.startsWith('b');
@@ -96,8 +83,8 @@ SheetSettings::SheetSettings(const OptionArray& options)
 
 bool SheetSettings::isSelected(int side) const {
   if (!(side % 2 == 0 ? hasEven : hasOdd)) return false;
-  return ranges.isEmpty() || std::ranges::any_of(ranges, [side](const auto& range) {
-           return side >= range.first && side <= range.second;
+  return ranges.empty() || std::ranges::any_of(ranges, [side](const PageRange& range) {
+           return side >= range.first && side <= range.last;
          });
 }
 

@@ -1,10 +1,10 @@
 // What the options of a job mean for its sheets of paper.
 #pragma once
 
-#include <QtCore/QList>
 #include <utility>
 
 #include "hosts/cups/option_array.h"
+#include "hosts/session/page_range.h"
 
 namespace kesto {
 
@@ -51,7 +51,7 @@ struct SheetSettings {
   SheetScaling imageScaling = SheetScaling::Fit;
   double imageZoom = 1;
   SheetBorder border;
-  QList<std::pair<int, int>> ranges;  ///< First and last side; none for all.
+  std::vector<PageRange> ranges;  ///< Of sides; none for all.
 };
 
 }  // namespace kesto

@@ -191,11 +191,9 @@ QString translated(const char* text) {
   return QCoreApplication::translate("StandardTexts", text);
 }
 
-// Names differ in letter case and signs: "by-pass-tray" is "ByPassTray". The dimensions of
-// "na_letter_8.5x11in" do not matter.
-QString plainName(const QString& name) {
-  QString letters = name.count(u'_') > 1 ? name.section(u'_', 0, 1) : name;
-  return letters.toLower().remove(u'-').remove(u'_').remove(u' ');
+// The dimensions of "na_letter_8.5x11in" do not matter.
+QString plainValue(const QString& option, const QString& value) {
+  return plainName(option == u"PageSize" && value.count(u'_') > 1 ? value.section(u'_', 0, 1) : value);
 }
 
 using Index = QHash<QString, const StandardValue*>;  // by option and plain name
@@ -227,7 +225,7 @@ struct Found {
 };
 
 Found findValue(const QString& option, const QString& value) {
-  const QString name = plainName(value);
+  const QString name = plainValue(option, value);
   if (const StandardValue* found = valueNamed(option, name)) return {found, QLatin1String(found->part)};
   qsizetype digits = name.size();
   while (digits > 0 && name[digits - 1].isDigit())
@@ -267,6 +265,15 @@ QString standardText(const QString& option, const QString& value) {
     return borderless(option, value);
   const Found found = findValue(option, value);
   return found.value != nullptr ? textOf(found) : placedFinishing(value);
+}
+
+QString plainName(const QString& name) {
+  return name.toLower().remove(u'-').remove(u'_').remove(u' ');
+}
+
+QStringList standardNames(const QString& option, const QString& value) {
+  const StandardValue* found = valueNamed(option, plainValue(option, value));
+  return found == nullptr ? QStringList() : QString::fromLatin1(found->names).split(u' ');
 }
 
 bool isStandardText(const QString& option, const QString& value, const QString& text) {
