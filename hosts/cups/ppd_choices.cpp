@@ -73,6 +73,16 @@ const ppd_option_t* PpdChoices::find(const QString& option) const {
   return found != nullptr && keyword == found->keyword ? found : nullptr;
 }
 
+const ppd_choice_t* PpdChoices::find(const QString& option, const QString& choice) const {
+  const ppd_option_t* found = find(option);
+  if (found == nullptr) return nullptr;
+  const QByteArray keyword = choice.toUtf8();
+  for (const ppd_choice_t& each : choicesOf(*found)) {
+    if (keyword == each.choice) return isCustomChoice(each) && takesCustom(option) ? nullptr : &each;
+  }
+  return nullptr;
+}
+
 bool PpdChoices::takesCustom(const QString& option) const {
   return m_ppd != nullptr && ppdFindCustomOption(m_ppd, option.toUtf8().constData()) != nullptr;
 }
@@ -112,6 +122,11 @@ QString PpdChoices::text(const QString& option) const {
   return found == nullptr ? QString() : QString::fromUtf8(found->text);
 }
 
+QString PpdChoices::text(const QString& option, const QString& choice) const {
+  const ppd_choice_t* found = find(option, choice);
+  return found == nullptr ? QString() : QString::fromUtf8(found->text);
+}
+
 std::vector<OptionChoice> PpdChoices::choices(const QString& option) const {
   std::vector<OptionChoice> choices;
   const ppd_option_t* found = find(option);
@@ -135,7 +150,7 @@ QString PpdChoices::defaultOf(const QString& option) const {
   const ppd_option_t* found = find(option);
   if (found == nullptr) return {};
   const QString choice = QString::fromUtf8(found->defchoice);
-  return findChoice(option, [&](const QString& each) { return each == choice; });
+  return find(option, choice) == nullptr ? QString() : choice;
 }
 
 // The PPD's paper of that size, as a choice of PageSize; preferably the one with the size's own name.

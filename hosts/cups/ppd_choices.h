@@ -69,6 +69,8 @@ class PpdChoices {
   std::vector<PpdGroup> groups() const;
   /// As the PPD names the option for people; null when there is none.
   QString text(const QString& option) const;
+  /// As it names one of the option's values; null when there is none.
+  QString text(const QString& option, const QString& choice) const;
   /// The values of an option, without "Custom", which is not a value by itself.
   std::vector<OptionChoice> choices(const QString& option) const;
   /// How many these are.
@@ -101,6 +103,7 @@ class PpdChoices {
 
  private:
   const ppd_option_t* find(const QString& option) const;
+  const ppd_choice_t* find(const QString& option, const QString& choice) const;
   QString marked(const QString& option) const;
   QString choiceOfSize(const char* name, double width, double length) const;
   QString customPaper(double width, double length, const QString& choice) const;

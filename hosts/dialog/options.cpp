@@ -20,7 +20,7 @@ Shows the print dialog for the files, or for a document in standard input.
   -o NAME=VALUE             an option of the job, again for more
   -h HOST[:PORT]            the print server        -U NAME  the user to be
   -E                        encrypt                 --timeout SECONDS  (5) wait no longer
-  --pane NAME               show general, job-handling or summary first
+  --pane NAME               open this section: general, layout, job-handling, job, more or summary
   --screenshot FILE         write a picture of the dialog, and end
   --timings                 print how long the start took, and end
   --help                    this text
@@ -40,7 +40,8 @@ class CommandLine {
     addText("-t", &m_options.title);
     addServerOptions(m_app, &m_options.server);
     addText("--screenshot", &m_options.screenshot);
-    addText("--pane", &m_options.pane)->check(oneOf({"general", "job-handling", "summary"}));
+    addText("--pane", &m_options.pane)
+        ->check(oneOf({"general", "layout", "job-handling", "job", "more", "summary"}));
     m_app.add_flag("--timings", m_options.timings);
     const auto setCopies = [this](const std::string& copies) {
       m_options.jobOptions.insert(QStringLiteral("copies"), QString::fromStdString(copies));

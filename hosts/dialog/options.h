@@ -22,7 +22,7 @@ struct PrintOptions {
   QString acceptLabel;         ///< What the button that prints is called; empty for the usual.
   bool timings = false;        ///< Measure the start, print it and end.
   QString screenshot;          ///< Write a picture of the dialog here and end; null for no picture.
-  QString pane;      ///< The pane shown first: "general", "job-handling" or "summary"; null for the usual.
+  QString pane;                ///< The section that is opened, by its object name; null for the usual ones.
   int channel = -1;  ///< The descriptor by which the portal service speaks to the dialog; -1 for none.
 };
 

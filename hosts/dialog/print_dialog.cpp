@@ -67,6 +67,7 @@ void PrintDialog::paintEvent(QPaintEvent* event) {
 void PrintDialog::start() {
   m_options.documentLater || m_isSuggested ? m_opening.suggest(m_options.queue)
                                            : m_opening.start(m_options.queue);
+  nameSoon();
 }
 
 const QueueListModel& PrintDialog::queues() const {
@@ -136,7 +137,7 @@ void PrintDialog::settleQueue() {
                                      : tr("Print on %1").arg(shownText(m_opening.wanted())));
     updateControls();
   }
-  giveNames();
+  nameSoon();
   Q_EMIT settled();
 }
 
@@ -144,10 +145,13 @@ void PrintDialog::updateSummary() {
   m_presets->showActive();
   showHeadlines();
   if (m_summary == nullptr) return;
-  auto lines = jobOptions().summary();
+  QList<SummaryLine> lines{
+      {withoutColon(tr("Printer:")), m_opening.isPdf() ? tr("Save as PDF") : m_opening.wanted()}};
+  lines += summaryOf(jobOptions());
   const QMap<QString, QString> ofPanel = panelSummary();
+  if (!ofPanel.isEmpty()) lines.append({m_panelSection->title(), QString()});
   for (auto it = ofPanel.begin(); it != ofPanel.end(); ++it)
-    lines.append({it.key(), it.value()});
+    lines.append({it.key(), it.value() + QLatin1String("")});
   m_summary->show(lines);
 }
 

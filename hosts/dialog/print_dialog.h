@@ -122,6 +122,7 @@ class PrintDialog : public QDialog {
   void updatePreview();
   void updateControls();
   void updateSummary();
+  void nameSoon();
   void giveNames();
 
   PrintOptions m_options;
@@ -129,6 +130,7 @@ class PrintDialog : public QDialog {
   DialogAlerts m_alerts;
   PanelSession m_session{m_alerts};
   bool m_isStarted = false;
+  bool m_isNaming = false;       // soon
   bool m_isSuggested = false;    // the queue, by what was printed before
   QString m_target;              // the file, where none is printed
   OptionConflict m_choiceFault;  // or a pane's fault without a remedy, while the message shows it

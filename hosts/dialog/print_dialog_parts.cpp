@@ -8,6 +8,7 @@
 #include "hosts/dialog/panel/panel_pane.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
+#include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/dialog_foot.h"
 #include "hosts/dialog/widgets/document_line.h"
 #include "hosts/dialog/widgets/folding_splitter.h"
@@ -15,6 +16,7 @@
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/preset_menu.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
+#include "hosts/dialog/widgets/section_column.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -31,11 +33,14 @@ QLabel* labelFor(QWidget* field, const QString& text) {
 
 void PrintDialog::build() {
   setWindowTitle(tr("Print"));
+  chooseSelectedItems();
   auto* sideBox = new QWidget(this);
   auto* side = new QVBoxLayout(sideBox);
   side->setContentsMargins({});
-  side->addWidget(makeHead());
+  auto* head = makeHead();
+  side->addWidget(head);
   side->addWidget(makeSections(), 1);
+  m_sections->alignWith(qobject_cast<QFormLayout*>(head->layout()));
   m_body = new FoldingSplitter(m_preview, sideBox, this);
   m_foot = new DialogFoot(this);
   m_presets = new PresetMenu(m_session, m_foot);
@@ -55,7 +60,6 @@ QWidget* PrintDialog::makeHead() {
   m_chooser->setParent(head);
   m_documentLine = new DocumentLine(head);
   auto* form = new QFormLayout(head);
-  form->setContentsMargins({});
   form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
   form->addRow(labelFor(m_chooser->field(), tr("Printer:")), m_chooser);
   form->addRow(new QLabel(tr("Document:")), m_documentLine);

@@ -37,9 +37,7 @@ Section* PrintDialog::addSection(const QString& name, const QString& title,
                                  const std::function<QWidget*(QWidget*)>& make) {
   auto* section = new Section(name, title, make, this);
   m_sections->add(section);
-  connect(section, &Section::built, this, [this] {
-    if (m_isStarted) giveNames();  // until then the first painting comes first
-  });
+  connect(section, &Section::built, this, &PrintDialog::nameSoon);
   return section;
 }
 
@@ -47,9 +45,7 @@ Section* PrintDialog::addSection(const QString& name, const QString& title,
 void PrintDialog::addOptions(OptionGroup group) {
   auto* pane = new OptionPane(group, jobOptions(), this);
   connect(pane, &OptionPane::faultChanged, this, &PrintDialog::updateChoiceFault);
-  connect(pane, &OptionPane::made, this, [this] {
-    if (m_isStarted) giveNames();
-  });
+  connect(pane, &OptionPane::made, this, &PrintDialog::nameSoon);
   m_optionPanes.append(pane);
   addSection(OptionPane::nameOf(group), OptionPane::titleOf(group), [pane](QWidget* parent) {
     pane->setParent(parent);
@@ -86,13 +82,17 @@ QWidget* PrintDialog::makeSummary(QWidget* parent) {
   m_summary = new SummaryPane(parent);
   connect(m_summary, &SummaryPane::privacyAsked, this, [this] { m_client.checkPrivacy(m_opening.wanted()); });
   connect(&m_client, &QueueClient::privacyChecked, m_summary, &SummaryPane::showPrivacy);
+  connect(m_summary, &SummaryPane::filled, m_sections, &SectionColumn::takeContents);
   updateSummary();
   return m_summary;
 }
 
 // An open section is there with its queue, a folded one soon.
 void PrintDialog::showSections() {
-  if (m_session.view() != nullptr) m_panelSection->setTitle(m_session.panel()->panelName());
+  if (m_session.view() != nullptr) {
+    rememberEnglish(m_session.panel()->panelName(), QStringLiteral("Job Handling"));
+    m_panelSection->setTitle(m_session.panel()->panelName());
+  }
   m_panelSection->setVisible(m_session.view() != nullptr);
   m_summarySection->show();
   for (Section* section : m_sections->sections()) {
@@ -156,7 +156,15 @@ void PrintDialog::keepLooks() {
   m_memory.save();
 }
 
+// Once for all that is made in one pass of the event loop, before it is painted. Until the window has been
+// painted, that comes first.
+void PrintDialog::nameSoon() {
+  if (!m_isStarted || std::exchange(m_isNaming, true)) return;
+  QMetaObject::invokeMethod(this, &PrintDialog::giveNames, Qt::QueuedConnection);
+}
+
 void PrintDialog::giveNames() {
+  m_isNaming = false;
   assignMnemonics(*this);
   // Enter prints, wherever the focus is.
   for (auto* button : findChildren<QPushButton*>())

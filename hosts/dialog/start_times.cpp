@@ -1,11 +1,23 @@
 #include "hosts/dialog/start_times.h"
 
+#include <ctime>
+
 #include <QtCore/QEvent>
 
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/widgets/queue_list_model.h"
 
 namespace kesto {
+namespace {
+
+// What this thread has worked, whatever else the machine did.
+double workedMilliseconds() {
+  timespec worked{};
+  ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &worked);
+  return static_cast<double>(worked.tv_sec) * 1e3 + static_cast<double>(worked.tv_nsec) / 1e6;
+}
+
+}  // namespace
 
 TimedApplication::TimedApplication(int& argc, char** argv, Clock::time_point begin)
     : QApplication(argc, argv), m_begin(begin) {}
@@ -18,9 +30,12 @@ bool TimedApplication::notify(QObject* receiver, QEvent* event) {
   if (m_dialog == nullptr) return QApplication::notify(receiver, event);
   if (receiver == m_dialog && event->type() == QEvent::Paint) m_hasPainted = true;
   const Clock::time_point begin = Clock::now();
+  const double worked = workedMilliseconds();
   ++m_depth;
   const bool handled = QApplication::notify(receiver, event);
-  if (--m_depth == 0) takeEnd(begin);
+  if (--m_depth > 0) return handled;
+  m_work = std::max(m_work, workedMilliseconds() - worked);
+  takeEnd(begin);
   return handled;
 }
 
@@ -55,8 +70,8 @@ void TimedApplication::report() {
   const auto whole = [](double value) { return QString::number(qRound(value)); };
   const auto queues = m_dialog->queues().queues().size();
   m_dialog = nullptr;
-  Q_EMIT started(QStringLiteral("paint_ms=%1 list_ms=%2 ready_ms=%3 stall_ms=%4 queues=%5")
-                     .arg(whole(*m_paint), whole(*m_list), whole(*m_ready), whole(m_stall))
+  Q_EMIT started(QStringLiteral("paint_ms=%1 list_ms=%2 ready_ms=%3 stall_ms=%4 work_ms=%5 queues=%6")
+                     .arg(whole(*m_paint), whole(*m_list), whole(*m_ready), whole(m_stall), whole(m_work))
                      .arg(queues));
 }
 

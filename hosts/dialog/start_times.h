@@ -9,7 +9,7 @@ namespace kesto {
 
 class PrintDialog;
 
-/// An application that knows the longest time it spent on one event.
+/// An application that knows the longest time it spent on one event, by the clock and in work of the thread.
 class TimedApplication : public QApplication {
   Q_OBJECT
 
@@ -43,6 +43,7 @@ class TimedApplication : public QApplication {
   bool m_isListed = false;
   bool m_isReady = false;
   double m_stall = 0;
+  double m_work = 0;
   Moment m_paint;
   Moment m_list;
   Moment m_ready;

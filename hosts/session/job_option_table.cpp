@@ -1,6 +1,7 @@
 #include "hosts/session/job_option_table.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QHash>
 #include <algorithm>
 
 namespace kesto {
@@ -66,6 +67,17 @@ bool isSame(const QString& name, const char* other) {
   return name.compare(QLatin1String(other), Qt::CaseInsensitive) == 0;
 }
 
+// The rows by their names in lower case; those that share a name in the table's order.
+QHash<QString, QList<const OptionRow*>> indexOfRows() {
+  QHash<QString, QList<const OptionRow*>> index;
+  for (const OptionRow& row : rows) {
+    index[QString::fromLatin1(row.key).toLower()].append(&row);
+    for (const char* each : row.names)
+      if (each != nullptr) index[QString::fromLatin1(each).toLower()].append(&row);
+  }
+  return index;
+}
+
 }  // namespace
 
 std::span<const OptionRow> optionTable() {
@@ -80,12 +92,13 @@ int rankIn(const OptionRow& row, const QString& name) {
 }
 
 const OptionRow* rowOf(const QString& name, const PpdChoices& choices) {
+  static const auto index = indexOfRows();
   const OptionRow* found = nullptr;
-  for (const OptionRow& row : rows) {
+  for (const OptionRow* row : index.value(name.toLower())) {
     // "Collate" of a PPD is not the job's "collate".
-    if (rankIn(row, name) < 0 || (row.kind != Choice && choices.has(name))) continue;
-    if (choices.has(QLatin1String(row.key))) return &row;
-    if (found == nullptr) found = &row;
+    if (row->kind != Choice && choices.has(name)) continue;
+    if (choices.has(QLatin1String(row->key))) return row;
+    if (found == nullptr) found = row;
   }
   return found;
 }

@@ -189,7 +189,7 @@ QString JobOptions::ownText(const QString& option, const QString& value, const Q
   const OptionKind kind = row == nullptr ? OptionKind::Choice : row->kind;
   if (kind == OptionKind::Scaling && value.toInt() > 0)
     return QCoreApplication::translate("JobOptions", "%1%").arg(value);
-  if (const QTime time = holdTimeFrom(value); kind == OptionKind::Hold && time.isValid())
+  if (const QTime time = kind == OptionKind::Hold ? holdTimeFrom(value) : QTime(); time.isValid())
     return QCoreApplication::translate("JobOptions", "At %1").arg(shownHoldTime(time));
   if (kind == OptionKind::Covers && value.contains(u',')) {
     QStringList covers;
@@ -205,10 +205,7 @@ QString JobOptions::ownText(const QString& option, const QString& value, const Q
 }
 
 QString JobOptions::textOf(const QString& option, const QString& value) const {
-  QString text;
-  for (const OptionChoice& each : m_choices.choices(option)) {
-    if (each.keyword == value) text = each.text;
-  }
+  const QString text = m_choices.text(option, value);
   if (QString own = ownText(option, value, text); !own.isNull()) return own;
   if (!text.isNull()) return text;
   return value.startsWith(u"Custom.") ? customText(value) : value;
@@ -272,18 +269,6 @@ QMap<QString, QString> JobOptions::ofPreset() const {
     return !isKnown || source(each.key()) < Source::Preset;
   });
   return options;
-}
-
-QList<std::pair<QString, QString>> JobOptions::summary() const {
-  QList<std::pair<QString, QString>> lines;
-  for (const OptionRow& row : optionTable()) {
-    const QString key = QLatin1String(row.key);
-    if (isDefault(key) || !travels(key)) continue;
-    const bool areNumbers = row.kind == OptionKind::Pages && !areOfApplication(value(key));
-    const QString shown = areNumbers ? pages() : textOf(key, value(key));
-    if (!shown.isEmpty()) lines.append({text(key), shown});
-  }
-  return lines;
 }
 
 QMap<QString, QString> keptOptions(const Queue& queue) {

@@ -90,8 +90,6 @@ class JobOptions : public QObject {
   /// What a preset keeps of them: known options, by the name that travels, but not what is kept for the
   /// queue.
   QMap<QString, QString> ofPreset() const;
-  /// Labels and values of what differs from the default, in the table's order.
-  QList<std::pair<QString, QString>> summary() const;
 
  Q_SIGNALS:
   void changed();

@@ -15,7 +15,7 @@ bool hasChoice(const JobOptions& options, const OptionRow& row) {
   const QString key = QLatin1String(row.key);
   if (key == bookletKey && !bookletChoice(options, true).isNull()) return false;
   if (options.isLeftToPanel(key)) return false;
-  if (row.kind == OptionKind::Covers) return options.choices(key).size() > 1;
+  if (row.kind == OptionKind::Covers) return options.choices(key).size() > 1 || !options.isDefault(key);
   return row.kind != OptionKind::Choice || options.ofQueue().choiceCount(key) > 1;
 }
 
@@ -30,26 +30,34 @@ void addOthers(const JobOptions& options, std::vector<OfferedOption>* offered) {
   }
 }
 
-QString shownPages(const JobOptions& options) {
-  const QString pages = options.pages();
-  const QString asked = options.value(pagesKey);
-  if (JobOptions::areOfApplication(asked)) return options.textOf(pagesKey, asked);
-  return pages.isNull() ? QCoreApplication::translate("JobOptions", "All pages")
-                        : QCoreApplication::translate("JobOptions", "Pages %1").arg(pages);
-}
-
 QString shownCopies(const QString& count) {
   return count == u"1" ? QCoreApplication::translate("JobOptions", "1 copy")
                        : QCoreApplication::translate("JobOptions", "%1 copies").arg(count);
 }
 
+// Pages that are not those which the application alone knows.
+bool areNumbers(const JobOptions& options, const OfferedOption& option) {
+  return option.kind == OptionKind::Pages && !JobOptions::areOfApplication(options.value(option.key));
+}
+
+QString shownValue(const JobOptions& options, const OfferedOption& option) {
+  if (areNumbers(options, option))
+    return options.pages().isNull() ? QCoreApplication::translate("JobOptions", "All pages")
+                                    : options.pages();
+  if (option.key == numberUpKey && isBooklet(options)) return options.text(bookletKey);
+  return options.textOf(option.key, options.value(option.key));
+}
+
+bool isOther(const JobOptions& options, const QString& key) {
+  return !options.isDefault(key) || (key == numberUpKey && !options.isDefault(bookletKey));
+}
+
 // A value that says by itself what it is of, such as "Long edge"; "On" and "2" do not.
 QString shownShort(const JobOptions& options, const OfferedOption& option) {
-  const QString value = options.value(option.key);
-  if (option.kind == OptionKind::Pages) return shownPages(options);
-  if (option.kind == OptionKind::Number) return shownCopies(value);
-  if (option.key == numberUpKey && isBooklet(options)) return options.text(bookletKey);
-  const QString text = options.textOf(option.key, value);
+  const QString text = shownValue(options, option);
+  if (option.kind == OptionKind::Number) return shownCopies(text);
+  if (areNumbers(options, option) && !options.pages().isNull())
+    return QCoreApplication::translate("JobOptions", "Pages %1").arg(text);
   bool isNumber = false;
   (void)text.toDouble(&isNumber);
   const bool saysItself = option.row != nullptr && option.row->group != OptionGroup::More &&
@@ -59,8 +67,8 @@ QString shownShort(const JobOptions& options, const OfferedOption& option) {
 
 // What is said of a group whatever it is.
 bool isAlwaysSaid(const QString& key) {
-  static const QStringList said{QStringLiteral("copies"), pagesKey, QStringLiteral("PageSize"),
-                                QStringLiteral("orientation-requested"), QStringLiteral("job-hold-until")};
+  static const QStringList said{QStringLiteral("copies"), pagesKey, QStringLiteral("PageSize"), numberUpKey,
+                                QStringLiteral("job-hold-until")};
   return said.contains(key);
 }
 
@@ -93,13 +101,25 @@ Headline headlineOf(const JobOptions& options, OptionGroup group) {
   QStringList texts;
   for (const OfferedOption& each : offeredOptions(options, group)) {
     if (options.isIdle(each.key)) continue;
-    const bool isOther = !options.isDefault(each.key);
-    const bool differs = isOther || (each.key == numberUpKey && !options.isDefault(bookletKey));
+    const bool differs = isOther(options, each.key);
     if (differs || isAlwaysSaid(each.key)) texts.append(shownShort(options, each));
     headline.differs = headline.differs || differs;
   }
   headline.text = texts.join(QStringLiteral(", "));
   return headline;
+}
+
+QList<SummaryLine> summaryOf(const JobOptions& options) {
+  QList<SummaryLine> lines;
+  for (const OptionGroup group :
+       {OptionGroup::General, OptionGroup::Layout, OptionGroup::Job, OptionGroup::More}) {
+    for (const OfferedOption& each : offeredOptions(options, group)) {
+      const bool differs = isOther(options, each.key);
+      if (options.isIdle(each.key) || (group == OptionGroup::More && !differs)) continue;
+      lines.append({options.text(each.key), shownValue(options, each), differs});
+    }
+  }
+  return lines;
 }
 
 QString faultOfPages(const JobOptions& options) {

@@ -33,6 +33,16 @@ struct Headline {
 };
 Headline headlineOf(const JobOptions& options, OptionGroup group);
 
+/// A line of a summary.
+struct SummaryLine {
+  QString label;
+  QString text;          ///< Null for a heading of the lines below it.
+  bool differs = false;  ///< Whether it differs from the default.
+  friend bool operator==(const SummaryLine&, const SummaryLine&) = default;
+};
+/// What is chosen in all groups, in their order; of the group "More" what differs from the defaults.
+QList<SummaryLine> summaryOf(const JobOptions& options);
+
 /// Why the chosen pages cannot be printed, and what would do; null when they can.
 QString faultOfPages(const JobOptions& options);
 

@@ -135,8 +135,9 @@ PanelSession::ActivePreset PanelSession::activeAs(const QString& name) const {
 }
 
 bool PanelSession::isPresetChanged() const {
+  if (m_active.name.isNull()) return false;
   const ActivePreset now = activeAs(m_active.name);
-  return !m_active.name.isNull() && (now.options != m_active.options || now.entries != m_active.entries);
+  return now.options != m_active.options || now.entries != m_active.entries;
 }
 
 Outcome PanelSession::makePreset(const QString& name, bool withCodes, Preset* preset) const {

@@ -1,4 +1,5 @@
 // What the dialog shows of a job's options, and what travels.
+#include <QtGui/QAccessible>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <ctime>
@@ -61,6 +62,30 @@ void setControl(PrintDialog& dialog, const QString& pane, const QString& control
   EXPECT_TRUE(done) << done.reason();
 }
 
+// Assistive technology sets one, without keys, mouse or focus.
+void setAccessibly(PrintDialog& dialog, const QString& pane, const QString& control, const QString& value) {
+  SCOPED_TRACE(control.toStdString());
+  const auto accessible = [&](const QString& name) {
+    return QAccessible::queryAccessibleInterface(dialog.findChild<QWidget*>(name));
+  };
+  const auto act = [](QAccessibleInterface* on, const QString& action) {
+    on->actionInterface()->doAction(action);
+  };
+  QAccessibleInterface* header = accessible(pane + u"Header"_s);
+  if (header->state().collapsed) act(header, QAccessibleActionInterface::pressAction());
+  QAccessibleInterface* widget = accessible(control);
+  ASSERT_FALSE(widget == nullptr || widget->state().disabled || widget->state().invisible);
+  if (value.startsWith(u'#'))
+    act(widget->child(0)->child(value.sliced(1).toInt()), QAccessibleActionInterface::toggleAction());
+  else if (value.isEmpty())
+    act(widget, QAccessibleActionInterface::toggleAction());
+  else if (widget->valueInterface() != nullptr)
+    widget->valueInterface()->setCurrentValue(value.toInt());
+  else
+    widget->setText(QAccessible::Value, value);
+  QCoreApplication::processEvents();
+}
+
 TEST_F(DialogPrint, EachOptionArrivesAsItsControlShowsIt) {
   qputenv("TZ", "Asia/Kolkata");
   ::tzset();
@@ -105,21 +130,24 @@ TEST_F(DialogPrint, EachOptionArrivesAsItsControlShowsIt) {
       {2, "layout", "print-scaling", "#1", "print-scaling", "fit"},
       {2, "job", "job-hold-until", "#2", "job-hold-until", "indefinite"},
   };
-  for (const int job : {1, 2}) {
+  for (int number = 1; number <= 4; ++number) {
+    SCOPED_TRACE(number);
+    const auto set = number <= 2 ? setControl : setAccessibly;
+    const int job = number <= 2 ? number : number - 2;
     openReady({pdf});
     for (const auto& row : rows) {
-      if (row.job == job) setControl(*m_dialog, row.pane, row.control, row.value);
+      if (row.job == job) set(*m_dialog, row.pane, row.control, row.value);
     }
     click(u"print"_s);
     await([this] { return m_dialog->job() > 0; }, u"the job"_s);
+    const QMap<QString, QString> arrived = m_printer->attributesOfJob(number, cupsUser());
     for (const auto& row : rows) {
       if (row.job != job || row.attribute.isEmpty()) continue;
-      EXPECT_EQ(m_printer->attributesOfJob(job, cupsUser()).value(row.attribute), row.arrives)
-          << row.attribute;
+      EXPECT_EQ(arrived.value(row.attribute), row.arrives) << row.attribute;
     }
+    EXPECT_EQ(arrived.value(u"Duplex"_s), job == 1 ? u"DuplexNoTumble"_s : u"DuplexTumble"_s)
+        << "job 2 is a booklet";
   }
-  EXPECT_EQ(m_printer->attributesOfJob(2, cupsUser()).value(u"Duplex"_s), u"DuplexTumble"_s)
-      << "of a booklet";
 }
 
 TEST_F(DialogPrint, AnInvalidEntryIsMarkedWithAnExample) {

@@ -31,6 +31,7 @@ TEST_F(DialogPrint, AWholeJobIsDoneThroughAssistiveTechnologyAlone) {
   const auto insert = [&](const QString& name, const QString& text) {
     accessible(name)->editableTextInterface()->insertText(0, text);
   };
+  act(u"summaryHeader"_s, QAccessibleActionInterface::pressAction());
   act(u"retentionCheckBox"_s, toggle);
   act(u"holdAfterRadioButton"_s, toggle);
   insert(u"suspendKeyEditText"_s, u"x"_s);

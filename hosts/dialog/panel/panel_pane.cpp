@@ -1,6 +1,7 @@
 #include "hosts/dialog/panel/panel_pane.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtUiTools/QUiLoader>
@@ -76,6 +77,16 @@ class FormLoader : public QUiLoader {
   }
 };
 
+// A loader begins by loading the widgets that are installed for the design of forms. The layouts have none of
+// them, and they bring large libraries.
+std::unique_ptr<QUiLoader> makeLoader() {
+  const QStringList paths = QCoreApplication::libraryPaths();
+  QCoreApplication::setLibraryPaths({});
+  auto loader = std::make_unique<FormLoader>();
+  QCoreApplication::setLibraryPaths(paths);
+  return loader;
+}
+
 // The texts of a form, which are English.
 QList<std::pair<QWidget*, QString>> textsOf(const QWidget& form) {
   QList<std::pair<QWidget*, QString>> texts;
@@ -101,14 +112,14 @@ PanelPane::PanelPane(PanelView& view) : m_view(&view), m_folderChoice(new Folder
 Outcome PanelPane::make(PanelView& view, const Bundle& bundle, std::unique_ptr<PanelPane>* pane) {
   pane->reset();
   std::unique_ptr<PanelPane> made(new PanelPane(view));
-  FormLoader loader;
-  loader.setTranslationEnabled(false);  // the controls supply the texts in the user's language
-  loader.setWorkingDirectory(
+  const std::unique_ptr<QUiLoader> loader = makeLoader();
+  loader->setTranslationEnabled(false);  // the controls supply the texts in the user's language
+  loader->setWorkingDirectory(
       QFileInfo(bundle.pathForResource(QStringLiteral("ulck"), QStringLiteral("png"))).dir());
   QByteArray form = view.form();
   QBuffer buffer(&form);
-  QWidget* root = loader.load(&buffer, made.get());
-  if (root == nullptr) return Outcome::failed(loader.errorString());
+  QWidget* root = loader->load(&buffer, made.get());
+  if (root == nullptr) return Outcome::failed(loader->errorString());
   for (auto* pages : root->findChildren<PanelPages*>())
     pages->layOut();
   root->layout()->setContentsMargins({});

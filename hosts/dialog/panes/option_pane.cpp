@@ -17,6 +17,8 @@
 namespace kesto {
 namespace {
 
+const QString filterName = QStringLiteral("filter");
+
 // Whether an option comes and goes with the queue.
 bool isOfQueue(const OfferedOption& option) {
   return option.kind == OptionKind::Choice || option.kind == OptionKind::Covers;
@@ -41,10 +43,12 @@ OptionPane::OptionPane(OptionGroup group, JobOptions& options, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->addLayout(m_form);
   column->addWidget(m_note);
-  column->addStretch();
   m_form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
   m_note->setWordWrap(true);
   m_note->setObjectName(nameOf(group) + QStringLiteral("Note"));
+  m_note->hide();
+  m_idle.setSingleShot(true);
+  connect(&m_idle, &QTimer::timeout, this, &OptionPane::addSome);
   connect(&m_options, &JobOptions::changed, this, &OptionPane::update);
 }
 
@@ -76,7 +80,7 @@ void OptionPane::setVisible(bool isVisible) {
 void OptionPane::make() {
   if (std::exchange(m_isMade, true)) return;
   showQueue();
-  Q_EMIT made();
+  if (!m_missing.empty()) Q_EMIT made();  // the first are seen at once
 }
 
 // The job's own options stay as they are, with what is being typed there.
@@ -84,14 +88,26 @@ void OptionPane::showQueue() {
   if (!m_isMade) return;
   m_section = QString();
   removeQueuesLines();
-  const std::vector<OfferedOption> offered = offeredOptions(m_options, m_group);
-  if (m_group == OptionGroup::More && !offered.empty()) addFilter();
-  for (const OfferedOption& each : offered) {
-    const bool isThere = std::ranges::any_of(
-        m_lines, [&](const Line& line) { return line.control->option().key == each.key; });
-    if (!isThere) addOption(each);
-  }
+  m_missing = offeredOptions(m_options, m_group);
+  if (m_group == OptionGroup::More && !m_missing.empty()) addFilter();
+  std::erase_if(m_missing, [this](const OfferedOption& each) {
+    return std::ranges::any_of(m_lines,
+                               [&](const Line& line) { return line.control->option().key == each.key; });
+  });
   update();
+  addSome();
+}
+
+// Keys and clicks come in between.
+void OptionPane::addSome() {
+  constexpr std::ptrdiff_t most = 16;
+  const auto end = m_missing.begin() + std::min(std::ssize(m_missing), most);
+  std::for_each(m_missing.begin(), end, [this](const OfferedOption& each) { addOption(each); });
+  m_missing.erase(m_missing.begin(), end);
+  updateNote();
+  if (!m_missing.empty()) return m_idle.start(0);
+  if (const auto* field = findChild<QLineEdit*>(filterName)) filter(field->text());
+  Q_EMIT made();
 }
 
 void OptionPane::removeQueuesLines() {
@@ -114,15 +130,17 @@ int OptionPane::rowOf(QLabel& label) const {
 
 void OptionPane::addOption(const OfferedOption& option) {
   if (option.section != std::exchange(m_section, option.section)) addSection(option.section);
-  for (OptionControl* control : makeControls(option, m_options, this))
+  for (OptionControl* control : makeControls(option, m_options, this)) {
     addControl(*control);
+    show(m_lines.back());
+  }
 }
 
 // What has its text in itself stands beside the control before it.
 void OptionPane::addControl(OptionControl& control) {
   control.showQueue();
   connect(&control, &OptionControl::faultChanged, this, [this] {
-    m_note->setText(note());
+    updateNote();
     Q_EMIT faultChanged();
   });
   if (auto* pages = qobject_cast<PagesControl*>(&control)) pages->offer(m_applicationsPages);
@@ -139,6 +157,7 @@ void OptionPane::addControl(OptionControl& control) {
   // Other switches follow the number.
   if (control.option().kind == OptionKind::Number) {
     m_line = line;
+    line->setSpacing(fontMetrics().height() / 2);
     line->addStretch();
   }
   m_form->addRow(label, line);
@@ -148,15 +167,13 @@ void OptionPane::addControl(OptionControl& control) {
 void OptionPane::addSection(const QString& text) {
   auto* heading = new QLabel(this);
   setPlainText(*heading, text);
-  QFont font = heading->font();
-  font.setBold(true);
-  heading->setFont(font);
+  heading->setFont(boldOf(heading->font()));
   m_form->addRow(heading);
 }
 
 void OptionPane::addFilter() {
   auto* filter = new QLineEdit(this);
-  filter->setObjectName(QStringLiteral("filter"));
+  filter->setObjectName(filterName);
   filter->setClearButtonEnabled(true);
   filter->setAccessibleName(tr("Filter"));
   auto* label = new QLabel(this);
@@ -217,14 +234,22 @@ QString OptionPane::note() const {
   return lines.join(u'\n');
 }
 
+void OptionPane::show(const Line& line) {
+  line.control->showValue();
+  const bool isIdle = m_options.isIdle(line.control->option().key);
+  line.control->setEnabled(!isIdle);
+  if (line.label != nullptr) line.label->setEnabled(!isIdle);
+}
+
 void OptionPane::update() {
-  for (const Line& line : m_lines) {
-    line.control->showValue();
-    const bool isIdle = m_options.isIdle(line.control->option().key);
-    line.control->setEnabled(!isIdle);
-    if (line.label != nullptr) line.label->setEnabled(!isIdle);
-  }
+  for (const Line& line : m_lines)
+    show(line);
+  updateNote();
+}
+
+void OptionPane::updateNote() {
   m_note->setText(note());
+  m_note->setVisible(!m_note->text().isEmpty());
 }
 
 }  // namespace kesto

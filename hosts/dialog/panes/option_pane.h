@@ -1,6 +1,8 @@
 // A pane of a job's options.
 #pragma once
 
+#include <QtCore/QTimer>
+
 #include "hosts/dialog/panes/option_control.h"
 
 class QFormLayout;
@@ -55,12 +57,15 @@ class OptionPane : public QWidget {
   void make();
   void removeQueuesLines();
   int rowOf(QLabel& label) const;
+  void addSome();
   void addOption(const OfferedOption& option);
   void addControl(OptionControl& control);
   void addSection(const QString& text);
   void addFilter();
   void filter(const QString& text);
+  void show(const Line& line);
   void update();
+  void updateNote();
   QString note() const;
 
   OptionGroup m_group;
@@ -68,8 +73,10 @@ class OptionPane : public QWidget {
   bool m_isMade = false;
   QStringList m_applicationsPages;
   std::vector<Line> m_lines;
-  QHBoxLayout* m_line = nullptr;  // of a number
-  QString m_section;              // the last with a heading
+  std::vector<OfferedOption> m_missing;  // what is still to be added
+  QTimer m_idle;                         // runs as long as there are any
+  QHBoxLayout* m_line = nullptr;         // of a number
+  QString m_section;                     // the last with a heading
   QFormLayout* m_form;
   QLabel* m_note;
 };

@@ -1,10 +1,12 @@
 #include "hosts/dialog/panes/summary_pane.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include "hosts/dialog/widgets/accent_color.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "platform/shown_text.h"
 
@@ -25,7 +27,6 @@ SummaryPane::SummaryPane(QWidget* parent)
   column->addLayout(m_form);
   column->addWidget(m_ask, 0, Qt::AlignLeading);
   column->addWidget(m_privacy);
-  column->addStretch();
   connect(m_ask, &QPushButton::clicked, this, [this] {
     m_ask->setEnabled(false);
     Q_EMIT privacyAsked();
@@ -33,20 +34,54 @@ SummaryPane::SummaryPane(QWidget* parent)
   setAccessibleName(tr("Summary"));
 }
 
-void SummaryPane::show(const QList<std::pair<QString, QString>>& summary) {
+// Nobody reads a folded one.
+void SummaryPane::show(const QList<SummaryLine>& summary) {
   if (summary == m_summary) return;
   m_summary = summary;
+  m_isFilled = false;
+  if (isVisible()) fill();
+}
+
+void SummaryPane::showEvent(QShowEvent* event) {
+  if (!m_isFilled) fill();
+  QWidget::showEvent(event);
+}
+
+void SummaryPane::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange) return;
+  m_isFilled = false;
+  if (isVisible()) fill();
+}
+
+void SummaryPane::fill() {
+  m_isFilled = true;
   while (m_form->rowCount() > 0)
     m_form->removeRow(0);
-  for (const auto& [label, text] : summary) {
-    auto* value = new QLabel(text.isEmpty() ? QStringLiteral("–") : shownText(text));
-    value->setTextFormat(Qt::PlainText);
-    value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    value->setWordWrap(true);
-    value->setAccessibleName(withoutColon(label));
-    value->setAccessibleDescription(text);
-    m_form->addRow(withColon(label), value);
+  for (const SummaryLine& each : m_summary)
+    addLine(each);
+  Q_EMIT filled();
+}
+
+void SummaryPane::addLine(const SummaryLine& line) {
+  auto* value = new QLabel(this);
+  value->setTextFormat(Qt::PlainText);
+  if (line.text.isNull()) {
+    value->setText(shownText(line.label));
+    value->setFont(boldOf(value->font()));
+    return m_form->addRow(value);
   }
+  value->setText(line.text.isEmpty() ? QStringLiteral("–") : shownText(line.text));
+  value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  value->setWordWrap(true);
+  value->setAccessibleName(withoutColon(line.label));
+  value->setAccessibleDescription(line.differs ? tr("%1 (changed)").arg(line.text) : line.text);
+  if (line.differs) {
+    QPalette marked = value->palette();
+    marked.setColor(QPalette::WindowText, accentColor(palette()));
+    value->setPalette(marked);
+  }
+  m_form->addRow(withColon(line.label), value);
 }
 
 void SummaryPane::showPrivacy(const Outcome& outcome, const JobPrivacy& privacy) {

@@ -1,5 +1,6 @@
 #include "hosts/dialog/preview/preview.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLabel>
@@ -8,12 +9,19 @@
 
 #include "hosts/dialog/preview/page_navigator.h"
 #include "hosts/dialog/preview/sheet_view.h"
+#include "hosts/session/job_option_values.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
 
 constexpr int redrawDelay = 150;  // ms of rest after a change of size
+
+// Print servers may have covers of their own.
+QString coverText(const QString& name) {
+  const char* ours = textOfValue(QStringLiteral("job-sheets"), name);
+  return ours == nullptr ? shownText(name) : QCoreApplication::translate("JobOptions", ours);
+}
 
 }  // namespace
 
@@ -208,7 +216,7 @@ void Preview::showSide() {
   } else {
     const Place& place = m_places[m_position];
     m_view->show(*place.side, {.borderWidth = m_plan->borderWidth(), .isGray = m_plan->isGray()},
-                 place.sheet->cover);
+                 coverText(place.sheet->cover));
     m_view->setAccessibleDescription(positionText(place).arg(place.number));
   }
   const bool isDrawn = m_places.isEmpty() || m_images.areThere(m_view->wanted(*m_places[m_position].side));

@@ -1,12 +1,13 @@
 #include "hosts/dialog/preview/sheet_view.h"
 
-#include <QtGui/QAccessible>
 #include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
 #include <cmath>
+
+#include "hosts/dialog/widgets/accessible.h"
 
 namespace kesto {
 namespace {
@@ -45,19 +46,11 @@ class AccessibleSheet : public QAccessibleWidget, public QAccessibleImageInterfa
   }
 };
 
-QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* object) {
-  auto* view = qobject_cast<SheetView*>(object);
-  return view == nullptr ? nullptr : new AccessibleSheet(view);
-}
-
 }  // namespace
 
 SheetView::SheetView(const PageImages& images, QWidget* parent)
     : QAbstractScrollArea(parent), m_images(images) {
-  [[maybe_unused]] static const bool isInstalled = [] {
-    QAccessible::installFactory(makeAccessible);
-    return true;
-  }();
+  useInterface<SheetView, AccessibleSheet>();
   setAccessibleName(tr("Preview"));
   setFrameShape(QFrame::NoFrame);
   viewport()->setBackgroundRole(QPalette::Mid);

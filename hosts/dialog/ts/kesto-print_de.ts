@@ -146,8 +146,56 @@
         <translation>Die Seiten als PDF-Datei speichern</translation>
     </message>
     <message>
-        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
-        <translation>Wählen Sie in der Druckerliste „Als PDF speichern“ und klicken Sie auf „Speichern“. Die Datei enthält die ausgewählten Seiten.</translation>
+        <source>Print several pages on a sheet</source>
+        <translation>Mehrere Seiten auf ein Blatt drucken</translation>
+    </message>
+    <message>
+        <source>Under Layout, choose the number of Pages per sheet, their order and a border. Booklet, on a printer that makes booklets, arranges the pages so that the folded sheets can be read like a book.</source>
+        <translation>Wählen Sie unter „Layout“ die Zahl der Seiten pro Blatt, ihre Reihenfolge und einen Rahmen. „Broschüre“ ordnet die Seiten auf einem Drucker, der Broschüren herstellt, so an, dass die gefalteten Blätter wie ein Buch gelesen werden können.</translation>
+    </message>
+    <message>
+        <source>Fit the pages to the paper</source>
+        <translation>Die Seiten an das Papier anpassen</translation>
+    </message>
+    <message>
+        <source>Under Layout, Scaling decides what happens to pages that are larger or smaller than the paper. Fit to paper shows them whole, Fill paper leaves no margin and may cut off edges, and Actual size leaves them as they are. The percentage of Custom counts for images.</source>
+        <translation>Unter „Layout“ legt „Skalierung“ fest, was mit Seiten geschieht, die größer oder kleiner als das Papier sind. „An Papier anpassen“ zeigt sie ganz, „Papier füllen“ lässt keinen Rand und kann Ränder abschneiden, und „Originalgröße“ lässt sie, wie sie sind. Der Prozentsatz bei „Benutzerdefiniert“ gilt für Bilder.</translation>
+    </message>
+    <message>
+        <source>Choose when to print</source>
+        <translation>Den Zeitpunkt des Druckens wählen</translation>
+    </message>
+    <message>
+        <source>Under Job, Print holds the job on the print server until a time, or, with On hold, until you release it in the system&apos;s list of print jobs. Of the jobs that wait, the one with the highest priority is printed first.</source>
+        <translation>Unter „Auftrag“ hält „Drucken“ den Auftrag auf dem Druckserver bis zu einer Uhrzeit zurück oder, mit „Zurückgehalten“, bis Sie ihn in der Liste der Druckaufträge des Systems freigeben. Von den wartenden Aufträgen wird der mit der höchsten Priorität zuerst gedruckt.</translation>
+    </message>
+    <message>
+        <source>Add cover sheets and billing information</source>
+        <translation>Deckblätter und Abrechnungsinformation hinzufügen</translation>
+    </message>
+    <message>
+        <source>Under Job, choose a cover sheet that is printed before or after the document. Billing information, such as the number of a project, is kept with the job in the records of the print server.</source>
+        <translation>Wählen Sie unter „Auftrag“ ein Deckblatt, das vor oder nach dem Dokument gedruckt wird. Die Abrechnungsinformation, zum Beispiel eine Projektnummer, wird mit dem Auftrag in den Aufzeichnungen des Druckservers gespeichert.</translation>
+    </message>
+    <message>
+        <source>Find another option of the printer</source>
+        <translation>Eine andere Option des Druckers finden</translation>
+    </message>
+    <message>
+        <source>More options has all other options of the printer. Type a part of a name into the filter to see only the options that have it.</source>
+        <translation>„Weitere Optionen“ enthält alle anderen Optionen des Druckers. Geben Sie im Filter einen Teil eines Namens ein, um nur die Optionen zu sehen, die ihn enthalten.</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected. Only PDF documents can be saved, and only their pages and the order of the pages can be chosen.</source>
+        <translation>Wählen Sie in der Druckerliste „Als PDF speichern“ und klicken Sie auf „Speichern“. Die Datei enthält die ausgewählten Seiten. Nur PDF-Dokumente können gespeichert werden, und nur ihre Seiten und deren Reihenfolge können gewählt werden.</translation>
+    </message>
+    <message>
+        <source>Print a document that is protected by a password</source>
+        <translation>Ein durch ein Passwort geschütztes Dokument drucken</translation>
+    </message>
+    <message>
+        <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
+        <translation>Wenn Sie auf „Drucken“ klicken, fragt der Dialog nach dem Passwort des Dokuments. Er druckt eine Kopie ohne Passwort, die nur Sie lesen können und die danach gelöscht wird.</translation>
     </message>
 </context>
 <context>
@@ -2209,6 +2257,10 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Andere Benutzer können sehen: %1. Um dies zu verbergen, fügen Sie der Richtlinie „%2“ des Druckservers diese Zeilen hinzu:</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
     </message>
 </context>
 </TS>

@@ -146,8 +146,56 @@
         <translation>Guardar las páginas como archivo PDF</translation>
     </message>
     <message>
-        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
-        <translation>Elija «Guardar como PDF» en la lista de impresoras y pulse «Guardar». El archivo contiene las páginas seleccionadas.</translation>
+        <source>Print several pages on a sheet</source>
+        <translation>Imprimir varias páginas por hoja</translation>
+    </message>
+    <message>
+        <source>Under Layout, choose the number of Pages per sheet, their order and a border. Booklet, on a printer that makes booklets, arranges the pages so that the folded sheets can be read like a book.</source>
+        <translation>En «Diseño», elija el número de páginas por hoja, su orden y un borde. En una impresora que produce folletos, «Folleto» coloca las páginas de modo que las hojas dobladas se lean como un libro.</translation>
+    </message>
+    <message>
+        <source>Fit the pages to the paper</source>
+        <translation>Ajustar las páginas al papel</translation>
+    </message>
+    <message>
+        <source>Under Layout, Scaling decides what happens to pages that are larger or smaller than the paper. Fit to paper shows them whole, Fill paper leaves no margin and may cut off edges, and Actual size leaves them as they are. The percentage of Custom counts for images.</source>
+        <translation>En «Diseño», «Escala» decide qué ocurre con las páginas que son más grandes o más pequeñas que el papel. «Ajustar al papel» las muestra enteras, «Rellenar el papel» no deja margen y puede cortar los bordes, y «Tamaño real» las deja como están. El porcentaje de «Personalizada» se aplica a las imágenes.</translation>
+    </message>
+    <message>
+        <source>Choose when to print</source>
+        <translation>Elegir cuándo imprimir</translation>
+    </message>
+    <message>
+        <source>Under Job, Print holds the job on the print server until a time, or, with On hold, until you release it in the system&apos;s list of print jobs. Of the jobs that wait, the one with the highest priority is printed first.</source>
+        <translation>En «Trabajo», «Imprimir» retiene el trabajo en el servidor de impresión hasta una hora determinada o, con «En espera», hasta que lo libere en la lista de trabajos de impresión del sistema. De los trabajos que esperan, se imprime primero el de mayor prioridad.</translation>
+    </message>
+    <message>
+        <source>Add cover sheets and billing information</source>
+        <translation>Añadir portadas e información de facturación</translation>
+    </message>
+    <message>
+        <source>Under Job, choose a cover sheet that is printed before or after the document. Billing information, such as the number of a project, is kept with the job in the records of the print server.</source>
+        <translation>En «Trabajo», elija una portada que se imprima antes o después del documento. La información de facturación, por ejemplo, un número de proyecto, se guarda con el trabajo en los registros del servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Find another option of the printer</source>
+        <translation>Encontrar otra opción de la impresora</translation>
+    </message>
+    <message>
+        <source>More options has all other options of the printer. Type a part of a name into the filter to see only the options that have it.</source>
+        <translation>«Más opciones» contiene todas las demás opciones de la impresora. Escriba parte de un nombre en el filtro para ver solo las opciones que la contienen.</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected. Only PDF documents can be saved, and only their pages and the order of the pages can be chosen.</source>
+        <translation>Elija «Guardar como PDF» en la lista de impresoras y pulse «Guardar». El archivo contiene las páginas seleccionadas. Solo se pueden guardar documentos PDF, y solo se pueden elegir las páginas y su orden.</translation>
+    </message>
+    <message>
+        <source>Print a document that is protected by a password</source>
+        <translation>Imprimir un documento protegido con contraseña</translation>
+    </message>
+    <message>
+        <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
+        <translation>Al pulsar «Imprimir», el diálogo pide la contraseña del documento. Imprime una copia sin contraseña, que solo usted puede leer y que después se elimina.</translation>
     </message>
 </context>
 <context>
@@ -2209,6 +2257,10 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Los demás usuarios pueden ver %1. Para ocultarlo, añada estas líneas a la política «%2» del servidor de impresión:</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificado)</translation>
     </message>
 </context>
 </TS>

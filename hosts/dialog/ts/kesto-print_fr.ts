@@ -146,8 +146,56 @@
         <translation>Enregistrer les pages dans un fichier PDF</translation>
     </message>
     <message>
-        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
-        <translation>Choisissez «&#xa0;Enregistrer au format PDF&#xa0;» dans la liste des imprimantes et cliquez sur «&#xa0;Enregistrer&#xa0;». Le fichier contient les pages sélectionnées.</translation>
+        <source>Print several pages on a sheet</source>
+        <translation>Imprimer plusieurs pages par feuille</translation>
+    </message>
+    <message>
+        <source>Under Layout, choose the number of Pages per sheet, their order and a border. Booklet, on a printer that makes booklets, arranges the pages so that the folded sheets can be read like a book.</source>
+        <translation>Sous «&#xa0;Mise en page&#xa0;», choisissez le nombre de pages par feuille, leur ordre et une bordure. Sur une imprimante qui produit des livrets, «&#xa0;Livret&#xa0;» dispose les pages de sorte que les feuilles pliées se lisent comme un livre.</translation>
+    </message>
+    <message>
+        <source>Fit the pages to the paper</source>
+        <translation>Adapter les pages au papier</translation>
+    </message>
+    <message>
+        <source>Under Layout, Scaling decides what happens to pages that are larger or smaller than the paper. Fit to paper shows them whole, Fill paper leaves no margin and may cut off edges, and Actual size leaves them as they are. The percentage of Custom counts for images.</source>
+        <translation>Sous «&#xa0;Mise en page&#xa0;», «&#xa0;Mise à l’échelle&#xa0;» détermine ce qu’il advient des pages plus grandes ou plus petites que le papier. «&#xa0;Ajuster au papier&#xa0;» les montre entières, «&#xa0;Remplir le papier&#xa0;» ne laisse aucune marge et peut couper les bords, et «&#xa0;Taille réelle&#xa0;» les laisse telles quelles. Le pourcentage de «&#xa0;Personnalisée&#xa0;» s’applique aux images.</translation>
+    </message>
+    <message>
+        <source>Choose when to print</source>
+        <translation>Choisir quand imprimer</translation>
+    </message>
+    <message>
+        <source>Under Job, Print holds the job on the print server until a time, or, with On hold, until you release it in the system&apos;s list of print jobs. Of the jobs that wait, the one with the highest priority is printed first.</source>
+        <translation>Sous «&#xa0;Travail&#xa0;», «&#xa0;Imprimer&#xa0;» retient le travail sur le serveur d’impression jusqu’à une heure donnée ou, avec «&#xa0;En attente&#xa0;», jusqu’à ce que vous le libériez dans la liste des travaux d’impression du système. Parmi les travaux qui attendent, celui dont la priorité est la plus élevée est imprimé en premier.</translation>
+    </message>
+    <message>
+        <source>Add cover sheets and billing information</source>
+        <translation>Ajouter des pages de couverture et des informations de facturation</translation>
+    </message>
+    <message>
+        <source>Under Job, choose a cover sheet that is printed before or after the document. Billing information, such as the number of a project, is kept with the job in the records of the print server.</source>
+        <translation>Sous «&#xa0;Travail&#xa0;», choisissez une page de couverture à imprimer avant ou après le document. Les informations de facturation, par exemple un numéro de projet, sont conservées avec le travail dans les journaux du serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Find another option of the printer</source>
+        <translation>Trouver une autre option de l’imprimante</translation>
+    </message>
+    <message>
+        <source>More options has all other options of the printer. Type a part of a name into the filter to see only the options that have it.</source>
+        <translation>«&#xa0;Autres options&#xa0;» contient toutes les autres options de l’imprimante. Saisissez une partie d’un nom dans le filtre pour ne voir que les options qui la contiennent.</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected. Only PDF documents can be saved, and only their pages and the order of the pages can be chosen.</source>
+        <translation>Choisissez «&#xa0;Enregistrer au format PDF&#xa0;» dans la liste des imprimantes et cliquez sur «&#xa0;Enregistrer&#xa0;». Le fichier contient les pages sélectionnées. Seuls les documents PDF peuvent être enregistrés, et seuls les pages et leur ordre peuvent être choisis.</translation>
+    </message>
+    <message>
+        <source>Print a document that is protected by a password</source>
+        <translation>Imprimer un document protégé par un mot de passe</translation>
+    </message>
+    <message>
+        <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
+        <translation>Quand vous cliquez sur «&#xa0;Imprimer&#xa0;», la boîte de dialogue demande le mot de passe du document. Elle imprime une copie sans mot de passe, que vous seul pouvez lire et qui est supprimée ensuite.</translation>
     </message>
 </context>
 <context>
@@ -2209,6 +2257,10 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>Les autres utilisateurs peuvent voir %1. Pour le masquer, ajoutez ces lignes à la politique «&#xa0;%2&#xa0;» du serveur d’impression&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modifié)</translation>
     </message>
 </context>
 </TS>

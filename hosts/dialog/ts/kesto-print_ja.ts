@@ -146,8 +146,56 @@
         <translation>ページを PDF ファイルとして保存する</translation>
     </message>
     <message>
-        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
-        <translation>プリンターの一覧で「PDF として保存」を選び、「保存」を押します。ファイルには選択したページが保存されます。</translation>
+        <source>Print several pages on a sheet</source>
+        <translation>1 枚に複数のページを印刷する</translation>
+    </message>
+    <message>
+        <source>Under Layout, choose the number of Pages per sheet, their order and a border. Booklet, on a printer that makes booklets, arranges the pages so that the folded sheets can be read like a book.</source>
+        <translation>「レイアウト」で、1 枚あたりのページ数、ページの順序、枠線を選びます。小冊子を作成できるプリンターでは、「小冊子」を選ぶと、折った用紙を本のように読めるようにページが配置されます。</translation>
+    </message>
+    <message>
+        <source>Fit the pages to the paper</source>
+        <translation>ページを用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Under Layout, Scaling decides what happens to pages that are larger or smaller than the paper. Fit to paper shows them whole, Fill paper leaves no margin and may cut off edges, and Actual size leaves them as they are. The percentage of Custom counts for images.</source>
+        <translation>「レイアウト」の「拡大縮小」で、用紙より大きいページや小さいページの扱いを選びます。「用紙に合わせる」はページ全体を印刷し、「用紙全体に印刷」は余白を残さず、端が切れることがあります。「実際のサイズ」は大きさを変えません。「カスタム」のパーセント値は画像に適用されます。</translation>
+    </message>
+    <message>
+        <source>Choose when to print</source>
+        <translation>印刷する時を選ぶ</translation>
+    </message>
+    <message>
+        <source>Under Job, Print holds the job on the print server until a time, or, with On hold, until you release it in the system&apos;s list of print jobs. Of the jobs that wait, the one with the highest priority is printed first.</source>
+        <translation>「ジョブ」の「印刷」で、指定した時刻まで、または「保留」ではシステムの印刷ジョブの一覧で解除するまで、ジョブをプリントサーバーに保留できます。待機中のジョブは、優先度の高いものから印刷されます。</translation>
+    </message>
+    <message>
+        <source>Add cover sheets and billing information</source>
+        <translation>表紙と課金情報を追加する</translation>
+    </message>
+    <message>
+        <source>Under Job, choose a cover sheet that is printed before or after the document. Billing information, such as the number of a project, is kept with the job in the records of the print server.</source>
+        <translation>「ジョブ」で、文書の前または後に印刷する表紙を選びます。プロジェクト番号などの課金情報は、ジョブとともにプリントサーバーの記録に残ります。</translation>
+    </message>
+    <message>
+        <source>Find another option of the printer</source>
+        <translation>プリンターの他のオプションを探す</translation>
+    </message>
+    <message>
+        <source>More options has all other options of the printer. Type a part of a name into the filter to see only the options that have it.</source>
+        <translation>「その他のオプション」には、プリンターの他のすべてのオプションがあります。フィルターに名前の一部を入力すると、それを含むオプションだけが表示されます。</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected. Only PDF documents can be saved, and only their pages and the order of the pages can be chosen.</source>
+        <translation>プリンターの一覧で「PDF として保存」を選び、「保存」を押します。ファイルには選択したページが保存されます。保存できるのは PDF 文書だけで、選べるのはページとその順序だけです。</translation>
+    </message>
+    <message>
+        <source>Print a document that is protected by a password</source>
+        <translation>パスワードで保護された文書を印刷する</translation>
+    </message>
+    <message>
+        <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
+        <translation>「印刷」を押すと、文書のパスワードの入力を求められます。パスワードのない、あなただけが読めるコピーが印刷され、その後削除されます。</translation>
     </message>
 </context>
 <context>
@@ -2208,6 +2256,10 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>他のユーザーに見える内容: %1。隠すには、プリントサーバーのポリシー「%2」に次の行を追加してください:</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (変更あり)</translation>
     </message>
 </context>
 </TS>

@@ -146,8 +146,56 @@
         <translation>将页面保存为 PDF 文件</translation>
     </message>
     <message>
-        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected.</source>
-        <translation>在打印机列表中选择“另存为 PDF”，然后按“保存”。文件包含您选择的页面。</translation>
+        <source>Print several pages on a sheet</source>
+        <translation>在一张纸上打印多个页面</translation>
+    </message>
+    <message>
+        <source>Under Layout, choose the number of Pages per sheet, their order and a border. Booklet, on a printer that makes booklets, arranges the pages so that the folded sheets can be read like a book.</source>
+        <translation>在“布局”中选择每张页数、页面顺序和边框。如果打印机可以制作小册子，“小册子”会排列页面，使折叠后的纸张可以像书一样阅读。</translation>
+    </message>
+    <message>
+        <source>Fit the pages to the paper</source>
+        <translation>使页面适合纸张</translation>
+    </message>
+    <message>
+        <source>Under Layout, Scaling decides what happens to pages that are larger or smaller than the paper. Fit to paper shows them whole, Fill paper leaves no margin and may cut off edges, and Actual size leaves them as they are. The percentage of Custom counts for images.</source>
+        <translation>在“布局”中，“缩放”决定如何处理比纸张大或小的页面。“适合纸张”会完整显示页面，“填满纸张”不留页边距，边缘可能被裁掉，“实际大小”保持原样。“自定义”的百分比适用于图像。</translation>
+    </message>
+    <message>
+        <source>Choose when to print</source>
+        <translation>选择打印时间</translation>
+    </message>
+    <message>
+        <source>Under Job, Print holds the job on the print server until a time, or, with On hold, until you release it in the system&apos;s list of print jobs. Of the jobs that wait, the one with the highest priority is printed first.</source>
+        <translation>在“作业”中，“打印”可以将作业保留在打印服务器上，直到指定的时间；选择“保留”时，直到您在系统的打印作业列表中释放作业。等待的作业中，优先级最高的先打印。</translation>
+    </message>
+    <message>
+        <source>Add cover sheets and billing information</source>
+        <translation>添加封面和账单信息</translation>
+    </message>
+    <message>
+        <source>Under Job, choose a cover sheet that is printed before or after the document. Billing information, such as the number of a project, is kept with the job in the records of the print server.</source>
+        <translation>在“作业”中选择在文档之前或之后打印的封面。账单信息（例如项目编号）会与作业一起保存在打印服务器的记录中。</translation>
+    </message>
+    <message>
+        <source>Find another option of the printer</source>
+        <translation>查找打印机的其他选项</translation>
+    </message>
+    <message>
+        <source>More options has all other options of the printer. Type a part of a name into the filter to see only the options that have it.</source>
+        <translation>“更多选项”包含打印机的所有其他选项。在筛选框中输入名称的一部分，即可只显示包含它的选项。</translation>
+    </message>
+    <message>
+        <source>Choose Save as PDF in the list of printers, and press Save. The file has the pages that you selected. Only PDF documents can be saved, and only their pages and the order of the pages can be chosen.</source>
+        <translation>在打印机列表中选择“另存为 PDF”，然后按“保存”。文件包含您选择的页面。只有 PDF 文档可以保存，并且只能选择页面及其顺序。</translation>
+    </message>
+    <message>
+        <source>Print a document that is protected by a password</source>
+        <translation>打印受密码保护的文档</translation>
+    </message>
+    <message>
+        <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
+        <translation>按“打印”时，对话框会询问文档的密码，然后打印一份不带密码的副本。该副本只有您可以读取，打印后会被删除。</translation>
     </message>
 </context>
 <context>
@@ -2208,6 +2256,10 @@
     <message>
         <source>Other users can see %1. To hide it, add these lines to the print server&apos;s policy &quot;%2&quot;:</source>
         <translation>其他用户可以看到%1。要隐藏这些内容，请在打印服务器的策略“%2”中添加以下几行：</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1（已更改）</translation>
     </message>
 </context>
 </TS>

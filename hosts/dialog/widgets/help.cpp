@@ -30,15 +30,53 @@ constexpr std::array topics{
           QT_TRANSLATE_NOOP("Help",
                             "Choose Long edge for pages that turn like those of a book, or Short edge for "
                             "pages that turn like those of a notepad.")},
+    Topic{
+        QT_TRANSLATE_NOOP("Help", "Print several pages on a sheet"),
+        QT_TRANSLATE_NOOP("Help",
+                          "Under Layout, choose the number of Pages per sheet, their order and a border. "
+                          "Booklet, on a printer that makes booklets, arranges the pages so that the folded "
+                          "sheets can be read like a book.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Fit the pages to the paper"),
+          QT_TRANSLATE_NOOP(
+              "Help",
+              "Under Layout, Scaling decides what happens to pages that are larger or smaller than "
+              "the paper. Fit to paper shows them whole, Fill paper leaves no margin and may cut "
+              "off edges, and Actual size leaves them as they are. The percentage of Custom counts "
+              "for images.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Choose when to print"),
+          QT_TRANSLATE_NOOP(
+              "Help",
+              "Under Job, Print holds the job on the print server until a time, or, with On hold, "
+              "until you release it in the system's list of print jobs. Of the jobs that wait, the "
+              "one with the highest priority is printed first.")},
+    Topic{
+        QT_TRANSLATE_NOOP("Help", "Add cover sheets and billing information"),
+        QT_TRANSLATE_NOOP("Help",
+                          "Under Job, choose a cover sheet that is printed before or after the document. "
+                          "Billing information, such as the number of a project, is kept with the job in the "
+                          "records of the print server.")},
+    Topic{
+        QT_TRANSLATE_NOOP("Help", "Find another option of the printer"),
+        QT_TRANSLATE_NOOP("Help",
+                          "More options has all other options of the printer. Type a part of a name into the "
+                          "filter to see only the options that have it.")},
     Topic{QT_TRANSLATE_NOOP("Help", "See what will be printed"),
           QT_TRANSLATE_NOOP("Help",
                             "The preview shows the sheets of paper as they will leave the printer. Turn the "
                             "pages with the arrows below it or with Page Up and Page Down, and enlarge them "
                             "with Ctrl and the mouse wheel.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Save the pages as a PDF file"),
-          QT_TRANSLATE_NOOP("Help",
-                            "Choose Save as PDF in the list of printers, and press Save. The file has the "
-                            "pages that you selected.")},
+          QT_TRANSLATE_NOOP(
+              "Help",
+              "Choose Save as PDF in the list of printers, and press Save. The file has the "
+              "pages that you selected. Only PDF documents can be saved, and only their pages and "
+              "the order of the pages can be chosen.")},
+    Topic{QT_TRANSLATE_NOOP("Help", "Print a document that is protected by a password"),
+          QT_TRANSLATE_NOOP(
+              "Help",
+              "When you press Print, the dialog asks for the password of the document. It prints a "
+              "copy without the password, which only you can read and which is deleted "
+              "afterwards.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Hold a job on the printer with a pass code"),
           QT_TRANSLATE_NOOP(
               "Help",

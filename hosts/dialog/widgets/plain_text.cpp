@@ -22,6 +22,11 @@ void setPlainText(QWidget& widget, const QString& given) {
   showMarkedText(widget, label != nullptr && label->buddy() == nullptr ? text : withPlainAmpersands(text));
 }
 
+QFont boldOf(QFont font) {
+  font.setBold(true);
+  return font;
+}
+
 QString plainText(const QWidget& widget) {
   return widget.property(plainTextProperty).toString();
 }

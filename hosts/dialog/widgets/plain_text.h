@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtGui/QFont>
 
 class QWidget;
 
@@ -10,6 +11,8 @@ namespace kesto {
 /// Shows `text` on a label, button or group box as it is, "&" included and in one line (`shownText`). An
 /// unchanged text keeps its mnemonic.
 void setPlainText(QWidget& widget, const QString& text);
+/// The font in bold, for titles.
+QFont boldOf(QFont font);
 /// The text that `setPlainText` showed last.
 QString plainText(const QWidget& widget);
 /// Shows that text with its mnemonic marked by "&".

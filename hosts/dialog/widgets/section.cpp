@@ -7,6 +7,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include "hosts/dialog/widgets/accent_color.h"
+#include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "platform/shown_text.h"
@@ -40,19 +41,10 @@ class AccessibleHeader : public QAccessibleWidget {
   SectionHeader& header() const { return *static_cast<SectionHeader*>(widget()); }
 };
 
-QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* object) {
-  auto* header = qobject_cast<SectionHeader*>(object);
-  return header == nullptr ? nullptr : new AccessibleHeader(header);
-}
-
 }  // namespace
 
 SectionHeader::SectionHeader(QWidget* parent) : QAbstractButton(parent) {
-  static const bool isInstalled = [] {
-    QAccessible::installFactory(makeAccessible);
-    return true;
-  }();
-  Q_UNUSED(isInstalled)
+  useInterface<SectionHeader, AccessibleHeader>();
   setCheckable(true);
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_Hover);
@@ -74,9 +66,7 @@ void SectionHeader::setHeadline(const QString& text, bool isChanged) {
 }
 
 QFont SectionHeader::titleFont() const {
-  QFont bold = font();
-  bold.setBold(true);
-  return bold;
+  return boldOf(font());
 }
 
 int SectionHeader::arrowWidth() const {

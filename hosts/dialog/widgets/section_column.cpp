@@ -38,7 +38,7 @@ SectionColumn::SectionColumn(QWidget* parent) : QScrollArea(parent), m_layout(ne
   auto* page = new QWidget(this);
   m_layout->setContentsMargins({});
   m_layout->setSpacing(0);
-  m_layout->addStretch();
+  m_layout->addStretch(1);
   page->setLayout(m_layout);
   setWidget(page);
   setWidgetResizable(true);
@@ -89,11 +89,20 @@ void SectionColumn::takeContents() {
   }
 }
 
+void SectionColumn::alignWith(QFormLayout* form) {
+  m_beside = form;
+  if (m_sections.isEmpty()) return;
+  const int margin = m_sections.front()->margin();
+  form->setContentsMargins(margin, 0, margin, 0);
+}
+
 void SectionColumn::alignLabels() {
   const int spacing = fontMetrics().height() / 2;
   QWidgetList labels;
   QList<QGridLayout*> grids;
-  for (auto* layout : widget()->findChildren<QLayout*>()) {
+  QList<QLayout*> layouts = widget()->findChildren<QLayout*>();
+  if (m_beside != nullptr) layouts.append(m_beside);
+  for (auto* layout : layouts) {
     labels += firstColumnOf(*layout);
     if (auto* form = qobject_cast<QFormLayout*>(layout)) form->setHorizontalSpacing(spacing);
     if (auto* grid = qobject_cast<QGridLayout*>(layout)) grids.append(grid);

@@ -3,6 +3,7 @@
 
 #include <QtWidgets/QScrollArea>
 
+class QFormLayout;
 class QVBoxLayout;
 
 namespace kesto {
@@ -20,6 +21,8 @@ class SectionColumn : public QScrollArea {
   /// Takes a section over, below the others.
   void add(Section* section);
   const QList<Section*>& sections() const { return m_sections; }
+  /// Lets the labels of a form beside the column end where those of the sections do.
+  void alignWith(QFormLayout* form);
   /// Opens the section that a widget is in and scrolls to the widget.
   void reveal(QWidget* widget);
   /// Lets the labels of all sections end at the same place, and the wheel scroll over fields that it would
@@ -37,6 +40,7 @@ class SectionColumn : public QScrollArea {
   void scrollTo(const Section* section);
 
   QList<Section*> m_sections;
+  QFormLayout* m_beside = nullptr;  // its labels are aligned, too
   QVBoxLayout* m_layout;
 };
 
