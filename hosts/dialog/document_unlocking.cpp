@@ -94,7 +94,7 @@ QString DocumentUnlocking::reasonFor(PageProgram::End end) {
     return tr("The document is damaged and cannot be opened.");
   --m_tries;
   return m_tries == 1 ? tr("Wrong password. You can try once more.")
-                      : tr("Wrong password. You can try %1 more times.").arg(m_tries);
+                      : tr("Wrong password. You can try %n more times.", nullptr, m_tries);
 }
 
 }  // namespace kesto

@@ -21,18 +21,20 @@ class RememberingTranslator : public QTranslator {
   }
 };
 
-void install(const QString& name, const QString& folder) {
+bool install(const QString& name, const QString& folder) {
   auto translator = std::make_unique<RememberingTranslator>();
-  if (!translator->load(userLanguage(), name, QStringLiteral("_"), folder)) return;
+  if (!translator->load(userLanguage(), name, QStringLiteral("_"), folder)) return false;
   translator->setParent(QCoreApplication::instance());
-  QCoreApplication::installTranslator(translator.release());
+  return QCoreApplication::installTranslator(translator.release());
 }
 
 }  // namespace
 
 void installTranslations() {
-  install(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-  install(QStringLiteral("kesto-print"), QStringLiteral(":/translations"));
+  const QString own = QStringLiteral(":/translations");
+  const QString ofQt = QStringLiteral("qtbase");
+  if (!install(ofQt, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) install(ofQt, own);
+  install(QStringLiteral("kesto-print"), own);
 }
 
 }  // namespace kesto

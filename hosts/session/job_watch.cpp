@@ -19,7 +19,7 @@ JobFate waiting(const JobReport& report) {
   const QString text = report.jobsAhead == 0 ? JobWatch::tr("Waiting for the printer")
                        : report.jobsAhead == 1
                            ? JobWatch::tr("Waiting for 1 other job")
-                           : JobWatch::tr("Waiting for %1 other jobs").arg(report.jobsAhead);
+                           : JobWatch::tr("Waiting for %n other jobs", nullptr, report.jobsAhead);
   return {.state = State::Waiting, .text = text};
 }
 

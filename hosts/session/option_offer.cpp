@@ -32,7 +32,7 @@ void addOthers(const JobOptions& options, std::vector<OfferedOption>* offered) {
 
 QString shownCopies(const QString& count) {
   return count == u"1" ? QCoreApplication::translate("JobOptions", "1 copy")
-                       : QCoreApplication::translate("JobOptions", "%1 copies").arg(count);
+                       : QCoreApplication::translate("JobOptions", "%n copies", nullptr, count.toInt());
 }
 
 // Pages that are not those which the application alone knows.

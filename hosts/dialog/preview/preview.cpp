@@ -261,8 +261,8 @@ QString Preview::fileText() const {
   const ExaminedFile file = m_examiner.files().value(number);
   QString text = shownText(m_examiner.nameOf(number));
   if (file.kind == ExaminedFile::Kind::Pdf && !file.pages.isEmpty()) {
-    const auto count = file.pages.size();
-    text = count == 1 ? tr("%1, 1 page").arg(text) : tr("%1, %2 pages").arg(text).arg(count);
+    const int count = static_cast<int>(file.pages.size());
+    text = (count == 1 ? tr("%1, 1 page") : tr("%1, %n pages", nullptr, count)).arg(text);
   }
   return file.note.isNull() || file.pages.isEmpty() ? text : tr("%1: %2").arg(text, file.note);
 }
@@ -272,7 +272,7 @@ QString Preview::totalText() const {
   if (!m_plan || m_paper.isFile || !fault().isNull() || std::ranges::any_of(m_examiner.files(), isUnknown))
     return {};
   const int count = m_plan->paperCount();
-  return count == 1 ? tr("Total: 1 sheet of paper") : tr("Total: %1 sheets of paper").arg(count);
+  return count == 1 ? tr("Total: 1 sheet of paper") : tr("Total: %n sheets of paper", nullptr, count);
 }
 
 void Preview::resizeEvent(QResizeEvent* /*event*/) {

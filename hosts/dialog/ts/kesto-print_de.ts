@@ -513,16 +513,19 @@
         <translation>1 Exemplar</translation>
     </message>
     <message>
-        <source>%1 copies</source>
-        <translation>%1 Exemplare</translation>
-    </message>
-    <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>
         <translation>Geben Sie Seitenzahlen oder Bereiche ein, zum Beispiel 1-3, 5.</translation>
     </message>
     <message>
         <source>The document ends at page %1. Enter page numbers up to %1.</source>
         <translation>Das Dokument endet auf Seite %1. Geben Sie Seitenzahlen bis %1 ein.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n Exemplar</numerusform>
+            <numerusform>%n Exemplare</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1328,12 +1331,15 @@
         <translation>Falsches Passwort. Sie haben noch einen Versuch.</translation>
     </message>
     <message>
-        <source>Wrong password. You can try %1 more times.</source>
-        <translation>Falsches Passwort. Sie haben noch %1 Versuche.</translation>
-    </message>
-    <message>
         <source>The document cannot be opened. Install qpdf to open it.</source>
         <translation>Das Dokument kann nicht geöffnet werden. Installieren Sie qpdf, um es zu öffnen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Wrong password. You can try %n more times.</source>
+        <translation>
+            <numerusform>Falsches Passwort. Sie haben noch %n Versuch.</numerusform>
+            <numerusform>Falsches Passwort. Sie haben noch %n Versuche.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1625,10 +1631,6 @@
         <translation>Wartet auf 1 anderen Auftrag</translation>
     </message>
     <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>Wartet auf %1 andere Aufträge</translation>
-    </message>
-    <message>
         <source>Held: the printer asks for a password</source>
         <translation>Zurückgehalten: Der Drucker verlangt ein Passwort</translation>
     </message>
@@ -1707,6 +1709,13 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>Es ist nicht bekannt, ob der Auftrag gedruckt ist</translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for %n other jobs</source>
+        <translation>
+            <numerusform>Wartet auf %n anderen Auftrag</numerusform>
+            <numerusform>Wartet auf %n andere Aufträge</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1982,10 +1991,6 @@
         <translation>Gesamt: 1 Blatt Papier</translation>
     </message>
     <message>
-        <source>Total: %1 sheets of paper</source>
-        <translation>Gesamt: %1 Blatt Papier</translation>
-    </message>
-    <message>
         <source>No pages are selected.</source>
         <translation>Es sind keine Seiten ausgewählt.</translation>
     </message>
@@ -1998,12 +2003,22 @@
         <translation>%1, 1 Seite</translation>
     </message>
     <message>
-        <source>%1, %2 pages</source>
-        <translation>%1, %2 Seiten</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n pages</source>
+        <translation>
+            <numerusform>%1, %n Seite</numerusform>
+            <numerusform>%1, %n Seiten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Total: %n sheets of paper</source>
+        <translation>
+            <numerusform>Gesamt: %n Blatt Papier</numerusform>
+            <numerusform>Gesamt: %n Blatt Papier</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2218,12 +2233,15 @@
         <translation>1 Auftrag wartet</translation>
     </message>
     <message>
-        <source>%1 jobs waiting</source>
-        <translation>%1 Aufträge warten</translation>
-    </message>
-    <message>
         <source>Save as PDF</source>
         <translation>Als PDF speichern</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs waiting</source>
+        <translation>
+            <numerusform>%n Auftrag wartet</numerusform>
+            <numerusform>%n Aufträge warten</numerusform>
+        </translation>
     </message>
 </context>
 <context>

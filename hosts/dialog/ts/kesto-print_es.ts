@@ -513,16 +513,19 @@
         <translation>1 copia</translation>
     </message>
     <message>
-        <source>%1 copies</source>
-        <translation>%1 copias</translation>
-    </message>
-    <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>
         <translation>Escriba números o intervalos de páginas, por ejemplo 1-3, 5.</translation>
     </message>
     <message>
         <source>The document ends at page %1. Enter page numbers up to %1.</source>
         <translation>El documento termina en la página %1. Escriba números de página hasta %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n copia</numerusform>
+            <numerusform>%n copias</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1328,12 +1331,15 @@
         <translation>Contraseña incorrecta. Puede intentarlo una vez más.</translation>
     </message>
     <message>
-        <source>Wrong password. You can try %1 more times.</source>
-        <translation>Contraseña incorrecta. Puede intentarlo %1 veces más.</translation>
-    </message>
-    <message>
         <source>The document cannot be opened. Install qpdf to open it.</source>
         <translation>El documento no se puede abrir. Instale qpdf para abrirlo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Wrong password. You can try %n more times.</source>
+        <translation>
+            <numerusform>Contraseña incorrecta. Puede intentarlo %n vez más.</numerusform>
+            <numerusform>Contraseña incorrecta. Puede intentarlo %n veces más.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1625,10 +1631,6 @@
         <translation>Esperando a otro trabajo</translation>
     </message>
     <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>Esperando a otros %1 trabajos</translation>
-    </message>
-    <message>
         <source>Held: the printer asks for a password</source>
         <translation>Retenido: la impresora pide una contraseña</translation>
     </message>
@@ -1707,6 +1709,13 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>No se sabe si el trabajo se ha impreso</translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for %n other jobs</source>
+        <translation>
+            <numerusform>En espera de %n trabajo más</numerusform>
+            <numerusform>En espera de otros %n trabajos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1982,10 +1991,6 @@
         <translation>Total: 1 hoja de papel</translation>
     </message>
     <message>
-        <source>Total: %1 sheets of paper</source>
-        <translation>Total: %1 hojas de papel</translation>
-    </message>
-    <message>
         <source>No pages are selected.</source>
         <translation>No hay ninguna página seleccionada.</translation>
     </message>
@@ -1998,12 +2003,22 @@
         <translation>%1, 1 página</translation>
     </message>
     <message>
-        <source>%1, %2 pages</source>
-        <translation>%1, %2 páginas</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n pages</source>
+        <translation>
+            <numerusform>%1, %n página</numerusform>
+            <numerusform>%1, %n páginas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Total: %n sheets of paper</source>
+        <translation>
+            <numerusform>Total: %n hoja de papel</numerusform>
+            <numerusform>Total: %n hojas de papel</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2218,12 +2233,15 @@
         <translation>1 trabajo en espera</translation>
     </message>
     <message>
-        <source>%1 jobs waiting</source>
-        <translation>%1 trabajos en espera</translation>
-    </message>
-    <message>
         <source>Save as PDF</source>
         <translation>Guardar como PDF</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs waiting</source>
+        <translation>
+            <numerusform>%n trabajo en espera</numerusform>
+            <numerusform>%n trabajos en espera</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -513,16 +513,19 @@
         <translation>1 copie</translation>
     </message>
     <message>
-        <source>%1 copies</source>
-        <translation>%1 copies</translation>
-    </message>
-    <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>
         <translation>Saisissez des numéros ou des plages de pages, par exemple 1-3, 5.</translation>
     </message>
     <message>
         <source>The document ends at page %1. Enter page numbers up to %1.</source>
         <translation>Le document se termine à la page %1. Saisissez des numéros de page jusqu’à %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n copie</numerusform>
+            <numerusform>%n copies</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1328,12 +1331,15 @@
         <translation>Mot de passe incorrect. Il reste un essai.</translation>
     </message>
     <message>
-        <source>Wrong password. You can try %1 more times.</source>
-        <translation>Mot de passe incorrect. Il reste %1 essais.</translation>
-    </message>
-    <message>
         <source>The document cannot be opened. Install qpdf to open it.</source>
         <translation>Le document ne peut pas être ouvert. Installez qpdf pour l’ouvrir.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Wrong password. You can try %n more times.</source>
+        <translation>
+            <numerusform>Mot de passe incorrect. Il reste %n essai.</numerusform>
+            <numerusform>Mot de passe incorrect. Il reste %n essais.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1625,10 +1631,6 @@
         <translation>En attente d’un autre travail</translation>
     </message>
     <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>En attente de %1 autres travaux</translation>
-    </message>
-    <message>
         <source>Held: the printer asks for a password</source>
         <translation>Retenu&#xa0;: l’imprimante demande un mot de passe</translation>
     </message>
@@ -1707,6 +1709,13 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>On ne sait pas si le travail est imprimé</translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for %n other jobs</source>
+        <translation>
+            <numerusform>En attente de %n autre travail</numerusform>
+            <numerusform>En attente de %n autres travaux</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1982,10 +1991,6 @@
         <translation>Total&#xa0;: 1 feuille de papier</translation>
     </message>
     <message>
-        <source>Total: %1 sheets of paper</source>
-        <translation>Total&#xa0;: %1 feuilles de papier</translation>
-    </message>
-    <message>
         <source>No pages are selected.</source>
         <translation>Aucune page n’est sélectionnée.</translation>
     </message>
@@ -1998,12 +2003,22 @@
         <translation>%1, 1 page</translation>
     </message>
     <message>
-        <source>%1, %2 pages</source>
-        <translation>%1, %2 pages</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n pages</source>
+        <translation>
+            <numerusform>%1, %n page</numerusform>
+            <numerusform>%1, %n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Total: %n sheets of paper</source>
+        <translation>
+            <numerusform>Total&#xa0;: %n feuille de papier</numerusform>
+            <numerusform>Total&#xa0;: %n feuilles de papier</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2218,12 +2233,15 @@
         <translation>1 travail en attente</translation>
     </message>
     <message>
-        <source>%1 jobs waiting</source>
-        <translation>%1 travaux en attente</translation>
-    </message>
-    <message>
         <source>Save as PDF</source>
         <translation>Enregistrer au format PDF</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs waiting</source>
+        <translation>
+            <numerusform>%n travail en attente</numerusform>
+            <numerusform>%n travaux en attente</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -513,16 +513,18 @@
         <translation>1 部</translation>
     </message>
     <message>
-        <source>%1 copies</source>
-        <translation>%1 部</translation>
-    </message>
-    <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>
         <translation>ページ番号または範囲を入力してください (例: 1-3, 5)。</translation>
     </message>
     <message>
         <source>The document ends at page %1. Enter page numbers up to %1.</source>
         <translation>文書は %1 ページまでです。%1 までのページ番号を入力してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n 部</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1327,12 +1329,14 @@
         <translation>パスワードが違います。あと 1 回入力できます。</translation>
     </message>
     <message>
-        <source>Wrong password. You can try %1 more times.</source>
-        <translation>パスワードが違います。あと %1 回入力できます。</translation>
-    </message>
-    <message>
         <source>The document cannot be opened. Install qpdf to open it.</source>
         <translation>文書を開けません。開くには qpdf をインストールしてください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Wrong password. You can try %n more times.</source>
+        <translation>
+            <numerusform>パスワードが違います。あと %n 回入力できます。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1624,10 +1628,6 @@
         <translation>ほかの 1 件のジョブを待っています</translation>
     </message>
     <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>ほかの %1 件のジョブを待っています</translation>
-    </message>
-    <message>
         <source>Held: the printer asks for a password</source>
         <translation>保留中: プリンターがパスワードを求めています</translation>
     </message>
@@ -1706,6 +1706,12 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>ジョブが印刷されたかどうか不明です</translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for %n other jobs</source>
+        <translation>
+            <numerusform>他の %n 件のジョブを待機中</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1981,10 +1987,6 @@
         <translation>合計: 用紙 1 枚</translation>
     </message>
     <message>
-        <source>Total: %1 sheets of paper</source>
-        <translation>合計: 用紙 %1 枚</translation>
-    </message>
-    <message>
         <source>No pages are selected.</source>
         <translation>ページが選択されていません。</translation>
     </message>
@@ -1997,12 +1999,20 @@
         <translation>%1、1 ページ</translation>
     </message>
     <message>
-        <source>%1, %2 pages</source>
-        <translation>%1、%2 ページ</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n pages</source>
+        <translation>
+            <numerusform>%1、%n ページ</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Total: %n sheets of paper</source>
+        <translation>
+            <numerusform>合計: 用紙 %n 枚</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2217,12 +2227,14 @@
         <translation>1 件のジョブが待機中</translation>
     </message>
     <message>
-        <source>%1 jobs waiting</source>
-        <translation>%1 件のジョブが待機中</translation>
-    </message>
-    <message>
         <source>Save as PDF</source>
         <translation>PDF として保存</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs waiting</source>
+        <translation>
+            <numerusform>%n 件のジョブが待機中</numerusform>
+        </translation>
     </message>
 </context>
 <context>

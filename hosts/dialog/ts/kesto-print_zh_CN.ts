@@ -513,16 +513,18 @@
         <translation>1 份</translation>
     </message>
     <message>
-        <source>%1 copies</source>
-        <translation>%1 份</translation>
-    </message>
-    <message>
         <source>Enter page numbers or ranges, for example 1-3, 5.</source>
         <translation>请输入页码或页码范围，例如 1-3, 5。</translation>
     </message>
     <message>
         <source>The document ends at page %1. Enter page numbers up to %1.</source>
         <translation>文档到第 %1 页为止。请输入不超过 %1 的页码。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n 份</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1327,12 +1329,14 @@
         <translation>密码错误。还可以尝试一次。</translation>
     </message>
     <message>
-        <source>Wrong password. You can try %1 more times.</source>
-        <translation>密码错误。还可以尝试 %1 次。</translation>
-    </message>
-    <message>
         <source>The document cannot be opened. Install qpdf to open it.</source>
         <translation>无法打开文档。请安装 qpdf 以打开。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Wrong password. You can try %n more times.</source>
+        <translation>
+            <numerusform>密码错误。还可以尝试 %n 次。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1624,10 +1628,6 @@
         <translation>正在等待另外 1 个作业</translation>
     </message>
     <message>
-        <source>Waiting for %1 other jobs</source>
-        <translation>正在等待另外 %1 个作业</translation>
-    </message>
-    <message>
         <source>Held: the printer asks for a password</source>
         <translation>已保留：打印机需要密码</translation>
     </message>
@@ -1706,6 +1706,12 @@
     <message>
         <source>It is not known whether the job is printed</source>
         <translation>无法确定作业是否已打印</translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for %n other jobs</source>
+        <translation>
+            <numerusform>正在等待其他 %n 个作业</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1981,10 +1987,6 @@
         <translation>总计：1 张纸</translation>
     </message>
     <message>
-        <source>Total: %1 sheets of paper</source>
-        <translation>总计：%1 张纸</translation>
-    </message>
-    <message>
         <source>No pages are selected.</source>
         <translation>未选择任何页面。</translation>
     </message>
@@ -1997,12 +1999,20 @@
         <translation>%1，1 页</translation>
     </message>
     <message>
-        <source>%1, %2 pages</source>
-        <translation>%1，%2 页</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n pages</source>
+        <translation>
+            <numerusform>%1，%n 页</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Total: %n sheets of paper</source>
+        <translation>
+            <numerusform>总计：%n 张纸</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2217,12 +2227,14 @@
         <translation>1 个作业正在等待</translation>
     </message>
     <message>
-        <source>%1 jobs waiting</source>
-        <translation>%1 个作业正在等待</translation>
-    </message>
-    <message>
         <source>Save as PDF</source>
         <translation>另存为 PDF</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs waiting</source>
+        <translation>
+            <numerusform>%n 个作业正在等待</numerusform>
+        </translation>
     </message>
 </context>
 <context>

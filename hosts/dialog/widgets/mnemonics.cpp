@@ -20,8 +20,11 @@ constexpr char exceptProperty[] = "withoutMnemonic";
 
 using Letters = QSet<QChar>;
 
+// What keyboards have as a key of its own: no letter that takes an accent first.
 bool isCandidate(QChar c) {
-  return c.isLetterOrNumber() && c.unicode() < 0x100;
+  const bool isPlainLetter = (c.script() == QChar::Script_Greek || c.script() == QChar::Script_Cyrillic) &&
+                             c.decompositionTag() == QChar::NoDecomposition;
+  return c.isLetterOrNumber() && (c.unicode() < 0x100 || isPlainLetter);
 }
 
 bool beginsWord(const QString& text, qsizetype place) {

@@ -120,7 +120,7 @@ QString QueueListModel::stateText(const QueueSummary& queue) {
   }
   if (!queue.location.isEmpty()) parts.append(queue.location);
   const int waiting = queue.state == u"processing" ? queue.jobs - 1 : queue.jobs;
-  if (waiting > 0) parts.append(waiting == 1 ? tr("1 job waiting") : tr("%1 jobs waiting").arg(waiting));
+  if (waiting > 0) parts.append(waiting == 1 ? tr("1 job waiting") : tr("%n jobs waiting", nullptr, waiting));
   return parts.join(QStringLiteral(" · "));
 }
 
