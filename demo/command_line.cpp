@@ -175,6 +175,7 @@ std::optional<int> parseDemoCommand(int argc, char** argv, DemoCommand* command)
                "kesto-demo-printer");
   addRun(app, arguments, *command);
   addCommands(app, arguments, *command);
+  addVersion(app);
   refuseFlagValues(app);
   const std::optional<int> ended = parse(app, argc, argv);
   wipeSecretArguments(argc, argv);

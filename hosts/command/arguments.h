@@ -9,9 +9,15 @@
 #include <string_view>
 #include <vector>
 
+#include "hosts/command/version.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
+
+/// Makes "--version" print the version, which ends the parsing as the help does.
+inline void addVersion(CLI::App& app) {
+  app.set_version_flag("--version", versionOf(app.get_name()), "print the version");
+}
 
 /// Lets no flag of the parser take a value: "--dry-run=no" would print nothing, or all, or the job.
 inline void refuseFlagValues(CLI::App& app) {

@@ -23,7 +23,7 @@ Shows the print dialog for the files, or for a document in standard input.
   --pane NAME               open this section: general, layout, job-handling, job, more or summary
   --screenshot FILE         write a picture of the dialog, and end
   --timings                 print how long the start took, and end
-  --help                    this text
+  --help, --version         this text, or the version
 
 Ends with 0 when the job was sent, 1 when it was not, 2 for a wrong command line.
 )";
@@ -60,6 +60,7 @@ class CommandLine {
         m_options.files.append(QByteArray::fromStdString(file));
     };
     m_app.add_option_function<std::vector<std::string>>("files", addFiles);
+    addVersion(m_app);
     refuseFlagValues(m_app);
   }
 
@@ -70,6 +71,8 @@ class CommandLine {
     } catch (const CLI::CallForHelp&) {
       std::cout << help;
       return 0;
+    } catch (const CLI::CallForVersion& version) {
+      return m_app.exit(version);
     } catch (const CLI::ParseError& error) {
       return failUsage("kesto-print", faultOf(m_app, error));
     }

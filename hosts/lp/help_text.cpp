@@ -41,7 +41,7 @@ constexpr char helpOfMemory[] =
   --save-preset NAME        keep the settings as a preset; the pass codes only
                             together with --with-codes
   --list-presets, --delete-preset NAME   do this alone, for -d or --ppd
-  --help                    print this text
+  --help, --version         print this text, or the version
 Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 still waiting.
 )";
 

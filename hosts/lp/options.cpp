@@ -90,6 +90,7 @@ CommandLine::CommandLine(Options& options) : m_options(options) {
   addMemory("--remember", true);
   addMemory("--forget", false);
   addPresets();
+  addVersion(m_app);
   refuseFlagValues(m_app);
   addWait();  // the only flag with a value
 }
@@ -280,6 +281,9 @@ std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
     fault = faultOfAll();
   } catch (const CLI::CallForHelp&) {
     std::cout << helpText();
+    return ExitDone;
+  } catch (const CLI::CallForVersion& version) {
+    m_app.exit(version);
     return ExitDone;
   } catch (const CLI::ParseError& error) {
     fault = QString::fromStdString(faultOf(m_app, error));

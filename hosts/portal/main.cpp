@@ -2,13 +2,27 @@
 #include <QtCore/QCoreApplication>
 #include <QtDBus/QDBusConnection>
 #include <cstdio>
+#include <string>
+#include <string_view>
 
+#include "hosts/command/version.h"
 #include "hosts/portal/service.h"
+
+namespace {
+
+constexpr char usage[] =
+    "Usage: kesto-portal [--help] [--version]\nA service that D-Bus starts; see kesto-portal(8).";
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   if (argc > 1) {
-    std::fputs("Usage: kesto-portal\nA service that D-Bus starts; see kesto-portal(8).\n", stderr);
+    const std::string_view option = argc == 2 ? argv[1] : "";
+    const bool isAsked = option == "--help" || option == "--version";
+    const std::string text = option == "--version" ? kesto::versionOf("kesto-portal") : usage;
+    std::fprintf(isAsked ? stdout : stderr, "%s\n", text.c_str());
+    if (isAsked) return std::fflush(stdout) == 0 ? 0 : 1;
     return 2;
   }
   QDBusConnection bus = QDBusConnection::sessionBus();

@@ -290,7 +290,7 @@ TEST_F(PortalServiceTest, AServiceThatCannotStartSaysWhy) {
     EXPECT_EQ(second.start().reason(), reason);
   }
   qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/such/bus");
-  DemoProcess used(m_folder, u"kesto-portal --help"_s);
+  DemoProcess used(m_folder, u"kesto-portal --no-such-option"_s);
   EXPECT_TRUE(used.code() == 2 && used.log().startsWith("Usage: kesto-portal\n")) << used.log();
   DemoProcess alone(m_folder, u"kesto-portal"_s);
   EXPECT_EQ(alone.code(), 1);

@@ -133,6 +133,7 @@ TEST_F(PrintTest, WhatCannotBePrintedOrReadIsAFault) {
            {"kesto-lp", u"--dry-run"_s + server},
            {"kesto-lp", m_folder.path(u"second"_s) + server},
            {"kesto-print", "--help"},
+           {"kesto-print", "--version"},
            {"kesto-panel", "--help"},
            {"kesto-panel", ""},
            {"kesto-demo-printer", "--help"},
