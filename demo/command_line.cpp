@@ -175,7 +175,7 @@ std::optional<int> parseDemoCommand(int argc, char** argv, DemoCommand* command)
                "kesto-demo-printer");
   addRun(app, arguments, *command);
   addCommands(app, arguments, *command);
-  addVersion(app);
+  addVersion(app, "kesto-demo-printer");
   refuseFlagValues(app);
   const std::optional<int> ended = parse(app, argc, argv);
   wipeSecretArguments(argc, argv);

@@ -15,8 +15,8 @@
 namespace kesto {
 
 /// Makes "--version" print the version, which ends the parsing as the help does.
-inline void addVersion(CLI::App& app) {
-  app.set_version_flag("--version", versionOf(app.get_name()), "print the version");
+inline void addVersion(CLI::App& app, const std::string& program) {
+  app.set_version_flag("--version", versionOf(program), "print the version");
 }
 
 /// Lets no flag of the parser take a value: "--dry-run=no" would print nothing, or all, or the job.

@@ -60,7 +60,7 @@ class CommandLine {
         m_options.files.append(QByteArray::fromStdString(file));
     };
     m_app.add_option_function<std::vector<std::string>>("files", addFiles);
-    addVersion(m_app);
+    addVersion(m_app, "kesto-print");
     refuseFlagValues(m_app);
   }
 

@@ -42,7 +42,7 @@ constexpr char helpOfMemory[] =
                             together with --with-codes
   --list-presets, --delete-preset NAME   do this alone, for -d or --ppd
   --help, --version         print this text, or the version
-Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 still waiting.
+Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.
 )";
 
 }  // namespace

@@ -90,7 +90,7 @@ CommandLine::CommandLine(Options& options) : m_options(options) {
   addMemory("--remember", true);
   addMemory("--forget", false);
   addPresets();
-  addVersion(m_app);
+  addVersion(m_app, "kesto-lp");
   refuseFlagValues(m_app);
   addWait();  // the only flag with a value
 }

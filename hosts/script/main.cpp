@@ -87,7 +87,7 @@ int run(int argc, char** argv) {
   app.add_flag("--no-constraint-handling", options.noConstraintHandling,
                "act as a host that handles no constraints");
   app.add_flag("--no-print-settings", options.noPrintSettings, "act as a host without print settings");
-  kesto::addVersion(app);
+  kesto::addVersion(app, "kesto-panel");
   try {
     app.parse(argc, argv);
   } catch (const CLI::Success& help) {
