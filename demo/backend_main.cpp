@@ -95,6 +95,8 @@ int fail(const char* reason) {
 int main(int argc, char** argv) {
   if (argc == 1) return CUPS_BACKEND_OK;  // Asked to list devices: there are none.
   if (argc != 6 && argc != 7) return fail("usage: socket JOB USER TITLE COPIES OPTIONS [FILE]");
+  // The backend of a job that was canceled did not see the end of its printer's fault.
+  std::fputs("STATE: -media-empty-error,media-jam-error\n", stderr);
   const char* uri = cupsBackendDeviceURI(argv);
   const Descriptor printer = uri == nullptr ? Descriptor() : connectTo(uri);
   if (!printer) return fail("cannot reach the printer");

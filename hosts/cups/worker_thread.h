@@ -37,8 +37,8 @@ class WorkerThread {
   }
 
  private:
-  // A dialog has two such threads and must end within a second.
-  static constexpr unsigned long patience = 200;  // in milliseconds
+  // A dialog has three such threads and must end within a second.
+  static constexpr unsigned long patience = 150;  // in milliseconds
 
   struct Parts {
     QThread thread;

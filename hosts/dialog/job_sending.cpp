@@ -66,6 +66,20 @@ void JobSending::save(const PageSequence& pages, const QString& target) {
   m_saving.save(pages, target);
 }
 
+void JobSending::follow(const ServerAddress& server, const QString& queue, const PrinterHold& hold) {
+  m_watch = std::make_unique<JobWatch>(server, SentJob{.queue = queue, .number = m_job}, hold);
+  connect(m_watch.get(), &JobWatch::changed, this, [this] {
+    if (fate().isEnd && !fate().isSuccess()) setPhase(Phase::Choosing);
+    Q_EMIT fateChanged();
+  });
+  connect(m_watch.get(), &JobWatch::cancelFailed, this,
+          [this](const QString& reason) { Q_EMIT cancelFailed(asSentence(reason)); });
+}
+
+void JobSending::cancelJob() {
+  if (m_watch) m_watch->cancel();
+}
+
 void JobSending::stop() {
   m_client.stopSending();
   m_saving.stop();

@@ -1,16 +1,17 @@
-// The way of a print dialog's job from the press of Print to the print server.
+// The way of a print dialog's job from the press of Print to its end.
 #pragma once
 
 #include "hosts/cups/queue_client.h"
 #include "hosts/dialog/document.h"
 #include "hosts/dialog/pdf_saving.h"
+#include "hosts/session/job_watch.h"
 
 namespace kesto {
 
 class Preview;
 
-/// Waits for a document that is still read or looked at, then has the job sent. One job at a time, and one
-/// success.
+/// Waits for a document that is still read or looked at, has the job sent, and follows it. One job at a time.
+/// After one that is not printed there can be another.
 class JobSending : public QObject {
   Q_OBJECT
 
@@ -19,7 +20,7 @@ class JobSending : public QObject {
     Choosing,  ///< No job is under way.
     Waiting,   ///< Print is pressed, and the document is not ready yet.
     Sending,
-    Sent,
+    Sent,  ///< And followed.
   };
 
   /// `preview` shows `document`. All three must outlive this object.
@@ -28,6 +29,8 @@ class JobSending : public QObject {
   Phase phase() const { return m_phase; }
   /// The job's number once it is sent, else 0.
   int job() const { return m_job; }
+  /// What has become of the job that is followed.
+  const JobFate& fate() const { return m_watch->fate(); }
 
   /// Print is pressed: the document is read to its end. `ready` or `failed` follows, at once where that is
   /// possible.
@@ -39,6 +42,10 @@ class JobSending : public QObject {
   void send(const QString& queue, const PrintJob& job);
   /// Saves pages in its place, under a path; `sent` follows without a number, or `failed`.
   void save(const PageSequence& pages, const QString& target);
+  /// Follows the job that was sent to the queue, held at the printer as its settings say.
+  void follow(const ServerAddress& server, const QString& queue, const PrinterHold& hold);
+  /// Cancels the job that is followed.
+  void cancelJob();
   /// The job does not go out.
   void fail(const QString& reason);
   /// Stops a job that is being sent; it then fails.
@@ -50,6 +57,9 @@ class JobSending : public QObject {
   void ready();
   void sent(int job);
   void failed(const QString& reason);
+  /// Something has become of the job that is followed; it is at its end, or the phase is still `Sent`.
+  void fateChanged();
+  void cancelFailed(const QString& reason);
 
  private:
   void setPhase(Phase phase);
@@ -63,6 +73,7 @@ class JobSending : public QObject {
   Phase m_phase = Phase::Choosing;
   qsizetype m_faultsShown = 0;  // of the document, when Print was pressed
   int m_job = 0;
+  std::unique_ptr<JobWatch> m_watch;
 };
 
 }  // namespace kesto

@@ -21,11 +21,6 @@
 #include "platform/shown_text.h"
 
 namespace kesto {
-namespace {
-
-constexpr std::chrono::milliseconds farewell(2500);  // the last message stays that long
-
-}  // namespace
 
 PrintDialog::PrintDialog(const PrintOptions& options, Document& document)
     : m_options(options),
@@ -255,32 +250,6 @@ void PrintDialog::send() {
   m_sending.send(m_session.queue()->id, job);
 }
 
-void PrintDialog::takeSent(int job) {
-  const bool isRemembered = bool(m_session.remember());
-  if (!m_opening.isPdf()) (void)m_session.keepChoice();  // a convenience
-  const QString text = isRemembered ? tr("Job %1 was sent to %2.")
-                                    : tr("Job %1 was sent to %2. Its entries could not be remembered.");
-  showMessage(m_opening.isPdf() ? tr("Saved as %1.").arg(shownText(m_target))
-                                : text.arg(job).arg(m_session.queue()->id));
-  if (!isVisible()) return accept();
-  QTimer::singleShot(farewell, this, &QDialog::accept);
-}
-
-void PrintDialog::takeSendFailure(const QString& reason) {
-  show();  // the user may believe it printed
-  raise();
-  activateWindow();
-  showFault(m_opening.isPdf() ? reason : tr("The job was not printed. %1").arg(reason));
-  m_unlocking.ask();
-}
-
-void PrintDialog::showPhase() {
-  const JobSending::Phase phase = m_sending.phase();
-  m_foot->showProgress(phase == JobSending::Phase::Sending);
-  if (phase == JobSending::Phase::Sent) m_foot->offerClose();
-  updateControls();
-}
-
 // Null for none.
 OptionPane* PrintDialog::faultyPane() const {
   const auto found =
@@ -333,16 +302,6 @@ void PrintDialog::updateControls() {
 void PrintDialog::done(int result) {
   keepLooks();
   QDialog::done(result);
-}
-
-void PrintDialog::reject() {
-  if (m_sending.phase() == JobSending::Phase::Sending) {
-    m_sending.stop();
-    return showMessage(tr("Canceling the job…"));
-  }
-  if (m_sending.phase() == JobSending::Phase::Sent) return accept();
-  m_opening.leave();
-  QDialog::reject();
 }
 
 }  // namespace kesto

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "hosts/dialog/desktop_notice.h"
 #include "hosts/dialog/dialog_memory.h"
 #include "hosts/dialog/document.h"
 #include "hosts/dialog/document_unlocking.h"
@@ -32,7 +33,8 @@ class SectionColumn;
 class SummaryPane;
 
 /// The dialog for one document: choose a queue, its options and the panel's entries, and print. It asks the
-/// print server from its first painting on, and is accepted when the job is sent.
+/// print server from its first painting on, follows the job, and is accepted when that is printed, or when
+/// the user leaves it alone.
 class PrintDialog : public QDialog {
   Q_OBJECT
 
@@ -111,6 +113,14 @@ class PrintDialog : public QDialog {
   void send();
   void takeSent(int job);
   void takeSendFailure(const QString& reason);
+  void takeLeave();
+  void showFate();
+  void offer(const QString& button, const QString& text, MessageBar::Kind kind, std::function<void()> act);
+  void offerCancel(const QString& text, MessageBar::Kind kind);
+  void printAgain();
+  void announce(const QString& text);
+  void comeForward();
+  void takeDismissal();
   void showPhase();
   void showMessage(const QString& message, MessageBar::Kind kind = MessageBar::Kind::Note);
   void showFault(const QString& fault) { showMessage(fault, MessageBar::Kind::Fault); }
@@ -134,6 +144,7 @@ class PrintDialog : public QDialog {
   bool m_isSuggested = false;    // the queue, by what was printed before
   QString m_target;              // the file, where none is printed
   OptionConflict m_choiceFault;  // or a pane's fault without a remedy, while the message shows it
+  bool m_isRemembered = true;    // what the last job had
   Preview* m_preview;
   QueueChooser* m_chooser;
   PresetMenu* m_presets = nullptr;
@@ -154,6 +165,7 @@ class PrintDialog : public QDialog {
   QueueOpening m_opening;
   JobSending m_sending;
   DocumentUnlocking m_unlocking;
+  DesktopNotice m_notice;
 };
 
 }  // namespace kesto

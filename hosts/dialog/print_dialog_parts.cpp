@@ -100,6 +100,12 @@ void PrintDialog::connectParts() {
   connect(&m_sending, &JobSending::ready, this, &PrintDialog::send);
   connect(&m_sending, &JobSending::sent, this, &PrintDialog::takeSent);
   connect(&m_sending, &JobSending::failed, this, &PrintDialog::takeSendFailure);
+  connect(&m_sending, &JobSending::fateChanged, this, &PrintDialog::showFate);
+  connect(&m_sending, &JobSending::cancelFailed, this,
+          [this](const QString& reason) { offerCancel(reason, MessageBar::Kind::Fault); });
+  connect(&m_notice, &DesktopNotice::actionPressed, this, &PrintDialog::comeForward);
+  connect(&m_notice, &DesktopNotice::dismissed, this, &PrintDialog::takeDismissal);
+  connect(&m_notice, &DesktopNotice::unavailable, this, &PrintDialog::comeForward);
 }
 
 // The list is brought up to date before the wanted queue is looked up in it.

@@ -78,7 +78,7 @@ Outcome DialogSession::print(const QString& title, int document, std::unique_ptr
 }
 
 bool DialogSession::isOf(const QString& client, const QString& appId) const {
-  return m_ticket.client == client || (!appId.isEmpty() && m_ticket.appId == appId);
+  return !m_hasPrinted && (m_ticket.client == client || (!appId.isEmpty() && m_ticket.appId == appId));
 }
 
 bool DialogSession::waitsFor(quint32 token, const QString& client) const {
@@ -132,6 +132,7 @@ void DialogSession::end(Response response) {
   m_expiry.stop();
   m_settling.stop();
   m_state = State::Ended;
+  m_hasPrinted = response == Response::Done;
   answer(response);
 }
 

@@ -39,7 +39,8 @@ class DialogSession : public QObject {
   Outcome print(const QString& title, int document, std::unique_ptr<PortalRequest>* request);
 
   quint32 token() const { return m_ticket.token; }
-  /// Whether the dialog belongs to this client or to the same application.
+  /// Whether the dialog belongs to this client or to the same application, and does not merely follow its
+  /// job.
   bool isOf(const QString& client, const QString& appId) const;
   /// Whether the dialog waits for the document of this client's token.
   bool waitsFor(quint32 token, const QString& client) const;
@@ -64,6 +65,7 @@ class DialogSession : public QObject {
   QDBusConnection m_bus;
   Ticket m_ticket;
   State m_state = State::Choosing;
+  bool m_hasPrinted = false;  // the dialog is left with the job
   DialogProcess m_dialog;
   QDBusServiceWatcher m_clientWatcher;
   QTimer m_expiry;

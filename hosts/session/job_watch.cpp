@@ -50,13 +50,15 @@ QString stoppingReason(const QStringList& keywords) {
   return found == keywords.end() ? QString() : *found;
 }
 
+// A printer that is paused may still have the reasons of an earlier job.
 JobFate stoppedByPrinter(const JobReport& report, const QString& reason) {
+  const QString paused = QStringLiteral("paused");
   JobFate fate{.state = State::Stopped, .message = report.printerMessage, .reason = reason};
-  if (!reason.isNull()) {
-    fate.text = JobWatch::tr("Stopped: %1").arg(printerReasons({reason}).front().text);
-  } else if (report.printerReasons.contains(QStringLiteral("paused"))) {
-    fate.reason = QStringLiteral("paused");
+  if (report.isPrinterStopped && report.printerReasons.contains(paused)) {
+    fate.reason = paused;
     fate.text = JobWatch::tr("Stopped: the printer is paused");
+  } else if (!reason.isNull()) {
+    fate.text = JobWatch::tr("Stopped: %1").arg(printerReasons({reason}).front().text);
   } else {
     fate.text = JobWatch::tr("Stopped");
   }

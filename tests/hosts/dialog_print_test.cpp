@@ -54,7 +54,7 @@ TEST_F(DialogPrint, AWholeJobIsDoneThroughAssistiveTechnologyAlone) {
   EXPECT_EQ(m_dialog->jobOptions().value(u"copies"_s), u"2"_s);
   act(u"print"_s, QAccessibleActionInterface::pressAction());
   awaitJob(1);
-  EXPECT_EQ(text(u"message"_s), u"Job 1 was sent to Office_MFP."_s);
+  awaitMessage(u"Job 1: Printed, and kept at Office_MFP for printing again."_s);
   forEachValue(u"jobSuspend=1 userNumber=00042 jobName=506C616E holdButton=64"_s,
                [this](const QString& name, const QString& value) {
                  EXPECT_EQ(m_dialog->jobSettings().value(u"kesto.print.PrintSettings."_s + name), value);
@@ -182,6 +182,37 @@ TEST_F(DialogPrint, CancelStopsAJobThatIsGoingOut) {
         u"the end"_s);
   EXPECT_TRUE(widget(u"print"_s)->isEnabled());
   EXPECT_EQ(m_printer->jobs(), "[]");
+}
+
+TEST_F(DialogPrint, AJobIsFollowedToItsEnd) {
+  startPrinter({u"--jam"_s});
+  m_options.server.limit = std::chrono::seconds(1);
+  openReady();
+  const auto press = [this](const QString& label) {
+    EXPECT_EQ(plainText(*widget(u"messageButton"_s)), label);
+    click(u"messageButton"_s);
+  };
+  click(u"print"_s);
+  awaitMessage(u"Job 1: Stopped: Paper jam (Remove the paper from tray 1)."_s);
+  EXPECT_FALSE(widget(u"copies"_s)->isEnabled());
+  press(u"Cancel job"_s);
+  awaitMessage(u"Job 1: Canceled by %1."_s.arg(QString::fromUtf8(cupsUser())));
+  m_printer->setFault(u"none"_s);
+  press(u"Print again"_s);
+  awaitMessage(u"Job 2: Printed."_s);
+  await([this] { return !m_dialog->isVisible(); }, u"the end of the dialog"_s);
+  EXPECT_EQ(m_dialog->result(), QDialog::Accepted);
+
+  m_printer->setFault(u"paused"_s);
+  openReady();
+  click(u"print"_s);
+  awaitMessage(u"Job 3: Stopped: the printer is paused (Paused for maintenance)."_s);
+  m_printer.reset();
+  await(
+      [this] {
+        return text(u"message"_s).startsWith(u"Job 3: It is not known whether the job is printed"_s);
+      },
+      u"the loss of the server"_s);
 }
 
 TEST_F(DialogPrint, ADocumentIsChosenInTheDialog) {

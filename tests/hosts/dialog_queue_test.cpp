@@ -214,7 +214,7 @@ TEST_F(DialogPrint, AQueueWithoutThePanelPrintsWithItsOwnOptions) {
   EXPECT_TRUE(DialogUser(*m_dialog).choose(u"Duplex"_s, 1));
   click(u"print"_s);
   awaitJob(1);
-  EXPECT_EQ(text(u"message"_s), u"Job 1 was sent to Office_MFP_0002."_s);
+  awaitMessage(u"Job 1: Printed."_s);
   EXPECT_TRUE(m_dialog->jobSettings().isEmpty()) << "of the panel of the queue before";
 }
 

@@ -1,5 +1,6 @@
 // What becomes of a job after it is sent: in words, and on the real scheduler with kesto-lp --wait.
 #include "hosts/session/job_watch.h"
+#include "tests/support/hostile_server.h"
 #include "tests/support/print_program.h"
 
 namespace kesto::test {
@@ -32,6 +33,34 @@ TEST(JobFateTest, IsSaidInTheUsersTerms) {
     });
     const JobFate fate = fateOf(report, u"q"_s, PrinterHold::of(sent));
     EXPECT_EQ((fate.isEnd && !fate.isSuccess() ? u"!"_s : u""_s) + fate.line(), line);
+  }
+}
+
+TEST_F(LpTest, AWaitEndsWhateverTheServerDoes) {
+  const auto answered = [](const QByteArray& bytes) {
+    return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(bytes.size()) + "\r\n\r\n" + bytes;
+  };
+  const std::pair<Misbehaviour, Text> misbehaviours[] = {
+      {{}, "did not answer within 0.3 s"},
+      {{.closes = true}, "closed the connection"},
+      {{answered("x"), {}, {}, true}, "cannot read the print server's answer"},
+      {{answered("\2\0\4\6\0\0\0\1\3"_ba), {}, {}, true}, ""},  // not found
+  };
+  for (const int operation : {IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS, IPP_OP_GET_NOTIFICATIONS,
+                              IPP_OP_GET_JOB_ATTRIBUTES, IPP_OP_GET_JOBS}) {
+    for (const auto& [misbehaviour, fault] : misbehaviours) {
+      const HostileServer server(operation, misbehaviour);
+      const LpRun lp = run(u"-h %1 --timeout 0.3 --wait=3 -d q %2"_s.arg(server.address(), m_ppd.path()));
+      // Without events the job itself is asked for, and a printer may have no other jobs.
+      const bool isHarmless = operation == IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS ||
+                              (operation == IPP_OP_GET_JOBS && fault.isEmpty());
+      EXPECT_TRUE(server.hasMisbehaved());
+      EXPECT_EQ(lp.code, isHarmless ? 4 : 1) << operation << lp.err;
+      EXPECT_TRUE(lp.err.contains(isHarmless ? u": Waiting for the printer"_s
+                                             : u": It is not known whether the job is printed ("_s) &&
+                  (isHarmless || lp.err.contains(fault)))
+          << operation << lp.err;
+    }
   }
 }
 

@@ -1,6 +1,10 @@
 // The dialog of kesto-print --portal: what it says to its service, what ends it, and what is printed then.
 #include <fcntl.h>
 
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
+#include <QtDBus/QDBusVirtualObject>
+
 #include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/portal_print.h"
 #include "hosts/dialog/widgets/plain_text.h"
@@ -193,6 +197,51 @@ TEST_F(PortalDialog, OptionsOfTheQueueComeFromTheClientAndGoBackToIt) {
       [&](const QString& name, const QString& value) { EXPECT_EQ(back[name], value) << name; });
   say(u"close"_s);
   awaitEnd();
+}
+
+// The desktop's notifications on a private bus.
+class Notifications : public QDBusVirtualObject {
+ public:
+  explicit Notifications(const QString& address)
+      : m_bus(QDBusConnection::connectToBus(address, u"notifications"_s)) {
+    EXPECT_TRUE(m_bus.registerVirtualObject(u"/org/freedesktop/Notifications"_s, this));
+    EXPECT_TRUE(m_bus.registerService(u"org.freedesktop.Notifications"_s));
+  }
+  QString introspect(const QString& /*path*/) const override { return {}; }
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& /*connection*/) override {
+    text = message.arguments().value(4).toString();
+    return m_bus.send(message.createReply(quint32(7)));
+  }
+  void press() {
+    QDBusMessage pressed = QDBusMessage::createSignal(u"/org/freedesktop/Notifications"_s,
+                                                      u"org.freedesktop.Notifications"_s, u"ActionInvoked"_s);
+    pressed << quint32(7) << u"show"_s;
+    m_bus.send(pressed);
+  }
+  QString text;
+
+ private:
+  QDBusConnection m_bus;
+};
+
+TEST_F(PortalDialog, AFailureOutOfSightComesAsANotification) {
+  DemoProcess bus(m_folder, u"dbus-daemon --session --nofork --print-address"_s);
+  const QByteArray address = bus.readOutLine().trimmed();
+  qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+  Notifications notifications(QString::fromLatin1(address));
+  startPrinter({u"--no-paper"_s});
+  open(false);
+  pressPrint();
+  awaitAnswers(u"chosen "_s);
+  print(u"report.pdf"_s);
+  await([&] { return notifications.text == u"Job 1: Stopped: Out of paper (Load A4 paper into tray 1)."_s; },
+        u"the notification"_s);
+  EXPECT_FALSE(window()->isVisible());
+  notifications.press();
+  await([] { return window()->isVisible(); }, u"the dialog"_s);
+  m_printer->setFault(u"none"_s);
+  awaitEnd();
+  EXPECT_EQ(m_answers, u"chosen taken "_s);
 }
 
 TEST_F(PortalDialog, ComesBackWithTheReasonWhenThereIsNothingToPrint) {

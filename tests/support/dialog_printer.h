@@ -100,6 +100,9 @@ class DialogPrint : public testing::Test {
     await([this] { return m_dialog->job() > 0; }, u"the job"_s);
     m_printer->waitForLog("job " + QByteArray::number(number) + " from ");
   }
+  void awaitMessage(const QString& message) {
+    await([&] { return text(u"message"_s) == message; }, message);
+  }
   QByteArray printout(int job, int document = 1) const {
     return bytesOf(m_printer->place(u"output"_s) + u"/job-%1-%2"_s.arg(job).arg(document));
   }

@@ -23,8 +23,8 @@ struct Misbehaviour {
   bool closes = false;                 ///< instead of staying open
 };
 
-/// Answers IPP requests correctly, with a job's number, except for one operation; to requests without its
-/// password it answers that it wants one.
+/// Answers IPP requests correctly, with a pending job and a subscription, except for one operation; to
+/// requests without its password it answers that it wants one.
 class HostileServer {
  public:
   static constexpr int atNothing = -2;
@@ -123,7 +123,9 @@ class HostileServer {
         continue;
       }
       using namespace Qt::StringLiterals;
-      const QByteArray reply = "\2\0\0\0"_ba + bytes.mid(4, 4) + "\2\x21\0\6job-id\0\4\0\0\0\1\3"_ba;
+      const QByteArray reply = "\2\0\0\0"_ba + bytes.mid(4, 4) +
+                               "\2\x21\0\6job-id\0\4\0\0\0\1\x23\0\x09job-state\0\4\0\0\0\3"
+                               "\6\x21\0\x16notify-subscription-id\0\4\0\0\0\1\3"_ba;
       bytes.remove(0, length);
       if (!sendAll(client, "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(reply.size()) +
                                "\r\n\r\n" + reply))

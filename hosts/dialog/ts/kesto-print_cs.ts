@@ -2086,10 +2086,6 @@
         <translation>Úloha %1 byla odeslána na %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>Úloha %1 byla odeslána na %2. Její údaje nebylo možné zapamatovat.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>Uloženo jako %1.</translation>
     </message>
@@ -2128,6 +2124,26 @@
     <message>
         <source>Not held</source>
         <translation>Bez podržení</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Úloha %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Její údaje nebylo možné zapamatovat.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Vytisknout znovu</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Zrušit úlohu</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zobrazit</translation>
     </message>
 </context>
 <context>

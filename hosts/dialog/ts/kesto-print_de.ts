@@ -2080,10 +2080,6 @@
         <translation>Auftrag %1 wurde an %2 gesendet.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>Auftrag %1 wurde an %2 gesendet. Seine Einträge konnten nicht gemerkt werden.</translation>
-    </message>
-    <message>
         <source>The job was not printed. %1</source>
         <translation>Der Auftrag wurde nicht gedruckt. %1</translation>
     </message>
@@ -2122,6 +2118,26 @@
     <message>
         <source>This printer does not support %1 of the preset. The rest is set.</source>
         <translation>Dieser Drucker unterstützt %1 aus der Voreinstellung nicht. Das Übrige ist eingestellt.</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Auftrag %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Seine Einträge konnten nicht gemerkt werden.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Erneut drucken</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
     </message>
 </context>
 <context>

@@ -2080,10 +2080,6 @@
         <translation>Η εργασία %1 στάλθηκε στον %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>Η εργασία %1 στάλθηκε στον %2. Δεν ήταν δυνατή η αποθήκευση των τιμών της.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>Αποθηκεύτηκε ως %1.</translation>
     </message>
@@ -2122,6 +2118,26 @@
     <message>
         <source>Not held</source>
         <translation>Χωρίς κράτηση</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Εργασία %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Δεν ήταν δυνατή η αποθήκευση των τιμών της.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Εκτύπωση ξανά</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Ακύρωση εργασίας</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Εμφάνιση</translation>
     </message>
 </context>
 <context>

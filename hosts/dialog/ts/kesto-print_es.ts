@@ -2080,10 +2080,6 @@
         <translation>El trabajo %1 se ha enviado a %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>El trabajo %1 se ha enviado a %2. Sus datos no se han podido recordar.</translation>
-    </message>
-    <message>
         <source>The job was not printed. %1</source>
         <translation>El trabajo no se ha impreso. %1</translation>
     </message>
@@ -2122,6 +2118,26 @@
     <message>
         <source>This printer does not support %1 of the preset. The rest is set.</source>
         <translation>Esta impresora no admite %1 del preajuste. El resto se ha aplicado.</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Trabajo %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>No se pudieron recordar sus datos.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Volver a imprimir</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Cancelar el trabajo</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
     </message>
 </context>
 <context>

@@ -2080,10 +2080,6 @@
         <translation>Le travail %1 a été envoyé à %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>Le travail %1 a été envoyé à %2. Ses saisies n’ont pas pu être mémorisées.</translation>
-    </message>
-    <message>
         <source>The job was not printed. %1</source>
         <translation>Le travail n’a pas été imprimé. %1</translation>
     </message>
@@ -2122,6 +2118,26 @@
     <message>
         <source>This printer does not support %1 of the preset. The rest is set.</source>
         <translation>Cette imprimante ne prend pas en charge %1 du préréglage. Le reste est appliqué.</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Travail %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Ses saisies n’ont pas pu être mémorisées.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Imprimer à nouveau</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Annuler le travail</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
     </message>
 </context>
 <context>

@@ -2074,10 +2074,6 @@
         <translation>%1. feladat elküldve ide: %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>%1. feladat elküldve ide: %2. Az adatait nem sikerült megjegyezni.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>Mentve mint %1.</translation>
     </message>
@@ -2116,6 +2112,26 @@
     <message>
         <source>Not held</source>
         <translation>Nincs visszatartva</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>%1. feladat: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Az adatait nem sikerült megjegyezni.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Nyomtatás újra</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Feladat megszakítása</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Megjelenítés</translation>
     </message>
 </context>
 <context>

@@ -2080,10 +2080,6 @@
         <translation>Il lavoro %1 è stato inviato a %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>Il lavoro %1 è stato inviato a %2. Impossibile memorizzare i suoi dati.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>Salvato come %1.</translation>
     </message>
@@ -2122,6 +2118,26 @@
     <message>
         <source>Not held</source>
         <translation>Non trattenuto</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Lavoro %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Impossibile memorizzare i suoi dati.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Stampa di nuovo</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Annulla il lavoro</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostra</translation>
     </message>
 </context>
 <context>

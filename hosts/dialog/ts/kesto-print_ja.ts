@@ -2074,10 +2074,6 @@
         <translation>ジョブ %1 を %2 に送信しました。</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>ジョブ %1 を %2 に送信しました。入力内容は記憶できませんでした。</translation>
-    </message>
-    <message>
         <source>The job was not printed. %1</source>
         <translation>ジョブは印刷されませんでした。%1</translation>
     </message>
@@ -2116,6 +2112,26 @@
     <message>
         <source>This printer does not support %1 of the preset. The rest is set.</source>
         <translation>このプリンターはプリセットの %1 に対応していません。その他は設定されました。</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>ジョブ %1: %2。</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>入力内容を保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>もう一度印刷</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>ジョブをキャンセル</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
     </message>
 </context>
 <context>

@@ -2074,10 +2074,6 @@
         <translation>작업 %1을(를) %2(으)로 보냈습니다.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>작업 %1을(를) %2(으)로 보냈습니다. 작업의 항목을 기억할 수 없었습니다.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>%1(으)로 저장했습니다.</translation>
     </message>
@@ -2116,6 +2112,26 @@
     <message>
         <source>Not held</source>
         <translation>보류 안 함</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>작업 %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>작업의 항목을 기억할 수 없었습니다.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>다시 인쇄</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>작업 취소</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>보기</translation>
     </message>
 </context>
 <context>

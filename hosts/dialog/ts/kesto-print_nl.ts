@@ -2080,10 +2080,6 @@
         <translation>Taak %1 is naar %2 verzonden.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>Taak %1 is naar %2 verzonden. De gegevens konden niet worden onthouden.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>Opgeslagen als %1.</translation>
     </message>
@@ -2122,6 +2118,26 @@
     <message>
         <source>Not held</source>
         <translation>Niet vastgehouden</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Taak %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>De gegevens konden niet worden onthouden.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Opnieuw afdrukken</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Taak annuleren</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Tonen</translation>
     </message>
 </context>
 <context>

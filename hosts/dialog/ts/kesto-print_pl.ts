@@ -2086,10 +2086,6 @@
         <translation>Zadanie %1 wysłano do %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>Zadanie %1 wysłano do %2. Nie można było zapamiętać jego wartości.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>Zapisano jako %1.</translation>
     </message>
@@ -2128,6 +2124,26 @@
     <message>
         <source>Not held</source>
         <translation>Bez wstrzymania</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Zadanie %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Nie można było zapamiętać jego wartości.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Drukuj ponownie</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Anuluj zadanie</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Pokaż</translation>
     </message>
 </context>
 <context>

@@ -2080,10 +2080,6 @@
         <translation>O trabalho %1 foi enviado para %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>O trabalho %1 foi enviado para %2. Não foi possível memorizar os dados dele.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>Salvo como %1.</translation>
     </message>
@@ -2122,6 +2118,26 @@
     <message>
         <source>Not held</source>
         <translation>Não retido</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Trabalho %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Não foi possível memorizar os dados dele.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Imprimir novamente</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Cancelar o trabalho</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
     </message>
 </context>
 <context>

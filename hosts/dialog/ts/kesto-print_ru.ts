@@ -2086,10 +2086,6 @@
         <translation>Задание %1 отправлено на %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>Задание %1 отправлено на %2. Его значения не удалось запомнить.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>Сохранено как %1.</translation>
     </message>
@@ -2128,6 +2124,26 @@
     <message>
         <source>Not held</source>
         <translation>Не удерживается</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Задание %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Его значения не удалось запомнить.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Печатать снова</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Отменить задание</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Показать</translation>
     </message>
 </context>
 <context>

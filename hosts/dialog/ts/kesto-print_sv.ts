@@ -2080,10 +2080,6 @@
         <translation>Jobb %1 har skickats till %2.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>Jobb %1 har skickats till %2. Dess uppgifter kunde inte sparas.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>Sparad som %1.</translation>
     </message>
@@ -2122,6 +2118,26 @@
     <message>
         <source>Not held</source>
         <translation>Hålls inte kvar</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Jobb %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Dess uppgifter kunde inte sparas.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Skriv ut igen</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>Avbryt jobbet</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Visa</translation>
     </message>
 </context>
 <context>

@@ -2074,10 +2074,6 @@
         <translation>%1 numaralı iş %2 yazıcısına gönderildi.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>%1 numaralı iş %2 yazıcısına gönderildi. Değerleri hatırlanamadı.</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>%1 olarak kaydedildi.</translation>
     </message>
@@ -2116,6 +2112,26 @@
     <message>
         <source>Not held</source>
         <translation>Bekletilmiyor</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>İş %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>Değerleri hatırlanamadı.</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>Yeniden yazdır</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>İşi iptal et</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Göster</translation>
     </message>
 </context>
 <context>

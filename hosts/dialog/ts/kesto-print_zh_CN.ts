@@ -2074,10 +2074,6 @@
         <translation>作业 %1 已发送到 %2。</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>作业 %1 已发送到 %2。无法记住输入的内容。</translation>
-    </message>
-    <message>
         <source>The job was not printed. %1</source>
         <translation>作业未打印。%1</translation>
     </message>
@@ -2116,6 +2112,26 @@
     <message>
         <source>This printer does not support %1 of the preset. The rest is set.</source>
         <translation>此打印机不支持预设中的 %1。其余设置已应用。</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>作业 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>无法记住其输入内容。</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>再次打印</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>取消作业</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
     </message>
 </context>
 <context>

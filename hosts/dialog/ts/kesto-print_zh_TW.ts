@@ -2074,10 +2074,6 @@
         <translation>工作 %1 已傳送到 %2。</translation>
     </message>
     <message>
-        <source>Job %1 was sent to %2. Its entries could not be remembered.</source>
-        <translation>工作 %1 已傳送到 %2。無法記住輸入的內容。</translation>
-    </message>
-    <message>
         <source>Saved as %1.</source>
         <translation>已儲存為 %1。</translation>
     </message>
@@ -2116,6 +2112,26 @@
     <message>
         <source>Not held</source>
         <translation>不保留</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>工作 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Its entries could not be remembered.</source>
+        <translation>無法記住輸入的內容。</translation>
+    </message>
+    <message>
+        <source>Print again</source>
+        <translation>再次列印</translation>
+    </message>
+    <message>
+        <source>Cancel job</source>
+        <translation>取消工作</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>顯示</translation>
     </message>
 </context>
 <context>

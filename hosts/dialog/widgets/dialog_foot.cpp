@@ -67,8 +67,8 @@ void DialogFoot::setProgress(qint64 sent, qint64 total) {
   if (total > 0) m_progress->setValue(static_cast<int>(steps * sent / total));
 }
 
-void DialogFoot::offerClose() {
-  setPlainText(*m_buttons->button(QDialogButtonBox::Cancel), tr("Close"));
+void DialogFoot::offerClose(bool isOffered) {
+  setPlainText(*m_buttons->button(QDialogButtonBox::Cancel), isOffered ? tr("Close") : tr("Cancel"));
 }
 
 }  // namespace kesto

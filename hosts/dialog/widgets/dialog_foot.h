@@ -27,8 +27,8 @@ class DialogFoot : public QWidget {
   void showProgress(bool isShown);
   /// Shows how many bytes of a document were sent; the total is -1 when unknown.
   void setProgress(qint64 sent, qint64 total);
-  /// There is nothing left to cancel.
-  void offerClose();
+  /// Whether there is nothing left to cancel.
+  void offerClose(bool isOffered);
 
  Q_SIGNALS:
   void printPressed();
