@@ -6,6 +6,7 @@
 
 #include "hosts/session/job_option_values.h"
 #include "hosts/session/option_offer.h"
+#include "hosts/session/standard_texts.h"
 
 namespace kesto {
 namespace {
@@ -71,9 +72,12 @@ QString settingFor(const Setting& row, const JobOptions& options) {
   const QString choice = options.value(option);
   if (qstrcmp(row.key, "resolution") == 0)
     return QString(choice).remove(QStringLiteral("dpi")).section(u'x', 0, 0);
-  const QString standard = standardValueOf(keyOf(option, options.ofQueue()), choice);
-  const auto word = std::ranges::find_if(
-      row.words, [&](const Word& each) { return standard == QLatin1String(each.standard); });
+  const QString key = keyOf(option, options.ofQueue());
+  const QString standard = standardValueOf(key, choice);
+  const QStringList names = standardNames(key, choice) + QStringList{standard};
+  const auto word = std::ranges::find_if(row.words, [&](const Word& each) {
+    return names.contains(QLatin1String(each.standard), Qt::CaseInsensitive);
+  });
   if (word != row.words.end()) return QLatin1String(word->setting);
   return !standard.isNull() && options.choiceFor(option, standard) == choice ? standard : choice;
 }
