@@ -5,7 +5,7 @@
     <name>JobHandling</name>
     <message>
         <source>Job Handling</source>
-        <translation>İş Yönetimi</translation>
+        <translation>İş yönetimi</translation>
     </message>
     <message>
         <source>Job storage</source>

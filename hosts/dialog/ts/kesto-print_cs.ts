@@ -2039,7 +2039,7 @@
     </message>
     <message>
         <source>Print</source>
-        <translation>Tisk</translation>
+        <translation>Tisknout</translation>
     </message>
     <message>
         <source>This printer does not support %1. The job will be printed without it.</source>
@@ -2135,7 +2135,7 @@
     </message>
     <message>
         <source>Print again</source>
-        <translation>Vytisknout znovu</translation>
+        <translation>Tisknout znovu</translation>
     </message>
     <message>
         <source>Cancel job</source>

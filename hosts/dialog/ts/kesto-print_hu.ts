@@ -2123,7 +2123,7 @@
     </message>
     <message>
         <source>Print again</source>
-        <translation>Nyomtatás újra</translation>
+        <translation>Újranyomtatás</translation>
     </message>
     <message>
         <source>Cancel job</source>
@@ -2240,7 +2240,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Kész</translation>
+        <translation>Készen áll</translation>
     </message>
     <message>
         <source>1 job waiting</source>

@@ -2133,7 +2133,7 @@
     </message>
     <message>
         <source>Cancel job</source>
-        <translation>Annulla il lavoro</translation>
+        <translation>Annulla lavoro</translation>
     </message>
     <message>
         <source>Show</source>

@@ -2131,7 +2131,7 @@
     </message>
     <message>
         <source>Show</source>
-        <translation>보기</translation>
+        <translation>표시</translation>
     </message>
 </context>
 <context>

@@ -2039,7 +2039,7 @@
     </message>
     <message>
         <source>Print</source>
-        <translation>Drukowanie</translation>
+        <translation>Drukuj</translation>
     </message>
     <message>
         <source>This printer does not support %1. The job will be printed without it.</source>

@@ -354,35 +354,35 @@
     </message>
     <message>
         <source>Left to right, top to bottom</source>
-        <translation>Da esquerda para a direita, de cima para baixo</translation>
+        <translation>Esquerda para direita, cima para baixo</translation>
     </message>
     <message>
         <source>Left to right, bottom to top</source>
-        <translation>Da esquerda para a direita, de baixo para cima</translation>
+        <translation>Esquerda para direita, baixo para cima</translation>
     </message>
     <message>
         <source>Right to left, top to bottom</source>
-        <translation>Da direita para a esquerda, de cima para baixo</translation>
+        <translation>Direita para esquerda, cima para baixo</translation>
     </message>
     <message>
         <source>Right to left, bottom to top</source>
-        <translation>Da direita para a esquerda, de baixo para cima</translation>
+        <translation>Direita para esquerda, baixo para cima</translation>
     </message>
     <message>
         <source>Top to bottom, left to right</source>
-        <translation>De cima para baixo, da esquerda para a direita</translation>
+        <translation>Cima para baixo, esquerda para direita</translation>
     </message>
     <message>
         <source>Top to bottom, right to left</source>
-        <translation>De cima para baixo, da direita para a esquerda</translation>
+        <translation>Cima para baixo, direita para esquerda</translation>
     </message>
     <message>
         <source>Bottom to top, left to right</source>
-        <translation>De baixo para cima, da esquerda para a direita</translation>
+        <translation>Baixo para cima, esquerda para direita</translation>
     </message>
     <message>
         <source>Bottom to top, right to left</source>
-        <translation>De baixo para cima, da direita para a esquerda</translation>
+        <translation>Baixo para cima, direita para esquerda</translation>
     </message>
     <message>
         <source>None</source>
@@ -2133,7 +2133,7 @@
     </message>
     <message>
         <source>Cancel job</source>
-        <translation>Cancelar o trabalho</translation>
+        <translation>Cancelar trabalho</translation>
     </message>
     <message>
         <source>Show</source>

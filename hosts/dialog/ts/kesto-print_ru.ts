@@ -2135,7 +2135,7 @@
     </message>
     <message>
         <source>Print again</source>
-        <translation>Печатать снова</translation>
+        <translation>Напечатать снова</translation>
     </message>
     <message>
         <source>Cancel job</source>

@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>Under Job Handling, turn on Retention and enter a pass code of up to 8 digits. The job waits in the printer until someone enters the pass code there. Hold after printing keeps the job after it is printed. Sample print prints one copy and holds the others.</source>
-        <translation>“İş Yönetimi” altında “Bekletme” seçeneğini açın ve en çok 8 rakamlı bir PIN kodu girin. İş, birisi yazıcıda PIN kodunu girene kadar yazıcıda bekler. “Yazdırdıktan sonra beklet” işi yazdırıldıktan sonra da saklar. “Örnek baskı” bir kopya yazdırır ve diğerlerini bekletir.</translation>
+        <translation>“İş yönetimi” altında “Bekletme” seçeneğini açın ve en çok 8 rakamlı bir PIN kodu girin. İş, birisi yazıcıda PIN kodunu girene kadar yazıcıda bekler. “Yazdırdıktan sonra beklet” işi yazdırıldıktan sonra da saklar. “Örnek baskı” bir kopya yazdırır ve diğerlerini bekletir.</translation>
     </message>
     <message>
         <source>Say who you are</source>
@@ -1519,7 +1519,7 @@
     </message>
     <message>
         <source>the Job Handling extension has no panel for the print dialog</source>
-        <translation>“İş Yönetimi” eklentisinin yazdırma penceresi için paneli yok</translation>
+        <translation>“İş yönetimi” eklentisinin yazdırma penceresi için paneli yok</translation>
     </message>
     <message>
         <source>the panel has no layout</source>
@@ -1543,7 +1543,7 @@
     </message>
     <message>
         <source>Job Handling for the model %1</source>
-        <translation>%1 modeli için İş Yönetimi</translation>
+        <translation>%1 modeli için İş yönetimi</translation>
     </message>
     <message>
         <source>nothing was printed before</source>
