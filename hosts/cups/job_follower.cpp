@@ -126,11 +126,12 @@ void JobFollower::ask() {
 }
 
 void JobFollower::cancel() {
-  m_thread.post([this, mailbox = m_mailbox, work = m_work] {
+  // The next report has what comes of it.
+  const auto cancel = [this, mailbox = m_mailbox, work = m_work] {
     const Outcome canceled = work->cancel();
-    if (canceled) return;  // The next report has it.
-    mailbox->answer([this, canceled] { Q_EMIT cancelFailed(canceled.reason()); });
-  });
+    if (!canceled) mailbox->answer([this, canceled] { Q_EMIT cancelFailed(canceled.reason()); });
+  };
+  m_thread.post(cancel);
 }
 
 }  // namespace kesto

@@ -2,7 +2,6 @@
 
 #include <QtCore/QRegularExpression>
 #include <algorithm>
-#include <utility>
 
 #include "hosts/session/printer_reasons.h"
 #include "platform/job_keys.h"
@@ -164,8 +163,9 @@ JobWatch::JobWatch(const ServerAddress& server, const SentJob& job, const Printe
   connect(&m_follower, &JobFollower::cancelFailed, this, &JobWatch::cancelFailed);
 }
 
-void JobWatch::take(JobFate fate) {
-  if (fate == std::exchange(m_fate, fate)) return;
+void JobWatch::take(const JobFate& fate) {
+  if (fate == m_fate) return;
+  m_fate = fate;
   Q_EMIT changed();
 }
 

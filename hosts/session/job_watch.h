@@ -67,7 +67,7 @@ class JobWatch : public QObject {
   void cancelFailed(const QString& reason);
 
  private:
-  void take(JobFate fate);
+  void take(const JobFate& fate);
 
   SentJob m_job;
   PrinterHold m_hold;
