@@ -46,7 +46,9 @@ void timeStart(TimedApplication& application, PrintDialog& dialog) {
 
 void takeScreenshot(PrintDialog& dialog, const QString& path) {
   const auto take = [&dialog, path] {
-    if (!dialog.isSettled() || !dialog.preview().isSettled()) return;
+    // Where there is no room for the preview, it is folded away.
+    const bool isDrawn = dialog.preview().isHidden() || dialog.preview().isSettled();
+    if (!dialog.isSettled() || !isDrawn) return;
     const bool isSaved = dialog.grab().save(path);
     if (!isSaved) std::cerr << "kesto-print: " << shownText(path).toStdString() << " cannot be written\n";
     dialog.done(isSaved ? QDialog::Accepted : QDialog::Rejected);
