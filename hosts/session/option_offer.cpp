@@ -62,7 +62,9 @@ QString shownShort(const JobOptions& options, const OfferedOption& option) {
   (void)text.toDouble(&isNumber);
   const bool saysItself = option.row != nullptr && option.row->group != OptionGroup::More &&
                           option.kind != OptionKind::Switch && !isNumber;
-  return saysItself ? text : QStringLiteral("%1: %2").arg(options.text(option.key), text);
+  if (saysItself) return text;
+  const QString label = QCoreApplication::translate("PlainText", "%1:", "a label");
+  return QStringLiteral("%1 %2").arg(label.arg(options.text(option.key)), text);
 }
 
 // What is said of a group whatever it is.
