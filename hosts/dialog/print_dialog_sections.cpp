@@ -99,9 +99,9 @@ void PrintDialog::showSections() {
     if (section->objectName() == m_options.pane) section->setOpen(true);
     if (section->isOpen() && !section->isHidden()) section->build();
   }
+  updateSummary();
   auto* asked = m_options.pane.isEmpty() ? nullptr : m_sections->findChild<Section*>(m_options.pane);
   if (asked != nullptr && !asked->isHidden()) m_sections->reveal(asked);
-  updateSummary();
   m_idle.start(0);
 }
 

@@ -185,6 +185,20 @@ class DialogLook : public testing::Test {
     EXPECT_TRUE(m_dialog->grab().save(file)) << file;
   }
 
+  // A pass of the event loop lays out what the one before has filled, until nothing moves any more.
+  void layOut() {
+    QList<QRect> places;
+    int still = 0;
+    const auto isSettled = [&] {
+      QList<QRect> now;
+      for (const QWidget* widget : seenIn(*m_dialog))
+        now.append(widget->geometry());
+      still = now == std::exchange(places, now) ? still + 1 : 0;
+      return still == 10;
+    };
+    EXPECT_TRUE(DialogUser::waitUntil(isSettled, u"the layout"_s));
+  }
+
   // Each section alone, and all at once on a small screen.
   void expectPages(const char* theme) {
     const QList<Section*>& sections = m_dialog->findChild<SectionColumn*>()->sections();
@@ -192,13 +206,13 @@ class DialogLook : public testing::Test {
     for (const Section* shown : sections) {
       for (Section* section : sections)
         section->setOpen(section == shown);
-      QCoreApplication::processEvents();
+      layOut();
       expectPage(theme, shown->objectName());
     }
     for (Section* section : sections)
       section->setOpen(true);
     m_dialog->resize(QSize(960, 540) * m_percent / 100);
-    QCoreApplication::processEvents();
+    layOut();
     EXPECT_LE(m_dialog->height(), 540 * m_percent / 100);
     EXPECT_LE(m_dialog->width(), 960 * m_percent / 100);
     expectPage(theme, u"small"_s);
