@@ -205,7 +205,7 @@ QString JobOptions::ownText(const QString& option, const QString& value, const Q
 }
 
 QString JobOptions::textOf(const QString& option, const QString& value) const {
-  const QString text = m_choices.text(option, value);
+  QString text = m_choices.text(option, value);
   if (QString own = ownText(option, value, text); !own.isNull()) return own;
   if (!text.isNull()) return text;
   return value.startsWith(u"Custom.") ? customText(value) : value;

@@ -54,7 +54,7 @@ bool isOther(const JobOptions& options, const QString& key) {
 
 // A value that says by itself what it is of, such as "Long edge"; "On" and "2" do not.
 QString shownShort(const JobOptions& options, const OfferedOption& option) {
-  const QString text = shownValue(options, option);
+  QString text = shownValue(options, option);
   if (option.kind == OptionKind::Number) return shownCopies(text);
   if (areNumbers(options, option) && !options.pages().isNull())
     return QCoreApplication::translate("JobOptions", "Pages %1").arg(text);
