@@ -18,8 +18,8 @@ Prints files, or standard input, with a printer's Job Handling.
   --summary                 print the panel's summary, not the settings
   --list [--job-handling]   list the queues, or those that offer Job Handling
   --folders [--address A]   fetch, keep and list the printer's folders
-  --check QUEUE             tell what other users of the server see of a job's
-                            options, and how to close it
+  --check QUEUE             show what other users of the server see of a job's
+                            options, and how to hide it
   --wait[=SECONDS]          print what becomes of the job until it is printed or
                             held at the printer; ends with 1 if it is not, or
                             with 4 if it still waits after SECONDS

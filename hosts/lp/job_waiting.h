@@ -6,8 +6,9 @@
 
 namespace kesto {
 
-/// Waits for the end of the job, or as long as the options allow, and prints a line for each change unless it
-/// is to be silent. Success is a job that is printed, or held at the printer; otherwise an error says why.
+/// Waits for the end of the job, or as long as the options allow. Prints a line for each change, but none
+/// with the option -s. Succeeds when the job is printed, or is held at the printer; otherwise an error says
+/// why.
 ExitCode waitForJob(const Options& options, const SentJob& job, const PrinterHold& hold);
 
 }  // namespace kesto

@@ -15,9 +15,9 @@ QString titleOf(const Options& options);
 /// Whether the job goes past the queue's driver, by an option that is given or kept for the queue.
 bool goesRaw(const JobOptions& job);
 
-/// Sends the job that the options describe with the panel's settings (none without a panel), tells of a long
-/// upload at a terminal, and prints the job's number, in JSON with `facts` beside it, unless it is to be
-/// silent. `*id` is that number.
+/// Sends the job that the options describe with the panel's settings (none without a panel), shows the
+/// progress of a long upload at a terminal, and prints the job's number, in JSON with `facts` beside it,
+/// unless it is to be silent. `*id` is that number.
 Outcome submit(PrintServer& server, const QString& queue, const Options& options, const JobOptions& given,
                const QMap<QString, QString>& settings, int* id, QJsonObject facts = {});
 
