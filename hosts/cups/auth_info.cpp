@@ -9,10 +9,7 @@ namespace {
 
 // None for a printer that asks for nothing, or for a ticket, which the scheduler takes from the connection.
 QStringList wantedBy(ipp_t* printer) {
-  ipp_attribute_t* attribute = ippFindAttribute(printer, "auth-info-required", IPP_TAG_KEYWORD);
-  QStringList wanted;
-  for (int i = 0; i < ippGetCount(attribute); ++i)
-    wanted.append(QString::fromUtf8(ippGetString(attribute, i, nullptr)));
+  QStringList wanted = textsOf(ippFindAttribute(printer, "auth-info-required", IPP_TAG_KEYWORD));
   return wanted.contains(QStringLiteral("password")) ? wanted : QStringList();
 }
 

@@ -112,6 +112,13 @@ Outcome readReply(const QByteArray& bytes, Ipp* reply) {
   return Outcome::done();
 }
 
+QStringList textsOf(ipp_attribute_t* attribute) {
+  QStringList texts;
+  for (int i = 0; i < ippGetCount(attribute); ++i)
+    texts.append(QString::fromUtf8(ippGetString(attribute, i, nullptr)));
+  return texts;
+}
+
 QByteArray bytesOfRequest(ipp_t* request) {
   QByteArray bytes;
   ippSetState(request, IPP_STATE_IDLE);

@@ -4,6 +4,7 @@
 #include <cups/cups.h>
 
 #include <QtCore/QByteArray>
+#include <QtCore/QStringList>
 #include <memory>
 
 #include "platform/outcome.h"
@@ -23,6 +24,9 @@ Outcome checkReply(const QByteArray& bytes);
 
 /// Checks a reply and reads it. `*reply` is null on failure.
 Outcome readReply(const QByteArray& bytes, Ipp* reply);
+
+/// The texts of an attribute, in their order; none for a null one.
+QStringList textsOf(ipp_attribute_t* attribute);
 
 /// The bytes of a request as they are sent; empty when libcups cannot write it.
 QByteArray bytesOfRequest(ipp_t* request);

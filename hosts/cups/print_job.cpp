@@ -113,11 +113,8 @@ Outcome outcomeOfState(ipp_t* reply) {
   const int state = ippGetInteger(ippFindAttribute(reply, "job-state", IPP_TAG_ENUM), 0);
   if (state != IPP_JSTATE_ABORTED && state != IPP_JSTATE_CANCELED) return Outcome::done();
   QStringList reasons;
-  for (const char* name : {"job-state-message", "job-state-reasons"}) {
-    ipp_attribute_t* reason = ippFindAttribute(reply, name, IPP_TAG_ZERO);
-    for (int i = 0; i < ippGetCount(reason); ++i)
-      reasons.append(QString::fromUtf8(ippGetString(reason, i, nullptr)));
-  }
+  for (const char* name : {"job-state-message", "job-state-reasons"})
+    reasons += textsOf(ippFindAttribute(reply, name, IPP_TAG_ZERO));
   return Outcome::failed(Faults::tr("the print server stopped the job: %1").arg(reasons.join(u", ")));
 }
 

@@ -20,16 +20,12 @@ QString nameOfState(int state) {
   }
 }
 
-QStringList textsOf(ipp_attribute_t* attribute) {
-  QStringList texts;
-  for (int i = 0; i < ippGetCount(attribute); ++i)
-    texts.append(QString::fromUtf8(ippGetString(attribute, i, nullptr)));
-  return texts;
-}
+// No printer has more of them; a window would have a widget for each.
+constexpr int mostListed = 64;
 
 // The printer lists names, colors and levels of its supplies in the same order.
 void addSupplies(const QByteArrayView& name, ipp_attribute_t* attribute, std::vector<Supply>* supplies) {
-  const auto count = static_cast<std::size_t>(ippGetCount(attribute));
+  const auto count = static_cast<std::size_t>(qMin(ippGetCount(attribute), mostListed));
   if (supplies->size() < count) supplies->resize(count);
   const QStringList texts = name == "marker-levels" ? QStringList() : textsOf(attribute);
   for (std::size_t i = 0; i < count; ++i) {
@@ -53,7 +49,7 @@ void addAttribute(ipp_attribute_t* attribute, QueueSummary* queue) {
   if (name == "printer-location") queue->location = text();
   if (name == "queued-job-count") queue->jobs = ippGetInteger(attribute, 0);
   if (name == "printer-make-and-model") queue->model = text();
-  if (name == "printer-state-reasons") queue->stateReasons = textsOf(attribute);
+  if (name == "printer-state-reasons") queue->stateReasons = textsOf(attribute).mid(0, mostListed);
   if (name.startsWith("marker-")) addSupplies(name, attribute, &queue->supplies);
 }
 

@@ -14,13 +14,12 @@ Ipp requestOf(ipp_op_t operation) {
 
 void addAttribute(ipp_attribute_t* attribute, ServerEvent* event) {
   const QByteArrayView name(ippGetName(attribute));
-  const auto text = [&](int i = 0) { return QString::fromUtf8(ippGetString(attribute, i, nullptr)); };
+  const auto text = [&] { return QString::fromUtf8(ippGetString(attribute, 0, nullptr)); };
   if (name == "printer-name") event->queue = text();
   if (name == "notify-job-id") event->job = ippGetInteger(attribute, 0);
   if (name == "job-state") event->jobState = ippGetInteger(attribute, 0);
   if (name == "notify-text") event->text = text();
-  for (int i = 0; name == "job-state-reasons" && i < ippGetCount(attribute); ++i)
-    event->jobReasons.append(text(i));
+  if (name == "job-state-reasons") event->jobReasons = textsOf(attribute);
 }
 
 }  // namespace

@@ -49,13 +49,7 @@ class Attributes {
   explicit Attributes(const Ipp& reply) : m_reply(reply.get()) {}
   int number(const char* name) const { return qMax(0, ippGetInteger(find(name), 0)); }
   QString text(const char* name) const { return texts(name).value(0); }
-  QStringList texts(const char* name) const {
-    QStringList texts;
-    ipp_attribute_t* attribute = find(name);
-    for (int i = 0; i < ippGetCount(attribute); ++i)
-      texts.append(QString::fromUtf8(ippGetString(attribute, i, nullptr)));
-    return texts;
-  }
+  QStringList texts(const char* name) const { return textsOf(find(name)); }
 
  private:
   ipp_attribute_t* find(const char* name) const { return ippFindAttribute(m_reply, name, IPP_TAG_ZERO); }

@@ -4,6 +4,7 @@
 #include <QtWidgets/QProgressBar>
 
 #include "hosts/dialog/widgets/plain_text.h"
+#include "hosts/dialog/widgets/printer_details.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
 #include "tests/support/dialog_printer.h"
 #include "tests/support/hostile_server.h"
@@ -311,6 +312,11 @@ TEST_F(DialogPrint, TextsFromOutsideStayOnTheirLine) {
   QLabel label;
   setPlainText(label, u"Folder\r\u0085 & more"_s);
   EXPECT_EQ(label.text(), u"Folder\\r\\x85 & more"_s);
+  PrinterDetails details(nullptr);
+  queue.supplies = {{.name = u"<b>Black</b>"_s, .color = {}, .level = 70}, {.name = u"<b>Cyan</b>"_s}};
+  details.showQueue(queue);
+  for (const auto* each : details.findChildren<QLabel*>())
+    EXPECT_EQ(each->textFormat(), Qt::PlainText) << each->text();
 }
 
 TEST_F(DialogPrint, TheSummarySaysWhatOthersSee) {

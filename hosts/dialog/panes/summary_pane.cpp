@@ -81,7 +81,9 @@ void SummaryPane::addLine(const SummaryLine& line) {
     marked.setColor(QPalette::WindowText, accentColor(palette()));
     value->setPalette(marked);
   }
-  m_form->addRow(withColon(line.label), value);
+  auto* label = new QLabel(this);  // which may be a printer's own text
+  setPlainText(*label, withColon(line.label));
+  m_form->addRow(label, value);
 }
 
 void SummaryPane::showPrivacy(const Outcome& outcome, const JobPrivacy& privacy) {

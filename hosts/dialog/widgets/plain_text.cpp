@@ -18,7 +18,8 @@ void setPlainText(QWidget& widget, const QString& given) {
   const QString text = shownText(given);
   if (widget.property(plainTextProperty).toString() == text && !text.isEmpty()) return;
   widget.setProperty(plainTextProperty, text);
-  const auto* label = qobject_cast<QLabel*>(&widget);
+  auto* label = qobject_cast<QLabel*>(&widget);
+  if (label != nullptr) label->setTextFormat(Qt::PlainText);
   showMarkedText(widget, label != nullptr && label->buddy() == nullptr ? text : withPlainAmpersands(text));
 }
 

@@ -8,8 +8,8 @@ class QWidget;
 
 namespace kesto {
 
-/// Shows `text` on a label, button or group box as it is, "&" included and in one line (`shownText`). An
-/// unchanged text keeps its mnemonic.
+/// Shows `text` on a label, button or group box as it is, "&" and "<" included and in one line (`shownText`).
+/// An unchanged text keeps its mnemonic.
 void setPlainText(QWidget& widget, const QString& text);
 /// The font in bold, for titles.
 QFont boldOf(QFont font);

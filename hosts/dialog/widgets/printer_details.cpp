@@ -14,6 +14,13 @@ namespace {
 
 constexpr int fullSupply = 100;
 
+// Printers name their supplies as they like.
+QLabel* titleOf(const QString& text) {
+  auto* title = new QLabel;
+  setPlainText(*title, text);
+  return title;
+}
+
 }  // namespace
 
 PrinterDetails::PrinterDetails(QWidget* parent) : QDialog(parent, Qt::Popup) {
@@ -44,7 +51,7 @@ void PrinterDetails::addLine(const QString& label, const QString& text) {
   line->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   line->setText(shownText(text));
   line->setAccessibleName(label);
-  static_cast<QFormLayout*>(layout())->addRow(new QLabel(label), line);
+  static_cast<QFormLayout*>(layout())->addRow(titleOf(label), line);
 }
 
 // A level that the printer does not know has no bar.
@@ -60,7 +67,7 @@ void PrinterDetails::addSupply(const Supply& supply) {
     palette.setColor(QPalette::Highlight, color);
     bar->setPalette(palette);
   }
-  static_cast<QFormLayout*>(layout())->addRow(new QLabel(shownText(supply.name)), bar);
+  static_cast<QFormLayout*>(layout())->addRow(titleOf(supply.name), bar);
 }
 
 }  // namespace kesto
