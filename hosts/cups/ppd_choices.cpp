@@ -2,7 +2,6 @@
 
 #include <cups/pwg.h>
 
-#include <QtCore/QRegularExpression>
 #include <algorithm>
 #include <cmath>
 #include <span>
@@ -18,14 +17,6 @@ constexpr float sizeTolerance = 2;
 constexpr double pointsPerUnit = 72.0 / 2540;  // libcups's units are hundredths of a millimetre
 
 constexpr double millimetresPerPoint = 25.4 / 72;
-
-double pointsOf(const QString& unit) {
-  static const QMap<QString, double> points{
-      {QStringLiteral("pt"), 1},         {QStringLiteral("in"), 72},
-      {QStringLiteral("ft"), 864},       {QStringLiteral("mm"), 72 / 25.4},
-      {QStringLiteral("cm"), 72 / 2.54}, {QStringLiteral("m"), 72 / 0.0254}};
-  return points.value(unit);
-}
 
 std::span<const ppd_choice_t> choicesOf(const ppd_option_t& option) {
   return {option.choices, static_cast<std::size_t>(option.num_choices)};
@@ -266,27 +257,6 @@ std::optional<PpdPaper> PpdChoices::markedPaper() const {
       .bottom = size->bottom * millimetresPerPoint,
       .isLandscapeMinus90 = m_ppd->landscape < 0,
       .isReversed = isOrderReversed(m_ppd)};
-}
-
-std::optional<CustomSize> customSizeOf(const QString& choice) {
-  static const QRegularExpression form(
-      QStringLiteral(R"(^Custom\.(\d+(?:\.\d+)?)x(\d+(?:\.\d+)?)(pt|in|ft|mm|cm|m)?$)"),
-      QRegularExpression::CaseInsensitiveOption);
-  const QRegularExpressionMatch match = form.match(choice);
-  if (!match.hasMatch()) return {};
-  const QString unit = match.captured(3).isEmpty() ? QStringLiteral("pt") : match.captured(3).toLower();
-  return CustomSize{.width = match.captured(1), .length = match.captured(2), .unit = unit};
-}
-
-QString customChoice(double width, double length) {
-  // Hundredths, as the standard counts them.
-  const auto text = [](double side) { return QString::number(std::round(side * 100) / 100, 'g', 8); };
-  return QStringLiteral("Custom.%1x%2mm").arg(text(width), text(length));
-}
-
-std::pair<double, double> millimetresOf(const CustomSize& size) {
-  const double unit = pointsOf(size.unit) * millimetresPerPoint;
-  return {size.width.toDouble() * unit, size.length.toDouble() * unit};
 }
 
 }  // namespace kesto

@@ -134,10 +134,7 @@ QString refusalOfType(const QString& file, const QByteArray& format) {
 class OpenJob {
  public:
   OpenJob(PrintServer& server, const QString& queue)
-      : m_server(server),
-        m_queue(queue),
-        m_uri(uriOfQueue(queue)),
-        m_resource("/printers/" + queue.toUtf8()) {}
+      : m_server(server), m_queue(queue), m_uri(uriOfQueue(queue)), m_resource(resourceOfQueue(queue)) {}
   ~OpenJob() {
     if (m_id == 0 || m_isKept) return;
     const Ipp request = requestTo(IPP_OP_CANCEL_JOB, m_uri, m_id);
@@ -154,7 +151,7 @@ class OpenJob {
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  "auth-info-required");
     Ipp reply;
-    Outcome asked = m_server.order(request.get(), "/", &reply);
+    Outcome asked = m_server.order(request.get(), m_resource, &reply);
     return reply ? findAuthInfo(m_server, m_queue, reply.get(), &m_authInfo) : asked;
   }
 

@@ -1,5 +1,6 @@
 #include "hosts/cups/print_server.h"
 
+#include <QtCore/QUrl>
 #include <algorithm>
 #include <array>
 
@@ -112,7 +113,17 @@ QString optionOf(const cups_dest_t& destination, const char* name) {
   return QString::fromUtf8(cupsGetOption(name, destination.num_options, destination.options));
 }
 
+bool isPrinterUri(const QString& queue) {
+  return queue.startsWith(u"ipp://") || queue.startsWith(u"ipps://");
+}
+
+QByteArray resourceOfQueue(const QString& queue) {
+  return isPrinterUri(queue) ? QUrl(queue).path(QUrl::FullyEncoded).toLatin1()
+                             : "/printers/" + queue.toUtf8();
+}
+
 QByteArray uriOfQueue(const QString& queue) {
+  if (isPrinterUri(queue)) return queue.toUtf8();
   std::array<char, HTTP_MAX_URI> uri{};
   httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", 0,
                    "/printers/%s", queue.toUtf8().constData());
@@ -154,7 +165,7 @@ Outcome PrintServer::findDefault(QueueName* name) {
 
 Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
   destination->reset();
-  QueueName wanted = QueueName::of(name.toUtf8());
+  QueueName wanted = isPrinterUri(name) ? QueueName{name.toUtf8(), {}} : QueueName::of(name.toUtf8());
   if (name.isNull()) {
     if (Outcome found = findDefault(&wanted); !found) return found;
   }
@@ -162,14 +173,16 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
   const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uriOfQueue(queue));
   askForOptions(request.get());
   Ipp reply;
-  if (Outcome asked = order(request.get(), "/", &reply); !asked) {
+  const QByteArray resource = isPrinterUri(queue) ? resourceOfQueue(queue) : "/";
+  if (Outcome asked = order(request.get(), resource, &reply); !asked) {
     if (!reply) return asked;
     if (ippGetStatusCode(reply.get()) == IPP_STATUS_ERROR_NOT_FOUND)
       return Outcome::failed(Faults::tr("there is no printer named \"%1\"").arg(queue));
     return Outcome::failed(Faults::tr("cannot open the printer \"%1\": %2").arg(queue, asked.reason()));
   }
   // The server may spell the name differently.
-  if (const QByteArray itsName = nameOf(reply.get()); !itsName.isEmpty()) wanted.queue = itsName;
+  if (const QByteArray itsName = nameOf(reply.get()); !itsName.isEmpty() && !isPrinterUri(queue))
+    wanted.queue = itsName;
   cups_dest_t* made = nullptr;
   cupsAddDest(wanted.queue.constData(), wanted.instance.isEmpty() ? nullptr : wanted.instance.constData(), 0,
               &made);

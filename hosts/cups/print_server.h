@@ -93,8 +93,11 @@ class PrintServer {
 /// The value of a queue's option or attribute; null when it has none.
 QString optionOf(const cups_dest_t& destination, const char* name);
 
-/// The URI that names a queue in requests.
+/// Whether a queue's name is the URI of a printer that is its own server, as in "ipp://host/ipp/print".
+bool isPrinterUri(const QString& queue);
+/// The URI that names a queue in requests, and the resource that takes its jobs.
 QByteArray uriOfQueue(const QString& queue);
+QByteArray resourceOfQueue(const QString& queue);
 
 /// A request to the printer with this URI, about one of its jobs when `job` is not 0, as `user`.
 Ipp requestTo(ipp_op_t operation, const QByteArray& printerUri, int job = 0, const char* user = cupsUser());

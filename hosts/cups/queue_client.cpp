@@ -7,7 +7,7 @@ void QueueClient::open(const QString& name) {
   m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, server = m_server, name, request] {
     Queue queue;
     std::unique_ptr<PrintServer> connection;
-    Outcome opened = server.connect(&connection, watchdog);
+    Outcome opened = server.forQueue(name).connect(&connection, watchdog);
     if (opened) opened = openQueue(*connection, name, &queue);
     mailbox->answer([this, request, queue = std::move(queue), opened]() mutable {
       if (request != m_request) return;
@@ -24,7 +24,7 @@ void QueueClient::checkPrivacy(const QString& name) {
   m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, server = m_server, name] {
     JobPrivacy privacy;
     std::unique_ptr<PrintServer> connection;
-    Outcome found = server.connect(&connection, watchdog);
+    Outcome found = server.forQueue(name).connect(&connection, watchdog);
     if (found) found = findJobPrivacy(*connection, name, &privacy);
     mailbox->answer([this, found, privacy] { Q_EMIT privacyChecked(found, privacy); });
   });
@@ -40,7 +40,7 @@ void QueueClient::send(const QString& name, const PrintJob& job) {
       return !*isStopped;
     };
     std::unique_ptr<PrintServer> connection;
-    Outcome sent = server.connect(&connection, watchdog);
+    Outcome sent = server.forQueue(name).connect(&connection, watchdog);
     if (sent) sent = sendJob(*connection, name, job, progress, &id);
     mailbox->answer([this, id, sent] {
       if (sent) {

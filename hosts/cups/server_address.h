@@ -1,12 +1,16 @@
 // The print server that a program uses, and the connections to it.
 #pragma once
 
+#include <QtCore/QUrl>
 #include <chrono>
 #include <memory>
 
 #include "hosts/cups/print_server.h"
 
 namespace kesto {
+
+/// The port of printers and print servers.
+inline constexpr int standardIppPort = 631;
 
 /// Where the print server is, and as which user to ask it.
 struct ServerAddress {
@@ -16,6 +20,16 @@ struct ServerAddress {
   /// Has the user's passwords; null when the user is not to be asked.
   std::shared_ptr<PasswordKeeper> passwords{};
   std::chrono::milliseconds limit = std::chrono::seconds(5);  ///< For each wait without progress.
+
+  /// This server, or the printer itself when the queue's name is a printer's URI.
+  ServerAddress forQueue(const QString& queue) const {
+    ServerAddress server = *this;
+    if (!isPrinterUri(queue)) return server;
+    const QUrl uri(queue);
+    server.address = QStringLiteral("%1:%2").arg(uri.host()).arg(uri.port(standardIppPort));
+    server.encrypt = encrypt || uri.scheme() == u"ipps";
+    return server;
+  }
 
   /// Opens a new connection for the calling thread.
   Outcome connect(std::unique_ptr<PrintServer>* server,

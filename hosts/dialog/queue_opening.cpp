@@ -77,7 +77,8 @@ void QueueOpening::takeList() {
 
 void QueueOpening::takeChange() {
   if (!isOpen()) return;
-  m_state = m_isListed && !isPdf() && m_queues.rowOf(m_wanted) < 0 ? State::Gone : State::Open;
+  m_state = m_isListed && !isPdf() && !isPrinterUri(m_wanted) && m_queues.rowOf(m_wanted) < 0 ? State::Gone
+                                                                                              : State::Open;
   Q_EMIT changed();
 }
 

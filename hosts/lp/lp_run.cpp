@@ -58,8 +58,9 @@ Outcome findQueue(const Options& options, JobQueue* found) {
     queue.deviceUri = *options.deviceUri;
     return openPpdFile(*options.ppd, &queue.ppd);
   }
-  if (Outcome connected = options.server.connect(&found->server); !connected) return connected;
-  return openQueue(*found->server, options.queue.value_or(QString()), &queue);
+  const QString name = options.queue.value_or(QString());
+  if (Outcome connected = options.server.forQueue(name).connect(&found->server); !connected) return connected;
+  return openQueue(*found->server, name, &queue);
 }
 
 Outcome readSecrets(const Options& options, Entries* entries) {

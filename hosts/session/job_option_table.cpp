@@ -28,6 +28,8 @@ constexpr std::array rows{
     OptionRow{"StapleLocation", QT_TRANSLATE_NOOP("JobOptions", "Staple")},
     OptionRow{"PunchMedia", QT_TRANSLATE_NOOP("JobOptions", "Punch")},
     OptionRow{"FoldType", QT_TRANSLATE_NOOP("JobOptions", "Fold")},
+    // Of a printer without a PPD; 3 is none.
+    OptionRow{"finishings", QT_TRANSLATE_NOOP("JobOptions", "Finishing"), {}, Choice, General, "3"},
 
     OptionRow{"orientation-requested",
               QT_TRANSLATE_NOOP("JobOptions", "Orientation"),
@@ -91,7 +93,7 @@ int rankIn(const OptionRow& row, const QString& name) {
   return found == row.names.end() ? -1 : 1 + static_cast<int>(found - row.names.begin());
 }
 
-const OptionRow* rowOf(const QString& name, const PpdChoices& choices) {
+const OptionRow* rowOf(const QString& name, const QueueChoices& choices) {
   static const auto index = indexOfRows();
   const OptionRow* found = nullptr;
   for (const OptionRow* row : index.value(name.toLower())) {

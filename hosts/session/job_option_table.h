@@ -5,7 +5,7 @@
 #include <array>
 #include <span>
 
-#include "hosts/cups/ppd_choices.h"
+#include "hosts/cups/queue_choices.h"
 
 namespace kesto {
 
@@ -45,7 +45,7 @@ struct OptionRow {
 std::span<const OptionRow> optionTable();
 
 /// The row of a name; where two share it, the one whose option the queue has. Null for none.
-const OptionRow* rowOf(const QString& name, const PpdChoices& choices);
+const OptionRow* rowOf(const QString& name, const QueueChoices& choices);
 /// Where a name stands in a row: 0 for the key, -1 for nowhere.
 int rankIn(const OptionRow& row, const QString& name);
 /// The name under which a value of an option travels.

@@ -113,7 +113,7 @@ bool isBetween(const QString& value, int least, int most) {
 
 }  // namespace
 
-QString choiceFor(const PpdChoices& choices, const QString& option, const QString& value) {
+QString choiceFor(const QueueChoices& choices, const QString& option, const QString& value) {
   if (option == u"PageSize") return choices.paperChoice(value);
   const auto find = [&](const QString& wanted, auto form) {
     return choices.findChoice(option, [&](const QString& each) { return form(each) == form(wanted); });

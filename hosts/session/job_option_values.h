@@ -9,7 +9,7 @@ namespace kesto {
 
 /// What the queue calls a value of one of its options: by the PPD's keyword or the standard's name, or a
 /// value of the user's own where the option takes such. Null when it has no such value.
-QString choiceFor(const PpdChoices& choices, const QString& option, const QString& value);
+QString choiceFor(const QueueChoices& choices, const QString& option, const QString& value);
 /// What the standard calls a PPD's choice; null when it has no name for it.
 QString standardValueOf(const QString& option, const QString& choice);
 /// Our own text for a value, to be translated as of "JobOptions"; null when the PPD's or the value serves.

@@ -37,8 +37,8 @@ const QStringList& filesOptions() {
 
 void JobOptions::openFor(const Queue& queue) {
   close();
-  m_choices = PpdChoices(queue.ppd.get());
-  m_isInUsersLanguage = m_choices.isIn(userLanguage());
+  m_choices = choicesOf(queue);
+  m_isInUsersLanguage = m_choices->isIn(userLanguage());
   m_values.clear();  // their names were those of no queue
   m_isForFile = queue.isFile;
   given(Source::Kept) = keptOptions(queue);
@@ -51,9 +51,9 @@ void JobOptions::close() {
   given(Source::Kept).clear();
   given(Source::Preset).clear();
   given(Source::Chosen).removeIf([this](const auto& each) {
-    return m_choices.has(keyOf(each.key(), m_choices));
+    return m_choices->has(keyOf(each.key(), *m_choices));
   });
-  m_choices = {};
+  m_choices = std::make_unique<PpdChoices>(nullptr);
   m_isForFile = false;
   m_ofPanel.clear();
   m_covers.clear();
@@ -67,18 +67,18 @@ void JobOptions::setPageCount(int count) {
 
 void JobOptions::set(Source source, const QMap<QString, QString>& options) {
   given(source).insert(options);
-  if (!options.isEmpty()) m_lastSet = keyOf(options.firstKey(), m_choices);
+  if (!options.isEmpty()) m_lastSet = keyOf(options.firstKey(), *m_choices);
   resolve();
 }
 
 std::optional<QString> JobOptions::fitting(const QString& name, const QString& value) const {
-  const OptionRow* row = rowOf(name, m_choices);
-  const QString key = keyOf(name, m_choices);
+  const OptionRow* row = rowOf(name, *m_choices);
+  const QString key = keyOf(name, *m_choices);
   QString found;
-  if (m_choices.has(key)) {
-    found = kesto::choiceFor(m_choices, key, value);
+  if (m_choices->has(key)) {
+    found = kesto::choiceFor(*m_choices, key, value);
     const QString standard = found.isNull() ? standardValueOf(key, value) : QString();
-    if (!standard.isNull()) found = kesto::choiceFor(m_choices, key, standard);
+    if (!standard.isNull()) found = kesto::choiceFor(*m_choices, key, standard);
   } else if (row != nullptr && row->kind != OptionKind::Choice) {
     found = valueFor(*row, value);
   }
@@ -110,7 +110,7 @@ void JobOptions::resolve() {
   const Values before = std::exchange(m_values, {});
   m_refused.clear();
   for (const Source source : sources) {
-    const ResolvedOptions found = resolveOptions(given(source), m_choices);
+    const ResolvedOptions found = resolveOptions(given(source), *m_choices);
     if (source == Source::Kept) m_kept = found;
     m_refused += found.refused;
     for (auto it = found.options.begin(); it != found.options.end(); ++it)
@@ -127,33 +127,33 @@ void JobOptions::markChanges(const Values& before) {
   QStringList keys;
   for (const QString& key : touched.keys()) {
     const QString old = before.contains(key) ? before[key].value.value : defaultOf(key);
-    if (m_choices.has(key) && value(key) != old) keys.append(key);
+    if (m_choices->has(key) && value(key) != old) keys.append(key);
   }
   for (const QString& key : keys)
-    m_choices.mark(key, value(key));
-  m_conflicts = m_choices.conflicts();
+    m_choices->mark(key, value(key));
+  m_conflicts = m_choices->conflicts();
   for (const QString& key : keys)
     Q_EMIT choiceChanged(key, value(key));
 }
 
 QString JobOptions::defaultOf(const QString& key) const {
-  if (m_choices.has(key)) return m_choices.defaultOf(key);
-  const OptionRow* row = rowOf(key, m_choices);
+  if (m_choices->has(key)) return m_choices->defaultOf(key);
+  const OptionRow* row = rowOf(key, *m_choices);
   return row == nullptr || row->initial == nullptr ? QString() : QLatin1String(row->initial);
 }
 
 QString JobOptions::value(const QString& name) const {
-  const QString key = keyOf(name, m_choices);
+  const QString key = keyOf(name, *m_choices);
   const auto found = m_values.find(key);
   return found == m_values.end() ? defaultOf(key) : found->value.value;
 }
 
 JobOptions::Source JobOptions::source(const QString& name) const {
-  return m_values.value(keyOf(name, m_choices)).source;
+  return m_values.value(keyOf(name, *m_choices)).source;
 }
 
 QString JobOptions::choiceFor(const QString& option, const QString& value) const {
-  return kesto::choiceFor(m_choices, keyOf(option, m_choices), value);
+  return kesto::choiceFor(*m_choices, keyOf(option, *m_choices), value);
 }
 
 QString JobOptions::pages() const {
@@ -163,8 +163,8 @@ QString JobOptions::pages() const {
 }
 
 std::vector<OptionChoice> JobOptions::choices(const QString& option) const {
-  std::vector<OptionChoice> choices = m_choices.choices(option);
-  const OptionRow* row = rowOf(option, m_choices);
+  std::vector<OptionChoice> choices = m_choices->choices(option);
+  const OptionRow* row = rowOf(option, *m_choices);
   if (row != nullptr && row->kind == OptionKind::Covers) {
     for (const QString& each : m_covers)
       choices.push_back({each, each});
@@ -179,13 +179,13 @@ std::vector<OptionChoice> JobOptions::choices(const QString& option) const {
 }
 
 QString JobOptions::text(const QString& option) const {
-  const OptionRow* row = rowOf(option, m_choices);
+  const OptionRow* row = rowOf(option, *m_choices);
   const bool isOurs = row != nullptr && row->text != nullptr;
-  return isOurs ? QCoreApplication::translate("JobOptions", row->text) : m_choices.text(option);
+  return isOurs ? QCoreApplication::translate("JobOptions", row->text) : m_choices->text(option);
 }
 
 QString JobOptions::ownText(const QString& option, const QString& value, const QString& text) const {
-  const OptionRow* row = rowOf(option, m_choices);
+  const OptionRow* row = rowOf(option, *m_choices);
   const OptionKind kind = row == nullptr ? OptionKind::Choice : row->kind;
   if (kind == OptionKind::Scaling && value.toInt() > 0)
     return QCoreApplication::translate("JobOptions", "%1%").arg(value);
@@ -201,37 +201,42 @@ QString JobOptions::ownText(const QString& option, const QString& value, const Q
     return QCoreApplication::translate("JobOptions", ours);
   if (kind != OptionKind::Choice) return {};
   const bool isPpds = !text.isEmpty() && m_isInUsersLanguage && !isStandardText(option, value, text);
-  return isPpds ? QString() : standardText(option, value);
+  if (isPpds) return {};
+  const QString ours = standardText(option, value);
+  return ours.isNull() && !text.isEmpty() ? standardText(option, text) : ours;
 }
 
 QString JobOptions::textOf(const QString& option, const QString& value) const {
-  QString text = m_choices.text(option, value);
+  QString text = m_choices->text(option, value);
   if (QString own = ownText(option, value, text); !own.isNull()) return own;
   if (!text.isNull()) return text;
   return value.startsWith(u"Custom.") ? customText(value) : value;
 }
 
 bool JobOptions::isIdle(const QString& option) const {
-  if (m_isForFile && !filesOptions().contains(keyOf(option, m_choices))) return true;
-  const OptionRow* row = rowOf(option, m_choices);
+  if (m_isForFile && !filesOptions().contains(keyOf(option, *m_choices))) return true;
+  const OptionRow* row = rowOf(option, *m_choices);
   return row != nullptr && row->needs != nullptr && isDefault(QLatin1String(row->needs));
 }
 
 bool JobOptions::travels(const QString& key) const {
-  const OptionRow* row = rowOf(key, m_choices);
+  const OptionRow* row = rowOf(key, *m_choices);
   if (isIdle(key)) return false;
   if (row != nullptr && row->kind == OptionKind::Switch && row->needs != nullptr) return true;
   if (!isDefault(key)) return true;
   // The server may have another default than the PPD, and cover sheets of its own.
   const auto kept = m_kept.options.find(key);
-  const bool isServers = m_choices.has(key) || (row != nullptr && row->kind == OptionKind::Covers);
+  const bool isServers = m_choices->has(key) || (row != nullptr && row->kind == OptionKind::Covers);
   return kept != m_kept.options.end() && (isServers || kept->value != defaultOf(key));
 }
 
-QMap<QString, QString> JobOptions::travelling() const {
+QMap<QString, QString> JobOptions::apart() const {
   QMap<QString, QString> options;
   for (auto it = m_values.begin(); it != m_values.end(); ++it) {
-    if (travels(it.key())) options.insert(it->value.name, it->value.value);
+    if (!travels(it.key())) continue;
+    const auto [name, sent] = m_choices->has(it.key()) ? m_choices->sentAs(it.key(), it->value.value)
+                                                       : std::pair(it->value.name, it->value.value);
+    options.insert(name, sent);
   }
   for (const OptionRow& row : optionTable()) {
     const QString key = QLatin1String(row.key);
@@ -242,11 +247,19 @@ QMap<QString, QString> JobOptions::travelling() const {
   return options;
 }
 
+QMap<QString, QString> JobOptions::travelling() const {
+  QMap<QString, QString> options = apart();
+  m_choices->join(&options);
+  return options;
+}
+
 QMap<QString, QString> JobOptions::inForce() const {
-  QMap<QString, QString> options = travelling();
+  QMap<QString, QString> options = apart();
   for (const OptionRow& row : optionTable()) {
     const QString key = QLatin1String(row.key);
-    if (m_choices.has(key) && !value(key).isNull()) options.insert(key, value(key));
+    if (!m_choices->has(key) || value(key).isNull()) continue;
+    const auto [name, sent] = m_choices->sentAs(key, value(key));
+    options.insert(name, sent);
   }
   return options;
 }
@@ -263,9 +276,9 @@ QMap<QString, QString> JobOptions::asGiven() const {
 }
 
 QMap<QString, QString> JobOptions::ofPreset() const {
-  QMap<QString, QString> options = travelling();
+  QMap<QString, QString> options = apart();
   options.removeIf([this](const auto& each) {
-    const bool isKnown = rowOf(each.key(), m_choices) != nullptr || m_choices.has(each.key());
+    const bool isKnown = rowOf(each.key(), *m_choices) != nullptr || m_choices->has(each.key());
     return !isKnown || source(each.key()) < Source::Preset;
   });
   return options;

@@ -5,7 +5,9 @@
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 #include <array>
+#include <memory>
 
+#include "hosts/cups/ppd_choices.h"
 #include "hosts/session/option_names.h"
 
 namespace kesto {
@@ -26,8 +28,8 @@ class JobOptions : public QObject {
   static constexpr QLatin1String selection{"\nselection"};
   static bool areOfApplication(const QString& pages) { return pages.startsWith(u'\n'); }
 
-  /// Goes over to a queue, whose PPD must stay until `close`: what it offers, and what is kept for it. Its
-  /// PPD is marked with the values from now on.
+  /// Goes over to a queue, which must stay until `close`: what it offers, and what is kept for it. Its
+  /// PPD, if it has one, is marked with the values from now on.
   void openFor(const Queue& queue);
   /// Lets go of the queue, its presets and what was chosen of its own options. What is chosen for the job
   /// itself, such as the copies, stays, and so does what was given.
@@ -52,7 +54,7 @@ class JobOptions : public QObject {
   /// that has no known default.
   QString value(const QString& name) const;
   Source source(const QString& name) const;
-  bool isDefault(const QString& name) const { return value(name) == defaultOf(keyOf(name, m_choices)); }
+  bool isDefault(const QString& name) const { return value(name) == defaultOf(keyOf(name, *m_choices)); }
   /// "name=value" as given, for what is no value on this queue. It does not travel.
   const QStringList& refused() const { return m_refused; }
   /// What the queue calls a value of one of its options; null when it has none.
@@ -62,13 +64,13 @@ class JobOptions : public QObject {
 
   /// The values that a list offers; a size, time or percentage of the user's own is none of them.
   std::vector<OptionChoice> choices(const QString& option) const;
-  bool isOfQueue(const QString& option) const { return m_choices.has(option); }
+  bool isOfQueue(const QString& option) const { return m_choices->has(option); }
   bool isLeftToPanel(const QString& option) const { return m_ofPanel.contains(option); }
   /// Whether the option that this one needs is at its initial value, or a file has no use for it.
   bool isIdle(const QString& option) const;
   /// Whether the pages are saved in a file.
   bool isForFile() const { return m_isForFile; }
-  const PpdChoices& ofQueue() const { return m_choices; }
+  const QueueChoices& ofQueue() const { return *m_choices; }
   /// The option's label, and a value in words.
   QString text(const QString& option) const;
   QString textOf(const QString& option, const QString& value) const;
@@ -76,8 +78,8 @@ class JobOptions : public QObject {
   const QStringList& conflicts() const { return m_conflicts; }
   /// The option that was set last.
   const QString& lastSet() const { return m_lastSet; }
-  /// None when the PPD names none.
-  std::optional<PpdPaper> paper() const { return m_choices.markedPaper(); }
+  /// None when the queue names none.
+  std::optional<PpdPaper> paper() const { return m_choices->markedPaper(); }
 
   /// What the job is sent with: what differs from the default or is kept for the queue, each option once, by
   /// the PPD's name where the queue has it.
@@ -111,12 +113,14 @@ class JobOptions : public QObject {
   /// The text of ours for a value; null when the PPD's `text` is better.
   QString ownText(const QString& option, const QString& value, const QString& text) const;
   bool travels(const QString& key) const;
+  /// What travels, each option by itself.
+  QMap<QString, QString> apart() const;
   /// The value on this queue for a preset's; none when it has no such option or value.
   std::optional<QString> fitting(const QString& name, const QString& value) const;
   void resolve();
   void markChanges(const Values& before);
 
-  PpdChoices m_choices;
+  std::unique_ptr<QueueChoices> m_choices = std::make_unique<PpdChoices>(nullptr);
   bool m_isInUsersLanguage = false;  // the texts of the PPD are
   std::array<QMap<QString, QString>, 5> m_given;
   Values m_values;

@@ -22,7 +22,7 @@ struct Given {
 constexpr int partRank = 8;
 
 // What "media" says of source and type besides the paper, part by part.
-void takeMedia(const PpdChoices& choices, const Given& media, std::vector<Given>* given,
+void takeMedia(const QueueChoices& choices, const Given& media, std::vector<Given>* given,
                QStringList* refused) {
   static constexpr std::array options{"PageSize", "InputSlot", "MediaType"};
   for (const QString& part : media.value.split(u',', Qt::SkipEmptyParts)) {
@@ -55,7 +55,7 @@ void takeMediaCol(const Given& media, std::vector<Given>* given) {
 }
 
 // What was given, taken apart.
-std::vector<Given> takeApart(const QMap<QString, QString>& options, const PpdChoices& choices,
+std::vector<Given> takeApart(const QMap<QString, QString>& options, const QueueChoices& choices,
                              QStringList* refused) {
   std::vector<Given> given;
   const bool hasPaper = choices.has(QStringLiteral("PageSize"));
@@ -78,12 +78,12 @@ std::vector<Given> takeApart(const QMap<QString, QString>& options, const PpdCho
 
 }  // namespace
 
-QString keyOf(const QString& name, const PpdChoices& choices) {
+QString keyOf(const QString& name, const QueueChoices& choices) {
   if (const OptionRow* row = rowOf(name, choices)) return QLatin1String(row->key);
   return choices.has(name) ? name : name.toLower();
 }
 
-ResolvedOptions resolveOptions(const QMap<QString, QString>& given, const PpdChoices& choices) {
+ResolvedOptions resolveOptions(const QMap<QString, QString>& given, const QueueChoices& choices) {
   ResolvedOptions resolved;
   for (const Given& each : takeApart(given, choices, &resolved.refused)) {
     const OptionRow* row = rowOf(each.name, choices);
