@@ -27,6 +27,7 @@ void FolderQuery::fetch(const QString& printerAddress) {
     client->sendMessage(m_state.requestData.value_or(QByteArray()));
     if (!*isAlive) return;
     m_running = nullptr;
+    m_lastFault = client->fault();
     if (client->isAnswered()) m_lastFetch = client->isKept() ? FolderFetch::Listed : FolderFetch::NotKept;
   }
   showProgress(false);
@@ -37,6 +38,7 @@ void FolderQuery::getFolderNameButtonProc(Control* /*sender*/) {
   const std::shared_ptr<bool> isAlive = m_isAlive;
   const QString printerAddress = textOfField(m_state.outlets.printersAddressEditText);
   m_lastFetch = FolderFetch::None;
+  m_lastFault = FolderFault::None;
   if (!printerAddress.isEmpty()) fetch(printerAddress);
   if (!*isAlive) return;
   const bool isRead = parseXML(answerFilePath(*m_state.platform));

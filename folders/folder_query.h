@@ -29,6 +29,7 @@ class FolderQuery : public SoapContext {
   void getFolderNameButtonProc(Control* sender);
   /// What became of the last exchange.
   FolderFetch lastFetch() const { return m_lastFetch; }
+  FolderFault lastFault() const { return m_lastFault; }
   /// Reads an answer file into the folder list. False, with the list unchanged, when it is missing or not
   /// well-formed; false, with an empty list, when it holds no list.
   bool parseXML(const QString& path);
@@ -44,6 +45,7 @@ class FolderQuery : public SoapContext {
   FolderPopup& m_folderPopup;
   std::function<void()> m_saveFolders;
   FolderFetch m_lastFetch = FolderFetch::None;
+  FolderFault m_lastFault = FolderFault::None;
   KestoPrintPdeVq250nJCSOAPClient* m_running = nullptr;            // while an exchange waits
   std::shared_ptr<bool> m_isAlive = std::make_shared<bool>(true);  // outlives this in a waiting exchange
 };

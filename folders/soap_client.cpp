@@ -75,6 +75,19 @@ class Connector : public QObject {
   QList<QHostAddress> m_addresses;  // still to be tried
 };
 
+FolderFault faultOf(QAbstractSocket::SocketError error) {
+  switch (error) {
+    case QAbstractSocket::HostNotFoundError:
+      return FolderFault::NotFound;
+    case QAbstractSocket::ConnectionRefusedError:
+      return FolderFault::Refused;
+    case QAbstractSocket::RemoteHostClosedError:
+      return FolderFault::Closed;
+    default:
+      return FolderFault::Other;
+  }
+}
+
 }  // namespace
 
 QString answerFilePath(Platform& platform) {
@@ -106,6 +119,7 @@ QByteArray KestoPrintPdeVq250nJCSOAPClient::requestFor(const QByteArray& body) c
 
 void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   m_finished = Finished::Running;
+  m_fault = FolderFault::None;
   m_responseData = HttpResponse(answer_limits::bytes);
   QTcpSocket socket;
   socket.setProxy(QNetworkProxy::NoProxy);
@@ -120,7 +134,8 @@ void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   connect(&socket, &QTcpSocket::errorOccurred, this, [&] {
     if (second.isTaken() || !connector.goOn()) connectionDidEnd(socket, second.wasReset());
   });
-  if (!connector.start(m_url, [this] { connectionDidFailWithError(); })) connectionFail();
+  if (!connector.start(m_url, [this] { connectionDidFailWithError(FolderFault::NotFound); }))
+    connectionFail();
   QTimer timer;
   timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);  // other timers may fire half a second early
@@ -174,7 +189,7 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData(QTcpSocket& socke
   m_responseData.take(socket.readAll());
   if (!hadResponse && m_responseData.status() != 0) connectionDidReceiveResponse();
   if (m_responseData.isWhole()) connectionDidFinishLoading();
-  if (m_responseData.isBad()) connectionDidFailWithError();
+  if (m_responseData.isBad()) connectionDidFailWithError(FolderFault::Unreadable);
 }
 
 // The end of the connection completes an answer without a length. Any other error, including a reset, breaks
@@ -187,7 +202,7 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(QTcpSocket& socket, bool 
   if (m_responseData.isWhole()) {
     connectionDidFinishLoading();
   } else {
-    connectionDidFailWithError();
+    connectionDidFailWithError(faultOf(socket.error()));
   }
 }
 
@@ -201,11 +216,13 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidFinishLoading() {
   finish(Finished::Answered);
 }
 
-void KestoPrintPdeVq250nJCSOAPClient::connectionDidFailWithError() {
+void KestoPrintPdeVq250nJCSOAPClient::connectionDidFailWithError(FolderFault fault) {
+  if (m_finished == Finished::Running) m_fault = fault;
   finish(Finished::Failed);
 }
 
 void KestoPrintPdeVq250nJCSOAPClient::firedByTimer() {
+  if (m_finished == Finished::Running) m_fault = FolderFault::TimedOut;
   finish(Finished::TimedOut);
 }
 

@@ -9,6 +9,7 @@
 #include "folders/answer_limits.h"
 #include "folders/endpoint.h"
 #include "folders/http_response.h"
+#include "platform/panel.h"
 
 class QTcpSocket;
 
@@ -50,6 +51,8 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   /// Whether the last exchange had a complete answer, and whether that is in the answer file.
   bool isAnswered() const { return m_finished == Finished::Answered; }
   bool isKept() const { return m_isKept; }
+  /// Why the last exchange had no complete answer; `None` when it had one.
+  FolderFault fault() const { return m_fault; }
   /// Ends the exchange at once; the context is neither notified nor used any more. This holds even when the
   /// exchange has just ended in another way and `sendMessage` has yet to return. What has arrived is not
   /// kept.
@@ -69,7 +72,7 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   void connectionDidEnd(QTcpSocket& socket, bool wasReset);
   void connectionFail();
   void connectionDidFinishLoading();
-  void connectionDidFailWithError();
+  void connectionDidFailWithError(FolderFault fault);
   void firedByTimer();
   void finish(Finished state);
   void waitUntilFinished();
@@ -80,6 +83,7 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
   std::chrono::milliseconds m_limit;
   Finished m_finished = Finished::Running;
   bool m_isKept = false;
+  FolderFault m_fault = FolderFault::None;
   HttpResponse m_responseData{answer_limits::bytes};
 };
 

@@ -28,6 +28,17 @@ enum class FolderFetch {
   Listed,
 };
 
+/// Why no answer arrived.
+enum class FolderFault {
+  None,
+  NotFound,    ///< The address is unknown.
+  Refused,     ///< Nothing listens there.
+  Closed,      ///< The connection ended before the answer did.
+  TimedOut,    ///< There was no answer in time.
+  Unreadable,  ///< It was not an answer.
+  Other,
+};
+
 /// A panel of a print dialog. The host owns it as soon as it is returned, and calls it on one thread.
 /// Properties that a panel's own class adds are its facts: read-only, for hosts that show a panel without
 /// knowing its class.
@@ -55,6 +66,8 @@ class PrintDialogPanel : public QObject {
   virtual bool filesDocuments() const = 0;
   /// What became of the last fetch of folders. The panel itself reports only a missing answer.
   virtual FolderFetch lastFolderFetch() const = 0;
+  /// Why it failed; `None` unless it did.
+  virtual FolderFault lastFolderFault() const = 0;
   /// Called when the host is about to bring the panel to the front.
   virtual void willShow() = 0;
   /// Whether the host may hide the panel.

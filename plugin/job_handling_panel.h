@@ -54,6 +54,7 @@ class KestoPrintPdeVq250nJC : public PrintDialogPanel, public CapabilityQueries 
   FolderList folders() const override { return m_state.folderList; }
   bool filesDocuments() const override { return CheckHardDisk(); }
   FolderFetch lastFolderFetch() const override { return m_folderQuery.lastFetch(); }
+  FolderFault lastFolderFault() const override { return m_folderQuery.lastFault(); }
   void willShow() override;
   bool shouldHide() override;
   bool shouldShowHelp() override;

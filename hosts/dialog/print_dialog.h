@@ -100,6 +100,7 @@ class PrintDialog : public QDialog {
   void openQueue(Queue& queue);
   void settleQueue();
   void showOpening();
+  QString fetchText() const;
   QString jobName() const;
   void takePageCount();
   void showSections();

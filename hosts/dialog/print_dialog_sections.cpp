@@ -13,6 +13,7 @@
 #include "hosts/dialog/widgets/section.h"
 #include "hosts/dialog/widgets/section_column.h"
 #include "hosts/dialog/widgets/tab_order.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
 
@@ -73,9 +74,21 @@ QWidget* PrintDialog::makePanel(QWidget* parent) {
   if (!m_session.panel()->filesDocuments()) m_panelPane->sayNothingIsFiled();
   connect(m_panelPane, &PanelPane::panelChanged, this, &PrintDialog::updateSummary);
   connect(m_panelPane, &PanelPane::addressJudged, this, [this](const QString& fault) {
-    showFault(fault.isNull() ? asSentence(m_session.outcomeOfFetch().reason()) : fault);
+    if (!fault.isNull()) return showFault(fault);
+    const Outcome fetched = m_session.outcomeOfFetch();
+    if (!fetched) return showFault(asSentence(fetched.reason()));
+    showMessage(fetchText());
   });
   return m_panelPane;
+}
+
+// Null when no folders were fetched.
+QString PrintDialog::fetchText() const {
+  const PrintDialogPanel* panel = m_session.panel();
+  if (panel == nullptr || panel->lastFolderFetch() != FolderFetch::Listed) return {};
+  const std::size_t count = panel->folders().value_or(std::vector<FolderEntry>()).size();
+  const QString printer = shownText(m_opening.wanted());
+  return count == 1 ? tr("1 folder from %1").arg(printer) : tr("%1 folders from %2").arg(count).arg(printer);
 }
 
 QWidget* PrintDialog::makeSummary(QWidget* parent) {

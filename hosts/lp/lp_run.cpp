@@ -159,7 +159,6 @@ Outcome listFolders(PanelSession& session, const Options& options) {
   if (Outcome asked = fetchFolders(*session.view(), options.address.value_or(QString())); !asked)
     return asked;
   const PrintDialogPanel& panel = *session.panel();
-  if (panel.lastFolderFetch() == FolderFetch::Failed) return Outcome::done();  // the alert has said it
   if (Outcome fetched = outcomeOfFetch(panel); !fetched) return fetched;
   return printFolders(panel, options.json);
 }
@@ -186,7 +185,7 @@ ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
     return ended(options, opened);
   if (options.task == Task::ListFolders) {
     const Outcome listed = listFolders(session, options);
-    if (alerts.wasShown) return ExitFailed;
+    if (alerts.wasShown && listed) return ExitFailed;
     if (const Outcome kept = session.outcomeOfFetch(); listed && !kept)
       options.messages().warning(kept.reason());
     return ended(options, listed);

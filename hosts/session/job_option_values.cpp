@@ -131,6 +131,9 @@ QString choiceFor(const QueueChoices& choices, const QString& option, const QStr
   for (const QString& name : names + standardNames(option, value)) {
     if (QString choice = find(name, plainName); !choice.isNull()) return choice;
   }
+  // A PPD's name for a value of a printer without a PPD.
+  const QString standard = standardValueOf(option, value);
+  if (QString choice = standard.isNull() ? QString() : find(standard, plain); !choice.isNull()) return choice;
   return choices.takesCustom(option) && value.startsWith(u"Custom.") ? value : QString();
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "hosts/cups/faults.h"
+#include "hosts/session/panel_entries.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/text_field.h"
 #include "platform/bundle.h"
@@ -39,8 +40,34 @@ QMap<QString, QString> summaryOf(PrintDialogPanel& panel) {
   return summary;
 }
 
+namespace {
+
+QString reasonOf(FolderFault fault) {
+  switch (fault) {
+    case FolderFault::NotFound:
+      return Faults::tr("the address is unknown");
+    case FolderFault::Refused:
+      return Faults::tr("connection refused");
+    case FolderFault::Closed:
+      return Faults::tr("the connection was closed");
+    case FolderFault::TimedOut:
+      return Faults::tr("no answer in time");
+    case FolderFault::Unreadable:
+      return Faults::tr("the answer cannot be read");
+    default:
+      return Faults::tr("the printer cannot be reached");
+  }
+}
+
+}  // namespace
+
 Outcome outcomeOfFetch(const PrintDialogPanel& panel) {
   switch (panel.lastFolderFetch()) {
+    case FolderFetch::Failed:
+      return Outcome::failed(
+          Faults::tr("no folder list from %1: %2")
+              .arg(panel.loadedView() == nullptr ? QString() : printerAddress(*panel.loadedView()),
+                   reasonOf(panel.lastFolderFault())));
     case FolderFetch::NotKept:
       return Outcome::failed(
           Faults::tr("cannot write the printer's answer to the temporary folder. Is the disk full?"));

@@ -284,6 +284,7 @@ TEST_F(DialogPrint, TheEndOfAFolderFetchIsReported) {
   }
   address->setText(u"127.0.0.1:1"_s);  // nobody listens there
   EXPECT_EQ(alertOn([this] { click(u"getFolderNameButton"_s); }), u"Could not retrieve Folder Names."_s);
+  EXPECT_EQ(text(u"message"_s), u"No folder list from 127.0.0.1:1: connection refused."_s);
   EXPECT_EQ(m_dialog->focusWidget(), widget(u"getFolderNameButton"_s));
   EXPECT_TRUE(widget<QPushButton>(u"print"_s)->isDefault());
   EXPECT_TRUE(m_dialog->isVisible());

@@ -39,7 +39,9 @@ class OptionsOfAJob : public testing::Test {
   }
   Queue queue(const char* ppd, const char* kept) const {
     Queue queue{.id = u"q"_s};
-    if (ppd != nullptr) {
+    if (QByteArray(ppd) == "ipp") {
+      queue.attributes = attributesOfPrinter();
+    } else if (ppd != nullptr) {
       EXPECT_TRUE(openPpdFile(m_folder.path(QLatin1String(ppd) + u".ppd"_s), &queue.ppd));
     }
     cups_dest_t* destination = nullptr;
@@ -47,6 +49,26 @@ class OptionsOfAJob : public testing::Test {
     destination->num_options = cupsParseOptions(kept, 0, &destination->options);
     queue.destination.reset(destination);
     return queue;
+  }
+
+  // A printer that describes itself.
+  static Ipp attributesOfPrinter() {
+    Ipp printer(ippNew());
+    for (const auto& [name, values] : Cases{
+             {"media-supported", "iso_a4_210x297mm iso_a5_148x210mm custom_min_50x50mm custom_max_216x356mm"},
+             {"media-default", "iso_a4_210x297mm"},
+             {"media-type-supported", "stationery labels"},
+             {"sides-supported", "one-sided two-sided-long-edge two-sided-short-edge"},
+             {"sides-default", "one-sided"},
+             {"print-color-mode-supported", "monochrome color"}}) {
+      const QStringList all = values.split(u' ');
+      auto* attribute =
+          ippAddStrings(printer.get(), IPP_TAG_PRINTER, IPP_TAG_KEYWORD, name.toUtf8().constData(),
+                        static_cast<int>(all.size()), nullptr, nullptr);
+      for (int i = 0; i < all.size(); ++i)
+        ippSetString(printer.get(), &attribute, i, all[i].toUtf8().constData());
+    }
+    return printer;
   }
 
   ScratchFolder m_folder;
@@ -114,6 +136,19 @@ TEST_F(OptionsOfAJob, EachIsSentOnceUnderItsNameOnTheQueue) {
        "MediaType=Transparency PageSize=Custom.499x709"},
       {"more", "media-type=stationery", "output-bin=face-down", {}, "MediaType=Plain OutputBin=FaceDown"},
       {"more", "", "print-quality=5 print-color-mode=color", {}, "ColorModel=RGB OutputMode=Best"},
+      {"ipp", "", "PageSize=A5 Duplex=DuplexTumble", {}, "media=iso_a5_148x210mm sides=two-sided-short-edge"},
+      {"ipp",
+       "media=A5",
+       "sides=one-sided ColorModel=RGB",
+       {},
+       "media=iso_a5_148x210mm print-color-mode=color"},
+      {"ipp", "", "media=A4 PageSize=Custom.10x15cm", {}, "media=custom_100x150mm_100x150mm"},
+      {"ipp", "", "media=A3 print-quality=5", {}, "print-quality=5", "media=A3"},
+      {"ipp",
+       "",
+       "media=A5,labels",
+       {},
+       "media-col={media-size={x-dimension=14800 y-dimension=21000} media-type=labels}"},
       {nullptr, "", "media=A5,Tray2 PageSize=A3 sides=one-sided", {}, "PageSize=A3 sides=one-sided"},
   };
   for (const Case& each : cases) {

@@ -212,6 +212,33 @@ TEST_F(PrintTest, ListsQueues) {
   EXPECT_EQ(run(encrypted).out, office);
 }
 
+TEST_F(PrintTest, APrinterWithoutAPpdPrintsDirectlyAndBehindTheScheduler) {
+  // The print system's sample printer looks for a system bus, and announces itself on none.
+  DemoProcess bus(m_folder, u"dbus-daemon --session --nofork --nopidfile --address=unix:path=%1/bus"_s);
+  waitFor([&] { return QFile::exists(m_folder.path(u"bus"_s)); });
+  QTcpServer port;
+  ASSERT_TRUE(port.listen(QHostAddress::LocalHost) && QDir(m_folder.path({})).mkdir(u"printed"_s));
+  const QString address = u"127.0.0.1:%1"_s.arg(port.serverPort());
+  port.close();
+  DemoProcess printer(m_folder,
+                      u"env DBUS_SYSTEM_BUS_ADDRESS=unix:path=%1/bus ippeveprinter -k -r off -d "
+                      "%1/printed -f application/pdf -p "_s +
+                          address.section(u':', 1) + u" Sample"_s);
+  waitFor(
+      [&] { return run(u"-h %1 --list"_s.arg(address)).err.contains(u"operation"_s, Qt::CaseInsensitive); });
+  const QString uri = u"ipp://%1/ipp/print"_s.arg(address);
+  const auto printed = [this] { return QDir(m_folder.path(u"printed"_s)).entryList({u"*.pdf"_s}).size(); };
+  const LpRun direct = lp(u"-d %1 -o media=A4,labels -o document-format=application/pdf DOCUMENT"_s.arg(uri));
+  EXPECT_EQ(direct.out, u"request id is %1-1 (1 file(s))\n"_s.arg(uri)) << direct.err;
+  waitFor([&] { return printed() == 1; });
+  const QString backend = m_folder.path(u"run/cups/bin/backend/ipp"_s);
+  ASSERT_TRUE(QFile::copy(u"/usr/lib/cups/backend/ipp"_s, backend));
+  QFile::setPermissions(backend, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  ofPrintSystem(u"/usr/sbin/lpadmin -p Sample -E -v "_s + uri);
+  expectPrinted(u"-d Sample -o document-format=application/pdf DOCUMENT"_s);
+  waitFor([&] { return printed() == 2; });
+}
+
 TEST_F(PrintTest, ListsFoldersAndKeepsOnlyItsOwn) {
   const QString saved = u"--dry-run --hold only --save-preset p --folder invoices"_s;
   EXPECT_EQ(lp(saved).code, 0);
@@ -229,7 +256,9 @@ TEST_F(PrintTest, ListsFoldersAndKeepsOnlyItsOwn) {
   m_folder.write(u"vwxyz.xml"_s, "<e><b><r><files><f><name>Foreign</name></f></files></r></b></e>");
   const LpRun unreached = lp(u"--folders --address 127.0.0.1:1"_s);
   EXPECT_EQ(unreached.code, 1);
-  EXPECT_EQ(unreached.err, u"Could not retrieve Folder Names.\n"_s);
+  EXPECT_EQ(
+      unreached.err,
+      u"Could not retrieve Folder Names.\nkesto-lp: no folder list from 127.0.0.1:1: connection refused\n"_s);
   EXPECT_EQ(unreached.out, QString()) << "the earlier list";
   const Domain kept = preferences().persistentDomainForName(u"kesto.mfp.Office_MFP"_s);
   EXPECT_EQ(kept.values.value()[u"Job Handling"_s][u"files"_s][0][u"name"_s], u"Invoices"_s)
