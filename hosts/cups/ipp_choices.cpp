@@ -12,7 +12,7 @@ namespace {
 const QString paperKey = QStringLiteral("PageSize");
 constexpr double unitsPerMillimetre = 100;  // libcups counts hundredths
 // The greatest difference of paper lengths that count as equal, in those units.
-constexpr int sizeTolerance = 70;
+constexpr int paperTolerance = 70;
 
 struct Row {
   const char* key;        // the PPD's option
@@ -164,7 +164,7 @@ QString IppChoices::paperChoice(const QString& name) const {
       size ? millimetresOf(*size)
            : std::pair(media->width / unitsPerMillimetre, media->length / unitsPerMillimetre);
   const auto isAbout = [](double one, int other) {
-    return std::abs(one * unitsPerMillimetre - other) <= sizeTolerance;
+    return std::abs(one * unitsPerMillimetre - other) <= paperTolerance;
   };
   const auto isSize = [&, width = width, height = height](const QString& each) {
     const pwg_media_t* listed = mediaOf(each);

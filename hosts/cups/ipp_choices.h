@@ -1,6 +1,7 @@
 // What a printer without a PPD offers for the options of a job.
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "hosts/cups/ipp_reply.h"
@@ -53,7 +54,7 @@ class IppChoices : public QueueChoices {
   std::vector<Option> m_options;
   QMap<QString, QString> m_marked;
   std::optional<CustomLimits> m_custom;
-  double m_margins[4] = {};  // left, right, top, bottom, in millimetres
+  std::array<double, 4> m_margins{};  // left, right, top, bottom, in millimetres
 };
 
 }  // namespace kesto

@@ -16,8 +16,6 @@ const QString pageSize = QStringLiteral("PageSize");
 constexpr float sizeTolerance = 2;
 constexpr double pointsPerUnit = 72.0 / 2540;  // libcups's units are hundredths of a millimetre
 
-constexpr double millimetresPerPoint = 25.4 / 72;
-
 std::span<const ppd_choice_t> choicesOf(const ppd_option_t& option) {
   return {option.choices, static_cast<std::size_t>(option.num_choices)};
 }

@@ -44,6 +44,7 @@ struct QueueSummary {
   QString model;                   ///< Of the printer.
   QStringList stateReasons{};      ///< The keywords of "printer-state-reasons".
   std::vector<Supply> supplies{};  ///< Empty when the printer names none.
+  bool isOnNetwork = false;        ///< No queue yet: the printer announces itself on the network.
 };
 
 /// One print server. Every operation ends in time and uses no more memory than `bounds.h` allows, whatever

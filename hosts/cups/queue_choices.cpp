@@ -6,8 +6,6 @@
 namespace kesto {
 namespace {
 
-constexpr double millimetresPerPoint = 25.4 / 72;
-
 double pointsOf(const QString& unit) {
   static const QMap<QString, double> points{
       {QStringLiteral("pt"), 1},         {QStringLiteral("in"), 72},

@@ -11,6 +11,9 @@
 
 namespace kesto {
 
+/// The point is the unit of PPDs.
+inline constexpr double millimetresPerPoint = 25.4 / 72;
+
 /// One value of an option.
 struct OptionChoice {
   QString keyword;

@@ -1,23 +1,27 @@
 #include "hosts/cups/queue_client.h"
 
+#include "hosts/cups/network_printers.h"
+
 namespace kesto {
 
-void QueueClient::open(const QString& name) {
+void QueueClient::open(const QString& name, const std::optional<QueueSummary>& announced) {
   const int request = ++m_request;
-  m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, server = m_server, name, request] {
-    Queue queue;
-    std::unique_ptr<PrintServer> connection;
-    Outcome opened = server.forQueue(name).connect(&connection, watchdog);
-    if (opened) opened = openQueue(*connection, name, &queue);
-    mailbox->answer([this, request, queue = std::move(queue), opened]() mutable {
-      if (request != m_request) return;
-      if (opened) {
-        Q_EMIT this->opened(queue);
-      } else {
-        Q_EMIT openFailed(opened.reason());
-      }
-    });
-  });
+  m_thread.post(
+      [this, mailbox = m_mailbox, watchdog = m_watchdog, server = m_server, name, announced, request] {
+        Queue queue;
+        std::unique_ptr<PrintServer> connection;
+        Outcome opened = server.forQueue(name).connect(&connection, watchdog);
+        if (opened && announced) opened = makeQueue(*connection, *announced);
+        if (opened) opened = openQueue(*connection, name, &queue);
+        mailbox->answer([this, request, queue = std::move(queue), opened]() mutable {
+          if (request != m_request) return;
+          if (opened) {
+            Q_EMIT this->opened(queue);
+          } else {
+            Q_EMIT openFailed(opened.reason());
+          }
+        });
+      });
 }
 
 void QueueClient::checkPrivacy(const QString& name) {

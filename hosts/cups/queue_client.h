@@ -22,8 +22,8 @@ class QueueClient : public QObject {
   ~QueueClient() override { m_mailbox->close(); }
 
   /// Opens a queue, the user's default one when `name` is null. The result of an earlier call is no longer
-  /// reported.
-  void open(const QString& name);
+  /// reported. For a printer on the network the server first makes the queue.
+  void open(const QString& name, const std::optional<QueueSummary>& announced = {});
   /// Sends a job to the queue `name`.
   void send(const QString& name, const PrintJob& job);
   /// Finds out what other users see of a job on the queue `name`.

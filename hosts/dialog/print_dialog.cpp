@@ -63,6 +63,7 @@ void PrintDialog::start() {
   m_options.documentLater || m_isSuggested ? m_opening.suggest(m_options.queue)
                                            : m_opening.start(m_options.queue);
   nameSoon();
+  m_network.start();
 }
 
 const QueueListModel& PrintDialog::queues() const {

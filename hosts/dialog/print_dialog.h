@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "hosts/cups/network_watch.h"
 #include "hosts/dialog/desktop_notice.h"
 #include "hosts/dialog/dialog_memory.h"
 #include "hosts/dialog/document.h"
@@ -162,6 +163,7 @@ class PrintDialog : public QDialog {
   DialogFoot* m_foot = nullptr;
   PasswordAsking m_passwords;
   QueueWatch m_watch;
+  NetworkWatch m_network;
   QueueClient m_client;
   QueueOpening m_opening;
   JobSending m_sending;

@@ -124,6 +124,7 @@ void PrintDialog::connectQueues() {
     m_chooser->removeQueue(name);
     m_opening.takeChange();
   });
+  connect(&m_network, &NetworkWatch::changed, m_chooser, &QueueChooser::setNetwork);
   connect(&m_watch, &QueueWatch::failed, this, &PrintDialog::offerPdf);
   connect(&m_watch, &QueueWatch::failed, &m_opening, &QueueOpening::takeListFault);
   connect(m_chooser, &QueueChooser::chosen, this, &PrintDialog::chooseQueue);

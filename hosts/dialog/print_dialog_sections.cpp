@@ -88,7 +88,8 @@ QString PrintDialog::fetchText() const {
   if (panel == nullptr || panel->lastFolderFetch() != FolderFetch::Listed) return {};
   const std::size_t count = panel->folders().value_or(std::vector<FolderEntry>()).size();
   const QString printer = shownText(m_opening.wanted());
-  return count == 1 ? tr("1 folder from %1").arg(printer) : tr("%1 folders from %2").arg(count).arg(printer);
+  return count == 1 ? tr("1 folder from %1").arg(printer)
+                    : tr("%n folders from %1", nullptr, static_cast<int>(count)).arg(printer);
 }
 
 QWidget* PrintDialog::makeSummary(QWidget* parent) {

@@ -54,7 +54,8 @@ void QueueOpening::reset() {
 
 void QueueOpening::ask() {
   Q_EMIT changed();
-  m_client.open(m_wanted);
+  const QueueSummary* known = m_queues.queue(m_wanted);
+  m_client.open(m_wanted, known != nullptr && known->isOnNetwork ? std::optional(*known) : std::nullopt);
 }
 
 void QueueOpening::take(Queue queue) {

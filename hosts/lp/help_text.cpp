@@ -16,7 +16,8 @@ Prints files, or standard input, with a printer's Job Handling.
   --dry-run                 print the job's settings and send nothing; keep only
                             what --remember, --forget or --save-preset ask for
   --summary                 print the panel's summary, not the settings
-  --list [--job-handling]   list the queues, or those that offer Job Handling
+  --list [--job-handling] [--network]   list the queues, or those that offer Job
+                            Handling, and the printers on the network
   --folders [--address A]   fetch, keep and list the printer's folders
   --check QUEUE             show what other users of the server see of a job's
                             options, and how to hide it

@@ -2,7 +2,9 @@
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
+#include <algorithm>
 #include <iostream>
+#include <iterator>
 
 #include "hosts/cups/job_privacy.h"
 #include "hosts/cups/ppd_file.h"
@@ -25,12 +27,14 @@ QJsonObject jsonOf(const QueueSummary& queue) {
           {QStringLiteral("model"), queue.model},
           {QStringLiteral("location"), queue.location},
           {QStringLiteral("jobs"), queue.jobs},
+          {QStringLiteral("network"), queue.isOnNetwork},
           {QStringLiteral("message"), queue.stateMessage},
           {QStringLiteral("reasons"), QJsonArray::fromStringList(queue.stateReasons)}};
 }
 
 // The state in words: "stopped, not accepting jobs, out of paper, 3 jobs".
 QString stateOf(const QueueSummary& queue) {
+  if (queue.isOnNetwork) return QStringLiteral("on the network");
   QStringList parts{queue.state};
   if (!queue.isAccepting) parts.append(QStringLiteral("not accepting jobs"));
   for (const PrinterReason& reason : printerReasons(queue.stateReasons))
@@ -108,12 +112,17 @@ Outcome fetchFolders(PanelView& view, const QString& address) {
                                  : Outcome::failed(QStringLiteral("\"%1\" is not an address").arg(known));
 }
 
-Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json) {
+Outcome printQueues(PrintServer& server, const std::vector<QueueSummary>& network, bool jobHandlingOnly,
+                    bool json) {
   std::vector<QueueSummary> queues;
   if (Outcome listed = server.listQueues(&queues); !listed) return listed;
   if (jobHandlingOnly) {
     if (Outcome kept = keepJobHandling(server, &queues); !kept) return kept;
   }
+  const std::vector<QueueSummary> listed = queues;
+  std::ranges::copy_if(network, std::back_inserter(queues), [&](const QueueSummary& each) {
+    return std::ranges::find(listed, each.name, &QueueSummary::name) == listed.end();
+  });
   if (json) {
     QJsonArray array;
     for (const QueueSummary& queue : queues)

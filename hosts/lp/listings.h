@@ -19,9 +19,10 @@ Outcome printPairs(const QMap<QString, QString>& pairs, const char* separator, b
 /// Prints the names of a queue's presets, a line each or as one JSON array.
 Outcome printPresets(const PresetStore& store, bool json);
 
-/// Prints the server's queues, a line each or as one JSON array; with `jobHandlingOnly` only those whose PPD
-/// offers the panel, which needs each queue's PPD.
-Outcome printQueues(PrintServer& server, bool jobHandlingOnly, bool json);
+/// Prints the server's queues, and the printers of `network`, which have none, a line each or as one JSON
+/// array; with `jobHandlingOnly` only those queues whose PPD offers the panel, which needs each queue's PPD.
+Outcome printQueues(PrintServer& server, const std::vector<QueueSummary>& network, bool jobHandlingOnly,
+                    bool json);
 
 /// Prints what other users of the server see of a job on the queue, and the policy lines that prevent it.
 void printPrivacy(const QString& queue, const JobPrivacy& privacy, bool json);

@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "hosts/command/secret_input.h"
+#include "hosts/cups/network_printers.h"
 #include "hosts/cups/option_array.h"
 #include "hosts/cups/queue.h"
 #include "hosts/lp/job_waiting.h"
@@ -60,7 +61,7 @@ Outcome findQueue(const Options& options, JobQueue* found) {
   }
   const QString name = options.queue.value_or(QString());
   if (Outcome connected = options.server.forQueue(name).connect(&found->server); !connected) return connected;
-  return openQueue(*found->server, name, &queue);
+  return openOrMakeQueue(*found->server, name, options.server.limit, &queue);
 }
 
 Outcome readSecrets(const Options& options, Entries* entries) {
@@ -226,9 +227,11 @@ ExitCode runPresets(const Options& options) {
 }
 
 ExitCode runQueueList(const Options& options) {
+  std::vector<QueueSummary> network;
+  if (options.network) network = networkPrinters(options.server.limit);
   std::unique_ptr<PrintServer> server;
   if (Outcome connected = options.server.connect(&server); !connected) return ended(options, connected);
-  return ended(options, printQueues(*server, options.jobHandlingOnly, options.json));
+  return ended(options, printQueues(*server, network, options.jobHandlingOnly, options.json));
 }
 
 ExitCode runCheck(const Options& options) {

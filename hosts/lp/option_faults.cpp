@@ -20,6 +20,7 @@ QString faultOfTask(const Options& options) {
   const Task task = options.task;
   if (options.jobHandlingOnly && task != Task::ListQueues)
     return QStringLiteral("--job-handling requires --list");
+  if (options.network && task != Task::ListQueues) return QStringLiteral("--network requires --list");
   if (options.address && task != Task::ListFolders) return QStringLiteral("--address requires --folders");
   if (options.summary && task != Task::DryRun) return QStringLiteral("--summary requires --dry-run");
   if (options.restart && task != Task::Change) return QStringLiteral("-H restart requires -i JOB");

@@ -143,6 +143,7 @@ void CommandLine::addServer() {
   addTask("--list", Task::ListQueues);
   addNamedTask("--check", Task::Check, &m_options.queue);
   m_app.add_flag("--job-handling", m_options.jobHandlingOnly);
+  m_app.add_flag("--network", m_options.network);
 }
 
 CLI::Option* CommandLine::addUsualOption(const std::string& names, const char* jobOption) {

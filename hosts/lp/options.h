@@ -49,6 +49,7 @@ struct Options {
   bool silent = false;
   bool summary = false;
   bool jobHandlingOnly = false;    ///< Of the queues to list.
+  bool network = false;            ///< List the printers on the network as well.
   std::optional<QString> address;  ///< The printer's, for its folders.
   std::optional<QString> deletedPreset;
 

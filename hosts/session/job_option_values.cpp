@@ -133,7 +133,8 @@ QString choiceFor(const QueueChoices& choices, const QString& option, const QStr
   }
   // A PPD's name for a value of a printer without a PPD.
   const QString standard = standardValueOf(option, value);
-  if (QString choice = standard.isNull() ? QString() : find(standard, plain); !choice.isNull()) return choice;
+  if (QString choice = standard.isNull() ? QString() : find(standard, plainName); !choice.isNull())
+    return choice;
   return choices.takesCustom(option) && value.startsWith(u"Custom.") ? value : QString();
 }
 

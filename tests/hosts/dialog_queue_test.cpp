@@ -204,6 +204,38 @@ TEST_F(DialogPrint, WhatThePrinterReportsIsSaidByItsSeverity) {
   await([] { return QApplication::activePopupWidget() == nullptr; }, u"the end of the details"_s);
 }
 
+TEST_F(DialogPrint, PrintersOnTheNetworkStandBelowTheQueuesWhileTheyHaveNone) {
+  const auto named = [](const QString& name, bool isOnNetwork) {
+    QueueSummary queue;
+    queue.name = name;
+    queue.location = isOnNetwork ? u"Attic"_s : QString();
+    queue.isOnNetwork = isOnNetwork;
+    return queue;
+  };
+  QueueListModel model;
+  const auto rows = [&] {
+    QStringList rows;
+    for (int row = 0; row < model.rowCount(); ++row) {
+      const QString name = model.index(row).data(QueueListModel::NameRole).toString();
+      EXPECT_TRUE(name.isEmpty() || model.rowOf(name) == row) << name;
+      EXPECT_EQ(model.flags(model.index(row)).testFlag(Qt::ItemIsSelectable), !name.isEmpty());
+      rows.append(model.index(row).data().toString());
+    }
+    return rows.join(u'|');
+  };
+  model.setQueues({named(u"b"_s, false)});
+  model.setNetwork({named(u"a"_s, true), named(u"b"_s, true)});
+  model.offerPdf();
+  EXPECT_EQ(rows(), u"b|On the network|a — Attic|Save as PDF"_s);
+  EXPECT_TRUE(model.queue(u"a"_s)->isOnNetwork && !model.queue(u"b"_s)->isOnNetwork);
+  model.setQueue(named(u"a"_s, false));
+  EXPECT_EQ(rows(), u"a|b|Save as PDF"_s);
+  model.removeQueue(u"b"_s);
+  EXPECT_EQ(rows(), u"a|On the network|b — Attic|Save as PDF"_s);
+  model.setNetwork({});
+  EXPECT_EQ(rows(), u"a|Save as PDF"_s);
+}
+
 TEST_F(DialogPrint, AQueueWithoutThePanelPrintsWithItsOwnOptions) {
   startPrinter({u"--queues"_s, u"2"_s});
   changePpd(u"Office_MFP_0002"_s, "*APDialogExtension", "*% none");

@@ -202,6 +202,7 @@ TEST_F(PrintTest, ListsQueues) {
                                     {u"location"_s, u""_s},
                                     {u"message"_s, u""_s},
                                     {u"model"_s, u"KESTO VQ-250n PS"_s},
+                                    {u"network"_s, false},
                                     {u"reasons"_s, QJsonArray{u"none"_s}},
                                     {u"queue"_s, u"Office_MFP"_s},
                                     {u"state"_s, u"idle"_s}}}));

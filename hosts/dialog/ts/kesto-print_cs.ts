@@ -528,6 +528,10 @@
         <source>Selection</source>
         <translation>Výběr</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Dokončování</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1607,6 +1611,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>tiskárna „%1“ požaduje heslo</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>tiskárnu „%1“ nelze nastavit: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>tiskárna neodpovídá</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>adresa je neznámá</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>spojení odmítnuto</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>spojení bylo ukončeno</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>včas nepřišla odpověď</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>odpověď nelze přečíst</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>tiskárna není dostupná</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>žádný seznam složek z %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2145,6 +2185,18 @@
         <source>Show</source>
         <translation>Zobrazit</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 složka z %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n složka z %1</numerusform>
+            <numerusform>%n složky z %1</numerusform>
+            <numerusform>%n složek z %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2265,6 +2317,10 @@
             <numerusform>%n úlohy čekají</numerusform>
             <numerusform>%n úloh čeká</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>V síti</translation>
     </message>
 </context>
 <context>

@@ -527,6 +527,10 @@
             <numerusform>%n Exemplare</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Weiterverarbeitung</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1604,6 +1608,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>der Drucker „%1“ verlangt ein Passwort</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>der Drucker „%1“ kann nicht eingerichtet werden: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>der Drucker antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>die Adresse ist unbekannt</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>Verbindung verweigert</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>die Verbindung wurde beendet</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>keine rechtzeitige Antwort</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>die Antwort ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>der Drucker ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>keine Ordnerliste von %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2139,6 +2179,17 @@
         <source>Show</source>
         <translation>Anzeigen</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 Ordner von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n Ordner von %1</numerusform>
+            <numerusform>%n Ordner von %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2258,6 +2309,10 @@
             <numerusform>%n Auftrag wartet</numerusform>
             <numerusform>%n Aufträge warten</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>Im Netzwerk</translation>
     </message>
 </context>
 <context>

@@ -527,6 +527,10 @@
         <source>Selection</source>
         <translation>Επιλογή</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Φινίρισμα</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1604,6 +1608,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>ο εκτυπωτής «%1» ζητά κωδικό πρόσβασης</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>δεν είναι δυνατή η ρύθμιση του εκτυπωτή «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>ο εκτυπωτής δεν αποκρίνεται</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>η διεύθυνση είναι άγνωστη</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>η σύνδεση απορρίφθηκε</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>η σύνδεση έκλεισε</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>καμία έγκαιρη απόκριση</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>η απόκριση δεν μπορεί να διαβαστεί</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>δεν είναι δυνατή η πρόσβαση στον εκτυπωτή</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>καμία λίστα φακέλων από %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2139,6 +2179,17 @@
         <source>Show</source>
         <translation>Εμφάνιση</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 φάκελος από %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n φάκελος από %1</numerusform>
+            <numerusform>%n φάκελοι από %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2258,6 +2309,10 @@
             <numerusform>%n εργασία σε αναμονή</numerusform>
             <numerusform>%n εργασίες σε αναμονή</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>Στο δίκτυο</translation>
     </message>
 </context>
 <context>

@@ -527,6 +527,10 @@
             <numerusform>%n copias</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabado</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1604,6 +1608,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>la impresora «%1» pide una contraseña</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>no se puede configurar la impresora «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>la impresora no responde</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>la dirección es desconocida</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>conexión rechazada</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>la conexión se cerró</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>no hubo respuesta a tiempo</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>la respuesta no se puede leer</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>no se puede acceder a la impresora</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>no hay lista de carpetas de %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2139,6 +2179,17 @@
         <source>Show</source>
         <translation>Mostrar</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 carpeta de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n carpeta de %1</numerusform>
+            <numerusform>%n carpetas de %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2258,6 +2309,10 @@
             <numerusform>%n trabajo en espera</numerusform>
             <numerusform>%n trabajos en espera</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>En la red</translation>
     </message>
 </context>
 <context>

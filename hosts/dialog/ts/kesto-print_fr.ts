@@ -527,6 +527,10 @@
             <numerusform>%n copies</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finition</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1604,6 +1608,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>l’imprimante «&#xa0;%1&#xa0;» demande un mot de passe</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>impossible de configurer l’imprimante «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>l’imprimante ne répond pas</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>l’adresse est inconnue</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>connexion refusée</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>la connexion a été fermée</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>pas de réponse dans le délai</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>la réponse est illisible</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>l’imprimante est injoignable</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>pas de liste de dossiers de %1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2139,6 +2179,17 @@
         <source>Show</source>
         <translation>Afficher</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 dossier de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n dossier de %1</numerusform>
+            <numerusform>%n dossiers de %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2258,6 +2309,10 @@
             <numerusform>%n travail en attente</numerusform>
             <numerusform>%n travaux en attente</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>Sur le réseau</translation>
     </message>
 </context>
 <context>

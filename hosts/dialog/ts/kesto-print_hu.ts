@@ -526,6 +526,10 @@
         <source>Selection</source>
         <translation>Kijelölés</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Utómunka</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1601,6 +1605,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>a(z) „%1” nyomtató jelszót kér</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>a(z) „%1” nyomtató nem állítható be: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>a nyomtató nem válaszol</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>a cím ismeretlen</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>a kapcsolat elutasítva</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>a kapcsolat megszakadt</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>nem érkezett időben válasz</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>a válasz nem olvasható</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>a nyomtató nem érhető el</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>nincs mappalista innen: %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2133,6 +2173,16 @@
         <source>Show</source>
         <translation>Megjelenítés</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 mappa innen: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n mappa innen: %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2251,6 +2301,10 @@
         <translation>
             <numerusform>%n feladat várakozik</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>A hálózaton</translation>
     </message>
 </context>
 <context>

@@ -527,6 +527,10 @@
         <source>Selection</source>
         <translation>Selezione</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finitura</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1604,6 +1608,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>la stampante «%1» chiede una password</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>impossibile configurare la stampante «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>la stampante non risponde</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>l’indirizzo è sconosciuto</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>connessione rifiutata</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>la connessione è stata chiusa</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>nessuna risposta in tempo</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>la risposta non è leggibile</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>la stampante non è raggiungibile</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>nessun elenco di cartelle da %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2139,6 +2179,17 @@
         <source>Show</source>
         <translation>Mostra</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 cartella da %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n cartella da %1</numerusform>
+            <numerusform>%n cartelle da %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2258,6 +2309,10 @@
             <numerusform>%n lavoro in attesa</numerusform>
             <numerusform>%n lavori in attesa</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>In rete</translation>
     </message>
 </context>
 <context>

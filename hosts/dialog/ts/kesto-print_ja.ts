@@ -526,6 +526,10 @@
             <numerusform>%n 部</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>仕上げ</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1601,6 +1605,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>プリンター「%1」がパスワードを求めています</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>プリンター「%1」を設定できません: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>プリンターが応答しません</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>アドレスが不明です</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>接続が拒否されました</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>接続が切断されました</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>時間内に応答がありませんでした</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>応答を読み取れません</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>プリンターに接続できません</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>%1 からフォルダー一覧を取得できません: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2133,6 +2173,16 @@
         <source>Show</source>
         <translation>表示</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>%1 から 1 個のフォルダーを取得しました</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%1 から %n 個のフォルダーを取得しました</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2251,6 +2301,10 @@
         <translation>
             <numerusform>%n 件のジョブが待機中</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>ネットワーク上</translation>
     </message>
 </context>
 <context>

@@ -526,6 +526,10 @@
         <source>Selection</source>
         <translation>선택 영역</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>후처리</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1601,6 +1605,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>프린터 “%1”이(가) 암호를 요구합니다</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>프린터 “%1”을(를) 설정할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>프린터가 응답하지 않습니다</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>주소를 알 수 없습니다</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>연결이 거부되었습니다</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>연결이 닫혔습니다</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>제시간에 응답이 없습니다</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>응답을 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>프린터에 연결할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>%1의 폴더 목록이 없습니다: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2133,6 +2173,16 @@
         <source>Show</source>
         <translation>표시</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>%1의 폴더 1개</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%1의 폴더 %n개</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2251,6 +2301,10 @@
         <translation>
             <numerusform>작업 %n개 대기 중</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>네트워크</translation>
     </message>
 </context>
 <context>

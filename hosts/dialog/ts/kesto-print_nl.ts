@@ -527,6 +527,10 @@
         <source>Selection</source>
         <translation>Selectie</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Afwerking</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1604,6 +1608,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>de printer ‘%1’ vraagt om een wachtwoord</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>de printer ‘%1’ kan niet worden ingesteld: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>de printer antwoordt niet</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>het adres is onbekend</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>verbinding geweigerd</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>de verbinding is verbroken</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>geen antwoord op tijd</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>het antwoord is onleesbaar</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>de printer is niet bereikbaar</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>geen mappenlijst van %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2139,6 +2179,17 @@
         <source>Show</source>
         <translation>Tonen</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 map van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n map van %1</numerusform>
+            <numerusform>%n mappen van %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2258,6 +2309,10 @@
             <numerusform>%n taak in de wachtrij</numerusform>
             <numerusform>%n taken in de wachtrij</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>In het netwerk</translation>
     </message>
 </context>
 <context>

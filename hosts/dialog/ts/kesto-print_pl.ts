@@ -528,6 +528,10 @@
         <source>Selection</source>
         <translation>Zaznaczenie</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Wykończenie</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1607,6 +1611,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>drukarka „%1” prosi o hasło</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>nie można skonfigurować drukarki „%1”: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>drukarka nie odpowiada</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>adres jest nieznany</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>połączenie odrzucone</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>połączenie zostało zamknięte</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>brak odpowiedzi na czas</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>nie można odczytać odpowiedzi</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>drukarka jest nieosiągalna</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>brak listy folderów z %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2145,6 +2185,18 @@
         <source>Show</source>
         <translation>Pokaż</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 folder z %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n folder z %1</numerusform>
+            <numerusform>%n foldery z %1</numerusform>
+            <numerusform>%n folderów z %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2265,6 +2317,10 @@
             <numerusform>%n zadania oczekują</numerusform>
             <numerusform>%n zadań oczekuje</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>W sieci</translation>
     </message>
 </context>
 <context>

@@ -527,6 +527,10 @@
         <source>Selection</source>
         <translation>Seleção</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabamento</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1604,6 +1608,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>a impressora “%1” pede uma senha</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>não é possível configurar a impressora “%1”: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>a impressora não responde</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>o endereço é desconhecido</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>conexão recusada</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>a conexão foi encerrada</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>nenhuma resposta a tempo</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>a resposta não pode ser lida</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>a impressora não pode ser acessada</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>nenhuma lista de pastas de %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2139,6 +2179,17 @@
         <source>Show</source>
         <translation>Mostrar</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 pasta de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n pasta de %1</numerusform>
+            <numerusform>%n pastas de %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2258,6 +2309,10 @@
             <numerusform>%n trabalho aguardando</numerusform>
             <numerusform>%n trabalhos aguardando</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>Na rede</translation>
     </message>
 </context>
 <context>

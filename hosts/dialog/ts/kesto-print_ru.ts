@@ -528,6 +528,10 @@
         <source>Selection</source>
         <translation>Выделение</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Отделка</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1607,6 +1611,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>принтер «%1» запрашивает пароль</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>не удаётся настроить принтер «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>принтер не отвечает</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>адрес неизвестен</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>в соединении отказано</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>соединение закрыто</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>ответ не получен вовремя</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>не удаётся прочитать ответ</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>принтер недоступен</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>нет списка папок от %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2145,6 +2185,18 @@
         <source>Show</source>
         <translation>Показать</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 папка от %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n папка от %1</numerusform>
+            <numerusform>%n папки от %1</numerusform>
+            <numerusform>%n папок от %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2265,6 +2317,10 @@
             <numerusform>%n задания ожидают</numerusform>
             <numerusform>%n заданий ожидают</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>В сети</translation>
     </message>
 </context>
 <context>

@@ -527,6 +527,10 @@
         <source>Selection</source>
         <translation>Markering</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Efterbehandling</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1604,6 +1608,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>skrivaren ”%1” begär ett lösenord</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>det går inte att konfigurera skrivaren ”%1”: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>skrivaren svarar inte</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>adressen är okänd</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>anslutningen nekades</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>anslutningen stängdes</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>inget svar i tid</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>svaret går inte att läsa</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>skrivaren kan inte nås</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>ingen mapplista från %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2139,6 +2179,17 @@
         <source>Show</source>
         <translation>Visa</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>1 mapp från %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%n mapp från %1</numerusform>
+            <numerusform>%n mappar från %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2258,6 +2309,10 @@
             <numerusform>%n jobb väntar</numerusform>
             <numerusform>%n jobb väntar</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>I nätverket</translation>
     </message>
 </context>
 <context>

@@ -526,6 +526,10 @@
         <source>Selection</source>
         <translation>Seçim</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Sonlandırma</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1601,6 +1605,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>“%1” yazıcısı parola istiyor</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>“%1” yazıcısı ayarlanamıyor: %2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>yazıcı yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>adres bilinmiyor</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>bağlantı reddedildi</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>bağlantı kapatıldı</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>zamanında yanıt gelmedi</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>yanıt okunamıyor</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>yazıcıya ulaşılamıyor</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>%1 konumundan klasör listesi alınamadı: %2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2133,6 +2173,16 @@
         <source>Show</source>
         <translation>Göster</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>%1 konumundan 1 klasör</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>%1 konumundan %n klasör</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2251,6 +2301,10 @@
         <translation>
             <numerusform>%n iş bekliyor</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>Ağda</translation>
     </message>
 </context>
 <context>

@@ -526,6 +526,10 @@
             <numerusform>%n 份</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>装订</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1601,6 +1605,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>打印机“%1”要求输入密码</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>无法设置打印机“%1”：%2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>打印机没有响应</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>地址未知</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>连接被拒绝</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>连接已关闭</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>未及时响应</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>无法读取响应</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>无法连接打印机</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>无法从 %1 获取文件夹列表：%2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2133,6 +2173,16 @@
         <source>Show</source>
         <translation>显示</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>来自 %1 的 1 个文件夹</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>来自 %1 的 %n 个文件夹</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2251,6 +2301,10 @@
         <translation>
             <numerusform>%n 个作业正在等待</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>网络上的打印机</translation>
     </message>
 </context>
 <context>

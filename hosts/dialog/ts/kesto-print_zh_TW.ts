@@ -526,6 +526,10 @@
         <source>Selection</source>
         <translation>選取範圍</translation>
     </message>
+    <message>
+        <source>Finishing</source>
+        <translation>裝訂</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -1601,6 +1605,42 @@
         <source>the printer &quot;%1&quot; asks for a password</source>
         <translation>印表機「%1」要求密碼</translation>
     </message>
+    <message>
+        <source>cannot set up the printer &quot;%1&quot;: %2</source>
+        <translation>無法設定印表機「%1」：%2</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>印表機沒有回應</translation>
+    </message>
+    <message>
+        <source>the address is unknown</source>
+        <translation>位址不明</translation>
+    </message>
+    <message>
+        <source>connection refused</source>
+        <translation>連線被拒絕</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>連線已關閉</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>未及時回應</translation>
+    </message>
+    <message>
+        <source>the answer cannot be read</source>
+        <translation>無法讀取回應</translation>
+    </message>
+    <message>
+        <source>the printer cannot be reached</source>
+        <translation>無法連線到印表機</translation>
+    </message>
+    <message>
+        <source>no folder list from %1: %2</source>
+        <translation>沒有來自 %1 的資料夾清單：%2</translation>
+    </message>
 </context>
 <context>
     <name>kesto::HoldControl</name>
@@ -2133,6 +2173,16 @@
         <source>Show</source>
         <translation>顯示</translation>
     </message>
+    <message>
+        <source>1 folder from %1</source>
+        <translation>來自 %1 的 1 個資料夾</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders from %1</source>
+        <translation>
+            <numerusform>來自 %1 的 %n 個資料夾</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2251,6 +2301,10 @@
         <translation>
             <numerusform>%n 個工作正在等待</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>On the network</source>
+        <translation>網路上</translation>
     </message>
 </context>
 <context>

@@ -89,6 +89,13 @@ void QueueChooser::removeQueue(const QString& name) {
   update([&] { m_model.removeQueue(name); });
 }
 
+void QueueChooser::setNetwork(const std::vector<QueueSummary>& printers) {
+  update([&] {
+    m_model.setNetwork(printers);
+    offerFilter();
+  });
+}
+
 void QueueChooser::offerPdf() {
   update([this] { m_model.offerPdf(); });
 }

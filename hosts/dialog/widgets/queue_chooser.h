@@ -30,6 +30,7 @@ class QueueChooser : public QWidget {
   void setQueues(const std::vector<QueueSummary>& queues);
   void setQueue(const QueueSummary& queue);
   void removeQueue(const QString& name);
+  void setNetwork(const std::vector<QueueSummary>& printers);
   /// Adds "Save as PDF" to the list.
   void offerPdf();
   /// Shows `name` as the chosen queue, listed or not, instead of what was typed; emits nothing.

@@ -1,6 +1,7 @@
 #include "hosts/dialog/widgets/queue_list_model.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "hosts/session/printer_reasons.h"
 #include "platform/shown_text.h"
@@ -25,16 +26,28 @@ QString tipText(const QueueSummary& queue) {
 }  // namespace
 
 int QueueListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_queues.size()) + (m_offersPdf ? 1 : 0);
+  if (parent.isValid()) return 0;
+  const int network = m_shownNetwork.empty() ? 0 : 1 + static_cast<int>(m_shownNetwork.size());
+  return titleRow() + network + (m_offersPdf ? 1 : 0);
+}
+
+const QueueSummary& QueueListModel::at(int row) const {
+  return row < titleRow() ? m_queues[static_cast<std::size_t>(row)]
+                          : m_shownNetwork[static_cast<std::size_t>(row - titleRow() - 1)];
+}
+
+Qt::ItemFlags QueueListModel::flags(const QModelIndex& index) const {
+  return isTitle(index.row()) ? Qt::NoItemFlags : QAbstractListModel::flags(index);
 }
 
 QVariant QueueListModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= rowCount()) return {};
-  if (index.row() == std::ssize(m_queues)) {
-    const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
+  const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
+  if (isTitle(index.row())) return isText ? QVariant(tr("On the network")) : QVariant();
+  if (m_offersPdf && index.row() == rowCount() - 1) {
     return isText ? QVariant(tr("Save as PDF")) : role == NameRole ? QVariant(QString(pdfName)) : QVariant();
   }
-  const QueueSummary& queue = m_queues[static_cast<std::size_t>(index.row())];
+  const QueueSummary& queue = at(index.row());
   switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
@@ -51,7 +64,21 @@ QVariant QueueListModel::data(const QModelIndex& index, int role) const {
 void QueueListModel::setQueues(const std::vector<QueueSummary>& queues) {
   beginResetModel();
   m_queues = queues;
+  filterNetwork();
   endResetModel();
+}
+
+void QueueListModel::setNetwork(const std::vector<QueueSummary>& printers) {
+  beginResetModel();
+  m_network = printers;
+  filterNetwork();
+  endResetModel();
+}
+
+void QueueListModel::filterNetwork() {
+  m_shownNetwork.clear();
+  std::ranges::copy_if(m_network, std::back_inserter(m_shownNetwork),
+                       [this](const QueueSummary& each) { return !hasQueue(each.name); });
 }
 
 void QueueListModel::offerPdf() {
@@ -61,24 +88,31 @@ void QueueListModel::offerPdf() {
   endInsertRows();
 }
 
+bool QueueListModel::hasQueue(const QString& name) const {
+  const auto place = placeOf(name);
+  return place != m_queues.end() && place->name == name;
+}
+
 std::vector<QueueSummary>::const_iterator QueueListModel::placeOf(const QString& name) const {
   return std::ranges::lower_bound(m_queues, name, {}, &QueueSummary::name);
 }
 
 int QueueListModel::rowOf(const QString& name) const {
-  if (name == pdfName) return m_offersPdf ? static_cast<int>(m_queues.size()) : -1;
-  const auto place = placeOf(name);
-  return place != m_queues.end() && place->name == name ? static_cast<int>(place - m_queues.begin()) : -1;
+  if (name == pdfName) return m_offersPdf ? rowCount() - 1 : -1;
+  if (hasQueue(name)) return static_cast<int>(placeOf(name) - m_queues.begin());
+  const auto found = std::ranges::find(m_shownNetwork, name, &QueueSummary::name);
+  return found == m_shownNetwork.end() ? -1
+                                       : titleRow() + 1 + static_cast<int>(found - m_shownNetwork.begin());
 }
 
 const QueueSummary* QueueListModel::queue(const QString& name) const {
   const int row = rowOf(name);
-  return row < 0 || name == pdfName ? nullptr : &m_queues[static_cast<std::size_t>(row)];
+  return row < 0 || name == pdfName ? nullptr : &at(row);
 }
 
 void QueueListModel::setQueue(const QueueSummary& queue) {
-  const int row = rowOf(queue.name);
-  if (row >= 0) {
+  if (hasQueue(queue.name)) {
+    const int row = rowOf(queue.name);
     m_queues[static_cast<std::size_t>(row)] = queue;
     Q_EMIT dataChanged(index(row), index(row));
     return;
@@ -88,14 +122,16 @@ void QueueListModel::setQueue(const QueueSummary& queue) {
   beginInsertRows({}, at, at);
   m_queues.insert(place, queue);
   endInsertRows();
+  if (!m_network.empty()) setNetwork(m_network);
 }
 
 void QueueListModel::removeQueue(const QString& name) {
+  if (!hasQueue(name)) return;
   const int row = rowOf(name);
-  if (row < 0) return;
   beginRemoveRows({}, row, row);
   m_queues.erase(m_queues.begin() + row);
   endRemoveRows();
+  if (!m_network.empty()) setNetwork(m_network);
 }
 
 QString QueueListModel::stateOf(const QueueSummary& queue) {
