@@ -18,19 +18,49 @@ QString valueOf(const Credentials& credentials, const QString& name) {
   return name == u"password" ? credentials.password : credentials.user;
 }
 
+PasswordQuestion questionOf(const QString& queue, const QStringList& wanted) {
+  PasswordQuestion question{.subject = queue, .isPrinter = true, .wanted = wanted};
+  question.proposed.user = QString::fromUtf8(cupsUser());
+  return question;
+}
+
+Outcome ask(PrintServer& server, const PasswordQuestion& question, const std::optional<Credentials>& refused,
+            int* tries, QStringList* authInfo) {
+  Credentials credentials;
+  Outcome found = server.passwords()->find(question, refused, tries, &credentials);
+  if (!found) return found;
+  for (const QString& name : question.wanted)
+    authInfo->append(valueOf(credentials, name));
+  return found;
+}
+
 }  // namespace
 
 Outcome findAuthInfo(PrintServer& server, const QString& queue, ipp_t* printer, QStringList* authInfo) {
   const QStringList wanted = wantedBy(printer);
   if (wanted.isEmpty() || server.passwords() == nullptr) return Outcome::done();
-  PasswordQuestion question{.subject = queue, .isPrinter = true, .wanted = wanted};
-  question.proposed.user = QString::fromUtf8(cupsUser());
-  Credentials credentials;
   int tries = 0;
-  if (Outcome found = server.passwords()->find(question, {}, &tries, &credentials); !found) return found;
-  for (const QString& name : wanted)
-    authInfo->append(valueOf(credentials, name));
-  return Outcome::done();
+  return ask(server, questionOf(queue, wanted), {}, &tries, authInfo);
+}
+
+Outcome authenticateJob(PrintServer& server, const SentJob& job, int* tries) {
+  const QByteArray uri = uriOfQueue(job.queue);
+  const Ipp question = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uri);
+  ippAddString(question.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "auth-info-required");
+  Ipp printer;
+  if (Outcome asked = server.order(question.get(), "/", &printer); !asked) return asked;
+  const QStringList wanted = wantedBy(printer.get());
+  if (server.passwords() == nullptr || wanted.isEmpty())
+    return Outcome::failed(QStringLiteral("nobody can be asked for the password"));
+  const PasswordQuestion toUser = questionOf(job.queue, wanted);
+  QStringList authInfo;
+  if (Outcome asked = ask(server, toUser, server.passwords()->kept(toUser), tries, &authInfo); !asked)
+    return asked;
+  const Ipp request = requestTo(IPP_OP_CUPS_AUTHENTICATE_JOB, uri, job.number);
+  addAuthInfo(request.get(), authInfo);
+  Ipp reply;
+  return server.order(request.get(), "/jobs/", &reply);
 }
 
 void addAuthInfo(ipp_t* request, const QStringList& authInfo) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hosts/cups/print_server.h"
+#include "hosts/cups/sent_job.h"
 
 namespace kesto {
 
@@ -9,6 +10,11 @@ namespace kesto {
 /// "auth-info-required" names, kept or asked from the user. Empty when nothing has to be asked. Fails when
 /// the user gives no answer.
 Outcome findAuthInfo(PrintServer& server, const QString& queue, ipp_t* printer, QStringList* authInfo);
+
+/// Gives the scheduler what it needs to go on with a job that it holds because the printer refused the
+/// values, or had none: the user is asked again, which counts in `*tries`. Fails when the user gives no
+/// answer.
+Outcome authenticateJob(PrintServer& server, const SentJob& job, int* tries);
 
 /// Adds the values to a request, which must go out over a private connection.
 void addAuthInfo(ipp_t* request, const QStringList& authInfo);

@@ -3,6 +3,7 @@
 #include <QtCore/QDeadlineTimer>
 #include <algorithm>
 
+#include "hosts/cups/auth_info.h"
 #include "hosts/cups/faults.h"
 #include "hosts/cups/queue_events.h"
 
@@ -61,6 +62,7 @@ class JobFollower::Work {
   }
   Outcome askServer(std::optional<JobReport>* news, bool* isKnown) {
     if (Outcome connected = connect(); !connected) return connected;
+    authenticate();
     std::vector<ServerEvent> events;
     if (m_events) {
       if (Outcome taken = m_events->take(&events); !taken) return taken;
@@ -76,6 +78,14 @@ class JobFollower::Work {
     if (report && report != m_known) *news = report;
     m_known = report;
     return Outcome::done();
+  }
+  // Asks the user for what the printer wants to know; the next report shows what came of it.
+  void authenticate() {
+    const QString isHeld = QStringLiteral("cups-held-for-authentication");
+    if (m_isDeclined || !m_known || !m_known->reasons.contains(isHeld)) return;
+    m_isDeclined = !authenticateJob(*m_server, m_job, &m_tries);
+    m_known.reset();
+    m_patience.setRemainingTime(m_address.limit);
   }
   // An event says who has canceled a job, and is all that is left of a finished one without a history.
   void complete(std::optional<JobReport>* report) const {
@@ -96,10 +106,12 @@ class JobFollower::Work {
   ServerEvent m_last;                   // about the job
   std::optional<JobReport> m_known;
   int m_questions = 0;  // on this connection
+  int m_tries = 0;      // of a password for the printer
+  bool m_isDeclined = false;
 };
 
 JobFollower::JobFollower(const ServerAddress& server, const SentJob& job)
-    : m_work(std::make_shared<Work>(server, m_watchdog, job)),
+    : m_work(std::make_shared<Work>(server.forQueue(job.queue), m_watchdog, job)),
       m_thread([watchdog = m_watchdog] { watchdog->interrupt(); }) {
   m_pause.setInterval(pause);
   m_pause.setSingleShot(true);

@@ -21,7 +21,17 @@ Outcome failureOf(const PasswordQuestion& question, const QString& reason) {
   return Outcome::failed(reason.isEmpty() ? asks : asks + QStringLiteral(": ") + reason);
 }
 
+QString keyOf(const PasswordQuestion& question) {
+  return (question.isPrinter ? u'p' : u's') + question.subject;
+}
+
 }  // namespace
+
+std::optional<Credentials> PasswordKeeper::kept(const PasswordQuestion& question) {
+  const std::lock_guard lock(m_mutex);
+  const auto found = m_kept.find(keyOf(question));
+  return found == m_kept.end() ? std::nullopt : std::optional(*found);
+}
 
 void wipe(Credentials& credentials) {
   wipe(credentials.password);
@@ -35,7 +45,7 @@ PasswordKeeper::~PasswordKeeper() {
 Outcome PasswordKeeper::find(PasswordQuestion question, const std::optional<Credentials>& refused, int* tries,
                              Credentials* found) {
   const std::lock_guard lock(m_mutex);
-  const QString key = (question.isPrinter ? u'p' : u's') + question.subject;
+  const QString key = keyOf(question);
   const auto kept = m_kept.find(key);
   if (kept != m_kept.end() && *kept != refused) {
     *found = *kept;

@@ -54,6 +54,8 @@ class PasswordKeeper {
   /// this again.
   Outcome find(PasswordQuestion question, const std::optional<Credentials>& refused, int* tries,
                Credentials* found);
+  /// What is kept for the question; none when nothing is.
+  std::optional<Credentials> kept(const PasswordQuestion& question);
   /// Lets the user be asked again after a question that was not answered. Does not wait.
   void allowAgain() { ++m_round; }
 

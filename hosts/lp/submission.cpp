@@ -38,8 +38,12 @@ class ProgressLine {
   bool m_isShown = false;
 };
 
-PrintJob jobOf(const Options& options, const JobOptions& given, const QMap<QString, QString>& settings) {
-  PrintJob job{.title = titleOf(options), .files = {}, .options = given.asGiven()};
+// A printer that is its own server knows the standard's names alone.
+PrintJob jobOf(const Options& options, const QString& queue, const JobOptions& given,
+               const QMap<QString, QString>& settings) {
+  PrintJob job{.title = titleOf(options),
+               .files = {},
+               .options = isPrinterUri(queue) ? given.travelling() : given.asGiven()};
   job.isRaw = goesRaw(given);
   for (const QByteArray& file : options.files)
     job.files.push_back({.path = file});
@@ -68,7 +72,7 @@ bool goesRaw(const JobOptions& job) {
 
 Outcome submit(PrintServer& server, const QString& queue, const Options& options, const JobOptions& given,
                const QMap<QString, QString>& settings, int* id, QJsonObject facts) {
-  const PrintJob job = jobOf(options, given, settings);
+  const PrintJob job = jobOf(options, queue, given, settings);
   {
     // Ctrl-C cancels a job that is not whole; a second one does not wait for that.
     HeldSignals signals(SA_RESETHAND);

@@ -48,10 +48,15 @@ ippeveprinter -p 8631 -l Attic -d "$scratch" Sample >/dev/null 2>&1 &
 printer=$!
 children+=("$printer")
 
-"$bin/kesto-demo-printer" --dir "$scratch/run" --folder-port 0 >"$scratch/places" &
+chmod 711 "$scratch"  # for the account that runs jobs
+"$bin/kesto-demo-printer" --dir "$scratch/run" --folder-port 0 --json >"$scratch/places" &
 children+=($!)
-until [[ -S $scratch/run/server ]]; do sleep 0.1; done
-list() { "$bin/kesto-lp" -h "$scratch/run/server" --list --network --timeout 3; }
+for _ in {1..150}; do
+  server=$(sed -nE 's/.*"server": *"([^"]*)".*/\1/p' "$scratch/places")
+  if [[ $server ]]; then break; fi
+  sleep 0.1
+done
+list() { "$bin/kesto-lp" -h "$server" --list --network --timeout 3; }
 for _ in {1..10}; do
   if list | grep -q $'^Sample\ton the network\tipps*://.*\tAttic$'; then found=yes && break; fi
 done

@@ -4,6 +4,8 @@
 #include <list>
 
 #include "hosts/cups/bounds.h"
+#include "hosts/cups/job_follower.h"
+#include "hosts/cups/network_printers.h"
 #include "tests/support/hostile_server.h"
 #include "tests/support/print_program.h"
 
@@ -179,6 +181,37 @@ TEST_F(PrintTest, APrintersPasswordGoesToItsBackendAlone) {
   }
 }
 
+TEST_F(PrintTest, AJobThatIsHeldForItsPasswordIsGivenAnother) {
+  const QString backend = m_folder.path(u"run/cups/bin/backend/strict"_s);
+  m_folder.write(u"run/cups/bin/backend/strict"_s,
+                 "#!/bin/sh\n[ $# -eq 0 ] || [ \"$AUTH_PASSWORD\" = 'open sesame' ] || exit 2\n");
+  ASSERT_TRUE(QFile::setPermissions(backend, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+  ofPrintSystem(u"/usr/sbin/lpadmin -p Shared -E -v strict://x -o auth-info-required=username,password"_s);
+  std::atomic<int> questions = 0;
+  ServerAddress address{.address = m_printer->place(u"server"_s), .user = u"anna"_s};
+  address.passwords = std::make_shared<PasswordKeeper>([&](const PasswordQuestion& question,
+                                                           Credentials* answer) {
+    EXPECT_EQ(question.wasWrong, questions++ > 0);
+    *answer = {.user = question.proposed.user, .password = question.wasWrong ? u"open sesame"_s : u"0815"_s};
+    return Outcome::done();
+  });
+  std::unique_ptr<PrintServer> server;
+  ASSERT_TRUE(address.connect(&server));
+  SentJob job{.queue = u"Shared"_s};
+  const PrintJob document{.title = u"t"_s,
+                          .files = {{.path = m_folder.path(u"document"_s).toUtf8()}},
+                          .options = {},
+                          .isRaw = true};
+  ASSERT_TRUE(sendJob(
+      *server, job.queue, document, [](int, qint64, qint64) { return true; }, &job.number));
+  JobFollower follower(address, job);
+  std::optional<JobReport> last;
+  QObject::connect(&follower, &JobFollower::reported, [&](const JobReport& report) { last = report; });
+  waitFor([&] { return last && last->isFinished(); });
+  EXPECT_EQ(last->state, IPP_JSTATE_COMPLETED) << last->reasons.join(u' ');
+  EXPECT_EQ(questions, 2);
+}
+
 TEST_F(PrintTest, ListsQueues) {
   addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
   addQueue(u"A_Raw"_s, {}, {});
@@ -225,8 +258,7 @@ TEST_F(PrintTest, APrinterWithoutAPpdPrintsDirectlyAndBehindTheScheduler) {
                       u"env DBUS_SYSTEM_BUS_ADDRESS=unix:path=%1/bus ippeveprinter -k -r off -d "
                       "%1/printed -f application/pdf -p "_s +
                           address.section(u':', 1) + u" Sample"_s);
-  waitFor(
-      [&] { return run(u"-h %1 --list"_s.arg(address)).err.contains(u"operation"_s, Qt::CaseInsensitive); });
+  waitFor([&] { return !run(u"-h %1 --list"_s.arg(address)).err.contains(u"cannot connect"_s); });
   const QString uri = u"ipp://%1/ipp/print"_s.arg(address);
   const auto printed = [this] { return QDir(m_folder.path(u"printed"_s)).entryList({u"*.pdf"_s}).size(); };
   const LpRun direct = lp(u"-d %1 -o media=A4,labels -o document-format=application/pdf DOCUMENT"_s.arg(uri));
@@ -361,6 +393,11 @@ Outcome askAt(int operation, PrintServer& server) {
   int job = 0;
   if (operation == IPP_OP_CUPS_GET_PRINTERS) return server.listQueues(&queues);
   if (operation == IPP_OP_GET_PRINTER_ATTRIBUTES) return server.findQueue(u"q"_s, &queue);
+  if (operation == IPP_OP_CUPS_CREATE_LOCAL_PRINTER) {
+    queues.resize(1);
+    queues.front().name = u"q"_s;
+    return makeQueue(server, queues.front());
+  }
   if (operation == HostileServer::atGet) return fetchPpdFile(server, u"q"_s, &ppd);
   return sendJob(
       server, u"q"_s, {.title = u"t"_s, .files = {{.path = "/dev/zero"}}, .options = {}},
@@ -397,6 +434,7 @@ TEST_F(HostilePrintServer, NeitherBlocksAProgramNorFillsItsMemory) {
       {IPP_OP_CUPS_GET_PRINTERS, {}},
       {IPP_OP_GET_PRINTER_ATTRIBUTES, {}},
       {HostileServer::atGet, u"cannot get the PPD of q: "_s},
+      {IPP_OP_CUPS_CREATE_LOCAL_PRINTER, u"cannot set up the printer \"q\": "_s},
       {IPP_OP_CREATE_JOB, u"the print server refused the job: "_s},
       {IPP_OP_SEND_DOCUMENT, u"could not print zero: "_s},
   };
