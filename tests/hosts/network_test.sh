@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Printers on the network: a sample printer announces itself through an Avahi of the test's own, in a network of its
-# own, and kesto-lp lists it. Skipped, and says so, where that cannot be had.
+# own, and kesto-lp lists it. Skipped, with a message, where these are missing.
 # usage: network_test.sh BUILD-FOLDER
 set -euo pipefail
 
