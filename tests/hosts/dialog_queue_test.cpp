@@ -345,7 +345,8 @@ TEST_F(DialogPrint, TextsFromOutsideStayOnTheirLine) {
   setPlainText(label, u"Folder\r\u0085 & more"_s);
   EXPECT_EQ(label.text(), u"Folder\\r\\x85 & more"_s);
   PrinterDetails details(nullptr);
-  queue.supplies = {{.name = u"<b>Black</b>"_s, .color = {}, .level = 70}, {.name = u"<b>Cyan</b>"_s}};
+  queue.supplies = {{.name = u"<b>Black</b>"_s, .color = {}, .level = 70},
+                    {.name = u"<b>Cyan</b>"_s, .color = {}}};
   details.showQueue(queue);
   for (const auto* each : details.findChildren<QLabel*>())
     EXPECT_EQ(each->textFormat(), Qt::PlainText) << each->text();

@@ -244,6 +244,28 @@ TEST_F(PortalDialog, AFailureOutOfSightComesAsANotification) {
   EXPECT_EQ(m_answers, u"chosen taken "_s);
 }
 
+TEST_F(PortalDialog, ADocumentThatComesLaterIsSavedAsPdf) {
+  startPrinter();
+  const QString target = m_folder.path(u"saved.pdf"_s);
+  open(false, {}, {}, {{u"canWritePdf"_s, true}});
+  await([] { return window()->isQueueReady(); }, u"the queue"_s);
+  auto* printer = window()->findChild<QComboBox*>(u"printer"_s);
+  printer->setCurrentIndex(printer->count() - 1);
+  await([] { return window()->savesPdf(); }, u"the file in place of a printer"_s);
+  whenModal([&](QWidget& files) {
+    files.findChild<QLineEdit*>()->setText(target);
+    pressEnter(*files.findChild<QLineEdit*>());
+  });
+  pressPrint();
+  awaitAnswers(u"chosen "_s);
+  EXPECT_FALSE(m_said[u"settings"_s].toObject().contains(u"printer"_s));
+  print(u"report.pdf"_s);
+  awaitEnd();
+  EXPECT_EQ(m_answers, u"chosen taken "_s);
+  EXPECT_TRUE(bytesOf(target).startsWith("%PDF-"));
+  EXPECT_EQ(m_printer->jobs(), "[]");
+}
+
 TEST_F(PortalDialog, ComesBackWithTheReasonWhenThereIsNothingToPrint) {
   startPrinter();
   open(false);
