@@ -17,8 +17,6 @@ function(kesto_folder target folder)
   add_library(${target} STATIC ${arg_SOURCES})
   kesto_headers(${target} PUBLIC ${folder})
   target_link_libraries(${target} PUBLIC ${arg_LINKS})
-  # Only the bundle links the core, and it must not share symbols with another copy in the process.
-  set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   kesto_precompile(${target})
 endfunction()
 

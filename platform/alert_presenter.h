@@ -3,10 +3,12 @@
 
 #include <QtCore/QString>
 
+#include "platform/export.h"
+
 namespace kesto {
 
 /// Shows modal alerts on behalf of the panel. The host supplies it.
-class AlertPresenter {
+class KESTO_EXPORT AlertPresenter {
  public:
   virtual ~AlertPresenter() = default;
   /// Shows an informational alert with one button and returns when the user has dismissed it. Texts are

@@ -6,6 +6,7 @@
 #include <QtCore/QTranslator>
 #include <optional>
 
+#include "platform/export.h"
 #include "platform/locale_name.h"
 #include "platform/outcome.h"
 
@@ -15,7 +16,7 @@ class PrintDialogPlugIn;
 
 /// The bundle directory contains `<base name>.so` and `Resources/` with the resources and the compiled
 /// translations `Localizable_<language>.qm`.
-class Bundle {
+class KESTO_EXPORT Bundle {
  public:
   /// `directory` is the path of the bundle; texts are looked up in the language of `locale`.
   explicit Bundle(QString directory, const QLocale& locale = userLanguage());

@@ -5,10 +5,12 @@
 
 #include <utility>
 
+#include "platform/export.h"
+
 namespace kesto {
 
 /// Owns a descriptor and closes it when it is destroyed; -1 means none. It can be moved but not copied.
-class Descriptor {
+class KESTO_EXPORT Descriptor {
  public:
   Descriptor() = default;
   explicit Descriptor(int number) : m_number(number) {}

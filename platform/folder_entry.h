@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "platform/export.h"
+
 namespace kesto {
 
 /// A folder of the printer's list; it always has a name.
@@ -19,9 +21,9 @@ struct FolderEntry {
 };
 
 /// A folder as records, facts and listings show it, with the members "name", "password", "dir" and "add".
-QJsonObject jsonOf(const FolderEntry& folder);
+KESTO_EXPORT QJsonObject jsonOf(const FolderEntry& folder);
 /// The folder of such an object; a member that is absent or of another type is empty or false.
-FolderEntry folderOf(const QJsonObject& object);
+KESTO_EXPORT FolderEntry folderOf(const QJsonObject& object);
 
 /// The printer's folders in its order: none until loaded or fetched, empty when a fetch found nothing.
 using FolderList = std::optional<std::vector<FolderEntry>>;

@@ -4,6 +4,8 @@
 #include <QtCore/QString>
 #include <optional>
 
+#include "platform/export.h"
+
 struct ppd_file_s;  // libcups's PPD record, ppd_file_t
 
 namespace kesto {
@@ -23,7 +25,7 @@ struct PrintSession {
 };
 
 /// The host's callback object. The host owns it and everything that it returns; it outlives the panel.
-class HostCallback {
+class KESTO_EXPORT HostCallback {
  public:
   virtual ~HostCallback() = default;
   virtual const PrintSession& printSession() const = 0;

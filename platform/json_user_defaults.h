@@ -3,6 +3,7 @@
 
 #include <chrono>
 
+#include "platform/export.h"
 #include "platform/user_defaults.h"
 
 namespace kesto {
@@ -15,7 +16,7 @@ inline constexpr qsizetype largestDomain = qsizetype{16} * 1024 * 1024;
 /// ASCII letters, digits, ".", "_" and "-" are percent-encoded, and a file name beyond 255 bytes is cut and
 /// ends with a digest. A file that does not hold a JSON object is renamed aside and counts as missing; an
 /// empty file also counts as missing, and is replaced. A change that fails is logged.
-class JsonUserDefaults : public UserDefaults {
+class KESTO_EXPORT JsonUserDefaults : public UserDefaults {
  public:
   static constexpr std::chrono::milliseconds lockLimit{10000};
 

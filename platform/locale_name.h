@@ -4,6 +4,8 @@
 #include <QtCore/QLocale>
 #include <QtCore/QString>
 
+#include "platform/export.h"
+
 namespace kesto {
 
 /// What a locale's name, language[_TERRITORY][.codeset][@modifier], says about the language.
@@ -16,14 +18,14 @@ struct LocaleName {
 };
 
 /// Parses a name; a locale of that name need not be installed.
-LocaleName localeNameOf(const QString& locale);
+KESTO_EXPORT LocaleName localeNameOf(const QString& locale);
 
 /// The value of the first of LC_ALL, `category` and LANG that is set and not empty; empty when none is.
-QString localeOfEnvironment(const char* category);
+KESTO_EXPORT QString localeOfEnvironment(const char* category);
 
 /// The language of all texts: the first available one that the user lists in LANGUAGE and in LC_ALL,
 /// LC_MESSAGES or LANG. English is always available. It is also used when no other is, and in the C and POSIX
 /// locales. A translation serves a language in the same script, whatever the territory.
-QLocale userLanguage();
+KESTO_EXPORT QLocale userLanguage();
 
 }  // namespace kesto

@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/export.h"
 #include "platform/folder_entry.h"
 
 namespace kesto {
@@ -42,7 +43,7 @@ enum class FolderFault {
 /// A panel of a print dialog. The host owns it as soon as it is returned, and calls it on one thread.
 /// Properties that a panel's own class adds are its facts: read-only, for hosts that show a panel without
 /// knowing its class.
-class PrintDialogPanel : public QObject {
+class KESTO_EXPORT PrintDialogPanel : public QObject {
   Q_OBJECT
 
  public:
@@ -90,7 +91,7 @@ class PrintDialogPanel : public QObject {
 using PanelList = std::optional<std::vector<std::unique_ptr<PrintDialogPanel>>>;
 
 /// The principal object of a bundle.
-class PrintDialogPlugIn {
+class KESTO_EXPORT PrintDialogPlugIn {
  public:
   virtual ~PrintDialogPlugIn() = default;
   /// Called once after loading.

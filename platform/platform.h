@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 #include <memory>
 
+#include "platform/export.h"
 #include "platform/text_encoding.h"
 
 namespace kesto {
@@ -15,7 +16,7 @@ class UserDefaults;
 
 /// The services of the operating system. The host owns the platform, which outlives every panel created with
 /// it.
-class Platform {
+class KESTO_EXPORT Platform {
  public:
   virtual ~Platform() = default;
   /// The bundle that holds the panel's code and resources; never null.

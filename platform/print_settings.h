@@ -6,13 +6,15 @@
 #include <QtCore/QString>
 #include <optional>
 
+#include "platform/export.h"
+
 namespace kesto {
 
 /// The prefix of every key of Job Handling.
 inline constexpr char printSettingsPrefix[] = "kesto.print.PrintSettings.";
 
 /// Key to value, both text. The host owns it and lends it to the panel. A key with an empty value is present.
-class PrintSettings {
+class KESTO_EXPORT PrintSettings {
  public:
   /// Stores `value` under `key`, replacing any earlier value; none removes the key.
   void setValue(const QString& key, const std::optional<QString>& value) {

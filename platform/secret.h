@@ -4,12 +4,14 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include "platform/export.h"
+
 namespace kesto {
 
 /// Overwrites the storage and makes the buffer null. Storage that is shared with another buffer stays as it
 /// is, for that buffer to wipe.
-void wipe(QByteArray& bytes);
-void wipe(QString& text);
+KESTO_EXPORT void wipe(QByteArray& bytes);
+KESTO_EXPORT void wipe(QString& text);
 
 /// Wipes a buffer at the end of its scope; the buffer outlives it.
 template <class Buffer>

@@ -1,13 +1,14 @@
 // The platform of our hosts: the real account, clock, folders and preferences.
 #pragma once
 
+#include "platform/export.h"
 #include "platform/json_user_defaults.h"
 #include "platform/platform.h"
 
 namespace kesto {
 
 /// The operating system's own services. The host supplies the bundle and the presenter of alerts.
-class SystemPlatform : public Platform {
+class KESTO_EXPORT SystemPlatform : public Platform {
  public:
   /// `alertPresenter` must outlive the platform.
   SystemPlatform(std::shared_ptr<const Bundle> bundle, AlertPresenter& alertPresenter);

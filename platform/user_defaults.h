@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 
+#include "platform/export.h"
 #include "platform/outcome.h"
 
 namespace kesto {
@@ -28,7 +29,7 @@ using DomainChange = std::function<Outcome(QJsonObject* values)>;
 
 /// The store for everything that the panel remembers. Every read sees what other processes wrote; every
 /// change is on disk when the call returns.
-class UserDefaults {
+class KESTO_EXPORT UserDefaults {
  public:
   virtual ~UserDefaults() = default;
   /// Reads the domain afresh.

@@ -4,13 +4,14 @@
 #include <optional>
 
 #include "panel/model/control.h"
+#include "platform/export.h"
 #include "platform/outcome.h"
 
 namespace kesto {
 
 /// A button with a title or an image. Check boxes and hold buttons have a state, 0 off and 1 on; a hold
 /// button shows `alternateImage` while it is on.
-class Button : public Control {
+class KESTO_EXPORT Button : public Control {
   Q_OBJECT
   Q_PROPERTY(QString title READ title NOTIFY changed)
   Q_PROPERTY(bool enabled READ isEnabled NOTIFY changed)
@@ -56,6 +57,6 @@ class Button : public Control {
 };
 
 /// The name of an image, for hosts that do not show it; null without an image.
-QVariant nameOfImage(const std::optional<Image>& image);
+KESTO_EXPORT QVariant nameOfImage(const std::optional<Image>& image);
 
 }  // namespace kesto

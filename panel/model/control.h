@@ -6,6 +6,8 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
+#include "platform/export.h"
+
 namespace kesto {
 
 class PanelView;
@@ -21,7 +23,7 @@ struct Image {
 
 /// A control. Its properties are what a host shows, and `changed()` is emitted after a change of any of them.
 /// Only the user's operations send the action; setting a property from code does not.
-class Control : public QObject {
+class KESTO_EXPORT Control : public QObject {
   Q_OBJECT
   Q_PROPERTY(QString kind READ kind CONSTANT)
   Q_PROPERTY(bool hidden READ isHidden NOTIFY changed)

@@ -5,13 +5,15 @@
 #include <QtCore/QList>
 #include <QtCore/QObject>
 
+#include "platform/export.h"
+
 namespace kesto {
 
 class Control;
 class TextField;
 
 /// Owns the controls of one panel and knows which of its fields has keyboard focus.
-class PanelView : public QObject {
+class KESTO_EXPORT PanelView : public QObject {
   Q_OBJECT
 
  public:

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "panel/model/control.h"
+#include "platform/export.h"
 #include "platform/outcome.h"
 
 namespace kesto {
@@ -19,7 +20,7 @@ struct PopUpItem {
 };
 
 /// A list of items, of which one is selected; index -1 when none is.
-class PopUp : public Control {
+class KESTO_EXPORT PopUp : public Control {
   Q_OBJECT
   Q_PROPERTY(bool enabled READ isEnabled NOTIFY changed)
   Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY changed)

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "panel/model/control.h"
+#include "platform/export.h"
 #include "platform/outcome.h"
 
 namespace kesto {
@@ -11,7 +12,7 @@ namespace kesto {
 class RadioMatrix;
 
 /// One row of a matrix. Its state is 1 exactly while its row is selected.
-class RadioCell : public Control {
+class KESTO_EXPORT RadioCell : public Control {
   Q_OBJECT
   Q_PROPERTY(QString title READ title NOTIFY changed)
   Q_PROPERTY(bool enabled READ isEnabled NOTIFY changed)
@@ -37,7 +38,7 @@ class RadioCell : public Control {
 };
 
 /// A column of radio cells; row -1 when none is selected.
-class RadioMatrix : public Control {
+class KESTO_EXPORT RadioMatrix : public Control {
   Q_OBJECT
   Q_PROPERTY(bool enabled READ isEnabled NOTIFY changed)
   Q_PROPERTY(int selectedRow READ selectedRow NOTIFY changed)

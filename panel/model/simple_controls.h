@@ -2,11 +2,12 @@
 #pragma once
 
 #include "panel/model/control.h"
+#include "platform/export.h"
 
 namespace kesto {
 
 /// A frame with a title.
-class Box : public Control {
+class KESTO_EXPORT Box : public Control {
   Q_OBJECT
   Q_PROPERTY(QString title READ title NOTIFY changed)
 
@@ -21,7 +22,7 @@ class Box : public Control {
 };
 
 /// Pages with labels, of which one is shown.
-class TabView : public Control {
+class KESTO_EXPORT TabView : public Control {
   Q_OBJECT
   Q_PROPERTY(QStringList tabs READ labels NOTIFY changed)
   Q_PROPERTY(int selectedTab READ selectedTab NOTIFY changed)
@@ -40,7 +41,7 @@ class TabView : public Control {
 };
 
 /// A spinning indicator for work of unknown duration.
-class ProgressIndicator : public Control {
+class KESTO_EXPORT ProgressIndicator : public Control {
   Q_OBJECT
 
  public:

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "panel/model/control.h"
+#include "platform/export.h"
 #include "platform/outcome.h"
 
 namespace kesto {
@@ -18,7 +19,7 @@ struct TextRange {
 
 /// Judges every edit of the user before it happens. A field shows its value unchanged: the conversions of
 /// values belong to the protocol of formatters, but no field uses them.
-class Formatter {
+class KESTO_EXPORT Formatter {
  public:
   virtual ~Formatter() = default;
 
@@ -36,7 +37,7 @@ class Formatter {
 
 /// A line of text: a label (tag 0) or a field that the user can edit (any other tag). Positions and lengths
 /// count UTF-16 code units. A text is wiped when it is replaced or its field is destroyed.
-class TextField : public Control {
+class KESTO_EXPORT TextField : public Control {
   Q_OBJECT
   Q_PROPERTY(QString stringValue READ stringValue NOTIFY changed)
   Q_PROPERTY(bool editable READ isEditable NOTIFY changed)

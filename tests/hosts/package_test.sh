@@ -6,8 +6,8 @@
 set -euo pipefail
 
 build=$(realpath "${1:?usage: tests/hosts/package_test.sh BUILD_FOLDER}")
-if ! { command -v lintian && command -v dpkg-deb; } >/dev/null; then
-  echo "package_test: lintian or dpkg-deb is not installed"
+if ! { command -v lintian && command -v dh; } >/dev/null; then
+  echo "package_test: lintian or debhelper is not installed"
   if [[ ${CI:-} == true ]]; then exit 1; fi
   exit 77
 fi
@@ -34,14 +34,22 @@ expect() {
   failures=$((failures + 1))
 }
 
-expect "the packages are made" 'package: .* generated' cpack --config "$build/CPackConfig.cmake" -B "$scratch/made"
-packages=("$scratch"/made/kesto-job-handling_*.deb "$scratch"/made/kesto-job-handling-portal_*.deb)
+mkdir "$scratch/made"
+cp -R "$(dirname "$0")/../../debian" "$scratch/made"
+make_packages() (cd "$scratch/made" && DEB_BUILD_OPTIONS=noautodbgsym debian/rules binary "BUILD=$build")
+expect "the packages are made" 'building package' make_packages
+fails() { ! "$@"; }
+packages=("$scratch"/kesto-job-handling_*.deb "$scratch"/kesto-job-handling-portal_*.deb)
 expect "lintian finds no error" '' lintian --fail-on error "${packages[@]}"
+expect "the stores' description is valid" '' appstreamcli validate --no-net \
+  "$(dirname "$0")/../../packaging/org.kesto.print.metainfo.xml"
+exported() { nm -D --defined-only "$1" | c++filt | grep -vE ' (kesto::|(typeinfo|typeinfo name|vtable|guard variable) for kesto::|non-virtual thunk to kesto::)'; }
+expect "the library exports its own names only" '^$' fails exported "$build/lib/libkestopde.so"
 
 root=$scratch/unpacked
 for package in "${packages[@]}"; do dpkg-deb -x "$package" "$root"; done
 bin=$root/usr/bin
-bundle=$(echo "$root"/usr/lib/*/kesto/pde/JobHandling.pde)
+bundle=$(find "$root/usr/lib" -name JobHandling.pde)
 queue=(--ppd "$root/usr/share/kesto/kesto-vq250n.ppd" --device-uri lpd://x)
 hold=(--dry-run "${queue[@]}" --hold only --pin-file -)
 expect "help" '^Usage: kesto-lp ' "$bin/kesto-lp" --help
@@ -56,7 +64,6 @@ for each in "$bin" "$build/bin"; do
   expect "no library is taken from the current folder" 'jobSuspend=' in_planted "$each/kesto-lp" "${hold[@]}" <<<2468
 done
 mv "$bundle" "$bundle.away"
-fails() { ! "$@"; }
 expect "the bundle is the package's" 'cannot find JobHandling.pde' fails "$bin/kesto-lp" "${hold[@]}" <<<2468
 mv "$bundle.away" "$bundle"
 
