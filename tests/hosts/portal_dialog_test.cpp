@@ -259,7 +259,8 @@ TEST_F(PortalDialog, ADocumentThatComesLaterIsSavedAsPdf) {
   pressPrint();
   awaitAnswers(u"chosen "_s);
   EXPECT_FALSE(m_said[u"settings"_s].toObject().contains(u"printer"_s));
-  print(u"report.pdf"_s);
+  m_folder.write(u"sound.pdf"_s, bytesOf(QStringLiteral(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")));
+  print(u"sound.pdf"_s);
   awaitEnd();
   EXPECT_EQ(m_answers, u"chosen taken "_s);
   EXPECT_TRUE(bytesOf(target).startsWith("%PDF-"));

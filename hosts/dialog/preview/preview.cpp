@@ -84,7 +84,8 @@ std::optional<int> Preview::lockedFile() const {
   return static_cast<int>(found - files.begin());
 }
 
-PageSequence Preview::pages() const {
+PageSequence Preview::pages() {
+  if (!m_isPlanned) plan();  // who waits for the examination asks at once
   PageSequence sequence;
   for (const ExaminedFile& file : m_examiner.files())
     sequence.files.append(file.path);

@@ -39,7 +39,7 @@ class Preview : public QWidget {
   /// The first file that needs a password, among those given to `show`; none while all are looked at.
   std::optional<int> lockedFile() const;
   /// The pages in the order of the sheets, once all files have been looked at and nothing has changed since.
-  PageSequence pages() const;
+  PageSequence pages();
   /// Why they cannot be saved as PDF, in a sentence; null when nothing is known against it.
   QString saveFault() const;
   /// The line that says how much paper the job takes. It stands below the preview unless it is moved.
