@@ -5,12 +5,10 @@
 
 #include <utility>
 
-#include "platform/export.h"
-
 namespace kesto {
 
 /// Owns a descriptor and closes it when it is destroyed; -1 means none. It can be moved but not copied.
-class KESTO_EXPORT Descriptor {
+class Descriptor {
  public:
   Descriptor() = default;
   explicit Descriptor(int number) : m_number(number) {}
