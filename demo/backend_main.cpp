@@ -10,6 +10,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -85,6 +86,19 @@ std::string answerOf(int printer) {
   return answer.ends_with('\n') ? answer.substr(0, answer.find('\n')) : "";
 }
 
+// The user's password for the printer as its line, empty without one.
+std::string passwordLine() {
+  const char* password = std::getenv("AUTH_PASSWORD");
+  if (password == nullptr) return {};
+  std::string line = "@PASSWORD ";
+  for (const char c : std::string_view(password)) {
+    std::array<char, 4> encoded{};
+    std::snprintf(encoded.data(), encoded.size(), "%%%02X", static_cast<unsigned char>(c));
+    line += encoded.data();
+  }
+  return line + '\n';
+}
+
 int fail(const char* reason) {
   std::fprintf(stderr, "ERROR: %s\n", reason);
   return CUPS_BACKEND_FAILED;
@@ -103,8 +117,10 @@ int main(int argc, char** argv) {
   const Descriptor document(argc == 7 ? ::open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO);
   if (!document) return fail("cannot open the document");
   // A job counts as printed only when the printer says so; the end of the connection proves nothing.
-  const bool isSent = copyAll(document.get(), printer.get()) && sendAll(printer.get(), "@END\n");
+  const bool isSent = sendAll(printer.get(), passwordLine()) && copyAll(document.get(), printer.get()) &&
+                      sendAll(printer.get(), "@END\n");
   const std::string answer = answerOf(printer.get());
   if (isSent && answer == "taken") return CUPS_BACKEND_OK;
+  if (answer == "refused: wrong password") return CUPS_BACKEND_AUTH_REQUIRED;
   return fail(answer.empty() ? "the printer did not accept the job" : answer.c_str());
 }

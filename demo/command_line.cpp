@@ -8,6 +8,7 @@
 
 #include "hosts/command/arguments.h"
 #include "hosts/command/secret_arguments.h"
+#include "hosts/command/secret_input.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -25,6 +26,7 @@ struct Arguments {
   int port = 0;
   std::string passCode;
   std::string passCodeFile;
+  std::string passwordFile;
 };
 
 QString textOf(const std::string& argument) {
@@ -77,6 +79,9 @@ void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
   app.add_option("--misbehave", arguments.misbehave, "make the folder service misbehave; \"list\" shows how")
       ->type_name("NAME")
       ->check(faultOfMisbehaviour);
+  app.add_option("--password-file", arguments.passwordFile,
+                 "ask for a user name and the password in this file's first line with every job")
+      ->type_name("FILE");
   app.add_option("--queues", command.setup.queues, "create this many queues, to try long lists")
       ->transform(wholeNumber("the number", 1, 9999));
   for (const PrinterFault& fault : printerFaults()) {
@@ -162,6 +167,11 @@ Outcome complete(const Arguments& arguments, DemoCommand* command) {
     setup.behaviour = *misbehaviourNamed(QString::fromStdString(arguments.misbehave));
   }
   command->passCode = QString::fromStdString(arguments.passCode);
+  if (!arguments.passwordFile.empty()) {
+    QString password;
+    if (Outcome read = readSecretLine(textOf(arguments.passwordFile), &password); !read) return read;
+    setup.password = password.toUtf8();
+  }
   if (!arguments.passCodeFile.empty())
     return readPassCode(textOf(arguments.passCodeFile), &command->passCode);
   return arguments.folders.empty() ? Outcome::done() : readFolders(textOf(arguments.folders), &setup.folders);

@@ -56,7 +56,11 @@ Outcome DemoPrinter::startPrinting() {
     logLine(QStringLiteral("the scheduler has exited"));
     QCoreApplication::exit(1);
   });
-  Outcome started = m_scheduler->start(printerSocket, m_setup.queues, m_setup.port);
+  m_printer->setPassword(m_setup.password);
+  Outcome started = m_scheduler->start({.printerSocket = printerSocket,
+                                        .queues = m_setup.queues,
+                                        .port = m_setup.port,
+                                        .asksForPassword = !m_setup.password.isEmpty()});
   return started && m_setup.fault != nullptr ? setFault(m_setup.fault) : started;
 }
 

@@ -21,6 +21,7 @@ struct DemoSetup {
   Misbehaviour behaviour;
   std::optional<quint16> folderPort;    ///< As in `FolderService::listen`.
   std::optional<quint16> port;          ///< Of the scheduler, as in `Scheduler::start`.
+  QByteArray password;                  ///< What the printer asks for with each job, empty for nothing.
   int queues = 1;                       ///< They all lead to the same printer.
   const PrinterFault* fault = nullptr;  ///< What it begins with, null for none.
   bool foldersOnly = false;             ///< Neither scheduler nor printer, and no run folder.

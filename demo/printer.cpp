@@ -7,6 +7,7 @@ namespace kesto {
 namespace {
 
 constexpr char linePrefix[] = "@KESTO ";
+constexpr char passwordPrefix[] = "@PASSWORD ";
 constexpr char endOfJob[] = "@END";
 constexpr qint64 longestLine = 4096;
 constexpr qint64 largestPiece = 65536;
@@ -79,12 +80,17 @@ Outcome PrinterConnection::takeLine(const QByteArray& line) {
 }
 
 Outcome PrinterConnection::takeTicketLine(const QByteArray& line) {
+  if (line.startsWith(passwordPrefix)) {
+    m_password = QByteArray::fromPercentEncoding(line.mid(sizeof passwordPrefix - 1));
+    return Outcome::done();
+  }
   if (!line.isEmpty()) {
     const bool isTaken = ++m_ticketLines <= mostTicketLines && line.startsWith(linePrefix) &&
                          m_ticket.addLine(line.mid(sizeof linePrefix - 1));
     return isTaken ? Outcome::done() : notTheFormat();
   }
   if (m_ticket.job <= 0) return notTheFormat();
+  if (!m_printer.admits(m_password)) return Outcome::failed(QStringLiteral("wrong password"));
   m_document.setFileName(m_store.newDocumentPath());
   constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
   return m_document.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly)

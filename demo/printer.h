@@ -1,6 +1,7 @@
 // The printer itself, which takes jobs on its owner's socket.
 //
-// It receives what the demo filter writes, and a last line from the backend. Each document begins with lines
+// It receives what the demo filter writes, and from the backend a last line and, where the user has given a
+// password, a first one, "@PASSWORD " and the password, percent-encoded. Each document begins with lines
 // "@KESTO name=value", with percent-encoded values, and an empty line. Then the document follows in pieces: a
 // line with the piece's size in decimal, at most 65536, and that many bytes. A size of 0 ends the document.
 // Another document may follow. After the last one comes the line "@END". The printer answers "taken" when it
@@ -31,6 +32,10 @@ class RawPrinter : public QObject {
   /// Listens at `path`, where only the owner may connect.
   Outcome listen(const QString& path);
 
+  /// Jobs without this password are refused; empty, as at first, admits all.
+  void setPassword(const QByteArray& password) { m_password = password; }
+  bool admits(const QByteArray& password) const { return m_password.isEmpty() || password == m_password; }
+
   /// Nothing is printed while the printer has a fault; null clears it.
   void setFault(const PrinterFault* fault);
   const PrinterFault* fault() const { return m_fault; }
@@ -42,6 +47,7 @@ class RawPrinter : public QObject {
   void connectionArrived();
 
   JobStore& m_store;
+  QByteArray m_password;
   const PrinterFault* m_fault = nullptr;
   QLocalServer m_server;
 };
@@ -71,6 +77,7 @@ class PrinterConnection : public QObject {
   QLocalSocket* m_socket;
   const RawPrinter& m_printer;
   JobStore& m_store;
+  QByteArray m_password;
   JobTicket m_ticket;
   int m_ticketLines = 0;
   int m_documents = 0;    // handed to the store

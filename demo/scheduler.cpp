@@ -81,7 +81,7 @@ DefaultPolicy demo
   <Limit Create-Job Print-Job Validate-Job Get-Jobs Get-Job-Attributes Get-Printer-Attributes CUPS-Get-Default CUPS-Get-Printers CUPS-Get-Classes CUPS-Get-PPD Create-Printer-Subscriptions Create-Job-Subscriptions>
     Order deny,allow
   </Limit>
-  <Limit Send-Document Close-Job Cancel-Job Cancel-My-Jobs Hold-Job Release-Job Set-Job-Attributes Get-Subscriptions Get-Subscription-Attributes Get-Notifications Renew-Subscription Cancel-Subscription>
+  <Limit Send-Document Close-Job Cancel-Job Cancel-My-Jobs Hold-Job Release-Job CUPS-Authenticate-Job Set-Job-Attributes Get-Subscriptions Get-Subscription-Attributes Get-Notifications Renew-Subscription Cancel-Subscription>
     Require user @OWNER @OWNERNAME@
     Order deny,allow
   </Limit>
@@ -123,7 +123,7 @@ Accepting Yes
 Shared No
 ErrorPolicy abort-job
 OpPolicy demo
-</DefaultPrinter>
+@PASSWORD@</DefaultPrinter>
 )";
 
 // Further queues are like the first, except for their number.
@@ -215,16 +215,16 @@ QString Scheduler::portAddress() const {
   return m_port == 0 ? QString() : QStringLiteral("127.0.0.1:%1").arg(m_port);
 }
 
-Outcome Scheduler::start(const QString& printerSocket, int queues, std::optional<quint16> port) {
+Outcome Scheduler::start(const SchedulerSetup& setup) {
+  m_setup = setup;
   const std::optional<Identity> identity = Identity::ofProcess();
   if (!identity) return Outcome::failed(QStringLiteral("no account \"lp\" to run jobs as"));
-  if (port) {
-    if (Outcome reserved = reservePort(*port); !reserved) return reserved;
+  if (setup.port) {
+    if (Outcome reserved = reservePort(*setup.port); !reserved) return reserved;
   }
   if (Outcome made = makeFolders(); !made) return made;
-  m_queues = queues;
-  if (Outcome copied = copyPrograms(queues); !copied) return copied;
-  if (Outcome written = writeConfiguration(*identity, printerSocket, queues); !written) return written;
+  if (Outcome copied = copyPrograms(); !copied) return copied;
+  if (Outcome written = writeConfiguration(*identity); !written) return written;
   if (getuid() == 0) {
     if (Outcome admitted = m_folder.admitGroup(identity->group); !admitted) return admitted;
   }
@@ -255,7 +255,7 @@ Outcome Scheduler::makeFolders() const {
 }
 
 // Where the system confines its own cupsd by its path, only a copy can work in this folder.
-Outcome Scheduler::copyPrograms(int queues) const {
+Outcome Scheduler::copyPrograms() const {
   constexpr QFile::Permissions program = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                          QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
                                          QFile::ExeOther;
@@ -279,22 +279,22 @@ Outcome Scheduler::copyPrograms(int queues) const {
     if (Outcome copied = copyFile(from, path("bin/") + QLatin1String(name), mode); !copied) return copied;
   }
   const QString description = besidePrograms(QStringLiteral("share/kesto/kesto-vq250n.ppd"));
-  for (int number = 1; number <= queues; ++number) {
+  for (int number = 1; number <= m_setup.queues; ++number) {
     const QString copy = path("ppd/") + demoQueueNumbered(number) + QStringLiteral(".ppd");
     if (Outcome copied = copyFile(description, copy, data); !copied) return copied;
   }
   return Outcome::done();
 }
 
-Outcome Scheduler::writeConfiguration(const Identity& identity, const QString& printerSocket,
-                                      int queues) const {
+Outcome Scheduler::writeConfiguration(const Identity& identity) const {
   // The socket comes last, so that the port is ready when the socket answers.
   const QByteArray port = m_port == 0 ? "" : "Listen " + portAddress().toLatin1() + '\n';
   // The panel takes the printer's address from the URI's host, the backend its socket from the path.
   const QByteArray uri =
-      "socket://127.0.0.1" + QUrl::toPercentEncoding(printerSocket, QByteArrayLiteral("/"));
+      "socket://127.0.0.1" + QUrl::toPercentEncoding(m_setup.printerSocket, QByteArrayLiteral("/"));
   const auto write = [&](const char* name, QByteArray text) {
     text.replace("@QUEUE@", demoQueue);
+    text.replace("@PASSWORD@", m_setup.asksForPassword ? "AuthInfoRequired username,password\n" : "");
     text.replace("@USER@", QByteArray::number(identity.user));
     text.replace("@GROUP@", QByteArray::number(identity.group));
     text.replace("@OWNERNAME@", identity.owner);
@@ -306,7 +306,7 @@ Outcome Scheduler::writeConfiguration(const Identity& identity, const QString& p
   };
   if (Outcome written = write("cupsd.conf", serverConfiguration); !written) return written;
   if (Outcome written = write("cups-files.conf", fileConfiguration); !written) return written;
-  return write("printers.conf", queueConfiguration + moreQueues(queues));
+  return write("printers.conf", queueConfiguration + moreQueues(m_setup.queues));
 }
 
 Outcome Scheduler::startServer() {
@@ -330,7 +330,7 @@ Outcome Scheduler::pause(const char* message) {
   if (!pauses && !m_isPaused) return Outcome::done();
   std::unique_ptr<PrintServer> server;
   Outcome done = PrintServer::connect(address(), startLimit, &server);
-  for (int number = 1; done && number <= m_queues; ++number) {
+  for (int number = 1; done && number <= m_setup.queues; ++number) {
     const Ipp request = requestTo(pauses ? IPP_OP_PAUSE_PRINTER : IPP_OP_RESUME_PRINTER,
                                   uriOfQueue(demoQueueNumbered(number)));
     if (pauses)

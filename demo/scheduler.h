@@ -15,6 +15,14 @@ inline constexpr char demoQueue[] = "Office_MFP";
 /// The names of its queues, counted from 1: "Office_MFP", "Office_MFP_0002" and so on.
 QString demoQueueNumbered(int number);
 
+/// How to set up the scheduler.
+struct SchedulerSetup {
+  QString printerSocket;         ///< Where its queues print.
+  int queues = 1;                ///< How many there are.
+  std::optional<quint16> port;   ///< Of loopback, where cupsd also listens; 0 for any free one.
+  bool asksForPassword = false;  ///< Whether jobs need a user name and a password for the printer.
+};
+
 /// Runs cupsd in a run folder: as root with jobs as "lp" when root starts it, else as the user. cupsd ends
 /// with this object, or with the process, however that ends.
 class Scheduler : public QObject {
@@ -25,10 +33,8 @@ class Scheduler : public QObject {
   explicit Scheduler(const RunFolder& folder);
   ~Scheduler() override;
 
-  /// Sets everything up in the folder and returns when cupsd answers on its socket. Creates `queues` queues
-  /// that print on the printer at `printerSocket`. With `port`, cupsd also listens on that port of loopback;
-  /// 0 means any free port.
-  Outcome start(const QString& printerSocket, int queues, std::optional<quint16> port);
+  /// Sets everything up in the folder and returns when cupsd answers on its socket.
+  Outcome start(const SchedulerSetup& setup);
   /// Pauses all queues with a message, or resumes them (null).
   Outcome pause(const char* message);
   /// The path of its socket, which only its owner can reach.
@@ -45,17 +51,17 @@ class Scheduler : public QObject {
 
   Outcome reservePort(quint16 port);
   Outcome makeFolders() const;
-  Outcome copyPrograms(int queues) const;
-  Outcome writeConfiguration(const Identity& identity, const QString& printerSocket, int queues) const;
+  Outcome copyPrograms() const;
+  Outcome writeConfiguration(const Identity& identity) const;
   Outcome startServer();
   bool waitUntilItAnswers();
   QString lastFault() const;
   QString path(const char* name) const;
 
   const RunFolder& m_folder;
+  SchedulerSetup m_setup;
   QTcpSocket m_reservation;  // bound to cupsd's port until cupsd listens there
   quint16 m_port = 0;        // 0 without one
-  int m_queues = 0;
   bool m_isPaused = false;
   QProcess m_server;
 };

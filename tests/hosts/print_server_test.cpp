@@ -95,11 +95,12 @@ TEST_F(PrintTest, ReportsEntriesThatCannotBeKept) {
   const QString why = u"cannot make the folder %1/kesto private\n"_s.arg(m_folder.path(u""_s));
   for (const auto& [arguments, code, message] :
        {std::tuple("", 0, u"warning: cannot remember the entries: "_s),
-        {"--remember job-name", 1, u"the job was sent, but: cannot remember the entries: "_s}}) {
+        {"--wait --remember job-name", 1, u"the job was sent, but: cannot remember the entries: "_s}}) {
     const LpRun sent = lp(u"DOCUMENT "_s + QLatin1String(arguments));
     EXPECT_EQ(sent.code, code) << arguments;
     EXPECT_EQ(sent.err, u"kesto-lp: "_s + message + why);
     EXPECT_TRUE(sent.out.startsWith(u"request id is "_s)) << sent.out;
+    EXPECT_EQ(sent.out.endsWith(u": Printed\n"_s), code == 1) << "waits all the same";
   }
 }
 
@@ -182,26 +183,22 @@ TEST_F(PrintTest, APrintersPasswordGoesToItsBackendAlone) {
 }
 
 TEST_F(PrintTest, AJobThatIsHeldForItsPasswordIsGivenAnother) {
-  const QString backend = m_folder.path(u"run/cups/bin/backend/strict"_s);
-  m_folder.write(u"run/cups/bin/backend/strict"_s,
-                 "#!/bin/sh\n[ $# -eq 0 ] || [ \"$AUTH_PASSWORD\" = 'open sesame' ] || exit 2\n");
-  ASSERT_TRUE(QFile::setPermissions(backend, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-  ofPrintSystem(u"/usr/sbin/lpadmin -p Shared -E -v strict://x -o auth-info-required=username,password"_s);
+  m_folder.write(u"password"_s, "open 100 % sesame\n");
+  startPrinter({u"--password-file"_s, m_folder.path(u"password"_s)});
   std::atomic<int> questions = 0;
   ServerAddress address{.address = m_printer->place(u"server"_s), .user = u"anna"_s};
-  address.passwords = std::make_shared<PasswordKeeper>([&](const PasswordQuestion& question,
-                                                           Credentials* answer) {
-    EXPECT_EQ(question.wasWrong, questions++ > 0);
-    *answer = {.user = question.proposed.user, .password = question.wasWrong ? u"open sesame"_s : u"0815"_s};
-    return Outcome::done();
-  });
+  address.passwords =
+      std::make_shared<PasswordKeeper>([&](const PasswordQuestion& question, Credentials* answer) {
+        EXPECT_EQ(question.wasWrong, questions++ > 0);
+        *answer = {.user = question.proposed.user,
+                   .password = question.wasWrong ? u"open 100 % sesame"_s : u"0815"_s};
+        return Outcome::done();
+      });
   std::unique_ptr<PrintServer> server;
   ASSERT_TRUE(address.connect(&server));
-  SentJob job{.queue = u"Shared"_s};
-  const PrintJob document{.title = u"t"_s,
-                          .files = {{.path = m_folder.path(u"document"_s).toUtf8()}},
-                          .options = {},
-                          .isRaw = true};
+  SentJob job{.queue = u"Office_MFP"_s};
+  const PrintJob document{
+      .title = u"t"_s, .files = {{.path = m_folder.path(u"document"_s).toUtf8()}}, .options = {}};
   ASSERT_TRUE(sendJob(
       *server, job.queue, document, [](int, qint64, qint64) { return true; }, &job.number));
   JobFollower follower(address, job);

@@ -14,10 +14,10 @@ class PrintTest : public LpTest {
     m_folder.write(u"folders"_s, "Invoices\nPlans & <Papers>\tlocked\n");
     startPrinter();
   }
-  void startPrinter() {
+  void startPrinter(const QStringList& more = {}) {
     m_printer.reset();
     m_printer.emplace(m_folder,
-                      QStringList{u"--port"_s, u"0"_s, u"--folders"_s, m_folder.path(u"folders"_s)});
+                      QStringList{u"--port"_s, u"0"_s, u"--folders"_s, m_folder.path(u"folders"_s)} + more);
   }
 
   // kesto-lp for the demo printer's server; "DOCUMENT" and "SECOND" are replaced by files.
