@@ -174,8 +174,10 @@ PanelStart startOf(const Options& options) {
 // What kesto-lp ends with once the job is sent, or could not be.
 ExitCode endOfJob(const Options& options, const Outcome& outcome, const SentJob& job,
                   const QMap<QString, QString>& settings) {
-  if (!outcome || !options.wait) return ended(options, outcome);
-  return waitForJob(options, job, PrinterHold::of(settings));
+  const ExitCode end = ended(options, outcome);
+  if (!options.wait || job.number == 0) return end;
+  const ExitCode waited = waitForJob(options, job, PrinterHold::of(settings));
+  return end == ExitDone ? waited : end;
 }
 
 ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {

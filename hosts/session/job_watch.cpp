@@ -31,12 +31,13 @@ JobFate held(const JobReport& report) {
                           : JobWatch::tr("Held until it is released")};
 }
 
-JobFate printing(const JobReport& report) {
-  const QString text = report.page == 0 ? JobWatch::tr("Printing")
-                       : report.pages == 0
-                           ? JobWatch::tr("Printing page %1").arg(report.page)
-                           : JobWatch::tr("Printing page %1 of %2").arg(report.page).arg(report.pages);
-  return {.state = State::Printing, .text = text};
+QString progressOf(const JobReport& report) {
+  if (report.page > 0 && report.pages > 0)
+    return JobWatch::tr("Printing page %1 of %2").arg(report.page).arg(report.pages);
+  if (report.page > 0) return JobWatch::tr("Printing page %1").arg(report.page);
+  if (report.printerReasons.contains(QStringLiteral("connecting-to-device")))
+    return JobWatch::tr("Connecting to the printer");
+  return JobWatch::tr("Printing");
 }
 
 // The first keyword for which the printer prints nothing; null for none.
@@ -70,7 +71,8 @@ JobFate unfinished(const JobReport& report) {
   const bool isPrinting = report.state == IPP_JSTATE_PROCESSING;
   const QString reason = stoppingReason(report.printerReasons);
   if (report.isPrinterStopped || (isPrinting && !reason.isNull())) return stoppedByPrinter(report, reason);
-  return isPrinting ? printing(report) : waiting(report);
+  if (!isPrinting) return waiting(report);
+  return {.state = State::Printing, .text = progressOf(report)};
 }
 
 JobFate printed(const QString& queue, const PrinterHold& hold) {

@@ -10,6 +10,7 @@ TEST(JobFateTest, IsSaidInTheUsersTerms) {
   constexpr int pending = IPP_JSTATE_PENDING, held = IPP_JSTATE_HELD, printing = IPP_JSTATE_PROCESSING;
   constexpr int done = IPP_JSTATE_COMPLETED, canceled = IPP_JSTATE_CANCELED;
   const QStringList jam{u"com.example-x-report"_s, u"media-jam"_s};
+  const QString connecting = u"connecting-to-device"_s;
   const QStringList held1{u"cups-held-for-authentication"_s};
   using Case = std::tuple<JobReport, Text, Text>;  // and the settings that were sent; "!" begins a failure
   for (const auto& [report, settings, line] :
@@ -18,6 +19,7 @@ TEST(JobFateTest, IsSaidInTheUsersTerms) {
         Case{{.state = held, .reasons = held1}, "", "Held: the printer asks for a password"},
         Case{{.state = held, .holdUntil = u"18:30"_s}, "", "Held until its time to print"},
         Case{{.state = printing, .printerReasons = {u"toner-low-warning"_s}}, "", "Printing"},
+        Case{{.state = printing, .printerReasons = {connecting}}, "", "Connecting to the printer"},
         Case{{.state = printing, .printerReasons = {u"x-error"_s}}, "", "Stopped: X"},
         Case{{.state = printing, .page = 2, .pages = 3}, "", "Printing page 2 of 3"},
         Case{{.state = done, .printerReasons = jam}, "jobSuspend=0", "Printed"},

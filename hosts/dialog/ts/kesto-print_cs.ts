@@ -1761,6 +1761,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>Není známo, zda je úloha vytištěna</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Připojování k tiskárně</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

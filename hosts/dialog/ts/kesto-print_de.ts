@@ -1757,6 +1757,10 @@
             <numerusform>Wartet auf %n andere Aufträge</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Verbindung zum Drucker wird hergestellt</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

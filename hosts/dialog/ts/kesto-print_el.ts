@@ -1757,6 +1757,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>Δεν είναι γνωστό αν η εργασία εκτυπώθηκε</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Σύνδεση με τον εκτυπωτή</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

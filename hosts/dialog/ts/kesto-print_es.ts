@@ -1757,6 +1757,10 @@
             <numerusform>En espera de otros %n trabajos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Conectando con la impresora</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

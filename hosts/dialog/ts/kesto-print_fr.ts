@@ -1757,6 +1757,10 @@
             <numerusform>En attente de %n autres travaux</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Connexion à l’imprimante</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

@@ -1753,6 +1753,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>Nem tudni, hogy a feladat ki lett-e nyomtatva</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Csatlakozás a nyomtatóhoz</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

@@ -1757,6 +1757,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>Non si sa se il lavoro sia stato stampato</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Connessione alla stampante</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

@@ -1753,6 +1753,10 @@
             <numerusform>他の %n 件のジョブを待機中</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>プリンターに接続しています</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

@@ -1753,6 +1753,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>작업이 인쇄되었는지 알 수 없음</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>프린터에 연결하는 중</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

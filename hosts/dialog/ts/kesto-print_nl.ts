@@ -1757,6 +1757,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>Het is niet bekend of de taak is afgedrukt</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Verbinding maken met de printer</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

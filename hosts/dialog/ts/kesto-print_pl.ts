@@ -1761,6 +1761,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>Nie wiadomo, czy zadanie zostało wydrukowane</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Łączenie z drukarką</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

@@ -1757,6 +1757,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>Não se sabe se o trabalho foi impresso</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Conectando à impressora</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

@@ -1761,6 +1761,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>Неизвестно, напечатано ли задание</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Подключение к принтеру</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

@@ -1757,6 +1757,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>Det är okänt om jobbet är utskrivet</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Ansluter till skrivaren</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

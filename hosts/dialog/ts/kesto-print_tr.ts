@@ -1753,6 +1753,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>İşin yazdırılıp yazdırılmadığı bilinmiyor</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Yazıcıya bağlanılıyor</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

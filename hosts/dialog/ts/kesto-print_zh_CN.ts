@@ -1753,6 +1753,10 @@
             <numerusform>正在等待其他 %n 个作业</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>正在连接打印机</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>

@@ -1753,6 +1753,10 @@
         <source>It is not known whether the job is printed</source>
         <translation>不確定工作是否已列印</translation>
     </message>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>正在連線到印表機</translation>
+    </message>
 </context>
 <context>
     <name>kesto::OptionPane</name>
