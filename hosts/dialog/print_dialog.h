@@ -80,6 +80,7 @@ class PrintDialog : public QDialog {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void start();

@@ -1,5 +1,6 @@
 // The parts of the print dialog, where they stand and what they call.
 #include <QtGui/QShortcut>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -8,6 +9,7 @@
 #include "hosts/dialog/panel/panel_pane.h"
 #include "hosts/dialog/preview/preview.h"
 #include "hosts/dialog/print_dialog.h"
+#include "hosts/dialog/widgets/accent_color.h"
 #include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/dialog_foot.h"
 #include "hosts/dialog/widgets/document_line.h"
@@ -34,6 +36,7 @@ QLabel* labelFor(QWidget* field, const QString& text) {
 void PrintDialog::build() {
   setWindowTitle(tr("Print"));
   chooseSelectedItems();
+  setPalette(legibleTexts(QApplication::palette()));
   auto* sideBox = new QWidget(this);
   auto* side = new QVBoxLayout(sideBox);
   side->setContentsMargins({});
@@ -53,6 +56,13 @@ void PrintDialog::build() {
   m_chooser->field()->setFocus();
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
   connect(help, &QShortcut::activated, this, [this] { showHelp(*this); });
+}
+
+void PrintDialog::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  const bool isOfColors =
+      event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange;
+  if (isOfColors) setPalette(legibleTexts(QApplication::palette()));  // the same again changes nothing
 }
 
 QWidget* PrintDialog::makeHead() {

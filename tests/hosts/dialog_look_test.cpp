@@ -139,6 +139,31 @@ QPalette darkPalette() {
   return palette;
 }
 
+QPalette highContrastPalette() {
+  QPalette palette(Qt::white, Qt::black, Qt::white, Qt::gray, Qt::white, Qt::white, Qt::white, Qt::black,
+                   Qt::black);
+  palette.setColor(QPalette::Highlight, Qt::yellow);
+  palette.setColor(QPalette::HighlightedText, Qt::black);
+  return palette;
+}
+
+// Of texts that stand back: dimmed ones, and those in empty fields.
+void expectContrast(const QPalette& palette) {
+  const auto light = [&](QPalette::ColorGroup group, QPalette::ColorRole role) {
+    const auto linear = [](double part) { return std::pow(part, 2.2); };
+    const QColor color = palette.color(group, role);
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+  };
+  const auto contrast = [&](QPalette::ColorGroup group, QPalette::ColorRole one, QPalette::ColorRole other) {
+    const auto [darker, lighter] = std::minmax(light(group, one), light(group, other));
+    return (lighter + 0.05) / (darker + 0.05);
+  };
+  EXPECT_GT(contrast(QPalette::Active, QPalette::PlaceholderText, QPalette::Base), 4.4);
+  EXPECT_GT(contrast(QPalette::Disabled, QPalette::WindowText, QPalette::Window), 2.9);
+  EXPECT_GT(contrast(QPalette::Disabled, QPalette::Text, QPalette::Base), 2.9);
+  EXPECT_GT(contrast(QPalette::Disabled, QPalette::ButtonText, QPalette::Button), 2.9);
+}
+
 Queue demoQueue() {
   Queue queue{.id = u"Office_MFP"_s, .deviceUri = u"socket://192.0.2.20:9100"_s};
   EXPECT_TRUE(openPpdFile(demoPpd(), &queue.ppd));
@@ -173,6 +198,7 @@ class DialogLook : public testing::Test {
 
   void expectPage(const char* theme, const QString& page) {
     SCOPED_TRACE(page.toStdString() + ' ' + theme);
+    expectContrast(m_dialog->palette());
     EXPECT_TRUE(DialogUser::waitUntil([this] { return m_dialog->preview().isSettled(); }, u"the preview"_s));
     expectInPlace(*m_dialog);
     expectOneColon(*m_dialog);
@@ -211,11 +237,13 @@ class DialogLook : public testing::Test {
     }
     for (Section* section : sections)
       section->setOpen(true);
-    m_dialog->resize(QSize(960, 540) * m_percent / 100);
-    layOut();
-    EXPECT_LE(m_dialog->height(), 540 * m_percent / 100);
-    EXPECT_LE(m_dialog->width(), 960 * m_percent / 100);
-    expectPage(theme, u"small"_s);
+    for (const QSize screen : {QSize(960, 540), QSize(1024, 600)}) {
+      const QSize largest = screen * m_percent / 100;
+      m_dialog->resize(largest);
+      layOut();
+      EXPECT_EQ(m_dialog->size().boundedTo(largest), m_dialog->size()) << screen.width();
+      expectPage(theme, u"small-%1"_s.arg(screen.width()));
+    }
     m_dialog->resize(size);
   }
 
@@ -228,7 +256,7 @@ class DialogLook : public testing::Test {
   std::optional<PrintDialog> m_dialog;
 };
 
-TEST_F(DialogLook, EveryTextFitsInLightAndDark) {
+TEST_F(DialogLook, EveryTextFitsInAllThemes) {
   if (QLocale().language() != QLocale::English) {
     EXPECT_NE(m_dialog->windowTitle(), u"Print"_s) << "not translated";
     EXPECT_FALSE(m_dialog->findChild<QLabel*>(u"printerState"_s)->text().contains(u"print server"));
@@ -237,6 +265,8 @@ TEST_F(DialogLook, EveryTextFitsInLightAndDark) {
   if (QLocale().language() != QLocale::English) return;  // colors do not move what is laid out
   QApplication::setPalette(darkPalette());
   expectPages("dark");
+  QApplication::setPalette(highContrastPalette());
+  expectPages("contrast");
 }
 
 }  // namespace

@@ -6,6 +6,7 @@ namespace kesto {
 namespace {
 
 constexpr double leastContrast = 4.5;  // as WCAG asks of text
+constexpr double leastContrastDimmed = 3;
 
 double luminance(const QColor& color) {
   const auto linear = [](double part) {
@@ -25,15 +26,19 @@ QColor mixed(const QColor& one, const QColor& other, double part) {
                           mix(one.blueF(), other.blueF()));
 }
 
+// A color as near to `wanted` as reaches the contrast, towards the color of usual text.
+QColor reaching(double least, const QColor& wanted, const QColor& behind, const QColor& text) {
+  QColor color = wanted;
+  for (double part = 0.1; contrast(color, behind) < least && part < 1; part += 0.1)
+    color = mixed(wanted, text, part);
+  return color;
+}
+
 }  // namespace
 
 QColor legible(const QColor& wanted, const QPalette& palette) {
-  const QColor window = palette.color(QPalette::Window);
-  const QColor text = palette.color(QPalette::WindowText);
-  QColor color = wanted;
-  for (double part = 0.1; contrast(color, window) < leastContrast && part < 1; part += 0.1)
-    color = mixed(wanted, text, part);
-  return color;
+  return reaching(leastContrast, wanted, palette.color(QPalette::Window),
+                  palette.color(QPalette::WindowText));
 }
 
 QColor accentColor(const QPalette& palette) {
@@ -42,6 +47,23 @@ QColor accentColor(const QPalette& palette) {
 
 QColor quietColor(const QPalette& palette) {
   return legible(mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.4), palette);
+}
+
+QPalette legibleTexts(const QPalette& palette) {
+  QPalette changes;
+  const auto change = [&](QPalette::ColorGroup group, QPalette::ColorRole role, QPalette::ColorRole usual,
+                          QPalette::ColorRole back, double least) {
+    const QColor behind = palette.color(group, back);
+    const QColor given = palette.color(group, role);
+    const QColor seen = mixed(behind, QColor::fromRgb(given.rgb()), given.alphaF());
+    changes.setColor(group, role, reaching(least, seen, behind, palette.color(QPalette::Active, usual)));
+  };
+  using enum QPalette::ColorRole;
+  for (const auto group : {QPalette::Active, QPalette::Inactive})
+    change(group, PlaceholderText, Text, Base, leastContrast);
+  for (const auto& [role, back] : {std::pair(WindowText, Window), {Text, Base}, {ButtonText, Button}})
+    change(QPalette::Disabled, role, role, back, leastContrastDimmed);
+  return changes;
 }
 
 }  // namespace kesto

@@ -1,15 +1,18 @@
-// Colours of text beside the usual one, legible in light, dark and high contrast.
+// Colors of text beside the usual one, legible in light, dark and high contrast.
 #pragma once
 
 #include <QtGui/QPalette>
 
 namespace kesto {
 
-/// For what stands out: the palette's link colour, made lighter or darker until it is legible on a window.
+/// For what stands out: the palette's link color, made lighter or darker until it is legible on a window.
 QColor accentColor(const QPalette& palette);
-/// For what stands back: between the colours of text and window.
+/// For what stands back: between the colors of text and window.
 QColor quietColor(const QPalette& palette);
-/// A colour as near to `wanted` as can be read on a window of the palette.
+/// A color as near to `wanted` as can be read on a window of the palette.
 QColor legible(const QColor& wanted, const QPalette& palette);
+/// The colors of dimmed texts and placeholders that a style has too near to what is behind them, and no
+/// others. They reach a contrast of 3 and 4.5.
+QPalette legibleTexts(const QPalette& palette);
 
 }  // namespace kesto

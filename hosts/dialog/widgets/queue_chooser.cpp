@@ -56,6 +56,9 @@ QueueChooser::QueueChooser(QWidget* parent)
   m_more->setAccessibleName(tr("Printer details"));
   m_more->hide();
   auto* line = new QHBoxLayout;
+  // The first line of a long state stays beside its icon and the button.
+  for (QWidget* each : {static_cast<QWidget*>(m_icon), static_cast<QWidget*>(m_state)})
+    each->setMinimumHeight(m_more->sizeHint().height());
   line->addWidget(m_icon, 0, Qt::AlignTop);
   line->addWidget(m_state, 1);
   line->addWidget(m_retry);
