@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "hosts/dialog/widgets/mnemonics.h"
+#include "hosts/texts/catalogue.h"
 #include "platform/locale_name.h"
 
 namespace kesto {
@@ -21,20 +22,26 @@ class RememberingTranslator : public QTranslator {
   }
 };
 
-bool install(const QString& name, const QString& folder) {
+template <class Load>
+bool install(const Load& load) {
   auto translator = std::make_unique<RememberingTranslator>();
-  if (!translator->load(userLanguage(), name, QStringLiteral("_"), folder)) return false;
+  if (!load(translator.get())) return false;
   translator->setParent(QCoreApplication::instance());
   return QCoreApplication::installTranslator(translator.release());
+}
+
+bool installTextsOfQt(const QString& folder) {
+  return install([&](QTranslator* translator) {
+    return translator->load(userLanguage(), QStringLiteral("qtbase"), QStringLiteral("_"), folder);
+  });
 }
 
 }  // namespace
 
 void installTranslations() {
-  const QString own = QStringLiteral(":/translations");
-  const QString ofQt = QStringLiteral("qtbase");
-  if (!install(ofQt, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) install(ofQt, own);
-  install(QStringLiteral("kesto-print"), own);
+  if (!installTextsOfQt(QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    installTextsOfQt(QStringLiteral(":/translations"));
+  install(loadTexts);
 }
 
 }  // namespace kesto
