@@ -71,11 +71,11 @@ void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
          "also let the print server listen on this port of 127.0.0.1, 0 for any free one, for programs "
          "that cannot use its socket. Every user of the machine can then send jobs to it")
       ->type_name("PORT")
-      ->transform(wholeNumber("the port", 0, 65535));
+      ->transform(wholeNumber("the port must be between %1 and %2", 0, 65535));
   app.add_option("--folder-port", arguments.folderPort,
                  "port of the folder service, 0 for any free one (default: 80 if possible, else any)")
       ->type_name("PORT")
-      ->transform(wholeNumber("the port", 0, 65535));
+      ->transform(wholeNumber("the port must be between %1 and %2", 0, 65535));
   app.add_option("--misbehave", arguments.misbehave, "make the folder service misbehave; \"list\" shows how")
       ->type_name("NAME")
       ->check(faultOfMisbehaviour);
@@ -83,7 +83,7 @@ void addRun(CLI::App& app, Arguments& arguments, DemoCommand& command) {
                  "ask for a user name and the password in this file's first line with every job")
       ->type_name("FILE");
   app.add_option("--queues", command.setup.queues, "create this many queues, to try long lists")
-      ->transform(wholeNumber("the number", 1, 9999));
+      ->transform(wholeNumber("the number must be between %1 and %2", 1, 9999));
   for (const PrinterFault& fault : printerFaults()) {
     app.add_flag_callback(
         "--" + std::string(fault.name), [&command, &fault] { command.setup.fault = &fault; },
@@ -119,7 +119,7 @@ void addCommands(CLI::App& app, Arguments& arguments, DemoCommand& command) {
   addPlace(*release, arguments);
   release->add_option("JOB", command.job, "the job's number")
       ->required()
-      ->transform(wholeNumber("the number", 1, std::numeric_limits<int>::max()));
+      ->transform(wholeNumber("the number must be between %1 and %2", 1, std::numeric_limits<int>::max()));
   CLI::Option* pin = release
                          ->add_option("--pin", arguments.passCode,
                                       "the job's pass code; other users may see it on the command line")

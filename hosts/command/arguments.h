@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "hosts/command/command_texts.h"
 #include "hosts/command/version.h"
 #include "platform/shown_text.h"
 
@@ -28,16 +29,16 @@ inline void refuseFlagValues(CLI::App& app) {
     refuseFlagValues(*command);
 }
 
-/// Accepts only decimal digits, while the parser itself would read 010 as eight. Its message says what
-/// `name`, such as "copies", must be.
-inline CLI::Validator wholeNumber(const std::string& name, int least, int most) {
-  const auto read = [name, least, most](std::string& text) -> std::string {
+/// Accepts only decimal digits, while the parser itself would read 010 as eight. `fault` is the message, such
+/// as "copies must be between %1 and %2", in the context of `CommandTexts`.
+inline CLI::Validator wholeNumber(const char* fault, int least, int most) {
+  const auto read = [fault, least, most](std::string& text) -> std::string {
     int number = -1;
     const char* end = text.data() + text.size();
     const auto [rest, error] = std::from_chars(text.data(), end, number);
     const bool isNumber = error == std::errc() && rest == end && text.front() != '-';
     if (!isNumber || number < least || number > most)
-      return name + " must be between " + std::to_string(least) + " and " + std::to_string(most);
+      return CommandTexts::tr(fault).arg(least).arg(most).toStdString();
     text = std::to_string(number);
     return {};
   };
@@ -46,13 +47,15 @@ inline CLI::Validator wholeNumber(const std::string& name, int least, int most) 
 
 /// Accepts only one of the words. Its message names them.
 inline CLI::Validator oneOf(const std::vector<std::string>& words) {
-  std::string list;
-  for (std::size_t i = 0; i < words.size(); ++i)
-    list += (i == 0 ? "" : i + 1 == words.size() ? " or " : ", ") + words[i];
-  const auto check = [words, list](const std::string& word) {
-    return std::ranges::find(words, word) == words.end() ? "must be " + list : std::string();
+  const auto check = [words](const std::string& word) -> std::string {
+    if (std::ranges::find(words, word) != words.end()) return {};
+    QStringList list;
+    for (const std::string& each : words)
+      list.append(QString::fromStdString(each));
+    const QString last = list.takeLast();
+    return CommandTexts::tr("must be %1 or %2").arg(list.join(QStringLiteral(", ")), last).toStdString();
   };
-  return {check, list};
+  return {check, CLI::detail::join(words, "|")};
 }
 
 /// What is wrong with the arguments that the parser does not know; empty for nothing. An unknown option is
@@ -60,32 +63,38 @@ inline CLI::Validator oneOf(const std::vector<std::string>& words) {
 inline std::string faultOfUnknown(const CLI::App& app) {
   for (const std::string& argument : app.remaining(true)) {
     if (argument == "--") continue;  // Only files follow it.
-    if (!argument.starts_with('-')) return "unexpected argument";
+    if (!argument.starts_with('-')) return CommandTexts::tr("unexpected argument").toStdString();
     const std::size_t length = argument.starts_with("--") ? argument.find('=') : 2;
-    return "unknown option " + argument.substr(0, length);
+    const QString option = QString::fromStdString(argument.substr(0, length));
+    return CommandTexts::tr("unknown option %1").arg(option).toStdString();
   }
   return {};
 }
 
 /// What is wrong with a command line, in our words where the parser's are hard to read.
 inline std::string faultOf(const CLI::App& app, const CLI::ParseError& error) {
-  std::string text = error.what();
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) return faultOfUnknown(app);
+  const QString text = QString::fromUtf8(error.what());
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
-    const std::size_t flag = text.find(" was given a disallowed flag override");
-    return flag == std::string::npos ? text.substr(0, text.find(':')) + " requires a value"
-                                     : "--" + text.substr(0, flag) + " takes no value";
+    const qsizetype flag = text.indexOf(u" was given a disallowed flag override");
+    const QString fault =
+        flag < 0 ? CommandTexts::tr("%1 requires a value").arg(text.section(u':', 0, 0))
+                 : CommandTexts::tr("%1 takes no value").arg(QStringLiteral("--") + text.first(flag));
+    return fault.toStdString();
   }
-  constexpr std::string_view excludes = " excludes ";
-  const std::size_t place = text.find(excludes);
-  if (dynamic_cast<const CLI::ExcludesError*>(&error) == nullptr || place == std::string::npos) return text;
-  return text.substr(0, place) + " cannot be used with " + text.substr(place + excludes.size());
+  const QStringList words = text.split(u' ');  // "--a excludes --b" or "--a requires --b"
+  if (dynamic_cast<const CLI::ExcludesError*>(&error) != nullptr)
+    return CommandTexts::tr("%1 cannot be used with %2").arg(words.first(), words.last()).toStdString();
+  if (dynamic_cast<const CLI::RequiresError*>(&error) != nullptr)
+    return CommandTexts::lack(words.first(), words.last()).toStdString();
+  return error.what();
 }
 
 /// Prints the fault of a program's command line on standard error. Answers the exit code of wrong usage.
 inline int failUsage(const std::string& program, const std::string& fault) {
-  std::cerr << program << ": " << shownText(QString::fromStdString(fault)).toStdString() << "\nTry '"
-            << program << " --help'.\n";
+  const QString advice = CommandTexts::tr("Try '%1 --help'.").arg(QString::fromStdString(program));
+  std::cerr << program << ": " << shownText(QString::fromStdString(fault)).toStdString() << '\n'
+            << advice.toStdString() << '\n';
   return 2;
 }
 

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <iostream>
 
+#include "hosts/command/command_texts.h"
+
 namespace kesto {
 
 Outcome flushOutput() {
@@ -10,7 +12,7 @@ Outcome flushOutput() {
   const bool isFlushed = std::fflush(stdout) == 0;
   return std::cout && isFlushed && std::ferror(stdout) == 0
              ? Outcome::done()
-             : Outcome::failed(QStringLiteral("cannot write standard output"));
+             : Outcome::failed(CommandTexts::tr("cannot write standard output"));
 }
 
 int endOfOutput(const char* program, int code) {

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "hosts/command/command_texts.h"
 #include "hosts/command/unseen_terminal.h"
 #include "platform/descriptor.h"
 #include "platform/secret.h"
@@ -32,16 +33,16 @@ Outcome readLine(int descriptor, QString* secret) {
   char byte = 0;
   ssize_t count = 0;
   while ((count = ::read(descriptor, &byte, 1)) == 1 && byte != '\n') {
-    if (line.size() == longestLine) return Outcome::failed(QStringLiteral("the line is too long"));
+    if (line.size() == longestLine) return Outcome::failed(CommandTexts::tr("the line is too long"));
     line += byte;
   }
   if (count < 0) return Outcome::failed(QString::fromLocal8Bit(std::strerror(errno)));
   if (line.endsWith('\r')) line.chop(1);
   QStringDecoder decoder(QStringDecoder::Utf8);
   *secret = decoder.decode(line);
-  if (decoder.hasError()) return Outcome::failed(QStringLiteral("the line is not UTF-8"));
+  if (decoder.hasError()) return Outcome::failed(CommandTexts::tr("the line is not UTF-8"));
   // With an empty code the job would go out unprotected.
-  return secret->isEmpty() ? Outcome::failed(QStringLiteral("the line is empty")) : Outcome::done();
+  return secret->isEmpty() ? Outcome::failed(CommandTexts::tr("the line is empty")) : Outcome::done();
 }
 
 }  // namespace
@@ -55,13 +56,13 @@ Outcome readSecretLine(const QString& path, QString* secret) {
 
 Outcome askSecret(const QString& prompt, QString* secret) {
   const Descriptor terminal(::open("/dev/tty", O_RDWR | O_NOCTTY | O_CLOEXEC));
-  if (!terminal) return Outcome::failed(QStringLiteral("no terminal to ask at"));
+  if (!terminal) return Outcome::failed(CommandTexts::tr("no terminal to ask at"));
   const UnseenTerminal unseen(terminal.get());
-  show(terminal.get(), prompt.toLocal8Bit() + ": ");
+  show(terminal.get(), CommandTexts::tr("%1: ", "a prompt").arg(prompt).toLocal8Bit());
   Outcome read = Outcome::done();
   if (unseen.waitForLine()) read = readLine(terminal.get(), secret);
   show(terminal.get(), "\n");
-  return unseen.isInterrupted() ? Outcome::failed(QStringLiteral("interrupted")) : read;
+  return unseen.isInterrupted() ? Outcome::failed(CommandTexts::tr("interrupted")) : read;
 }
 
 }  // namespace kesto

@@ -8,6 +8,8 @@
 #include <chrono>
 #include <string>
 
+#include "hosts/command/command_texts.h"
+
 namespace kesto {
 
 /// Adds "-h HOST[:PORT]", "-U USER", "-E" and "--timeout SECONDS". They fill the members `address`, `user`,
@@ -24,7 +26,8 @@ std::array<CLI::Option*, 2> addServerOptions(CLI::App& app, Server* server) {
     const char* end = text.data() + text.size();
     const bool isNumber = std::from_chars(text.data(), end, seconds).ptr == end;
     if (!isNumber || !(seconds >= 0.1 && seconds <= 3600))
-      throw CLI::ValidationError("--timeout", "must be between 0.1 and 3600 seconds");
+      throw CLI::ValidationError("--timeout",
+                                 CommandTexts::tr("must be between 0.1 and 3600 seconds").toStdString());
     server->limit = std::chrono::milliseconds(static_cast<int>(seconds * 1000));
   };
   app.add_option_function<std::string>("--timeout", setLimit);

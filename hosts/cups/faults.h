@@ -5,7 +5,7 @@
 
 namespace kesto {
 
-/// The translation context of these texts. Command-line programs install no translator and use English.
+/// The translation context of these texts.
 struct Faults {
   Q_DECLARE_TR_FUNCTIONS(kesto::Faults)
 };

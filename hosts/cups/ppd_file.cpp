@@ -33,7 +33,7 @@ Outcome openPpdFile(const QString& path, PpdFile* ppd) {
   ppd->reset();
   // libcups does not say why a file cannot be read.
   QFile file(path);
-  if (QFileInfo(path).isDir()) return Outcome::failed(path + QStringLiteral(": a folder, not a PPD file"));
+  if (QFileInfo(path).isDir()) return Outcome::failed(Faults::tr("%1: a folder, not a PPD file").arg(path));
   if (!file.open(QIODevice::ReadOnly))
     return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
   file.close();

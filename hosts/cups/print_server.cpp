@@ -160,7 +160,7 @@ Outcome PrintServer::findDefault(QueueName* name) {
   if (!asked && ippGetStatusCode(reply.get()) != IPP_STATUS_ERROR_NOT_FOUND) return asked;
   name->queue = nameOf(reply.get());
   if (!name->queue.isEmpty()) return Outcome::done();
-  return Outcome::failed(QStringLiteral("no default printer is set; choose one with -d"));
+  return Outcome::failed(Faults::tr("no default printer is set; choose one with -d"));
 }
 
 Outcome PrintServer::findQueue(const QString& name, Destination* destination) {

@@ -33,7 +33,7 @@ Outcome findOnQueue(PrintServer& server, const SentJob& job) {
   const QString uri = QString::fromUtf8(ippGetString(printer, 0, nullptr)).section(u'/', 3);
   const QString wanted = QString::fromUtf8(uriOfQueue(job.queue)).section(u'/', 3);
   if (uri.section(u'/', 1).compare(wanted.section(u'/', 1), Qt::CaseInsensitive) == 0) return Outcome::done();
-  return Outcome::failed(QStringLiteral("it belongs to another printer"));
+  return Outcome::failed(Faults::tr("it belongs to another printer"));
 }
 
 Outcome orderAbout(PrintServer& server, const SentJob& job, ipp_t* request, const QString& attempt) {
@@ -105,11 +105,11 @@ std::optional<SentJob> SentJob::of(const QString& text) {
 
 Outcome restartJob(PrintServer& server, const SentJob& job) {
   const Ipp request = requestAbout(job, IPP_OP_RESTART_JOB);
-  return orderAbout(server, job, request.get(), QStringLiteral("cannot restart job %1: %2"));
+  return orderAbout(server, job, request.get(), Faults::tr("cannot restart job %1: %2"));
 }
 
 Outcome changeJob(PrintServer& server, const SentJob& job, QMap<QString, QString> options) {
-  const QString fault = QStringLiteral("cannot change job %1: %2");
+  const QString fault = Faults::tr("cannot change job %1: %2");
   // Among the attributes, the scheduler refuses a time, which is not a keyword, and keeps the old value for
   // other words. Hold-Job sets both.
   const QString hold = QStringLiteral("job-hold-until");

@@ -46,9 +46,10 @@ class CommandLine {
     const auto setCopies = [this](const std::string& copies) {
       m_options.jobOptions.insert(QStringLiteral("copies"), QString::fromStdString(copies));
     };
-    m_app.add_option_function<std::string>("-n", setCopies)->transform(wholeNumber("copies", 1, 9999));
+    m_app.add_option_function<std::string>("-n", setCopies)
+        ->transform(wholeNumber("copies must be between %1 and %2", 1, 9999));
     m_app.add_option("--portal", m_options.channel)
-        ->transform(wholeNumber("the descriptor", 3, 1 << 20))
+        ->transform(wholeNumber("the descriptor must be between %1 and %2", 3, 1 << 20))
         ->check(faultOfDescriptor);
     const auto addOption = [this](const std::vector<std::string>& texts) {
       for (const std::string& text : texts)

@@ -1,5 +1,6 @@
 #include "hosts/lp/entries.h"
 
+#include "hosts/command/command_texts.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/pop_up.h"
@@ -8,6 +9,8 @@
 
 namespace kesto {
 namespace {
+
+constexpr char notOffered[] = QT_TRANSLATE_NOOP("LpTexts", "%1: this printer does not offer it");
 
 // A user who sits at the panel.
 class PanelUser {
@@ -45,8 +48,8 @@ bool PanelUser::isRetained() const {
 
 Outcome PanelUser::refusal(const QString& option, Entry entry) const {
   const bool wantsHold = needsHold(entry) && !isRetained();
-  const char* reason = wantsHold ? "requires --hold" : fieldTable().at(entry).whenRefused;
-  return Outcome::failed(option + u' ' + QLatin1String(reason));
+  return Outcome::failed(wantsHold ? CommandTexts::lack(option, QStringLiteral("--hold"))
+                                   : LpTexts::tr(fieldTable().at(entry).whenRefused).arg(option));
 }
 
 Outcome PanelUser::chooseHold(int choice) {
@@ -54,8 +57,9 @@ Outcome PanelUser::chooseHold(int choice) {
   const bool isSet = isRetained() == (choice != noHold) || (retention != nullptr && retention->click());
   if (isSet && (choice == noHold || choosesRow(QStringLiteral("suspendMatrix"), choice)))
     return Outcome::done();
-  return Outcome::failed(QStringLiteral("--hold %1: this printer does not offer it")
-                             .arg(QLatin1String(holdChoices.at(static_cast<std::size_t>(choice)))));
+  const QString option =
+      QStringLiteral("--hold ") + QLatin1String(holdChoices.at(static_cast<std::size_t>(choice)));
+  return Outcome::failed(LpTexts::tr(notOffered).arg(option));
 }
 
 // The item of one of the printer's folders: the one of just this name, else the first that differs in letter
@@ -98,13 +102,14 @@ Outcome PanelUser::choose(const Entries& entries) {
   // Quick file moves the hold choice to its own row.
   const auto* holdChoice = control<RadioMatrix>(QStringLiteral("suspendMatrix"));
   if (entries.hold && *entries.hold != noHold && holdChoice->selectedRow() != *entries.hold) {
-    return Outcome::failed(QStringLiteral("--folder quick requires --hold after"));
+    return Outcome::failed(
+        CommandTexts::lack(QStringLiteral("--folder quick"), QStringLiteral("--hold after")));
   }
   const bool byUserNumber = entries.texts[UserNumber].has_value();
   if (!byUserNumber && !entries.texts[Login] && !entries.texts[Password]) return Outcome::done();
   if (choosesRow(QStringLiteral("authenticationMatrix"), byUserNumber ? ByUserNumber : ByLogin))
     return Outcome::done();
-  return Outcome::failed(QStringLiteral("this printer does not ask who prints"));
+  return Outcome::failed(LpTexts::tr("this printer does not ask who prints"));
 }
 
 Outcome PanelUser::enter(Entry entry, const QString& text) {
@@ -117,7 +122,7 @@ Outcome PanelUser::enter(Entry entry, const QString& text) {
     return refusal(row.option(), entry);
   }
   if (field->stringValue() != text) {
-    return Outcome::failed(QStringLiteral("%1 must be %2").arg(row.option(), QLatin1String(row.limit)));
+    return Outcome::failed(LpTexts::tr("%1 must be %2").arg(row.option(), row.limitText()));
   }
   return isHeld ? button->click() : Outcome::done();
 }
@@ -136,24 +141,30 @@ Outcome PanelUser::turnHoldButtons(const Entries& entries, bool on) {
 }  // namespace
 
 const std::array<FieldRow, entryCount>& fieldTable() {
-  static constexpr char digits8[] = "at most 8 digits";
-  static constexpr char digits5[] = "at most 5 digits";
-  static constexpr char quickFile[] = "cannot be used with --folder quick";
-  static constexpr char anyFolder[] = "requires --folder NAME";
-  static constexpr char codedFolder[] =
-      "requires --folder NAME of a folder with a pass code or of a custom folder";
-  static constexpr char byNumber[] = "cannot be used with a user number";
-  static constexpr char notOffered[] = "this printer does not offer it";
+  static constexpr char digits[] = QT_TRANSLATE_N_NOOP("LpTexts", "at most %n digits");
+  static constexpr char characters[] = QT_TRANSLATE_N_NOOP("LpTexts", "at most %n characters");
+  static constexpr char quickFile[] = QT_TRANSLATE_NOOP("LpTexts", "%1 cannot be used with --folder quick");
+  static constexpr char anyFolder[] = QT_TRANSLATE_NOOP("LpTexts", "%1 requires --folder NAME");
+  static constexpr char codedFolder[] = QT_TRANSLATE_NOOP(
+      "LpTexts", "%1 requires --folder NAME of a folder with a pass code or of a custom folder");
+  static constexpr char byNumber[] = QT_TRANSLATE_NOOP("LpTexts", "%1 cannot be used with a user number");
   static constexpr std::array<FieldRow, entryCount> table{{
-      {"pin", "N", "Pass code", "pass code of the held job", digits8, quickFile},
-      {"folder", "NAME", nullptr, "quick, main or a folder name", "at most 255 characters", anyFolder},
-      {"folder-pin", "N", "Folder pass code", "pass code of the folder", digits8, codedFolder},
-      {"login", "NAME", nullptr, "login name", nullptr, byNumber},
-      {"password", nullptr, "Password", "password of the login name", nullptr, byNumber},
-      {"user-number", "N", nullptr, "user number instead of a login", digits5, notOffered},
-      {"account-number", "N", nullptr, "account number", digits5, notOffered},
-      {"user-name", "NAME", nullptr, "user name at the printer", "at most 32 characters", notOffered},
-      {"job-name", "NAME", nullptr, "job name at the printer", "at most 80 characters", notOffered},
+      {"pin", "N", QT_TRANSLATE_NOOP("LpTexts", "Pass code"),
+       QT_TRANSLATE_NOOP("LpTexts", "pass code of the held job"), digits, 8, quickFile},
+      {"folder", "NAME", nullptr, QT_TRANSLATE_NOOP("LpTexts", "quick, main or a folder name"), characters,
+       255, anyFolder},
+      {"folder-pin", "N", QT_TRANSLATE_NOOP("LpTexts", "Folder pass code"),
+       QT_TRANSLATE_NOOP("LpTexts", "pass code of the folder"), digits, 8, codedFolder},
+      {"login", "NAME", nullptr, QT_TRANSLATE_NOOP("LpTexts", "login name"), nullptr, 0, byNumber},
+      {"password", nullptr, QT_TRANSLATE_NOOP("LpTexts", "Password"),
+       QT_TRANSLATE_NOOP("LpTexts", "password of the login name"), nullptr, 0, byNumber},
+      {"user-number", "N", nullptr, QT_TRANSLATE_NOOP("LpTexts", "user number instead of a login"), digits, 5,
+       notOffered},
+      {"account-number", "N", nullptr, QT_TRANSLATE_NOOP("LpTexts", "account number"), digits, 5, notOffered},
+      {"user-name", "NAME", nullptr, QT_TRANSLATE_NOOP("LpTexts", "user name at the printer"), characters, 32,
+       notOffered},
+      {"job-name", "NAME", nullptr, QT_TRANSLATE_NOOP("LpTexts", "job name at the printer"), characters, 80,
+       notOffered},
   }};
   return table;
 }
@@ -172,9 +183,9 @@ Outcome applyEntries(PanelView& view, const Entries& entries) {
 }
 
 QString missingEntryText(Entry entry) {
-  return QStringLiteral("the %1 is missing; set it with %2")
-      .arg(QLatin1String(entry == UserNumber ? "user number" : "login name"),
-           fieldTable().at(entry).option());
+  return (entry == UserNumber ? LpTexts::tr("the user number is missing; set it with %1")
+                              : LpTexts::tr("the login name is missing; set it with %1"))
+      .arg(fieldTable().at(entry).option());
 }
 
 }  // namespace kesto

@@ -6,22 +6,26 @@
 #include <array>
 #include <optional>
 
+#include "hosts/lp/lp_texts.h"
 #include "hosts/session/panel_entries.h"
 #include "platform/outcome.h"
 
 namespace kesto {
 
-/// One text entry: everything for its options, their help and its messages.
+/// One text entry: everything for its options, their help and its messages. Prompts, descriptions, limits and
+/// reasons are texts in the context of `LpTexts`.
 struct FieldRow {
   const char* name;         ///< The option is "--" and the name; --remember and --forget take the name alone.
   const char* argument;     ///< Of the option; null for an entry that no command line can give.
   const char* prompt;       ///< The prompt for a secret entry at the terminal; null for the others.
   const char* help;         ///< A description.
   const char* limit;        ///< What the field's filter accepts; null without a filter.
-  const char* whenRefused;  ///< Why the panel refuses it, if not for lack of --hold.
+  int most;                 ///< The number in `limit`.
+  const char* whenRefused;  ///< Why the panel refuses an option, %1, if not for lack of --hold.
 
   bool isSecret() const { return prompt != nullptr; }
   QString option() const { return QStringLiteral("--") + QLatin1String(name); }
+  QString limitText() const { return LpTexts::tr(limit, nullptr, most); }
 };
 
 /// The rows in the order of `Entry`.

@@ -5,6 +5,7 @@
 #include <QtCore/QJsonObject>
 #include <iostream>
 
+#include "hosts/lp/lp_texts.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -80,7 +81,7 @@ ExitCode waitForJob(const Options& options, const SentJob& job, const PrinterHol
   const JobFate& fate = watch.fate();
   if (fate.isSuccess()) return ExitDone;
   const QString line = nameOf(job) + QStringLiteral(": ") + fate.line();
-  options.messages().error(fate.isEnd ? line : QStringLiteral("not waiting any longer: ") + line);
+  options.messages().error(fate.isEnd ? line : LpTexts::tr("not waiting any longer: %1").arg(line));
   return fate.isEnd ? ExitFailed : ExitWaiting;
 }
 

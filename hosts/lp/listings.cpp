@@ -8,11 +8,13 @@
 
 #include "hosts/cups/job_privacy.h"
 #include "hosts/cups/ppd_file.h"
+#include "hosts/lp/lp_texts.h"
 #include "hosts/session/panel_entries.h"
 #include "hosts/session/printer_reasons.h"
 #include "panel/model/button.h"
 #include "panel/model/panel_view.h"
 #include "panel/model/text_field.h"
+#include "platform/locale_name.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -32,15 +34,23 @@ QJsonObject jsonOf(const QueueSummary& queue) {
           {QStringLiteral("reasons"), QJsonArray::fromStringList(queue.stateReasons)}};
 }
 
+// What the printer reports, within a line. A German noun keeps its capital there.
+QString withinLine(const QString& reason) {
+  const QLocale language = userLanguage();
+  return language.language() == QLocale::German ? reason : language.toLower(reason);
+}
+
 // The state in words: "stopped, not accepting jobs, out of paper, 3 jobs".
 QString stateOf(const QueueSummary& queue) {
-  if (queue.isOnNetwork) return QStringLiteral("on the network");
-  QStringList parts{queue.state};
-  if (!queue.isAccepting) parts.append(QStringLiteral("not accepting jobs"));
+  if (queue.isOnNetwork) return LpTexts::tr("on the network");
+  QStringList parts{queue.state == u"idle"      ? LpTexts::tr("idle")
+                    : queue.state == u"stopped" ? LpTexts::tr("stopped")
+                                                : LpTexts::tr("processing")};
+  if (!queue.isAccepting) parts.append(LpTexts::tr("not accepting jobs"));
   for (const PrinterReason& reason : printerReasons(queue.stateReasons))
-    parts.append(reason.text.toLower());
+    parts.append(withinLine(reason.text));
   if (queue.jobs > 0)
-    parts.append(queue.jobs == 1 ? QStringLiteral("1 job") : QStringLiteral("%1 jobs").arg(queue.jobs));
+    parts.append(queue.jobs == 1 ? LpTexts::tr("1 job") : LpTexts::tr("%n jobs", nullptr, queue.jobs));
   return parts.join(QStringLiteral(", "));
 }
 
@@ -97,7 +107,7 @@ Outcome fetchFolders(PanelView& view, const QString& address) {
   auto* field = view.control<TextField>(QStringLiteral("printersAddressEditText"));
   auto* button = view.control<Button>(QStringLiteral("getFolderNameButton"));
   if (field == nullptr || button == nullptr) {
-    return Outcome::failed(QStringLiteral("this printer has no folder list"));
+    return Outcome::failed(LpTexts::tr("this printer has no folder list"));
   }
   if (!address.isNull()) {
     if (Outcome placed = field->placeCaret({0, field->stringValue().size()}); !placed) return placed;
@@ -106,10 +116,10 @@ Outcome fetchFolders(PanelView& view, const QString& address) {
   }
   const QString known = printerAddress(view);
   if (known.isEmpty()) {
-    return Outcome::failed(QStringLiteral("the printer's address is unknown; set it with --address"));
+    return Outcome::failed(LpTexts::tr("the printer's address is unknown; set it with --address"));
   }
   return isPrinterAddress(known) ? button->click()
-                                 : Outcome::failed(QStringLiteral("\"%1\" is not an address").arg(known));
+                                 : Outcome::failed(LpTexts::tr("\"%1\" is not an address").arg(known));
 }
 
 Outcome printQueues(PrintServer& server, const std::vector<QueueSummary>& network, bool jobHandlingOnly,
@@ -144,16 +154,13 @@ void printPrivacy(const QString& queue, const JobPrivacy& privacy, bool json) {
     std::cout << QJsonDocument(object).toJson().constData();
     return;
   }
-  if (privacy.shown.isEmpty()) {
-    std::cout << shownText(queue).toStdString() << ": other users see none of a job's options.\n";
-    return;
-  }
-  std::cout << shownText(queue).toStdString() << ": other users see of a job "
-            << shownText(privacy.shown.join(QStringLiteral(", "))).toStdString() << ".\n"
-            << "An administrator closes this in cupsd.conf, in "
-            << (privacy.policy.isNull() ? "the printer's policy"
-                                        : "<Policy " + shownText(privacy.policy).toStdString() + '>')
-            << ":\n";
+  const auto say = [](const QString& line) { std::cout << shownText(line).toStdString() << '\n'; };
+  if (privacy.shown.isEmpty())
+    return say(LpTexts::tr("%1: other users see none of a job's options.").arg(queue));
+  say(LpTexts::tr("%1: other users see of a job %2.").arg(queue, privacy.shown.join(QStringLiteral(", "))));
+  say(privacy.policy.isNull()
+          ? LpTexts::tr("An administrator closes this in cupsd.conf, in the printer's policy:")
+          : LpTexts::tr("An administrator closes this in cupsd.conf, in <Policy %1>:").arg(privacy.policy));
   for (const QString& line : lines)
     std::cout << "  " << line.toStdString() << '\n';
 }
@@ -163,7 +170,8 @@ Outcome printFolders(const PrintDialogPanel& panel, bool json) {
   for (const FolderEntry& folder : panel.folders().value_or(std::vector<FolderEntry>())) {
     array.append(jsonOf(folder));
     if (json) continue;
-    std::cout << shownText(folder.name).toStdString() << (folder.password ? "\tlocked\n" : "\n");
+    const QString mark = folder.password ? u'\t' + LpTexts::tr("locked") : QString();
+    std::cout << (shownText(folder.name) + mark).toStdString() << '\n';
   }
   return json ? printArray(array) : Outcome::done();
 }

@@ -10,6 +10,7 @@
 #include "hosts/cups/queue.h"
 #include "hosts/lp/job_waiting.h"
 #include "hosts/lp/listings.h"
+#include "hosts/lp/lp_texts.h"
 #include "hosts/lp/submission.h"
 #include "hosts/session/panel_session.h"
 #include "platform/alert_presenter.h"
@@ -71,7 +72,7 @@ Outcome readSecrets(const Options& options, Entries* entries) {
     const FieldRow& row = fieldTable().at(entry);
     QString secret;
     const Outcome read =
-        source.ask ? askSecret(QLatin1String(row.prompt), &secret) : readSecretLine(*source.file, &secret);
+        source.ask ? askSecret(LpTexts::tr(row.prompt), &secret) : readSecretLine(*source.file, &secret);
     if (!read) {
       const QString option = QLatin1String(source.ask ? "--ask-%1" : "--%1-file");
       return Outcome::failed(option.arg(QLatin1String(row.name)) + QStringLiteral(": ") + read.reason());
@@ -114,7 +115,7 @@ class Job {
 Outcome Job::enter(const Entries& entries) {
   if (Outcome applied = applyEntries(*m_session.view(), entries); !applied) return applied;
   if (isUnfiled())
-    m_options.messages().warning(QStringLiteral("--folder has no effect: this printer files no documents"));
+    m_options.messages().warning(LpTexts::tr("--folder has no effect: this printer files no documents"));
   const std::optional<Entry> missing = m_session.confirm();
   if (!missing) return Outcome::done();
   return Outcome::failed(m_session.panel()->panelName() + QStringLiteral(": ") + missingEntryText(*missing));
@@ -132,7 +133,7 @@ Outcome Job::keep(const Preset& preset) {
   if (isAsked || m_options.task == Task::Print) {
     Outcome remembered = m_session.remember();
     if (!remembered)
-      kept = Outcome::failed(QStringLiteral("cannot remember the entries: ") + remembered.reason());
+      kept = Outcome::failed(LpTexts::tr("cannot remember the entries: %1").arg(remembered.reason()));
   }
   Outcome saved =
       m_options.savePreset ? m_session.keepPreset(*m_options.savePreset, preset) : Outcome::done();
@@ -149,7 +150,7 @@ Outcome Job::finish() {
                           m_session.settings(), &m_id, facts());
     if (!sent) return sent;
     Outcome kept = keep(preset);
-    return kept ? kept : Outcome::failed(QStringLiteral("the job was sent, but: ") + kept.reason());
+    return kept ? kept : Outcome::failed(LpTexts::tr("the job was sent, but: %1").arg(kept.reason()));
   }
   if (Outcome kept = keep(preset); !kept) return kept;
   if (m_options.summary) return printPairs(summaryOf(*m_session.panel()), ": ", m_options.json, facts());
@@ -207,13 +208,13 @@ ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
 // A queue without the panel prints as usual, and so does a job that the panel's driver never sees.
 ExitCode runPlainJob(const Options& options, const JobOptions& job, const JobQueue& queue) {
   if (goesRaw(job) && options.wantsPanel()) {
-    const QString fault = QStringLiteral("a raw job bypasses the driver, and Job Handling with it");
+    const QString fault = LpTexts::tr("a raw job bypasses the driver, and Job Handling with it");
     return ended(options, Outcome::failed(fault), ExitUsage);
   }
   if (options.task == Task::ListFolders || options.wantsPanel()) {
-    return ended(options,
-                 Outcome::failed(
-                     QStringLiteral("the printer \"%1\" does not offer Job Handling").arg(queue.queue.id)));
+    return ended(
+        options,
+        Outcome::failed(LpTexts::tr("the printer \"%1\" does not offer Job Handling").arg(queue.queue.id)));
   }
   if (options.task == Task::DryRun) return ended(options, printPairs({}, "=", options.json));
   SentJob sent{.queue = queue.queue.id};
@@ -246,7 +247,7 @@ ExitCode runCheck(const Options& options) {
 }
 
 ExitCode runChange(const Options& options) {
-  if (options.mail) options.messages().warning(QStringLiteral("-m is ignored: it goes with a new job"));
+  if (options.mail) options.messages().warning(LpTexts::tr("-m is ignored: it goes with a new job"));
   QMap<QString, QString> changes = options.jobOptions;
   if (options.title) addJobOption(QStringLiteral("job-name"), *options.title, &changes);
   std::unique_ptr<PrintServer> server;

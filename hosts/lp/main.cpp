@@ -4,13 +4,17 @@
 
 #include "hosts/command/output.h"
 #include "hosts/lp/lp_run.h"
+#include "hosts/lp/translations.h"
 
 int main(int argc, char** argv) {
-  kesto::Options options;
-  const auto end = kesto::parseOptions(argc, argv, &options);
-  const QCoreApplication application(argc, argv);
+  // Qt keeps a copy of its arguments, and there may be secrets in these.
+  int countForQt = qMin(argc, 1);
+  const QCoreApplication application(countForQt, argv);
+  if (!kesto::wantsJson(argc, argv)) kesto::installTranslations();
   // kesto-lp itself reports what could not be kept, so the log leaves it out.
   QLoggingCategory::setFilterRules(QStringLiteral("kesto.preferences.changes=false"));
+  kesto::Options options;
+  const auto end = kesto::parseOptions(argc, argv, &options);
   const kesto::ExitCode code = end ? *end : kesto::run(options);
   const kesto::Outcome written = kesto::flushOutput();
   if (written || code != kesto::ExitDone) return code;

@@ -4,6 +4,7 @@
 #include <QtCore/QJsonObject>
 #include <iostream>
 
+#include "hosts/lp/lp_texts.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -22,9 +23,14 @@ void Messages::alert(const QString& text) const {
     std::cerr << shownText(line).toStdString() << '\n';
 }
 
-void Messages::say(const char* member, const QString& start, const QString& text) const {
+void Messages::warning(const QString& text) const {
+  say("warning", text, LpTexts::tr("warning: %1").arg(text));
+}
+
+// JSON has the text, and a person reads the line.
+void Messages::say(const char* member, const QString& text, const QString& line) const {
   if (m_json) return printObject(member, text);
-  std::cerr << "kesto-lp: " << start.toStdString() << shownText(text).toStdString() << '\n';
+  std::cerr << "kesto-lp: " << shownText(line).toStdString() << '\n';
 }
 
 }  // namespace kesto

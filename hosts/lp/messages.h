@@ -11,14 +11,14 @@ class Messages {
   explicit Messages(bool json) : m_json(json) {}
 
   /// Why the program fails.
-  void error(const QString& text) const { say("error", {}, text); }
+  void error(const QString& text) const { say("error", text, text); }
   /// What it ignores, or does differently than asked.
-  void warning(const QString& text) const { say("warning", QStringLiteral("warning: "), text); }
+  void warning(const QString& text) const;
   /// What the panel says to its user, possibly in several lines.
   void alert(const QString& text) const;
 
  private:
-  void say(const char* member, const QString& start, const QString& text) const;
+  void say(const char* member, const QString& text, const QString& line) const;
 
   bool m_json;
 };

@@ -11,6 +11,7 @@
 #include "hosts/command/server_options.h"
 #include "hosts/cups/option_array.h"
 #include "hosts/lp/help_text.h"
+#include "hosts/lp/lp_texts.h"
 #include "hosts/lp/option_faults.h"
 #include "hosts/lp/server_password.h"
 #include "hosts/session/page_range.h"
@@ -54,7 +55,7 @@ class CommandLine {
 
 // An empty name is what an unset variable of a script leaves.
 std::string refuseEmpty(const std::string& value) {
-  return value.empty() ? "must not be empty" : "";
+  return value.empty() ? LpTexts::tr("must not be empty").toStdString() : "";
 }
 
 // A word that no server knows would hold the job for ever.
@@ -62,14 +63,17 @@ std::string faultOfHold(const std::string& when) {
   static const std::regex known(
       "hold|immediate|resume|release|restart|no-hold|indefinite|day-time|evening|night|second-shift|"
       "third-shift|weekend|([01]?[0-9]|2[0-3]):[0-5][0-9](:[0-5][0-9])?");
-  return std::regex_match(when, known)
-             ? ""
-             : "must be a time such as 18:30 (UTC), hold, immediate, resume, restart "
-               "or a keyword of the print server such as evening";
+  if (std::regex_match(when, known)) return {};
+  return LpTexts::tr(
+             "must be a time such as 18:30 (UTC), hold, immediate, resume, restart "
+             "or a keyword of the print server such as evening")
+      .toStdString();
 }
 
 std::string faultOfJobName(const std::string& name) {
-  return SentJob::of(QString::fromStdString(name)) ? "" : "must be a job such as 12 or QUEUE-12";
+  return SentJob::of(QString::fromStdString(name))
+             ? ""
+             : LpTexts::tr("must be a job such as 12 or QUEUE-12").toStdString();
 }
 
 CommandLine::CommandLine(Options& options) : m_options(options) {
@@ -156,7 +160,7 @@ CLI::Option* CommandLine::addUsualOption(const std::string& names, const char* j
 void CommandLine::addIgnored(const std::string& name, const char* what) {
   addUsual(name, [this, name, what](const QString& /*value*/) {
     m_options.warnings +=
-        QStringLiteral("%1 is ignored: %2").arg(QLatin1String(name.c_str()), QLatin1String(what));
+        LpTexts::tr("%1 is ignored: %2").arg(QLatin1String(name.c_str()), LpTexts::tr(what));
   });
 }
 
@@ -180,8 +184,12 @@ void CommandLine::addJob() {
   addUsual("-P", [this](const QString& pages) {
     addJobOption(QStringLiteral("page-ranges"), pageRangesOf(pages).value_or(pages), &m_options.jobOptions);
   });
-  addUsualOption("-n", "copies")->transform(wholeNumber("copies", 1, 9999));
-  addUsualOption("-q,-p", "job-priority")->transform(wholeNumber("priority", 1, 100));
+  addUsualOption("-n", "copies")
+      ->transform(
+          wholeNumber(QT_TRANSLATE_NOOP("CommandTexts", "copies must be between %1 and %2"), 1, 9999));
+  addUsualOption("-q,-p", "job-priority")
+      ->transform(
+          wholeNumber(QT_TRANSLATE_NOOP("CommandTexts", "priority must be between %1 and %2"), 1, 100));
   addUsual("-H", [this](const QString& when) { setHold(when); })->check(faultOfHold);
   const auto changeJob = [this](const QString& name) {
     m_tasks += m_options.job ? 0 : 1;
@@ -194,10 +202,11 @@ void CommandLine::addJob() {
   m_app.add_flag("-c");
   m_app.add_flag("-s", m_options.silent);
   addUsual("-t", [this](const QString& title) { m_options.title = title; });
-  addIgnored("-f", "CUPS has no forms");
-  addIgnored("-y", "CUPS has no modes; use -o");
-  addIgnored("-S", "the character set is always UTF-8");
-  addIgnored("-T", "the print server detects the type; use -o document-format=TYPE");
+  addIgnored("-f", QT_TRANSLATE_NOOP("LpTexts", "CUPS has no forms"));
+  addIgnored("-y", QT_TRANSLATE_NOOP("LpTexts", "CUPS has no modes; use -o"));
+  addIgnored("-S", QT_TRANSLATE_NOOP("LpTexts", "the character set is always UTF-8"));
+  addIgnored("-T",
+             QT_TRANSLATE_NOOP("LpTexts", "the print server detects the type; use -o document-format=TYPE"));
   m_app.add_option_function<std::vector<std::string>>("files", [this](const std::vector<std::string>& given) {
     for (const std::string& file : given)
       m_options.files.append(QByteArray::fromStdString(file));
@@ -245,7 +254,7 @@ void CommandLine::addMemory(const char* name, bool remember) {
           static_cast<std::size_t>(std::ranges::find(names, field) - names.begin()));
       if (turned && *turned != remember) {
         m_contradiction =
-            QStringLiteral("--remember and --forget cannot both name %1").arg(QString::fromStdString(field));
+            LpTexts::tr("--remember and --forget cannot both name %1").arg(QString::fromStdString(field));
       }
       turned = remember;
     }
@@ -268,7 +277,9 @@ void CommandLine::addWait() {
   const auto take = [this](std::string value) {
     m_options.wait = true;
     if (value == "true") return;  // it has none
-    const std::string fault = wholeNumber("the seconds", 1, 999'999)(value);
+    const auto seconds =
+        wholeNumber(QT_TRANSLATE_NOOP("CommandTexts", "the seconds must be between %1 and %2"), 1, 999'999);
+    const std::string fault = seconds(value);
     if (!fault.empty()) throw CLI::ValidationError("--wait", fault);
     m_options.waitLimit = std::chrono::seconds(std::stoi(value));
   };
@@ -290,10 +301,9 @@ std::optional<ExitCode> CommandLine::parse(int argc, const char* const* argv) {
     fault = QString::fromStdString(faultOf(m_app, error));
   }
   if (fault.isNull()) return {};
-  // The parser may have stopped before it came to it.
-  const bool json = std::ranges::count(argv, argv + argc, std::string_view("--json")) > 0;
-  if (json)
-    Messages(json).error(fault);
+  // The parser may have stopped before it came to the option.
+  if (wantsJson(argc, argv))
+    Messages(true).error(fault);
   else
     failUsage("kesto-lp", fault.toStdString());
   return ExitUsage;
@@ -303,7 +313,7 @@ QString CommandLine::faultOfAll() const {
   if (const std::string fault = faultOfUnknown(m_app); !fault.empty()) return QString::fromStdString(fault);
   if (!m_contradiction.isNull()) return m_contradiction;
   if (m_tasks > 1)
-    return QStringLiteral(
+    return LpTexts::tr(
         "use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset");
   return faultOfOptions(m_options);
 }
@@ -313,6 +323,10 @@ QString CommandLine::faultOfAll() const {
 bool Options::wantsPanel() const {
   const bool wantsSecret = std::ranges::any_of(secrets, &SecretSource::isGiven);
   return wantsSecret || entries != Entries() || summary || preset || savePreset;
+}
+
+bool wantsJson(int argc, const char* const* argv) {
+  return std::ranges::count(argv, argv + argc, std::string_view("--json")) > 0;
 }
 
 std::optional<ExitCode> parseOptions(int argc, char** argv, Options* options) {

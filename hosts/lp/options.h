@@ -64,6 +64,9 @@ struct Options {
   bool wantsPanel() const;
 };
 
+/// Whether the command line asks for JSON, wherever a fault in it is.
+bool wantsJson(int argc, const char* const* argv);
+
 /// Reads the command line and wipes the secrets in it. None when there is something to do; otherwise the exit
 /// status, after the help or a fault has been printed. A fault never repeats what may be a secret.
 std::optional<ExitCode> parseOptions(int argc, char** argv, Options* options);

@@ -1,22 +1,23 @@
 #include "hosts/lp/server_password.h"
 
 #include "hosts/command/secret_input.h"
+#include "hosts/lp/lp_texts.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
 namespace {
 
 QString promptOf(const PasswordQuestion& question, const Credentials& answer) {
-  const QString prompt = QStringLiteral("%1Password of %2 for %3");
-  return prompt.arg(QLatin1String(question.wasWrong ? "Wrong password. " : ""), shownText(answer.user),
-                    shownText(question.subject));
+  const QString prompt = question.wasWrong ? LpTexts::tr("Wrong password. Password of %1 for %2")
+                                           : LpTexts::tr("Password of %1 for %2");
+  return prompt.arg(shownText(answer.user), shownText(question.subject));
 }
 
 // Without a terminal the reason also says what would do in its place.
 Outcome askAtTerminal(const QString& prompt, QString* password) {
   const Outcome asked = askSecret(prompt, password);
   return asked ? asked
-               : Outcome::failed(asked.reason() + QStringLiteral("; set it with --server-password-file"));
+               : Outcome::failed(LpTexts::tr("%1; set it with --server-password-file").arg(asked.reason()));
 }
 
 void splitDomain(const PasswordQuestion& question, Credentials* answer) {

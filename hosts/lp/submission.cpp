@@ -9,6 +9,7 @@
 
 #include "hosts/command/held_signals.h"
 #include "hosts/cups/option_array.h"
+#include "hosts/lp/lp_texts.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -28,9 +29,11 @@ class ProgressLine {
     if (sent < longUpload || sent - m_last < longUpload / 4) return;
     m_last = sent;
     m_isShown = true;
-    std::cerr << "\r\033[Ksending document " << document << ": " << sent / 1048576 << " MiB";
-    if (total > 0) std::cerr << ", " << 100 * sent / total << " %";
-    std::cerr << std::flush;
+    QString text = total > 0 ? LpTexts::tr("sending document %1: %2 MiB, %3 %")
+                             : LpTexts::tr("sending document %1: %2 MiB");
+    text = text.arg(document).arg(sent / 1048576);
+    if (total > 0) text = text.arg(100 * sent / total);
+    std::cerr << "\r\033[K" << text.toStdString() << std::flush;
   }
 
  private:

@@ -126,6 +126,11 @@ TEST_F(JobWait, EndsWithTheJob) {
   const LpRun late = lp(u"--wait=1 -s -H hold DOCUMENT"_s);
   EXPECT_EQ(late.err, u"kesto-lp: not waiting any longer: Office_MFP-3: Held until it is released\n"_s);
   EXPECT_EQ(late.code, 4);
+  speak("de_DE.UTF-8");
+  const LpRun german = lp(u"--wait DOCUMENT"_s);
+  EXPECT_TRUE(german.out.startsWith(u"request id is Office_MFP-4 (1 file(s))\n"_s)) << german.out;
+  EXPECT_TRUE(german.out.endsWith(u"Office_MFP-4: Gedruckt\n"_s)) << german.out;
+  EXPECT_TRUE(lp(u"--wait --json DOCUMENT"_s).out.endsWith(u"\"text\":\"Printed\"}\n"_s));
 }
 
 }  // namespace

@@ -87,6 +87,39 @@ TEST_F(LpEntries, TheHelpFitsAScreen) {
     EXPECT_LE(line.size(), 80) << line.toStdString();
 }
 
+TEST_F(LpEntries, SpeaksTheLanguageOfItsUser) {
+  using Case = std::tuple<const char*, Text, Text>;
+  const QString letters(81, u'x');
+  const QString english = u"unknown option --no-such"_s;
+  for (const auto& [locale, arguments, message] :
+       {Case{"C", "--no-such", english}, Case{"de_DE.UTF-8", "--no-such", "unbekannte Option --no-such"},
+        Case{"ja_JP.UTF-8", "--no-such", "--no-such は不明なオプションです"},
+        Case{"pl_PL.UTF-8", u"--user-name "_s + letters, "--user-name może mieć co najwyżej 32 znaki"},
+        Case{"pl_PL.UTF-8", u"--job-name "_s + letters, "--job-name może mieć co najwyżej 80 znaków"},
+        Case{"de_DE.UTF-8", "--preset x",
+             "es gibt keine Voreinstellung „x“; dieser Drucker hat keine Voreinstellungen"},
+        Case{"de_DE.UTF-8", "--folder X --dry-run=no", "--dry-run erlaubt keinen Wert"}}) {
+    speak(locale);
+    EXPECT_EQ(dryRun(arguments).err.section(u'\n', 0, 0), u"kesto-lp: "_s + message) << locale;
+    EXPECT_EQ(dryRun(u"--json --no-such"_s).err, jsonLine({{u"error"_s, english}}) + u'\n') << locale;
+  }
+  speak("");
+  m_environment.insert(u"LC_CTYPE"_s, u"C"_s);
+  m_environment.insert(u"LC_MESSAGES"_s, u"de_DE.UTF-8"_s);
+  EXPECT_EQ(dryRun(u"--folder X --summary --hold only"_s).err, unfiled) << "for a terminal without UTF-8";
+  forEachValue(
+      u"cs=1 de=1 el=1 es=1 fr=1 hu=1 it=1 ja=2 ko=2 nl=1 pl=1 pt_BR=1 ru=1 sv=1 tr=1 zh_CN=2 zh_TW=2"_s,
+      [this](const QString& locale, const QString& columns) {
+        speak((locale + u".UTF-8"_s).toUtf8());
+        const QString help = run(u"--help"_s).out;
+        EXPECT_FALSE(help.startsWith(u"Usage: "_s)) << locale;
+        for (const QString& line : help.split(u'\n')) {
+          const auto wide = std::ranges::count_if(line, [](QChar c) { return c >= QChar(0x2E80); });
+          EXPECT_LE(line.size() + (columns.toInt() - 1) * wide, 80) << line;
+        }
+      });
+}
+
 TEST_F(LpEntries, SettingsOrSummaryAsLinesOrJson) {
   const QString arguments = u"--user-name ann --job-name offer --hold sample --pin 4711 "_s;
   const QStringList lines = dryRun(arguments).out.split(u'\n', Qt::SkipEmptyParts);

@@ -241,6 +241,10 @@ TEST_F(PrintTest, ListsQueues) {
   EXPECT_TRUE(run(encrypted).err.contains(u" with encryption\n"_s));
   ASSERT_TRUE(QDir().mkdir(m_folder.path(u"run/cups/ssl"_s)));
   EXPECT_EQ(run(encrypted).out, office);
+  speak("de_DE.UTF-8");
+  EXPECT_TRUE(lp(u"--list"_s)
+                  .out.endsWith(u"\nPlain\tbereit, nimmt keine Aufträge an, Kein Papier"_s +
+                                rest.arg(u"KESTO VQ-250n PS"_s, QString())));
 }
 
 TEST_F(PrintTest, APrinterWithoutAPpdPrintsDirectlyAndBehindTheScheduler) {

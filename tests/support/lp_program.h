@@ -78,6 +78,11 @@ class LpTest : public testing::Test {
       EXPECT_FALSE(each.err.contains(u"4711"_s)) << each.err;
     }
   }
+  /// Sets the locale of the programs that are started from here on.
+  void speak(const QByteArray& locale) {
+    m_environment.insert(u"LC_ALL"_s, QString::fromLatin1(locale));
+    m_environment.remove(u"LANGUAGE"_s);
+  }
   static QString jsonLine(const QJsonObject& object) {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
   }

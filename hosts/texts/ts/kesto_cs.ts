@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="cs_CZ" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>musí být %1 nebo %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>neočekávaný argument</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>neznámá volba %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 vyžaduje hodnotu</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 nepřijímá hodnotu</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 nelze použít spolu s %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Zkuste „%1 --help“.</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 vyžaduje %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>na standardní výstup nelze zapsat</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>řádek je příliš dlouhý</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>řádek není v UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>řádek je prázdný</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>není terminál, na kterém by se dalo zeptat</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>přerušeno</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>musí být mezi 0.1 a 3600 sekundami</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>počet kopií musí být mezi %1 a %2</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>priorita musí být mezi %1 a %2</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>počet sekund musí být mezi %1 a %2</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -531,6 +611,398 @@
     <message>
         <source>Finishing</source>
         <translation>Dokončování</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: tato tiskárna to nenabízí</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>tato tiskárna se neptá, kdo tiskne</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 smí mít %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>nejvýše %n číslici</numerusform>
+            <numerusform>nejvýše %n číslice</numerusform>
+            <numerusform>nejvýše %n číslic</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>nejvýše %n znak</numerusform>
+            <numerusform>nejvýše %n znaky</numerusform>
+            <numerusform>nejvýše %n znaků</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 nelze použít spolu s --folder quick</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 vyžaduje --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 vyžaduje --folder NAME složky s přístupovým kódem nebo vlastní složky</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 nelze použít spolu s číslem uživatele</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>Přístupový kód</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>přístupový kód podržené úlohy</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main nebo název složky</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Kód složky</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>kód složky</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>přihlašovací jméno</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Heslo</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>heslo k přihlašovacímu jménu</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>číslo uživatele místo přihlášení</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>číslo účtu</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>uživatelské jméno na tiskárně</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>název úlohy na tiskárně</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>chybí číslo uživatele; zadejte je pomocí %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>chybí přihlašovací jméno; zadejte je pomocí %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>jako u běžného tiskového příkazu</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p je -q a -w je -m; ostatní nemají účinek</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>zastupují frontu, když se nic neodesílá</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>vypíše nastavení úlohy a nic neodešle; uchová jen to, co žádají --remember, --forget nebo --save-preset</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>vypíše souhrn panelu místo nastavení</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>vypíše fronty, nebo jen ty se správou úloh, a tiskárny v síti</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>načte, zapamatuje a vypíše složky tiskárny</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>ukáže, co ostatní uživatelé serveru vidí z voleb úlohy, a jak to skrýt</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>vypisuje, co se děje s úlohou, dokud není vytištěna nebo podržena na tiskárně; jinak končí s 1, nebo se 4, pokud po SECONDS stále čeká</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>vypíše JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>heslo, které požaduje server nebo tiskárna</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>podrží úlohu: nevytištěnou, po vytištění nebo po zkušebním tisku</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>úlohu nepodrží</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>vezme X (pin, folder-pin, password) z prvního řádku souboru nebo standardního vstupu („-“), nebo se zeptá na terminálu: příkazový řádek mohou vidět ostatní uživatelé</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>zapamatuje údaje X pro další úlohy této fronty</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>už si je nepamatuje</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>začne předvolbou této fronty</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>uloží nastavení jako předvolbu; přístupové kódy jen spolu s --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>udělá jen toto, pro -d nebo --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>vypíše tento text, nebo verzi</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Použití: kesto-lp [VOLBA]... [SOUBOR]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Vytiskne soubory nebo standardní vstup se správou úloh tiskárny.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Končí s 0 hotovo, 1 nezdařilo se, 2 špatné použití, 3 odmítnuto panelem, 4 čeká.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>déle se nečeká: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>v síti</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>připravena</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>zastavena</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>tiskne</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>nepřijímá úlohy</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 úloha</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n úloha</numerusform>
+            <numerusform>%n úlohy</numerusform>
+            <numerusform>%n úloh</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>tato tiskárna nemá seznam složek</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>adresa tiskárny není známa; zadejte ji pomocí --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>„%1“ není adresa</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: ostatní uživatelé nevidí žádné volby úlohy.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: ostatní uživatelé vidí z úlohy: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Správce to skryje v cupsd.conf, v zásadách tiskárny:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Správce to skryje v cupsd.conf, v &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>uzamčeno</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder nemá účinek: tato tiskárna dokumenty neukládá</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>údaje nelze zapamatovat: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>úloha byla odeslána, ale: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>nezpracovaná úloha (raw) obchází ovladač a s ním i správu úloh</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>tiskárna „%1“ nenabízí správu úloh</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m se ignoruje: patří k nové úloze</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>varování: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i mění již odeslanou úlohu; vynechte soubory</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i mění úlohu tam, kde je; vynechte -d a --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i nemůže změnit správu již odeslané úlohy</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait vyžaduje úlohu k vytištění</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>seznam nelze kombinovat s volbami úlohy</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>není zadána tiskárna; zvolte ji pomocí -d nebo --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd vyžaduje --dry-run nebo --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>ze standardního vstupu lze načíst jen jeden údaj</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>nesmí být prázdné</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>musí být čas jako 18:30 (UTC), hold, immediate, resume, restart nebo klíčové slovo tiskového serveru jako evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>musí být úloha jako 12 nebo QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 se ignoruje: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS nemá formuláře</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS nemá režimy; použijte -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>znaková sada je vždy UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>tiskový server rozpozná typ; použijte -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember a --forget nesmějí obě uvádět %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>použijte jen jednu z voleb -i, --dry-run, --list, --folders, --check, --list-presets a --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Chybné heslo. Heslo uživatele %1 pro %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Heslo uživatele %1 pro %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; zadejte je pomocí --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>odesílá se dokument %1: %2 MiB, %3&#xa0;%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>odesílá se dokument %1: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>nečeká na odpověď déle (výchozí: 5)</translation>
     </message>
 </context>
 <context>
@@ -1646,6 +2118,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>žádný seznam složek z %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: složka, nikoli soubor PPD</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>není nastavena výchozí tiskárna; zvolte ji pomocí -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>patří jiné tiskárně</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>úlohu %1 nelze spustit znovu: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>úlohu %1 nelze změnit: %2</translation>
     </message>
 </context>
 <context>

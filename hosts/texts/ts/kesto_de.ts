@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>muss %1 oder %2 sein</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>unerwartetes Argument</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>unbekannte Option %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 erfordert einen Wert</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 erlaubt keinen Wert</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 ist nicht zusammen mit %2 möglich</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Hilfe zeigt „%1 --help“.</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 erfordert %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>die Standardausgabe lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>die Zeile ist zu lang</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>die Zeile ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>die Zeile ist leer</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>es gibt kein Terminal für die Abfrage</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>unterbrochen</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>muss zwischen 0.1 und 3600 Sekunden liegen</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>die Zahl der Exemplare muss zwischen %1 und %2 liegen</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>die Priorität muss zwischen %1 und %2 liegen</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>die Zahl der Sekunden muss zwischen %1 und %2 liegen</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>A quick file has no pass code.</source>
@@ -530,6 +610,395 @@
     <message>
         <source>Finishing</source>
         <translation>Weiterverarbeitung</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: wird von diesem Drucker nicht angeboten</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>dieser Drucker fragt nicht, wer druckt</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 darf %2 haben</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>höchstens %n Ziffer</numerusform>
+            <numerusform>höchstens %n Ziffern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>höchstens %n Zeichen</numerusform>
+            <numerusform>höchstens %n Zeichen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 ist nicht zusammen mit --folder quick möglich</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 erfordert --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 erfordert --folder NAME für einen Ordner mit PIN oder einen eigenen Ordner</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 ist nicht zusammen mit einer Benutzernummer möglich</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>PIN des zurückgehaltenen Auftrags</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main oder der Name eines Ordners</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>PIN des Ordners</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>PIN des Ordners</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>Anmeldename</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>Passwort zum Anmeldenamen</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>Benutzernummer statt einer Anmeldung</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>Kontonummer</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>Benutzername am Drucker</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>Auftragsname am Drucker</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>die Benutzernummer fehlt; geben Sie sie mit %1 an</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>der Anmeldename fehlt; geben Sie ihn mit %1 an</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>wie beim üblichen Druckbefehl</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p ist -q, und -w ist -m; die anderen haben keine Wirkung</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>stehen für eine Warteschlange, wo kein Auftrag gesendet wird</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>die Einstellungen des Auftrags ausgeben und nichts senden; nur behalten, was --remember, --forget oder --save-preset verlangen</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>die Übersicht des Bedienfelds statt der Einstellungen ausgeben</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>die Warteschlangen auflisten, oder die mit Auftragssteuerung, und die Drucker im Netzwerk</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>die Ordner des Druckers abrufen, merken und auflisten</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>zeigen, was andere Benutzer des Servers von den Optionen eines Auftrags sehen, und wie man es verbirgt</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>ausgeben, was aus dem Auftrag wird, bis er gedruckt ist oder am Drucker zurückgehalten wird; endet sonst mit 1, oder mit 4, wenn er nach SECONDS noch wartet</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>JSON ausgeben</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>das Passwort, das der Server oder Drucker verlangt</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>den Auftrag zurückhalten: ungedruckt, nach dem Druck oder nach einem Probedruck</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>den Auftrag nicht zurückhalten</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>X (pin, folder-pin, password) der ersten Zeile einer Datei oder der Standardeingabe („-“) entnehmen oder am Terminal abfragen: eine Befehlszeile können andere Benutzer sehen</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>die Einträge X für die nächsten Aufträge dieser Warteschlange merken</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>sie nicht länger merken</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>mit einer Voreinstellung dieser Warteschlange beginnen</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>die Einstellungen als Voreinstellung speichern, die PINs nur zusammen mit --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>nur dies tun, für -d oder --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>diesen Text oder die Version ausgeben</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Aufruf: kesto-lp [OPTION]... [DATEI]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Druckt Dateien oder die Standardeingabe mit der Auftragssteuerung eines Druckers.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Endet mit 0 erledigt, 1 fehlgeschlagen, 2 falscher Aufruf, 3 vom Bedienfeld abgelehnt, 4 wartet noch.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>es wird nicht länger gewartet: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>im Netzwerk</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>gestoppt</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 Auftrag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n Auftrag</numerusform>
+            <numerusform>%n Aufträge</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>dieser Drucker hat keine Ordnerliste</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>die Adresse des Druckers ist unbekannt; geben Sie sie mit --address an</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>„%1“ ist keine Adresse</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: Andere Benutzer sehen keine Optionen eines Auftrags.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: Andere Benutzer sehen von einem Auftrag: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Ein Administrator verbirgt sie in cupsd.conf, in der Richtlinie des Druckers:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Ein Administrator verbirgt sie in cupsd.conf, in &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder hat keine Wirkung: dieser Drucker legt keine Dokumente ab</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>die Einträge lassen sich nicht merken: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>der Auftrag wurde gesendet, aber: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>ein unveränderter Auftrag (raw) umgeht den Treiber und mit ihm die Auftragssteuerung</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>der Drucker „%1“ bietet keine Auftragssteuerung</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m wird ignoriert: es gehört zu einem neuen Auftrag</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i ändert einen schon gesendeten Auftrag; lassen Sie die Dateien weg</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i ändert einen Auftrag dort, wo er ist; lassen Sie -d und --ppd weg</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i kann die Auftragssteuerung eines schon gesendeten Auftrags nicht ändern</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait erfordert einen Auftrag, der gedruckt wird</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>eine Liste ist nicht zusammen mit den Optionen eines Auftrags möglich</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>kein Drucker angegeben; wählen Sie einen mit -d oder --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd erfordert --dry-run oder --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>nur ein Eintrag kann aus der Standardeingabe gelesen werden</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>muss eine Zeit wie 18:30 (UTC), hold, immediate, resume, restart oder ein Schlüsselwort des Druckservers wie evening sein</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>muss ein Auftrag wie 12 oder QUEUE-12 sein</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 wird ignoriert: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS kennt keine Formulare</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS kennt keine Modi; verwenden Sie -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>der Zeichensatz ist immer UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>der Druckserver erkennt den Typ; verwenden Sie -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember und --forget dürfen nicht beide %1 nennen</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>nur eines von -i, --dry-run, --list, --folders, --check, --list-presets und --delete-preset ist möglich</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Falsches Passwort. Passwort von %1 für %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Passwort von %1 für %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; geben Sie es mit --server-password-file an</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>Dokument %1 wird gesendet: %2 MiB, %3&#xa0;%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>Dokument %1 wird gesendet: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>nicht länger auf eine Antwort warten (Vorgabe: 5)</translation>
     </message>
 </context>
 <context>
@@ -1643,6 +2112,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>keine Ordnerliste von %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: ein Ordner, keine PPD-Datei</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>es ist kein Standarddrucker festgelegt; wählen Sie einen mit -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>er gehört zu einem anderen Drucker</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>der Auftrag %1 lässt sich nicht erneut starten: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>der Auftrag %1 lässt sich nicht ändern: %2</translation>
     </message>
 </context>
 <context>

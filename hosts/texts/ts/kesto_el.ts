@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="el_GR" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>πρέπει να είναι %1 ή %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>μη αναμενόμενο όρισμα</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>άγνωστη επιλογή %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>το %1 απαιτεί μια τιμή</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>το %1 δεν δέχεται τιμή</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>το %1 δεν μπορεί να χρησιμοποιηθεί με το %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Δοκιμάστε «%1 --help».</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>το %1 απαιτεί το %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>δεν είναι δυνατή η εγγραφή στην τυπική έξοδο</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>η γραμμή είναι πολύ μεγάλη</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>η γραμμή δεν είναι σε UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>η γραμμή είναι κενή</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>δεν υπάρχει τερματικό για την ερώτηση</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>διακόπηκε</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>πρέπει να είναι από 0.1 έως 3600 δευτερόλεπτα</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>τα αντίγραφα πρέπει να είναι από %1 έως %2</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>η προτεραιότητα πρέπει να είναι από %1 έως %2</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>τα δευτερόλεπτα πρέπει να είναι από %1 έως %2</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -530,6 +610,395 @@
     <message>
         <source>Finishing</source>
         <translation>Φινίρισμα</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: αυτός ο εκτυπωτής δεν το προσφέρει</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>αυτός ο εκτυπωτής δεν ρωτά ποιος εκτυπώνει</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>το %1 πρέπει να έχει %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>το πολύ %n ψηφίο</numerusform>
+            <numerusform>το πολύ %n ψηφία</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>το πολύ %n χαρακτήρα</numerusform>
+            <numerusform>το πολύ %n χαρακτήρες</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>το %1 δεν μπορεί να χρησιμοποιηθεί με το --folder quick</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>το %1 απαιτεί το --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>το %1 απαιτεί το --folder NAME ενός φακέλου με PIN ή ενός προσαρμοσμένου φακέλου</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>το %1 δεν μπορεί να χρησιμοποιηθεί με αριθμό χρήστη</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>PIN της εργασίας σε κράτηση</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main ή όνομα φακέλου</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>PIN φακέλου</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>PIN φακέλου</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>όνομα σύνδεσης</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Κωδικός πρόσβασης</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>κωδικός πρόσβασης του ονόματος σύνδεσης</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>αριθμός χρήστη αντί για σύνδεση</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>αριθμός λογαριασμού</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>όνομα χρήστη στον εκτυπωτή</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>όνομα εργασίας στον εκτυπωτή</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>λείπει ο αριθμός χρήστη· δώστε τον με το %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>λείπει το όνομα σύνδεσης· δώστε το με το %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>όπως στη συνήθη εντολή εκτύπωσης</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>το -p είναι -q και το -w είναι -m· τα υπόλοιπα δεν έχουν αποτέλεσμα</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>στη θέση μιας ουράς, όταν δεν στέλνεται εργασία</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>εμφάνιση των ρυθμίσεων της εργασίας χωρίς αποστολή· αποθηκεύεται μόνο ό,τι ζητούν τα --remember, --forget ή --save-preset</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>εμφάνιση της σύνοψης του πίνακα και όχι των ρυθμίσεων</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>λίστα των ουρών, ή όσων προσφέρουν διαχείριση εργασιών, και των εκτυπωτών στο δίκτυο</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>λήψη, αποθήκευση και λίστα των φακέλων του εκτυπωτή</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>εμφάνιση του τι βλέπουν οι άλλοι χρήστες του διακομιστή από τις επιλογές μιας εργασίας και πώς αποκρύπτεται</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>εμφάνιση της πορείας της εργασίας μέχρι να εκτυπωθεί ή να κρατηθεί στον εκτυπωτή· αλλιώς τερματίζει με 1, ή με 4 αν περιμένει ακόμη μετά από SECONDS</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>εμφάνιση JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>ο κωδικός πρόσβασης που ζητά ο διακομιστής ή ο εκτυπωτής</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>κράτηση της εργασίας: χωρίς εκτύπωση, μετά την εκτύπωση ή μετά από ένα δείγμα</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>χωρίς κράτηση της εργασίας</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>λήψη του X (pin, folder-pin, password) από την πρώτη γραμμή ενός αρχείου ή της τυπικής εισόδου, «-», ή ερώτηση στο τερματικό: άλλοι χρήστες ίσως βλέπουν μια γραμμή εντολών</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>αποθήκευση των τιμών X για τις επόμενες εργασίες της ουράς</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>παύση της αποθήκευσής τους</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>έναρξη από μια προρύθμιση της ουράς</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>αποθήκευση των ρυθμίσεων ως προρύθμισης· των PIN μόνο μαζί με --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>μόνο αυτό, για -d ή --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>εμφάνιση αυτού του κειμένου ή της έκδοσης</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Χρήση: kesto-lp [ΕΠΙΛΟΓΗ]... [ΑΡΧΕΙΟ]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Εκτυπώνει αρχεία ή την τυπική είσοδο με τη διαχείριση εργασιών ενός εκτυπωτή.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Τερματίζει με 0 ολοκλήρωση, 1 αποτυχία, 2 λανθασμένη χρήση, 3 άρνηση του πίνακα, 4 αναμονή.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>τέλος της αναμονής: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>στο δίκτυο</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>έτοιμος</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>σταματημένος</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>εκτυπώνει</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>δεν δέχεται εργασίες</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 εργασία</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n εργασία</numerusform>
+            <numerusform>%n εργασίες</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>αυτός ο εκτυπωτής δεν έχει λίστα φακέλων</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>η διεύθυνση του εκτυπωτή είναι άγνωστη· δώστε την με το --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>το «%1» δεν είναι διεύθυνση</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: οι άλλοι χρήστες δεν βλέπουν καμία επιλογή μιας εργασίας.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: οι άλλοι χρήστες βλέπουν από μια εργασία: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Ένας διαχειριστής τα αποκρύπτει στο cupsd.conf, στην πολιτική του εκτυπωτή:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Ένας διαχειριστής τα αποκρύπτει στο cupsd.conf, στο &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>κλειδωμένος</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>το --folder δεν έχει αποτέλεσμα: αυτός ο εκτυπωτής δεν αρχειοθετεί έγγραφα</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>δεν είναι δυνατή η αποθήκευση των τιμών: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>η εργασία στάλθηκε, αλλά: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>μια ανεπεξέργαστη εργασία (raw) παρακάμπτει το πρόγραμμα οδήγησης και μαζί τη διαχείριση εργασιών</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>ο εκτυπωτής «%1» δεν προσφέρει διαχείριση εργασιών</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>το -m αγνοείται: αφορά νέα εργασία</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>προειδοποίηση: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>το -i αλλάζει μια εργασία που έχει ήδη σταλεί· παραλείψτε τα αρχεία</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>το -i αλλάζει μια εργασία εκεί όπου βρίσκεται· παραλείψτε τα -d και --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>το -i δεν μπορεί να αλλάξει τη διαχείριση μιας εργασίας που έχει ήδη σταλεί</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>το --wait απαιτεί μια εργασία προς εκτύπωση</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>μια λίστα δεν μπορεί να συνδυαστεί με επιλογές εργασίας</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>δεν δόθηκε εκτυπωτής· επιλέξτε τον με -d ή --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>το --ppd απαιτεί --dry-run ή --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>μόνο μία τιμή μπορεί να διαβαστεί από την τυπική είσοδο</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>δεν πρέπει να είναι κενό</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>πρέπει να είναι ώρα όπως 18:30 (UTC), hold, immediate, resume, restart ή λέξη-κλειδί του διακομιστή εκτύπωσης όπως evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>πρέπει να είναι εργασία όπως 12 ή QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>το %1 αγνοείται: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>το CUPS δεν έχει φόρμες</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>το CUPS δεν έχει λειτουργίες· χρησιμοποιήστε το -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>το σύνολο χαρακτήρων είναι πάντα UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>ο διακομιστής εκτύπωσης αναγνωρίζει τον τύπο· χρησιμοποιήστε -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>τα --remember και --forget δεν μπορούν να αναφέρουν και τα δύο το %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>χρησιμοποιήστε μόνο ένα από τα -i, --dry-run, --list, --folders, --check, --list-presets και --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Λάθος κωδικός πρόσβασης. Κωδικός πρόσβασης του %1 για %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Κωδικός πρόσβασης του %1 για %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1· δώστε τον με το --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>αποστολή του εγγράφου %1: %2 MiB, %3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>αποστολή του εγγράφου %1: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>όχι μεγαλύτερη αναμονή για απάντηση (προεπιλογή: 5)</translation>
     </message>
 </context>
 <context>
@@ -1643,6 +2112,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>καμία λίστα φακέλων από %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: φάκελος, όχι αρχείο PPD</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>δεν έχει οριστεί προεπιλεγμένος εκτυπωτής· επιλέξτε έναν με το -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>ανήκει σε άλλον εκτυπωτή</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>δεν είναι δυνατή η επανεκκίνηση της εργασίας %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>δεν είναι δυνατή η αλλαγή της εργασίας %1: %2</translation>
     </message>
 </context>
 <context>

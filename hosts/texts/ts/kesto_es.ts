@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>debe ser %1 o %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>argumento inesperado</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>opción desconocida %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 requiere un valor</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 no admite ningún valor</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 no se puede usar con %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Pruebe «%1 --help».</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 requiere %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>no se puede escribir en la salida estándar</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>la línea es demasiado larga</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>la línea no está en UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>la línea está vacía</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>no hay ningún terminal en el que preguntar</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrumpido</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>debe estar entre 0.1 y 3600 segundos</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>el número de copias debe estar entre %1 y %2</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>la prioridad debe estar entre %1 y %2</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>los segundos deben estar entre %1 y %2</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>A quick file has no pass code.</source>
@@ -530,6 +610,395 @@
     <message>
         <source>Finishing</source>
         <translation>Acabado</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: esta impresora no lo ofrece</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>esta impresora no pregunta quién imprime</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 debe tener %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>como máximo %n cifra</numerusform>
+            <numerusform>como máximo %n cifras</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>como máximo %n carácter</numerusform>
+            <numerusform>como máximo %n caracteres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 no se puede usar con --folder quick</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 requiere --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 requiere --folder NAME de una carpeta con código o de una carpeta personalizada</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 no se puede usar con un número de usuario</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>Código de acceso</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>código de acceso del trabajo retenido</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main o el nombre de una carpeta</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Código de la carpeta</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>código de la carpeta</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>nombre de inicio de sesión</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>contraseña del nombre de inicio de sesión</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>número de usuario en lugar de inicio de sesión</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>número de cuenta</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>nombre de usuario en la impresora</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>nombre del trabajo en la impresora</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>falta el número de usuario; indíquelo con %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>falta el nombre de inicio de sesión; indíquelo con %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>como en la orden de impresión habitual</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p es -q y -w es -m; las demás no tienen efecto</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>hacen de cola cuando no se envía ningún trabajo</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>mostrar los ajustes del trabajo sin enviar nada; guardar solo lo que piden --remember, --forget o --save-preset</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>mostrar el resumen del panel en lugar de los ajustes</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>enumerar las colas, o las que ofrecen la gestión de trabajos, y las impresoras de la red</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>obtener, recordar y enumerar las carpetas de la impresora</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>mostrar qué ven otros usuarios del servidor de las opciones de un trabajo, y cómo ocultarlo</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>mostrar qué ocurre con el trabajo hasta que se imprime o queda retenido en la impresora; si no, termina con 1, o con 4 si sigue esperando tras SECONDS</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>mostrar JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>la contraseña que pide el servidor o la impresora</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>retener el trabajo: sin imprimirlo, después de imprimirlo o tras una muestra</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>no retener el trabajo</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>tomar X (pin, folder-pin, password) de la primera línea de un archivo o de la entrada estándar, «-», o pedirlo en el terminal: otros usuarios pueden ver una línea de órdenes</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>recordar los datos X para los próximos trabajos de esta cola</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>dejar de recordarlos</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>partir de un preajuste de esta cola</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>guardar los ajustes como preajuste; los códigos de acceso, solo junto con --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>hacer solo esto, para -d o --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>mostrar este texto, o la versión</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Uso: kesto-lp [OPCIÓN]... [ARCHIVO]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Imprime archivos, o la entrada estándar, con la gestión de trabajos de una impresora.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Termina con 0 hecho, 1 error, 2 uso incorrecto, 3 rechazado por el panel, 4 en espera.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>se deja de esperar: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>en la red</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>lista</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenida</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>imprimiendo</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>no acepta trabajos</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 trabajo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n trabajo</numerusform>
+            <numerusform>%n trabajos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>esta impresora no tiene lista de carpetas</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>se desconoce la dirección de la impresora; indíquela con --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>«%1» no es una dirección</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: los demás usuarios no ven ninguna opción de un trabajo.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: los demás usuarios ven de un trabajo: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Un administrador lo oculta en cupsd.conf, en la directiva de la impresora:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Un administrador lo oculta en cupsd.conf, en &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloqueada</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder no tiene efecto: esta impresora no archiva documentos</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>no se pueden recordar los datos: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>el trabajo se ha enviado, pero: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>un trabajo sin procesar (raw) se salta el controlador y, con él, la gestión de trabajos</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>la impresora «%1» no ofrece la gestión de trabajos</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>se omite -m: va con un trabajo nuevo</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>aviso: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i cambia un trabajo ya enviado; no indique archivos</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i cambia un trabajo donde está; no indique -d ni --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i no puede cambiar la gestión de trabajos de un trabajo ya enviado</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait requiere un trabajo que imprimir</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>una lista no se puede combinar con las opciones de un trabajo</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>no se ha indicado ninguna impresora; elíjala con -d o --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd requiere --dry-run o --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>solo se puede leer un dato de la entrada estándar</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>no debe estar vacío</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>debe ser una hora como 18:30 (UTC), hold, immediate, resume, restart o una palabra clave del servidor de impresión como evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>debe ser un trabajo como 12 o QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>se omite %1: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS no tiene formularios</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS no tiene modos; use -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>el juego de caracteres es siempre UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>el servidor de impresión detecta el tipo; use -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember y --forget no pueden nombrar ambos %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>use solo una de las opciones -i, --dry-run, --list, --folders, --check, --list-presets y --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Contraseña incorrecta. Contraseña de %1 para %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Contraseña de %1 para %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; indíquela con --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>enviando el documento %1: %2 MiB, %3&#xa0;%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>enviando el documento %1: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>no esperar más tiempo una respuesta (predeterminado: 5)</translation>
     </message>
 </context>
 <context>
@@ -1643,6 +2112,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>no hay lista de carpetas de %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: una carpeta, no un archivo PPD</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>no hay ninguna impresora predeterminada; elija una con -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>pertenece a otra impresora</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>no se puede reiniciar el trabajo %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>no se puede cambiar el trabajo %1: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>doit être %1 ou %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>argument inattendu</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>option inconnue %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 nécessite une valeur</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 n’accepte pas de valeur</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 n’est pas compatible avec %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Essayez «&#xa0;%1 --help&#xa0;».</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 nécessite %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>impossible d’écrire sur la sortie standard</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>la ligne est trop longue</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>la ligne n’est pas en UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>la ligne est vide</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>aucun terminal pour poser la question</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1&#xa0;: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrompu</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>doit être compris entre 0.1 et 3600 secondes</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>le nombre de copies doit être compris entre %1 et %2</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>la priorité doit être comprise entre %1 et %2</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>le nombre de secondes doit être compris entre %1 et %2</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>A quick file has no pass code.</source>
@@ -530,6 +610,395 @@
     <message>
         <source>Finishing</source>
         <translation>Finition</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1&#xa0;: cette imprimante ne le propose pas</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>cette imprimante ne demande pas qui imprime</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 doit avoir %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>au plus %n chiffre</numerusform>
+            <numerusform>au plus %n chiffres</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>au plus %n caractère</numerusform>
+            <numerusform>au plus %n caractères</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 n’est pas compatible avec --folder quick</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 nécessite --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 nécessite --folder NAME pour un dossier à code d’accès ou un dossier personnalisé</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 n’est pas compatible avec un numéro d’utilisateur</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>Code d’accès</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>code d’accès du travail conservé</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main ou le nom d’un dossier</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Code d’accès du dossier</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>code d’accès du dossier</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>nom de connexion</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>mot de passe du nom de connexion</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>numéro d’utilisateur au lieu d’une connexion</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>numéro de compte</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>nom d’utilisateur sur l’imprimante</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>nom du travail sur l’imprimante</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>le numéro d’utilisateur manque&#xa0;; indiquez-le avec %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>le nom de connexion manque&#xa0;; indiquez-le avec %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>comme pour la commande d’impression habituelle</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p équivaut à -q et -w à -m&#xa0;; les autres sont sans effet</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>tiennent lieu de file quand aucun travail n’est envoyé</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>afficher les réglages du travail sans rien envoyer&#xa0;; ne garder que ce que demandent --remember, --forget ou --save-preset</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>afficher le résumé du panneau au lieu des réglages</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>lister les files, ou celles qui proposent la gestion des travaux, et les imprimantes du réseau</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>récupérer, mémoriser et lister les dossiers de l’imprimante</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>montrer ce que les autres utilisateurs du serveur voient des options d’un travail, et comment le masquer</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>afficher ce que devient le travail jusqu’à ce qu’il soit imprimé ou conservé sur l’imprimante&#xa0;; se termine sinon par 1, ou par 4 s’il attend encore après SECONDS</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>afficher du JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>le mot de passe que demande le serveur ou l’imprimante</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>conserver le travail&#xa0;: sans l’imprimer, après l’impression ou après une épreuve</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>ne pas conserver le travail</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>lire X (pin, folder-pin, password) dans la première ligne d’un fichier ou de l’entrée standard, «&#xa0;-&#xa0;», ou le demander au terminal&#xa0;: d’autres utilisateurs peuvent voir une ligne de commande</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>mémoriser les saisies X pour les prochains travaux de cette file</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>ne plus les mémoriser</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>partir d’un préréglage de cette file</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>enregistrer les réglages comme préréglage, les codes d’accès seulement avec --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>ne faire que cela, pour -d ou --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>afficher ce texte, ou la version</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Utilisation&#xa0;: kesto-lp [OPTION]... [FICHIER]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Imprime des fichiers, ou l’entrée standard, avec la gestion des travaux d’une imprimante.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Se termine par 0 réussi, 1 échec, 2 mauvaise utilisation, 3 refusé par le panneau, 4 en attente.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>fin de l’attente&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>sur le réseau</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>prête</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêtée</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>impression en cours</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>n’accepte pas de travaux</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 travail</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n travail</numerusform>
+            <numerusform>%n travaux</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>cette imprimante n’a pas de liste de dossiers</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>l’adresse de l’imprimante est inconnue&#xa0;; indiquez-la avec --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1&#xa0;: les autres utilisateurs ne voient aucune option d’un travail.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1&#xa0;: les autres utilisateurs voient d’un travail&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Un administrateur les masque dans cupsd.conf, dans la règle de l’imprimante&#xa0;:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Un administrateur les masque dans cupsd.conf, dans &lt;Policy %1&gt;&#xa0;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>verrouillé</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder est sans effet&#xa0;: cette imprimante ne classe pas les documents</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>les saisies ne peuvent pas être mémorisées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>le travail a été envoyé, mais&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>un travail brut (raw) contourne le pilote, et la gestion des travaux avec lui</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>l’imprimante «&#xa0;%1&#xa0;» ne propose pas la gestion des travaux</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m est ignoré&#xa0;: il va avec un nouveau travail</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>avertissement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i modifie un travail déjà envoyé&#xa0;; n’indiquez pas de fichiers</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i modifie un travail là où il est&#xa0;; n’indiquez ni -d ni --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i ne peut pas modifier la gestion des travaux d’un travail déjà envoyé</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait nécessite un travail à imprimer</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>une liste n’est pas compatible avec les options d’un travail</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>aucune imprimante n’est indiquée&#xa0;; choisissez-la avec -d ou --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd nécessite --dry-run ou --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>une seule saisie peut être lue sur l’entrée standard</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>ne doit pas être vide</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>doit être une heure comme 18:30 (UTC), hold, immediate, resume, restart ou un mot-clé du serveur d’impression comme evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>doit être un travail comme 12 ou QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 est ignoré&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS n’a pas de formulaires</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS n’a pas de modes&#xa0;; utilisez -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>le jeu de caractères est toujours UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>le serveur d’impression détecte le type&#xa0;; utilisez -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember et --forget ne peuvent pas nommer tous deux %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>n’utilisez qu’une seule option parmi -i, --dry-run, --list, --folders, --check, --list-presets et --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Mot de passe incorrect. Mot de passe de %1 pour %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Mot de passe de %1 pour %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1&#xa0;; indiquez-le avec --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>envoi du document %1&#xa0;: %2 Mio, %3&#xa0;%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>envoi du document %1&#xa0;: %2 Mio</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>ne pas attendre une réponse plus longtemps (5 par défaut)</translation>
     </message>
 </context>
 <context>
@@ -1643,6 +2112,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>pas de liste de dossiers de %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1&#xa0;: un dossier, pas un fichier PPD</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>aucune imprimante par défaut n’est définie&#xa0;; choisissez-en une avec -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>il appartient à une autre imprimante</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>impossible de relancer le travail %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>impossible de modifier le travail %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>

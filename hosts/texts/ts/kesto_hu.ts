@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="hu_HU" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>értéke %1 vagy %2 lehet</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>váratlan argumentum</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>ismeretlen kapcsoló: %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 értéket igényel</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 nem kaphat értéket</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 nem használható ezzel együtt: %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Súgó: „%1 --help”.</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 csak ezzel együtt használható: %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>a szabványos kimenet nem írható</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>a sor túl hosszú</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>a sor nem UTF-8 kódolású</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>a sor üres</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>nincs terminál, ahol kérdezni lehetne</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>megszakítva</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>0.1 és 3600 másodperc között kell lennie</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>a példányszámnak %1 és %2 között kell lennie</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>a prioritásnak %1 és %2 között kell lennie</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>a másodpercek számának %1 és %2 között kell lennie</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -529,6 +609,392 @@
     <message>
         <source>Finishing</source>
         <translation>Utómunka</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: ezt ez a nyomtató nem kínálja</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>ez a nyomtató nem kérdezi, ki nyomtat</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1: %2 lehet</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>legfeljebb %n számjegy</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>legfeljebb %n karakter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 nem használható a --folder quick kapcsolóval</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 csak a --folder NAME kapcsolóval használható</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 csak hozzáférési kódos vagy egyéni mappa --folder NAME kapcsolójával használható</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 nem használható felhasználószámmal együtt</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>Hozzáférési kód</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>a visszatartott feladat hozzáférési kódja</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main vagy egy mappa neve</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Mappa kódja</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>mappa kódja</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>bejelentkezési név</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Jelszó</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>a bejelentkezési név jelszava</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>felhasználószám bejelentkezés helyett</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>fiókszám</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>felhasználónév a nyomtatón</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>a feladat neve a nyomtatón</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>hiányzik a felhasználószám; adja meg ezzel: %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>hiányzik a bejelentkezési név; adja meg ezzel: %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>mint a szokásos nyomtatási parancsnál</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p ugyanaz, mint -q, -w mint -m; a többi hatástalan</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>várakozási sor helyett, ha nem küld feladatot</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>kiírja a feladat beállításait, és semmit sem küld el; csak azt őrzi meg, amit a --remember, --forget vagy --save-preset kér</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>a panel összegzését írja ki a beállítások helyett</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>kiírja a várakozási sorokat vagy a feladatkezelést kínálókat, és a hálózat nyomtatóit</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>lekéri, megjegyzi és kiírja a nyomtató mappáit</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>megmutatja, mit látnak a kiszolgáló többi felhasználói egy feladat beállításaiból, és hogyan rejthető el</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>kiírja, mi történik a feladattal, amíg ki nem nyomtatódik vagy a nyomtató vissza nem tartja; egyébként a kilépési kód 1, vagy 4, ha SECONDS után is vár</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>JSON kiírása</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>a kiszolgáló vagy a nyomtató által kért jelszó</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>visszatartja a feladatot: kinyomtatás nélkül, kinyomtatás után vagy próbanyomat után</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>nem tartja vissza a feladatot</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>X (pin, folder-pin, password) egy fájl vagy a szabványos bemenet („-”) első sorából, vagy a terminálon bekérve: a parancssort más felhasználók is láthatják</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>megjegyzi az X adatokat a sor következő feladataihoz</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>többé nem jegyzi meg őket</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>a sor egyik előbeállításából indul ki</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>előbeállításként menti a beállításokat, a hozzáférési kódokat csak a --with-codes kapcsolóval</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>csak ezt teszi, -d vagy --ppd megadásával</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>kiírja ezt a szöveget vagy a verziót</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Használat: kesto-lp [KAPCSOLÓ]... [FÁJL]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Fájlokat vagy a szabványos bemenetet nyomtatja ki a nyomtató feladatkezelésével.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Kilépési kód: 0 kész, 1 sikertelen, 2 hibás használat, 3 a panel elutasította, 4 várakozik.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>a várakozás véget ért: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>a hálózaton</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>készen áll</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>leállítva</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>nyomtat</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>nem fogad feladatokat</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 feladat</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n feladat</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>ennek a nyomtatónak nincs mappalistája</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>a nyomtató címe ismeretlen; adja meg ezzel: --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>„%1” nem cím</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: a többi felhasználó egy feladat semmilyen beállítását sem látja.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: a többi felhasználó ezt látja egy feladatból: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>A rendszergazda a cupsd.conf fájlban, a nyomtató házirendjében rejtheti el:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>A rendszergazda a cupsd.conf fájlban, a &lt;Policy %1&gt; részben rejtheti el:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>zárolva</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder hatástalan: ez a nyomtató nem tárol dokumentumokat</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>az adatok nem jegyezhetők meg: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>a feladat el lett küldve, de: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>a nyers (raw) feladat megkerüli az illesztőprogramot és vele a feladatkezelést</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>a(z) „%1” nyomtató nem kínál feladatkezelést</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m figyelmen kívül marad: új feladathoz való</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>figyelmeztetés: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i már elküldött feladatot módosít; hagyja el a fájlokat</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i a helyén módosít egy feladatot; hagyja el a -d és --ppd kapcsolót</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i nem módosíthatja egy már elküldött feladat feladatkezelését</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait csak nyomtatandó feladattal használható</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>a lista nem használható egy feladat beállításaival együtt</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>nincs megadva nyomtató; adja meg ezzel: -d vagy --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd csak a --dry-run vagy --folders kapcsolóval használható</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>a szabványos bemenetről csak egy adat olvasható</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>nem lehet üres</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>értéke 18:30 (UTC) alakú időpont, hold, immediate, resume, restart vagy a nyomtatókiszolgáló egy kulcsszava lehet, mint az evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>egy feladat lehet, például 12 vagy QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 figyelmen kívül marad: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>a CUPS nem ismer űrlapokat</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>a CUPS nem ismer módokat; használja ezt: -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>a karakterkészlet mindig UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>a nyomtatókiszolgáló felismeri a típust; használja ezt: -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember és --forget nem nevezheti meg egyszerre ezt: %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>ezek közül csak az egyik használható: -i, --dry-run, --list, --folders, --check, --list-presets és --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Hibás jelszó. %1 jelszava ehhez: %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>%1 jelszava ehhez: %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; adja meg ezzel: --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>%1. dokumentum küldése: %2 MiB, %3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>%1. dokumentum küldése: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>nem vár tovább válaszra (alapértelmezés: 5)</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +2106,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>nincs mappalista innen: %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: mappa, nem PPD-fájl</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>nincs alapértelmezett nyomtató; válasszon egyet ezzel: -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>másik nyomtatóhoz tartozik</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>nem indítható újra a feladat: %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>nem módosítható a feladat: %1: %2</translation>
     </message>
 </context>
 <context>

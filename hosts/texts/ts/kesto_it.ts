@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>deve essere %1 o %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>argomento imprevisto</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>opzione sconosciuta %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 richiede un valore</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 non accetta valori</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 non può essere usata con %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Provare «%1 --help».</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 richiede %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>impossibile scrivere sullo standard output</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>la riga è troppo lunga</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>la riga non è in UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>la riga è vuota</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>nessun terminale su cui chiedere</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrotto</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>deve essere compreso tra 0.1 e 3600 secondi</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>il numero di copie deve essere compreso tra %1 e %2</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>la priorità deve essere compresa tra %1 e %2</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>i secondi devono essere compresi tra %1 e %2</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -530,6 +610,395 @@
     <message>
         <source>Finishing</source>
         <translation>Finitura</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: questa stampante non lo offre</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>questa stampante non chiede chi stampa</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 deve avere %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>al massimo %n cifra</numerusform>
+            <numerusform>al massimo %n cifre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>al massimo %n carattere</numerusform>
+            <numerusform>al massimo %n caratteri</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 non può essere usata con --folder quick</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 richiede --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 richiede --folder NAME di una cartella con codice di accesso o di una cartella personalizzata</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 non può essere usata con un numero utente</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>Codice di accesso</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>codice di accesso del lavoro trattenuto</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main o il nome di una cartella</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Codice della cartella</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>codice della cartella</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>nome di accesso</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>password del nome di accesso</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>numero utente invece del nome di accesso</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>numero di account</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>nome utente sulla stampante</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>nome del lavoro sulla stampante</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>manca il numero utente; indicarlo con %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>manca il nome di accesso; indicarlo con %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>come nel consueto comando di stampa</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p equivale a -q e -w a -m; le altre non hanno effetto</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>fanno le veci di una coda quando non si invia nulla</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>mostrare le impostazioni del lavoro senza inviare nulla; conservare solo ciò che chiedono --remember, --forget o --save-preset</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>mostrare il riepilogo del pannello, non le impostazioni</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>elencare le code, o quelle che offrono la gestione lavori, e le stampanti in rete</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>recuperare, memorizzare ed elencare le cartelle della stampante</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>mostrare che cosa vedono altri utenti del server delle opzioni di un lavoro, e come nasconderlo</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>mostrare la sorte del lavoro finché non è stampato o trattenuto sulla stampante; altrimenti termina con 1, o con 4 se attende ancora dopo SECONDS</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>mostrare JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>la password chiesta dal server o dalla stampante</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>trattenere il lavoro: senza stamparlo, dopo la stampa o dopo una prova</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>non trattenere il lavoro</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>prendere X (pin, folder-pin, password) dalla prima riga di un file o dello standard input, «-», o chiederlo al terminale: altri utenti possono vedere una riga di comando</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>memorizzare i dati X per i prossimi lavori di questa coda</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>non memorizzarli più</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>partire da una preimpostazione di questa coda</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>salvare le impostazioni come preimpostazione; i codici di accesso solo insieme a --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>fare solo questo, per -d o --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>mostrare questo testo, o la versione</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Uso: kesto-lp [OPZIONE]... [FILE]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Stampa file, o lo standard input, con la gestione lavori di una stampante.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Termina con 0 eseguito, 1 non riuscito, 2 uso errato, 3 rifiutato dal pannello, 4 in attesa.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>attesa terminata: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>in rete</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>pronta</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>ferma</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>in stampa</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>non accetta lavori</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 lavoro</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n lavoro</numerusform>
+            <numerusform>%n lavori</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>questa stampante non ha un elenco di cartelle</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>l’indirizzo della stampante è sconosciuto; indicarlo con --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>«%1» non è un indirizzo</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: gli altri utenti non vedono alcuna opzione di un lavoro.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: gli altri utenti vedono di un lavoro: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Un amministratore le nasconde in cupsd.conf, nel criterio della stampante:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Un amministratore le nasconde in cupsd.conf, in &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloccata</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder non ha effetto: questa stampante non archivia documenti</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>impossibile memorizzare i dati: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>il lavoro è stato inviato, ma: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>un lavoro non elaborato (raw) aggira il driver e con esso la gestione lavori</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>la stampante «%1» non offre la gestione lavori</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m viene ignorata: va con un nuovo lavoro</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>avviso: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i modifica un lavoro già inviato; non indicare file</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i modifica un lavoro là dove si trova; non indicare -d e --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i non può modificare la gestione lavori di un lavoro già inviato</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait richiede un lavoro da stampare</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>un elenco non può essere combinato con le opzioni di un lavoro</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>nessuna stampante indicata; sceglierla con -d o --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd richiede --dry-run o --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>un solo dato può essere letto dallo standard input</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>non deve essere vuoto</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>deve essere un’ora come 18:30 (UTC), hold, immediate, resume, restart o una parola chiave del server di stampa come evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>deve essere un lavoro come 12 o QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 viene ignorata: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS non ha moduli</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS non ha modalità; usare -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>il set di caratteri è sempre UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>il server di stampa riconosce il tipo; usare -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember e --forget non possono indicare entrambe %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>usare solo una tra -i, --dry-run, --list, --folders, --check, --list-presets e --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Password errata. Password di %1 per %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Password di %1 per %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; indicarla con --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>invio del documento %1: %2 MiB, %3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>invio del documento %1: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>non attendere oltre una risposta (predefinito: 5)</translation>
     </message>
 </context>
 <context>
@@ -1643,6 +2112,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>nessun elenco di cartelle da %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: una cartella, non un file PPD</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>nessuna stampante predefinita; sceglierne una con -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>appartiene a un’altra stampante</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>impossibile riavviare il lavoro %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>impossibile modificare il lavoro %1: %2</translation>
     </message>
 </context>
 <context>

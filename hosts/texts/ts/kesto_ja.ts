@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>%1 または %2 を指定してください</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>予期しない引数です</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>%1 は不明なオプションです</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 には値が必要です</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 に値は指定できません</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 は %2 と同時に使用できません</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>「%1 --help」を参照してください。</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 には %2 が必要です</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>標準出力に書き込めません</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>行が長すぎます</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>行が UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>行が空です</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>入力を求める端末がありません</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>中断されました</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>0.1 から 3600 秒の範囲で指定してください</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>部数は %1 から %2 の範囲で指定してください</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>優先度は %1 から %2 の範囲で指定してください</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>秒数は %1 から %2 の範囲で指定してください</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>A quick file has no pass code.</source>
@@ -529,6 +609,392 @@
     <message>
         <source>Finishing</source>
         <translation>仕上げ</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: このプリンターでは利用できません</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>このプリンターは印刷する人を確認しません</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 は%2です</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>最大 %n 桁</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>最大 %n 文字</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 は --folder quick と同時に使用できません</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 には --folder NAME が必要です</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 には、暗証番号のあるフォルダーまたはカスタムフォルダーの --folder NAME が必要です</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 はユーザー番号と同時に使用できません</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>暗証番号</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>保留するジョブの暗証番号</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick、main またはフォルダー名</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>フォルダーの暗証番号</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>フォルダーの暗証番号</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>ログイン名</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>ログイン名のパスワード</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>ログイン名の代わりのユーザー番号</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>アカウント番号</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>プリンターでのユーザー名</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>プリンターでのジョブ名</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>ユーザー番号がありません。%1 で指定してください</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>ログイン名がありません。%1 で指定してください</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>通常の印刷コマンドと同じ</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p は -q、-w は -m と同じ。他は効果なし</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>ジョブを送信しないときにキューの代わりにする</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>ジョブの設定を表示し、何も送信しない。保存するのは --remember、--forget または --save-preset で指定したものだけ</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>設定ではなくパネルの概要を表示する</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>キュー、またはジョブ管理に対応するキューと、ネットワーク上のプリンターを一覧表示する</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>プリンターのフォルダーを取得、記憶し、一覧表示する</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>ジョブのオプションのうちサーバーの他のユーザーに見えるものと、隠す方法を表示する</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>ジョブが印刷されるかプリンターで保留されるまで、経過を表示する。それ以外は 1、SECONDS 後もまだ待っていれば 4 で終了する</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>JSON を表示する</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>サーバーまたはプリンターが求めるパスワード</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>ジョブを保留する: 印刷前、印刷後、または試し印刷後</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>ジョブを保留しない</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>X (pin、folder-pin、password) をファイルまたは標準入力 (「-」) の最初の行から読み取るか、端末で入力する: コマンドラインは他のユーザーに見えることがある</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>入力内容 X をこのキューの次のジョブ用に記憶する</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>記憶をやめる</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>このキューのプリセットを使う</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>設定をプリセットとして保存する。暗証番号は --with-codes を付けたときだけ保存する</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>これだけを行う (-d または --ppd を対象)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>このテキスト、またはバージョンを表示する</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>使い方: kesto-lp [オプション]... [ファイル]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>ファイルまたは標準入力を、プリンターのジョブ管理を使って印刷します。</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>終了コード: 0 完了、1 失敗、2 使い方の誤り、3 パネルが拒否、4 待機中。</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>待機を終了しました: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>ネットワーク上</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>ジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>ジョブ 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>ジョブ %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>このプリンターにはフォルダー一覧がありません</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>プリンターのアドレスが不明です。--address で指定してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>「%1」はアドレスではありません</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: 他のユーザーにはジョブのオプションがまったく見えません。</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: 他のユーザーに見えるジョブの情報: %2。</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>管理者は cupsd.conf のプリンターのポリシーで、これを非表示にできます:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>管理者は cupsd.conf の &lt;Policy %1&gt; で、これを非表示にできます:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>ロック中</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder は効果がありません: このプリンターは文書を保存しません</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>入力内容を記憶できません: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>ジョブは送信されましたが、問題があります: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>raw ジョブはドライバーを通らないため、ジョブ管理も働きません</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>プリンター「%1」はジョブ管理に対応していません</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m は無視されます: 新しいジョブ用です</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>警告: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i は送信済みのジョブを変更します。ファイルは指定しないでください</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i はジョブをその場所で変更します。-d と --ppd は指定しないでください</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i では送信済みのジョブのジョブ管理を変更できません</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait には印刷するジョブが必要です</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>一覧表示はジョブのオプションと組み合わせられません</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>プリンターが指定されていません。-d または --ppd で指定してください</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd には --dry-run または --folders が必要です</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>標準入力から読み取れる項目は 1 つだけです</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>空にはできません</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>18:30 (UTC) のような時刻、hold、immediate、resume、restart、または evening のようなプリントサーバーのキーワードを指定してください</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>12 または QUEUE-12 のようなジョブを指定してください</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 は無視されます: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS にフォームはありません</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS にモードはありません。-o を使用してください</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>文字セットは常に UTF-8 です</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>形式はプリントサーバーが判別します。-o document-format=TYPE を使用してください</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember と --forget の両方に %1 は指定できません</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>-i、--dry-run、--list、--folders、--check、--list-presets、--delete-preset のうち 1 つだけを使用してください</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>パスワードが違います。%2 用の %1 のパスワード</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>%2 用の %1 のパスワード</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1。--server-password-file で指定してください</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>文書 %1 を送信中: %2 MiB、%3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>文書 %1 を送信中: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>応答をこれより長く待たない (既定値: 5)</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +2106,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>%1 からフォルダー一覧を取得できません: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: PPD ファイルではなくフォルダーです</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>既定のプリンターが設定されていません。-d で選択してください</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>別のプリンターのジョブです</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>ジョブ %1 を再開できません: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>ジョブ %1 を変更できません: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>%1 또는 %2이어야 합니다</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>예상하지 못한 인수입니다</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>알 수 없는 옵션 %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 옵션에는 값이 필요합니다</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 옵션은 값을 받지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 옵션은 %2 옵션과 함께 사용할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>“%1 --help”를 실행해 보십시오.</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 옵션에는 %2 옵션이 필요합니다</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>표준 출력에 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>줄이 너무 깁니다</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>줄이 UTF-8이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>줄이 비어 있습니다</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>입력을 요청할 터미널이 없습니다</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>중단됨</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>0.1초에서 3600초 사이여야 합니다</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>매수는 %1에서 %2 사이여야 합니다</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>우선순위는 %1에서 %2 사이여야 합니다</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>초는 %1에서 %2 사이여야 합니다</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -529,6 +609,392 @@
     <message>
         <source>Finishing</source>
         <translation>후처리</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: 이 프린터에서 제공하지 않습니다</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>이 프린터는 누가 인쇄하는지 묻지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1: %2까지 가능합니다</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>최대 %n자리</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>최대 %n자</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 옵션은 --folder quick과 함께 사용할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 옵션에는 --folder NAME이 필요합니다</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 옵션에는 PIN이 있는 폴더나 사용자 지정 폴더의 --folder NAME이 필요합니다</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 옵션은 사용자 번호와 함께 사용할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>보류한 작업의 PIN</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main 또는 폴더 이름</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>폴더 PIN</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>폴더 PIN</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>로그인 이름</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>암호</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>로그인 이름의 암호</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>로그인 대신 사용할 사용자 번호</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>계정 번호</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>프린터에서의 사용자 이름</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>프린터에서의 작업 이름</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>사용자 번호가 없습니다. %1 옵션으로 지정하십시오</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>로그인 이름이 없습니다. %1 옵션으로 지정하십시오</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>일반 인쇄 명령과 같음</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p는 -q, -w는 -m과 같음. 나머지는 효과 없음</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>작업을 보내지 않을 때 대기열을 대신함</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>작업 설정을 출력하고 아무것도 보내지 않음. --remember, --forget 또는 --save-preset으로 요청한 것만 저장</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>설정 대신 패널의 요약을 출력</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>대기열 또는 작업 처리를 제공하는 대기열, 그리고 네트워크의 프린터를 나열</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>프린터의 폴더를 가져와 기억하고 나열</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>서버의 다른 사용자가 작업 옵션에서 볼 수 있는 것과 숨기는 방법을 표시</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>작업이 인쇄되거나 프린터에 보류될 때까지 진행 상황을 출력. 그러지 못하면 1, SECONDS 후에도 대기 중이면 4로 끝남</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>JSON으로 출력</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>서버나 프린터가 요구하는 암호</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>작업을 보류: 인쇄 전, 인쇄 후 또는 견본 인쇄 후</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>작업을 보류하지 않음</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>X(pin, folder-pin, password)를 파일이나 표준 입력(“-”)의 첫 줄에서 읽거나 터미널에서 물어봄: 명령줄은 다른 사용자가 볼 수 있음</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>입력한 X를 이 대기열의 다음 작업을 위해 기억</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>더 이상 기억하지 않음</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>이 대기열의 사전 설정으로 시작</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>설정을 사전 설정으로 저장. PIN은 --with-codes를 함께 쓸 때만 저장</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>이것만 수행(-d 또는 --ppd 대상)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>이 도움말 또는 버전을 출력</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>사용법: kesto-lp [옵션]... [파일]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>파일이나 표준 입력을 프린터의 작업 처리로 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>종료 코드: 0 완료, 1 실패, 2 잘못된 사용, 3 패널이 거부, 4 대기 중.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>더 이상 기다리지 않음: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>네트워크</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>준비됨</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>중지됨</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>인쇄 중</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>작업을 받지 않음</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>작업 1개</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>작업 %n개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>이 프린터에는 폴더 목록이 없습니다</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>프린터의 주소를 알 수 없습니다. --address로 지정하십시오</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>“%1”은(는) 주소가 아닙니다</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: 다른 사용자는 작업의 옵션을 볼 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: 다른 사용자가 볼 수 있는 작업 정보: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>관리자는 cupsd.conf의 프린터 정책에서 이를 숨길 수 있습니다:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>관리자는 cupsd.conf의 &lt;Policy %1&gt;에서 이를 숨길 수 있습니다:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>잠김</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder는 효과가 없습니다: 이 프린터는 문서를 보관하지 않습니다</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>입력한 값을 기억할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>작업을 보냈지만 문제가 있습니다: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>원시(raw) 작업은 드라이버를 거치지 않으므로 작업 처리도 적용되지 않습니다</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>프린터 “%1”은(는) 작업 처리를 제공하지 않습니다</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m은 무시됩니다: 새 작업에만 사용됩니다</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>경고: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i는 이미 보낸 작업을 변경합니다. 파일을 지정하지 마십시오</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i는 작업이 있는 곳에서 변경합니다. -d와 --ppd를 지정하지 마십시오</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i로는 이미 보낸 작업의 작업 처리를 변경할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait에는 인쇄할 작업이 필요합니다</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>목록은 작업 옵션과 함께 사용할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>프린터가 지정되지 않았습니다. -d 또는 --ppd로 지정하십시오</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd에는 --dry-run 또는 --folders가 필요합니다</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>표준 입력에서는 한 항목만 읽을 수 있습니다</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>비워 둘 수 없습니다</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>18:30(UTC) 같은 시각, hold, immediate, resume, restart 또는 evening 같은 인쇄 서버의 키워드여야 합니다</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>12 또는 QUEUE-12 같은 작업이어야 합니다</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 옵션은 무시됩니다: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS에는 양식이 없습니다</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS에는 모드가 없습니다. -o를 사용하십시오</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>문자 집합은 항상 UTF-8입니다</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>인쇄 서버가 형식을 감지합니다. -o document-format=TYPE을 사용하십시오</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember와 --forget에 %1을(를) 함께 지정할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>-i, --dry-run, --list, --folders, --check, --list-presets, --delete-preset 중 하나만 사용하십시오</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>암호가 틀렸습니다. %2에 대한 %1의 암호</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>%2에 대한 %1의 암호</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1. --server-password-file로 지정하십시오</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>문서 %1 보내는 중: %2MiB, %3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>문서 %1 보내는 중: %2MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>응답을 더 오래 기다리지 않음(기본값: 5)</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +2106,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>%1의 폴더 목록이 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: PPD 파일이 아니라 폴더입니다</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>기본 프린터가 설정되지 않았습니다. -d로 선택하십시오</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>다른 프린터의 작업입니다</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>작업 %1을(를) 다시 시작할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>작업 %1을(를) 변경할 수 없습니다: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>moet %1 of %2 zijn</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>onverwacht argument</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>onbekende optie %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 vereist een waarde</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 accepteert geen waarde</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 kan niet samen met %2 worden gebruikt</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Probeer ‘%1 --help’.</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 vereist %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>kan niet naar de standaarduitvoer schrijven</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>de regel is te lang</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>de regel is niet in UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>de regel is leeg</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>er is geen terminal om op te vragen</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>onderbroken</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>moet tussen 0.1 en 3600 seconden liggen</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>het aantal exemplaren moet tussen %1 en %2 liggen</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>de prioriteit moet tussen %1 en %2 liggen</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>het aantal seconden moet tussen %1 en %2 liggen</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -530,6 +610,395 @@
     <message>
         <source>Finishing</source>
         <translation>Afwerking</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: deze printer biedt dit niet</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>deze printer vraagt niet wie er afdrukt</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 mag %2 hebben</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>hoogstens %n cijfer</numerusform>
+            <numerusform>hoogstens %n cijfers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>hoogstens %n teken</numerusform>
+            <numerusform>hoogstens %n tekens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 kan niet samen met --folder quick worden gebruikt</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 vereist --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 vereist --folder NAME van een map met toegangscode of van een aangepaste map</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 kan niet samen met een gebruikersnummer worden gebruikt</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>Toegangscode</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>toegangscode van de vastgehouden taak</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main of de naam van een map</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Code van de map</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>code van de map</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>aanmeldnaam</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Wachtwoord</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>wachtwoord bij de aanmeldnaam</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>gebruikersnummer in plaats van aanmelding</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>accountnummer</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>gebruikersnaam op de printer</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>taaknaam op de printer</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>het gebruikersnummer ontbreekt; geef het op met %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>de aanmeldnaam ontbreekt; geef deze op met %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>zoals bij de gebruikelijke afdrukopdracht</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p is -q en -w is -m; de andere hebben geen effect</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>staan voor een wachtrij waar geen taak wordt verzonden</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>de instellingen van de taak tonen en niets verzenden; alleen bewaren wat --remember, --forget of --save-preset vragen</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>het overzicht van het paneel tonen, niet de instellingen</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>de wachtrijen tonen, of die met taakbeheer, en de printers in het netwerk</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>de mappen van de printer ophalen, onthouden en tonen</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>tonen wat andere gebruikers van de server van de opties van een taak zien, en hoe dat te verbergen is</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>tonen wat er van de taak wordt tot deze is afgedrukt of op de printer wordt vastgehouden; eindigt anders met 1, of met 4 als de taak na SECONDS nog wacht</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>JSON tonen</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>het wachtwoord waar de server of printer om vraagt</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>de taak vasthouden: onafgedrukt, na het afdrukken of na een proefafdruk</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>de taak niet vasthouden</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>X (pin, folder-pin, password) uit de eerste regel van een bestand of van de standaardinvoer (‘-’) lezen of op de terminal vragen: andere gebruikers kunnen een opdrachtregel zien</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>de gegevens X voor de volgende taken van deze wachtrij onthouden</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>ze niet langer onthouden</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>met een voorinstelling van deze wachtrij beginnen</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>de instellingen als voorinstelling opslaan, de toegangscodes alleen samen met --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>alleen dit doen, voor -d of --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>deze tekst of de versie tonen</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Gebruik: kesto-lp [OPTIE]... [BESTAND]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Drukt bestanden of de standaardinvoer af met het taakbeheer van een printer.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Eindigt met 0 gereed, 1 mislukt, 2 verkeerd gebruik, 3 geweigerd door het paneel, 4 wacht nog.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>er wordt niet langer gewacht: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>in het netwerk</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>gereed</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>gestopt</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>drukt af</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>accepteert geen taken</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 taak</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n taak</numerusform>
+            <numerusform>%n taken</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>deze printer heeft geen mappenlijst</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>het adres van de printer is onbekend; geef het op met --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>‘%1’ is geen adres</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: andere gebruikers zien geen opties van een taak.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: andere gebruikers zien van een taak: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Een beheerder verbergt dit in cupsd.conf, in het beleid van de printer:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Een beheerder verbergt dit in cupsd.conf, in &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>vergrendeld</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder heeft geen effect: deze printer slaat geen documenten op</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>kan de gegevens niet onthouden: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>de taak is verzonden, maar: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>een onbewerkte taak (raw) omzeilt het stuurprogramma en daarmee het taakbeheer</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>de printer ‘%1’ biedt geen taakbeheer</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m wordt genegeerd: het hoort bij een nieuwe taak</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>waarschuwing: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i wijzigt een al verzonden taak; laat de bestanden weg</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i wijzigt een taak waar deze is; laat -d en --ppd weg</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i kan het taakbeheer van een al verzonden taak niet wijzigen</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait vereist een taak om af te drukken</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>een lijst kan niet samen met de opties van een taak worden gebruikt</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>er is geen printer opgegeven; kies er een met -d of --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd vereist --dry-run of --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>slechts één gegeven kan uit de standaardinvoer worden gelezen</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>mag niet leeg zijn</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>moet een tijd zoals 18:30 (UTC), hold, immediate, resume, restart of een sleutelwoord van de printserver zoals evening zijn</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>moet een taak zoals 12 of QUEUE-12 zijn</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 wordt genegeerd: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS heeft geen formulieren</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS heeft geen modi; gebruik -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>de tekenset is altijd UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>de printserver herkent het type; gebruik -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember en --forget kunnen niet allebei %1 noemen</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>gebruik slechts één van -i, --dry-run, --list, --folders, --check, --list-presets en --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Onjuist wachtwoord. Wachtwoord van %1 voor %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Wachtwoord van %1 voor %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; geef het op met --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>document %1 wordt verzonden: %2 MiB, %3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>document %1 wordt verzonden: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>niet langer op antwoord wachten (standaard: 5)</translation>
     </message>
 </context>
 <context>
@@ -1643,6 +2112,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>geen mappenlijst van %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: een map, geen PPD-bestand</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>er is geen standaardprinter ingesteld; kies er een met -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>deze hoort bij een andere printer</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>kan taak %1 niet opnieuw starten: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>kan taak %1 niet wijzigen: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl_PL" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>musi mieć wartość %1 lub %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>nieoczekiwany argument</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>nieznana opcja %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 wymaga wartości</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 nie przyjmuje wartości</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>opcji %1 nie można użyć razem z %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Użyj „%1 --help”.</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 wymaga %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>nie można pisać na standardowe wyjście</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>wiersz jest za długi</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>wiersz nie jest w UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>wiersz jest pusty</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>nie ma terminala, na którym można zapytać</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>przerwano</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>musi mieścić się między 0.1 a 3600 sekund</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>liczba kopii musi mieścić się między %1 a %2</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>priorytet musi mieścić się między %1 a %2</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>liczba sekund musi mieścić się między %1 a %2</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -531,6 +611,398 @@
     <message>
         <source>Finishing</source>
         <translation>Wykończenie</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: ta drukarka tego nie oferuje</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>ta drukarka nie pyta, kto drukuje</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 może mieć %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>co najwyżej %n cyfrę</numerusform>
+            <numerusform>co najwyżej %n cyfry</numerusform>
+            <numerusform>co najwyżej %n cyfr</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>co najwyżej %n znak</numerusform>
+            <numerusform>co najwyżej %n znaki</numerusform>
+            <numerusform>co najwyżej %n znaków</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>opcji %1 nie można użyć razem z --folder quick</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 wymaga --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 wymaga --folder NAME folderu z kodem dostępu lub folderu własnego</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>opcji %1 nie można użyć razem z numerem użytkownika</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>Kod dostępu</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>kod dostępu wstrzymanego zadania</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main lub nazwa folderu</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Kod folderu</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>kod folderu</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>nazwa logowania</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Hasło</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>hasło do nazwy logowania</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>numer użytkownika zamiast logowania</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>numer konta</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>nazwa użytkownika na drukarce</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>nazwa zadania na drukarce</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>brakuje numeru użytkownika; podaj go za pomocą %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>brakuje nazwy logowania; podaj ją za pomocą %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>jak w zwykłym poleceniu drukowania</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p to -q, a -w to -m; pozostałe nie mają znaczenia</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>zastępują kolejkę, gdy nic nie jest wysyłane</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>wypisuje ustawienia zadania i niczego nie wysyła; zachowuje tylko to, czego żądają --remember, --forget lub --save-preset</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>wypisuje podsumowanie panelu zamiast ustawień</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>wypisuje kolejki lub tylko te z obsługą zadań oraz drukarki w sieci</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>pobiera, zapamiętuje i wypisuje foldery drukarki</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>pokazuje, co inni użytkownicy serwera widzą z opcji zadania i jak to ukryć</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>wypisuje, co dzieje się z zadaniem, aż zostanie wydrukowane lub wstrzymane na drukarce; w innym razie kończy się kodem 1 lub kodem 4, gdy po SECONDS zadanie nadal oczekuje</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>wypisuje JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>hasło, o które prosi serwer lub drukarka</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>wstrzymuje zadanie: przed drukowaniem, po wydrukowaniu lub po wydruku próbnym</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>nie wstrzymuje zadania</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>bierze X (pin, folder-pin, password) z pierwszego wiersza pliku lub standardowego wejścia („-”) albo pyta na terminalu: wiersz poleceń mogą zobaczyć inni użytkownicy</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>zapamiętuje wartości X dla następnych zadań tej kolejki</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>przestaje je pamiętać</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>zaczyna od szablonu tej kolejki</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>zapisuje ustawienia jako szablon, a kody dostępu tylko razem z --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>robi tylko to, dla -d lub --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>wypisuje ten tekst lub wersję</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Użycie: kesto-lp [OPCJA]... [PLIK]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Drukuje pliki lub standardowe wejście z obsługą zadań drukarki.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Kończy się kodem 0 wykonano, 1 błąd, 2 złe użycie, 3 odmowa panelu, 4 oczekuje.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>koniec oczekiwania: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>w sieci</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>gotowa</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>zatrzymana</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>drukuje</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>nie przyjmuje zadań</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 zadanie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n zadanie</numerusform>
+            <numerusform>%n zadania</numerusform>
+            <numerusform>%n zadań</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>ta drukarka nie ma listy folderów</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>adres drukarki jest nieznany; podaj go za pomocą --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>„%1” nie jest adresem</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: inni użytkownicy nie widzą żadnych opcji zadania.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: inni użytkownicy widzą z zadania: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Administrator może to ukryć w cupsd.conf, w zasadach drukarki:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Administrator może to ukryć w cupsd.conf, w &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>zablokowany</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder nic nie zmienia: ta drukarka nie archiwizuje dokumentów</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>nie można zapamiętać wartości: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>zadanie wysłano, ale: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>zadanie surowe (raw) omija sterownik, a z nim obsługę zadań</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>drukarka „%1” nie oferuje obsługi zadań</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m jest pomijane: dotyczy nowego zadania</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>ostrzeżenie: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i zmienia wysłane już zadanie; nie podawaj plików</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i zmienia zadanie tam, gdzie ono jest; nie podawaj -d ani --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i nie może zmienić obsługi wysłanego już zadania</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait wymaga zadania do wydrukowania</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>listy nie można łączyć z opcjami zadania</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>nie podano drukarki; wskaż ją za pomocą -d lub --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd wymaga --dry-run lub --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>ze standardowego wejścia można odczytać tylko jedną wartość</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>nie może być puste</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>musi być godziną taką jak 18:30 (UTC), hold, immediate, resume, restart lub słowem kluczowym serwera wydruku takim jak evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>musi być zadaniem takim jak 12 lub QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 jest pomijane: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS nie ma formularzy</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS nie ma trybów; użyj -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>zestawem znaków jest zawsze UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>serwer wydruku rozpoznaje typ; użyj -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember i --forget nie mogą jednocześnie wymieniać %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>użyj tylko jednej z opcji -i, --dry-run, --list, --folders, --check, --list-presets i --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Błędne hasło. Hasło użytkownika %1 do %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Hasło użytkownika %1 do %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; podaj je za pomocą --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>wysyłanie dokumentu %1: %2 MiB, %3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>wysyłanie dokumentu %1: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>nie czeka dłużej na odpowiedź (domyślnie 5)</translation>
     </message>
 </context>
 <context>
@@ -1646,6 +2118,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>brak listy folderów z %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: to folder, a nie plik PPD</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>nie ustawiono drukarki domyślnej; wskaż drukarkę za pomocą -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>należy ono do innej drukarki</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>nie można uruchomić ponownie zadania %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>nie można zmienić zadania %1: %2</translation>
     </message>
 </context>
 <context>

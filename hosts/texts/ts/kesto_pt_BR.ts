@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>deve ser %1 ou %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>argumento inesperado</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>opção desconhecida %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 requer um valor</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 não aceita valor</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 não pode ser usada com %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Tente “%1 --help”.</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 requer %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>não foi possível gravar na saída padrão</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>a linha é longa demais</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>a linha não está em UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>a linha está vazia</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>não há terminal em que perguntar</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrompido</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>deve estar entre 0.1 e 3600 segundos</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>o número de cópias deve estar entre %1 e %2</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>a prioridade deve estar entre %1 e %2</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>os segundos devem estar entre %1 e %2</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -530,6 +610,395 @@
     <message>
         <source>Finishing</source>
         <translation>Acabamento</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: esta impressora não oferece isso</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>esta impressora não pergunta quem imprime</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 deve ter %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>no máximo %n dígito</numerusform>
+            <numerusform>no máximo %n dígitos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>no máximo %n caractere</numerusform>
+            <numerusform>no máximo %n caracteres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 não pode ser usada com --folder quick</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 requer --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 requer --folder NAME de uma pasta com código de acesso ou de uma pasta personalizada</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 não pode ser usada com um número de usuário</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>Código de acesso</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>código de acesso do trabalho retido</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main ou o nome de uma pasta</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Código da pasta</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>código da pasta</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>nome de login</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Senha</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>senha do nome de login</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>número de usuário em vez de login</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>número da conta</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>nome de usuário na impressora</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>nome do trabalho na impressora</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>falta o número de usuário; informe-o com %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>falta o nome de login; informe-o com %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>como no comando de impressão usual</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p é -q, e -w é -m; as outras não têm efeito</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>fazem as vezes de uma fila quando nada é enviado</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>mostrar as configurações do trabalho sem enviar nada; guardar somente o que --remember, --forget ou --save-preset pedem</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>mostrar o resumo do painel, não as configurações</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>listar as filas, ou as que oferecem o gerenciamento de trabalhos, e as impressoras da rede</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>obter, memorizar e listar as pastas da impressora</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>mostrar o que outros usuários do servidor veem das opções de um trabalho, e como ocultar isso</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>mostrar o que acontece com o trabalho até ser impresso ou retido na impressora; caso contrário termina com 1, ou com 4 se ainda aguarda após SECONDS</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>mostrar JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>a senha que o servidor ou a impressora pede</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>reter o trabalho: sem imprimi-lo, depois de imprimi-lo ou depois de uma amostra</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>não reter o trabalho</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>ler X (pin, folder-pin, password) da primeira linha de um arquivo ou da entrada padrão, “-”, ou perguntar no terminal: outros usuários podem ver uma linha de comando</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>memorizar os dados X para os próximos trabalhos desta fila</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>não memorizá-los mais</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>partir de uma predefinição desta fila</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>salvar as configurações como predefinição; os códigos de acesso somente com --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>fazer somente isto, para -d ou --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>mostrar este texto, ou a versão</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Uso: kesto-lp [OPÇÃO]... [ARQUIVO]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Imprime arquivos, ou a entrada padrão, com o gerenciamento de trabalhos de uma impressora.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Termina com 0 concluído, 1 falha, 2 uso incorreto, 3 recusado pelo painel, 4 aguardando.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>a espera terminou: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>na rede</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>pronta</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>parada</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>imprimindo</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>não aceita trabalhos</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 trabalho</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n trabalho</numerusform>
+            <numerusform>%n trabalhos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>esta impressora não tem lista de pastas</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>o endereço da impressora é desconhecido; informe-o com --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>“%1” não é um endereço</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: os outros usuários não veem nenhuma opção de um trabalho.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: os outros usuários veem de um trabalho: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Um administrador oculta isso em cupsd.conf, na política da impressora:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Um administrador oculta isso em cupsd.conf, em &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloqueada</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder não tem efeito: esta impressora não arquiva documentos</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>não foi possível memorizar os dados: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>o trabalho foi enviado, mas: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>um trabalho bruto (raw) contorna o driver e, com ele, o gerenciamento de trabalhos</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>a impressora “%1” não oferece o gerenciamento de trabalhos</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m é ignorada: vale para um trabalho novo</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>aviso: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i altera um trabalho já enviado; não informe arquivos</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i altera um trabalho onde ele está; não informe -d nem --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i não pode alterar o gerenciamento de um trabalho já enviado</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait requer um trabalho a imprimir</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>uma lista não pode ser combinada com as opções de um trabalho</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>nenhuma impressora informada; escolha-a com -d ou --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd requer --dry-run ou --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>somente um dado pode ser lido da entrada padrão</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>não deve estar vazio</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>deve ser uma hora como 18:30 (UTC), hold, immediate, resume, restart ou uma palavra-chave do servidor de impressão como evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>deve ser um trabalho como 12 ou QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 é ignorada: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>o CUPS não tem formulários</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>o CUPS não tem modos; use -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>o conjunto de caracteres é sempre UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>o servidor de impressão detecta o tipo; use -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember e --forget não podem ambas citar %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>use somente uma das opções -i, --dry-run, --list, --folders, --check, --list-presets e --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Senha incorreta. Senha de %1 para %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Senha de %1 para %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; informe-a com --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>enviando o documento %1: %2 MiB, %3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>enviando o documento %1: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>não esperar mais tempo por uma resposta (padrão: 5)</translation>
     </message>
 </context>
 <context>
@@ -1643,6 +2112,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>nenhuma lista de pastas de %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: uma pasta, não um arquivo PPD</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>nenhuma impressora padrão está definida; escolha uma com -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>ele pertence a outra impressora</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>não foi possível reiniciar o trabalho %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>não foi possível alterar o trabalho %1: %2</translation>
     </message>
 </context>
 <context>

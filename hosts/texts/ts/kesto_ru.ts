@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>допустимые значения: %1 или %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>неожиданный аргумент</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>неизвестный параметр %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>для %1 нужно значение</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 не принимает значения</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 нельзя использовать вместе с %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Попробуйте «%1 --help».</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>для %1 нужен %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>не удалось записать в стандартный вывод</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>строка слишком длинная</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>строка не в UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>строка пуста</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>нет терминала, на котором можно спросить</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>прервано</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>допустимо от 0.1 до 3600 секунд</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>число копий должно быть от %1 до %2</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>приоритет должен быть от %1 до %2</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>число секунд должно быть от %1 до %2</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -531,6 +611,398 @@
     <message>
         <source>Finishing</source>
         <translation>Отделка</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: этот принтер такого не предлагает</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>этот принтер не спрашивает, кто печатает</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>в %1 допустимо %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>не более %n цифры</numerusform>
+            <numerusform>не более %n цифр</numerusform>
+            <numerusform>не более %n цифр</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>не более %n символа</numerusform>
+            <numerusform>не более %n символов</numerusform>
+            <numerusform>не более %n символов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 нельзя использовать вместе с --folder quick</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>для %1 нужен --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>для %1 нужен --folder NAME папки с кодом доступа или своей папки</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 нельзя использовать вместе с номером пользователя</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>Код доступа</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>код доступа удерживаемого задания</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main или имя папки</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Код папки</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>код папки</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>имя для входа</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>пароль к имени для входа</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>номер пользователя вместо входа</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>номер учётной записи</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>имя пользователя на принтере</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>имя задания на принтере</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>не указан номер пользователя; задайте его с помощью %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>не указано имя для входа; задайте его с помощью %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>как у обычной команды печати</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p равно -q, а -w равно -m; остальные не действуют</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>заменяют очередь, когда задание не отправляется</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>вывести настройки задания и ничего не отправлять; сохранить только то, чего требуют --remember, --forget или --save-preset</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>вывести сводку панели, а не настройки</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>перечислить очереди или только те, где есть обработка заданий, и принтеры в сети</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>получить, запомнить и перечислить папки принтера</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>показать, что другие пользователи сервера видят из параметров задания и как это скрыть</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>сообщать, что происходит с заданием, пока оно не будет напечатано или удержано на принтере; иначе код завершения 1, или 4, если через SECONDS оно ещё ожидает</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>выводить JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>пароль, который запрашивает сервер или принтер</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>удержать задание: не печатая, после печати или после пробной печати</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>не удерживать задание</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>взять X (pin, folder-pin, password) из первой строки файла или стандартного ввода, «-», или спросить на терминале: командную строку могут видеть другие пользователи</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>запомнить значения X для следующих заданий этой очереди</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>больше их не помнить</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>начать с набора настроек этой очереди</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>сохранить настройки как набор; коды доступа&#xa0;— только вместе с --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>сделать только это, для -d или --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>вывести этот текст или версию</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Использование: kesto-lp [ПАРАМЕТР]... [ФАЙЛ]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Печатает файлы или стандартный ввод с обработкой заданий принтера.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Код завершения: 0 готово, 1 сбой, 2 неверный вызов, 3 отклонено панелью, 4 ожидает.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>ожидание закончено: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>в сети</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>готов</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>остановлен</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>печатает</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>не принимает задания</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 задание</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n задание</numerusform>
+            <numerusform>%n задания</numerusform>
+            <numerusform>%n заданий</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>у этого принтера нет списка папок</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>адрес принтера неизвестен; задайте его с помощью --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>«%1»&#xa0;— не адрес</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: другие пользователи не видят параметров задания.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: другие пользователи видят в задании: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Администратор скрывает это в cupsd.conf, в политике принтера:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Администратор скрывает это в cupsd.conf, в &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>защищена</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder не действует: этот принтер не хранит документы</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>не удалось запомнить значения: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>задание отправлено, но: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>необработанное задание (raw) идёт в обход драйвера, а с ним и обработки заданий</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>принтер «%1» не предлагает обработку заданий</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m пропущен: он относится к новому заданию</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>предупреждение: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i изменяет уже отправленное задание; уберите файлы</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i изменяет задание там, где оно есть; уберите -d и --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i не может изменить обработку уже отправленного задания</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>для --wait нужно задание для печати</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>список нельзя сочетать с параметрами задания</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>принтер не указан; задайте его с помощью -d или --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>для --ppd нужен --dry-run или --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>из стандартного ввода можно прочитать только одно значение</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>не может быть пустым</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>допустимо время вида 18:30 (UTC), hold, immediate, resume, restart или ключевое слово сервера печати, например evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>допустимо задание вида 12 или QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 пропущен: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>в CUPS нет форм</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>в CUPS нет режимов; используйте -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>кодировка всегда UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>сервер печати сам определяет тип; используйте -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>%1 нельзя указать и в --remember, и в --forget</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>используйте только один из параметров -i, --dry-run, --list, --folders, --check, --list-presets и --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Неверный пароль. Пароль пользователя %1 для %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Пароль пользователя %1 для %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; задайте его с помощью --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>отправка документа %1: %2 МиБ, %3&#xa0;%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>отправка документа %1: %2 МиБ</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>не ждать ответа дольше (по умолчанию 5)</translation>
     </message>
 </context>
 <context>
@@ -1646,6 +2118,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>нет списка папок от %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: это папка, а не файл PPD</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>принтер по умолчанию не задан; выберите принтер с помощью -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>оно принадлежит другому принтеру</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>не удалось перезапустить задание %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>не удалось изменить задание %1: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="sv_SE" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>måste vara %1 eller %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>oväntat argument</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>okänt alternativ %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 kräver ett värde</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 tar inget värde</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 kan inte användas med %2</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>Prova ”%1 --help”.</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 kräver %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>kan inte skriva till standard ut</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>raden är för lång</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>raden är inte i UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>raden är tom</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>det finns ingen terminal att fråga vid</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>avbrutet</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>måste vara mellan 0.1 och 3600 sekunder</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>antalet kopior måste vara mellan %1 och %2</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>prioriteten måste vara mellan %1 och %2</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>antalet sekunder måste vara mellan %1 och %2</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -530,6 +610,395 @@
     <message>
         <source>Finishing</source>
         <translation>Efterbehandling</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: den här skrivaren erbjuder inte det</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>den här skrivaren frågar inte vem som skriver ut</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 får ha %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>högst %n siffra</numerusform>
+            <numerusform>högst %n siffror</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>högst %n tecken</numerusform>
+            <numerusform>högst %n tecken</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 kan inte användas med --folder quick</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 kräver --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 kräver --folder NAME för en mapp med PIN-kod eller en egen mapp</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 kan inte användas med ett användarnummer</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>PIN-kod</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>PIN-kod för jobbet som hålls kvar</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main eller namnet på en mapp</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Mappens PIN-kod</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>mappens PIN-kod</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>inloggningsnamn</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Lösenord</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>lösenord för inloggningsnamnet</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>användarnummer i stället för inloggning</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>kontonummer</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>användarnamn på skrivaren</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>jobbnamn på skrivaren</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>användarnumret saknas; ange det med %1</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>inloggningsnamnet saknas; ange det med %1</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>som i det vanliga utskriftskommandot</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p är -q och -w är -m; de andra har ingen verkan</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>står för en kö när inget jobb skickas</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>visa jobbets inställningar och skicka inget; spara bara det som --remember, --forget eller --save-preset begär</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>visa panelens sammanfattning i stället för inställningarna</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>lista köerna, eller de som erbjuder jobbhantering, och skrivarna i nätverket</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>hämta, spara och lista skrivarens mappar</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>visa vad andra användare av servern ser av ett jobbs alternativ, och hur det döljs</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>visa vad som händer med jobbet tills det är utskrivet eller hålls kvar på skrivaren; avslutar annars med 1, eller med 4 om det ännu väntar efter SECONDS</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>visa JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>lösenordet som servern eller skrivaren begär</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>håll kvar jobbet: utan utskrift, efter utskriften eller efter ett prov</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>håll inte kvar jobbet</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>ta X (pin, folder-pin, password) från första raden i en fil eller standard in, ”-”, eller fråga vid terminalen: andra användare kan se en kommandorad</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>spara uppgifterna X för köns nästa jobb</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>spara dem inte längre</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>utgå från en förinställning för kön</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>spara inställningarna som en förinställning; PIN-koderna bara tillsammans med --with-codes</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>gör bara detta, för -d eller --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>visa den här texten, eller versionen</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Användning: kesto-lp [ALTERNATIV]... [FIL]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Skriver ut filer, eller standard in, med en skrivares jobbhantering.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Avslutar med 0 klart, 1 misslyckades, 2 felaktig användning, 3 nekat av panelen, 4 väntar.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>väntar inte längre: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>i nätverket</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>redo</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>stoppad</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>skriver ut</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>tar inte emot jobb</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 jobb</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n jobb</numerusform>
+            <numerusform>%n jobb</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>den här skrivaren har ingen mapplista</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>skrivarens adress är okänd; ange den med --address</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>”%1” är inte en adress</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: andra användare ser inga alternativ för ett jobb.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: andra användare ser av ett jobb: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>En administratör döljer dem i cupsd.conf, i skrivarens policy:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>En administratör döljer dem i cupsd.conf, i &lt;Policy %1&gt;:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>låst</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder har ingen verkan: den här skrivaren arkiverar inga dokument</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>kan inte spara uppgifterna: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>jobbet skickades, men: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>ett rått jobb (raw) går förbi drivrutinen, och därmed jobbhanteringen</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>skrivaren ”%1” erbjuder inte jobbhantering</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m ignoreras: det hör till ett nytt jobb</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>varning: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i ändrar ett jobb som redan har skickats; utelämna filerna</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i ändrar ett jobb där det är; utelämna -d och --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i kan inte ändra jobbhanteringen för ett jobb som redan har skickats</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait kräver ett jobb att skriva ut</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>en lista kan inte kombineras med ett jobbs alternativ</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>ingen skrivare är angiven; ange den med -d eller --ppd</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd kräver --dry-run eller --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>bara en uppgift kan läsas från standard in</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>får inte vara tomt</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>måste vara en tid som 18:30 (UTC), hold, immediate, resume, restart eller ett av utskriftsserverns nyckelord som evening</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>måste vara ett jobb som 12 eller QUEUE-12</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 ignoreras: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS har inga formulär</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS har inga lägen; använd -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>teckenkodningen är alltid UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>utskriftsservern känner igen typen; använd -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember och --forget kan inte båda ange %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>använd bara ett av -i, --dry-run, --list, --folders, --check, --list-presets och --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Fel lösenord. Lösenord för %1 till %2</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>Lösenord för %1 till %2</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; ange det med --server-password-file</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>skickar dokument %1: %2 MiB, %3&#xa0;%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>skickar dokument %1: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>vänta inte längre på svar (standard: 5)</translation>
     </message>
 </context>
 <context>
@@ -1643,6 +2112,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>ingen mapplista från %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: en mapp, inte en PPD-fil</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>ingen standardskrivare är inställd; välj en med -d</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>det hör till en annan skrivare</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>kan inte starta om jobbet %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>kan inte ändra jobbet %1: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr_TR" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>%1 veya %2 olmalıdır</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>beklenmeyen argüman</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>bilinmeyen seçenek %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 için bir değer gerekir</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 değer almaz</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1, %2 ile birlikte kullanılamaz</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>“%1 --help” komutunu deneyin.</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 için %2 gerekir</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>standart çıktıya yazılamıyor</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>satır çok uzun</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>satır UTF-8 değil</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>satır boş</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>soru sorulacak uçbirim yok</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>kesildi</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>0.1 ile 3600 saniye arasında olmalıdır</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>kopya sayısı %1 ile %2 arasında olmalıdır</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>öncelik %1 ile %2 arasında olmalıdır</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>saniye sayısı %1 ile %2 arasında olmalıdır</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -529,6 +609,392 @@
     <message>
         <source>Finishing</source>
         <translation>Sonlandırma</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1: bu yazıcı bunu sunmuyor</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>bu yazıcı kimin yazdırdığını sormuyor</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1: %2 olabilir</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>en çok %n rakam</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>en çok %n karakter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1, --folder quick ile birlikte kullanılamaz</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 için --folder NAME gerekir</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 için PIN kodlu veya özel bir klasörün --folder NAME seçeneği gerekir</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 bir kullanıcı numarasıyla birlikte kullanılamaz</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>PIN kodu</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>bekletilen işin PIN kodu</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick, main veya bir klasörün adı</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>Klasörün PIN kodu</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>klasörün PIN kodu</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>oturum açma adı</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Parola</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>oturum açma adının parolası</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>oturum açma yerine kullanıcı numarası</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>hesap numarası</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>yazıcıdaki kullanıcı adı</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>yazıcıdaki iş adı</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>kullanıcı numarası eksik; %1 ile belirtin</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>oturum açma adı eksik; %1 ile belirtin</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>alışılmış yazdırma komutundaki gibi</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p ile -q, -w ile -m aynıdır; diğerleri etkisizdir</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>iş gönderilmeyen yerde bir kuyruğun yerine geçer</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>işin ayarlarını yazar ve bir şey göndermez; yalnızca --remember, --forget veya --save-preset ile isteneni saklar</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>ayarlar yerine panelin özetini yazar</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>kuyrukları veya iş yönetimi sunanları ve ağdaki yazıcıları listeler</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>yazıcının klasörlerini alır, hatırlar ve listeler</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>sunucunun diğer kullanıcılarının bir işin seçeneklerinden ne gördüğünü ve nasıl gizleneceğini gösterir</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>iş yazdırılana veya yazıcıda bekletilene kadar işin durumunu yazar; olmazsa 1 ile, SECONDS sonunda hâlâ bekliyorsa 4 ile biter</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>JSON yazar</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>sunucunun veya yazıcının istediği parola</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>işi bekletir: yazdırmadan, yazdırdıktan sonra veya bir örnekten sonra</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>işi bekletmez</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>X değerini (pin, folder-pin, password) bir dosyanın veya standart girdinin (“-”) ilk satırından alır ya da uçbirimde sorar: diğer kullanıcılar komut satırını görebilir</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>X değerlerini bu kuyruğun sonraki işleri için hatırlar</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>artık hatırlamaz</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>bu kuyruğun bir ön ayarıyla başlar</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>ayarları ön ayar olarak kaydeder; PIN kodlarını yalnızca --with-codes ile</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>yalnızca bunu yapar, -d veya --ppd için</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>bu metni veya sürümü yazar</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>Kullanım: kesto-lp [SEÇENEK]... [DOSYA]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>Dosyaları veya standart girdiyi bir yazıcının iş yönetimiyle yazdırır.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>Çıkış kodu: 0 tamam, 1 başarısız, 2 yanlış kullanım, 3 panel reddetti, 4 bekliyor.</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>artık beklenmiyor: %1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>ağda</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>hazır</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>durduruldu</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>yazdırıyor</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>iş kabul etmiyor</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 iş</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n iş</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>bu yazıcının klasör listesi yok</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>yazıcının adresi bilinmiyor; --address ile belirtin</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>“%1” bir adres değil</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1: diğer kullanıcılar bir işin hiçbir seçeneğini görmez.</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1: diğer kullanıcılar bir işten şunları görür: %2.</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>Bir yönetici bunları cupsd.conf dosyasında, yazıcının ilkesinde gizler:</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>Bir yönetici bunları cupsd.conf dosyasında, &lt;Policy %1&gt; içinde gizler:</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>kilitli</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder etkisizdir: bu yazıcı belge dosyalamaz</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>değerler hatırlanamıyor: %1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>iş gönderildi, ama: %1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>ham (raw) bir iş sürücüyü ve onunla birlikte iş yönetimini atlar</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>“%1” yazıcısı iş yönetimi sunmuyor</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>-m yok sayılıyor: yeni bir işle kullanılır</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>uyarı: %1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i zaten gönderilmiş bir işi değiştirir; dosya belirtmeyin</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i bir işi bulunduğu yerde değiştirir; -d ve --ppd belirtmeyin</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i zaten gönderilmiş bir işin iş yönetimini değiştiremez</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait için yazdırılacak bir iş gerekir</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>bir liste, bir işin seçenekleriyle birlikte kullanılamaz</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>yazıcı belirtilmedi; -d veya --ppd ile belirtin</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd için --dry-run veya --folders gerekir</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>standart girdiden yalnızca bir değer okunabilir</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>boş olmamalıdır</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>18:30 (UTC) gibi bir saat, hold, immediate, resume, restart veya yazdırma sunucusunun evening gibi bir anahtar sözcüğü olmalıdır</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>12 veya QUEUE-12 gibi bir iş olmalıdır</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>%1 yok sayılıyor: %2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS’ta form yok</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS’ta kip yok; -o kullanın</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>karakter kümesi her zaman UTF-8’dir</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>yazdırma sunucusu türü tanır; -o document-format=TYPE kullanın</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember ve --forget ikisi birden %1 değerini belirtemez</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>yalnızca birini kullanın: -i, --dry-run, --list, --folders, --check, --list-presets, --delete-preset</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>Parola yanlış. %2 için %1 parolası</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>%2 için %1 parolası</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1; --server-password-file ile belirtin</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>%1. belge gönderiliyor: %2 MiB, %%3</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>%1. belge gönderiliyor: %2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>yanıt için daha uzun beklemez (öntanımlı: 5)</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +2106,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>%1 konumundan klasör listesi alınamadı: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1: bir klasör, PPD dosyası değil</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>varsayılan yazıcı ayarlanmamış; -d ile bir yazıcı seçin</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>başka bir yazıcıya ait</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>%1 işi yeniden başlatılamıyor: %2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>%1 işi değiştirilemiyor: %2</translation>
     </message>
 </context>
 <context>

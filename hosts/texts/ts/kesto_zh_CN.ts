@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>必须是 %1 或 %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>意外的参数</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>未知选项 %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 需要一个值</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 不接受值</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 不能与 %2 一起使用</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>请尝试“%1 --help”。</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 需要 %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>无法写入标准输出</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>该行过长</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>该行不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>该行为空</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>没有可供询问的终端</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1：</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>已中断</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>必须在 0.1 到 3600 秒之间</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>份数必须在 %1 到 %2 之间</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>优先级必须在 %1 到 %2 之间</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>秒数必须在 %1 到 %2 之间</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>A quick file has no pass code.</source>
@@ -529,6 +609,392 @@
     <message>
         <source>Finishing</source>
         <translation>装订</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1：此打印机不提供</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>此打印机不询问打印者</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>最多 %n 位数字</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>最多 %n 个字符</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 不能与 --folder quick 一起使用</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 需要 --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 需要带 PIN 码的文件夹或自定义文件夹的 --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 不能与用户编号一起使用</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>PIN 码</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>所保留作业的 PIN 码</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick、main 或文件夹名称</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>文件夹 PIN 码</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>文件夹 PIN 码</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>登录名</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>登录名的密码</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>代替登录名的用户编号</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>账户编号</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>打印机上的用户名</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>打印机上的作业名</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>缺少用户编号；请用 %1 指定</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>缺少登录名；请用 %1 指定</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>与通常的打印命令相同</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p 即 -q，-w 即 -m；其余不起作用</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>不发送作业时代替队列</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>显示作业的设置而不发送任何内容；只保存 --remember、--forget 或 --save-preset 要求的内容</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>显示面板的摘要而不是设置</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>列出队列，或提供作业处理的队列，以及网络上的打印机</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>获取、记住并列出打印机的文件夹</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>显示服务器的其他用户能看到作业的哪些选项，以及如何隐藏</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>显示作业的进展，直到已打印或保留在打印机上；否则以 1 结束，如果 SECONDS 之后仍在等待则以 4 结束</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>显示 JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>服务器或打印机要求的密码</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>保留作业：不打印、打印之后或打印样张之后</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>不保留作业</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>从文件或标准输入（“-”）的第一行读取 X（pin、folder-pin、password），或在终端询问：其他用户可能看到命令行</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>为此队列的后续作业记住内容 X</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>不再记住</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>从此队列的预设开始</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>将设置保存为预设；PIN 码仅在使用 --with-codes 时保存</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>只执行此操作，针对 -d 或 --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>显示此文本或版本</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>用法：kesto-lp [选项]... [文件]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>使用打印机的作业处理功能打印文件或标准输入。</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>退出代码：0 完成，1 失败，2 用法错误，3 被面板拒绝，4 等待中。</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>不再等待：%1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>网络上的打印机</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>不接受作业</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 个作业</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n 个作业</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>此打印机没有文件夹列表</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>打印机的地址未知；请用 --address 指定</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>“%1”不是地址</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1：其他用户看不到作业的任何选项。</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1：其他用户能看到作业的以下内容：%2。</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>管理员可在 cupsd.conf 中该打印机的策略里隐藏这些内容：</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>管理员可在 cupsd.conf 的 &lt;Policy %1&gt; 中隐藏这些内容：</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>已锁定</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder 没有效果：此打印机不归档文档</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>无法记住输入的内容：%1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>作业已发送，但是：%1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>原始 (raw) 作业绕过驱动程序，因而也绕过作业处理</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>打印机“%1”不提供作业处理</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>忽略 -m：它用于新作业</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>警告：%1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i 更改已发送的作业；请不要指定文件</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i 在作业所在之处更改作业；请不要指定 -d 和 --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i 无法更改已发送作业的作业处理</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait 需要一个要打印的作业</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>列表不能与作业的选项一起使用</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>未指定打印机；请用 -d 或 --ppd 指定</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd 需要 --dry-run 或 --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>只能从标准输入读取一项内容</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>不能为空</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>必须是类似 18:30 (UTC) 的时间、hold、immediate、resume、restart，或打印服务器的关键字（如 evening）</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>必须是类似 12 或 QUEUE-12 的作业</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>忽略 %1：%2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS 没有表单</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS 没有模式；请使用 -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>字符集始终是 UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>打印服务器会检测类型；请使用 -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember 和 --forget 不能同时指定 %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>-i、--dry-run、--list、--folders、--check、--list-presets 和 --delete-preset 只能使用一个</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>密码错误。%1 用于 %2 的密码</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>%1 用于 %2 的密码</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1；请用 --server-password-file 指定</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>正在发送文档 %1：%2 MiB，%3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>正在发送文档 %1：%2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>等待答复不超过此时间（默认 5）</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +2106,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>无法从 %1 获取文件夹列表：%2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1：是文件夹，不是 PPD 文件</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>未设置默认打印机；请用 -d 选择</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>它属于另一台打印机</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>无法重新启动作业 %1：%2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>无法更改作业 %1：%2</translation>
     </message>
 </context>
 <context>

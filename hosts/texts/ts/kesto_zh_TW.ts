@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
+    <name>CommandTexts</name>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>必須是 %1 或 %2</translation>
+    </message>
+    <message>
+        <source>unexpected argument</source>
+        <translation>未預期的引數</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>不明的選項 %1</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 需要一個值</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 不接受值</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with %2</source>
+        <translation>%1 不能與 %2 一起使用</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos;.</source>
+        <translation>請嘗試「%1 --help」。</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 需要 %2</translation>
+    </message>
+    <message>
+        <source>cannot write standard output</source>
+        <translation>無法寫入標準輸出</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>該行過長</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>該行不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>the line is empty</source>
+        <translation>該行是空的</translation>
+    </message>
+    <message>
+        <source>no terminal to ask at</source>
+        <translation>沒有可供詢問的終端機</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>a prompt</comment>
+        <translation>%1：</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>已中斷</translation>
+    </message>
+    <message>
+        <source>must be between 0.1 and 3600 seconds</source>
+        <translation>必須介於 0.1 到 3600 秒之間</translation>
+    </message>
+    <message>
+        <source>copies must be between %1 and %2</source>
+        <translation>份數必須介於 %1 到 %2 之間</translation>
+    </message>
+    <message>
+        <source>priority must be between %1 and %2</source>
+        <translation>優先順序必須介於 %1 到 %2 之間</translation>
+    </message>
+    <message>
+        <source>the seconds must be between %1 and %2</source>
+        <translation>秒數必須介於 %1 到 %2 之間</translation>
+    </message>
+</context>
+<context>
     <name>DimmingReasons</name>
     <message>
         <source>The job is not held on the printer. Turn on Retention first.</source>
@@ -529,6 +609,392 @@
     <message>
         <source>Finishing</source>
         <translation>裝訂</translation>
+    </message>
+</context>
+<context>
+    <name>LpTexts</name>
+    <message>
+        <source>%1: this printer does not offer it</source>
+        <translation>%1：此印表機不提供</translation>
+    </message>
+    <message>
+        <source>this printer does not ask who prints</source>
+        <translation>此印表機不詢問由誰列印</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n digits</source>
+        <translation>
+            <numerusform>最多 %n 位數字</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>at most %n characters</source>
+        <translation>
+            <numerusform>最多 %n 個字元</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --folder quick</source>
+        <translation>%1 不能與 --folder quick 一起使用</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME</source>
+        <translation>%1 需要 --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 requires --folder NAME of a folder with a pass code or of a custom folder</source>
+        <translation>%1 需要有 PIN 碼的資料夾或自訂資料夾的 --folder NAME</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with a user number</source>
+        <translation>%1 不能與使用者編號一起使用</translation>
+    </message>
+    <message>
+        <source>Pass code</source>
+        <translation>PIN 碼</translation>
+    </message>
+    <message>
+        <source>pass code of the held job</source>
+        <translation>所保留工作的 PIN 碼</translation>
+    </message>
+    <message>
+        <source>quick, main or a folder name</source>
+        <translation>quick、main 或資料夾名稱</translation>
+    </message>
+    <message>
+        <source>Folder pass code</source>
+        <translation>資料夾 PIN 碼</translation>
+    </message>
+    <message>
+        <source>pass code of the folder</source>
+        <translation>資料夾 PIN 碼</translation>
+    </message>
+    <message>
+        <source>login name</source>
+        <translation>登入名稱</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密碼</translation>
+    </message>
+    <message>
+        <source>password of the login name</source>
+        <translation>登入名稱的密碼</translation>
+    </message>
+    <message>
+        <source>user number instead of a login</source>
+        <translation>取代登入名稱的使用者編號</translation>
+    </message>
+    <message>
+        <source>account number</source>
+        <translation>帳號編號</translation>
+    </message>
+    <message>
+        <source>user name at the printer</source>
+        <translation>印表機上的使用者名稱</translation>
+    </message>
+    <message>
+        <source>job name at the printer</source>
+        <translation>印表機上的工作名稱</translation>
+    </message>
+    <message>
+        <source>the user number is missing; set it with %1</source>
+        <translation>缺少使用者編號；請以 %1 指定</translation>
+    </message>
+    <message>
+        <source>the login name is missing; set it with %1</source>
+        <translation>缺少登入名稱；請以 %1 指定</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>與一般的列印指令相同</translation>
+    </message>
+    <message>
+        <source>-p is -q, and -w is -m; the others have no effect</source>
+        <translation>-p 即 -q，-w 即 -m；其餘沒有作用</translation>
+    </message>
+    <message>
+        <source>stand for a queue where no job is sent</source>
+        <translation>不傳送工作時代替佇列</translation>
+    </message>
+    <message>
+        <source>print the job&apos;s settings and send nothing; keep only what --remember, --forget or --save-preset ask for</source>
+        <translation>顯示工作的設定而不傳送任何內容；只保存 --remember、--forget 或 --save-preset 所要求的內容</translation>
+    </message>
+    <message>
+        <source>print the panel&apos;s summary, not the settings</source>
+        <translation>顯示面板的摘要而不是設定</translation>
+    </message>
+    <message>
+        <source>list the queues, or those that offer Job Handling, and the printers on the network</source>
+        <translation>列出佇列，或提供工作處理的佇列，以及網路上的印表機</translation>
+    </message>
+    <message>
+        <source>fetch, keep and list the printer&apos;s folders</source>
+        <translation>取得、記住並列出印表機的資料夾</translation>
+    </message>
+    <message>
+        <source>show what other users of the server see of a job&apos;s options, and how to hide it</source>
+        <translation>顯示伺服器的其他使用者能看到工作的哪些選項，以及如何隱藏</translation>
+    </message>
+    <message>
+        <source>print what becomes of the job until it is printed or held at the printer; ends with 1 if it is not, or with 4 if it still waits after SECONDS</source>
+        <translation>顯示工作的進展，直到已列印或保留在印表機上；否則以 1 結束，如果 SECONDS 之後仍在等待則以 4 結束</translation>
+    </message>
+    <message>
+        <source>print JSON</source>
+        <translation>顯示 JSON</translation>
+    </message>
+    <message>
+        <source>the password that the server or printer asks for</source>
+        <translation>伺服器或印表機要求的密碼</translation>
+    </message>
+    <message>
+        <source>hold the job: unprinted, after printing it, or after a sample of it</source>
+        <translation>保留工作：不列印、列印之後或列印樣張之後</translation>
+    </message>
+    <message>
+        <source>do not hold the job</source>
+        <translation>不保留工作</translation>
+    </message>
+    <message>
+        <source>take X (pin, folder-pin, password) from the first line of a file or of standard input, &quot;-&quot;, or ask at the terminal: other users may see a command line</source>
+        <translation>從檔案或標準輸入（「-」）的第一行讀取 X（pin、folder-pin、password），或在終端機詢問：其他使用者可能看到命令列</translation>
+    </message>
+    <message>
+        <source>keep the entries X for this queue&apos;s next jobs</source>
+        <translation>為此佇列的後續工作記住內容 X</translation>
+    </message>
+    <message>
+        <source>keep them no longer</source>
+        <translation>不再記住</translation>
+    </message>
+    <message>
+        <source>start from a preset of this queue</source>
+        <translation>從此佇列的預設組開始</translation>
+    </message>
+    <message>
+        <source>keep the settings as a preset; the pass codes only together with --with-codes</source>
+        <translation>將設定儲存為預設組；PIN 碼僅在使用 --with-codes 時儲存</translation>
+    </message>
+    <message>
+        <source>do this alone, for -d or --ppd</source>
+        <translation>只執行此動作，針對 -d 或 --ppd</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>顯示此文字或版本</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>an entry and its limit</comment>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
+        <translation>用法：kesto-lp [選項]... [檔案]...</translation>
+    </message>
+    <message>
+        <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
+        <translation>使用印表機的工作處理功能列印檔案或標準輸入。</translation>
+    </message>
+    <message>
+        <source>Ends with 0 done, 1 failed, 2 wrong usage, 3 refused by the panel, 4 waiting.</source>
+        <translation>結束代碼：0 完成，1 失敗，2 用法錯誤，3 被面板拒絕，4 等待中。</translation>
+    </message>
+    <message>
+        <source>not waiting any longer: %1</source>
+        <translation>不再等待：%1</translation>
+    </message>
+    <message>
+        <source>on the network</source>
+        <translation>網路上</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>就緒</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>正在列印</translation>
+    </message>
+    <message>
+        <source>not accepting jobs</source>
+        <translation>不接受工作</translation>
+    </message>
+    <message>
+        <source>1 job</source>
+        <translation>1 個工作</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n jobs</source>
+        <translation>
+            <numerusform>%n 個工作</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>this printer has no folder list</source>
+        <translation>此印表機沒有資料夾清單</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s address is unknown; set it with --address</source>
+        <translation>印表機的位址不明；請以 --address 指定</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an address</source>
+        <translation>「%1」不是位址</translation>
+    </message>
+    <message>
+        <source>%1: other users see none of a job&apos;s options.</source>
+        <translation>%1：其他使用者看不到工作的任何選項。</translation>
+    </message>
+    <message>
+        <source>%1: other users see of a job %2.</source>
+        <translation>%1：其他使用者能看到工作的下列內容：%2。</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in the printer&apos;s policy:</source>
+        <translation>管理員可在 cupsd.conf 中該印表機的原則裡隱藏這些內容：</translation>
+    </message>
+    <message>
+        <source>An administrator closes this in cupsd.conf, in &lt;Policy %1&gt;:</source>
+        <translation>管理員可在 cupsd.conf 的 &lt;Policy %1&gt; 中隱藏這些內容：</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>已鎖定</translation>
+    </message>
+    <message>
+        <source>--folder has no effect: this printer files no documents</source>
+        <translation>--folder 沒有效果：此印表機不歸檔文件</translation>
+    </message>
+    <message>
+        <source>cannot remember the entries: %1</source>
+        <translation>無法記住輸入的內容：%1</translation>
+    </message>
+    <message>
+        <source>the job was sent, but: %1</source>
+        <translation>工作已傳送，但是：%1</translation>
+    </message>
+    <message>
+        <source>a raw job bypasses the driver, and Job Handling with it</source>
+        <translation>原始 (raw) 工作會略過驅動程式，因而也略過工作處理</translation>
+    </message>
+    <message>
+        <source>the printer &quot;%1&quot; does not offer Job Handling</source>
+        <translation>印表機「%1」不提供工作處理</translation>
+    </message>
+    <message>
+        <source>-m is ignored: it goes with a new job</source>
+        <translation>忽略 -m：它用於新工作</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>警告：%1</translation>
+    </message>
+    <message>
+        <source>-i changes a job that was already sent; leave out the files</source>
+        <translation>-i 變更已傳送的工作；請不要指定檔案</translation>
+    </message>
+    <message>
+        <source>-i changes a job where it is; leave out -d and --ppd</source>
+        <translation>-i 在工作所在之處變更工作；請不要指定 -d 和 --ppd</translation>
+    </message>
+    <message>
+        <source>-i cannot change the Job Handling of a job that was already sent</source>
+        <translation>-i 無法變更已傳送工作的工作處理</translation>
+    </message>
+    <message>
+        <source>--wait requires a job to print</source>
+        <translation>--wait 需要一個要列印的工作</translation>
+    </message>
+    <message>
+        <source>a list cannot be combined with a job&apos;s options</source>
+        <translation>清單不能與工作的選項一起使用</translation>
+    </message>
+    <message>
+        <source>no printer is given; set it with -d or --ppd</source>
+        <translation>未指定印表機；請以 -d 或 --ppd 指定</translation>
+    </message>
+    <message>
+        <source>--ppd requires --dry-run or --folders</source>
+        <translation>--ppd 需要 --dry-run 或 --folders</translation>
+    </message>
+    <message>
+        <source>only one entry can be read from standard input</source>
+        <translation>只能從標準輸入讀取一項內容</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>不能是空的</translation>
+    </message>
+    <message>
+        <source>must be a time such as 18:30 (UTC), hold, immediate, resume, restart or a keyword of the print server such as evening</source>
+        <translation>必須是類似 18:30 (UTC) 的時間、hold、immediate、resume、restart，或列印伺服器的關鍵字（如 evening）</translation>
+    </message>
+    <message>
+        <source>must be a job such as 12 or QUEUE-12</source>
+        <translation>必須是類似 12 或 QUEUE-12 的工作</translation>
+    </message>
+    <message>
+        <source>%1 is ignored: %2</source>
+        <translation>忽略 %1：%2</translation>
+    </message>
+    <message>
+        <source>CUPS has no forms</source>
+        <translation>CUPS 沒有表單</translation>
+    </message>
+    <message>
+        <source>CUPS has no modes; use -o</source>
+        <translation>CUPS 沒有模式；請使用 -o</translation>
+    </message>
+    <message>
+        <source>the character set is always UTF-8</source>
+        <translation>字元集一律是 UTF-8</translation>
+    </message>
+    <message>
+        <source>the print server detects the type; use -o document-format=TYPE</source>
+        <translation>列印伺服器會偵測類型；請使用 -o document-format=TYPE</translation>
+    </message>
+    <message>
+        <source>--remember and --forget cannot both name %1</source>
+        <translation>--remember 和 --forget 不能同時指定 %1</translation>
+    </message>
+    <message>
+        <source>use only one of -i, --dry-run, --list, --folders, --check, --list-presets and --delete-preset</source>
+        <translation>-i、--dry-run、--list、--folders、--check、--list-presets 和 --delete-preset 只能使用一個</translation>
+    </message>
+    <message>
+        <source>Wrong password. Password of %1 for %2</source>
+        <translation>密碼錯誤。%1 用於 %2 的密碼</translation>
+    </message>
+    <message>
+        <source>Password of %1 for %2</source>
+        <translation>%1 用於 %2 的密碼</translation>
+    </message>
+    <message>
+        <source>%1; set it with --server-password-file</source>
+        <translation>%1；請以 --server-password-file 指定</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB, %3 %</source>
+        <translation>正在傳送文件 %1：%2 MiB，%3%</translation>
+    </message>
+    <message>
+        <source>sending document %1: %2 MiB</source>
+        <translation>正在傳送文件 %1：%2 MiB</translation>
+    </message>
+    <message>
+        <source>wait no longer for an answer (default: 5)</source>
+        <translation>等待回應不超過此時間（預設 5）</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +2106,26 @@
     <message>
         <source>no folder list from %1: %2</source>
         <translation>沒有來自 %1 的資料夾清單：%2</translation>
+    </message>
+    <message>
+        <source>%1: a folder, not a PPD file</source>
+        <translation>%1：是資料夾，不是 PPD 檔案</translation>
+    </message>
+    <message>
+        <source>no default printer is set; choose one with -d</source>
+        <translation>未設定預設印表機；請以 -d 選擇</translation>
+    </message>
+    <message>
+        <source>it belongs to another printer</source>
+        <translation>它屬於另一台印表機</translation>
+    </message>
+    <message>
+        <source>cannot restart job %1: %2</source>
+        <translation>無法重新啟動工作 %1：%2</translation>
+    </message>
+    <message>
+        <source>cannot change job %1: %2</source>
+        <translation>無法變更工作 %1：%2</translation>
     </message>
 </context>
 <context>
