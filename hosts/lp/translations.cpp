@@ -15,8 +15,6 @@ namespace {
 // Most runs show no text of ours, so nothing is loaded before the first one. That may be in any thread.
 class LazyTranslator : public QTranslator {
  public:
-  using QTranslator::QTranslator;
-
   bool isEmpty() const override { return false; }
   QString translate(const char* context, const char* source, const char* comment, int count) const override {
     std::call_once(m_isLoaded, [this] { loadTexts(&m_texts); });
@@ -43,7 +41,9 @@ void installTranslations() {
   // What is printed is UTF-8. English, which every encoding can show, is chosen for the panel's words as
   // well.
   if (hasOtherEncoding()) qputenv("LANGUAGE", "en");
-  QCoreApplication::installTranslator(new LazyTranslator(QCoreApplication::instance()));
+  auto translator = std::make_unique<LazyTranslator>();
+  translator->setParent(QCoreApplication::instance());
+  QCoreApplication::installTranslator(translator.release());
 }
 
 }  // namespace kesto
