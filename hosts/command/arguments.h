@@ -76,10 +76,12 @@ inline std::string faultOf(const CLI::App& app, const CLI::ParseError& error) {
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) return faultOfUnknown(app);
   const QString text = QString::fromUtf8(error.what());
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+    const QString option = text.section(u':', 0, 0);
     const qsizetype flag = text.indexOf(u" was given a disallowed flag override");
     const QString fault =
-        flag < 0 ? CommandTexts::tr("%1 requires a value").arg(text.section(u':', 0, 0))
-                 : CommandTexts::tr("%1 takes no value").arg(QStringLiteral("--") + text.first(flag));
+        flag >= 0 ? CommandTexts::tr("%1 takes no value").arg(QStringLiteral("--") + text.first(flag))
+        : text.contains(u": At Most ") ? CommandTexts::tr("%1 is given twice").arg(option)
+                                       : CommandTexts::tr("%1 requires a value").arg(option);
     return fault.toStdString();
   }
   const QStringList words = text.split(u' ');  // "--a excludes --b" or "--a requires --b"

@@ -20,6 +20,10 @@ namespace {
 
 enum ExitCode { ExitDone = 0, ExitFailed = 1 };
 
+void complain(const QString& fault) {
+  std::cerr << "kesto-print: " << fault.toStdString() << '\n';
+}
+
 // Whether somebody hands a document over: a pipe or a file, not a terminal or nothing.
 bool hasStandardInput() {
   struct stat status {};
@@ -39,7 +43,7 @@ void timeStart(TimedApplication& application, PrintDialog& dialog) {
     dialog.done(QDialog::Accepted);
   });
   QObject::connect(&application, &TimedApplication::failed, &dialog, [&dialog] {
-    std::cerr << "kesto-print: no printer is available\n";
+    complain(QCoreApplication::translate("PrintTexts", "no printer is available"));
     dialog.done(QDialog::Rejected);
   });
 }
@@ -50,7 +54,8 @@ void takeScreenshot(PrintDialog& dialog, const QString& path) {
     const bool isDrawn = dialog.preview().isHidden() || dialog.preview().isSettled();
     if (!dialog.isSettled() || !isDrawn) return;
     const bool isSaved = dialog.grab().save(path);
-    if (!isSaved) std::cerr << "kesto-print: " << shownText(path).toStdString() << " cannot be written\n";
+    if (!isSaved)
+      complain(QCoreApplication::translate("PrintTexts", "%1 cannot be written").arg(shownText(path)));
     dialog.done(isSaved ? QDialog::Accepted : QDialog::Rejected);
   };
   // What was laid out for the news is painted first.
@@ -76,7 +81,7 @@ int run(TimedApplication& application, const PrintOptions& options) {
   Document document;
   openDocument(options, document);
   for (const QString& fault : document.faults())
-    std::cerr << "kesto-print: " << fault.toStdString() << '\n';
+    complain(fault);
   PrintDialog dialog(options, document);
   if (options.timings) timeStart(application, dialog);
   if (!options.screenshot.isNull()) takeScreenshot(dialog, options.screenshot);

@@ -5,28 +5,36 @@
 #include <iostream>
 
 #include "hosts/command/arguments.h"
+#include "hosts/command/help_lines.h"
 #include "hosts/command/server_options.h"
 #include "hosts/cups/print_job.h"
+#include "hosts/texts/terminal_texts.h"
 
 namespace kesto {
 namespace {
 
-constexpr char help[] = R"(usage: kesto-print [OPTION]... [FILE]...
-Shows the print dialog for the files, or for a document in standard input.
+// The texts of this command line.
+struct PrintTexts {
+  Q_DECLARE_TR_FUNCTIONS(PrintTexts)
+};
 
-  -d QUEUE                  the queue; without it the default queue
-  -t TITLE                  the job's title; without it the document's name
-  -n COPIES                 copies to start with
-  -o NAME=VALUE             an option of the job, again for more
-  -h HOST[:PORT]            the print server        -U NAME  the user to be
-  -E                        encrypt                 --timeout SECONDS  (5) wait no longer
-  --pane NAME               open this section: general, layout, job-handling, job, more or summary
-  --screenshot FILE         write a picture of the dialog, and end
-  --timings                 print how long the start took, and end
-  --help, --version         this text, or the version
+constexpr HelpRow helpOfJob[] = {{"-n COPIES -o NAME=VALUE -t TITLE", asUsual}};
 
-Ends with 0 when the job was sent, 1 when it was not, 2 for a wrong command line.
-)";
+constexpr HelpRow helpOfDialog[] = {
+    {"--pane general|layout|job-handling|job|more|summary",
+     QT_TRANSLATE_NOOP("PrintTexts", "open this section")},
+    {"--screenshot FILE", QT_TRANSLATE_NOOP("PrintTexts", "save a picture of the dialog, and exit")},
+    {"--timings", QT_TRANSLATE_NOOP("PrintTexts", "print how long the start took, and exit")},
+};
+
+std::string helpText() {
+  const QString text =
+      helpUsage(QStringLiteral("kesto-print")) +
+      helpParagraph(PrintTexts::tr("Shows the print dialog for files, or for standard input.")) + u'\n' +
+      helpOfServer() + helpLines(helpOfJob, &CommandTexts::tr) + helpLines(helpOfDialog, &PrintTexts::tr) +
+      helpOfHelp() + helpParagraph(PrintTexts::tr("Ends with 0 sent, 1 not sent, 2 wrong usage."));
+  return text.toStdString();
+}
 
 std::string faultOfDescriptor(const std::string& number) {
   return ::fcntl(std::stoi(number), F_GETFD) < 0 ? "must be an open descriptor" : "";
@@ -47,7 +55,8 @@ class CommandLine {
       m_options.jobOptions.insert(QStringLiteral("copies"), QString::fromStdString(copies));
     };
     m_app.add_option_function<std::string>("-n", setCopies)
-        ->transform(wholeNumber("copies must be between %1 and %2", 1, 9999));
+        ->transform(
+            wholeNumber(QT_TRANSLATE_NOOP("CommandTexts", "copies must be between %1 and %2"), 1, 9999));
     m_app.add_option("--portal", m_options.channel)
         ->transform(wholeNumber("the descriptor must be between %1 and %2", 3, 1 << 20))
         ->check(faultOfDescriptor);
@@ -65,18 +74,21 @@ class CommandLine {
     refuseFlagValues(m_app);
   }
 
-  std::optional<int> parse(int argc, char** argv) {
+  /// Throws what ends the program without a dialog.
+  void parse(int argc, char** argv) { m_app.parse(argc, argv); }
+
+  /// Prints why the program ends. Answers its exit code.
+  int finish(int argc, char** argv) {
     try {
-      m_app.parse(argc, argv);
-      return std::nullopt;
+      parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
-      std::cout << help;
-      return 0;
+      std::cout << helpText();
     } catch (const CLI::CallForVersion& version) {
       return m_app.exit(version);
     } catch (const CLI::ParseError& error) {
       return failUsage("kesto-print", faultOf(m_app, error));
     }
+    return 0;
   }
 
  private:
@@ -92,7 +104,17 @@ class CommandLine {
 }  // namespace
 
 std::optional<int> parsePrintOptions(int argc, char** argv, PrintOptions* options) {
-  return CommandLine(options).parse(argc, argv);
+  try {
+    CommandLine(options).parse(argc, argv);
+    return std::nullopt;
+  } catch (const CLI::Error&) {
+    // Texts in the user's language take an application object, which is too slow to make ahead of each
+    // dialog.
+    int countForQt = 1;
+    const QCoreApplication application(countForQt, argv);
+    installTerminalTexts();
+    return CommandLine(options).finish(argc, argv);
+  }
 }
 
 }  // namespace kesto

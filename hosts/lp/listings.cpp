@@ -21,6 +21,8 @@ namespace kesto {
 namespace {
 
 QJsonObject jsonOf(const QueueSummary& queue) {
+  QStringList reasons = queue.stateReasons;
+  reasons.removeAll(QStringLiteral("none"));  // the standard's word for an empty list
   return {{QStringLiteral("queue"), queue.name},
           {QStringLiteral("state"), queue.state},
           {QStringLiteral("accepting"), queue.isAccepting},
@@ -31,7 +33,7 @@ QJsonObject jsonOf(const QueueSummary& queue) {
           {QStringLiteral("jobs"), queue.jobs},
           {QStringLiteral("network"), queue.isOnNetwork},
           {QStringLiteral("message"), queue.stateMessage},
-          {QStringLiteral("reasons"), QJsonArray::fromStringList(queue.stateReasons)}};
+          {QStringLiteral("reasons"), QJsonArray::fromStringList(reasons)}};
 }
 
 // What the printer reports, within a line. A German noun keeps its capital there.

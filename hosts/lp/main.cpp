@@ -4,13 +4,13 @@
 
 #include "hosts/command/output.h"
 #include "hosts/lp/lp_run.h"
-#include "hosts/lp/translations.h"
+#include "hosts/texts/terminal_texts.h"
 
 int main(int argc, char** argv) {
   // Qt keeps a copy of its arguments, and there may be secrets in these.
   int countForQt = qMin(argc, 1);
   const QCoreApplication application(countForQt, argv);
-  if (!kesto::wantsJson(argc, argv)) kesto::installTranslations();
+  if (!kesto::wantsJson(argc, argv)) kesto::installTerminalTexts();
   // kesto-lp itself reports what could not be kept, so the log leaves it out.
   QLoggingCategory::setFilterRules(QStringLiteral("kesto.preferences.changes=false"));
   kesto::Options options;

@@ -233,7 +233,7 @@ TEST_F(PrintTest, ListsQueues) {
                                     {u"message"_s, u""_s},
                                     {u"model"_s, u"KESTO VQ-250n PS"_s},
                                     {u"network"_s, false},
-                                    {u"reasons"_s, QJsonArray{u"none"_s}},
+                                    {u"reasons"_s, QJsonArray()},
                                     {u"queue"_s, u"Office_MFP"_s},
                                     {u"state"_s, u"idle"_s}}}));
   // The scheduler encrypts once it has a place for its certificate.

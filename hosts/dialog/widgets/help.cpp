@@ -91,23 +91,28 @@ constexpr std::array topics{
           QT_TRANSLATE_NOOP("Help",
                             "Close the padlock next to an entry. The entry is then remembered for this "
                             "printer. To change it, open the padlock.")},
-    Topic{QT_TRANSLATE_NOOP("Help", "Choose a folder on the printer"),
-          QT_TRANSLATE_NOOP(
-              "Help",
-              "Under Document filing, choose Custom folder and enter the name of a folder. Get folder names "
-              "asks the printer for its folders, so that you can choose one from the list.")},
+    Topic{
+        QT_TRANSLATE_NOOP("Help", "Choose a folder on the printer"),
+        QT_TRANSLATE_NOOP(
+            "Help",
+            "Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter "
+            "the "
+            "name of a folder. Get folder names asks the printer for its folders, so that you can choose one "
+            "from the list.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Save your settings as a preset"),
           QT_TRANSLATE_NOOP("Help",
                             "Press Presets and choose Save as preset. To use the settings again, choose the "
                             "preset there. The pass codes are saved only if you include them.")},
     Topic{QT_TRANSLATE_NOOP("Help", "See what others can see of a job"),
           QT_TRANSLATE_NOOP("Help",
-                            "On the Summary, press Who can see this job? The answer says which details of a "
+                            "In the Summary, press Who can see this job? The answer says which details of a "
                             "job the print server shows to other users, and how to hide them.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Cancel a job"),
-          QT_TRANSLATE_NOOP("Help",
-                            "Press Cancel while the job is being sent. A job that was sent already can be "
-                            "canceled in the system's list of print jobs.")},
+          QT_TRANSLATE_NOOP(
+              "Help",
+              "Press Cancel while the job is being sent. While the dialog follows the job, press "
+              "Cancel job; Print again sends a job once more that has failed. After the dialog has "
+              "closed, use the system's list of print jobs.")},
     Topic{QT_TRANSLATE_NOOP("Help", "Use the keyboard"),
           QT_TRANSLATE_NOOP("Help",
                             "Alt and an underlined letter go to a control; Alt, Shift and the letter go to "

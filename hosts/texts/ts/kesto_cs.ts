@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>počet sekund musí být mezi %1 a %2</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 je uvedeno dvakrát</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>vzdá to, když server tak dlouho mlčí (výchozí: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>vypíše tento text, nebo verzi</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Použití: %1 [VOLBA]... [SOUBOR]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>jako u běžného tiskového příkazu</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Výběr složky v tiskárně</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>V části „Ukládání dokumentů“ zvolte „Vlastní složka“ a zadejte název složky. „Získat názvy složek“ se zeptá tiskárny na její složky, abyste si mohli jednu vybrat ze seznamu.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Uložení nastavení jako předvolby</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Co ostatní vidí z úlohy</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>V souhrnu stiskněte „Kdo vidí tuto úlohu?“. Odpověď uvádí, které podrobnosti o úloze zobrazuje tiskový server ostatním uživatelům a jak je skrýt.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Zrušení úlohy</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Během odesílání úlohy stiskněte „Zrušit“. Již odeslanou úlohu lze zrušit v systémovém seznamu tiskových úloh.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>Po stisknutí „Tisknout“ se dialog zeptá na heslo dokumentu. Vytiskne kopii bez hesla, kterou můžete číst jen vy a která se potom smaže.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>V části „Správa úloh“ zapněte „Podržení“. V části „Ukládání dokumentů“ zvolte „Vlastní složka“ a zadejte název složky. „Získat názvy složek“ se zeptá tiskárny na její složky, abyste si mohli jednu vybrat ze seznamu.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>V souhrnu stiskněte „Kdo vidí tuto úlohu?“. Odpověď uvádí, které podrobnosti o úloze zobrazuje tiskový server ostatním uživatelům a jak je skrýt.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Během odesílání úlohy stiskněte „Zrušit“. Dokud dialog úlohu sleduje, stiskněte „Zrušit úlohu“; „Tisknout znovu“ odešle neúspěšnou úlohu ještě jednou. Po zavření dialogu použijte systémový seznam tiskových úloh.</translation>
     </message>
 </context>
 <context>
@@ -716,10 +736,6 @@
         <translation>chybí přihlašovací jméno; zadejte je pomocí %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>jako u běžného tiskového příkazu</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p je -q a -w je -m; ostatní nemají účinek</translation>
     </message>
@@ -792,17 +808,9 @@
         <translation>udělá jen toto, pro -d nebo --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>vypíše tento text, nebo verzi</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Použití: kesto-lp [VOLBA]... [SOUBOR]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -1001,8 +1009,8 @@
         <translation>odesílá se dokument %1: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>nečeká na odpověď déle (výchozí: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>změní odeslanou úlohu: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1016,6 +1024,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>není dostupná žádná tiskárna</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 nelze zapsat</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>otevře tuto část</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>uloží obrázek dialogu a skončí</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>vypíše, jak dlouho trvalo spuštění, a skončí</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Zobrazí dialog tisku pro soubory nebo standardní vstup.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Končí s 0 odesláno, 1 neodesláno, 2 špatné použití.</translation>
     </message>
 </context>
 <context>

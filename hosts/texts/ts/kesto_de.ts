@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>die Zahl der Sekunden muss zwischen %1 und %2 liegen</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 ist zweimal angegeben</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>aufgeben, wenn ein Server so lange schweigt (Vorgabe: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>diesen Text oder die Version ausgeben</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Aufruf: %1 [OPTION]... [DATEI]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>wie beim üblichen Druckbefehl</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,16 +206,8 @@
         <translation>Sehen, was andere von einem Auftrag sehen</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>Klicken Sie in der Übersicht auf „Wer kann diesen Auftrag sehen?“. Die Antwort sagt, welche Einzelheiten eines Auftrags der Druckserver anderen Benutzern zeigt und wie Sie sie verbergen.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Einen Auftrag abbrechen</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Klicken Sie auf „Abbrechen“, während der Auftrag gesendet wird. Ein bereits gesendeter Auftrag lässt sich in der Auftragsliste des Systems abbrechen.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -212,10 +224,6 @@
     <message>
         <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
         <translation>Manche Drucker verlangen eine Angabe, wer druckt. Geben Sie unter „Benutzer und Konto“ Ihre Benutzernummer oder Ihren Anmeldenamen und Ihr Passwort ein.</translation>
-    </message>
-    <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>Wählen Sie unter „Dokumentenablage“ die Option „Eigener Ordner“ und geben Sie den Namen eines Ordners ein. „Ordnernamen abrufen“ fragt den Drucker nach seinen Ordnern, sodass Sie einen aus der Liste wählen können.</translation>
     </message>
     <message>
         <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>Wenn Sie auf „Drucken“ klicken, fragt der Dialog nach dem Passwort des Dokuments. Er druckt eine Kopie ohne Passwort, die nur Sie lesen können und die danach gelöscht wird.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Schalten Sie unter „Auftragssteuerung“ die Option „Zurückhalten“ ein. Wählen Sie unter „Dokumentenablage“ die Option „Eigener Ordner“ und geben Sie den Namen eines Ordners ein. „Ordnernamen abrufen“ fragt den Drucker nach seinen Ordnern, sodass Sie einen aus der Liste wählen können.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Klicken Sie in der Übersicht auf „Wer kann diesen Auftrag sehen?“. Die Antwort sagt, welche Einzelheiten eines Auftrags der Druckserver anderen Benutzern zeigt und wie Sie sie verbergen.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Klicken Sie auf „Abbrechen“, während der Auftrag gesendet wird. Solange der Dialog den Auftrag verfolgt, klicken Sie auf „Auftrag abbrechen“; „Erneut drucken“ sendet einen fehlgeschlagenen Auftrag noch einmal. Ist der Dialog geschlossen, verwenden Sie die Auftragsliste des Systems.</translation>
     </message>
 </context>
 <context>
@@ -713,10 +733,6 @@
         <translation>der Anmeldename fehlt; geben Sie ihn mit %1 an</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>wie beim üblichen Druckbefehl</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p ist -q, und -w ist -m; die anderen haben keine Wirkung</translation>
     </message>
@@ -789,17 +805,9 @@
         <translation>nur dies tun, für -d oder --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>diesen Text oder die Version ausgeben</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Aufruf: kesto-lp [OPTION]... [DATEI]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -997,8 +1005,8 @@
         <translation>Dokument %1 wird gesendet: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>nicht länger auf eine Antwort warten (Vorgabe: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>einen gesendeten Auftrag ändern: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1020,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>kein Drucker ist verfügbar</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>diesen Abschnitt öffnen</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>ein Bild des Dialogs speichern und beenden</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>ausgeben, wie lange der Start gedauert hat, und beenden</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Zeigt den Druckdialog für Dateien oder die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Endet mit 0 gesendet, 1 nicht gesendet, 2 falscher Aufruf.</translation>
     </message>
 </context>
 <context>

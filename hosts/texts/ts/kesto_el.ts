@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>τα δευτερόλεπτα πρέπει να είναι από %1 έως %2</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>το %1 δίνεται δύο φορές</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>εγκατάλειψη αν ο διακομιστής σιωπά τόση ώρα (προεπιλογή: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>εμφάνιση αυτού του κειμένου ή της έκδοσης</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Χρήση: %1 [ΕΠΙΛΟΓΗ]... [ΑΡΧΕΙΟ]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>όπως στη συνήθη εντολή εκτύπωσης</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Επιλογή φακέλου στον εκτυπωτή</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>Στην ενότητα «Αρχειοθέτηση εγγράφων», επιλέξτε «Προσαρμοσμένος φάκελος» και πληκτρολογήστε το όνομα ενός φακέλου. Η «Λήψη ονομάτων φακέλων» ρωτά τον εκτυπωτή για τους φακέλους του, ώστε να επιλέξετε έναν από τη λίστα.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Αποθήκευση των ρυθμίσεων ως προρύθμισης</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Τι βλέπουν οι άλλοι από μια εργασία</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>Στη σύνοψη, πατήστε «Ποιος βλέπει αυτή την εργασία;». Η απάντηση δείχνει ποιες λεπτομέρειες μιας εργασίας εμφανίζει ο διακομιστής εκτύπωσης σε άλλους χρήστες και πώς να τις αποκρύψετε.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Ακύρωση εργασίας</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Πατήστε «Ακύρωση» κατά την αποστολή της εργασίας. Μια εργασία που έχει ήδη σταλεί μπορεί να ακυρωθεί στη λίστα εργασιών εκτύπωσης του συστήματος.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>Όταν πατάτε «Εκτύπωση», ο διάλογος ζητά τον κωδικό πρόσβασης του εγγράφου. Εκτυπώνει ένα αντίγραφο χωρίς κωδικό, που μόνο εσείς μπορείτε να διαβάσετε και που διαγράφεται στη συνέχεια.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Στην ενότητα «Διαχείριση εργασιών», ενεργοποιήστε το «Κράτηση». Στην ενότητα «Αρχειοθέτηση εγγράφων», επιλέξτε «Προσαρμοσμένος φάκελος» και πληκτρολογήστε το όνομα ενός φακέλου. Η «Λήψη ονομάτων φακέλων» ρωτά τον εκτυπωτή για τους φακέλους του, ώστε να επιλέξετε έναν από τη λίστα.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Στη σύνοψη, πατήστε «Ποιος βλέπει αυτή την εργασία;». Η απάντηση δείχνει ποιες λεπτομέρειες μιας εργασίας εμφανίζει ο διακομιστής εκτύπωσης σε άλλους χρήστες και πώς να τις αποκρύψετε.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Πατήστε «Ακύρωση» κατά την αποστολή της εργασίας. Όσο το παράθυρο παρακολουθεί την εργασία, πατήστε «Ακύρωση εργασίας»· η «Εκτύπωση ξανά» στέλνει άλλη μία φορά μια εργασία που απέτυχε. Αφού κλείσει το παράθυρο, χρησιμοποιήστε τη λίστα εργασιών εκτύπωσης του συστήματος.</translation>
     </message>
 </context>
 <context>
@@ -713,10 +733,6 @@
         <translation>λείπει το όνομα σύνδεσης· δώστε το με το %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>όπως στη συνήθη εντολή εκτύπωσης</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>το -p είναι -q και το -w είναι -m· τα υπόλοιπα δεν έχουν αποτέλεσμα</translation>
     </message>
@@ -789,17 +805,9 @@
         <translation>μόνο αυτό, για -d ή --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>εμφάνιση αυτού του κειμένου ή της έκδοσης</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Χρήση: kesto-lp [ΕΠΙΛΟΓΗ]... [ΑΡΧΕΙΟ]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -997,8 +1005,8 @@
         <translation>αποστολή του εγγράφου %1: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>όχι μεγαλύτερη αναμονή για απάντηση (προεπιλογή: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>αλλαγή εργασίας που έχει σταλεί: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1020,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>δεν υπάρχει διαθέσιμος εκτυπωτής</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>δεν είναι δυνατή η εγγραφή του %1</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>άνοιγμα αυτής της ενότητας</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>αποθήκευση εικόνας του παραθύρου και έξοδος</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>εμφάνιση της διάρκειας της εκκίνησης και έξοδος</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Εμφανίζει το παράθυρο εκτύπωσης για αρχεία ή για την τυπική είσοδο.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Τερματίζει με 0 αποστολή, 1 καμία αποστολή, 2 λανθασμένη χρήση.</translation>
     </message>
 </context>
 <context>

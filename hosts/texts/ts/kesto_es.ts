@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>los segundos deben estar entre %1 y %2</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 se ha indicado dos veces</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>desistir si el servidor calla durante este tiempo (predeterminado: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>mostrar este texto, o la versión</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Uso: %1 [OPCIÓN]... [ARCHIVO]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>como en la orden de impresión habitual</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,16 +206,8 @@
         <translation>Ver qué pueden ver los demás de un trabajo</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>En el resumen, pulse «¿Quién puede ver este trabajo?». La respuesta indica qué detalles de un trabajo muestra el servidor de impresión a los demás usuarios y cómo ocultarlos.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Cancelar un trabajo</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Pulse «Cancelar» mientras se envía el trabajo. Un trabajo ya enviado se puede cancelar en la lista de trabajos de impresión del sistema.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -212,10 +224,6 @@
     <message>
         <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
         <translation>Algunas impresoras preguntan quién imprime. En «Usuario y cuenta», escriba su número de usuario, o su nombre de inicio de sesión y su contraseña.</translation>
-    </message>
-    <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>En «Archivado del documento», elija «Carpeta personalizada» y escriba el nombre de una carpeta. «Obtener nombres de carpetas» pide sus carpetas a la impresora, para que pueda elegir una de la lista.</translation>
     </message>
     <message>
         <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>Al pulsar «Imprimir», el diálogo pide la contraseña del documento. Imprime una copia sin contraseña, que solo usted puede leer y que después se elimina.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>En «Gestión de trabajos», active «Retener el trabajo». En «Archivado del documento», elija «Carpeta personalizada» y escriba el nombre de una carpeta. «Obtener nombres de carpetas» pide sus carpetas a la impresora, para que pueda elegir una de la lista.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>En el resumen, pulse «¿Quién puede ver este trabajo?». La respuesta indica qué detalles de un trabajo muestra el servidor de impresión a los demás usuarios y cómo ocultarlos.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Pulse «Cancelar» mientras se envía el trabajo. Mientras el diálogo sigue el trabajo, pulse «Cancelar el trabajo»; «Volver a imprimir» envía otra vez un trabajo que ha fallado. Una vez cerrado el diálogo, use la lista de trabajos de impresión del sistema.</translation>
     </message>
 </context>
 <context>
@@ -713,10 +733,6 @@
         <translation>falta el nombre de inicio de sesión; indíquelo con %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>como en la orden de impresión habitual</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p es -q y -w es -m; las demás no tienen efecto</translation>
     </message>
@@ -789,17 +805,9 @@
         <translation>hacer solo esto, para -d o --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>mostrar este texto, o la versión</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Uso: kesto-lp [OPCIÓN]... [ARCHIVO]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -997,8 +1005,8 @@
         <translation>enviando el documento %1: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>no esperar más tiempo una respuesta (predeterminado: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>cambiar un trabajo ya enviado: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1020,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>no hay ninguna impresora disponible</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>no se puede escribir %1</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>abrir esta sección</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>guardar una imagen del diálogo y salir</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>mostrar cuánto ha tardado el inicio y salir</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Muestra el diálogo de impresión para archivos, o para la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Termina con 0 enviado, 1 no enviado, 2 uso incorrecto.</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>le nombre de secondes doit être compris entre %1 et %2</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 est indiqué deux fois</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>abandonner si le serveur reste muet aussi longtemps (5 par défaut)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>afficher ce texte, ou la version</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Utilisation&#xa0;: %1 [OPTION]... [FICHIER]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>comme pour la commande d’impression habituelle</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,16 +206,8 @@
         <translation>Voir ce que les autres peuvent voir d’un travail</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>Dans le résumé, cliquez sur «&#xa0;Qui peut voir ce travail&#xa0;?&#xa0;». La réponse indique quels détails d’un travail le serveur d’impression montre aux autres utilisateurs, et comment les masquer.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Annuler un travail</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Cliquez sur «&#xa0;Annuler&#xa0;» pendant l’envoi du travail. Un travail déjà envoyé peut être annulé dans la liste des travaux d’impression du système.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -212,10 +224,6 @@
     <message>
         <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
         <translation>Certaines imprimantes demandent qui imprime. Sous «&#xa0;Utilisateur et compte&#xa0;», saisissez votre numéro d’utilisateur, ou votre nom de connexion et votre mot de passe.</translation>
-    </message>
-    <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>Sous «&#xa0;Classement du document&#xa0;», choisissez «&#xa0;Dossier personnalisé&#xa0;» et saisissez le nom d’un dossier. «&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante, afin que vous puissiez en choisir un dans la liste.</translation>
     </message>
     <message>
         <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>Quand vous cliquez sur «&#xa0;Imprimer&#xa0;», la boîte de dialogue demande le mot de passe du document. Elle imprime une copie sans mot de passe, que vous seul pouvez lire et qui est supprimée ensuite.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Sous «&#xa0;Gestion des travaux&#xa0;», activez «&#xa0;Conserver le travail&#xa0;». Sous «&#xa0;Classement du document&#xa0;», choisissez «&#xa0;Dossier personnalisé&#xa0;» et saisissez le nom d’un dossier. «&#xa0;Obtenir les noms des dossiers&#xa0;» demande ses dossiers à l’imprimante, afin que vous puissiez en choisir un dans la liste.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Dans le résumé, cliquez sur «&#xa0;Qui peut voir ce travail&#xa0;?&#xa0;». La réponse indique quels détails d’un travail le serveur d’impression montre aux autres utilisateurs, et comment les masquer.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Cliquez sur «&#xa0;Annuler&#xa0;» pendant l’envoi du travail. Tant que la boîte de dialogue suit le travail, cliquez sur «&#xa0;Annuler le travail&#xa0;»&#xa0;; «&#xa0;Imprimer à nouveau&#xa0;» envoie encore une fois un travail qui a échoué. Une fois la boîte de dialogue fermée, utilisez la liste des travaux d’impression du système.</translation>
     </message>
 </context>
 <context>
@@ -713,10 +733,6 @@
         <translation>le nom de connexion manque&#xa0;; indiquez-le avec %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>comme pour la commande d’impression habituelle</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p équivaut à -q et -w à -m&#xa0;; les autres sont sans effet</translation>
     </message>
@@ -789,17 +805,9 @@
         <translation>ne faire que cela, pour -d ou --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>afficher ce texte, ou la version</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Utilisation&#xa0;: kesto-lp [OPTION]... [FICHIER]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -997,8 +1005,8 @@
         <translation>envoi du document %1&#xa0;: %2 Mio</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>ne pas attendre une réponse plus longtemps (5 par défaut)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>modifier un travail déjà envoyé&#xa0;: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1020,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>aucune imprimante n’est disponible</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>impossible d’écrire %1</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>ouvrir cette section</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>enregistrer une image de la boîte de dialogue et quitter</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>afficher la durée du démarrage et quitter</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Affiche la boîte de dialogue d’impression pour des fichiers, ou pour l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Se termine par 0 envoyé, 1 non envoyé, 2 mauvaise utilisation.</translation>
     </message>
 </context>
 <context>

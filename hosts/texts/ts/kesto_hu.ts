@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>a másodpercek számának %1 és %2 között kell lennie</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 kétszer szerepel</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>feladja, ha a kiszolgáló ennyi ideig hallgat (alapértelmezés: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>kiírja ezt a szöveget vagy a verziót</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Használat: %1 [KAPCSOLÓ]... [FÁJL]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>mint a szokásos nyomtatási parancsnál</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Mappa kiválasztása a nyomtatón</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>A „Dokumentumtárolás” alatt válassza az „Egyéni mappa” lehetőséget, és adja meg egy mappa nevét. A „Mappanevek lekérése” lekérdezi a nyomtató mappáit, hogy a listából választhasson.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Beállítások mentése előbeállításként</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Mit láthatnak mások egy feladatból</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>Az összegzésben nyomja meg a „Ki láthatja ezt a feladatot?” gombot. A válasz megadja, hogy a nyomtatókiszolgáló a feladat mely részleteit mutatja meg más felhasználóknak, és hogyan rejtheti el őket.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Feladat megszakítása</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Nyomja meg a „Mégse” gombot a feladat küldése közben. A már elküldött feladat a rendszer nyomtatási feladatainak listájában szakítható meg.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>A „Nyomtatás” gomb megnyomásakor az ablak kéri a dokumentum jelszavát. Egy jelszó nélküli másolatot nyomtat ki, amelyet csak Ön olvashat, és amely utána törlődik.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>A „Feladatkezelés” alatt kapcsolja be a „Visszatartás” lehetőséget. A „Dokumentumtárolás” alatt válassza az „Egyéni mappa” lehetőséget, és adja meg egy mappa nevét. A „Mappanevek lekérése” lekérdezi a nyomtató mappáit, hogy a listából választhasson.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Az összegzésben nyomja meg a „Ki láthatja ezt a feladatot?” gombot. A válasz megadja, hogy a nyomtatókiszolgáló a feladat mely részleteit mutatja meg más felhasználóknak, és hogyan rejtheti el őket.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Nyomja meg a „Mégse” gombot a feladat küldése közben. Amíg a párbeszédablak követi a feladatot, nyomja meg a „Feladat megszakítása” gombot; az „Újranyomtatás” még egyszer elküldi a sikertelen feladatot. A párbeszédablak bezárása után használja a rendszer nyomtatási feladatainak listáját.</translation>
     </message>
 </context>
 <context>
@@ -710,10 +730,6 @@
         <translation>hiányzik a bejelentkezési név; adja meg ezzel: %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>mint a szokásos nyomtatási parancsnál</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p ugyanaz, mint -q, -w mint -m; a többi hatástalan</translation>
     </message>
@@ -786,17 +802,9 @@
         <translation>csak ezt teszi, -d vagy --ppd megadásával</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>kiírja ezt a szöveget vagy a verziót</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Használat: kesto-lp [KAPCSOLÓ]... [FÁJL]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -993,8 +1001,8 @@
         <translation>%1. dokumentum küldése: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>nem vár tovább válaszra (alapértelmezés: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>elküldött feladat módosítása: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1008,6 +1016,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>nincs elérhető nyomtató</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 nem írható</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>megnyitja ezt a szakaszt</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>elmenti a párbeszédablak képét, és kilép</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>kiírja, mennyi ideig tartott az indulás, és kilép</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>A nyomtatás párbeszédablakát jeleníti meg fájlokhoz vagy a szabványos bemenethez.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Kilépési kód: 0 elküldve, 1 nincs elküldve, 2 hibás használat.</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>i secondi devono essere compresi tra %1 e %2</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 è indicato due volte</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>rinunciare se il server tace per questo tempo (predefinito: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>mostrare questo testo, o la versione</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Uso: %1 [OPZIONE]... [FILE]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>come nel consueto comando di stampa</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Scegliere una cartella sulla stampante</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>In «Archiviazione documenti», scegliere «Cartella personalizzata» e inserire il nome di una cartella. «Ottieni i nomi delle cartelle» chiede alla stampante le sue cartelle, così da poterne scegliere una dall’elenco.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Salvare le impostazioni come preimpostazione</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Vedere che cosa gli altri possono vedere di un lavoro</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>Nel riepilogo, premere «Chi può vedere questo lavoro?». La risposta indica quali dettagli di un lavoro il server di stampa mostra agli altri utenti e come nasconderli.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Annullare un lavoro</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Premere «Annulla» durante l’invio del lavoro. Un lavoro già inviato può essere annullato nell’elenco dei lavori di stampa del sistema.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>Quando si preme «Stampa», la finestra chiede la password del documento. Stampa una copia senza password, che solo l’utente può leggere e che viene poi eliminata.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>In «Gestione lavori», attivare «Trattenimento». In «Archiviazione documenti», scegliere «Cartella personalizzata» e inserire il nome di una cartella. «Ottieni i nomi delle cartelle» chiede alla stampante le sue cartelle, così da poterne scegliere una dall’elenco.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Nel riepilogo, premere «Chi può vedere questo lavoro?». La risposta indica quali dettagli di un lavoro il server di stampa mostra agli altri utenti e come nasconderli.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Premere «Annulla» durante l’invio del lavoro. Mentre la finestra segue il lavoro, premere «Annulla lavoro»; «Stampa di nuovo» invia ancora una volta un lavoro non riuscito. Dopo la chiusura della finestra, usare l’elenco dei lavori di stampa del sistema.</translation>
     </message>
 </context>
 <context>
@@ -713,10 +733,6 @@
         <translation>manca il nome di accesso; indicarlo con %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>come nel consueto comando di stampa</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p equivale a -q e -w a -m; le altre non hanno effetto</translation>
     </message>
@@ -789,17 +805,9 @@
         <translation>fare solo questo, per -d o --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>mostrare questo testo, o la versione</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Uso: kesto-lp [OPZIONE]... [FILE]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -997,8 +1005,8 @@
         <translation>invio del documento %1: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>non attendere oltre una risposta (predefinito: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>modificare un lavoro già inviato: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1020,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>nessuna stampante disponibile</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>aprire questa sezione</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>salvare un’immagine della finestra e uscire</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>mostrare la durata dell’avvio e uscire</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Mostra la finestra di stampa per file, o per lo standard input.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Termina con 0 inviato, 1 non inviato, 2 uso errato.</translation>
     </message>
 </context>
 <context>

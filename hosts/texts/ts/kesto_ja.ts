@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>秒数は %1 から %2 の範囲で指定してください</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 が 2 回指定されています</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>サーバーの無応答がこの秒数続いたら中止する (既定値: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>このテキスト、またはバージョンを表示する</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>使い方: %1 [オプション]... [ファイル]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>通常の印刷コマンドと同じ</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,16 +206,8 @@
         <translation>ジョブについて他の人に何が見えるかを確認する</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>概要で「このジョブを見ることができるのは?」を押します。プリントサーバーがジョブのどの内容を他のユーザーに見せるか、またその隠し方が表示されます。</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>ジョブをキャンセルする</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>ジョブの送信中に「キャンセル」を押します。送信済みのジョブは、システムの印刷ジョブの一覧でキャンセルできます。</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -212,10 +224,6 @@
     <message>
         <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
         <translation>印刷するユーザーの指定が必要なプリンターがあります。「ユーザーとアカウント」で、ユーザー番号、またはログイン名とパスワードを入力します。</translation>
-    </message>
-    <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>「文書の保存先」で「カスタムフォルダー」を選び、フォルダーの名前を入力します。「フォルダー名を取得」を押すと、プリンターのフォルダーが取得され、一覧から選べるようになります。</translation>
     </message>
     <message>
         <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>「印刷」を押すと、文書のパスワードの入力を求められます。パスワードのない、あなただけが読めるコピーが印刷され、その後削除されます。</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>「ジョブ管理」で「ジョブの保留」をオンにします。「文書の保存先」で「カスタムフォルダー」を選び、フォルダーの名前を入力します。「フォルダー名を取得」を押すと、プリンターのフォルダーが取得され、一覧から選べるようになります。</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>概要で「このジョブを見ることができるのは?」を押します。プリントサーバーがジョブのどの内容を他のユーザーに見せるか、またその隠し方が表示されます。</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>ジョブの送信中に「キャンセル」を押します。ダイアログがジョブの経過を表示している間は、「ジョブをキャンセル」を押します。「もう一度印刷」を押すと、失敗したジョブがもう一度送信されます。ダイアログが閉じた後は、システムの印刷ジョブの一覧を使います。</translation>
     </message>
 </context>
 <context>
@@ -710,10 +730,6 @@
         <translation>ログイン名がありません。%1 で指定してください</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>通常の印刷コマンドと同じ</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p は -q、-w は -m と同じ。他は効果なし</translation>
     </message>
@@ -786,17 +802,9 @@
         <translation>これだけを行う (-d または --ppd を対象)</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>このテキスト、またはバージョンを表示する</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1、%2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>使い方: kesto-lp [オプション]... [ファイル]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -993,8 +1001,8 @@
         <translation>文書 %1 を送信中: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>応答をこれより長く待たない (既定値: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>送信済みのジョブを変更する: -H、-n、-o、-P、-q、-t</translation>
     </message>
 </context>
 <context>
@@ -1008,6 +1016,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1。</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>利用できるプリンターがありません</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>このセクションを開く</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>ダイアログの画像を保存して終了する</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>起動にかかった時間を表示して終了する</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>ファイルまたは標準入力の印刷ダイアログを表示します。</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>終了コード: 0 送信済み、1 未送信、2 使い方の誤り。</translation>
     </message>
 </context>
 <context>

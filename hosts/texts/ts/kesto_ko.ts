@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>초는 %1에서 %2 사이여야 합니다</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 옵션이 두 번 지정되었습니다</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>서버가 이 시간 동안 응답하지 않으면 중단(기본값: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>이 도움말 또는 버전을 출력</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>사용법: %1 [옵션]... [파일]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>일반 인쇄 명령과 같음</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>프린터의 폴더 선택</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>“문서 보관”에서 “사용자 지정 폴더”를 선택하고 폴더 이름을 입력하십시오. “폴더 이름 가져오기”는 프린터의 폴더를 조회하므로 목록에서 하나를 선택할 수 있습니다.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>설정을 사전 설정으로 저장</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>다른 사람에게 보이는 작업 정보 확인</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>요약에서 “이 작업을 누가 볼 수 있습니까?”를 누르십시오. 인쇄 서버가 작업의 어떤 세부 정보를 다른 사용자에게 보여 주는지, 어떻게 숨기는지 알려 줍니다.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>작업 취소</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>작업을 보내는 동안 “취소”를 누르십시오. 이미 보낸 작업은 시스템의 인쇄 작업 목록에서 취소할 수 있습니다.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>“인쇄”를 누르면 대화 상자가 문서의 암호를 묻습니다. 암호가 없는 사본을 인쇄하며, 이 사본은 사용자만 읽을 수 있고 나중에 삭제됩니다.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>“작업 처리”에서 “보류”를 켜십시오. “문서 보관”에서 “사용자 지정 폴더”를 선택하고 폴더 이름을 입력하십시오. “폴더 이름 가져오기”는 프린터의 폴더를 조회하므로 목록에서 하나를 선택할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>요약에서 “이 작업을 누가 볼 수 있습니까?”를 누르십시오. 인쇄 서버가 작업의 어떤 세부 정보를 다른 사용자에게 보여 주는지, 어떻게 숨기는지 알려 줍니다.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>작업을 보내는 동안 “취소”를 누르십시오. 대화상자가 작업의 진행을 보여 주는 동안에는 “작업 취소”를 누르십시오. “다시 인쇄”는 실패한 작업을 한 번 더 보냅니다. 대화상자가 닫힌 뒤에는 시스템의 인쇄 작업 목록을 사용하십시오.</translation>
     </message>
 </context>
 <context>
@@ -710,10 +730,6 @@
         <translation>로그인 이름이 없습니다. %1 옵션으로 지정하십시오</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>일반 인쇄 명령과 같음</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p는 -q, -w는 -m과 같음. 나머지는 효과 없음</translation>
     </message>
@@ -786,17 +802,9 @@
         <translation>이것만 수행(-d 또는 --ppd 대상)</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>이 도움말 또는 버전을 출력</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>사용법: kesto-lp [옵션]... [파일]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -993,8 +1001,8 @@
         <translation>문서 %1 보내는 중: %2MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>응답을 더 오래 기다리지 않음(기본값: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>이미 보낸 작업을 변경: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1008,6 +1016,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>사용할 수 있는 프린터가 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1에 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>이 섹션을 열기</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>대화상자의 그림을 저장하고 종료</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>시작에 걸린 시간을 출력하고 종료</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>파일이나 표준 입력의 인쇄 대화상자를 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>종료 코드: 0 보냄, 1 보내지 않음, 2 잘못된 사용.</translation>
     </message>
 </context>
 <context>

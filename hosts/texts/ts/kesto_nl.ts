@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>het aantal seconden moet tussen %1 en %2 liggen</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 is twee keer opgegeven</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>opgeven als een server zo lang zwijgt (standaard: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>deze tekst of de versie tonen</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Gebruik: %1 [OPTIE]... [BESTAND]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>zoals bij de gebruikelijke afdrukopdracht</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Een map op de printer kiezen</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>Kies onder ‘Documentopslag’ de optie ‘Aangepaste map’ en voer de naam van een map in. ‘Mapnamen ophalen’ vraagt de printer naar de mappen, zodat u er een uit de lijst kunt kiezen.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Uw instellingen als voorinstelling opslaan</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Zien wat anderen van een taak kunnen zien</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>Druk in het overzicht op ‘Wie kan deze taak zien?’. Het antwoord geeft aan welke details van een taak de printserver aan andere gebruikers toont en hoe u ze verbergt.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Een taak annuleren</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Druk op ‘Annuleren’ terwijl de taak wordt verzonden. Een taak die al is verzonden, kunt u annuleren in de lijst met afdruktaken van het systeem.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>Wanneer u op ‘Afdrukken’ drukt, vraagt het dialoogvenster om het wachtwoord van het document. Er wordt een kopie zonder wachtwoord afgedrukt, die alleen u kunt lezen en die daarna wordt verwijderd.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Schakel onder ‘Taakbeheer’ de optie ‘Vasthouden’ in. Kies onder ‘Documentopslag’ de optie ‘Aangepaste map’ en voer de naam van een map in. ‘Mapnamen ophalen’ vraagt de printer naar de mappen, zodat u er een uit de lijst kunt kiezen.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Druk in het overzicht op ‘Wie kan deze taak zien?’. Het antwoord geeft aan welke details van een taak de printserver aan andere gebruikers toont en hoe u ze verbergt.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Druk op ‘Annuleren’ terwijl de taak wordt verzonden. Zolang het venster de taak volgt, drukt u op ‘Taak annuleren’; ‘Opnieuw afdrukken’ verzendt een mislukte taak nog een keer. Nadat het venster is gesloten, gebruikt u de lijst met afdruktaken van het systeem.</translation>
     </message>
 </context>
 <context>
@@ -713,10 +733,6 @@
         <translation>de aanmeldnaam ontbreekt; geef deze op met %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>zoals bij de gebruikelijke afdrukopdracht</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p is -q en -w is -m; de andere hebben geen effect</translation>
     </message>
@@ -789,17 +805,9 @@
         <translation>alleen dit doen, voor -d of --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>deze tekst of de versie tonen</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Gebruik: kesto-lp [OPTIE]... [BESTAND]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -997,8 +1005,8 @@
         <translation>document %1 wordt verzonden: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>niet langer op antwoord wachten (standaard: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>een verzonden taak wijzigen: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1020,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>er is geen printer beschikbaar</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kan niet worden geschreven</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>deze sectie openen</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>een afbeelding van het venster opslaan en stoppen</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>tonen hoe lang het starten duurde en stoppen</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Toont het afdrukvenster voor bestanden of de standaardinvoer.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Eindigt met 0 verzonden, 1 niet verzonden, 2 verkeerd gebruik.</translation>
     </message>
 </context>
 <context>

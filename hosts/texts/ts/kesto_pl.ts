@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>liczba sekund musi mieścić się między %1 a %2</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 podano dwa razy</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>rezygnuje, gdy serwer milczy tak długo (domyślnie 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>wypisuje ten tekst lub wersję</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Użycie: %1 [OPCJA]... [PLIK]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>jak w zwykłym poleceniu drukowania</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Wybierz folder w drukarce</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>W sekcji „Archiwizacja dokumentów” wybierz „Folder własny” i wpisz nazwę folderu. „Pobierz nazwy folderów” pyta drukarkę o jej foldery, aby można było wybrać jeden z listy.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Zapisz ustawienia jako szablon</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Sprawdź, co inni widzą z zadania</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>W podsumowaniu naciśnij „Kto widzi to zadanie?”. Odpowiedź podaje, które szczegóły zadania serwer wydruku pokazuje innym użytkownikom i jak je ukryć.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Anuluj zadanie</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Naciśnij „Anuluj” podczas wysyłania zadania. Wysłane już zadanie można anulować na systemowej liście zadań wydruku.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>Po naciśnięciu „Drukuj” okno pyta o hasło dokumentu. Drukuje kopię bez hasła, którą tylko Ty możesz odczytać i która jest potem usuwana.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>W sekcji „Obsługa zadań” włącz „Wstrzymanie”. W sekcji „Archiwizacja dokumentów” wybierz „Folder własny” i wpisz nazwę folderu. „Pobierz nazwy folderów” pyta drukarkę o jej foldery, aby można było wybrać jeden z listy.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>W podsumowaniu naciśnij „Kto widzi to zadanie?”. Odpowiedź podaje, które szczegóły zadania serwer wydruku pokazuje innym użytkownikom i jak je ukryć.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Naciśnij „Anuluj” podczas wysyłania zadania. Gdy okno śledzi zadanie, naciśnij „Anuluj zadanie”; „Drukuj ponownie” wysyła jeszcze raz zadanie, które się nie powiodło. Po zamknięciu okna użyj systemowej listy zadań wydruku.</translation>
     </message>
 </context>
 <context>
@@ -716,10 +736,6 @@
         <translation>brakuje nazwy logowania; podaj ją za pomocą %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>jak w zwykłym poleceniu drukowania</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p to -q, a -w to -m; pozostałe nie mają znaczenia</translation>
     </message>
@@ -792,17 +808,9 @@
         <translation>robi tylko to, dla -d lub --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>wypisuje ten tekst lub wersję</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Użycie: kesto-lp [OPCJA]... [PLIK]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -1001,8 +1009,8 @@
         <translation>wysyłanie dokumentu %1: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>nie czeka dłużej na odpowiedź (domyślnie 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>zmienia wysłane zadanie: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1016,6 +1024,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>brak dostępnej drukarki</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>nie można zapisać %1</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>otwiera tę sekcję</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>zapisuje obraz okna i kończy</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>wypisuje, jak długo trwało uruchamianie, i kończy</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Pokazuje okno drukowania dla plików lub standardowego wejścia.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Kończy się kodem 0 wysłano, 1 nie wysłano, 2 złe użycie.</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>os segundos devem estar entre %1 e %2</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 foi informado duas vezes</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>desistir de um servidor calado por este tempo (padrão: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>mostrar este texto, ou a versão</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Uso: %1 [OPÇÃO]... [ARQUIVO]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>como no comando de impressão usual</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Escolher uma pasta na impressora</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>Em “Arquivamento de documentos”, escolha “Pasta personalizada” e digite o nome de uma pasta. “Obter nomes das pastas” pergunta à impressora quais são as suas pastas, para que você possa escolher uma na lista.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Salvar as configurações como predefinição</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Ver o que os outros podem ver de um trabalho</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>No resumo, pressione “Quem pode ver este trabalho?”. A resposta informa quais detalhes de um trabalho o servidor de impressão mostra a outros usuários e como ocultá-los.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Cancelar um trabalho</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Pressione “Cancelar” enquanto o trabalho está sendo enviado. Um trabalho já enviado pode ser cancelado na lista de trabalhos de impressão do sistema.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>Quando você pressiona “Imprimir”, o diálogo pede a senha do documento. Ele imprime uma cópia sem a senha, que só você pode ler e que é excluída depois.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Em “Gerenciamento de trabalhos”, ative “Retenção”. Em “Arquivamento de documentos”, escolha “Pasta personalizada” e digite o nome de uma pasta. “Obter nomes das pastas” pergunta à impressora quais são as suas pastas, para que você possa escolher uma na lista.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>No resumo, pressione “Quem pode ver este trabalho?”. A resposta informa quais detalhes de um trabalho o servidor de impressão mostra a outros usuários e como ocultá-los.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Pressione “Cancelar” enquanto o trabalho está sendo enviado. Enquanto o diálogo acompanha o trabalho, pressione “Cancelar trabalho”; “Imprimir novamente” envia mais uma vez um trabalho que falhou. Depois que o diálogo for fechado, use a lista de trabalhos de impressão do sistema.</translation>
     </message>
 </context>
 <context>
@@ -713,10 +733,6 @@
         <translation>falta o nome de login; informe-o com %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>como no comando de impressão usual</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p é -q, e -w é -m; as outras não têm efeito</translation>
     </message>
@@ -789,17 +805,9 @@
         <translation>fazer somente isto, para -d ou --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>mostrar este texto, ou a versão</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Uso: kesto-lp [OPÇÃO]... [ARQUIVO]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -997,8 +1005,8 @@
         <translation>enviando o documento %1: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>não esperar mais tempo por uma resposta (padrão: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>alterar um trabalho já enviado: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1020,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>nenhuma impressora disponível</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>não foi possível gravar %1</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>abrir esta seção</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>salvar uma imagem do diálogo e sair</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>mostrar quanto demorou o início e sair</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Mostra o diálogo de impressão para arquivos, ou para a entrada padrão.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Termina com 0 enviado, 1 não enviado, 2 uso incorreto.</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>число секунд должно быть от %1 до %2</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 указан дважды</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>прекратить, если сервер столько молчит (по умолчанию 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>вывести этот текст или версию</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Использование: %1 [ПАРАМЕТР]... [ФАЙЛ]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>как у обычной команды печати</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Выбрать папку на принтере</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>В разделе «Хранение документов» выберите «Своя папка» и введите имя папки. «Получить имена папок» запрашивает папки у принтера, чтобы можно было выбрать одну из списка.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Сохранить настройки как набор</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Узнать, что видят другие о задании</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>В сводке нажмите «Кто видит это задание?». В ответе указано, какие сведения о задании сервер печати показывает другим пользователям и как их скрыть.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Отменить задание</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Нажмите «Отмена» во время отправки задания. Уже отправленное задание можно отменить в системном списке заданий печати.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>После нажатия «Печать» диалог запрашивает пароль документа. Печатается копия без пароля, которую можете прочитать только вы и которая затем удаляется.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>В разделе «Обработка заданий» включите «Удержание». В разделе «Хранение документов» выберите «Своя папка» и введите имя папки. «Получить имена папок» запрашивает папки у принтера, чтобы можно было выбрать одну из списка.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>В сводке нажмите «Кто видит это задание?». В ответе указано, какие сведения о задании сервер печати показывает другим пользователям и как их скрыть.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Нажмите «Отмена» во время отправки задания. Пока окно следит за заданием, нажмите «Отменить задание»; «Напечатать снова» ещё раз отправляет задание, которое не удалось напечатать. После закрытия окна используйте системный список заданий печати.</translation>
     </message>
 </context>
 <context>
@@ -716,10 +736,6 @@
         <translation>не указано имя для входа; задайте его с помощью %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>как у обычной команды печати</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p равно -q, а -w равно -m; остальные не действуют</translation>
     </message>
@@ -792,17 +808,9 @@
         <translation>сделать только это, для -d или --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>вывести этот текст или версию</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Использование: kesto-lp [ПАРАМЕТР]... [ФАЙЛ]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -1001,8 +1009,8 @@
         <translation>отправка документа %1: %2 МиБ</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>не ждать ответа дольше (по умолчанию 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>изменить отправленное задание: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1016,6 +1024,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>нет доступных принтеров</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>не удаётся записать %1</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>открыть этот раздел</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>сохранить изображение окна и завершить работу</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>вывести время запуска и завершить работу</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Показывает окно печати для файлов или стандартного ввода.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Код завершения: 0 отправлено, 1 не отправлено, 2 неверный вызов.</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>antalet sekunder måste vara mellan %1 och %2</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 har angetts två gånger</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>ge upp om en server är tyst så länge (standard: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>visa den här texten, eller versionen</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Användning: %1 [ALTERNATIV]... [FIL]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>som i det vanliga utskriftskommandot</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Välj en mapp på skrivaren</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>Välj ”Egen mapp” under ”Dokumentarkivering” och ange namnet på en mapp. ”Hämta mappnamn” frågar skrivaren efter dess mappar så att du kan välja en i listan.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Spara dina inställningar som en förinställning</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Se vad andra kan se av ett jobb</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>Tryck på ”Vem kan se det här jobbet?” i sammanfattningen. Svaret visar vilka detaljer om ett jobb som utskriftsservern visar för andra användare och hur du döljer dem.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Avbryt ett jobb</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>Tryck på ”Avbryt” medan jobbet skickas. Ett jobb som redan har skickats kan avbrytas i systemets lista över utskriftsjobb.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>När du trycker på ”Skriv ut” frågar dialogrutan efter dokumentets lösenord. Den skriver ut en kopia utan lösenord, som bara du kan läsa och som tas bort efteråt.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>Slå på ”Kvarhållning” under ”Jobbhantering”. Välj ”Egen mapp” under ”Dokumentarkivering” och ange namnet på en mapp. ”Hämta mappnamn” frågar skrivaren efter dess mappar så att du kan välja en i listan.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Tryck på ”Vem kan se det här jobbet?” i sammanfattningen. Svaret visar vilka detaljer om ett jobb som utskriftsservern visar för andra användare och hur du döljer dem.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>Tryck på ”Avbryt” medan jobbet skickas. Så länge dialogen följer jobbet trycker du på ”Avbryt jobbet”; ”Skriv ut igen” skickar ett misslyckat jobb en gång till. När dialogen har stängts använder du systemets lista över utskriftsjobb.</translation>
     </message>
 </context>
 <context>
@@ -713,10 +733,6 @@
         <translation>inloggningsnamnet saknas; ange det med %1</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>som i det vanliga utskriftskommandot</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p är -q och -w är -m; de andra har ingen verkan</translation>
     </message>
@@ -789,17 +805,9 @@
         <translation>gör bara detta, för -d eller --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>visa den här texten, eller versionen</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Användning: kesto-lp [ALTERNATIV]... [FIL]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -997,8 +1005,8 @@
         <translation>skickar dokument %1: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>vänta inte längre på svar (standard: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>ändra ett skickat jobb: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1020,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>ingen skrivare är tillgänglig</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kan inte skrivas</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>öppna det här avsnittet</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>spara en bild av dialogen och avsluta</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>visa hur lång tid starten tog och avsluta</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Visar utskriftsdialogen för filer, eller för standard in.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Avslutar med 0 skickat, 1 inte skickat, 2 felaktig användning.</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>saniye sayısı %1 ile %2 arasında olmalıdır</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 iki kez verilmiş</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>sunucu bu süre boyunca sessiz kalırsa vazgeçer (öntanımlı: 5)</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>bu metni veya sürümü yazar</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>Kullanım: %1 [SEÇENEK]... [DOSYA]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>alışılmış yazdırma komutundaki gibi</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>Yazıcıda klasör seçme</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>“Belge dosyalama” altında “Özel klasör” seçeneğini seçin ve bir klasör adı girin. “Klasör adlarını al” yazıcıya klasörlerini sorar; böylece listeden birini seçebilirsiniz.</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>Ayarları ön ayar olarak kaydetme</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>Başkalarının bir işte neleri gördüğünü öğrenme</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>Özette “Bu işi kim görebilir?” düğmesine basın. Yanıt, yazdırma sunucusunun bir işin hangi ayrıntılarını diğer kullanıcılara gösterdiğini ve bunların nasıl gizleneceğini belirtir.</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>Bir işi iptal etme</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>İş gönderilirken “İptal” düğmesine basın. Gönderilmiş bir iş, sistemin yazdırma işleri listesinden iptal edilebilir.</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>“Yazdır” düğmesine bastığınızda pencere belgenin parolasını sorar. Parolasız, yalnızca sizin okuyabildiğiniz ve sonra silinen bir kopya yazdırır.</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>“İş yönetimi” altında “Bekletme” seçeneğini açın. “Belge dosyalama” altında “Özel klasör” seçeneğini seçin ve bir klasör adı girin. “Klasör adlarını al” yazıcıya klasörlerini sorar; böylece listeden birini seçebilirsiniz.</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>Özette “Bu işi kim görebilir?” düğmesine basın. Yanıt, yazdırma sunucusunun bir işin hangi ayrıntılarını diğer kullanıcılara gösterdiğini ve bunların nasıl gizleneceğini belirtir.</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>İş gönderilirken “İptal” düğmesine basın. Pencere işi izlerken “İşi iptal et” düğmesine basın; “Yeniden yazdır” başarısız olan bir işi bir kez daha gönderir. Pencere kapandıktan sonra sistemin yazdırma işleri listesini kullanın.</translation>
     </message>
 </context>
 <context>
@@ -710,10 +730,6 @@
         <translation>oturum açma adı eksik; %1 ile belirtin</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>alışılmış yazdırma komutundaki gibi</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p ile -q, -w ile -m aynıdır; diğerleri etkisizdir</translation>
     </message>
@@ -786,17 +802,9 @@
         <translation>yalnızca bunu yapar, -d veya --ppd için</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>bu metni veya sürümü yazar</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>Kullanım: kesto-lp [SEÇENEK]... [DOSYA]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -993,8 +1001,8 @@
         <translation>%1. belge gönderiliyor: %2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>yanıt için daha uzun beklemez (öntanımlı: 5)</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>gönderilmiş bir işi değiştirir: -H, -n, -o, -P, -q, -t</translation>
     </message>
 </context>
 <context>
@@ -1008,6 +1016,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>kullanılabilir yazıcı yok</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 yazılamıyor</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>bu bölümü açar</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>pencerenin resmini kaydeder ve çıkar</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>başlatmanın ne kadar sürdüğünü yazar ve çıkar</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>Dosyalar veya standart girdi için yazdırma penceresini gösterir.</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>Çıkış kodu: 0 gönderildi, 1 gönderilmedi, 2 yanlış kullanım.</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>秒数必须在 %1 到 %2 之间</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 指定了两次</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>服务器无响应达到此时间时放弃（默认 5）</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>显示此文本或版本</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>用法：%1 [选项]... [文件]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>与通常的打印命令相同</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,16 +206,8 @@
         <translation>查看他人能看到作业的哪些内容</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>在摘要中按“谁能看到此作业？”。结果会说明打印服务器向其他用户显示作业的哪些详细信息，以及如何隐藏它们。</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>取消作业</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>在发送作业时按“取消”。已发送的作业可以在系统的打印作业列表中取消。</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -212,10 +224,6 @@
     <message>
         <source>Some printers ask who is printing. Under User and account, enter your user number, or your login name and password.</source>
         <translation>有些打印机会要求说明由谁打印。请在“用户和账户”下输入您的用户编号，或者登录名和密码。</translation>
-    </message>
-    <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>在“文档归档”下选择“自定义文件夹”，然后输入文件夹的名称。“获取文件夹名称”会向打印机查询其文件夹，以便您从列表中选择。</translation>
     </message>
     <message>
         <source>The preview shows the sheets of paper as they will leave the printer. Turn the pages with the arrows below it or with Page Up and Page Down, and enlarge them with Ctrl and the mouse wheel.</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>按“打印”时，对话框会询问文档的密码，然后打印一份不带密码的副本。该副本只有您可以读取，打印后会被删除。</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>在“作业处理”下开启“保留作业”。在“文档归档”下选择“自定义文件夹”，然后输入文件夹的名称。“获取文件夹名称”会向打印机查询其文件夹，以便您从列表中选择。</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>在摘要中按“谁能看到此作业？”。结果会说明打印服务器向其他用户显示作业的哪些详细信息，以及如何隐藏它们。</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>在发送作业时按“取消”。在对话框跟踪作业时按“取消作业”；“再次打印”会重新发送失败的作业。对话框关闭后，请使用系统的打印作业列表。</translation>
     </message>
 </context>
 <context>
@@ -710,10 +730,6 @@
         <translation>缺少登录名；请用 %1 指定</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>与通常的打印命令相同</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p 即 -q，-w 即 -m；其余不起作用</translation>
     </message>
@@ -786,17 +802,9 @@
         <translation>只执行此操作，针对 -d 或 --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>显示此文本或版本</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1，%2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>用法：kesto-lp [选项]... [文件]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -993,8 +1001,8 @@
         <translation>正在发送文档 %1：%2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>等待答复不超过此时间（默认 5）</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>更改已发送的作业：-H、-n、-o、-P、-q、-t</translation>
     </message>
 </context>
 <context>
@@ -1008,6 +1016,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1。</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>没有可用的打印机</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>无法写入 %1</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>打开此部分</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>保存对话框的图片并退出</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>显示启动所用的时间并退出</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>显示文件或标准输入的打印对话框。</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>退出代码：0 已发送，1 未发送，2 用法错误。</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,26 @@
         <source>the seconds must be between %1 and %2</source>
         <translation>秒數必須介於 %1 到 %2 之間</translation>
     </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 指定了兩次</translation>
+    </message>
+    <message>
+        <source>give up on a server that is silent this long (default: 5)</source>
+        <translation>伺服器無回應達到此時間時放棄（預設 5）</translation>
+    </message>
+    <message>
+        <source>print this text, or the version</source>
+        <translation>顯示此文字或版本</translation>
+    </message>
+    <message>
+        <source>Usage: %1 [OPTION]... [FILE]...</source>
+        <translation>用法：%1 [選項]... [檔案]...</translation>
+    </message>
+    <message>
+        <source>as of the usual print command</source>
+        <translation>與一般的列印指令相同</translation>
+    </message>
 </context>
 <context>
     <name>DimmingReasons</name>
@@ -186,10 +206,6 @@
         <translation>選擇印表機上的資料夾</translation>
     </message>
     <message>
-        <source>Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
-        <translation>在「文件歸檔」下選擇「自訂資料夾」，然後輸入資料夾的名稱。「取得資料夾名稱」會向印表機查詢其資料夾，讓您從清單中選擇。</translation>
-    </message>
-    <message>
         <source>Save your settings as a preset</source>
         <translation>將設定儲存為預設組</translation>
     </message>
@@ -202,16 +218,8 @@
         <translation>查看他人能看到工作的哪些內容</translation>
     </message>
     <message>
-        <source>On the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
-        <translation>在摘要中按「誰能看到此工作？」。結果會說明列印伺服器向其他使用者顯示工作的哪些詳細資料，以及如何隱藏它們。</translation>
-    </message>
-    <message>
         <source>Cancel a job</source>
         <translation>取消工作</translation>
-    </message>
-    <message>
-        <source>Press Cancel while the job is being sent. A job that was sent already can be canceled in the system&apos;s list of print jobs.</source>
-        <translation>在傳送工作時按「取消」。已傳送的工作可以在系統的列印工作清單中取消。</translation>
     </message>
     <message>
         <source>Use the keyboard</source>
@@ -276,6 +284,18 @@
     <message>
         <source>When you press Print, the dialog asks for the password of the document. It prints a copy without the password, which only you can read and which is deleted afterwards.</source>
         <translation>當您按「列印」時，對話框會詢問文件的密碼。它會列印一份不含密碼的副本，該副本只有您能讀取，之後會刪除。</translation>
+    </message>
+    <message>
+        <source>Under Job Handling, turn on Retention. Under Document filing, choose Custom folder and enter the name of a folder. Get folder names asks the printer for its folders, so that you can choose one from the list.</source>
+        <translation>在「工作處理」下開啟「保留工作」。在「文件歸檔」下選擇「自訂資料夾」，然後輸入資料夾的名稱。「取得資料夾名稱」會向印表機查詢其資料夾，讓您從清單中選擇。</translation>
+    </message>
+    <message>
+        <source>In the Summary, press Who can see this job? The answer says which details of a job the print server shows to other users, and how to hide them.</source>
+        <translation>在摘要中按「誰能看到此工作？」。結果會說明列印伺服器向其他使用者顯示工作的哪些詳細資料，以及如何隱藏它們。</translation>
+    </message>
+    <message>
+        <source>Press Cancel while the job is being sent. While the dialog follows the job, press Cancel job; Print again sends a job once more that has failed. After the dialog has closed, use the system&apos;s list of print jobs.</source>
+        <translation>在傳送工作時按「取消」。在對話方塊追蹤工作時按「取消工作」；「再次列印」會重新傳送失敗的工作。對話方塊關閉後，請使用系統的列印工作清單。</translation>
     </message>
 </context>
 <context>
@@ -710,10 +730,6 @@
         <translation>缺少登入名稱；請以 %1 指定</translation>
     </message>
     <message>
-        <source>as of the usual print command</source>
-        <translation>與一般的列印指令相同</translation>
-    </message>
-    <message>
         <source>-p is -q, and -w is -m; the others have no effect</source>
         <translation>-p 即 -q，-w 即 -m；其餘沒有作用</translation>
     </message>
@@ -786,17 +802,9 @@
         <translation>只執行此動作，針對 -d 或 --ppd</translation>
     </message>
     <message>
-        <source>print this text, or the version</source>
-        <translation>顯示此文字或版本</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <comment>an entry and its limit</comment>
         <translation>%1，%2</translation>
-    </message>
-    <message>
-        <source>Usage: kesto-lp [OPTION]... [FILE]...</source>
-        <translation>用法：kesto-lp [選項]... [檔案]...</translation>
     </message>
     <message>
         <source>Prints files, or standard input, with a printer&apos;s Job Handling.</source>
@@ -993,8 +1001,8 @@
         <translation>正在傳送文件 %1：%2 MiB</translation>
     </message>
     <message>
-        <source>wait no longer for an answer (default: 5)</source>
-        <translation>等待回應不超過此時間（預設 5）</translation>
+        <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
+        <translation>變更已傳送的工作：-H、-n、-o、-P、-q、-t</translation>
     </message>
 </context>
 <context>
@@ -1008,6 +1016,37 @@
         <source>%1.</source>
         <comment>a sentence</comment>
         <translation>%1。</translation>
+    </message>
+</context>
+<context>
+    <name>PrintTexts</name>
+    <message>
+        <source>no printer is available</source>
+        <translation>沒有可用的印表機</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>無法寫入 %1</translation>
+    </message>
+    <message>
+        <source>open this section</source>
+        <translation>開啟此部分</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog, and exit</source>
+        <translation>儲存對話方塊的圖片並結束</translation>
+    </message>
+    <message>
+        <source>print how long the start took, and exit</source>
+        <translation>顯示啟動所用的時間並結束</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for files, or for standard input.</source>
+        <translation>顯示檔案或標準輸入的列印對話方塊。</translation>
+    </message>
+    <message>
+        <source>Ends with 0 sent, 1 not sent, 2 wrong usage.</source>
+        <translation>結束代碼：0 已傳送，1 未傳送，2 用法錯誤。</translation>
     </message>
 </context>
 <context>

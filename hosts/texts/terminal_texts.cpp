@@ -1,4 +1,4 @@
-#include "hosts/lp/translations.h"
+#include "hosts/texts/terminal_texts.h"
 
 #include <langinfo.h>
 #include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale() is POSIX's
@@ -37,7 +37,7 @@ bool hasOtherEncoding() {
 
 }  // namespace
 
-void installTranslations() {
+void installTerminalTexts() {
   // What is printed is UTF-8. English, which every encoding can show, is chosen for the panel's words as
   // well.
   if (hasOtherEncoding()) qputenv("LANGUAGE", "en");
