@@ -155,8 +155,9 @@ void expectContrast(const QPalette& palette) {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
   };
   const auto contrast = [&](QPalette::ColorGroup group, QPalette::ColorRole one, QPalette::ColorRole other) {
-    const auto [darker, lighter] = std::minmax(light(group, one), light(group, other));
-    return (lighter + 0.05) / (darker + 0.05);
+    const double first = light(group, one);
+    const double second = light(group, other);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
   };
   EXPECT_GT(contrast(QPalette::Active, QPalette::PlaceholderText, QPalette::Base), 4.4);
   EXPECT_GT(contrast(QPalette::Disabled, QPalette::WindowText, QPalette::Window), 2.9);

@@ -1,5 +1,6 @@
 #include "hosts/dialog/widgets/accent_color.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kesto {
@@ -16,8 +17,9 @@ double luminance(const QColor& color) {
 }
 
 double contrast(const QColor& one, const QColor& other) {
-  const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
-  return (lighter + 0.05) / (darker + 0.05);
+  const double first = luminance(one);
+  const double second = luminance(other);
+  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 QColor mixed(const QColor& one, const QColor& other, double part) {
