@@ -13,12 +13,16 @@ constexpr qsizetype longestPpd = qsizetype{8} << 20;
 constexpr int deepestCollection = 16;
 /// Values of a reply in all. A list of ten thousand queues has fifty thousand.
 constexpr int mostValues = 400'000;
+/// Printers on the network that are listed.
+constexpr int mostNetworkPrinters = 500;
+/// Values of an option of a printer without a PPD.
+constexpr int mostChoices = 1000;
 /// How long a reply may take in all, as a multiple of the limit for a wait.
 constexpr int waitsOfReply = 10;
 /// How long connecting may take in all, including the handshake of an encrypted connection, as such a
 /// multiple.
 constexpr int waitsOfConnect = 2;
 /// How often a request is sent again with other credentials or encrypted.
-constexpr int mostAttempts = 10;
+constexpr int mostAttempts = 16;
 
 }  // namespace kesto

@@ -6,6 +6,8 @@
 #include <array>
 #include <cmath>
 
+#include "hosts/cups/bounds.h"
+
 namespace kesto {
 namespace {
 
@@ -97,9 +99,10 @@ void IppChoices::addOption(ipp_t* printer, const char* key, const char* name) {
   const QByteArray prefix(name);
   ipp_attribute_t* supported = ippFindAttribute(printer, (prefix + "-supported").constData(), IPP_TAG_ZERO);
   Option option{.key = QLatin1String(key), .attribute = QLatin1String(name), .choices = {}, .initial = {}};
-  for (int i = 0; i < ippGetCount(supported); ++i) {
+  for (int i = 0; i < qMin(ippGetCount(supported), mostChoices); ++i) {
     const QString value = valueOf(supported, i);
-    if (!value.isEmpty() && !isLimit(value)) option.choices.push_back({value, textOf(supported, name, i)});
+    if (!value.isEmpty() && !isLimit(value) && !customSizeOf(value))
+      option.choices.push_back({value, textOf(supported, name, i)});
   }
   if (option.choices.empty()) return;
   ipp_attribute_t* initial = ippFindAttribute(printer, (prefix + "-default").constData(), IPP_TAG_ZERO);

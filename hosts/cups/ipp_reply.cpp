@@ -92,6 +92,7 @@ Outcome checkReply(const QByteArray& bytes) {
     if (tag <= lastDelimiter) {
       if (depth != 0) return unreadable();
       if (tag == IPP_TAG_END) return Outcome::done();
+      if (++values > mostValues) return tooLarge();  // libcups keeps each of them
       continue;
     }
     if (cursor.skipText() < 0) return unreadable();  // its name
@@ -121,6 +122,7 @@ QStringList textsOf(ipp_attribute_t* attribute) {
 
 QByteArray bytesOfRequest(ipp_t* request) {
   QByteArray bytes;
+  bytes.reserve(static_cast<qsizetype>(ippLength(request)));  // growing would leave copies of what is secret
   ippSetState(request, IPP_STATE_IDLE);
   const bool isWritten = ippWriteIO(&bytes, writeToMemory, 1, nullptr, request) == IPP_STATE_DATA;
   return isWritten ? bytes : QByteArray();

@@ -5,6 +5,7 @@
 #include <future>
 #include <thread>
 
+#include "hosts/cups/bounds.h"
 #include "hosts/cups/faults.h"
 
 namespace kesto {
@@ -66,7 +67,7 @@ std::vector<QueueSummary> networkPrinters(milliseconds time) {
   const auto found = std::make_shared<Found>();
   (void)searchNetwork(time, std::make_shared<int>(0), [found](const QueueSummary& printer) {
     const std::lock_guard lock(found->mutex);
-    found->printers.push_back(printer);
+    if (found->printers.size() < mostNetworkPrinters) found->printers.push_back(printer);
     return true;
   });
   const std::lock_guard lock(found->mutex);
@@ -75,7 +76,8 @@ std::vector<QueueSummary> networkPrinters(milliseconds time) {
   return printers;
 }
 
-Outcome openOrMakeQueue(PrintServer& server, const QString& name, milliseconds time, Queue* queue) {
+Outcome openOrMakeQueue(PrintServer& server, const QString& name, milliseconds time, Queue* queue,
+                        std::optional<QueueSummary>* announced) {
   Outcome opened = openQueue(server, name, queue);
   if (opened || name.isEmpty() || isPrinterUri(name)) return opened;
   std::optional<QueueSummary> known;
@@ -84,6 +86,7 @@ Outcome openOrMakeQueue(PrintServer& server, const QString& name, milliseconds t
   const std::vector<QueueSummary> printers = networkPrinters(std::min(time, longestLook));
   const auto found = std::ranges::find(printers, name, &QueueSummary::name);
   if (found == printers.end()) return opened;
+  *announced = *found;
   if (Outcome made = makeQueue(server, *found); !made) return made;
   return openQueue(server, name, queue);
 }

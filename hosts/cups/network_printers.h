@@ -23,8 +23,8 @@ std::vector<QueueSummary> networkPrinters(std::chrono::milliseconds time);
 Outcome makeQueue(PrintServer& server, const QueueSummary& printer);
 
 /// Opens a queue as `openQueue` does. When the server has none of this name, looks for a printer of the name
-/// on the network, no longer than `time`, and has the server make its queue.
+/// on the network, no longer than `time`, and has the server make its queue; `*announced` is that printer.
 Outcome openOrMakeQueue(PrintServer& server, const QString& name, std::chrono::milliseconds time,
-                        Queue* queue);
+                        Queue* queue, std::optional<QueueSummary>* announced);
 
 }  // namespace kesto

@@ -4,6 +4,8 @@
 #include <atomic>
 #include <thread>
 
+#include "hosts/cups/bounds.h"
+
 namespace kesto {
 namespace {
 
@@ -50,6 +52,7 @@ class NetworkWatch::Rounds : public std::enable_shared_from_this<NetworkWatch::R
   void take(const QueueSummary& printer) {
     const std::lock_guard lock(m_mutex);
     const bool isNew = !m_seen.contains(printer.name);
+    if (isNew && m_seen.size() >= mostNetworkPrinters) return;
     m_seen.insert(printer.name, {printer, -1});
     if (isNew) report();
   }

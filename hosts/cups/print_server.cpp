@@ -6,6 +6,7 @@
 
 #include "hosts/cups/bounds.h"
 #include "hosts/cups/faults.h"
+#include "platform/secret.h"
 
 namespace kesto {
 namespace {
@@ -91,6 +92,7 @@ std::vector<QueueSummary> queuesOf(ipp_t* reply) {
     isInside = isPrinter;
     if (isPrinter) addAttribute(each, &queues.back());
   }
+  std::erase_if(queues, [](const QueueSummary& each) { return !isQueueName(each.name); });
   return queues;
 }
 
@@ -111,6 +113,11 @@ void FreeDest::operator()(cups_dest_t* dest) const {
 
 QString optionOf(const cups_dest_t& destination, const char* name) {
   return QString::fromUtf8(cupsGetOption(name, destination.num_options, destination.options));
+}
+
+bool isQueueName(QStringView name) {
+  const auto isForbidden = [](QChar c) { return c < u' ' || c == u'\x7F' || c == u'/' || c == u'#'; };
+  return !name.isEmpty() && std::ranges::none_of(name, isForbidden);
 }
 
 bool isPrinterUri(const QString& queue) {
@@ -181,7 +188,8 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
     return Outcome::failed(Faults::tr("cannot open the printer \"%1\": %2").arg(queue, asked.reason()));
   }
   // The server may spell the name differently.
-  if (const QByteArray itsName = nameOf(reply.get()); !itsName.isEmpty() && !isPrinterUri(queue))
+  if (const QByteArray itsName = nameOf(reply.get());
+      isQueueName(QString::fromUtf8(itsName)) && !isPrinterUri(queue))
     wanted.queue = itsName;
   cups_dest_t* made = nullptr;
   cupsAddDest(wanted.queue.constData(), wanted.instance.isEmpty() ? nullptr : wanted.instance.constData(), 0,
@@ -195,9 +203,11 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
 Outcome PrintServer::exchange(ipp_t* request, HttpRequest message, Ipp* reply) {
   message.body = bytesOfRequest(request);
   message.longestReply = longestReply;
+  if (!m_resource.isNull()) message.resource = m_resource;
   QByteArray bytes;
-  if (Outcome exchanged = m_http->exchange(message, &bytes); !exchanged) return exchanged;
-  return readReply(bytes, reply);
+  const Outcome exchanged = m_http->exchange(message, &bytes);
+  if (message.isSecret) wipe(message.body);
+  return exchanged ? readReply(bytes, reply) : exchanged;
 }
 
 Outcome PrintServer::request(ipp_t* request, Ipp* reply) {

@@ -82,6 +82,8 @@ class PrintServer {
   Outcome fetch(const QByteArray& resource, qsizetype longest, QByteArray* bytes);
   /// Null when the user is not to be asked.
   PasswordKeeper* passwords() const { return m_http->passwords(); }
+  /// All requests go to this resource, as with a printer that is its own server.
+  void useResource(const QByteArray& resource) { m_resource = resource; }
 
  private:
   explicit PrintServer(std::unique_ptr<HttpConnection> http) : m_http(std::move(http)) {}
@@ -89,11 +91,14 @@ class PrintServer {
   Outcome findDefault(QueueName* name);
 
   std::unique_ptr<HttpConnection> m_http;
+  QByteArray m_resource;  // null for those that a print server has for each kind of request
 };
 
 /// The value of a queue's option or attribute; null when it has none.
 QString optionOf(const cups_dest_t& destination, const char* name);
 
+/// Whether a print server may have a queue of that name: it has no control characters, "/" and "#".
+bool isQueueName(QStringView name);
 /// Whether a queue's name is the URI of a printer that is its own server, as in "ipp://host/ipp/print".
 bool isPrinterUri(const QString& queue);
 /// The URI that names a queue in requests, and the resource that takes its jobs.

@@ -1,6 +1,7 @@
 #include "hosts/cups/queue_events.h"
 
 #include <chrono>
+#include <limits>
 
 namespace kesto {
 namespace {
@@ -54,8 +55,9 @@ Outcome QueueEvents::take(std::vector<ServerEvent>* events) {
     isInside = isEvent;
     if (!isEvent) continue;
     addAttribute(each, &events->back());
-    if (QByteArrayView(ippGetName(each)) == "notify-sequence-number")
-      m_sequence = qMax(m_sequence, ippGetInteger(each, 0) + 1);
+    const int number = ippGetInteger(each, 0);
+    const bool isNumber = QByteArrayView(ippGetName(each)) == "notify-sequence-number";
+    if (isNumber && number >= m_sequence && number < std::numeric_limits<int>::max()) m_sequence = number + 1;
   }
   return Outcome::done();
 }

@@ -13,6 +13,7 @@ namespace {
 constexpr char jobsResource[] = "/jobs";
 
 Ipp requestAbout(const SentJob& job, ipp_op_t operation) {
+  if (isPrinterUri(job.queue)) return requestTo(operation, uriOfQueue(job.queue), job.number);
   Ipp request(ippNewRequest(operation));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr,
                "ipp://localhost/jobs/" + QByteArray::number(job.number));

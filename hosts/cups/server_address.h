@@ -17,6 +17,7 @@ struct ServerAddress {
   QString address;  ///< "host", "host:port" or the path of a socket; null for the one of the environment.
   QString user;     ///< Null for the account's name.
   bool encrypt = false;
+  QByteArray resource{};  ///< Of a printer that is its own server, else null.
   /// Has the user's passwords; null when the user is not to be asked.
   std::shared_ptr<PasswordKeeper> passwords{};
   std::chrono::milliseconds limit = std::chrono::seconds(5);  ///< For each wait without progress.
@@ -28,6 +29,7 @@ struct ServerAddress {
     const QUrl uri(queue);
     server.address = QStringLiteral("%1:%2").arg(uri.host()).arg(uri.port(standardIppPort));
     server.encrypt = encrypt || uri.scheme() == u"ipps";
+    server.resource = resourceOfQueue(queue);
     return server;
   }
 
@@ -36,7 +38,9 @@ struct ServerAddress {
                   const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>()) const {
     if (encrypt) cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
     if (!user.isNull()) cupsSetUser(user.toUtf8().constData());
-    return PrintServer::connect(address, limit, server, watchdog, passwords);
+    Outcome connected = PrintServer::connect(address, limit, server, watchdog, passwords);
+    if (connected) (*server)->useResource(resource);
+    return connected;
   }
 };
 

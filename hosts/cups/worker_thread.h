@@ -37,7 +37,7 @@ class WorkerThread {
   }
 
  private:
-  // A dialog has three such threads and must end within a second.
+  // A dialog has four such threads and must end within a second.
   static constexpr unsigned long patience = 150;  // in milliseconds
 
   struct Parts {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/session/printer_reasons.h"
 #include "platform/shown_text.h"
 
@@ -20,7 +21,7 @@ QString rowText(const QueueSummary& queue) {
 
 QString tipText(const QueueSummary& queue) {
   const QString state = shownText(QueueListModel::stateText(queue));
-  return queue.model.isEmpty() ? state : state + u'\n' + shownText(queue.model);
+  return tipOf(queue.model.isEmpty() ? state : state + u'\n' + shownText(queue.model));
 }
 
 }  // namespace
@@ -112,7 +113,7 @@ const QueueSummary* QueueListModel::queue(const QString& name) const {
 
 void QueueListModel::setQueue(const QueueSummary& queue) {
   if (hasQueue(queue.name)) {
-    const int row = rowOf(queue.name);
+    const int row = static_cast<int>(placeOf(queue.name) - m_queues.begin());
     m_queues[static_cast<std::size_t>(row)] = queue;
     Q_EMIT dataChanged(index(row), index(row));
     return;
@@ -127,7 +128,7 @@ void QueueListModel::setQueue(const QueueSummary& queue) {
 
 void QueueListModel::removeQueue(const QString& name) {
   if (!hasQueue(name)) return;
-  const int row = rowOf(name);
+  const int row = static_cast<int>(placeOf(name) - m_queues.begin());
   beginRemoveRows({}, row, row);
   m_queues.erase(m_queues.begin() + row);
   endRemoveRows();

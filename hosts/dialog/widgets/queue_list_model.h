@@ -17,7 +17,7 @@ class QueueListModel : public QAbstractListModel {
  public:
   enum Role { NameRole = Qt::UserRole };
 
-  /// The `NameRole` of "Save as PDF"; no queue can have this name.
+  /// The `NameRole` of "Save as PDF"; a queue's name has no control characters.
   static constexpr QLatin1String pdfName{"\n"};
 
   using QAbstractListModel::QAbstractListModel;
