@@ -25,9 +25,9 @@ PasswordQuestion questionOf(const QString& queue, const QStringList& wanted) {
 }
 
 Outcome ask(PrintServer& server, const PasswordQuestion& question, const std::optional<Credentials>& refused,
-            int* tries, QStringList* authInfo) {
+            QStringList* authInfo) {
   Credentials credentials;
-  Outcome found = server.passwords()->find(question, refused, tries, &credentials);
+  Outcome found = server.passwords()->find(question, refused, &credentials);
   if (!found) return found;
   for (const QString& name : question.wanted)
     authInfo->append(valueOf(credentials, name));
@@ -39,11 +39,10 @@ Outcome ask(PrintServer& server, const PasswordQuestion& question, const std::op
 Outcome findAuthInfo(PrintServer& server, const QString& queue, ipp_t* printer, QStringList* authInfo) {
   const QStringList wanted = wantedBy(printer);
   if (wanted.isEmpty() || server.passwords() == nullptr) return Outcome::done();
-  int tries = 0;
-  return ask(server, questionOf(queue, wanted), {}, &tries, authInfo);
+  return ask(server, questionOf(queue, wanted), {}, authInfo);
 }
 
-Outcome authenticateJob(PrintServer& server, const SentJob& job, int* tries) {
+Outcome authenticateJob(PrintServer& server, const SentJob& job, bool* isDeclined) {
   const QByteArray uri = uriOfQueue(job.queue);
   const Ipp question = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uri);
   ippAddString(question.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
@@ -51,12 +50,15 @@ Outcome authenticateJob(PrintServer& server, const SentJob& job, int* tries) {
   Ipp printer;
   if (Outcome asked = server.order(question.get(), "/", &printer); !asked) return asked;
   const QStringList wanted = wantedBy(printer.get());
-  if (server.passwords() == nullptr || wanted.isEmpty())
-    return Outcome::failed(QStringLiteral("nobody can be asked for the password"));
+  *isDeclined = server.passwords() == nullptr || wanted.isEmpty();
+  if (*isDeclined) return Outcome::failed(QStringLiteral("nobody can be asked for the password"));
   const PasswordQuestion toUser = questionOf(job.queue, wanted);
+  std::optional<Credentials> refused = server.passwords()->kept(toUser);
   QStringList authInfo;
-  if (Outcome asked = ask(server, toUser, server.passwords()->kept(toUser), tries, &authInfo); !asked)
-    return asked;
+  const Outcome answered = ask(server, toUser, refused, &authInfo);
+  if (refused) wipe(*refused);
+  *isDeclined = !answered;
+  if (!answered) return answered;
   const Ipp request = requestTo(IPP_OP_CUPS_AUTHENTICATE_JOB, uri, job.number);
   addAuthInfo(request.get(), authInfo);
   Ipp reply;

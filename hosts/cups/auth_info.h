@@ -12,9 +12,9 @@ namespace kesto {
 Outcome findAuthInfo(PrintServer& server, const QString& queue, ipp_t* printer, QStringList* authInfo);
 
 /// Gives the scheduler what it needs to go on with a job that it holds because the printer refused the
-/// values, or had none: the user is asked again, which counts in `*tries`. Fails when the user gives no
-/// answer.
-Outcome authenticateJob(PrintServer& server, const SentJob& job, int* tries);
+/// values, or had none: the user is asked again. Fails when the user gives no answer, which `*isDeclined`
+/// says, and when the server fails.
+Outcome authenticateJob(PrintServer& server, const SentJob& job, bool* isDeclined);
 
 /// Adds the values to a request, which must go out over a private connection.
 void addAuthInfo(ipp_t* request, const QStringList& authInfo);

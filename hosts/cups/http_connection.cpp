@@ -74,6 +74,10 @@ Outcome HttpConnection::findAddresses(const QByteArray& host, int port) {
                      : Outcome::failed(Faults::tr("there is no print server named %1").arg(m_name));
 }
 
+HttpConnection::~HttpConnection() {
+  if (m_given) wipe(*m_given);
+}
+
 Outcome HttpConnection::open(std::chrono::milliseconds limit, std::shared_ptr<Watchdog> watchdog,
                              std::shared_ptr<PasswordKeeper> passwords,
                              std::unique_ptr<HttpConnection>* connection) {
@@ -121,7 +125,6 @@ Outcome HttpConnection::reconnect() {
 }
 
 Outcome HttpConnection::exchange(const HttpRequest& request, QByteArray* reply) {
-  m_tries = 0;
   m_refusal = QString();
   for (int tries = 1;; ++tries) {
     // If something can be read before a request, it is the end of the connection.
@@ -258,10 +261,13 @@ bool HttpConnection::encrypt() {
   return m_isUsable;
 }
 
+// Nobody on the network can read along.
+bool HttpConnection::isPrivate() const {
+  return httpIsEncrypted(m_http.get()) != 0 || httpAddrLocalhost(httpGetAddress(m_http.get())) != 0;
+}
+
 Outcome HttpConnection::makePrivate() {
-  if (httpIsEncrypted(m_http.get()) != 0 || httpAddrLocalhost(httpGetAddress(m_http.get())) != 0)
-    return Outcome::done();
-  if (encrypt()) return Outcome::done();
+  if (isPrivate() || encrypt()) return Outcome::done();
   return Outcome::failed(Faults::tr("cannot connect to the print server %1 with encryption").arg(m_name));
 }
 
@@ -269,6 +275,13 @@ Outcome HttpConnection::makePrivate() {
 // refused password a second time before it asks for another, so it is given a new connection.
 bool HttpConnection::authenticate(const HttpRequest& request) {
   if (m_hasGiven) return bool(prepare());
+  // This method sends the password itself.
+  const QByteArray methods(httpGetField(m_http.get(), HTTP_FIELD_WWW_AUTHENTICATE));
+  if (methods.toLower().contains("basic") && !isPrivate()) {
+    const Outcome made = makePrivate();
+    if (!made) m_refusal = made.reason();
+    return bool(made);
+  }
   cupsSetPasswordCB2(askPassword, this);
   const char* method = request.body.isEmpty() ? "GET" : "POST";
   const bool isReady = cupsDoAuthentication(m_http.get(), method, request.resource.constData()) == 0;
@@ -288,12 +301,13 @@ const char* HttpConnection::findPassword() {
   PasswordQuestion question{.subject = m_name};
   question.proposed.user = QString::fromUtf8(cupsUser());
   Credentials found;
-  if (Outcome asked = m_passwords->find(question, m_given, &m_tries, &found); !asked) {
+  if (Outcome asked = m_passwords->find(question, m_given, &found); !asked) {
     m_refusal = asked.reason();
     return nullptr;
   }
   cupsSetUser(found.user.toUtf8().constData());
   m_password = found.password.toUtf8();
+  if (m_given) wipe(*m_given);
   m_given = std::move(found);
   m_hasGiven = true;
   return m_password.constData();

@@ -46,6 +46,10 @@ class HttpConnection {
   static Outcome open(std::chrono::milliseconds limit, std::shared_ptr<Watchdog> watchdog,
                       std::shared_ptr<PasswordKeeper> passwords, std::unique_ptr<HttpConnection>* connection);
 
+  ~HttpConnection();
+  HttpConnection(const HttpConnection&) = delete;
+  HttpConnection& operator=(const HttpConnection&) = delete;
+
   /// Sends a request and reads the reply; fails unless the server reports success.
   Outcome exchange(const HttpRequest& request, QByteArray* reply);
   /// The status of the last answer; HTTP_STATUS_ERROR without one.
@@ -63,6 +67,7 @@ class HttpConnection {
   Outcome findAddresses(const QByteArray& host, int port);
   Outcome prepare();
   Outcome reconnect();
+  bool isPrivate() const;
   Outcome makePrivate();
   Outcome attempt(const HttpRequest& request, QByteArray* reply);
   Outcome send(const HttpRequest& request, Watch& watch);
@@ -88,7 +93,6 @@ class HttpConnection {
   std::optional<Credentials> m_given;  // to the server; right until it refuses them
   QByteArray m_password;               // as libcups reads it
   bool m_hasGiven = false;             // on this connection
-  int m_tries = 0;                     // for the current request
   QString m_refusal;                   // why there is no password for it
   Addresses m_addresses;
   std::unique_ptr<http_t, CloseHttp> m_http;

@@ -62,7 +62,7 @@ class JobFollower::Work {
   }
   Outcome askServer(std::optional<JobReport>* news, bool* isKnown) {
     if (Outcome connected = connect(); !connected) return connected;
-    authenticate();
+    if (Outcome authenticated = authenticate(); !authenticated) return authenticated;
     std::vector<ServerEvent> events;
     if (m_events) {
       if (Outcome taken = m_events->take(&events); !taken) return taken;
@@ -80,12 +80,14 @@ class JobFollower::Work {
     return Outcome::done();
   }
   // Asks the user for what the printer wants to know; the next report shows what came of it.
-  void authenticate() {
+  Outcome authenticate() {
     const QString isHeld = QStringLiteral("cups-held-for-authentication");
-    if (m_isDeclined || !m_known || !m_known->reasons.contains(isHeld)) return;
-    m_isDeclined = !authenticateJob(*m_server, m_job, &m_tries);
-    m_known.reset();
+    if (m_isDeclined || !m_known || !m_known->reasons.contains(isHeld)) return Outcome::done();
+    Outcome authenticated = authenticateJob(*m_server, m_job, &m_isDeclined);
     m_patience.setRemainingTime(m_address.limit);
+    if (!authenticated && !m_isDeclined) return authenticated;
+    m_known.reset();
+    return Outcome::done();
   }
   // An event says who has canceled a job, and is all that is left of a finished one without a history.
   void complete(std::optional<JobReport>* report) const {
@@ -106,7 +108,6 @@ class JobFollower::Work {
   ServerEvent m_last;                   // about the job
   std::optional<JobReport> m_known;
   int m_questions = 0;  // on this connection
-  int m_tries = 0;      // of a password for the printer
   bool m_isDeclined = false;
 };
 

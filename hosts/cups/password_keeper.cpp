@@ -42,7 +42,7 @@ PasswordKeeper::~PasswordKeeper() {
     wipe(each);
 }
 
-Outcome PasswordKeeper::find(PasswordQuestion question, const std::optional<Credentials>& refused, int* tries,
+Outcome PasswordKeeper::find(PasswordQuestion question, const std::optional<Credentials>& refused,
                              Credentials* found) {
   const std::lock_guard lock(m_mutex);
   const QString key = keyOf(question);
@@ -51,15 +51,16 @@ Outcome PasswordKeeper::find(PasswordQuestion question, const std::optional<Cred
     *found = *kept;
     return Outcome::done();
   }
-  if (kept != m_kept.end()) wipe(*kept);
-  m_kept.remove(key);
+  m_kept.remove(key);  // whoever was refused with them has them still, and wipes them
   question.wasWrong = refused.has_value();
   if (refused) {
     question.proposed.domain = refused->domain;
     question.proposed.user = refused->user;
   }
   if (m_declined.contains(key) && m_declined.value(key) == m_round) return failureOf(question, {});
-  const bool isOver = (*tries)++ == mostTries;
+  auto& [round, tries] = m_tries[key];
+  if (std::exchange(round, m_round) != m_round) tries = 0;
+  const bool isOver = tries++ == mostTries;
   if (Outcome asked = isOver ? Outcome::failed({}) : m_ask(question, found); !asked) {
     m_declined.insert(key, m_round);
     return failureOf(question, asked.reason());

@@ -49,11 +49,9 @@ class PasswordKeeper {
   PasswordKeeper& operator=(const PasswordKeeper&) = delete;
 
   /// The credentials for the question: those that are kept, unless they are `refused`, else what the user
-  /// answers. Each question to the user is counted in `*tries`. Fails when there are no more tries, and when
-  /// the user gives no answer; the reason says which, without the answer. From then on the user is not asked
-  /// this again.
-  Outcome find(PasswordQuestion question, const std::optional<Credentials>& refused, int* tries,
-               Credentials* found);
+  /// answers. Fails when the user has tried often enough, and when there is no answer; the reason says which,
+  /// without the answer. From then on the user is not asked this again.
+  Outcome find(PasswordQuestion question, const std::optional<Credentials>& refused, Credentials* found);
   /// What is kept for the question; none when nothing is.
   std::optional<Credentials> kept(const PasswordQuestion& question);
   /// Lets the user be asked again after a question that was not answered. Does not wait.
@@ -64,7 +62,8 @@ class PasswordKeeper {
   std::mutex m_mutex;
   QMap<QString, Credentials> m_kept;
   std::atomic<int> m_round = 0;
-  QMap<QString, int> m_declined;  // the rounds in which questions were not answered
+  QMap<QString, int> m_declined;               // the rounds in which questions were not answered
+  QMap<QString, std::pair<int, int>> m_tries;  // the rounds of the last questions, and how many in them
 };
 
 /// Overwrites the password.

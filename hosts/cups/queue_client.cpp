@@ -34,10 +34,18 @@ void QueueClient::checkPrivacy(const QString& name) {
   });
 }
 
-void QueueClient::send(const QString& name, const PrintJob& job) {
+void QueueClient::cancel(const SentJob& job) {
+  m_thread.post([watchdog = m_watchdog, server = m_server, job] {
+    std::unique_ptr<PrintServer> connection;
+    if (server.forQueue(job.queue).connect(&connection, watchdog)) (void)cancelJob(*connection, job);
+  });
+}
+
+void QueueClient::send(const QString& name, const PrintJob& job,
+                       const std::optional<QueueSummary>& announced) {
   *m_isStopped = false;
   m_thread.post([this, mailbox = m_mailbox, watchdog = m_watchdog, isStopped = m_isStopped, server = m_server,
-                 name, job] {
+                 name, job, announced] {
     int id = 0;
     const auto progress = [&](int /*document*/, qint64 sent, qint64 total) {
       mailbox->answer([this, sent, total] { Q_EMIT progressed(sent, total); });
@@ -45,6 +53,7 @@ void QueueClient::send(const QString& name, const PrintJob& job) {
     };
     std::unique_ptr<PrintServer> connection;
     Outcome sent = server.forQueue(name).connect(&connection, watchdog);
+    if (sent && announced) sent = makeQueue(*connection, *announced);
     if (sent) sent = sendJob(*connection, name, job, progress, &id);
     mailbox->answer([this, id, sent] {
       if (sent) {

@@ -8,6 +8,7 @@
 #include "hosts/cups/job_privacy.h"
 #include "hosts/cups/print_job.h"
 #include "hosts/cups/queue.h"
+#include "hosts/cups/sent_job.h"
 #include "hosts/cups/server_address.h"
 #include "hosts/cups/worker_thread.h"
 
@@ -24,8 +25,12 @@ class QueueClient : public QObject {
   /// Opens a queue, the user's default one when `name` is null. The result of an earlier call is no longer
   /// reported. For a printer on the network the server first makes the queue.
   void open(const QString& name, const std::optional<QueueSummary>& announced = {});
-  /// Sends a job to the queue `name`.
-  void send(const QString& name, const PrintJob& job);
+  /// The result of an earlier `open` is no longer reported.
+  void forget() { ++m_request; }
+  /// Sends a job to the queue `name`. For a printer on the network the server first makes the queue.
+  void send(const QString& name, const PrintJob& job, const std::optional<QueueSummary>& announced = {});
+  /// Cancels a job, if that is possible.
+  void cancel(const SentJob& job);
   /// Finds out what other users see of a job on the queue `name`.
   void checkPrivacy(const QString& name);
   /// Stops the job that is being sent; it then fails.

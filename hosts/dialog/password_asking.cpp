@@ -17,6 +17,7 @@ struct PasswordAsking::Desk {
     isAnswered = false;
     mailbox.answer([asking, question] { asking->show(question); });
     changed.wait(lock, [this] { return isAnswered || isClosed; });
+    if (isClosed && answer) wipe(*answer);
     if (isClosed || !answer) return Outcome::failed({});
     *found = *std::exchange(answer, std::nullopt);
     return Outcome::done();

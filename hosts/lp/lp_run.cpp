@@ -62,7 +62,21 @@ Outcome findQueue(const Options& options, JobQueue* found) {
   }
   const QString name = options.queue.value_or(QString());
   if (Outcome connected = options.server.forQueue(name).connect(&found->server); !connected) return connected;
-  return openOrMakeQueue(*found->server, name, options.server.limit, &queue);
+  std::optional<QueueSummary> announced;
+  Outcome opened = openOrMakeQueue(*found->server, name, options.server.limit, &queue, &announced);
+  // Anyone on the network can announce a printer of that name.
+  if (!opened || !announced) return opened;
+  if (options.serverPassword) {
+    return Outcome::failed(
+        LpTexts::tr(
+            "the password in the file is not sent to \"%1\", which is a printer on the network and not "
+            "set up on the print server")
+            .arg(name));
+  }
+  options.messages().warning(
+      LpTexts::tr("\"%1\" is not set up on the print server; using the printer on the network: %2")
+          .arg(name, announced->deviceUri));
+  return opened;
 }
 
 Outcome readSecrets(const Options& options, Entries* entries) {
@@ -181,7 +195,7 @@ ExitCode endOfJob(const Options& options, const Outcome& outcome, const SentJob&
   return end == ExitDone ? waited : end;
 }
 
-ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
+ExitCode runJob(Options& options, JobQueue queue) {
   StandardErrorAlerts alerts(options.messages());
   PanelSession session(alerts);
   session.options().set(JobOptions::Source::Given, options.jobOptions);
@@ -195,9 +209,9 @@ ExitCode runJob(const Options& options, Entries entries, JobQueue queue) {
     return ended(options, listed);
   }
   Job job(options, session, queue.server.get());
-  const Outcome entered = job.enter(entries);
+  const Outcome entered = job.enter(options.entries);
   // The panel has them now, in their stored forms; an upload can take long.
-  for (std::optional<QString>& text : entries.texts) {
+  for (std::optional<QString>& text : options.entries.texts) {
     if (text) wipe(*text);
   }
   if (!entered) return ended(options, entered, ExitRefused);
@@ -239,7 +253,8 @@ ExitCode runQueueList(const Options& options) {
 
 ExitCode runCheck(const Options& options) {
   std::unique_ptr<PrintServer> server;
-  if (Outcome connected = options.server.connect(&server); !connected) return ended(options, connected);
+  if (Outcome connected = options.server.forQueue(*options.queue).connect(&server); !connected)
+    return ended(options, connected);
   JobPrivacy privacy;
   if (Outcome found = findJobPrivacy(*server, *options.queue, &privacy); !found) return ended(options, found);
   printPrivacy(*options.queue, privacy, options.json);
@@ -260,7 +275,7 @@ ExitCode runChange(const Options& options) {
 
 }  // namespace
 
-ExitCode run(const Options& options) {
+ExitCode run(Options& options) {
   for (const QString& warning : options.warnings)
     options.messages().warning(warning);
   if (options.task == Task::Change) return runChange(options);
@@ -275,9 +290,8 @@ ExitCode run(const Options& options) {
   job.openFor(queue.queue);
   const bool isRaw = options.task != Task::ListFolders && goesRaw(job);
   if (isRaw || !ppd || !offersJobHandling(*ppd)) return runPlainJob(options, job, queue);
-  Entries entries = options.entries;
-  if (Outcome read = readSecrets(options, &entries); !read) return ended(options, read);
-  return runJob(options, std::move(entries), std::move(queue));
+  if (Outcome read = readSecrets(options, &options.entries); !read) return ended(options, read);
+  return runJob(options, std::move(queue));
 }
 
 }  // namespace kesto

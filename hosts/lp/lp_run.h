@@ -6,6 +6,6 @@
 namespace kesto {
 
 /// Does what the options ask for, reports on standard output and error, and returns the exit status.
-ExitCode run(const Options& options);
+ExitCode run(Options& options);
 
 }  // namespace kesto

@@ -2,6 +2,7 @@
 
 #include "hosts/command/secret_input.h"
 #include "hosts/lp/lp_texts.h"
+#include "platform/secret.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -27,17 +28,33 @@ void splitDomain(const PasswordQuestion& question, Credentials* answer) {
   answer->user.remove(0, end + 1);
 }
 
+// Of the password file. In standard input the document may follow it.
+struct FirstLine {
+  FirstLine() = default;
+  ~FirstLine() { wipe(text); }
+  FirstLine(const FirstLine&) = delete;
+  FirstLine& operator=(const FirstLine&) = delete;
+
+  Outcome read(const QString& file) { return text.isNull() ? readSecretLine(file, &text) : Outcome::done(); }
+
+  QString text;
+};
+
 }  // namespace
 
 std::shared_ptr<PasswordKeeper> makePasswordKeeper(const std::optional<QString>& file) {
-  return std::make_shared<PasswordKeeper>([file](const PasswordQuestion& question, Credentials* answer) {
-    *answer = question.proposed;
-    splitDomain(question, answer);
-    if (!file) return askAtTerminal(promptOf(question, *answer), &answer->password);
-    if (question.wasWrong) return Outcome::failed({});
-    Outcome read = readSecretLine(*file, &answer->password);
-    return read ? read : Outcome::failed(QStringLiteral("--server-password-file: ") + read.reason());
-  });
+  const auto line = std::make_shared<FirstLine>();
+  return std::make_shared<PasswordKeeper>(
+      [file, line](const PasswordQuestion& question, Credentials* answer) {
+        *answer = question.proposed;
+        splitDomain(question, answer);
+        if (!file) return askAtTerminal(promptOf(question, *answer), &answer->password);
+        if (question.wasWrong) return Outcome::failed({});
+        if (Outcome read = line->read(*file); !read)
+          return Outcome::failed(QStringLiteral("--server-password-file: ") + read.reason());
+        answer->password = line->text;
+        return Outcome::done();
+      });
 }
 
 }  // namespace kesto

@@ -47,9 +47,6 @@ PrintJob jobOf(const Options& options, const QString& queue, const JobOptions& g
   PrintJob job{.title = titleOf(options),
                .files = {},
                .options = isPrinterUri(queue) ? given.travelling() : given.asGiven()};
-  // It may not know the two cover sheets of a print server either.
-  const QString covers = QStringLiteral("job-sheets");
-  if (isPrinterUri(queue) && given.isDefault(covers)) job.options.remove(covers);
   job.isRaw = goesRaw(given);
   for (const QByteArray& file : options.files)
     job.files.push_back({.path = file});
