@@ -26,6 +26,8 @@ void JobSending::setPhase(Phase phase) {
 }
 
 void JobSending::begin() {
+  // A job that somebody could release must not be printed as well.
+  if (m_watch && fate().state == JobFate::State::Stopped) m_client.cancel(m_watch->job());
   m_faultsShown = m_document.faults().size();
   if (m_document.state() == Document::State::Ready) {
     examine();
@@ -56,9 +58,10 @@ void JobSending::examine() {
   Q_EMIT ready();
 }
 
-void JobSending::send(const QString& queue, const PrintJob& job) {
+void JobSending::send(const QString& queue, const PrintJob& job,
+                      const std::optional<QueueSummary>& announced) {
   setPhase(Phase::Sending);
-  m_client.send(queue, job);
+  m_client.send(queue, job, announced);
 }
 
 void JobSending::save(const PageSequence& pages, const QString& target) {
@@ -69,6 +72,7 @@ void JobSending::save(const PageSequence& pages, const QString& target) {
 void JobSending::follow(const ServerAddress& server, const QString& queue, const PrinterHold& hold) {
   m_watch = std::make_unique<JobWatch>(server, SentJob{.queue = queue, .number = m_job}, hold);
   connect(m_watch.get(), &JobWatch::changed, this, [this] {
+    if (m_phase != Phase::Sent) return;
     if (fate().isEnd && !fate().isSuccess()) setPhase(Phase::Choosing);
     Q_EMIT fateChanged();
   });

@@ -32,14 +32,14 @@ class JobSending : public QObject {
   /// What has become of the job that is followed.
   const JobFate& fate() const { return m_watch->fate(); }
 
-  /// Print is pressed: the document is read to its end. `ready` or `failed` follows, at once where that is
-  /// possible.
+  /// Print is pressed: an earlier job that is stopped is canceled, and the document is read to its end.
+  /// `ready` or `failed` follows, at once where that is possible.
   void begin();
   /// The document has changed, or has been looked at.
   void takeDocument();
   void takeExamination();
-  /// Sends the job, as the answer to `ready`.
-  void send(const QString& queue, const PrintJob& job);
+  /// Sends the job, as the answer to `ready`. For a printer on the network the server first makes the queue.
+  void send(const QString& queue, const PrintJob& job, const std::optional<QueueSummary>& announced);
   /// Saves pages in its place, under a path; `sent` follows without a number, or `failed`.
   void save(const PageSequence& pages, const QString& target);
   /// Follows the job that was sent to the queue, held at the printer as its settings say.
@@ -57,7 +57,7 @@ class JobSending : public QObject {
   void ready();
   void sent(int job);
   void failed(const QString& reason);
-  /// Something has become of the job that is followed; it is at its end, or the phase is still `Sent`.
+  /// Something has become of the job that is followed; nothing more is said of it after its end.
   void fateChanged();
   void cancelFailed(const QString& reason);
 

@@ -45,15 +45,17 @@ QMap<QString, QString> jobOptionsOf(const PortalChoice& asked, const QJsonObject
     options.insert(QStringLiteral("collate"), QLatin1String(asked.isCollated ? "true" : "false"));
   if (asked.pages == PortalPages::Ranges) options.insert(pagesKey, asked.pageRanges);
   if (isOfApplication(asked.pages)) options.insert(pagesKey, valueOf(asked.pages));
-  if (asked.numberUp > 1) {
+  if (asked.numberUp > 1 || settings.contains(u"dialog-number-up")) {
     options.insert(QStringLiteral("number-up"), QString::number(asked.numberUp));
     options.insert(QStringLiteral("number-up-layout"), asked.numberUpLayout);
   }
-  if (asked.isReversed) options.insert(QStringLiteral("outputorder"), QStringLiteral("reverse"));
+  if (settings.contains(u"reverse"))
+    options.insert(QStringLiteral("outputorder"), QLatin1String(asked.isReversed ? "reverse" : "normal"));
   if (asked.scale != 100) options.insert(QStringLiteral("scaling"), QString::number(asked.scale));
-  if (asked.pageSet != PortalPageSet::All) {
-    const bool isEven = asked.pageSet == PortalPageSet::Even;
-    options.insert(QStringLiteral("page-set"), QLatin1String(isEven ? "even" : "odd"));
+  if (settings.contains(u"page-set")) {
+    options.insert(QStringLiteral("page-set"), QLatin1String(asked.pageSet == PortalPageSet::All    ? "all"
+                                                             : asked.pageSet == PortalPageSet::Even ? "even"
+                                                                                                    : "odd"));
   }
   return options;
 }
@@ -105,7 +107,8 @@ void PortalPrint::open(const QJsonObject& message) {
   m_options.acceptLabel = labelOf(message.value(u"acceptLabel").toString());
   m_options.offersPdf = message.value(u"canWritePdf").toBool();
   m_options.jobOptions.insert(jobOptionsOf(m_choice, m_settings));
-  if (m_options.queue.isNull() && !m_choice.printer.isEmpty()) m_options.queue = m_choice.printer;
+  // A program in a sandbox must not make the dialog connect to an address of its choice.
+  if (m_options.queue.isNull() && isQueueName(m_choice.printer)) m_options.queue = m_choice.printer;
   m_dialog = std::make_unique<PrintDialog>(m_options, m_document);
   connect(m_dialog.get(), &PrintDialog::settled, this, &PortalPrint::preset);
   connect(m_dialog.get(), &PrintDialog::chosen, this, &PortalPrint::takeChoice);
@@ -139,8 +142,8 @@ void PortalPrint::preset() {
   }
   for (const DuplexChoice& each : duplexChoices) {
     const QString choice = options.choiceFor(duplex, each.sides);
-    if (each.side == m_choice.duplex && each.side != PortalDuplex::Simplex && !choice.isNull())
-      options.choose(duplex, choice);
+    const bool isAsked = each.side != PortalDuplex::Simplex || m_settings.contains(u"duplex");
+    if (each.side == m_choice.duplex && isAsked && !choice.isNull()) options.choose(duplex, choice);
   }
   chooseOptions(m_settings, options);
 }

@@ -2,10 +2,12 @@
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <algorithm>
 #include <utility>
 
+#include "hosts/cups/faults.h"
 #include "hosts/dialog/panel/panel_pane.h"
 #include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/panes/summary_pane.h"
@@ -81,6 +83,9 @@ void PrintDialog::showOpening() {
     text = m_preview->saveFault();
     if (!text.isNull()) kind = Kind::Attention;
     if (text.isNull()) text = tr("Saves the selected pages in a file.");
+  } else if (m_opening.state() == QueueOpening::State::Gone) {
+    text = asSentence(Faults::tr("there is no printer named \"%1\"").arg(shownText(m_opening.wanted())));
+    kind = Kind::Fault;
   } else if (m_opening.state() == QueueOpening::State::Open) {
     text = QueueListModel::stateText(m_opening.summary());
     kind = QueueListModel::stateKind(m_opening.summary());
@@ -98,6 +103,7 @@ void PrintDialog::chooseQueue(const QString& name) {
 
 void PrintDialog::leaveQueue() {
   setWindowTitle(tr("Print"));
+  showMessage({});  // it was about this queue
   m_idle.stop();
   m_panelPane = nullptr;
   m_summary = nullptr;
@@ -118,7 +124,8 @@ QString PrintDialog::jobName() const {
 
 void PrintDialog::openQueue(Queue& queue) {
   const Outcome opened = m_session.open(std::move(queue), {.jobName = jobName()});
-  showOffer();
+  // In a pass of its own, before the one that makes the queue ready.
+  QMetaObject::invokeMethod(this, &PrintDialog::showOffer, Qt::QueuedConnection);
   m_chooser->takeCurrent(m_opening.wanted());
   if (const QStringList& refused = jobOptions().refused(); !refused.isEmpty())
     showMessage(
@@ -248,7 +255,9 @@ void PrintDialog::send() {
   PrintJob job{
       .title = jobName(), .files = m_document.files(), .options = ofDocument(jobOptions().travelling())};
   job.options.insert(m_session.settings());
-  m_sending.send(m_session.queue()->id, job);
+  // The server may have removed the queue of a printer on the network since.
+  const QueueSummary& known = m_opening.summary();
+  m_sending.send(m_session.queue()->id, job, known.isOnNetwork ? std::optional(known) : std::nullopt);
 }
 
 // Null for none.
@@ -283,8 +292,8 @@ void PrintDialog::showMessage(const QString& message, MessageBar::Kind kind) {
 
 void PrintDialog::updateControls() {
   const bool isChoosing = m_sending.phase() == JobSending::Phase::Choosing;
-  // With the chooser, its label and the document.
-  for (QWidget* part : {m_chooser->parentWidget(), static_cast<QWidget*>(m_sections)})
+  m_chooser->setChoosable(isChoosing);
+  for (QWidget* part : std::initializer_list<QWidget*>{m_printerLabel, m_documentLine, m_sections})
     part->setEnabled(isChoosing);
   m_presets->setEnabled(isChoosing && m_session.shelf() != nullptr);
   m_presets->showActive();
@@ -292,7 +301,8 @@ void PrintDialog::updateControls() {
   const State state = m_document.state();
   const bool isMissing =
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
-  const bool isTaker = m_opening.summary().isAccepting && !m_chooser->isPending();
+  const bool isTaker = m_opening.state() == QueueOpening::State::Open && m_opening.summary().isAccepting &&
+                       !m_chooser->isPending();
   const QString saveFault = m_opening.isPdf() ? m_preview->saveFault() : QString();
   const QString print = m_options.acceptLabel.isEmpty() ? tr("Print") : m_options.acceptLabel;
   setPlainText(m_foot->printButton(), m_opening.isPdf() ? tr("Save…") : print);

@@ -19,6 +19,8 @@
 #include "hosts/session/option_conflict.h"
 #include "hosts/session/panel_session.h"
 
+class QLabel;
+
 namespace kesto {
 
 class DialogFoot;
@@ -120,7 +122,6 @@ class PrintDialog : public QDialog {
   void showFate();
   void offer(const QString& button, const QString& text, MessageBar::Kind kind, std::function<void()> act);
   void offerCancel(const QString& text, MessageBar::Kind kind);
-  void printAgain();
   void announce(const QString& text);
   void comeForward();
   void takeDismissal();
@@ -151,6 +152,7 @@ class PrintDialog : public QDialog {
   Preview* m_preview;
   QueueChooser* m_chooser;
   PresetMenu* m_presets = nullptr;
+  QLabel* m_printerLabel = nullptr;
   DocumentLine* m_documentLine = nullptr;
   FoldingSplitter* m_body = nullptr;
   SectionColumn* m_sections = nullptr;

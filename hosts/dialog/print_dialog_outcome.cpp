@@ -41,7 +41,7 @@ void PrintDialog::showFate() {
       fate.state == JobFate::State::Stopped || (fate.isEnd && fate.state != JobFate::State::Canceled);
   const auto kind = isCause ? MessageBar::Kind::Fault : MessageBar::Kind::Note;
   if (fate.isEnd) {
-    offer(tr("Print again"), text, kind, [this] { printAgain(); });
+    offer(tr("Print again"), text, kind, [this] { print(); });
   } else {
     offerCancel(text, kind);
   }
@@ -59,12 +59,6 @@ void PrintDialog::offerCancel(const QString& text, MessageBar::Kind kind) {
     showMessage(tr("Canceling the job…"));
     m_sending.cancelJob();
   });
-}
-
-// A job that somebody could release must not be printed as well.
-void PrintDialog::printAgain() {
-  if (m_sending.fate().state == JobFate::State::Stopped) m_sending.cancelJob();
-  print();
 }
 
 // Whoever does not see the dialog may believe that the job is printed.
@@ -99,8 +93,8 @@ void PrintDialog::showPhase() {
 
 void PrintDialog::reject() {
   if (m_sending.phase() == JobSending::Phase::Sending) {
-    m_sending.stop();
-    return showMessage(tr("Canceling the job…"));
+    showMessage(tr("Canceling the job…"));
+    return m_sending.stop();  // which may say at once what came of it
   }
   if (m_sending.phase() == JobSending::Phase::Sent) return accept();
   m_opening.leave();

@@ -71,7 +71,8 @@ QWidget* PrintDialog::makeHead() {
   m_documentLine = new DocumentLine(head);
   auto* form = new QFormLayout(head);
   form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-  form->addRow(labelFor(m_chooser->field(), tr("Printer:")), m_chooser);
+  m_printerLabel = labelFor(m_chooser->field(), tr("Printer:"));
+  form->addRow(m_printerLabel, m_chooser);
   form->addRow(new QLabel(tr("Document:")), m_documentLine);
   return head;
 }

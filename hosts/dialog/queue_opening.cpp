@@ -25,11 +25,13 @@ void QueueOpening::suggest(const QString& name) {
 
 void QueueOpening::want(const QString& name) {
   m_wanted = name;
+  m_suggested = QString();
   leave();
   isPdf() ? take({.id = name, .isFile = true}) : ask();
 }
 
 void QueueOpening::leave() {
+  m_client.forget();
   reset();
   Q_EMIT left();
 }
@@ -61,6 +63,7 @@ void QueueOpening::ask() {
 void QueueOpening::take(Queue queue) {
   reset();
   m_wanted = queue.id;
+  m_suggested = QString();
   m_isAccepting = !queue.destination || optionOf(*queue.destination, "printer-is-accepting-jobs") != u"false";
   m_state = State::Open;
   Q_EMIT opened(queue);
@@ -94,7 +97,6 @@ void QueueOpening::takeListFault(const QString& reason) {
 void QueueOpening::takeOpenFault(const QString& reason) {
   if (isOpen()) return;  // A queue that was handed over meanwhile stays.
   if (!m_suggested.isNull() && m_suggested == m_wanted) {
-    m_suggested = QString();
     return want({});
   }
   m_openFault = asSentence(reason);

@@ -155,8 +155,10 @@ QString valueFor(const OptionRow& row, const QString& value) {
     return value.isEmpty() || value.contains(u',') ? value : value + QStringLiteral(",none");
   if (const Value* found = find(QLatin1String(row.key), value.toLower()); found != nullptr && !value.isNull())
     return QLatin1String(found->standard);
-  if (row.kind == OptionKind::Scaling && value.toInt() != 0)
-    return isBetween(value, leastPercent, mostPercent) ? QString::number(value.toInt()) : QString();
+  bool isPercent = false;
+  const QString percent = QString::number(qRound(value.toDouble(&isPercent)));
+  if (row.kind == OptionKind::Scaling && isPercent)
+    return isBetween(percent, leastPercent, mostPercent) ? percent : QString();
   return row.kind == OptionKind::Switch ? QString() : value;
 }
 

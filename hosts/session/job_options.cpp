@@ -41,6 +41,7 @@ void JobOptions::openFor(const Queue& queue) {
   m_isInUsersLanguage = m_choices->isIn(userLanguage());
   m_values.clear();  // their names were those of no queue
   m_isForFile = queue.isFile;
+  m_isOwnServer = isPrinterUri(queue.id);
   given(Source::Kept) = keptOptions(queue);
   if (queue.destination)
     m_covers = optionOf(*queue.destination, "job-sheets-supported").split(u',', Qt::SkipEmptyParts);
@@ -55,6 +56,7 @@ void JobOptions::close() {
   });
   m_choices = std::make_unique<PpdChoices>(nullptr);
   m_isForFile = false;
+  m_isOwnServer = false;
   m_ofPanel.clear();
   m_covers.clear();
   resolve();
@@ -138,6 +140,7 @@ void JobOptions::markChanges(const Values& before) {
 
 QString JobOptions::defaultOf(const QString& key) const {
   if (m_choices->has(key)) return m_choices->defaultOf(key);
+  if (key == u"outputorder" && paper() && paper()->isReversed) return QStringLiteral("reverse");
   const OptionRow* row = rowOf(key, *m_choices);
   return row == nullptr || row->initial == nullptr ? QString() : QLatin1String(row->initial);
 }
@@ -157,8 +160,12 @@ QString JobOptions::choiceFor(const QString& option, const QString& value) const
 }
 
 QString JobOptions::pages() const {
+  return pagesUpTo(m_pageCount);
+}
+
+QString JobOptions::pagesUpTo(int count) const {
   const QString asked = value(QStringLiteral("page-ranges"));
-  const QString pages = asked.isNull() ? QString() : pageRangesOf(asked, m_pageCount).value_or(QString());
+  const QString pages = asked.isNull() ? QString() : pageRangesOf(asked, count).value_or(QString());
   return pages.isEmpty() ? QString() : pages;
 }
 
@@ -249,6 +256,9 @@ QMap<QString, QString> JobOptions::apart() const {
 
 QMap<QString, QString> JobOptions::travelling() const {
   QMap<QString, QString> options = apart();
+  // A printer that is its own server may not know the two cover sheets of a print server.
+  const QString covers = QStringLiteral("job-sheets");
+  if (m_isOwnServer && isDefault(covers)) options.remove(covers);
   m_choices->join(&options);
   return options;
 }
@@ -265,11 +275,13 @@ QMap<QString, QString> JobOptions::inForce() const {
 }
 
 QMap<QString, QString> JobOptions::asGiven() const {
-  OptionArray options;
-  options.add(given(Source::Kept));
   // A preset names an option by its key, and would stand beside another name of it.
+  QMap<QString, QString> kept = given(Source::Kept);
+  kept.removeIf([this](const auto& each) { return source(each.key()) == Source::Preset; });
   QMap<QString, QString> preset = given(Source::Preset);
   preset.removeIf([this](const auto& each) { return source(each.key()) != Source::Preset; });
+  OptionArray options;
+  options.add(kept);
   options.add(preset);
   options.add(given(Source::Given));
   return options.all();
@@ -281,6 +293,8 @@ QMap<QString, QString> JobOptions::ofPreset() const {
     const bool isKnown = rowOf(each.key(), *m_choices) != nullptr || m_choices->has(each.key());
     return !isKnown || source(each.key()) < Source::Preset;
   });
+  // Another document may have more pages.
+  if (const QString key = QStringLiteral("page-ranges"); options.contains(key)) options[key] = pagesUpTo(0);
   return options;
 }
 

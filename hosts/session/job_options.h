@@ -117,6 +117,8 @@ class JobOptions : public QObject {
   QMap<QString, QString> apart() const;
   /// The value on this queue for a preset's; none when it has no such option or value.
   std::optional<QString> fitting(const QString& name, const QString& value) const;
+  /// The pages of a document of so many, 0 when that is not known; null for all.
+  QString pagesUpTo(int count) const;
   void resolve();
   void markChanges(const Values& before);
 
@@ -132,6 +134,7 @@ class JobOptions : public QObject {
   QStringList m_covers;  // those that the server has
   int m_pageCount = 0;
   bool m_isForFile = false;
+  bool m_isOwnServer = false;  // the printer is
 };
 
 /// The options that are kept for a queue, by its user or on the server.

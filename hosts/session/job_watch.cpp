@@ -94,7 +94,9 @@ JobFate canceled(const JobReport& report) {
                        : report.reasons.contains(QStringLiteral("job-canceled-at-device"))
                            ? JobWatch::tr("Canceled at the printer")
                            : JobWatch::tr("Canceled");
-  return {.state = State::Canceled, .text = text};
+  // A printer that cancels by itself says why.
+  return {
+      .state = State::Canceled, .text = text, .message = who.isEmpty() ? report.driverMessage : QString()};
 }
 
 JobFate givenUp(const JobReport& report, State state) {
@@ -148,6 +150,7 @@ JobFate fateOf(const JobReport& report, const QString& queue, const PrinterHold&
   fate.jobsAhead = report.jobsAhead;
   fate.page = report.page;
   fate.pages = report.pages;
+  fate.text = shownText(fate.text);
   fate.message = shownText(fate.message.trimmed());
   return fate;
 }

@@ -230,6 +230,7 @@ Found findValue(const QString& option, const QString& value) {
   qsizetype digits = name.size();
   while (digits > 0 && name[digits - 1].isDigit())
     --digits;
+  if (digits == name.size()) return {};
   return {valueNamed(option, name.first(digits) + u'#'), name.sliced(digits)};
 }
 

@@ -102,6 +102,7 @@ TEST_F(OptionsOfAJob, EachIsSentOnceUnderItsNameOnTheQueue) {
       {"fixed", "", "scaling=50", {}, "scaling=50"},
       {"fixed", "", "scaling=50 print-scaling=fill fit-to-page", {}, "print-scaling=fill"},
       {"fixed", "scaling=50", "", u"print-scaling=fit"_s, "print-scaling=fit"},
+      {"fixed", "", "scaling=87.5", {}, "scaling=88"},
       {"fixed", "", "scaling=900", {}, "", "scaling=900"},
       {"fixed", "", "landscape outputorder=reverse-order", {}, "orientation-requested=4 outputorder=reverse"},
       {"fixed", "", "job-hold-until=hold job-priority=33", {}, "job-hold-until=indefinite job-priority=33"},

@@ -4,6 +4,7 @@
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusVirtualObject>
+#include <QtNetwork/QTcpServer>
 
 #include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/portal_print.h"
@@ -265,6 +266,16 @@ TEST_F(PortalDialog, ADocumentThatComesLaterIsSavedAsPdf) {
   EXPECT_EQ(m_answers, u"chosen taken "_s);
   EXPECT_TRUE(bytesOf(target).startsWith("%PDF-"));
   EXPECT_EQ(m_printer->jobs(), "[]");
+}
+
+TEST_F(PortalDialog, AProgramCannotMakeItConnectToAnAddress) {
+  startPrinter();
+  QTcpServer trap;
+  ASSERT_TRUE(trap.listen(QHostAddress::LocalHost));
+  open(false, {{u"printer"_s, u"ipp://127.0.0.1:%1/ipp/print"_s.arg(trap.serverPort())}});
+  await([] { return window()->isQueueReady(); }, u"the default queue"_s);
+  EXPECT_EQ(window()->queueName(), u"Office_MFP");
+  EXPECT_FALSE(trap.hasPendingConnections());
 }
 
 TEST_F(PortalDialog, ComesBackWithTheReasonWhenThereIsNothingToPrint) {

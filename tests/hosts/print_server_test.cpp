@@ -265,12 +265,14 @@ TEST_F(PrintTest, APrinterWithoutAPpdPrintsDirectlyAndBehindTheScheduler) {
   const LpRun direct = lp(u"-d %1 -o media=A4,labels -o document-format=application/pdf DOCUMENT"_s.arg(uri));
   EXPECT_EQ(direct.out, u"request id is %1-1 (1 file(s))\n"_s.arg(uri)) << direct.err;
   waitFor([&] { return printed() == 1; });
+  const LpRun followed = lp(u"--wait -d %1 -o document-format=application/pdf DOCUMENT"_s.arg(uri));
+  EXPECT_TRUE(followed.out.endsWith(u"-2: Printed\n"_s)) << followed.out << followed.err;
   const QString backend = m_folder.path(u"run/cups/bin/backend/ipp"_s);
   ASSERT_TRUE(QFile::copy(u"/usr/lib/cups/backend/ipp"_s, backend));
   QFile::setPermissions(backend, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
   ofPrintSystem(u"/usr/sbin/lpadmin -p Sample -E -v "_s + uri);
   expectPrinted(u"-d Sample -o document-format=application/pdf DOCUMENT"_s);
-  waitFor([&] { return printed() == 2; });
+  waitFor([&] { return printed() == 3; });
 }
 
 TEST_F(PrintTest, ListsFoldersAndKeepsOnlyItsOwn) {
@@ -463,6 +465,9 @@ TEST_F(HostilePrintServer, AHandshakeHasATimeLimitToo) {
 
 // Well-formed answers that lack what was asked for.
 TEST_F(LpTest, AnIncompleteAnswerIsAFault) {
+  EXPECT_FALSE(checkReply("\2\0\0\0\0\0\0\1"_ba + QByteArray(500'000, '\4') + '\3')) << "groups without end";
+  for (const auto& name : {u""_s, u"\n"_s, u"a/b"_s, u"a#b"_s, u"a\x7F"_s})
+    EXPECT_FALSE(isQueueName(name)) << name;
   const auto reply = [](const QByteArray& status, const QByteArray& attributes) {
     const QByteArray ipp = "\2\0"_ba + status + "\0\0\0\1"_ba + attributes + '\3';
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(ipp.size()) + "\r\n\r\n" + ipp;

@@ -96,7 +96,7 @@ void OptionControl::name(QWidget& widget, const QString& accessibleName, const Q
 }
 
 void OptionControl::mark(QLineEdit& field, const QString& fault) {
-  field.setToolTip(fault);
+  field.setToolTip(tipOf(fault));
   field.setAccessibleDescription(fault);
   const QList<QAction*> marks = field.actions();
   if (fault.isNull()) return qDeleteAll(marks);

@@ -10,6 +10,8 @@
 namespace kesto {
 namespace {
 
+constexpr qsizetype longestOutput = qsizetype{256} << 20;
+constexpr qsizetype mostErrors = qsizetype{64} << 10;
 constexpr rlim_t largestFile = rlim_t{4} << 30;
 #ifdef __SANITIZE_ADDRESS__
 constexpr rlim_t largestMemory = RLIM_INFINITY;  // the address sanitizer reserves far more
@@ -72,17 +74,32 @@ void PageProgram::start(const Work& work) {
         if (error == QProcess::FailedToStart && process == m_process.get()) finish(End::Missing);
       },
       Qt::QueuedConnection);
+  connect(m_process.get(), &QProcess::readyReadStandardOutput, this, &PageProgram::takeOutput);
+  connect(m_process.get(), &QProcess::readyReadStandardError, this, &PageProgram::takeErrors);
+  m_output.clear();
+  m_errors.clear();
   m_limit.start();
   m_process->start(work.program, work.arguments);
 }
 
 void PageProgram::finish(End outcome) {
   m_limit.stop();
-  m_output = m_process->readAllStandardOutput();
-  m_errors = m_process->readAllStandardError();
+  m_output += m_process->readAllStandardOutput();
+  takeErrors();
   end(*m_process);
   m_process.release()->deleteLater();  // it may be the sender of this signal
   Q_EMIT ended(outcome);
+}
+
+void PageProgram::takeOutput() {
+  m_output += m_process->readAllStandardOutput();
+  if (m_output.size() > longestOutput) finish(End::Failed);
+}
+
+// A program may complain about each object of a document.
+void PageProgram::takeErrors() {
+  const QByteArray more = m_process->readAllStandardError();
+  m_errors += more.first(qMin(more.size(), mostErrors - m_errors.size()));
 }
 
 void PageProgram::stop() {

@@ -13,8 +13,8 @@ class QProcess;
 namespace kesto {
 
 /// One program at a time, in a separate process, because a document may be damaged or hostile. The program
-/// has a time limit, 1 GiB of address space and a limit on what it writes to files, and ends with this
-/// process, however that ends.
+/// has a time limit, 1 GiB of address space and limits on what it writes, and ends with this process, however
+/// that ends. Of its errors the first 64 KiB are kept.
 class PageProgram : public QObject {
   Q_OBJECT
 
@@ -46,6 +46,8 @@ class PageProgram : public QObject {
 
  private:
   void finish(End end);
+  void takeOutput();
+  void takeErrors();
 
   std::unique_ptr<QProcess> m_process;
   QTimer m_limit;

@@ -9,6 +9,7 @@
 
 #include "hosts/dialog/preview/page_navigator.h"
 #include "hosts/dialog/preview/sheet_view.h"
+#include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/session/job_option_values.h"
 #include "platform/shown_text.h"
 
@@ -239,7 +240,7 @@ void Preview::showPlace() {
   m_navigator->show(shown);
   const QString file = hasPlace ? fileText() : QString();
   m_file->setText(fontMetrics().elidedText(file, Qt::ElideMiddle, width()));
-  m_file->setToolTip(file.toHtmlEscaped());
+  m_file->setToolTip(tipOf(file));
   m_file->setAccessibleName(file);
   m_total->setText(totalText());
 }

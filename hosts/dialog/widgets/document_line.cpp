@@ -1,7 +1,9 @@
 #include "hosts/dialog/widgets/document_line.h"
 
+#include <QtGui/QAccessible>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
+#include <utility>
 
 #include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
@@ -28,9 +30,12 @@ void DocumentLine::show(const QString& name, const QStringList& faults) {
   constexpr qsizetype mostLines = 4;
   QStringList lines = faults;
   if (!name.isEmpty()) lines.prepend(name);
-  m_text->setToolTip(lines.join(u'\n').toHtmlEscaped());
+  m_text->setToolTip(tipOf(lines.join(u'\n')));
   if (lines.size() > mostLines) lines = lines.first(mostLines) << QStringLiteral("…");
   m_text->setText(lines.join(u'\n'));
+  if (faults == std::exchange(m_faults, faults) || faults.isEmpty()) return;
+  QAccessibleEvent event(m_text, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
 }
 
 void DocumentLine::offerChoice(bool isOffered) {

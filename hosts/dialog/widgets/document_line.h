@@ -17,7 +17,8 @@ class DocumentLine : public QWidget {
  public:
   explicit DocumentLine(QWidget* parent);
 
-  /// Shows a name and below it faults, one sentence each; the tool tip has those that do not fit.
+  /// Shows a name and below it faults, one sentence each, which are announced; the tool tip has those that do
+  /// not fit.
   void show(const QString& name, const QStringList& faults);
   void offerChoice(bool isOffered);
 
@@ -26,6 +27,7 @@ class DocumentLine : public QWidget {
   void choiceAsked();
 
  private:
+  QStringList m_faults;
   WrappedLabel* m_text;
   QPushButton* m_choose;
 };

@@ -1,6 +1,7 @@
 #include "hosts/dialog/widgets/plain_text.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
@@ -17,6 +18,11 @@ constexpr char plainTextProperty[] = "plainText";
 void setPlainText(QWidget& widget, const QString& given) {
   const QString text = shownText(given);
   if (widget.property(plainTextProperty).toString() == text && !text.isEmpty()) return;
+  // Without a name of its own a button would be read with its key letter, which may stand in brackets.
+  auto* button = qobject_cast<QAbstractButton*>(&widget);
+  const QString before = plainText(widget);
+  if (button != nullptr && (button->accessibleName().isEmpty() || button->accessibleName() == before))
+    button->setAccessibleName(text);
   widget.setProperty(plainTextProperty, text);
   auto* label = qobject_cast<QLabel*>(&widget);
   if (label != nullptr) label->setTextFormat(Qt::PlainText);
@@ -36,6 +42,10 @@ void showMarkedText(QWidget& widget, const QString& text) {
   if (auto* label = qobject_cast<QLabel*>(&widget)) label->setText(text);
   if (auto* button = qobject_cast<QAbstractButton*>(&widget)) button->setText(text);
   if (auto* box = qobject_cast<QGroupBox*>(&widget)) box->setTitle(text);
+}
+
+QString tipOf(const QString& text) {
+  return text.isEmpty() ? QString() : Qt::convertFromPlainText(text);
 }
 
 QString withPlainAmpersands(QString text) {

@@ -17,6 +17,8 @@ QFont boldOf(QFont font);
 QString plainText(const QWidget& widget);
 /// Shows that text with its mnemonic marked by "&".
 void showMarkedText(QWidget& widget, const QString& text);
+/// The text for a tool tip, which would take some texts for HTML; null for none.
+QString tipOf(const QString& text);
 /// The text with each "&" doubled, for labels and menus that take a single one as the mark of a mnemonic.
 QString withPlainAmpersands(QString text);
 

@@ -32,6 +32,7 @@ PresetMenu::PresetMenu(PanelSession& session, QWidget* parent)
 
 void PresetMenu::fill() {
   m_menu->clear();
+  qDeleteAll(m_menu->findChildren<QMenu*>(Qt::FindDirectChildrenOnly));
   QStringList names;
   const Outcome found = m_session.shelf()->names(&names);
   if (!found) m_menu->addAction(withPlainAmpersands(asSentence(found.reason())))->setEnabled(false);
@@ -70,7 +71,7 @@ void PresetMenu::showActive() {
   const QString active = m_session.activePreset().isNull() ? QString() : activeText();
   if (active == accessibleDescription()) return;
   setAccessibleDescription(active);
-  setToolTip(active.toHtmlEscaped());
+  setToolTip(tipOf(active));
   const int widest = fontMetrics().horizontalAdvance(u'0') * 24;  // a name may be long
   const QString shown = fontMetrics().elidedText(active, Qt::ElideMiddle, widest);
   setPlainText(*this, active.isNull() ? tr("Presets") : tr("Presets: %1").arg(shown));
@@ -115,9 +116,20 @@ void PresetMenu::save() {
   connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
   if (dialog.exec() != QDialog::Accepted || m_session.shelf() == nullptr) return;
-  if (Outcome saved = m_session.savePreset(name->text().trimmed(), codes->isChecked()); !saved)
+  const QString wanted = name->text().trimmed();
+  if (!mayReplace(wanted) || m_session.shelf() == nullptr) return;
+  if (Outcome saved = m_session.savePreset(wanted, codes->isChecked()); !saved)
     QMessageBox::warning(window(), tr("Presets"), asSentence(saved.reason()));
   showActive();
+}
+
+bool PresetMenu::mayReplace(const QString& name) {
+  QStringList names;
+  if (!m_session.shelf()->names(&names) || !names.contains(name)) return true;
+  QMessageBox box(QMessageBox::Question, tr("Presets"), tr("Replace the preset \"%1\"?").arg(name),
+                  QMessageBox::Save | QMessageBox::Cancel, window());
+  box.setTextFormat(Qt::PlainText);
+  return box.exec() == QMessageBox::Save;
 }
 
 void PresetMenu::remove(const QString& name) {

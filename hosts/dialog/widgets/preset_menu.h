@@ -37,6 +37,7 @@ class PresetMenu : public QPushButton {
   void loadLastUsed();
   void take(const Outcome& loaded, const QStringList& others);
   void save();
+  bool mayReplace(const QString& name);
   void remove(const QString& name);
 
   PanelSession& m_session;

@@ -99,6 +99,11 @@ void QueueChooser::setNetwork(const std::vector<QueueSummary>& printers) {
   });
 }
 
+void QueueChooser::setChoosable(bool isChoosable) {
+  m_combo->setEnabled(isChoosable);
+  m_retry->setEnabled(isChoosable);
+}
+
 void QueueChooser::offerPdf() {
   update([this] { m_model.offerPdf(); });
 }
@@ -160,7 +165,8 @@ QueueChooser::Match QueueChooser::match(const QString& text, Qt::MatchFlag kind)
   int count = 0;
   for (const int role : {static_cast<int>(QueueListModel::NameRole), static_cast<int>(Qt::DisplayRole)}) {
     const Qt::MatchFlag flags = role == Qt::DisplayRole ? kind : Qt::MatchFixedString;
-    const QModelIndexList found = m_model.match(m_model.index(0), role, text, 2, flags);
+    QModelIndexList found = m_model.match(m_model.index(0), role, text, 3, flags);
+    found.removeIf([](const QModelIndex& each) { return each.data(QueueListModel::NameRole).isNull(); });
     count = static_cast<int>(found.size());
     if (count == 1) return {.queue = found.first().data(QueueListModel::NameRole).toString(), .count = 1};
   }
@@ -205,7 +211,7 @@ void QueueChooser::takeCurrent(const QString& name) {
 
 QString QueueChooser::currentText() const {
   const int row = m_model.rowOf(m_current);
-  return row < 0 ? m_current : m_combo->itemText(row);
+  return row < 0 ? shownText(m_current) : m_combo->itemText(row);
 }
 
 // Changes the list, and restores the field to the chosen queue or to what is being typed. The combo box
@@ -214,7 +220,7 @@ void QueueChooser::update(const std::function<void()>& change) {
   const QScopedValueRollback guard(m_isUpdating, true);
   const int cursor = m_combo->isEditable() ? m_combo->lineEdit()->cursorPosition() : 0;
   if (change) change();
-  m_combo->setPlaceholderText(!m_current.isNull() ? m_current
+  m_combo->setPlaceholderText(!m_current.isNull() ? shownText(m_current)
                               : isFault()         ? tr("No printer")
                                                   : tr("Looking for printers…"));
   m_combo->setCurrentIndex(m_model.rowOf(m_current));

@@ -31,6 +31,8 @@ class QueueChooser : public QWidget {
   void setQueue(const QueueSummary& queue);
   void removeQueue(const QString& name);
   void setNetwork(const std::vector<QueueSummary>& printers);
+  /// Whether another queue may be chosen. What is known of this one can be seen in any case.
+  void setChoosable(bool isChoosable);
   /// Adds "Save as PDF" to the list.
   void offerPdf();
   /// Shows `name` as the chosen queue, listed or not, instead of what was typed; emits nothing.

@@ -44,7 +44,10 @@ void StateIcon::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(legible(colorOf(m_kind), palette()));
+  // What is said of the printer counts while nothing can be chosen, too.
+  QPalette colors = palette();
+  colors.setCurrentColorGroup(QPalette::Active);
+  painter.setBrush(legible(colorOf(m_kind), colors));
   if (m_kind == Kind::Ready || m_kind == Kind::Busy) return painter.drawEllipse(place);
   const QPointF corners[] = {{place.center().x(), place.top()}, place.bottomRight(), place.bottomLeft()};
   painter.drawConvexPolygon(corners, std::size(corners));

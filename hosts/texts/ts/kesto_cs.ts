@@ -1012,6 +1012,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>změní odeslanou úlohu: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>heslo ze souboru se neposílá tiskárně „%1“, která je v síti a není nastavena na tiskovém serveru</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>„%1“ není nastavena na tiskovém serveru; použije se tiskárna v síti: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2545,6 +2553,10 @@
     <message>
         <source>Name:</source>
         <translation>Název:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>Nahradit předvolbu „%1“?</translation>
     </message>
 </context>
 <context>

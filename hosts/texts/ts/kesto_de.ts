@@ -1008,6 +1008,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>einen gesendeten Auftrag ändern: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>das Passwort aus der Datei wird nicht an „%1“ gesendet, einen Drucker im Netzwerk, der nicht auf dem Druckserver eingerichtet ist</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>„%1“ ist nicht auf dem Druckserver eingerichtet; der Drucker im Netzwerk wird verwendet: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2538,6 +2546,10 @@
     <message>
         <source>Presets: %1</source>
         <translation>Voreinstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>Voreinstellung „%1“ ersetzen?</translation>
     </message>
 </context>
 <context>

@@ -1008,6 +1008,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>αλλαγή εργασίας που έχει σταλεί: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>ο κωδικός πρόσβασης του αρχείου δεν αποστέλλεται στον «%1», που είναι εκτυπωτής στο δίκτυο και δεν έχει ρυθμιστεί στον διακομιστή εκτύπωσης</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>ο «%1» δεν έχει ρυθμιστεί στον διακομιστή εκτύπωσης· χρησιμοποιείται ο εκτυπωτής στο δίκτυο: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2538,6 +2546,10 @@
     <message>
         <source>Name:</source>
         <translation>Όνομα:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>Αντικατάσταση της προρύθμισης «%1»;</translation>
     </message>
 </context>
 <context>

@@ -1008,6 +1008,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>cambiar un trabajo ya enviado: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>la contraseña del archivo no se envía a «%1», que es una impresora de la red y no está configurada en el servidor de impresión</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>«%1» no está configurada en el servidor de impresión; se usa la impresora de la red: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2538,6 +2546,10 @@
     <message>
         <source>Presets: %1</source>
         <translation>Preajustes: %1</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>¿Reemplazar el preajuste «%1»?</translation>
     </message>
 </context>
 <context>

@@ -1008,6 +1008,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>modifier un travail déjà envoyé&#xa0;: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>le mot de passe du fichier n’est pas envoyé à «&#xa0;%1&#xa0;», une imprimante du réseau qui n’est pas configurée sur le serveur d’impression</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas configurée sur le serveur d’impression&#xa0;; utilisation de l’imprimante du réseau&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2538,6 +2546,10 @@
     <message>
         <source>Presets: %1</source>
         <translation>Préréglages&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>Remplacer le préréglage «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
 </context>
 <context>

@@ -1004,6 +1004,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>elküldött feladat módosítása: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>a fájlban lévő jelszó nem kerül elküldésre ide: „%1”; ez egy hálózati nyomtató, amely nincs beállítva a nyomtatókiszolgálón</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>„%1” nincs beállítva a nyomtatókiszolgálón; a hálózati nyomtató lesz használva: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2531,6 +2539,10 @@
     <message>
         <source>Name:</source>
         <translation>Név:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>Lecseréli a(z) „%1” előbeállítást?</translation>
     </message>
 </context>
 <context>

@@ -1008,6 +1008,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>modificare un lavoro già inviato: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>la password nel file non viene inviata a «%1», che è una stampante in rete e non è configurata sul server di stampa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>«%1» non è configurata sul server di stampa; viene usata la stampante in rete: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2538,6 +2546,10 @@
     <message>
         <source>Name:</source>
         <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>Sostituire la preimpostazione «%1»?</translation>
     </message>
 </context>
 <context>

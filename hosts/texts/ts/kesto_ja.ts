@@ -1004,6 +1004,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>送信済みのジョブを変更する: -H、-n、-o、-P、-q、-t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>ファイルのパスワードは「%1」に送信されません。これはネットワーク上のプリンターで、プリントサーバーに設定されていません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>「%1」はプリントサーバーに設定されていません。ネットワーク上のプリンターを使用します: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2531,6 +2539,10 @@
     <message>
         <source>Presets: %1</source>
         <translation>プリセット: %1</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>プリセット「%1」を置き換えますか?</translation>
     </message>
 </context>
 <context>

@@ -1004,6 +1004,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>이미 보낸 작업을 변경: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>파일의 암호를 &quot;%1&quot;에 보내지 않습니다. 이것은 네트워크 프린터이고 인쇄 서버에 설정되어 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>&quot;%1&quot;은(는) 인쇄 서버에 설정되어 있지 않습니다. 네트워크 프린터를 사용합니다: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2531,6 +2539,10 @@
     <message>
         <source>Name:</source>
         <translation>이름:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>사전 설정 &quot;%1&quot;을(를) 바꾸시겠습니까?</translation>
     </message>
 </context>
 <context>

@@ -1008,6 +1008,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>een verzonden taak wijzigen: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>het wachtwoord uit het bestand wordt niet naar ‘%1’ gestuurd, een printer op het netwerk die niet op de printserver is ingesteld</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>‘%1’ is niet op de printserver ingesteld; de printer op het netwerk wordt gebruikt: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2538,6 +2546,10 @@
     <message>
         <source>Name:</source>
         <translation>Naam:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>Voorinstelling ‘%1’ vervangen?</translation>
     </message>
 </context>
 <context>

@@ -1012,6 +1012,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>изменить отправленное задание: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>пароль из файла не отправляется на «%1»: это принтер в сети, который не настроен на сервере печати</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>«%1» не настроен на сервере печати; используется принтер в сети: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2545,6 +2553,10 @@
     <message>
         <source>Name:</source>
         <translation>Имя:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>Заменить набор «%1»?</translation>
     </message>
 </context>
 <context>

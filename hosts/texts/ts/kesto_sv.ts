@@ -1008,6 +1008,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>ändra ett skickat jobb: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>lösenordet i filen skickas inte till ”%1”, som är en skrivare i nätverket och inte är inställd på utskriftsservern</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>”%1” är inte inställd på utskriftsservern; skrivaren i nätverket används: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2538,6 +2546,10 @@
     <message>
         <source>Name:</source>
         <translation>Namn:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>Ersätta förinställningen ”%1”?</translation>
     </message>
 </context>
 <context>

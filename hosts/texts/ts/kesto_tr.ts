@@ -1004,6 +1004,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>gönderilmiş bir işi değiştirir: -H, -n, -o, -P, -q, -t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>dosyadaki parola, ağdaki bir yazıcı olan ve yazdırma sunucusunda ayarlanmamış “%1” yazıcısına gönderilmez</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>“%1” yazdırma sunucusunda ayarlanmamış; ağdaki yazıcı kullanılıyor: %2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2531,6 +2539,10 @@
     <message>
         <source>Name:</source>
         <translation>Ad:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>“%1” ön ayarı değiştirilsin mi?</translation>
     </message>
 </context>
 <context>

@@ -1004,6 +1004,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>更改已发送的作业：-H、-n、-o、-P、-q、-t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>文件中的密码不会发送给“%1”，它是网络上的打印机，未在打印服务器上设置</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>“%1”未在打印服务器上设置；将使用网络上的打印机：%2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2531,6 +2539,10 @@
     <message>
         <source>Presets: %1</source>
         <translation>预设：%1</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>要替换预设“%1”吗？</translation>
     </message>
 </context>
 <context>

@@ -1004,6 +1004,14 @@
         <source>change a job that was sent: -H, -n, -o, -P, -q, -t</source>
         <translation>變更已傳送的工作：-H、-n、-o、-P、-q、-t</translation>
     </message>
+    <message>
+        <source>the password in the file is not sent to &quot;%1&quot;, which is a printer on the network and not set up on the print server</source>
+        <translation>檔案中的密碼不會傳送給「%1」，它是網路上的印表機，未在列印伺服器上設定</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not set up on the print server; using the printer on the network: %2</source>
+        <translation>「%1」未在列印伺服器上設定；將使用網路上的印表機：%2</translation>
+    </message>
 </context>
 <context>
     <name>PlainText</name>
@@ -2531,6 +2539,10 @@
     <message>
         <source>Name:</source>
         <translation>名稱:</translation>
+    </message>
+    <message>
+        <source>Replace the preset &quot;%1&quot;?</source>
+        <translation>要取代預設組「%1」嗎？</translation>
     </message>
 </context>
 <context>
