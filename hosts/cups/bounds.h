@@ -11,7 +11,7 @@ constexpr qsizetype longestReply = qsizetype{16} << 20;
 constexpr qsizetype longestPpd = qsizetype{8} << 20;
 /// Nested collections in a reply. The deepest in use has three.
 constexpr int deepestCollection = 16;
-/// Values of a reply in all. A list of ten thousand queues has fifty thousand.
+/// Values of a reply in all, and its groups. A list of ten thousand queues has fifty thousand.
 constexpr int mostValues = 400'000;
 /// Printers on the network that are listed.
 constexpr int mostNetworkPrinters = 500;

@@ -84,6 +84,7 @@ Outcome checkReply(const QByteArray& bytes) {
   if (bytes.size() < headerLength || static_cast<uchar>(bytes[2]) > highestStatus) return unreadable();
   Cursor cursor(bytes);
   int depth = 0;
+  int groups = 0;
   int values = 0;
   for (;;) {
     const int tag = cursor.tag();
@@ -92,7 +93,7 @@ Outcome checkReply(const QByteArray& bytes) {
     if (tag <= lastDelimiter) {
       if (depth != 0) return unreadable();
       if (tag == IPP_TAG_END) return Outcome::done();
-      if (++values > mostValues) return tooLarge();  // libcups keeps each of them
+      if (++groups > mostValues) return tooLarge();  // libcups keeps each of them
       continue;
     }
     if (cursor.skipText() < 0) return unreadable();  // its name

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "hosts/cups/faults.h"
 #include "hosts/dialog/panel/panel_pane.h"
 #include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/panes/summary_pane.h"
@@ -83,9 +82,6 @@ void PrintDialog::showOpening() {
     text = m_preview->saveFault();
     if (!text.isNull()) kind = Kind::Attention;
     if (text.isNull()) text = tr("Saves the selected pages in a file.");
-  } else if (m_opening.state() == QueueOpening::State::Gone) {
-    text = asSentence(Faults::tr("there is no printer named \"%1\"").arg(shownText(m_opening.wanted())));
-    kind = Kind::Fault;
   } else if (m_opening.state() == QueueOpening::State::Open) {
     text = QueueListModel::stateText(m_opening.summary());
     kind = QueueListModel::stateKind(m_opening.summary());
@@ -301,8 +297,7 @@ void PrintDialog::updateControls() {
   const State state = m_document.state();
   const bool isMissing =
       state != State::Ready && state != State::Paused && (!m_options.documentLater || state == State::Failed);
-  const bool isTaker = m_opening.state() == QueueOpening::State::Open && m_opening.summary().isAccepting &&
-                       !m_chooser->isPending();
+  const bool isTaker = m_opening.summary().isAccepting && !m_chooser->isPending();
   const QString saveFault = m_opening.isPdf() ? m_preview->saveFault() : QString();
   const QString print = m_options.acceptLabel.isEmpty() ? tr("Print") : m_options.acceptLabel;
   setPlainText(m_foot->printButton(), m_opening.isPdf() ? tr("Save…") : print);

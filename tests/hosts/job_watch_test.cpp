@@ -20,7 +20,7 @@ TEST(JobFateTest, IsSaidInTheUsersTerms) {
         Case{{.state = held, .holdUntil = u"18:30"_s}, "", "Held until its time to print"},
         Case{{.state = printing, .printerReasons = {u"toner-low-warning"_s}}, "", "Printing"},
         Case{{.state = printing, .printerReasons = {connecting}}, "", "Connecting to the printer"},
-        Case{{.state = printing, .printerReasons = {u"x\033[1m-error"_s}}, "", "Stopped: X\\x1B[1m"},
+        Case{{.state = printing, .printerReasons = {u"x\033[1m-error"_s}}, "", "Stopped: X\\x1b[1m"},
         Case{{.state = printing, .page = 2, .pages = 3}, "", "Printing page 2 of 3"},
         Case{{.state = done, .printerReasons = jam}, "jobSuspend=0", "Printed"},
         Case{{.state = done}, "jobSuspend=2", "Waits at q until you release it there"},

@@ -12,17 +12,21 @@ namespace kesto {
 namespace {
 
 constexpr char plainTextProperty[] = "plainText";
+constexpr char namedByTextProperty[] = "namedByText";
+
+// Without a name of its own a button would be read with its key letter, which may stand in brackets.
+void nameByText(QAbstractButton& button, const QString& text) {
+  if (!button.accessibleName().isEmpty() && !button.property(namedByTextProperty).toBool()) return;
+  button.setAccessibleName(text);
+  button.setProperty(namedByTextProperty, true);
+}
 
 }  // namespace
 
 void setPlainText(QWidget& widget, const QString& given) {
   const QString text = shownText(given);
   if (widget.property(plainTextProperty).toString() == text && !text.isEmpty()) return;
-  // Without a name of its own a button would be read with its key letter, which may stand in brackets.
-  auto* button = qobject_cast<QAbstractButton*>(&widget);
-  const QString before = plainText(widget);
-  if (button != nullptr && (button->accessibleName().isEmpty() || button->accessibleName() == before))
-    button->setAccessibleName(text);
+  if (auto* button = qobject_cast<QAbstractButton*>(&widget)) nameByText(*button, text);
   widget.setProperty(plainTextProperty, text);
   auto* label = qobject_cast<QLabel*>(&widget);
   if (label != nullptr) label->setTextFormat(Qt::PlainText);
@@ -45,7 +49,7 @@ void showMarkedText(QWidget& widget, const QString& text) {
 }
 
 QString tipOf(const QString& text) {
-  return text.isEmpty() ? QString() : Qt::convertFromPlainText(text);
+  return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
 QString withPlainAmpersands(QString text) {

@@ -23,8 +23,8 @@ QString nameOf(const QString& preset) {
 
 PresetMenu::PresetMenu(PanelSession& session, QWidget* parent)
     : QPushButton(parent), m_session(session), m_menu(new QMenu(this)) {
-  setPlainText(*this, tr("Presets"));
   setAccessibleName(tr("Presets"));
+  setPlainText(*this, tr("Presets"));
   setAutoDefault(false);
   setMenu(m_menu);
   connect(m_menu, &QMenu::aboutToShow, this, &PresetMenu::fill);
@@ -32,7 +32,8 @@ PresetMenu::PresetMenu(PanelSession& session, QWidget* parent)
 
 void PresetMenu::fill() {
   m_menu->clear();
-  qDeleteAll(m_menu->findChildren<QMenu*>(Qt::FindDirectChildrenOnly));
+  for (QMenu* former : m_menu->findChildren<QMenu*>(Qt::FindDirectChildrenOnly))
+    former->deleteLater();
   QStringList names;
   const Outcome found = m_session.shelf()->names(&names);
   if (!found) m_menu->addAction(withPlainAmpersands(asSentence(found.reason())))->setEnabled(false);
