@@ -55,7 +55,7 @@ Outcome authenticateJob(PrintServer& server, const SentJob& job, bool* isDecline
   const PasswordQuestion toUser = questionOf(job.queue, wanted);
   std::optional<Credentials> refused = server.passwords()->kept(toUser);
   QStringList authInfo;
-  const Outcome answered = ask(server, toUser, refused, &authInfo);
+  Outcome answered = ask(server, toUser, refused, &authInfo);
   if (refused) wipe(*refused);
   *isDeclined = !answered;
   if (!answered) return answered;

@@ -52,6 +52,13 @@ int depthAfter(int tag, int valueLength, int depth) {
   return isEnd ? depth - 1 : depth + 1;
 }
 
+// The same for the value that begins after its tag; negative also when bytes are missing.
+int depthAfterValue(Cursor* cursor, int tag, int depth) {
+  if (cursor->skipText() < 0) return -1;  // its name
+  const int length = cursor->skipText();
+  return length < 0 ? -1 : depthAfter(tag, length, depth);
+}
+
 // A message in memory, for libcups's reader.
 struct Reader {
   const QByteArray& bytes;
@@ -90,17 +97,13 @@ Outcome checkReply(const QByteArray& bytes) {
     const int tag = cursor.tag();
     // libcups does not read extended tags according to the format, and nobody sends them.
     if (tag < 0 || tag == IPP_TAG_EXTENSION) return unreadable();
-    if (tag <= lastDelimiter) {
-      if (depth != 0) return unreadable();
-      if (tag == IPP_TAG_END) return Outcome::done();
-      if (++groups > mostValues) return tooLarge();  // libcups keeps each of them
-      continue;
-    }
-    if (cursor.skipText() < 0) return unreadable();  // its name
-    const int length = cursor.skipText();
-    depth = length < 0 ? -1 : depthAfter(tag, length, depth);
+    const bool isDelimiter = tag <= lastDelimiter;
+    if (isDelimiter && depth != 0) return unreadable();
+    if (tag == IPP_TAG_END) return Outcome::done();
+    if (++(isDelimiter ? groups : values) > mostValues) return tooLarge();  // libcups keeps each of them
+    if (!isDelimiter) depth = depthAfterValue(&cursor, tag, depth);
     if (depth < 0) return unreadable();
-    if (depth > deepestCollection || ++values > mostValues) return tooLarge();
+    if (depth > deepestCollection) return tooLarge();
   }
 }
 

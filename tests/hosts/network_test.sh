@@ -23,6 +23,7 @@ scratch=$(mktemp -d)
 children=()
 stop() {
   ((${#children[@]} == 0)) || kill "${children[@]}" 2>/dev/null || true
+  wait
   rm -rf "$scratch"
 }
 trap stop EXIT
