@@ -16,8 +16,8 @@ QString titleOf(const Options& options);
 bool goesRaw(const JobOptions& job);
 
 /// Sends the job that the options describe with the panel's settings (none without a panel), shows the
-/// progress of a long upload at a terminal, and prints the job's number, in JSON with `facts` beside it,
-/// unless it is to be silent. `*id` is that number.
+/// progress of a long upload at a terminal, and stores the job's number in `*id`. Also prints the number, in
+/// JSON together with `facts`, unless the options ask for silence.
 Outcome submit(PrintServer& server, const QString& queue, const Options& options, const JobOptions& given,
                const QMap<QString, QString>& settings, int* id, QJsonObject facts = {});
 

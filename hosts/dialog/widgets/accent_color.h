@@ -11,8 +11,8 @@ QColor accentColor(const QPalette& palette);
 QColor quietColor(const QPalette& palette);
 /// A color as near to `wanted` as can be read on a window of the palette.
 QColor legible(const QColor& wanted, const QPalette& palette);
-/// The colors of dimmed texts and placeholders that a style has too near to what is behind them, and no
-/// others. They reach a contrast of 3 and 4.5.
+/// Colors for dimmed texts and placeholders that stand out enough from their background: a contrast of 3 and
+/// 4.5. The palette sets no other colors.
 QPalette legibleTexts(const QPalette& palette);
 
 }  // namespace kesto
