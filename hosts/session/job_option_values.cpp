@@ -155,10 +155,12 @@ QString valueFor(const OptionRow& row, const QString& value) {
     return value.isEmpty() || value.contains(u',') ? value : value + QStringLiteral(",none");
   if (const Value* found = find(QLatin1String(row.key), value.toLower()); found != nullptr && !value.isNull())
     return QLatin1String(found->standard);
-  bool isPercent = false;
-  const QString percent = QString::number(qRound(value.toDouble(&isPercent)));
-  if (row.kind == OptionKind::Scaling && isPercent)
-    return isBetween(percent, leastPercent, mostPercent) ? percent : QString();
+  bool isNumber = false;
+  const double percent = row.kind == OptionKind::Scaling ? value.toDouble(&isNumber) : 0;
+  if (isNumber) {
+    const bool isInRange = percent >= leastPercent && percent <= mostPercent;
+    return isInRange ? QString::number(qRound(percent)) : QString();
+  }
   return row.kind == OptionKind::Switch ? QString() : value;
 }
 

@@ -104,6 +104,7 @@ TEST_F(OptionsOfAJob, EachIsSentOnceUnderItsNameOnTheQueue) {
       {"fixed", "scaling=50", "", u"print-scaling=fit"_s, "print-scaling=fit"},
       {"fixed", "", "scaling=87.5", {}, "scaling=88"},
       {"fixed", "", "scaling=900", {}, "", "scaling=900"},
+      {"fixed", "", "scaling=1e300", {}, "", "scaling=1e300"},
       {"fixed", "", "landscape outputorder=reverse-order", {}, "orientation-requested=4 outputorder=reverse"},
       {"fixed", "", "job-hold-until=hold job-priority=33", {}, "job-hold-until=indefinite job-priority=33"},
       {"fixed", "", "job-sheets=secret job-billing=\"\"", {}, "job-sheets=secret,none"},
