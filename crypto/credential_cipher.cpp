@@ -1,10 +1,6 @@
 #include "crypto/credential_cipher.h"
 
-// The printer's driver reads single blocks under a fixed key. The legacy interface does exactly that, without
-// a context to allocate, so its deprecation is accepted in this file alone.
-#define OPENSSL_SUPPRESS_DEPRECATED
-#include <openssl/aes.h>
-#include <openssl/crypto.h>
+#include <nettle/aes.h>
 
 #include <algorithm>
 #include <array>
@@ -15,7 +11,6 @@ namespace {
 
 constexpr std::array<std::uint8_t, 16> fixedKey{0x5e, 0x2b, 0x90, 0xc4, 0x71, 0x0d, 0xa6, 0x33,
                                                 0xe8, 0x19, 0x4f, 0xb2, 0x07, 0xcd, 0x6a, 0x58};
-constexpr int keyBits = 128;
 
 }  // namespace
 
@@ -24,24 +19,24 @@ void my_aes_encrypt(const char* plaintext, std::span<std::uint8_t> output) {
   std::ranges::fill(output, std::uint8_t{0});
   const std::size_t length = std::strlen(plaintext);
   if (length == 0) return;
-  AES_KEY key;
-  AES_set_encrypt_key(fixedKey.data(), keyBits, &key);
+  aes128_ctx key;
+  aes128_set_encrypt_key(&key, fixedKey.data());
   for (std::size_t start = 0; start < length && start + cipherBlockSize <= output.size();
        start += cipherBlockSize) {
     std::array<std::uint8_t, cipherBlockSize> block{};
     std::memcpy(block.data(), plaintext + start, std::min(cipherBlockSize, length - start));
-    AES_encrypt(block.data(), &output[start], &key);
-    OPENSSL_cleanse(block.data(), block.size());
+    aes128_encrypt(&key, block.size(), &output[start], block.data());
+    ::explicit_bzero(block.data(), block.size());
   }
 }
 
 void my_aes_decrypt(std::span<const std::uint8_t> cipherText, std::span<std::uint8_t> output) {
   if (cipherText.data() == nullptr || output.data() == nullptr) return;
-  AES_KEY key;
-  AES_set_decrypt_key(fixedKey.data(), keyBits, &key);
+  aes128_ctx key;
+  aes128_set_decrypt_key(&key, fixedKey.data());
   const std::size_t length = std::min(cipherText.size(), output.size());
   for (std::size_t start = 0; start + cipherBlockSize <= length; start += cipherBlockSize) {
-    AES_decrypt(&cipherText[start], &output[start], &key);
+    aes128_decrypt(&key, cipherBlockSize, &output[start], &cipherText[start]);
   }
 }
 

@@ -1,11 +1,10 @@
 // Work storage for values that must not stay in memory.
 #pragma once
 
-#include <openssl/crypto.h>
-
 #include <QtCore/QByteArray>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace kesto {
 
@@ -14,7 +13,7 @@ template <std::size_t Size>
 class SecretBuffer : public std::array<std::uint8_t, Size> {
  public:
   SecretBuffer() { this->fill(0); }
-  ~SecretBuffer() { OPENSSL_cleanse(this->data(), Size); }
+  ~SecretBuffer() { ::explicit_bzero(this->data(), Size); }
   SecretBuffer(const SecretBuffer&) = delete;
   SecretBuffer& operator=(const SecretBuffer&) = delete;
 

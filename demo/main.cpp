@@ -23,7 +23,7 @@ void print(const QString& line) {
 }
 
 void printJson(const QJsonDocument& document) {
-  print(QString::fromUtf8(document.toJson(QJsonDocument::Compact)));
+  print(QString::fromUtf8(kesto::printableJson(document)));
 }
 
 int fail(const QString& reason) {

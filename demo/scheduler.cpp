@@ -34,110 +34,6 @@ constexpr std::chrono::seconds startLimit{15};
 constexpr int stopLimitMs = 10'000;
 constexpr char systemServerBin[] = "/usr/lib/cups";
 
-constexpr char serverConfiguration[] = R"(# Rewritten at every start of the demo printer.
-LogLevel warn
-# A failed job's history would hold its options, and its digest with them.
-LogDebugHistory 0
-MaxLogSize 0
-@LISTEN@
-Browsing No
-WebInterface No
-PreserveJobFiles No
-ErrorPolicy abort-job
-DefaultPolicy demo
-
-<Location />
-  Order allow,deny
-  Allow from 127.0.0.1
-</Location>
-# Settings and logs. Each has a line of its own: a location that is not named follows the one above it.
-<Location /admin>
-  AuthType Default
-  Require user @OWNERNAME@
-  Order allow,deny
-  Allow from 127.0.0.1
-</Location>
-<Location /admin/conf>
-  AuthType Default
-  Require user @OWNERNAME@
-  Order allow,deny
-  Allow from 127.0.0.1
-</Location>
-<Location /admin/log>
-  AuthType Default
-  Require user @OWNERNAME@
-  Order allow,deny
-  Allow from 127.0.0.1
-</Location>
-
-<Policy demo>
-  # A job's name and options are visible only to its sender and to the printer's owner.
-  JobPrivateAccess @OWNER @OWNERNAME@
-  JobPrivateValues all
-  SubscriptionPrivateAccess @OWNER @OWNERNAME@
-  SubscriptionPrivateValues all
-
-  # What a user needs to find the queue, and to send and follow their own jobs.
-  <Limit Create-Job Print-Job Validate-Job Get-Jobs Get-Job-Attributes Get-Printer-Attributes CUPS-Get-Default CUPS-Get-Printers CUPS-Get-Classes CUPS-Get-PPD Create-Printer-Subscriptions Create-Job-Subscriptions>
-    Order deny,allow
-  </Limit>
-  <Limit Send-Document Close-Job Cancel-Job Cancel-My-Jobs Hold-Job Release-Job CUPS-Authenticate-Job Set-Job-Attributes Get-Subscriptions Get-Subscription-Attributes Get-Notifications Renew-Subscription Cancel-Subscription>
-    Require user @OWNER @OWNERNAME@
-    Order deny,allow
-  </Limit>
-  # Everything else, and what later versions of cupsd can do. Where the two that are named have no rules,
-  # they would take those of Send-Document and Pause-Printer.
-  <Limit CUPS-Get-Document Cancel-Jobs All>
-    AuthType Default
-    Require user @OWNERNAME@
-    Order deny,allow
-  </Limit>
-</Policy>
-)";
-
-constexpr char fileConfiguration[] = R"(# Rewritten at every start of the demo printer.
-User @USER@
-Group @GROUP@
-SystemGroup root
-ServerRoot @ROOT@
-ServerBin @ROOT@/bin
-RequestRoot @ROOT@/spool
-TempDir @ROOT@/spool/tmp
-CacheDir @ROOT@/cache
-StateDir @ROOT@/state
-Printcap @ROOT@/printcap
-ErrorLog @ROOT@/error_log
-AccessLog @ROOT@/access_log
-PageLog @ROOT@/page_log
-LogFilePerm 0600
-FatalErrors config listen permissions
-)";
-
-constexpr char queueConfiguration[] = R"(# Rewritten at every start of the demo printer.
-<DefaultPrinter @QUEUE@>
-Info Kesto VQ-250n (demo)
-MakeModel KESTO VQ-250n PS
-DeviceURI @PRINTER@
-State Idle
-Accepting Yes
-Shared No
-ErrorPolicy abort-job
-OpPolicy demo
-@PASSWORD@</DefaultPrinter>
-)";
-
-// Further queues are like the first, except for their number.
-QByteArray moreQueues(int queues) {
-  QByteArray text;
-  for (int number = 2; number <= queues; ++number) {
-    QByteArray queue = QByteArray(queueConfiguration).replace("DefaultPrinter", "Printer");
-    queue.remove(0, queue.indexOf('\n') + 1);
-    queue.replace("@QUEUE@", demoQueueNumbered(number).toLatin1());
-    text += queue.replace("(demo)", "(demo " + QByteArray::number(number) + ')');
-  }
-  return text;
-}
-
 Outcome copyFile(const QString& from, const QString& to, QFile::Permissions permissions) {
   QFile source(from);
   if (!source.copy(to))
@@ -150,7 +46,7 @@ Outcome copyFile(const QString& from, const QString& to, QFile::Permissions perm
 
 // A file beside the programs, in a build as well as when installed.
 QString besidePrograms(const QString& name) {
-  return QCoreApplication::applicationDirPath() + QStringLiteral("/../") + name;
+  return QCoreApplication::applicationDirPath() + u'/' + name;
 }
 
 QString findServer() {
@@ -182,11 +78,6 @@ std::optional<Scheduler::Identity> Scheduler::Identity::ofProcess() {
   static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_][A-Za-z0-9._-]*$"));
   const bool isPlain = plain.match(QString::fromLocal8Bit(name)).hasMatch();
   return Identity{getuid(), getgid(), isPlain ? name : "root"};
-}
-
-QString demoQueueNumbered(int number) {
-  const QString name = QLatin1String(demoQueue);
-  return number == 1 ? name : QStringLiteral("%1_%2").arg(name).arg(number, 4, 10, QLatin1Char('0'));
 }
 
 Scheduler::Scheduler(const RunFolder& folder) : m_folder(folder) {
@@ -275,10 +166,10 @@ Outcome Scheduler::copyPrograms() const {
   constexpr QFile::Permissions ownProgram = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
   for (const auto& [name, mode] :
        {std::pair("filter/kesto-demo-filter", program), std::pair("backend/socket", ownProgram)}) {
-    const QString from = besidePrograms(QStringLiteral("libexec/kesto/")) + QLatin1String(name);
+    const QString from = besidePrograms(QStringLiteral(KESTO_LIBEXEC_DIR "/")) + QLatin1String(name);
     if (Outcome copied = copyFile(from, path("bin/") + QLatin1String(name), mode); !copied) return copied;
   }
-  const QString description = besidePrograms(QStringLiteral("share/kesto/kesto-vq250n.ppd"));
+  const QString description = besidePrograms(QStringLiteral(KESTO_DATA_DIR "/kesto-vq250n.ppd"));
   for (int number = 1; number <= m_setup.queues; ++number) {
     const QString copy = path("ppd/") + demoQueueNumbered(number) + QStringLiteral(".ppd");
     if (Outcome copied = copyFile(description, copy, data); !copied) return copied;
@@ -292,21 +183,18 @@ Outcome Scheduler::writeConfiguration(const Identity& identity) const {
   // The panel takes the printer's address from the URI's host, the backend its socket from the path.
   const QByteArray uri =
       "socket://127.0.0.1" + QUrl::toPercentEncoding(m_setup.printerSocket, QByteArrayLiteral("/"));
-  const auto write = [&](const char* name, QByteArray text) {
-    text.replace("@QUEUE@", demoQueue);
-    text.replace("@PASSWORD@", m_setup.asksForPassword ? "AuthInfoRequired username,password\n" : "");
-    text.replace("@USER@", QByteArray::number(identity.user));
-    text.replace("@GROUP@", QByteArray::number(identity.group));
-    text.replace("@OWNERNAME@", identity.owner);
-    text.replace("@PRINTER@", uri);
-    // Replaced last, since a path may contain any of the other marks.
-    text.replace("@LISTEN@", port + "Listen " + QFile::encodeName(address()));
-    text.replace("@ROOT@", QFile::encodeName(path("")).chopped(1));
-    return writePrivateFile(path(name), text);
-  };
-  if (Outcome written = write("cupsd.conf", serverConfiguration); !written) return written;
-  if (Outcome written = write("cups-files.conf", fileConfiguration); !written) return written;
-  return write("printers.conf", queueConfiguration + moreQueues(m_setup.queues));
+  const SchedulerValues values{.listen = port + "Listen " + QFile::encodeName(address()),
+                               .root = QFile::encodeName(path("")).chopped(1),
+                               .user = QByteArray::number(identity.user),
+                               .group = QByteArray::number(identity.group),
+                               .owner = identity.owner,
+                               .printer = uri,
+                               .queues = m_setup.queues,
+                               .asksForPassword = m_setup.asksForPassword};
+  for (const auto& [name, text] : configurationOf(values)) {
+    if (Outcome written = writePrivateFile(path(name), text); !written) return written;
+  }
+  return Outcome::done();
 }
 
 Outcome Scheduler::startServer() {

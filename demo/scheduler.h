@@ -6,14 +6,10 @@
 #include <optional>
 
 #include "demo/run_folder.h"
+#include "demo/scheduler_configuration.h"
 #include "platform/outcome.h"
 
 namespace kesto {
-
-/// The name of the scheduler's first and default queue.
-inline constexpr char demoQueue[] = "Office_MFP";
-/// The names of its queues, counted from 1: "Office_MFP", "Office_MFP_0002" and so on.
-QString demoQueueNumbered(int number);
 
 /// How to set up the scheduler.
 struct SchedulerSetup {

@@ -1,7 +1,8 @@
 #include "folders/endpoint.h"
 
+#include <arpa/inet.h>
+
 #include <QtCore/QRegularExpression>
-#include <QtNetwork/QHostAddress>
 
 namespace kesto {
 namespace {
@@ -20,7 +21,9 @@ bool isBracketedAddress(const QString& text) {
       !(text.mid(percent).startsWith(u"%25") && zone.match(text.mid(percent + 3)).hasMatch())) {
     return false;
   }
-  return QHostAddress(percent < 0 ? text : text.first(percent)).protocol() == QAbstractSocket::IPv6Protocol;
+  in6_addr address{};
+  return ::inet_pton(AF_INET6, (percent < 0 ? text : text.first(percent)).toLatin1().constData(), &address) ==
+         1;
 }
 
 }  // namespace

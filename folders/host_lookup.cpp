@@ -9,6 +9,7 @@
 #include <array>
 #include <atomic>
 #include <csignal>
+#include <cstring>
 #include <string>
 #include <system_error>
 #include <thread>
@@ -31,7 +32,7 @@ HostLookup::HostLookup() = default;
 
 HostLookup::~HostLookup() = default;
 
-bool HostLookup::start(const QString& host) {
+bool HostLookup::start(const QString& host, quint16 port) {
   std::array<int, 2> ends{};
   if (::pipe2(ends.data(), O_CLOEXEC) != 0) return false;
   m_bell.reset(ends[0]);
@@ -40,12 +41,17 @@ bool HostLookup::start(const QString& host) {
   m_notifier = std::make_unique<QSocketNotifier>(m_bell.get(), QSocketNotifier::Read);
   connect(m_notifier.get(), &QSocketNotifier::activated, this, &HostLookup::take);
   // The thread does not use Qt, because it may outlive Qt's objects.
-  auto ask = [answer = m_answer, name = host.toStdString(), bell = std::move(bell)] {
+  auto ask = [answer = m_answer, name = host.toStdString(), service = std::to_string(port),
+              bell = std::move(bell)] {
     addrinfo hints{};
-    hints.ai_flags = AI_ADDRCONFIG;
+    hints.ai_flags = AI_NUMERICSERV | AI_NUMERICHOST;
     hints.ai_socktype = SOCK_STREAM;
     addrinfo* list = nullptr;
-    if (::getaddrinfo(name.c_str(), nullptr, &hints, &list) == 0) answer->first = list;
+    bool isFound = ::getaddrinfo(name.c_str(), service.c_str(), &hints, &list) == 0;
+    // Of a name, only addresses that this machine can reach at all.
+    hints.ai_flags = AI_NUMERICSERV | AI_ADDRCONFIG;
+    if (!isFound) isFound = ::getaddrinfo(name.c_str(), service.c_str(), &hints, &list) == 0;
+    if (isFound) answer->first = list;
     [[maybe_unused]] const ssize_t written = ::write(bell.get(), "", 1);
   };
   // The thread blocks all signals: they are for the program's own threads, and SIGPIPE must not end the
@@ -67,9 +73,12 @@ bool HostLookup::start(const QString& host) {
 
 void HostLookup::take() {
   m_notifier->setEnabled(false);
-  QList<QHostAddress> addresses;
-  for (const addrinfo* each = m_answer->first; each != nullptr; each = each->ai_next)
-    addresses.append(QHostAddress(each->ai_addr));
+  QList<SocketAddress> addresses;
+  for (const addrinfo* each = m_answer->first; each != nullptr; each = each->ai_next) {
+    SocketAddress& address = addresses.emplace_back();
+    std::memcpy(&address.storage, each->ai_addr, each->ai_addrlen);
+    address.length = each->ai_addrlen;
+  }
   Q_EMIT found(addresses);
 }
 

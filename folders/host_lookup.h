@@ -1,8 +1,10 @@
 // The addresses of a host by its name.
 #pragma once
 
+#include <sys/socket.h>
+
+#include <QtCore/QList>
 #include <QtCore/QObject>
-#include <QtNetwork/QHostAddress>
 #include <memory>
 
 #include "platform/descriptor.h"
@@ -10,6 +12,14 @@
 class QSocketNotifier;
 
 namespace kesto {
+
+/// Where to connect to.
+struct SocketAddress {
+  sockaddr_storage storage{};
+  socklen_t length = 0;
+
+  const sockaddr* get() const { return reinterpret_cast<const sockaddr*>(&storage); }
+};
 
 /// Asks the system in a thread that nobody waits for. Where name servers are silent the system's look-up
 /// takes a minute and cannot be stopped. Destroying this object abandons the thread, and the process can end
@@ -21,13 +31,13 @@ class HostLookup : public QObject {
   HostLookup();
   ~HostLookup() override;
 
-  /// Starts the look-up; call it once. False, without a later signal, when no descriptor or thread is
-  /// available.
-  bool start(const QString& host);
+  /// Starts the look-up of a name or a numeric address, for connections to a port; call it once. False,
+  /// without a later signal, when no descriptor or thread is available.
+  bool start(const QString& host, quint16 port);
 
  Q_SIGNALS:
   /// In the system's order; empty when the name is not known.
-  void found(const QList<QHostAddress>& addresses);
+  void found(const QList<kesto::SocketAddress>& addresses);
 
  private:
   struct Answer;

@@ -1,16 +1,9 @@
 #include "folders/soap_client.h"
 
-#include <fcntl.h>
-#include <poll.h>
-
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
-#include <QtNetwork/QNetworkProxy>
-#include <QtNetwork/QTcpSocket>
 
-#include "folders/host_lookup.h"
 #include "panel/trace.h"
-#include "platform/descriptor.h"
 #include "platform/platform.h"
 #include "platform/private_file.h"
 
@@ -19,70 +12,15 @@ namespace {
 
 constexpr std::chrono::milliseconds slice{1000};
 
-// A second descriptor of a connection. Qt reports a reset as an orderly end and has closed its own descriptor
-// by then; through this one the system still shows which of the two it was.
-class SecondDescriptor {
- public:
-  void take(const QTcpSocket& socket) {
-    m_descriptor.reset(::fcntl(static_cast<int>(socket.socketDescriptor()), F_DUPFD_CLOEXEC, 0));
-  }
-
-  bool isTaken() const { return bool(m_descriptor); }
-
-  // After an orderly end by the peer, this side can still send. True also when it cannot be known.
-  bool wasReset() const {
-    pollfd state{.fd = m_descriptor.get(), .events = 0, .revents = 0};
-    return !m_descriptor || (::poll(&state, 1, 0) > 0 && (state.revents & (POLLHUP | POLLERR)) != 0);
-  }
-
- private:
-  Descriptor m_descriptor;
-};
-
-// Connects to the first address of a host that accepts the connection.
-class Connector : public QObject {
- public:
-  explicit Connector(QTcpSocket& socket) : m_socket(socket) {}
-
-  // False when nothing can be tried. `onNoAddress` is called when the name is unknown.
-  template <class OnNoAddress>
-  bool start(const Endpoint& url, OnNoAddress onNoAddress) {
-    m_port = url.port;
-    QHostAddress numeric;
-    if (numeric.setAddress(url.host)) {
-      m_socket.connectToHost(numeric, m_port);
-      return true;
-    }
-    connect(&m_lookup, &HostLookup::found, this, [this, onNoAddress](const QList<QHostAddress>& addresses) {
-      m_addresses = addresses;
-      if (!goOn()) onNoAddress();
-    });
-    return m_lookup.start(url.host);
-  }
-
-  // Tries the next address, when the socket is done with the last one; false when there is none.
-  bool goOn() {
-    if (m_addresses.isEmpty()) return false;
-    QTimer::singleShot(
-        0, this, [this, address = m_addresses.takeFirst()] { m_socket.connectToHost(address, m_port); });
-    return true;
-  }
-
- private:
-  QTcpSocket& m_socket;
-  quint16 m_port = 0;
-  HostLookup m_lookup;
-  QList<QHostAddress> m_addresses;  // still to be tried
-};
-
-FolderFault faultOf(QAbstractSocket::SocketError error) {
-  switch (error) {
-    case QAbstractSocket::HostNotFoundError:
-      return FolderFault::NotFound;
-    case QAbstractSocket::ConnectionRefusedError:
-      return FolderFault::Refused;
-    case QAbstractSocket::RemoteHostClosedError:
+FolderFault faultOf(TcpStream::End how) {
+  switch (how) {
+    case TcpStream::End::Closed:
+    case TcpStream::End::Reset:
       return FolderFault::Closed;
+    case TcpStream::End::NotFound:
+      return FolderFault::NotFound;
+    case TcpStream::End::Refused:
+      return FolderFault::Refused;
     default:
       return FolderFault::Other;
   }
@@ -121,21 +59,10 @@ void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   m_finished = Finished::Running;
   m_fault = FolderFault::None;
   m_responseData = HttpResponse(answer_limits::bytes);
-  QTcpSocket socket;
-  socket.setProxy(QNetworkProxy::NoProxy);
-  SecondDescriptor second;
-  const QByteArray request = requestFor(body);
-  connect(&socket, &QTcpSocket::connected, this, [&] {
-    second.take(socket);
-    socket.write(request);
-  });
-  connect(&socket, &QTcpSocket::readyRead, this, [&] { connectionDidReceiveData(socket); });
-  Connector connector(socket);
-  connect(&socket, &QTcpSocket::errorOccurred, this, [&] {
-    if (second.isTaken() || !connector.goOn()) connectionDidEnd(socket, second.wasReset());
-  });
-  if (!connector.start(m_url, [this] { connectionDidFailWithError(FolderFault::NotFound); }))
-    connectionFail();
+  TcpStream stream;
+  connect(&stream, &TcpStream::received, this, &KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData);
+  connect(&stream, &TcpStream::ended, this, &KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd);
+  stream.open(m_url.host, m_url.port, requestFor(body));
   QTimer timer;
   timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);  // other timers may fire half a second early
@@ -145,8 +72,7 @@ void KestoPrintPdeVq250nJCSOAPClient::sendMessage(const QByteArray& body) {
   waitUntilFinished();
 
   timer.stop();
-  socket.disconnect(this);
-  socket.abort();
+  stream.disconnect(this);
   // Checked only now, because the waiting panel may have been destroyed in the same pass of the event loop in
   // which the exchange ended.
   if (m_finished == Finished::Cancelled) return;
@@ -183,10 +109,10 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveResponse() {
   _PDELog(m_context->controller(), "HTTP status %@", QString::number(m_responseData.status()));
 }
 
-void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData(QTcpSocket& socket) {
+void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData(const QByteArray& bytes) {
   if (m_finished != Finished::Running) return;
   const bool hadResponse = m_responseData.status() != 0;
-  m_responseData.take(socket.readAll());
+  m_responseData.take(bytes);
   if (!hadResponse && m_responseData.status() != 0) connectionDidReceiveResponse();
   if (m_responseData.isWhole()) connectionDidFinishLoading();
   if (m_responseData.isBad()) connectionDidFailWithError(FolderFault::Unreadable);
@@ -194,15 +120,14 @@ void KestoPrintPdeVq250nJCSOAPClient::connectionDidReceiveData(QTcpSocket& socke
 
 // The end of the connection completes an answer without a length. Any other error, including a reset, breaks
 // it.
-void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(QTcpSocket& socket, bool wasReset) {
-  connectionDidReceiveData(socket);
+void KestoPrintPdeVq250nJCSOAPClient::connectionDidEnd(TcpStream::End how) {
   if (m_finished != Finished::Running) return;
-  if (socket.error() == QAbstractSocket::SocketResourceError) return connectionFail();
-  if (socket.error() == QAbstractSocket::RemoteHostClosedError && !wasReset) m_responseData.end();
+  if (how == TcpStream::End::NoResources) return connectionFail();
+  if (how == TcpStream::End::Closed) m_responseData.end();
   if (m_responseData.isWhole()) {
     connectionDidFinishLoading();
   } else {
-    connectionDidFailWithError(faultOf(socket.error()));
+    connectionDidFailWithError(faultOf(how));
   }
 }
 

@@ -9,9 +9,8 @@
 #include "folders/answer_limits.h"
 #include "folders/endpoint.h"
 #include "folders/http_response.h"
+#include "folders/tcp_stream.h"
 #include "platform/panel.h"
-
-class QTcpSocket;
 
 namespace kesto {
 
@@ -68,8 +67,8 @@ class KestoPrintPdeVq250nJCSOAPClient : public QObject {
                                   std::chrono::milliseconds limit);
   QByteArray requestFor(const QByteArray& body) const;
   void connectionDidReceiveResponse();
-  void connectionDidReceiveData(QTcpSocket& socket);
-  void connectionDidEnd(QTcpSocket& socket, bool wasReset);
+  void connectionDidReceiveData(const QByteArray& bytes);
+  void connectionDidEnd(TcpStream::End how);
   void connectionFail();
   void connectionDidFinishLoading();
   void connectionDidFailWithError(FolderFault fault);

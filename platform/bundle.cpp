@@ -18,7 +18,7 @@ Bundle::Bundle(QString directory, const QLocale& locale) : m_directory(std::move
 
 QString Bundle::find(const QString& name) {
   const QString programs = QCoreApplication::applicationDirPath();
-  for (const QString& folder : {programs, programs + QStringLiteral("/../" KESTO_BUNDLE_DIR)}) {
+  for (const QString& folder : {programs, programs + QStringLiteral("/" KESTO_LIB_DIR "/pde")}) {
     const QFileInfo info(folder + u'/' + name);
     if (info.isDir()) return QDir::cleanPath(info.absoluteFilePath());
   }

@@ -1,6 +1,6 @@
 #include "platform/secret.h"
 
-#include <openssl/crypto.h>
+#include <cstring>
 
 namespace kesto {
 namespace {
@@ -11,8 +11,8 @@ void wipeOwn(Buffer& buffer) {
     // Wipes everything that is allocated, because a buffer can hold parts of a longer text around its own.
     // The text need not begin at the start of the storage, from which the capacity is counted.
     auto& storage = buffer.data_ptr();
-    OPENSSL_cleanse(storage.data() - storage.freeSpaceAtBegin(),
-                    static_cast<std::size_t>(storage.constAllocatedCapacity()) * sizeof *storage.data());
+    ::explicit_bzero(storage.data() - storage.freeSpaceAtBegin(),
+                     static_cast<std::size_t>(storage.constAllocatedCapacity()) * sizeof *storage.data());
   }
   buffer = Buffer();
 }

@@ -19,22 +19,6 @@ QString escapeOf(QChar c) {
          QString::number(c.unicode(), 16).rightJustified(isByte ? 2 : 4, u'0');
 }
 
-// Joiners stay, because several scripts need them within words.
-bool isObeyed(QChar c) {
-  constexpr char16_t nonJoiner = 0x200C;
-  constexpr char16_t joiner = 0x200D;
-  switch (c.category()) {
-    case QChar::Other_Control:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-      return true;
-    case QChar::Other_Format:
-      return c != nonJoiner && c != joiner;
-    default:
-      return false;
-  }
-}
-
 // The number of bytes at `start` that form one character in UTF-8; 0 when they do not form one.
 qsizetype lengthOfCharacter(const QByteArray& bytes, qsizetype start) {
   constexpr qsizetype longest = 4;
@@ -45,6 +29,22 @@ qsizetype lengthOfCharacter(const QByteArray& bytes, qsizetype start) {
 }
 
 }  // namespace
+
+bool isObeyed(QChar character) {
+  // Joiners stay, because several scripts need them within words.
+  constexpr char16_t nonJoiner = 0x200C;
+  constexpr char16_t joiner = 0x200D;
+  switch (character.category()) {
+    case QChar::Other_Control:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+      return true;
+    case QChar::Other_Format:
+      return character != nonJoiner && character != joiner;
+    default:
+      return false;
+  }
+}
 
 QString shownText(const QString& text) {
   QString shown;

@@ -4,8 +4,18 @@
 #include <iostream>
 
 #include "hosts/command/command_texts.h"
+#include "platform/shown_text.h"
 
 namespace kesto {
+
+QByteArray printableJson(const QJsonDocument& json, QJsonDocument::JsonFormat format) {
+  QString printable;
+  for (const QChar each : QString::fromUtf8(json.toJson(format)))
+    each != u'\n' && isObeyed(each)
+        ? printable += QStringLiteral("\\u%1").arg(each.unicode(), 4, 16, QLatin1Char('0'))
+        : printable += each;
+  return printable.toUtf8();
+}
 
 Outcome flushOutput() {
   std::cout.flush();

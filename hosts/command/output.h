@@ -1,9 +1,15 @@
-// Checks that the output of a program was written.
+// The output of a program: JSON for scripts, and whether all of it was written.
 #pragma once
+
+#include <QtCore/QJsonDocument>
 
 #include "platform/outcome.h"
 
 namespace kesto {
+
+/// JSON for standard output or a terminal, where characters that a terminal would obey are escaped as well.
+QByteArray printableJson(const QJsonDocument& json,
+                         QJsonDocument::JsonFormat format = QJsonDocument::Compact);
 
 /// Fails when anything that was printed could not be written to standard output.
 Outcome flushOutput();

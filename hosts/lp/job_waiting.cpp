@@ -5,6 +5,7 @@
 #include <QtCore/QJsonObject>
 #include <iostream>
 
+#include "hosts/command/output.h"
 #include "hosts/lp/lp_texts.h"
 #include "platform/shown_text.h"
 
@@ -60,8 +61,7 @@ QString nameOf(const SentJob& job) {
 void print(const Options& options, const SentJob& job, const JobFate& fate) {
   if (options.silent) return;
   if (options.json) {
-    std::cout << QJsonDocument(objectOf(job.number, fate)).toJson(QJsonDocument::Compact).constData()
-              << std::endl;
+    std::cout << printableJson(QJsonDocument(objectOf(job.number, fate))).constData() << std::endl;
   } else if (!fate.isEnd || fate.isSuccess()) {
     std::cout << nameOf(job).toStdString() << ": " << fate.line().toStdString() << std::endl;
   }

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <iterator>
 
+#include "hosts/command/output.h"
 #include "hosts/cups/job_privacy.h"
 #include "hosts/cups/ppd_file.h"
 #include "hosts/lp/lp_texts.h"
@@ -76,7 +77,7 @@ Outcome keepJobHandling(PrintServer& server, std::vector<QueueSummary>* queues) 
 }
 
 Outcome printArray(const QJsonArray& array) {
-  std::cout << QJsonDocument(array).toJson().constData();
+  std::cout << printableJson(QJsonDocument(array), QJsonDocument::Indented).constData();
   return Outcome::done();
 }
 
@@ -86,7 +87,7 @@ Outcome printPairs(const QMap<QString, QString>& pairs, const char* separator, b
   if (json) {
     for (auto it = pairs.begin(); it != pairs.end(); ++it)
       facts.insert(it.key(), it.value());
-    std::cout << QJsonDocument(facts).toJson().constData();
+    std::cout << printableJson(QJsonDocument(facts), QJsonDocument::Indented).constData();
     return Outcome::done();
   }
   for (auto it = pairs.begin(); it != pairs.end(); ++it) {
@@ -153,7 +154,7 @@ void printPrivacy(const QString& queue, const JobPrivacy& privacy, bool json) {
                              {QStringLiteral("policy"), privacy.policy},
                              {QStringLiteral("shown"), QJsonArray::fromStringList(privacy.shown)},
                              {QStringLiteral("closedBy"), QJsonArray::fromStringList(lines)}};
-    std::cout << QJsonDocument(object).toJson().constData();
+    std::cout << printableJson(QJsonDocument(object), QJsonDocument::Indented).constData();
     return;
   }
   const auto say = [](const QString& line) { std::cout << shownText(line).toStdString() << '\n'; };

@@ -4,6 +4,7 @@
 #include <QtCore/QJsonObject>
 #include <iostream>
 
+#include "hosts/command/output.h"
 #include "hosts/lp/lp_texts.h"
 #include "platform/shown_text.h"
 
@@ -12,7 +13,7 @@ namespace {
 
 void printObject(const char* member, const QString& text) {
   const QJsonObject object{{QLatin1String(member), text}};
-  std::cerr << QJsonDocument(object).toJson(QJsonDocument::Compact).constData() << '\n';
+  std::cerr << printableJson(QJsonDocument(object)).constData() << '\n';
 }
 
 }  // namespace

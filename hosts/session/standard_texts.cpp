@@ -269,7 +269,12 @@ QString standardText(const QString& option, const QString& value) {
 }
 
 QString plainName(const QString& name) {
-  return name.toLower().remove(u'-').remove(u'_').remove(u' ');
+  QString plain;
+  plain.reserve(name.size());
+  for (const QChar each : name) {
+    if (each != u'-' && each != u'_' && each != u' ') plain.append(each.toLower());
+  }
+  return plain;
 }
 
 QStringList standardNames(const QString& option, const QString& value) {

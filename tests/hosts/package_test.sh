@@ -35,14 +35,20 @@ expect() {
 }
 
 mkdir "$scratch/made"
-cp -R "$(dirname "$0")/../../debian" "$scratch/made"
-make_packages() (cd "$scratch/made" && DEB_BUILD_OPTIONS=noautodbgsym debian/rules binary "BUILD=$build")
+source=$(dirname "$0")/../..
+cp -R "$source"/{debian,docs,README.md} "$scratch/made"
+make_packages() (cd "$scratch/made" && DEB_BUILD_OPTIONS=noautodbgsym debian/rules binary "PREBUILT=$build")
 expect "the packages are made" 'building package' make_packages
 fails() { ! "$@"; }
+version=$("$build/bin/kesto-lp" --version)
+version=${version##* }
+expect "the changelog's version" "^## ${version//./\\.} " grep -m1 '^## ' "$source/CHANGELOG.md"
+expect "the packages' version" "\\(${version//./\\.}\\)" head -1 "$source/debian/changelog"
+expect "the description's version" "\"${version//./\\.}\"" grep -m1 '<release ' "$source/packaging/org.kesto.print.metainfo.xml"
 packages=("$scratch"/kesto-job-handling_*.deb "$scratch"/kesto-job-handling-portal_*.deb)
-expect "lintian finds no error" '' lintian --fail-on error "${packages[@]}"
+expect "lintian finds nothing" '' lintian --fail-on error,warning "${packages[@]}"
 expect "the stores' description is valid" '' appstreamcli validate --no-net \
-  "$(dirname "$0")/../../packaging/org.kesto.print.metainfo.xml"
+  "$source/packaging/org.kesto.print.metainfo.xml"
 exported() { nm -D --defined-only "$1" | c++filt | grep -vE ' (.* (for|to) )?kesto::'; }
 expect "the library exports its own names only" '^$' fails exported "$build/lib/libkestopde.so"
 
@@ -71,7 +77,7 @@ mv "$bundle.away" "$bundle"
 share=$root/usr/share
 name=$(sed -n 's/^DBusName=//p' "$share/xdg-desktop-portal/portals/00-kesto.portal")
 expect "the bus knows the portal's name" "^Name=$name$" cat "$share/dbus-1/services/$name.service"
-for file in "$share/dbus-1/services/$name.service" "$root/usr/lib/systemd/user/kesto-portal.service"; do
+for file in "$share/dbus-1/services/$name.service" "$share/systemd/user/kesto-portal.service"; do
   expect "$file names the program" '' test -x "$root$(sed -nE 's/^Exec(Start)?=//p' "$file")"
 done
 expect "the dialog is beside the service" '' test -x "$bin/kesto-print"

@@ -39,7 +39,7 @@ bool isWholePdfFile(const QString& path) {
 
 // It lies beside ours, in a build as in an installation.
 QString imageProgram() {
-  return QCoreApplication::applicationDirPath() + QStringLiteral("/../libexec/kesto/kesto-draw-image");
+  return QCoreApplication::applicationDirPath() + QStringLiteral("/" KESTO_LIBEXEC_DIR "/kesto-draw-image");
 }
 
 DocumentExaminer::DocumentExaminer() {

@@ -12,6 +12,7 @@
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/translations.h"
 #include "hosts/dialog/user/dialog_user.h"
+#include "hosts/dialog/widgets/accent_color.h"
 #include "hosts/dialog/widgets/queue_list_model.h"
 
 namespace kesto {
@@ -105,5 +106,6 @@ int main(int argc, char** argv) {
     return kesto::endOfOutput("kesto-print-tour", *end);
   const QApplication application(argc, argv);
   kesto::installTranslations();
+  kesto::makeTextsLegible();
   return kesto::endOfOutput("kesto-print-tour", kesto::run(options));
 }
