@@ -1,5 +1,6 @@
 #include "hosts/cups/auth_info.h"
 
+#include <array>
 #include <vector>
 
 #include "platform/secret.h"
@@ -9,7 +10,7 @@ namespace {
 
 // None for a printer that asks for nothing, or for a ticket, which the scheduler takes from the connection.
 QStringList wantedBy(ipp_t* printer) {
-  QStringList wanted = textsOf(ippFindAttribute(printer, "auth-info-required", IPP_TAG_KEYWORD));
+  QStringList wanted = textsOf(ippFindAttribute(printer, authInfoRequired, IPP_TAG_KEYWORD));
   return wanted.contains(QStringLiteral("password")) ? wanted : QStringList();
 }
 
@@ -45,8 +46,7 @@ Outcome findAuthInfo(PrintServer& server, const QString& queue, ipp_t* printer, 
 Outcome authenticateJob(PrintServer& server, const SentJob& job, bool* isDeclined) {
   const QByteArray uri = uriOfQueue(job.queue);
   const Ipp question = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uri);
-  ippAddString(question.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-               "auth-info-required");
+  askFor(question.get(), std::array{authInfoRequired});
   Ipp printer;
   if (Outcome asked = server.order(question.get(), "/", &printer); !asked) return asked;
   const QStringList wanted = wantedBy(printer.get());

@@ -6,6 +6,9 @@
 
 namespace kesto {
 
+/// The attribute in which a printer names what it wants to know.
+inline constexpr char authInfoRequired[] = "auth-info-required";
+
 /// Finds the values of the attribute "auth-info" for a job on a queue, whose attributes `printer` has: what
 /// "auth-info-required" names, kept or asked from the user. Empty when nothing has to be asked. Fails when
 /// the user gives no answer.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 #include "hosts/cups/bounds.h"
 
@@ -78,10 +79,10 @@ void IppChoices::askForAttributes(ipp_t* request) {
   names.append(mediaDefault);
   for (const char* margin : margins)
     names.append(margin);
-  ipp_attribute_t* wanted = ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                                          static_cast<int>(names.size()), nullptr, nullptr);
-  for (int i = 0; i < names.size(); ++i)
-    ippSetString(request, &wanted, i, names.at(i).constData());
+  std::vector<const char*> wanted;
+  for (const QByteArray& each : names)
+    wanted.push_back(each.constData());
+  askFor(request, wanted);
 }
 
 IppChoices::IppChoices(ipp_t* printer) {

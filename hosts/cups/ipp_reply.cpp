@@ -124,6 +124,11 @@ QStringList textsOf(ipp_attribute_t* attribute) {
   return texts;
 }
 
+void askFor(ipp_t* request, std::span<const char* const> attributes) {
+  ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                static_cast<int>(attributes.size()), nullptr, attributes.data());
+}
+
 QByteArray bytesOfRequest(ipp_t* request) {
   QByteArray bytes;
   bytes.reserve(static_cast<qsizetype>(ippLength(request)));  // growing would leave copies of what is secret

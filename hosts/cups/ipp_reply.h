@@ -1,4 +1,4 @@
-// IPP replies from untrusted bytes.
+// IPP requests, and replies from untrusted bytes.
 #pragma once
 
 #include <cups/cups.h>
@@ -6,6 +6,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QStringList>
 #include <memory>
+#include <span>
 
 #include "platform/outcome.h"
 
@@ -27,6 +28,9 @@ Outcome readReply(const QByteArray& bytes, Ipp* reply);
 
 /// The texts of an attribute, in their order; none for a null one.
 QStringList textsOf(ipp_attribute_t* attribute);
+
+/// Names the attributes that the reply to a request should have, and no others.
+void askFor(ipp_t* request, std::span<const char* const> attributes);
 
 /// The bytes of a request as they are sent; empty when libcups cannot write it.
 QByteArray bytesOfRequest(ipp_t* request);

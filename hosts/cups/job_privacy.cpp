@@ -61,7 +61,7 @@ Outcome createJob(PrintServer& server, const QString& queue, std::span<const Opt
   return Outcome::done();
 }
 
-Outcome cancelJob(PrintServer& server, const QString& queue, int job) {
+Outcome purgeJob(PrintServer& server, const QString& queue, int job) {
   const Ipp request = requestTo(IPP_OP_CANCEL_JOB, uriOfQueue(queue), job);
   ippAddBoolean(request.get(), IPP_TAG_OPERATION, "purge-job", 1);
   Ipp reply;
@@ -98,8 +98,7 @@ Outcome lookAtJob(PrintServer& server, const QString& queue, int job, std::span<
 
 Outcome askForPolicy(PrintServer& server, const QString& queue, QString* policy) {
   const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uriOfQueue(queue));
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-               "printer-op-policy");
+  askFor(request.get(), std::array{"printer-op-policy"});
   Ipp reply;
   if (Outcome asked = server.request(request.get(), &reply); !asked) return asked;
   ipp_attribute_t* name = ippFindAttribute(reply.get(), "printer-op-policy", IPP_TAG_NAME);
@@ -121,7 +120,7 @@ Outcome findJobPrivacy(PrintServer& server, const QString& queue, JobPrivacy* pr
   int job = 0;
   if (Outcome created = createJob(server, queue, options, &job); !created) return created;
   Outcome looked = lookAtJob(server, queue, job, options, &privacy->shown);
-  Outcome cancelled = cancelJob(server, queue, job);
+  Outcome cancelled = purgeJob(server, queue, job);
   return looked ? cancelled : looked;
 }
 

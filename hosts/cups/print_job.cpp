@@ -7,6 +7,7 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QMimeDatabase>
+#include <array>
 #include <cerrno>
 
 #include "hosts/cups/auth_info.h"
@@ -148,8 +149,7 @@ class OpenJob {
   // Finds out what the printer wants to know of the user. The job may be refused even so.
   Outcome prepare() {
     const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, m_uri);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-                 "auth-info-required");
+    askFor(request.get(), std::array{authInfoRequired});
     Ipp reply;
     Outcome asked = m_server.order(request.get(), m_resource, &reply);
     return reply ? findAuthInfo(m_server, m_queue, reply.get(), &m_authInfo) : asked;
@@ -206,8 +206,7 @@ class OpenJob {
     if (ippGetStatusCode(reply) != IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS)
       return Outcome::failed(Faults::tr("the print server refused the job: %1").arg(created.reason()));
     const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, m_uri);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-                 "printer-state-message");
+    askFor(request.get(), std::array{"printer-state-message"});
     Ipp state;
     (void)m_server.order(request.get(), m_resource, &state);
     const QString why = QString::fromUtf8(

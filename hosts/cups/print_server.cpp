@@ -69,12 +69,11 @@ void askForSummary(ipp_t* request) {
                                       "printer-is-accepting-jobs",
                                       "printer-location",
                                       "queued-job-count"};
-  ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", std::size(shown),
-                nullptr, shown);
+  askFor(request, shown);
 }
 
 void askForName(ipp_t* request) {
-  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "printer-name");
+  askFor(request, std::array{"printer-name"});
 }
 
 QByteArray nameOf(ipp_t* reply) {

@@ -5,6 +5,8 @@
 #include <array>
 #include <functional>
 
+#include "hosts/cups/ipp_reply.h"
+
 namespace kesto {
 namespace {
 
@@ -138,8 +140,7 @@ bool describesQueue(const QByteArray& option) {
 }
 
 void askForOptions(ipp_t* request) {
-  ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", description.size(),
-                nullptr, description.data());
+  askFor(request, description);
 }
 
 void addServersOptions(ipp_t* reply, cups_dest_t* destination) {

@@ -2,7 +2,7 @@
 
 #include <QtCore/QRegularExpression>
 
-#include <span>
+#include <array>
 
 #include "hosts/cups/faults.h"
 #include "hosts/cups/option_array.h"
@@ -25,8 +25,7 @@ Ipp requestAbout(const SentJob& job, ipp_op_t operation) {
 Outcome findOnQueue(PrintServer& server, const SentJob& job) {
   if (job.queue.isNull()) return Outcome::done();
   const Ipp request = requestAbout(job, IPP_OP_GET_JOB_ATTRIBUTES);
-  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-               "job-printer-uri");
+  askFor(request.get(), std::array{"job-printer-uri"});
   Ipp reply;
   if (Outcome asked = server.ask(request.get(), &reply); !asked) return asked;
   ipp_attribute_t* printer = ippFindAttribute(reply.get(), "job-printer-uri", IPP_TAG_URI);
@@ -56,11 +55,6 @@ class Attributes {
   ipp_attribute_t* find(const char* name) const { return ippFindAttribute(m_reply, name, IPP_TAG_ZERO); }
   ipp_t* m_reply;
 };
-
-void askFor(ipp_t* request, std::span<const char* const> attributes) {
-  ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                static_cast<int>(attributes.size()), nullptr, attributes.data());
-}
 
 Outcome askAboutPrinter(PrintServer& server, const SentJob& job, JobReport* report) {
   static constexpr const char* asked[] = {"printer-state", "printer-state-reasons", "printer-state-message"};

@@ -50,8 +50,7 @@ QStringList furtherOptions(const JobOptions& options) {
   for (const char* each : others)
     known.append(keyOf(QLatin1String(each), options.ofQueue()));
   QStringList further;
-  for (const OptionGroup group :
-       {OptionGroup::General, OptionGroup::Layout, OptionGroup::Job, OptionGroup::More}) {
+  for (const OptionGroup group : optionGroups) {
     for (const OfferedOption& each : offeredOptions(options, group)) {
       if (options.isOfQueue(each.key) && !known.contains(each.key)) further.append(each.key);
     }

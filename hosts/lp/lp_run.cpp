@@ -96,7 +96,7 @@ Outcome readSecrets(const Options& options, Entries* entries) {
   return Outcome::done();
 }
 
-// One job on a queue that offers the panel, which is open.
+// One job on a queue that is open, with the panel if the queue offers it.
 class Job {
  public:
   Job(const Options& options, PanelSession& session, PrintServer* server)
@@ -127,6 +127,7 @@ class Job {
 };
 
 Outcome Job::enter(const Entries& entries) {
+  if (m_session.panel() == nullptr) return Outcome::done();
   if (Outcome applied = applyEntries(*m_session.view(), entries); !applied) return applied;
   if (isUnfiled())
     m_options.messages().warning(LpTexts::tr("--folder has no effect: this printer files no documents"));
@@ -183,7 +184,8 @@ PanelStart startOf(const Options& options) {
   const bool isNamed = options.title || !options.files.isEmpty() || options.task == Task::Print;
   return {.jobName = isNamed ? std::optional(titleOf(options)) : std::nullopt,
           .preset = options.preset,
-          .keepsAside = options.task == Task::DryRun};
+          .keepsAside = options.task == Task::DryRun,
+          .ignoresRaw = options.task == Task::ListFolders};
 }
 
 // What kesto-lp ends with once the job is sent, or could not be.
@@ -195,12 +197,28 @@ ExitCode endOfJob(const Options& options, const Outcome& outcome, const SentJob&
   return end == ExitDone ? waited : end;
 }
 
+// The end when there is no panel for what is wanted of it; none for a job that prints as usual.
+std::optional<ExitCode> refuseWithoutPanel(const Options& options, const PanelSession& session) {
+  if (session.panel() != nullptr) return std::nullopt;
+  const bool isList = options.task == Task::ListFolders;
+  if (!isList && session.options().goesRaw()) {
+    if (!options.wantsPanel() && !options.preset && !options.savePreset) return std::nullopt;
+    const QString fault = LpTexts::tr("a raw job bypasses the driver, and Job Handling with it");
+    return ended(options, Outcome::failed(fault), ExitUsage);
+  }
+  if (!isList && !options.wantsPanel()) return std::nullopt;
+  return ended(options,
+               Outcome::failed(
+                   LpTexts::tr("the printer \"%1\" does not offer Job Handling").arg(session.queue()->id)));
+}
+
 ExitCode runJob(Options& options, JobQueue queue) {
   StandardErrorAlerts alerts(options.messages());
   PanelSession session(alerts);
   session.options().set(JobOptions::Source::Given, options.jobOptions);
   if (Outcome opened = session.open(std::move(queue.queue), startOf(options)); !opened)
     return ended(options, opened);
+  if (const auto end = refuseWithoutPanel(options, session)) return *end;
   if (options.task == Task::ListFolders) {
     const Outcome listed = listFolders(session, options);
     if (alerts.wasShown && listed) return ExitFailed;
@@ -208,6 +226,7 @@ ExitCode runJob(Options& options, JobQueue queue) {
       options.messages().warning(kept.reason());
     return ended(options, listed);
   }
+  if (Outcome read = readSecrets(options, &options.entries); !read) return ended(options, read);
   Job job(options, session, queue.server.get());
   const Outcome entered = job.enter(options.entries);
   // The panel has them now, in their stored forms; an upload can take long.
@@ -217,23 +236,6 @@ ExitCode runJob(Options& options, JobQueue queue) {
   if (!entered) return ended(options, entered, ExitRefused);
   const Outcome finished = job.finish();
   return endOfJob(options, finished, job.sent(), session.settings());
-}
-
-// A queue without the panel prints as usual, and so does a job that the panel's driver never sees.
-ExitCode runPlainJob(const Options& options, const JobOptions& job, const JobQueue& queue) {
-  if (goesRaw(job) && options.wantsPanel()) {
-    const QString fault = LpTexts::tr("a raw job bypasses the driver, and Job Handling with it");
-    return ended(options, Outcome::failed(fault), ExitUsage);
-  }
-  if (options.task == Task::ListFolders || options.wantsPanel()) {
-    return ended(
-        options,
-        Outcome::failed(LpTexts::tr("the printer \"%1\" does not offer Job Handling").arg(queue.queue.id)));
-  }
-  if (options.task == Task::DryRun) return ended(options, printPairs({}, "=", options.json));
-  SentJob sent{.queue = queue.queue.id};
-  const Outcome submitted = submit(*queue.server, sent.queue, options, job, {}, &sent.number);
-  return endOfJob(options, submitted, sent, {});
 }
 
 ExitCode runPresets(const Options& options) {
@@ -284,13 +286,6 @@ ExitCode run(Options& options) {
   if (options.task == Task::Check) return runCheck(options);
   JobQueue queue;
   if (Outcome found = findQueue(options, &queue); !found) return ended(options, found);
-  const PpdFile& ppd = queue.queue.ppd;
-  JobOptions job;
-  job.set(JobOptions::Source::Given, options.jobOptions);
-  job.openFor(queue.queue);
-  const bool isRaw = options.task != Task::ListFolders && goesRaw(job);
-  if (isRaw || !ppd || !offersJobHandling(*ppd)) return runPlainJob(options, job, queue);
-  if (Outcome read = readSecrets(options, &options.entries); !read) return ended(options, read);
   return runJob(options, std::move(queue));
 }
 

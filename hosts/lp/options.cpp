@@ -322,7 +322,7 @@ QString CommandLine::faultOfAll() const {
 
 bool Options::wantsPanel() const {
   const bool wantsSecret = std::ranges::any_of(secrets, &SecretSource::isGiven);
-  return wantsSecret || entries != Entries() || summary || preset || savePreset;
+  return wantsSecret || entries != Entries() || summary;
 }
 
 bool wantsJson(int argc, const char* const* argv) {

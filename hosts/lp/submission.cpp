@@ -8,6 +8,7 @@
 #include <iostream>
 
 #include "hosts/command/held_signals.h"
+#include "hosts/command/output.h"
 #include "hosts/cups/option_array.h"
 #include "hosts/lp/lp_texts.h"
 #include "platform/shown_text.h"
@@ -47,7 +48,7 @@ PrintJob jobOf(const Options& options, const QString& queue, const JobOptions& g
   PrintJob job{.title = titleOf(options),
                .files = {},
                .options = isPrinterUri(queue) ? given.travelling() : given.asGiven()};
-  job.isRaw = goesRaw(given);
+  job.isRaw = given.goesRaw();
   for (const QByteArray& file : options.files)
     job.files.push_back({.path = file});
   if (options.mail) {
@@ -68,11 +69,6 @@ QString titleOf(const Options& options) {
   return first == "-" ? QStringLiteral("(stdin)") : shownFileName(first);
 }
 
-bool goesRaw(const JobOptions& job) {
-  const OptionArray options(job.asGiven());
-  return options.has("raw") || QByteArray(options.value("document-format")) == CUPS_FORMAT_RAW;
-}
-
 Outcome submit(PrintServer& server, const QString& queue, const Options& options, const JobOptions& given,
                const QMap<QString, QString>& settings, int* id, QJsonObject facts) {
   const PrintJob job = jobOf(options, queue, given, settings);
@@ -91,7 +87,7 @@ Outcome submit(PrintServer& server, const QString& queue, const Options& options
   if (options.silent) return Outcome::done();
   if (options.json) {
     facts.insert(QStringLiteral("job"), *id);
-    std::cout << QJsonDocument(facts).toJson(QJsonDocument::Compact).constData() << '\n';
+    std::cout << printableJson(QJsonDocument(facts)).constData() << '\n';
   } else {
     const std::size_t files = std::max(std::size_t{1}, job.files.size());
     std::cout << "request id is " << shownText(queue).toStdString() << '-' << *id << " (" << files

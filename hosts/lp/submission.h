@@ -12,9 +12,6 @@ namespace kesto {
 /// The job's own name: the one that was given, else that of its first file, else one for standard input.
 QString titleOf(const Options& options);
 
-/// Whether the job goes past the queue's driver, by an option that is given or kept for the queue.
-bool goesRaw(const JobOptions& job);
-
 /// Sends the job that the options describe with the panel's settings (none without a panel), shows the
 /// progress of a long upload at a terminal, and stores the job's number in `*id`. Also prints the number, in
 /// JSON together with `facts`, unless the options ask for silence.

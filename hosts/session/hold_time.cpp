@@ -6,12 +6,14 @@
 namespace kesto {
 namespace {
 
-// The next moment at which it is that time, by the day of that clock; daylight saving may change
+// The next moment at which it is that time, by the day of the clock of `now`; daylight saving may change
 // between now and then.
-QDateTime nextAt(const QTime& time, Qt::TimeSpec clock) {
-  const QDateTime now = QDateTime::currentDateTimeUtc().toTimeSpec(clock);
-  QDateTime next(now.date(), time, clock);
-  if (next < now) next = QDateTime(now.date().addDays(1), time, clock);
+QDateTime nextAt(const QTime& time, const QDateTime& now) {
+  QDateTime next = now;
+  next.setTime(time);
+  if (next >= now) return next;
+  next = now.addDays(1);
+  next.setTime(time);
   return next;
 }
 
@@ -27,15 +29,16 @@ QTime timeFrom(const QString& text, std::initializer_list<QString> forms) {
 
 QTime holdTimeFrom(const QString& value) {
   const QTime time = timeFrom(value, {QStringLiteral("H:mm"), QStringLiteral("H:mm:ss")});
-  return time.isValid() ? nextAt(time, Qt::UTC).toLocalTime().time() : time;
+  return time.isValid() ? nextAt(time, QDateTime::currentDateTimeUtc()).toLocalTime().time() : time;
 }
 
 QString holdValueOf(const QString& text) {
   QTime time = timeFrom(text, {QStringLiteral("H:mm"), QStringLiteral("H:mm:ss"), QStringLiteral("h:mm ap"),
                                QStringLiteral("h ap")});
   if (!time.isValid()) time = QLocale().toTime(text.simplified(), QLocale::ShortFormat);
-  return time.isValid() ? nextAt(time, Qt::LocalTime).toUTC().toString(QStringLiteral("HH:mm:ss"))
-                        : QString();
+  return time.isValid()
+             ? nextAt(time, QDateTime::currentDateTime()).toUTC().toString(QStringLiteral("HH:mm:ss"))
+             : QString();
 }
 
 QString shownHoldTime(const QTime& time) {

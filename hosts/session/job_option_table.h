@@ -29,6 +29,8 @@ inline constexpr int mostPercent = 800;
 
 /// Where a dialog shows it. The last group also has the PPD's options that no row knows.
 enum class OptionGroup { General, Layout, Job, More };
+inline constexpr std::array optionGroups{OptionGroup::General, OptionGroup::Layout, OptionGroup::Job,
+                                         OptionGroup::More};
 
 /// One option. It is the queue's own where the PPD has an option of the key, else one of the job's alone.
 struct OptionRow {

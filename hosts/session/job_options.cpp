@@ -287,6 +287,11 @@ QMap<QString, QString> JobOptions::asGiven() const {
   return options.all();
 }
 
+bool JobOptions::goesRaw() const {
+  const OptionArray options(asGiven());
+  return options.has("raw") || QByteArray(options.value("document-format")) == CUPS_FORMAT_RAW;
+}
+
 QMap<QString, QString> JobOptions::ofPreset() const {
   QMap<QString, QString> options = apart();
   options.removeIf([this](const auto& each) {

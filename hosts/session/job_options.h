@@ -89,6 +89,8 @@ class JobOptions : public QObject {
   /// What travels, as the usual print command sends it: all that was kept or given, in the words that
   /// gave it.
   QMap<QString, QString> asGiven() const;
+  /// Whether the job goes past the queue's driver, by an option that is given or kept for the queue.
+  bool goesRaw() const;
   /// What a preset keeps of them: known options, by the name that travels, but not what is kept for the
   /// queue.
   QMap<QString, QString> ofPreset() const;

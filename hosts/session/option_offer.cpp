@@ -113,8 +113,7 @@ Headline headlineOf(const JobOptions& options, OptionGroup group) {
 
 QList<SummaryLine> summaryOf(const JobOptions& options) {
   QList<SummaryLine> lines;
-  for (const OptionGroup group :
-       {OptionGroup::General, OptionGroup::Layout, OptionGroup::Job, OptionGroup::More}) {
+  for (const OptionGroup group : optionGroups) {
     for (const OfferedOption& each : offeredOptions(options, group)) {
       const bool differs = isOther(options, each.key);
       if (options.isIdle(each.key) || (group == OptionGroup::More && !differs)) continue;

@@ -21,7 +21,10 @@ Outcome PanelSession::open(Queue queue, const PanelStart& start) {
   m_options.openFor(*m_queue);
   m_presets.emplace(m_defaults, m_queue->id);
   m_shelf.emplace(m_defaults, m_queue->id);
-  return m_queue->ppd && offersJobHandling(*m_queue->ppd) ? openPanel(start) : Outcome::done();
+  const bool isRaw = !start.ignoresRaw && m_options.goesRaw();
+  Outcome opened = Outcome::done();
+  if (!isRaw && m_queue->ppd && offersJobHandling(*m_queue->ppd)) opened = openPanel(start);
+  return opened && start.preset && !isRaw ? restorePreset(*start.preset) : opened;
 }
 
 Outcome PanelSession::openPanel(const PanelStart& start) {
@@ -33,13 +36,7 @@ Outcome PanelSession::openPanel(const PanelStart& start) {
   m_host->settings.emplace().setJobName(start.jobName);
   if (Outcome opened = m_host->openShownPanel(*m_plugIn); !opened) return opened;
   m_options.leaveToPanel(panel()->supportedPPDOptionKeys());
-  if (start.preset) {
-    Preset preset;
-    Outcome restored = restorePreset(*start.preset, &preset);
-    m_options.set(JobOptions::Source::Preset, preset.options.value_or(QMap<QString, QString>()));
-    return restored;
-  }
-  restorePanel(*m_host, {});
+  if (!start.preset) restorePanel(*m_host, {});
   return Outcome::done();
 }
 
@@ -90,9 +87,11 @@ Outcome PanelSession::outcomeOfFetch() {
   return kept ? kept : Outcome::failed(Faults::tr("cannot remember the folders: %1").arg(kept.reason()));
 }
 
-Outcome PanelSession::restorePreset(const QString& name, Preset* preset) {
-  if (Outcome loaded = m_presets->load(name, model(), preset); !loaded) return loaded;
-  restorePanel(*m_host, *preset);
+Outcome PanelSession::restorePreset(const QString& name) {
+  Preset preset;
+  if (Outcome loaded = m_presets->load(name, model(), &preset); !loaded) return loaded;
+  if (m_host) restorePanel(*m_host, preset);
+  m_options.set(JobOptions::Source::Preset, preset.options.value_or(QMap<QString, QString>()));
   return Outcome::done();
 }
 

@@ -19,6 +19,7 @@ struct PanelStart {
   std::optional<QString> jobName;      ///< None for a job that has none.
   std::optional<QString> preset = {};  ///< To restore, of the queue.
   bool keepsAside = false;             ///< What the panel remembers before `remember` is not stored.
+  bool ignoresRaw = false;             ///< The panel is wanted for something else than a job.
 };
 
 /// One queue at a time, with its panel where the queue offers one.
@@ -28,8 +29,9 @@ class PanelSession {
   explicit PanelSession(AlertPresenter& alerts) : m_alerts(alerts) {}
 
   /// Goes over to a queue: the job's options are open for it, and its panel is made, restored and ready to be
-  /// shown. When there is none to be had the queue is open without it, and the outcome says why. It also
-  /// fails on a preset that cannot be loaded.
+  /// shown. When there is none to be had the queue is open without it, and the outcome says why. A raw job
+  /// has no panel, since it goes past the driver, and no preset. It also fails on a preset that cannot be
+  /// loaded.
   Outcome open(Queue queue, const PanelStart& start);
   /// Lets go of the panel and the queue. Ends what the panel is waiting for.
   void release();
@@ -95,7 +97,7 @@ class PanelSession {
     QMap<QString, QString> entries;
   };
 
-  Outcome restorePreset(const QString& name, Preset* preset);
+  Outcome restorePreset(const QString& name);
   QStringList take(const Preset& preset);
   ActivePreset activeAs(const QString& name) const;
   QString model() const;

@@ -139,6 +139,8 @@ TEST_F(LpEntries, SettingsOrSummaryAsLinesOrJson) {
     EXPECT_EQ(dryRun(file).values(value), value);
   EXPECT_EQ(dryRun(arguments + u"--summary"_s).out,
             u"Hold mode: Sample print\nJob name: offer\nRetention: On\nUser name: ann\n"_s);
+  const QString controls = dryRun(u"--preset x\u009b31m\u202e --json"_s).err;
+  EXPECT_TRUE(controls.contains(u"x\\u009b31m\\u202e"_s)) << controls;
 }
 
 TEST_F(LpEntries, AFolderOfThePrinterIsFoundByItsName) {

@@ -48,6 +48,18 @@ TEST_F(PrintTest, ARefusedJobNeverReachesTheScheduler) {
   expectRefused(u"DOCUMENT"_s, 1, u"no default printer is set; choose one with -d"_s);
 }
 
+TEST_F(PrintTest, APresetServesAQueueWithoutThePanelToo) {
+  addQueue(u"Plain"_s, "*APDialogExtension", "*% none");
+  const QString printer = ofPrintSystem(u"lpstat -v Office_MFP"_s).trimmed().section(u' ', -1);
+  ofPrintSystem(u"/usr/sbin/lpadmin -p Plain -v "_s + printer);
+  recordFilter();
+  expectPrinted(u"-d Plain --save-preset folded -o sides=two-sided-short-edge DOCUMENT"_s);
+  expectPrinted(u"-d Plain --preset folded DOCUMENT"_s);
+  waitFor([&] { return filterArguments(2).value(4).contains(u"Duplex=DuplexTumble"_s); });
+  expectRefused(u"-d Plain --preset folded -o raw DOCUMENT"_s, 2,
+                u"a raw job bypasses the driver, and Job Handling with it"_s);
+}
+
 TEST_F(PrintTest, EntriesAreKeptOnceTheJobIsSent) {
   const QString job = u"--hold only --pin 1234 --remember pin --save-preset p DOCUMENT -"_s;
   const auto kept = [this] {
