@@ -13,6 +13,7 @@
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/start_times.h"
 #include "hosts/dialog/translations.h"
+#include "hosts/dialog/widgets/accent_color.h"
 #include "platform/shown_text.h"
 
 namespace kesto {
@@ -105,6 +106,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("kesto-print"));
   QApplication::setDesktopFileName(QStringLiteral("kesto-print"));
   kesto::installTranslations();
+  kesto::makeTextsLegible();
   kesto::allowManyFiles();
   kesto::removeLeftCopies();
   const int code = options.channel >= 0 ? kesto::runForPortal(options) : kesto::run(application, options);

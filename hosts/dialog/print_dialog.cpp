@@ -85,6 +85,9 @@ void PrintDialog::showOpening() {
   } else if (m_opening.state() == QueueOpening::State::Open) {
     text = QueueListModel::stateText(m_opening.summary());
     kind = QueueListModel::stateKind(m_opening.summary());
+  } else if (m_opening.state() == QueueOpening::State::Gone) {
+    text = tr("The print server no longer has this printer. It may have been removed.");
+    kind = Kind::Attention;
   }
   m_chooser->showState(text, kind);
   m_chooser->showDetails(m_opening.summary());

@@ -1,6 +1,6 @@
 // The parts of the print dialog, where they stand and what they call.
+#include <QtCore/QEvent>
 #include <QtGui/QShortcut>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -36,7 +36,6 @@ QLabel* labelFor(QWidget* field, const QString& text) {
 void PrintDialog::build() {
   setWindowTitle(tr("Print"));
   chooseSelectedItems();
-  setPalette(legibleTexts(QApplication::palette()));
   auto* sideBox = new QWidget(this);
   auto* side = new QVBoxLayout(sideBox);
   side->setContentsMargins({});
@@ -60,9 +59,7 @@ void PrintDialog::build() {
 
 void PrintDialog::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  const bool isOfColors =
-      event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange;
-  if (isOfColors) setPalette(legibleTexts(QApplication::palette()));  // the same again changes nothing
+  if (event->type() == QEvent::ApplicationPaletteChange) makeTextsLegible();  // a second time changes nothing
 }
 
 QWidget* PrintDialog::makeHead() {

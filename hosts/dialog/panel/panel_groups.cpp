@@ -7,6 +7,7 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QVBoxLayout>
 
+#include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/plain_text.h"
 
 namespace kesto {
@@ -15,9 +16,7 @@ namespace {
 QLabel* makeHeading(QWidget* parent) {
   auto* heading = new QLabel(parent);
   heading->setTextFormat(Qt::PlainText);
-  QFont bold = heading->font();
-  bold.setBold(true);
-  heading->setFont(bold);
+  heading->setFont(boldOf(heading->font()));
   return heading;
 }
 
@@ -48,7 +47,7 @@ bool PanelPages::holdsFocus(int page) const {
 void PanelPages::setTitles(const QStringList& titles) {
   for (int page = 0; page < qMin(titles.size(), m_pages.size()); ++page) {
     setPlainText(*m_headings[page], titles[page]);
-    m_pages[page]->setAccessibleName(titles[page]);
+    nameGroup(*m_pages[page], titles[page]);
   }
 }
 
@@ -64,7 +63,7 @@ void PanelPages::turnTo(int page) {
 void PanelGroup::setTitle(const QString& title) {
   if (m_title == nullptr) placeTitle();
   if (m_title != nullptr) setPlainText(*m_title, m_title->font().bold() ? title : withColon(title));
-  setAccessibleName(title);
+  nameGroup(*this, title);
 }
 
 void PanelGroup::placeTitle() {

@@ -137,7 +137,7 @@ Outcome PanelPane::make(PanelView& view, const Bundle& bundle, std::unique_ptr<P
 }
 
 QWidget* PanelPane::widgetOf(const QString& name) const {
-  return findChild<QWidget*>(name);
+  return name.isEmpty() ? nullptr : findChild<QWidget*>(name);
 }
 
 void PanelPane::bind() {
@@ -171,6 +171,7 @@ void PanelPane::describe(QWidget& widget) {
   const auto* control = m_view->control<Button>(widget.objectName());
   if (control != nullptr && control->type() == Button::Type::HoldButton)
     return describeHoldButton(widget, stem);
+  if (text == nullptr && plainText(widget).isEmpty()) return;  // a group, which has its name
   const bool namesItself = text == nullptr || &widget == text;
   widget.setAccessibleName(namesItself ? plainText(widget) : withoutColon(plainText(*text)));
 }

@@ -2,6 +2,7 @@
 
 #include <QtGui/QAction>
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSpinBox>
@@ -11,6 +12,7 @@
 #include "hosts/dialog/panes/choice_control.h"
 #include "hosts/dialog/panes/entry_control.h"
 #include "hosts/dialog/panes/pages_control.h"
+#include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/plain_text.h"
 
 namespace kesto {
@@ -91,7 +93,9 @@ void OptionControl::take(const QString& value) {
 }
 
 void OptionControl::name(QWidget& widget, const QString& accessibleName, const QString& objectName) const {
-  widget.setAccessibleName(withoutColon(accessibleName));
+  const QString text = withoutColon(accessibleName);
+  auto* list = qobject_cast<QComboBox*>(&widget);
+  list == nullptr ? widget.setAccessibleName(text) : nameList(*list, text);
   widget.setObjectName(objectName);
 }
 

@@ -18,7 +18,7 @@ class OptionControl : public QWidget {
   const OfferedOption& option() const { return m_option; }
   /// What stands before it; null when it has its text in itself.
   virtual QString label() const;
-  /// What the label leads to; null when the parts have texts of their own.
+  /// What the label leads to.
   virtual QWidget* field() = 0;
   /// Offers what the queue has now.
   virtual void showQueue() {}

@@ -49,7 +49,7 @@ OptionPane::OptionPane(OptionGroup group, JobOptions& options, QWidget* parent)
   m_note->hide();
   m_idle.setSingleShot(true);
   connect(&m_idle, &QTimer::timeout, this, &OptionPane::addSome);
-  connect(&m_options, &JobOptions::changed, this, &OptionPane::update);
+  connect(&m_options, &JobOptions::changed, this, &OptionPane::showOptions);
 }
 
 QString OptionPane::nameOf(OptionGroup group) {
@@ -94,7 +94,7 @@ void OptionPane::showQueue() {
     return std::ranges::any_of(m_lines,
                                [&](const Line& line) { return line.control->option().key == each.key; });
   });
-  update();
+  showOptions();
   addSome();
 }
 
@@ -132,7 +132,7 @@ void OptionPane::addOption(const OfferedOption& option) {
   if (option.section != std::exchange(m_section, option.section)) addSection(option.section);
   for (OptionControl* control : makeControls(option, m_options, this)) {
     addControl(*control);
-    show(m_lines.back());
+    showLine(m_lines.back());
   }
 }
 
@@ -150,7 +150,7 @@ void OptionPane::addControl(OptionControl& control) {
     return m_lines.push_back({&control, nullptr});
   }
   auto* label = new QLabel(this);
-  if (control.field() != nullptr) label->setBuddy(control.field());
+  label->setBuddy(control.field());
   setPlainText(*label, text.isNull() ? QString() : withColon(text));
   auto* line = new QHBoxLayout;
   line->addWidget(&control);
@@ -234,16 +234,16 @@ QString OptionPane::note() const {
   return lines.join(u'\n');
 }
 
-void OptionPane::show(const Line& line) {
+void OptionPane::showLine(const Line& line) {
   line.control->showValue();
   const bool isIdle = m_options.isIdle(line.control->option().key);
   line.control->setEnabled(!isIdle);
   if (line.label != nullptr) line.label->setEnabled(!isIdle);
 }
 
-void OptionPane::update() {
+void OptionPane::showOptions() {
   for (const Line& line : m_lines)
-    show(line);
+    showLine(line);
   updateNote();
 }
 

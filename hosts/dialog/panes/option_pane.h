@@ -63,8 +63,8 @@ class OptionPane : public QWidget {
   void addSection(const QString& text);
   void addFilter();
   void filter(const QString& text);
-  void show(const Line& line);
-  void update();
+  void showLine(const Line& line);
+  void showOptions();
   void updateNote();
   QString note() const;
 

@@ -5,6 +5,7 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/tab_order.h"
 #include "hosts/session/page_range.h"
@@ -22,6 +23,7 @@ PagesControl::PagesControl(const OfferedOption& option, JobOptions& options, QWi
       m_pages(new QLineEdit(this)) {
   m_pages->setPlaceholderText(tr("1-3, 5"));
   name(*m_pages, label(), QStringLiteral("pages"));
+  nameGroup(*this, label());
   auto* some = new QHBoxLayout;
   some->addWidget(m_some);
   some->addWidget(m_pages);
@@ -69,6 +71,10 @@ QRadioButton* PagesControl::chosenRadio() const {
   if (pages.isNull()) return m_all;
   QRadioButton* radio = m_applications.value(pages, m_some);
   return radio->isHidden() ? m_some : radio;
+}
+
+QWidget* PagesControl::field() {
+  return m_pages;
 }
 
 QWidget* PagesControl::faultyField() {

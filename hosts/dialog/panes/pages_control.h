@@ -17,7 +17,7 @@ class PagesControl : public OptionControl {
   /// Offers pages that the application alone knows: `JobOptions::currentPage` and `selection`.
   void offer(const QStringList& pages);
 
-  QWidget* field() override { return nullptr; }
+  QWidget* field() override;
   void showValue() override;
   QString fault() const override { return faultOfPages(options()); }
   QWidget* faultyField() override;

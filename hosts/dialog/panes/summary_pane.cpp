@@ -31,7 +31,6 @@ SummaryPane::SummaryPane(QWidget* parent)
     m_ask->setEnabled(false);
     Q_EMIT privacyAsked();
   });
-  setAccessibleName(tr("Summary"));
 }
 
 // Nobody reads a folded one.

@@ -1,5 +1,6 @@
 #include "hosts/dialog/widgets/accent_color.h"
 
+#include <QtWidgets/QApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -51,21 +52,23 @@ QColor quietColor(const QPalette& palette) {
   return legible(mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.4), palette);
 }
 
-QPalette legibleTexts(const QPalette& palette) {
-  QPalette changes;
+void makeTextsLegible() {
+  const QPalette palette = QApplication::palette();
+  QPalette changed = palette;
   const auto change = [&](QPalette::ColorGroup group, QPalette::ColorRole role, QPalette::ColorRole usual,
                           QPalette::ColorRole back, double least) {
     const QColor behind = palette.color(group, back);
     const QColor given = palette.color(group, role);
     const QColor seen = mixed(behind, QColor::fromRgb(given.rgb()), given.alphaF());
-    changes.setColor(group, role, reaching(least, seen, behind, palette.color(QPalette::Active, usual)));
+    if (contrast(seen, behind) < least)
+      changed.setColor(group, role, reaching(least, seen, behind, palette.color(QPalette::Active, usual)));
   };
   using enum QPalette::ColorRole;
   for (const auto group : {QPalette::Active, QPalette::Inactive})
     change(group, PlaceholderText, Text, Base, leastContrast);
   for (const auto& [role, back] : {std::pair(WindowText, Window), {Text, Base}, {ButtonText, Button}})
     change(QPalette::Disabled, role, role, back, leastContrastDimmed);
-  return changes;
+  if (changed != palette) QApplication::setPalette(changed);
 }
 
 }  // namespace kesto

@@ -11,8 +11,9 @@ QColor accentColor(const QPalette& palette);
 QColor quietColor(const QPalette& palette);
 /// A color as near to `wanted` as can be read on a window of the palette.
 QColor legible(const QColor& wanted, const QPalette& palette);
-/// Colors for dimmed texts and placeholders that stand out enough from their background: a contrast of 3 and
-/// 4.5. The palette sets no other colors.
-QPalette legibleTexts(const QPalette& palette);
+/// Makes dimmed texts and placeholders in all windows stand out enough from their background: a contrast of 3
+/// and 4.5. Call it before the first window, so that none has to take the colors over, and after the
+/// desktop's colors have changed.
+void makeTextsLegible();
 
 }  // namespace kesto

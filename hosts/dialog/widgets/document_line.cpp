@@ -1,10 +1,10 @@
 #include "hosts/dialog/widgets/document_line.h"
 
-#include <QtGui/QAccessible>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 #include <utility>
 
+#include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/wrapped_label.h"
@@ -33,9 +33,7 @@ void DocumentLine::show(const QString& name, const QStringList& faults) {
   m_text->setToolTip(tipOf(lines.join(u'\n')));
   if (lines.size() > mostLines) lines = lines.first(mostLines) << QStringLiteral("…");
   m_text->setText(lines.join(u'\n'));
-  if (faults == std::exchange(m_faults, faults) || faults.isEmpty()) return;
-  QAccessibleEvent event(m_text, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+  if (faults != std::exchange(m_faults, faults) && !faults.isEmpty()) announce(*m_text, faults.join(u'\n'));
 }
 
 void DocumentLine::offerChoice(bool isOffered) {

@@ -1,12 +1,12 @@
 #include "hosts/dialog/widgets/message_bar.h"
 
 #include <QtCore/QEvent>
-#include <QtGui/QAccessible>
 #include <QtGui/QPainter>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyle>
 
+#include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/wrapped_label.h"
 #include "platform/shown_text.h"
@@ -42,9 +42,7 @@ void MessageBar::show(const QString& message, Kind kind, const QString& button, 
   m_button->setVisible(!button.isEmpty());
   dress();
   setVisible(!text.isEmpty());
-  if (text.isEmpty()) return;
-  QAccessibleEvent event(m_text, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+  announce(*m_text, text);
 }
 
 void MessageBar::dress() {

@@ -1,12 +1,12 @@
 #include "hosts/dialog/widgets/password_dialog.h"
 
-#include <QtGui/QAccessible>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "platform/secret.h"
@@ -63,8 +63,7 @@ void PasswordDialog::askAgain(const QString& reason) {
   m_field->setAccessibleDescription(reason);
   m_field->selectAll();
   m_field->setFocus();
-  QAccessibleEvent event(m_message, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+  announce(*m_message, reason);
 }
 
 void PasswordDialog::take() {

@@ -43,7 +43,11 @@ QString plainText(const QWidget& widget) {
 }
 
 void showMarkedText(QWidget& widget, const QString& text) {
-  if (auto* label = qobject_cast<QLabel*>(&widget)) label->setText(text);
+  if (auto* label = qobject_cast<QLabel*>(&widget)) {
+    label->setText(text);
+    // Read as a field's name, without the key letter that may stand in brackets.
+    if (label->buddy() != nullptr) label->setAccessibleName(withoutColon(plainText(widget)));
+  }
   if (auto* button = qobject_cast<QAbstractButton*>(&widget)) button->setText(text);
   if (auto* box = qobject_cast<QGroupBox*>(&widget)) box->setTitle(text);
 }

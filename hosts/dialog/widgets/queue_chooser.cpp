@@ -12,6 +12,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include "hosts/dialog/widgets/accessible.h"
 #include "hosts/dialog/widgets/mnemonics.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "hosts/dialog/widgets/printer_details.h"
@@ -23,6 +24,15 @@ namespace {
 
 constexpr int manyQueues = 12;
 
+// Hidden until there is something to press it for.
+void buildButton(QPushButton& button, const QString& name, const QString& text) {
+  setPlainText(button, text);
+  exceptFromMnemonics(button);
+  button.setAutoDefault(false);
+  button.setObjectName(name);
+  button.hide();
+}
+
 }  // namespace
 
 QueueChooser::QueueChooser(QWidget* parent)
@@ -32,29 +42,12 @@ QueueChooser::QueueChooser(QWidget* parent)
       m_state(new WrappedLabel(this)),
       m_retry(new QPushButton(this)),
       m_more(new QPushButton(this)) {
-  // Avoids measuring every queue for the width of the field and the height of a row.
-  m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  m_combo->setMinimumContentsLength(28);
-  auto* view = new QListView(m_combo);
-  view->setUniformItemSizes(true);
-  m_combo->setView(view);
-  m_combo->setModel(&m_model);
-  m_combo->setObjectName(QStringLiteral("printer"));
-  m_combo->setAccessibleName(tr("Printer"));
-  m_combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  buildList();
   m_state->setObjectName(QStringLiteral("printerState"));
   m_state->setTextFormat(Qt::PlainText);
-  setPlainText(*m_retry, tr("Try again"));
-  exceptFromMnemonics(*m_retry);
-  m_retry->setAutoDefault(false);
-  m_retry->setObjectName(QStringLiteral("retry"));
-  m_retry->hide();
-  setPlainText(*m_more, tr("Details"));
-  exceptFromMnemonics(*m_more);
-  m_more->setAutoDefault(false);
-  m_more->setObjectName(QStringLiteral("printerDetailsButton"));
+  buildButton(*m_retry, QStringLiteral("retry"), tr("Try again"));
+  buildButton(*m_more, QStringLiteral("printerDetailsButton"), tr("Details"));
   m_more->setAccessibleName(tr("Printer details"));
-  m_more->hide();
   auto* line = new QHBoxLayout;
   // The first line of a long state stays beside its icon and the button.
   for (QWidget* each : {static_cast<QWidget*>(m_icon), static_cast<QWidget*>(m_state)})
@@ -67,14 +60,27 @@ QueueChooser::QueueChooser(QWidget* parent)
   column->setContentsMargins({});
   column->addWidget(m_combo);
   column->addLayout(line);
+  connect(m_retry, &QPushButton::clicked, this, &QueueChooser::retryAsked);
+  connect(m_more, &QPushButton::clicked, this, &QueueChooser::openDetails);
+}
+
+void QueueChooser::buildList() {
+  // Avoids measuring every queue for the width of the field and the height of a row.
+  m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  m_combo->setMinimumContentsLength(28);
+  auto* view = new QListView(m_combo);
+  view->setUniformItemSizes(true);
+  m_combo->setView(view);
+  m_combo->setModel(&m_model);
+  m_combo->setObjectName(QStringLiteral("printer"));
+  nameList(*m_combo, tr("Printer"));
+  m_combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   const auto chooseRow = [this](int row) {
     const QString name = m_model.data(m_model.index(row), QueueListModel::NameRole).toString();
     if (!m_isUpdating && !name.isEmpty()) choose(name);
   };
   connect(m_combo, &QComboBox::activated, this, chooseRow);
   connect(m_combo, &QComboBox::currentIndexChanged, this, chooseRow);
-  connect(m_retry, &QPushButton::clicked, this, &QueueChooser::retryAsked);
-  connect(m_more, &QPushButton::clicked, this, &QueueChooser::openDetails);
 }
 
 void QueueChooser::setQueues(const std::vector<QueueSummary>& queues) {

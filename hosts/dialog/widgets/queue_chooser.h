@@ -64,6 +64,7 @@ class QueueChooser : public QWidget {
     int count = 0;  // two for all above one
   };
 
+  void buildList();
   void offerFilter();
   void takeText(const QString& text, bool isWhole);
   void confirmText();

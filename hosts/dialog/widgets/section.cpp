@@ -156,6 +156,7 @@ QString Section::title() const {
 void Section::setTitle(const QString& title) {
   setPlainText(*m_header, title);
   m_header->setAccessibleName(title);
+  nameGroup(*this, title);
 }
 
 void Section::build() {
