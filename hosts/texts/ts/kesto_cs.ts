@@ -2744,6 +2744,10 @@
             <numerusform>%n složek z %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>Tiskový server už tuto tiskárnu nemá. Mohla být odebrána.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2889,10 +2893,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Kdo vidí tuto úlohu?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Souhrn</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

@@ -2734,6 +2734,10 @@
             <numerusform>%n Ordner von %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>Der Druckserver hat diesen Drucker nicht mehr. Vielleicht wurde er entfernt.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2875,10 +2879,6 @@
 </context>
 <context>
     <name>kesto::SummaryPane</name>
-    <message>
-        <source>Summary</source>
-        <translation>Übersicht</translation>
-    </message>
     <message>
         <source>Who can see this job?</source>
         <translation>Wer kann diesen Auftrag sehen?</translation>

@@ -2734,6 +2734,10 @@
             <numerusform>%n φάκελοι από %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>Ο διακομιστής εκτύπωσης δεν έχει πλέον αυτόν τον εκτυπωτή. Ίσως έχει αφαιρεθεί.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2878,10 +2882,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Ποιος βλέπει αυτή την εργασία;</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Σύνοψη</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

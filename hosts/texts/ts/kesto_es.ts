@@ -2734,6 +2734,10 @@
             <numerusform>%n carpetas de %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>El servidor de impresión ya no tiene esta impresora. Es posible que se haya eliminado.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2875,10 +2879,6 @@
 </context>
 <context>
     <name>kesto::SummaryPane</name>
-    <message>
-        <source>Summary</source>
-        <translation>Resumen</translation>
-    </message>
     <message>
         <source>Who can see this job?</source>
         <translation>¿Quién puede ver este trabajo?</translation>

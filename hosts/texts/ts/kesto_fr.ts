@@ -2734,6 +2734,10 @@
             <numerusform>%n dossiers de %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>Le serveur d’impression n’a plus cette imprimante. Elle a peut-être été supprimée.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2875,10 +2879,6 @@
 </context>
 <context>
     <name>kesto::SummaryPane</name>
-    <message>
-        <source>Summary</source>
-        <translation>Résumé</translation>
-    </message>
     <message>
         <source>Who can see this job?</source>
         <translation>Qui peut voir ce travail&#xa0;?</translation>

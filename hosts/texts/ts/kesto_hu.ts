@@ -2724,6 +2724,10 @@
             <numerusform>%n mappa innen: %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>A nyomtatókiszolgálón már nincs meg ez a nyomtató. Lehet, hogy eltávolították.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2867,10 +2871,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Ki láthatja ezt a feladatot?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Összegzés</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

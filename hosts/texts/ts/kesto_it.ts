@@ -2734,6 +2734,10 @@
             <numerusform>%n cartelle da %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>Il server di stampa non ha più questa stampante. Potrebbe essere stata rimossa.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2878,10 +2882,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Chi può vedere questo lavoro?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Riepilogo</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

@@ -2724,6 +2724,10 @@
             <numerusform>%1 から %n 個のフォルダーを取得しました</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>このプリンターはプリントサーバーにありません。削除された可能性があります。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2864,10 +2868,6 @@
 </context>
 <context>
     <name>kesto::SummaryPane</name>
-    <message>
-        <source>Summary</source>
-        <translation>概要</translation>
-    </message>
     <message>
         <source>Who can see this job?</source>
         <translation>このジョブを見ることができるのは?</translation>

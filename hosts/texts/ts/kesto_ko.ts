@@ -2724,6 +2724,10 @@
             <numerusform>%1의 폴더 %n개</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>인쇄 서버에 이 프린터가 더 이상 없습니다. 제거되었을 수 있습니다.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2867,10 +2871,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>이 작업을 누가 볼 수 있습니까?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>요약</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

@@ -2734,6 +2734,10 @@
             <numerusform>%n mappen van %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>De printserver heeft deze printer niet meer. Mogelijk is hij verwijderd.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2878,10 +2882,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Wie kan deze taak zien?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Overzicht</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

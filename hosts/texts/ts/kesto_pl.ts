@@ -2744,6 +2744,10 @@
             <numerusform>%n folderów z %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>Serwer wydruku nie ma już tej drukarki. Mogła zostać usunięta.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2889,10 +2893,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Kto widzi to zadanie?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Podsumowanie</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

@@ -2734,6 +2734,10 @@
             <numerusform>%n pastas de %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>O servidor de impressão não tem mais esta impressora. Ela pode ter sido removida.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2878,10 +2882,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Quem pode ver este trabalho?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Resumo</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

@@ -2744,6 +2744,10 @@
             <numerusform>%n папок от %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>На сервере печати больше нет этого принтера. Возможно, он удалён.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2889,10 +2893,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Кто видит это задание?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Сводка</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

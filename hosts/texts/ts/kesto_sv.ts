@@ -2734,6 +2734,10 @@
             <numerusform>%n mappar från %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>Utskriftsservern har inte längre den här skrivaren. Den kan ha tagits bort.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2878,10 +2882,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Vem kan se det här jobbet?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Sammanfattning</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

@@ -2724,6 +2724,10 @@
             <numerusform>%1 konumundan %n klasör</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>Bu yazıcı artık yazdırma sunucusunda yok. Kaldırılmış olabilir.</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2867,10 +2871,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>Bu işi kim görebilir?</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Özet</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>

@@ -2724,6 +2724,10 @@
             <numerusform>来自 %1 的 %n 个文件夹</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>打印服务器上已没有此打印机。它可能已被移除。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2864,10 +2868,6 @@
 </context>
 <context>
     <name>kesto::SummaryPane</name>
-    <message>
-        <source>Summary</source>
-        <translation>摘要</translation>
-    </message>
     <message>
         <source>Who can see this job?</source>
         <translation>谁能看到此作业？</translation>

@@ -2724,6 +2724,10 @@
             <numerusform>來自 %1 的 %n 個資料夾</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The print server no longer has this printer. It may have been removed.</source>
+        <translation>列印伺服器上已沒有此印表機。它可能已被移除。</translation>
+    </message>
 </context>
 <context>
     <name>kesto::PrinterDetails</name>
@@ -2867,10 +2871,6 @@
     <message>
         <source>Who can see this job?</source>
         <translation>誰能看到此工作？</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>摘要</translation>
     </message>
     <message>
         <source>Other users can see that this job exists, but none of its details.</source>
