@@ -1,102 +1,14 @@
 #include "panel/layout_loader.h"
 
 #include <QtCore/QSet>
-#include <QtCore/QXmlStreamReader>
 #include <algorithm>
-#include <vector>
 
+#include "panel/form.h"
 #include "panel/localized.h"
 #include "panel/outlets.h"
 
 namespace kesto {
 namespace {
-
-// A form nests about two dozen elements. What nests far more is not a form.
-constexpr int deepestElement = 100;
-
-// The value of a property or attribute of a widget.
-struct FormValue {
-  QString name;
-  QString text;
-  bool isLeftToPanel = false;  // the panel's initialisation translates it
-};
-
-// A widget of the form with the widgets in it, or an item of a pop-up, which has only properties.
-struct FormWidget {
-  QString type;
-  QString name;
-  qint64 line = 0;
-  std::vector<FormValue> properties;
-  std::vector<FormValue> attributes;
-  std::vector<FormWidget> children;  // its direct children, however many layouts are in between
-  std::vector<FormWidget> items;
-};
-
-// Reads the elements of a form up to the first fault.
-class FormReader {
- public:
-  explicit FormReader(const QByteArray& ui) : m_xml(ui) {}
-
-  Outcome read(FormWidget* root) {
-    const bool isForm = m_xml.readNextStartElement() && m_xml.name() == u"ui";
-    bool hasRoot = false;
-    while (isForm && m_xml.readNextStartElement()) {
-      if (m_xml.name() == u"widget" && !hasRoot) {
-        readWidget(*root, 0);
-        hasRoot = true;
-      } else {
-        m_xml.skipCurrentElement();
-      }
-    }
-    // What follows the form must be well-formed as well.
-    while (!m_xml.atEnd())
-      m_xml.readNext();
-    if (m_xml.hasError()) {
-      return Outcome::failed(QStringLiteral("line %1: %2").arg(m_xml.lineNumber()).arg(m_xml.errorString()));
-    }
-    return hasRoot ? Outcome::done() : Outcome::failed(QStringLiteral("not a form"));
-  }
-
- private:
-  void readWidget(FormWidget& widget, int depth) {
-    widget.type = m_xml.attributes().value(QLatin1String("class")).toString();
-    widget.name = m_xml.attributes().value(QLatin1String("name")).toString();
-    widget.line = m_xml.lineNumber();
-    readContents(widget, depth, true);
-  }
-
-  // `isDirect`: the elements belong to the widget itself, not to a layout in it.
-  void readContents(FormWidget& widget, int depth, bool isDirect) {
-    if (depth > deepestElement) return m_xml.raiseError(QStringLiteral("elements nested too deep"));
-    while (m_xml.readNextStartElement()) {
-      const QStringView element = m_xml.name();
-      if (element == u"widget") {
-        readWidget(widget.children.emplace_back(), depth + 1);
-      } else if (element == u"layout" || (element == u"item" && !isDirect)) {
-        readContents(widget, depth + 1, false);
-      } else if (element == u"item") {
-        readContents(widget.items.emplace_back(), depth + 1, true);
-      } else if (element == u"property" && isDirect) {
-        widget.properties.push_back(readValue());
-      } else if (element == u"attribute" && isDirect) {
-        widget.attributes.push_back(readValue());
-      } else {
-        m_xml.skipCurrentElement();
-      }
-    }
-  }
-
-  FormValue readValue() {
-    FormValue value{.name = m_xml.attributes().value(QLatin1String("name")).toString(), .text = {}};
-    while (m_xml.readNextStartElement()) {
-      value.isLeftToPanel = m_xml.attributes().value(QLatin1String("notr")) == u"true";
-      value.text = m_xml.readElementText(QXmlStreamReader::IncludeChildElements);
-    }
-    return value;
-  }
-
-  QXmlStreamReader m_xml;
-};
 
 // The value of that name; a value without a text when there is none.
 const FormValue& valueOf(const std::vector<FormValue>& values, QStringView name) {
@@ -230,10 +142,13 @@ class ControlMaker {
 
 }  // namespace
 
-Outcome loadLayout(const QByteArray& ui, const Bundle& bundle, std::unique_ptr<PanelView>* view) {
+Outcome loadLayout(const QByteArray& ui, const Bundle& bundle, std::unique_ptr<PanelView>* view,
+                   const QByteArray& compiled) {
   view->reset();
   FormWidget root;
-  if (Outcome read = FormReader(ui).read(&root); !read) return read;
+  if (!readCompiledForm(compiled, ui, &root)) {
+    if (Outcome read = readForm(ui, &root); !read) return read;
+  }
   auto loaded = std::make_unique<PanelView>();
   if (Outcome made = ControlMaker(*loaded, bundle).make(root); !made) return made;
   loaded->setForm(ui);

@@ -23,8 +23,12 @@ namespace kesto {
 /// Texts are localised with the bundle's table, except those that the form marks `notr`, which the panel's
 /// initialisation translates.
 ///
+/// `compiled` is the same form in its compiled state, which is read faster; the text counts when that is
+/// missing, damaged or of another text.
+///
 /// On failure `*view` is null and the outcome says line and fault: not well-formed, not a form, two controls
 /// with one name, a field without a tag, a matrix without a selected row.
-Outcome loadLayout(const QByteArray& ui, const Bundle& bundle, std::unique_ptr<PanelView>* view);
+Outcome loadLayout(const QByteArray& ui, const Bundle& bundle, std::unique_ptr<PanelView>* view,
+                   const QByteArray& compiled = {});
 
 }  // namespace kesto

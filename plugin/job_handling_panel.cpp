@@ -86,8 +86,10 @@ void KestoPrintPdeVq250nJC::keepPrinterAddress(const QString& deviceUri) {
 void KestoPrintPdeVq250nJC::loadView() {
   const QString name = layoutOfMode(getUIMode());
   if (name.isNull()) return;
-  const std::optional<QByteArray> form = m_state.pdeBundle->resource(name, QStringLiteral("ui"));
-  const Outcome loaded = form ? loadLayout(*form, *m_state.pdeBundle, &m_panelView)
+  const Bundle& bundle = *m_state.pdeBundle;
+  const std::optional<QByteArray> form = bundle.resource(name, QStringLiteral("ui"));
+  const QByteArray compiled = bundle.resource(name, QStringLiteral("form")).value_or(QByteArray());
+  const Outcome loaded = form ? loadLayout(*form, bundle, &m_panelView, compiled)
                               : Outcome::failed(QStringLiteral("no such resource"));
   if (!loaded) {
     qCWarning(layout, "%s.ui: %s", qUtf8Printable(name), qUtf8Printable(loaded.reason()));

@@ -1,10 +1,13 @@
 #include "hosts/session/standard_texts.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QHash>
 #include <QtCore/QStringList>
+#include <algorithm>
 #include <array>
 #include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
 
 namespace kesto {
 namespace {
@@ -196,27 +199,52 @@ QString plainValue(const QString& option, const QString& value) {
   return plainName(option == u"PageSize" && value.count(u'_') > 1 ? value.section(u'_', 0, 1) : value);
 }
 
-using Index = QHash<QString, const StandardValue*>;  // by option and plain name
+// By option and plain name. It is built in every program that prints, without a text for each name.
+using Index = std::unordered_map<std::string, const StandardValue*>;
 
-QString keyOf(const QString& option, const QString& name) {
-  return option + u'/' + name;
+std::string keyOf(std::string_view option, std::string_view name) {
+  return std::string(option).append(1, '/').append(name);
+}
+
+// Takes a list of words apart.
+template <class Take>
+void forEachWord(std::string_view words, Take take) {
+  while (!words.empty()) {
+    const std::size_t end = std::min(words.find(' '), words.size());
+    take(words.substr(0, end));
+    words.remove_prefix(std::min(end + 1, words.size()));
+  }
+}
+
+// As `plainName`.
+std::string plainWord(std::string_view word) {
+  std::string plain;
+  for (const char each : word) {
+    if (each != '-' && each != '_')
+      plain += each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
+  }
+  return plain;
 }
 
 Index indexOf(std::span<const StandardValue> table) {
   Index index;
   for (const StandardValue& each : table) {
-    for (const QString& option : QString::fromLatin1(each.options).split(u' ')) {
-      for (const QString& name : QString::fromLatin1(each.names).split(u' '))
-        index.insert(keyOf(option, plainName(name)), &each);
-    }
+    forEachWord(each.options, [&](std::string_view option) {
+      forEachWord(each.names, [&](std::string_view name) { index[keyOf(option, plainWord(name))] = &each; });
+    });
   }
   return index;
 }
 
+const StandardValue* find(const Index& index, std::string_view option, const QString& name) {
+  const auto found = index.find(keyOf(option, name.toStdString()));
+  return found == index.end() ? nullptr : found->second;
+}
+
 const StandardValue* valueNamed(const QString& option, const QString& name) {
   static const Index index = indexOf(standardValues);
-  const StandardValue* found = index.value(keyOf(option, name));
-  return found != nullptr ? found : index.value(keyOf(QLatin1String(anyOption), name));
+  const StandardValue* found = find(index, option.toStdString(), name);
+  return found != nullptr ? found : find(index, anyOption, name);
 }
 
 struct Found {
@@ -245,7 +273,7 @@ QString placedFinishing(const QString& value) {
   const QString name = plainName(value);
   for (qsizetype length = name.size() - 1; length > 0; --length) {
     const StandardValue* finishing = valueNamed(QLatin1String(anyOption), name.first(length));
-    const StandardValue* place = index.value(keyOf(QLatin1String(anyOption), name.sliced(length)));
+    const StandardValue* place = find(index, anyOption, name.sliced(length));
     if (finishing == nullptr || place == nullptr) continue;
     return translated(QT_TRANSLATE_NOOP("StandardTexts", "%1, %2"))
         .arg(translated(finishing->text), translated(place->text));

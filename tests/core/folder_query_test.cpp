@@ -37,7 +37,8 @@ struct Query {
   // Titles and images of the pop-up's items: "title(image)", "-" for a separator.
   QString offered() {
     QStringList texts;
-    for (const PopUpItem& item : popUp(panel->view(), "item").items()) {
+    const std::vector<PopUpItem> items = popUp(panel->view(), "item").items();
+    for (const PopUpItem& item : items) {
       texts.append(item.separator ? u"-"_s
                                   : item.title + u'(' + (item.image ? item.image->name : QString()) + u')');
     }

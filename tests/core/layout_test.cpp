@@ -1,3 +1,4 @@
+#include "panel/form.h"
 #include "panel/initialize_ui.h"
 #include "panel/localized.h"
 #include "tests/support/test_panel.h"
@@ -50,6 +51,23 @@ TEST(Layouts, TheOthersLackSomeOfItsControlsAndPages) {
     EXPECT_EQ(absentNow.join(u' '), Text(absent));
     EXPECT_EQ(panel.view->controls().size() + absentNow.size(), largest.view->controls().size());
     EXPECT_EQ(panel.state.outlets.tabView->labels().size(), pages);
+  }
+}
+
+TEST(Layouts, ACompiledFormIsThatOfItsTextOrNone) {
+  const PanelGroups panel;
+  for (const QString& name : {u"JobControl4"_s, u"JobControl5"_s, u"JobControl6"_s}) {
+    const QByteArray ui = layoutForm(*panel.state.pdeBundle, name);
+    const QByteArray compiled = panel.state.pdeBundle->resource(name, u"form"_s).value_or(QByteArray());
+    FormWidget root;
+    ASSERT_TRUE(readCompiledForm(compiled, ui, &root)) << name;
+    EXPECT_TRUE(compiledForm(ui, root) == compiled) << name;
+    ASSERT_TRUE(readForm(ui, &root));
+    EXPECT_TRUE(compiledForm(ui, root) == compiled) << name;
+    EXPECT_FALSE(readCompiledForm(compiled, ui + ' ', &root));
+    EXPECT_FALSE(readCompiledForm(compiled + ' ', ui, &root));
+    for (qsizetype size = 0; size < compiled.size(); size += 7)
+      EXPECT_FALSE(readCompiledForm(compiled.first(size), ui, &root)) << size;
   }
 }
 
