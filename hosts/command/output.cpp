@@ -8,6 +8,8 @@
 
 namespace kesto {
 
+void ignoreMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*message*/) {}
+
 QByteArray printableJson(const QJsonDocument& json, QJsonDocument::JsonFormat format) {
   QString printable;
   for (const QChar each : QString::fromUtf8(json.toJson(format)))

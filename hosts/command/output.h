@@ -7,6 +7,10 @@
 
 namespace kesto {
 
+/// For `qInstallMessageHandler` while the application is created. In a locale without UTF-8 Qt warns on
+/// standard error, though what the programs print is UTF-8 everywhere.
+void ignoreMessage(QtMsgType type, const QMessageLogContext& context, const QString& message);
+
 /// JSON for standard output or a terminal, where characters that a terminal would obey are escaped as well.
 QByteArray printableJson(const QJsonDocument& json,
                          QJsonDocument::JsonFormat format = QJsonDocument::Compact);

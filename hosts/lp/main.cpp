@@ -9,7 +9,9 @@
 int main(int argc, char** argv) {
   // Qt keeps a copy of its arguments, and there may be secrets in these.
   int countForQt = qMin(argc, 1);
+  const QtMessageHandler usual = qInstallMessageHandler(kesto::ignoreMessage);
   const QCoreApplication application(countForQt, argv);
+  qInstallMessageHandler(usual);
   if (!kesto::wantsJson(argc, argv)) kesto::installTerminalTexts();
   // kesto-lp itself reports what could not be kept, so the log leaves it out.
   QLoggingCategory::setFilterRules(QStringLiteral("kesto.preferences.changes=false"));

@@ -72,7 +72,9 @@ int serve(kesto::ScriptSession& session) {
 }
 
 int run(int argc, char** argv) {
+  const QtMessageHandler usual = qInstallMessageHandler(kesto::ignoreMessage);
   const QCoreApplication application(argc, argv);
+  qInstallMessageHandler(usual);
   CLI::App app("Drives a Job Handling panel with JSON commands on standard input, one object per line.",
                "kesto-panel");
   Options options;

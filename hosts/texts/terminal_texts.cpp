@@ -17,6 +17,8 @@ class LazyTranslator : public QTranslator {
  public:
   bool isEmpty() const override { return false; }
   QString translate(const char* context, const char* source, const char* comment, int count) const override {
+    // Qt's own texts are not among ours, and Qt asks for one of them while ours are loaded.
+    if (context != nullptr && *context == 'Q') return {};
     std::call_once(m_isLoaded, [this] { loadTexts(&m_texts); });
     return m_texts.translate(context, source, comment, count);
   }

@@ -374,7 +374,7 @@ TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
         Run{"-h %2 --screenshot %1/picture.png %1/report.pdf", 0, "", ""},
         Run{"-h %2 --screenshot %1/picture.png /no/such.pdf", 0, "", "/no/such.pdf cannot be read"},
         Run{"-h %2 -d None --timings", 1, "", "no printer"}, Run{"--help", 0, "Usage: kesto-print", ""},
-        Run{"--nonsense", 2, "", "--nonsense"}, Run{"--\u001b[2J", 2, "", "--\\x1b[2J"},
+        Run{"--nonsense", 2, "", "--nonsense"}, Run{"--x\u001b[2J", 2, "", "--x\\x1b[2J"},
         Run{"--timeout nan", 2, "", "--timeout"}, Run{"-n 0x10", 2, "", "-n"},
         Run{"--portal 77", 2, "", "must be an open descriptor"}}) {
     const QString arguments = QString(line).replace(u"%2"_s, m_printer->place(u"server"_s));

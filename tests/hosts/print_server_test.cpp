@@ -55,7 +55,8 @@ TEST_F(PrintTest, APresetServesAQueueWithoutThePanelToo) {
   recordFilter();
   expectPrinted(u"-d Plain --save-preset folded -o sides=two-sided-short-edge DOCUMENT"_s);
   expectPrinted(u"-d Plain --preset folded DOCUMENT"_s);
-  waitFor([&] { return filterArguments(2).value(4).contains(u"Duplex=DuplexTumble"_s); });
+  waitForJob(2);
+  EXPECT_TRUE(filterArguments(2).value(4).contains(u"Duplex=DuplexTumble"_s)) << filterArguments(2).value(4);
   expectRefused(u"-d Plain --preset folded -o raw DOCUMENT"_s, 2,
                 u"a raw job bypasses the driver, and Job Handling with it"_s);
 }
@@ -484,6 +485,7 @@ TEST_F(LpTest, AnIncompleteAnswerIsAFault) {
     const QByteArray ipp = "\2\0"_ba + status + "\0\0\0\1"_ba + attributes + '\3';
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(ipp.size()) + "\r\n\r\n" + ipp;
   };
+  m_folder.write(u"test.file"_s, "of no type");
   const QByteArray ok(2, '\0');
   const QByteArray aborted =
       "\2\x23\0\x09job-state\0\4\0\0\0\x08\x44\0\x11job-state-reasons\0\x11"
@@ -495,14 +497,14 @@ TEST_F(LpTest, AnIncompleteAnswerIsAFault) {
         Case{IPP_OP_GET_JOB_ATTRIBUTES, reply(ok, {}), "--check q",
              "cannot find out what other users see: the print server's answer does not contain the job"},
         Case{IPP_OP_SEND_DOCUMENT, reply(ok, aborted), "-d q FILE",
-             "could not print test.ppd: the print server stopped the job: aborted-by-system"},
+             "could not print test.file: the print server stopped the job: aborted-by-system"},
         Case{IPP_OP_SEND_DOCUMENT, reply("\4\12", {}), "-d q FILE",
-             "could not print test.ppd: this printer does not accept this type of file"},
+             "could not print test.file: this printer does not accept this type of file"},
         Case{IPP_OP_SEND_DOCUMENT, reply("\4\12", {}), "-d q -o document-format=image/png FILE",
-             "could not print test.ppd: this printer does not accept this type of file (PNG image)"},
+             "could not print test.file: this printer does not accept this type of file (PNG image)"},
         Case{IPP_OP_CREATE_JOB, reply("\5\6", {}), "-d q FILE", "\"q\" is not accepting jobs"}}) {
     const HostileServer server(operation, {.once = answer, .closes = true});
-    const QString arguments = QString(line).replace(u"FILE"_s, m_ppd.path());
+    const QString arguments = QString(line).replace(u"FILE"_s, m_folder.path(u"test.file"_s));
     const LpRun run = this->run(u"-h %1 "_s.arg(server.address()) + arguments);
     EXPECT_TRUE(server.hasMisbehaved());
     EXPECT_EQ(run.code, 1);

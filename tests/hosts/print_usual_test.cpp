@@ -30,8 +30,12 @@ class BesideTheUsualCommand : public PrintTest {
     for (const auto& queue : {u"one"_s, u"two"_s}) {
       addQueue(queue, "*APDialogExtension: \"JobHandling.pde\"\n", "");
       ofPrintSystem(u"/usr/sbin/lpadmin -p %1 -v record:/x"_s.arg(queue));
-      ofPrintSystem(u"lpoptions -p %1/own -o sides=two-sided-short-edge -o media=A5"_s.arg(queue));
     }
+    // As root, the print system's own command would write to the system's file.
+    QDir(m_folder.path({})).mkdir(u".cups"_s);
+    m_folder.write(u".cups/lpoptions"_s,
+                   "Dest one/own media=A5 sides=two-sided-short-edge\n"
+                   "Dest two/own media=A5 sides=two-sided-short-edge\n");
   }
 
   // A waiting or finished job.
