@@ -67,7 +67,8 @@ Reading readDomain(const QString& path) {
     if (!QFile::exists(path)) return {{.available = true, .values = {}}};
     return {unavailable(path, file.errorString())};
   }
-  const QByteArray bytes = file.read(largestDomain + 1);
+  // For a larger number Qt would allocate that much twice.
+  const QByteArray bytes = file.read(qMin(file.size(), qint64{largestDomain}) + 1);
   if (file.error() != QFile::NoError) return {unavailable(path, file.errorString())};
   if (bytes.size() > largestDomain) return {unavailable(path, tooLarge())};
   if (bytes.isEmpty()) return {{.available = true, .values = {}}};

@@ -121,7 +121,7 @@ std::optional<QByteArray> readOwnFile(const QString& path, qsizetype limit) {
       info.st_size > limit) {
     return std::nullopt;
   }
-  QByteArray bytes = file.read(limit);
+  QByteArray bytes = file.read(info.st_size);
   if (file.error() != QFile::NoError) return std::nullopt;
   return bytes;
 }
