@@ -24,8 +24,8 @@ void useInterface() {
 /// if assistive technology has not looked at the widget yet; later calls change the name.
 void nameGroup(QWidget& widget, const QString& name);
 
-/// Names a list. Qt takes what is chosen for a list's name, and looks for its label only beside it, so the list
-/// gets one there that nobody sees.
+/// Names a list. Qt takes what is chosen for a list's name, and looks for its label only beside it, so the
+/// list gets one there that nobody sees.
 void nameList(QComboBox& list, const QString& name);
 
 /// Has a text read out that appears in `source`, a widget without the focus. Before Qt 6.8 the focused widget
