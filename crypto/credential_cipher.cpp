@@ -19,7 +19,7 @@ void my_aes_encrypt(const char* plaintext, std::span<std::uint8_t> output) {
   std::ranges::fill(output, std::uint8_t{0});
   const std::size_t length = std::strlen(plaintext);
   if (length == 0) return;
-  aes128_ctx key;
+  aes128_ctx key{};
   aes128_set_encrypt_key(&key, fixedKey.data());
   for (std::size_t start = 0; start < length && start + cipherBlockSize <= output.size();
        start += cipherBlockSize) {
@@ -32,7 +32,7 @@ void my_aes_encrypt(const char* plaintext, std::span<std::uint8_t> output) {
 
 void my_aes_decrypt(std::span<const std::uint8_t> cipherText, std::span<std::uint8_t> output) {
   if (cipherText.data() == nullptr || output.data() == nullptr) return;
-  aes128_ctx key;
+  aes128_ctx key{};
   aes128_set_decrypt_key(&key, fixedKey.data());
   const std::size_t length = std::min(cipherText.size(), output.size());
   for (std::size_t start = 0; start + cipherBlockSize <= length; start += cipherBlockSize) {
