@@ -60,14 +60,13 @@ void TcpStream::tryNext() {
   if (m_addresses.isEmpty()) return endWith(m_fault);
   const SocketAddress address = m_addresses.takeFirst();
   m_socket.reset(::socket(address.storage.ss_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-  const bool isOpen = bool(m_socket);
-  if (isOpen && (::connect(m_socket.get(), address.get(), address.length) == 0 || errno == EINPROGRESS)) {
+  if (m_socket && (::connect(m_socket.get(), address.get(), address.length) == 0 || errno == EINPROGRESS)) {
     m_writable = std::make_unique<QSocketNotifier>(m_socket.get(), QSocketNotifier::Write);
     connect(m_writable.get(), &QSocketNotifier::activated, this, &TcpStream::goOn);
     return;
   }
   m_fault = endOf(errno);
-  isOpen ? tryNext() : endWith(m_fault);
+  tryNext();
 }
 
 // The connection is made, or has failed, or takes more of the request.

@@ -199,7 +199,7 @@ QString plainValue(const QString& option, const QString& value) {
   return plainName(option == u"PageSize" && value.count(u'_') > 1 ? value.section(u'_', 0, 1) : value);
 }
 
-// By option and plain name. It is built in every program that prints, without a text for each name.
+// By option and plain name. It is built in every program that prints.
 using Index = std::unordered_map<std::string, const StandardValue*>;
 
 std::string keyOf(std::string_view option, std::string_view name) {
@@ -216,21 +216,14 @@ void forEachWord(std::string_view words, Take take) {
   }
 }
 
-// As `plainName`.
-std::string plainWord(std::string_view word) {
-  std::string plain;
-  for (const char each : word) {
-    if (each != '-' && each != '_')
-      plain += each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
-  }
-  return plain;
-}
-
 Index indexOf(std::span<const StandardValue> table) {
   Index index;
   for (const StandardValue& each : table) {
     forEachWord(each.options, [&](std::string_view option) {
-      forEachWord(each.names, [&](std::string_view name) { index[keyOf(option, plainWord(name))] = &each; });
+      forEachWord(each.names, [&](std::string_view name) {
+        const QString word = QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+        index[keyOf(option, plainName(word).toStdString())] = &each;
+      });
     });
   }
   return index;
