@@ -17,12 +17,4 @@ function(kesto_folder target folder)
   add_library(${target} STATIC ${arg_SOURCES})
   kesto_headers(${target} PUBLIC ${folder})
   target_link_libraries(${target} PUBLIC ${arg_LINKS})
-  kesto_precompile(${target})
-endfunction()
-
-# kesto_precompile(TARGET): precompiles the Qt headers that nearly every source of TARGET includes.
-function(kesto_precompile target)
-  target_precompile_headers(${target} PRIVATE
-    <QtCore/QObject> <QtCore/QString> <QtCore/QStringList> <QtCore/QByteArray> <QtCore/QVariant>
-    <QtCore/QJsonObject> <QtCore/QFile> <QtCore/QDir> <array> <functional> <memory> <optional> <span> <vector>)
 endfunction()

@@ -8,6 +8,15 @@
 namespace kesto {
 namespace {
 
+constexpr char authInfoRequired[] = "auth-info-required";
+
+// Asks the scheduler what the printer wants to know.
+Outcome askPrinter(PrintServer& server, const QString& queue, Ipp* printer) {
+  const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uriOfQueue(queue));
+  askFor(request.get(), std::array{authInfoRequired});
+  return server.order(request.get(), resourceOfQueue(queue), printer);
+}
+
 // None for a printer that asks for nothing, or for a ticket, which the scheduler takes from the connection.
 QStringList wantedBy(ipp_t* printer) {
   QStringList wanted = textsOf(ippFindAttribute(printer, authInfoRequired, IPP_TAG_KEYWORD));
@@ -37,18 +46,18 @@ Outcome ask(PrintServer& server, const PasswordQuestion& question, const std::op
 
 }  // namespace
 
-Outcome findAuthInfo(PrintServer& server, const QString& queue, ipp_t* printer, QStringList* authInfo) {
-  const QStringList wanted = wantedBy(printer);
+Outcome findAuthInfo(PrintServer& server, const QString& queue, QStringList* authInfo) {
+  Ipp printer;
+  Outcome asked = askPrinter(server, queue, &printer);
+  if (!printer) return asked;
+  const QStringList wanted = wantedBy(printer.get());
   if (wanted.isEmpty() || server.passwords() == nullptr) return Outcome::done();
   return ask(server, questionOf(queue, wanted), {}, authInfo);
 }
 
 Outcome authenticateJob(PrintServer& server, const SentJob& job, bool* isDeclined) {
-  const QByteArray uri = uriOfQueue(job.queue);
-  const Ipp question = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, uri);
-  askFor(question.get(), std::array{authInfoRequired});
   Ipp printer;
-  if (Outcome asked = server.order(question.get(), "/", &printer); !asked) return asked;
+  if (Outcome asked = askPrinter(server, job.queue, &printer); !asked) return asked;
   const QStringList wanted = wantedBy(printer.get());
   *isDeclined = server.passwords() == nullptr || wanted.isEmpty();
   if (*isDeclined) return Outcome::failed(QStringLiteral("nobody can be asked for the password"));
@@ -59,7 +68,7 @@ Outcome authenticateJob(PrintServer& server, const SentJob& job, bool* isDecline
   if (refused) wipe(*refused);
   *isDeclined = !answered;
   if (!answered) return answered;
-  const Ipp request = requestTo(IPP_OP_CUPS_AUTHENTICATE_JOB, uri, job.number);
+  const Ipp request = requestTo(IPP_OP_CUPS_AUTHENTICATE_JOB, uriOfQueue(job.queue), job.number);
   addAuthInfo(request.get(), authInfo);
   Ipp reply;
   return server.order(request.get(), "/jobs/", &reply);

@@ -6,13 +6,10 @@
 
 namespace kesto {
 
-/// The attribute in which a printer names what it wants to know.
-inline constexpr char authInfoRequired[] = "auth-info-required";
-
-/// Finds the values of the attribute "auth-info" for a job on a queue, whose attributes `printer` has: what
-/// "auth-info-required" names, kept or asked from the user. Empty when nothing has to be asked. Fails when
-/// the user gives no answer.
-Outcome findAuthInfo(PrintServer& server, const QString& queue, ipp_t* printer, QStringList* authInfo);
+/// Finds the values of the attribute "auth-info" for a job on a queue: what its attribute
+/// "auth-info-required" names, kept or asked from the user. Empty when nothing has to be asked, or the server
+/// refuses to say. Fails when the user gives no answer, and when the server gives none.
+Outcome findAuthInfo(PrintServer& server, const QString& queue, QStringList* authInfo);
 
 /// Gives the scheduler what it needs to go on with a job that it holds because the printer refused the
 /// values, or had none: the user is asked again. Fails when the user gives no answer, which `*isDeclined`

@@ -147,13 +147,7 @@ class OpenJob {
   OpenJob& operator=(const OpenJob&) = delete;
 
   // Finds out what the printer wants to know of the user. The job may be refused even so.
-  Outcome prepare() {
-    const Ipp request = requestTo(IPP_OP_GET_PRINTER_ATTRIBUTES, m_uri);
-    askFor(request.get(), std::array{authInfoRequired});
-    Ipp reply;
-    Outcome asked = m_server.order(request.get(), m_resource, &reply);
-    return reply ? findAuthInfo(m_server, m_queue, reply.get(), &m_authInfo) : asked;
-  }
+  Outcome prepare() { return findAuthInfo(m_server, m_queue, &m_authInfo); }
 
   Outcome create(const QString& title, const OptionArray& options) {
     Ipp request = requestTo(IPP_OP_CREATE_JOB, m_uri);

@@ -37,19 +37,17 @@ QJsonObject propertiesOf(const QObject& object, const QMetaObject& base = QObjec
   return properties;
 }
 
-// The value of a command's member.
-enum class Member : std::uint8_t { Text, TextOrNull, Whole };
+// What the value of a command's member may be.
+bool isText(const QJsonValue& value) {
+  return value.isString();
+}
 
-bool holds(const QJsonValue& value, Member member) {
-  switch (member) {
-    case Member::Text:
-      return value.isString();
-    case Member::TextOrNull:
-      return value.isString() || value.isNull();
-    case Member::Whole:
-      return value.isDouble() && value.toDouble() == std::trunc(value.toDouble());
-  }
-  return false;
+bool isTextOrNull(const QJsonValue& value) {
+  return value.isString() || value.isNull();
+}
+
+bool isWhole(const QJsonValue& value) {
+  return value.isDouble() && value.toDouble() == std::trunc(value.toDouble());
 }
 
 int wholeOf(const QJsonValue& value) {
@@ -72,7 +70,7 @@ QJsonArray AlertRecorder::take() {
 struct ScriptSession::CommandRow {
   struct MemberRow {
     const char* name = nullptr;
-    Member member = Member::Text;
+    bool (*admits)(const QJsonValue&) = nullptr;
   };
   const char* name = nullptr;
   QJsonObject (ScriptSession::*run)(const QJsonObject&) = nullptr;
@@ -81,10 +79,10 @@ struct ScriptSession::CommandRow {
 
 const ScriptSession::CommandRow* ScriptSession::commandNamed(const QString& name) {
   using S = ScriptSession;
-  constexpr CommandRow::MemberRow control{"control", Member::Text};
-  constexpr CommandRow::MemberRow text{"text", Member::Text};
+  constexpr CommandRow::MemberRow control{"control", isText};
+  constexpr CommandRow::MemberRow text{"text", isText};
   static constexpr std::array table{
-      CommandRow{"panels", &S::panels, {{{"type", Member::Text}}}},
+      CommandRow{"panels", &S::panels, {{{"type", isText}}}},
       CommandRow{"show", &S::show},
       CommandRow{"restore", &S::restore},
       CommandRow{"save", &S::save},
@@ -94,12 +92,12 @@ const ScriptSession::CommandRow* ScriptSession::commandNamed(const QString& name
       CommandRow{"select", &S::select, {{control}}},
       CommandRow{"type", &S::type, {{control, text}}},
       CommandRow{"paste", &S::paste, {{control, text}}},
-      CommandRow{"caret", &S::caret, {{control, {"location", Member::Whole}, {"length", Member::Whole}}}},
+      CommandRow{"caret", &S::caret, {{control, {"location", isWhole}, {"length", isWhole}}}},
       CommandRow{"backspace", &S::backspace, {{control}}},
       CommandRow{"controls", &S::controls},
       CommandRow{"facts", &S::facts},
       CommandRow{"settings", &S::settings},
-      CommandRow{"set", &S::set, {{{"key", Member::Text}, {"value", Member::TextOrNull}}}},
+      CommandRow{"set", &S::set, {{{"key", isText}, {"value", isTextOrNull}}}},
       CommandRow{"quit", &S::quit},
   };
   for (const CommandRow& row : table) {
@@ -123,7 +121,7 @@ QJsonObject ScriptSession::answer(const QByteArray& line) {
     if (member.name == nullptr) break;
     const QLatin1String memberName(member.name);
     if (!command.contains(memberName)) return error(QStringLiteral("%1 is missing").arg(memberName));
-    if (!holds(command.value(memberName), member.member))
+    if (!member.admits(command.value(memberName)))
       return error(QStringLiteral("%1 is not of its kind").arg(memberName));
   }
   QJsonObject result = (this->*row->run)(command);
@@ -181,8 +179,7 @@ QJsonObject ScriptSession::select(const QJsonObject& command) {
   if (matrix == nullptr && popUp == nullptr) return error(QStringLiteral("no such matrix or pop-up"));
   const QString member = matrix != nullptr ? QStringLiteral("row") : QStringLiteral("index");
   const QJsonValue number = command.value(member);
-  if (!holds(number, Member::Whole))
-    return error(QStringLiteral("%1 is missing or no whole number").arg(member));
+  if (!isWhole(number)) return error(QStringLiteral("%1 is missing or no whole number").arg(member));
   return answerOf(matrix != nullptr ? matrix->choose(wholeOf(number)) : popUp->choose(wholeOf(number)));
 }
 
