@@ -40,6 +40,7 @@ bool keepAside(const QString& path) {
     const QString aside = pathBeside(path, QStringLiteral(".damaged-%1").arg(number));
     if (QFile::exists(aside)) continue;
     if (!QFile::rename(path, aside)) return !QFile::exists(path);
+    QFile::setPermissions(aside, ownerFile);
     qCWarning(store, "%s was not readable and is kept as %s", qUtf8Printable(path), qUtf8Printable(aside));
     return true;
   }

@@ -9,6 +9,9 @@ namespace kesto {
 constexpr qsizetype longestReply = qsizetype{16} << 20;
 /// A PPD, in bytes, packed and unpacked.
 constexpr qsizetype longestPpd = qsizetype{8} << 20;
+/// Options and their choices in a PPD, in all, and its constraints.
+constexpr int mostPpdChoices = 20'000;
+constexpr int mostPpdConstraints = 50'000;
 /// Nested collections in a reply. The deepest in use has three.
 constexpr int deepestCollection = 16;
 /// Values of a reply in all, and its groups. A list of ten thousand queues has fifty thousand.

@@ -5,6 +5,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryFile>
+#include <span>
 
 #include "hosts/cups/bounds.h"
 #include "hosts/cups/faults.h"
@@ -21,6 +22,15 @@ bool isShortEnough(const QString& path) {
   for (ssize_t count = 1; file && count > 0 && length <= longestPpd; length += count)
     count = cupsFileRead(file.get(), block.data(), static_cast<std::size_t>(block.size()));
   return length <= longestPpd;
+}
+
+bool isSmallEnough(const ppd_file_t& ppd) {
+  int choices = 0;
+  for (const ppd_group_t& group : std::span(ppd.groups, static_cast<std::size_t>(ppd.num_groups))) {
+    for (const ppd_option_t& option : std::span(group.options, static_cast<std::size_t>(group.num_options)))
+      choices += 1 + option.num_choices;
+  }
+  return choices <= mostPpdChoices && ppd.num_consts <= mostPpdConstraints;
 }
 
 }  // namespace
@@ -57,9 +67,11 @@ Outcome fetchPpdFile(PrintServer& server, const QString& queue, PpdFile* ppd) {
   QTemporaryFile file;
   if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
     return Outcome::failed(Faults::tr("cannot store the PPD: %1").arg(file.errorString()));
-  if (!isShortEnough(file.fileName()))
-    return Outcome::failed(Faults::tr("the PPD of %1 is too large").arg(queue));
-  return openPpdFile(file.fileName(), ppd);
+  const bool isShort = isShortEnough(file.fileName());
+  if (isShort) fetched = openPpdFile(file.fileName(), ppd);
+  if (isShort && (!fetched || isSmallEnough(**ppd))) return fetched;
+  ppd->reset();
+  return Outcome::failed(Faults::tr("the PPD of %1 is too large").arg(queue));
 }
 
 bool offersJobHandling(ppd_file_t& ppd) {

@@ -148,6 +148,7 @@ Outcome PrintServer::connect(const QString& address, std::chrono::milliseconds l
                              std::unique_ptr<PrintServer>* server, const std::shared_ptr<Watchdog>& watchdog,
                              const std::shared_ptr<PasswordKeeper>& passwords) {
   server->reset();
+  cupsSetServer(nullptr);  // forgets the address and the port that the thread used last
   if (!address.isNull()) cupsSetServer(address.toUtf8().constData());
   std::unique_ptr<HttpConnection> http;
   if (Outcome opened = HttpConnection::open(limit, watchdog, passwords, &http); !opened) return opened;

@@ -33,11 +33,14 @@ struct ServerAddress {
     return server;
   }
 
-  /// Opens a new connection for the calling thread.
+  /// Opens a new connection for the calling thread, whatever server its last one was to.
   Outcome connect(std::unique_ptr<PrintServer>* server,
                   const std::shared_ptr<Watchdog>& watchdog = std::make_shared<Watchdog>()) const {
-    if (encrypt) cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
-    if (!user.isNull()) cupsSetUser(user.toUtf8().constData());
+    // libcups keeps these for each thread.
+    static const thread_local http_encryption_t usualEncryption = cupsEncryption();
+    static const thread_local QByteArray usualUser = cupsUser();
+    cupsSetEncryption(encrypt ? HTTP_ENCRYPTION_REQUIRED : usualEncryption);
+    cupsSetUser(user.isNull() ? usualUser.constData() : user.toUtf8().constData());
     Outcome connected = PrintServer::connect(address, limit, server, watchdog, passwords);
     if (connected) (*server)->useResource(resource);
     return connected;

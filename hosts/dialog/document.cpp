@@ -18,14 +18,15 @@
 namespace kesto {
 namespace {
 
-bool isFolder(int descriptor) {
+mode_t typeOf(int descriptor) {
   struct stat info {};
-  return ::fstat(descriptor, &info) == 0 && S_ISDIR(info.st_mode);
+  return ::fstat(descriptor, &info) == 0 ? info.st_mode & S_IFMT : 0;
 }
 
-bool isRegular(int descriptor) {
-  struct stat info {};
-  return ::fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode);
+// A pipe that is opened anew never makes a read wait, not even when the client has taken the bytes back.
+Descriptor withoutWaiting(Descriptor pipe) {
+  Descriptor own(::open(pathOf(pipe.get()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  return own ? std::move(own) : std::move(pipe);
 }
 
 // Whether it can be read repeatedly. Files that the kernel generates report a wrong length.
@@ -89,7 +90,8 @@ void Document::add(const QByteArray& path) {
   Descriptor file(isInput ? ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0)
                           : ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   if (!file) return addFault(tr("%1 cannot be read: %2").arg(shownPath(path), qt_error_string(errno)));
-  if (isFolder(file.get())) return addFault(tr("%1 is a folder. Choose a file.").arg(shownPath(path)));
+  if (typeOf(file.get()) == S_IFDIR)
+    return addFault(tr("%1 is a folder. Choose a file.").arg(shownPath(path)));
   m_parts.push_back({isInput ? QStringLiteral("(stdin)") : shownFileName(path), {}});
   // Standard input is read from its current position.
   if (isInput || !isStored(file.get())) {
@@ -101,7 +103,9 @@ void Document::add(const QByteArray& path) {
 
 void Document::readFromClient(Descriptor descriptor, const QString& name) {
   begin();
-  m_isOpenEnded = !isRegular(descriptor.get());
+  const mode_t type = typeOf(descriptor.get());
+  m_isOpenEnded = type != S_IFREG;
+  if (type == S_IFIFO) descriptor = withoutWaiting(std::move(descriptor));
   m_parts.push_back({shownText(name), {}});
   m_sources.push_back({0, std::move(descriptor)});
   read();

@@ -1,6 +1,7 @@
 // Passwords that print servers and printers ask for while the dialog is open.
 #pragma once
 
+#include <QtCore/QObject>
 #include <QtCore/QPointer>
 
 #include "hosts/cups/server_address.h"

@@ -1,5 +1,6 @@
 #include "hosts/dialog/pdf_saving.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QSaveFile>
 
 #include "hosts/dialog/widgets/plain_text.h"

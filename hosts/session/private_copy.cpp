@@ -60,7 +60,10 @@ bool isOpenElsewhere(int file) {
 
 QStringList PrivateCopy::usualFolders() {
   QStringList folders{QStringLiteral("/var/tmp/"), QStringLiteral("/tmp/")};
-  if (const QString own = userTemporaryDirectory(); !own.isNull()) folders.prepend(own);
+  const QString own = userTemporaryDirectory();
+  if (own.isNull()) return folders;
+  // The runtime folder is memory, and the user's other programs need it.
+  qEnvironmentVariableIsEmpty("TMPDIR") ? folders.append(own) : folders.prepend(own);
   return folders;
 }
 

@@ -6,6 +6,7 @@
 #include "hosts/cups/bounds.h"
 #include "hosts/cups/job_follower.h"
 #include "hosts/cups/network_printers.h"
+#include "hosts/cups/server_address.h"
 #include "tests/support/hostile_server.h"
 #include "tests/support/print_program.h"
 
@@ -462,6 +463,28 @@ TEST_F(HostilePrintServer, NeitherBlocksAProgramNorFillsItsMemory) {
     for (const auto& [operation, subject] : operations)
       EXPECT_EQ(reason(), subject + fault) << what;
   }
+}
+
+TEST(ServerAddress, ConnectsToItsServerWhateverTheLastOneWas) {
+  const Misbehaviour refusal{.once = "HTTP/1.1 403 No\r\nContent-Length: 0\r\n\r\n", .closes = true};
+  HostileServer usual(IPP_OP_CUPS_GET_PRINTERS, refusal);
+  HostileServer printer(IPP_OP_CUPS_GET_PRINTERS, refusal);
+  qputenv("CUPS_SERVER", usual.address().toLatin1());
+  const QString user = QString::fromUtf8(cupsUser());
+  const auto wrongAt = [](const ServerAddress& address) {
+    std::unique_ptr<PrintServer> server;
+    std::vector<QueueSummary> queues;
+    Outcome asked = address.connect(&server);
+    return asked ? server->listQueues(&queues).reason() : asked.reason();
+  };
+  const ServerAddress address{.address = {}, .user = {}};
+  ServerAddress other = address.forQueue(u"ipp://%1/ipp/print"_s.arg(printer.address()));
+  other.user = u"somebody"_s;
+  EXPECT_TRUE(wrongAt(other).contains(printer.address()));
+  EXPECT_FALSE(usual.hasMisbehaved());
+  EXPECT_TRUE(wrongAt(address.forQueue(u"q"_s)).contains(usual.address()));
+  EXPECT_TRUE(usual.hasMisbehaved());
+  EXPECT_EQ(QString::fromUtf8(cupsUser()), user);
 }
 
 TEST_F(HostilePrintServer, AHandshakeHasATimeLimitToo) {

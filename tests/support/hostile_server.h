@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <QtCore/QByteArray>
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QtEndian>
 #include <atomic>

@@ -93,10 +93,7 @@ void PresetMenu::loadLastUsed() {
 
 void PresetMenu::take(const Outcome& loaded, const QStringList& others) {
   showActive();
-  if (!loaded) {
-    QMessageBox::warning(window(), tr("Presets"), asSentence(loaded.reason()));
-    return;
-  }
+  if (!loaded) return warn(loaded);
   Q_EMIT this->loaded(others);
 }
 
@@ -119,8 +116,7 @@ void PresetMenu::save() {
   if (dialog.exec() != QDialog::Accepted || m_session.shelf() == nullptr) return;
   const QString wanted = name->text().trimmed();
   if (!mayReplace(wanted) || m_session.shelf() == nullptr) return;
-  if (Outcome saved = m_session.savePreset(wanted, codes->isChecked()); !saved)
-    QMessageBox::warning(window(), tr("Presets"), asSentence(saved.reason()));
+  if (Outcome saved = m_session.savePreset(wanted, codes->isChecked()); !saved) warn(saved);
   showActive();
 }
 
@@ -134,9 +130,15 @@ bool PresetMenu::mayReplace(const QString& name) {
 }
 
 void PresetMenu::remove(const QString& name) {
-  if (Outcome removed = m_session.removePreset(name); !removed)
-    QMessageBox::warning(window(), tr("Presets"), asSentence(removed.reason()));
+  if (Outcome removed = m_session.removePreset(name); !removed) warn(removed);
   showActive();
+}
+
+void PresetMenu::warn(const Outcome& failure) {
+  QMessageBox box(QMessageBox::Warning, tr("Presets"), asSentence(failure.reason()), QMessageBox::Ok,
+                  window());
+  box.setTextFormat(Qt::PlainText);  // the reason may contain a name
+  box.exec();
 }
 
 }  // namespace kesto

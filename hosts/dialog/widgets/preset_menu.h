@@ -39,6 +39,7 @@ class PresetMenu : public QPushButton {
   void save();
   bool mayReplace(const QString& name);
   void remove(const QString& name);
+  void warn(const Outcome& failure);
 
   PanelSession& m_session;
   QMenu* m_menu;
