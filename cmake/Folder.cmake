@@ -11,10 +11,12 @@ function(kesto_headers target scope folder)
   target_include_directories(${target} ${scope} ${root})
 endfunction()
 
-# kesto_folder(TARGET FOLDER SOURCES ... LINKS ...): the static library of one folder of the core.
+# kesto_folder(TARGET FOLDER SOURCES ... LINKS ...): the static library of one folder. Moc reads its headers, and those
+# of no program or test.
 function(kesto_folder target folder)
   cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "SOURCES;LINKS")
   add_library(${target} STATIC ${arg_SOURCES})
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
   kesto_headers(${target} PUBLIC ${folder})
   target_link_libraries(${target} PUBLIC ${arg_LINKS})
 endfunction()
