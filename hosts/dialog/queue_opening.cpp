@@ -1,21 +1,37 @@
 #include "hosts/dialog/queue_opening.h"
 
+#include <chrono>
 #include <utility>
 
 #include "hosts/dialog/widgets/plain_text.h"
 
 namespace kesto {
+namespace {
+
+constexpr std::chrono::milliseconds longestListDelay(250);
+
+}  // namespace
 
 QueueOpening::QueueOpening(QueueWatch& watch, QueueClient& client, const QueueListModel& queues)
     : m_watch(watch), m_client(client), m_queues(queues) {
   connect(&client, &QueueClient::opened, this, [this](Queue& queue) { take(std::move(queue)); });
   connect(&client, &QueueClient::openFailed, this, &QueueOpening::takeOpenFault);
+  m_listDelay.setSingleShot(true);
+  m_listDelay.setInterval(longestListDelay);
+  connect(&m_listDelay, &QTimer::timeout, this, [this] { m_watch.start(); });
 }
 
 void QueueOpening::start(const QString& name) {
   m_wanted = name;
-  m_watch.start();
+  m_listDelay.start();
   ask();
+}
+
+// A long list keeps the scheduler and this program busy, so the wanted queue and its panel come first.
+void QueueOpening::listNow() {
+  if (!m_listDelay.isActive()) return;
+  m_listDelay.stop();
+  m_watch.start();
 }
 
 void QueueOpening::suggest(const QString& name) {
@@ -99,6 +115,7 @@ void QueueOpening::takeOpenFault(const QString& reason) {
   if (!m_suggested.isNull() && m_suggested == m_wanted) {
     return want({});
   }
+  listNow();
   m_openFault = asSentence(reason);
   settleWithout();
 }
@@ -126,6 +143,7 @@ void QueueOpening::settleWithout() {
 void QueueOpening::settle() {
   if (m_state == State::Asked || std::exchange(m_isSettled, true)) return;
   Q_EMIT settled();
+  listNow();
 }
 
 QueueSummary QueueOpening::summary() const {

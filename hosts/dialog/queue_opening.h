@@ -1,6 +1,8 @@
 // The queue that a print dialog wants, and the state of its opening.
 #pragma once
 
+#include <QtCore/QTimer>
+
 #include "hosts/cups/queue_client.h"
 #include "hosts/cups/queue_watch.h"
 #include "hosts/dialog/widgets/queue_list_model.h"
@@ -23,7 +25,7 @@ class QueueOpening : public QObject {
   /// `queues` shows what `watch` lists. All three must outlive this object.
   QueueOpening(QueueWatch& watch, QueueClient& client, const QueueListModel& queues);
 
-  /// Asks for a queue, the user's default one when `name` is null, and for the list of all.
+  /// Asks for a queue, the user's default one when `name` is null, and then for the list of all.
   void start(const QString& name);
   /// Like `start`, for a queue that an application remembers. When it cannot be opened, the default queue
   /// replaces it.
@@ -68,6 +70,7 @@ class QueueOpening : public QObject {
  private:
   void reset();
   void ask();
+  void listNow();
   void takeOpenFault(const QString& reason);
   void settleWithout();
   void settle();
@@ -75,6 +78,7 @@ class QueueOpening : public QObject {
   QueueWatch& m_watch;
   QueueClient& m_client;
   const QueueListModel& m_queues;
+  QTimer m_listDelay;  // until a queue that does not answer no longer holds up the list
   State m_state = State::Asked;
   bool m_isSettled = false;
   bool m_isListed = false;
