@@ -251,6 +251,7 @@ TEST_F(PortalDialog, ADocumentThatComesLaterIsSavedAsPdf) {
   open(false, {}, {}, {{u"canWritePdf"_s, true}});
   await([] { return window()->isQueueReady(); }, u"the queue"_s);
   auto* printer = window()->findChild<QComboBox*>(u"printer"_s);
+  await([&] { return printer->findText(u"Save as PDF"_s) > 0; }, u"the list of printers"_s);
   printer->setCurrentIndex(printer->count() - 1);
   await([] { return window()->savesPdf(); }, u"the file in place of a printer"_s);
   whenModal([&](QWidget& files) {
