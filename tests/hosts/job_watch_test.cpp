@@ -46,7 +46,7 @@ TEST_F(LpTest, AWaitEndsWhateverTheServerDoes) {
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(bytes.size()) + "\r\n\r\n" + bytes;
   };
   const std::pair<Misbehaviour, Text> misbehaviours[] = {
-      {{}, "did not answer within 0.3 s"},
+      {{}, "did not answer within 1 s"},
       {{.closes = true}, "closed the connection"},
       {{answered("x"), {}, {}, true}, "cannot read the print server's answer"},
       {{answered("\2\0\4\6\0\0\0\1\3"_ba), {}, {}, true}, ""},  // not found
@@ -55,7 +55,7 @@ TEST_F(LpTest, AWaitEndsWhateverTheServerDoes) {
                               IPP_OP_GET_JOB_ATTRIBUTES, IPP_OP_GET_JOBS}) {
     for (const auto& [misbehaviour, fault] : misbehaviours) {
       const HostileServer server(operation, misbehaviour);
-      const LpRun lp = run(u"-h %1 --timeout 0.3 --wait=3 -d q %2"_s.arg(server.address(), m_ppd.path()));
+      const LpRun lp = run(u"-h %1 --timeout 1 --wait=2 -d q %2"_s.arg(server.address(), m_ppd.path()));
       // Without events the job itself is asked for, and a printer may have no other jobs.
       const bool isHarmless = operation == IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS ||
                               (operation == IPP_OP_GET_JOBS && fault.isEmpty());

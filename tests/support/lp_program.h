@@ -47,7 +47,8 @@ class LpTest : public testing::Test {
     return process;
   }
   static LpRun finish(QProcess& process) {
-    EXPECT_TRUE(process.waitForFinished()) << process.errorString().toStdString();
+    constexpr int longest = 120'000;  // milliseconds; for builds with sanitizers
+    EXPECT_TRUE(process.waitForFinished(longest)) << process.errorString().toStdString();
     const auto text = [](const QByteArray& bytes) { return QString::fromUtf8(bytes); };
     return {process.exitCode(), text(process.readAllStandardOutput()), text(process.readAllStandardError())};
   }
