@@ -12,7 +12,7 @@ namespace {
 
 constexpr qsizetype longestOutput = qsizetype{64} << 20;
 constexpr qsizetype mostErrors = qsizetype{64} << 10;
-constexpr rlim_t largestFile = rlim_t{1} << 30;
+constexpr rlim_t largestFile = rlim_t{4} << 30;
 #ifdef __SANITIZE_ADDRESS__
 constexpr rlim_t largestMemory = RLIM_INFINITY;  // the address sanitizer reserves far more
 #else
