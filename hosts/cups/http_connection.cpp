@@ -3,10 +3,10 @@
 #include <sys/socket.h>
 
 #include <cstring>
-#include <future>
 
 #include "hosts/cups/bounds.h"
 #include "hosts/cups/faults.h"
+#include "hosts/cups/server_addresses.h"
 #include "platform/secret.h"
 
 namespace kesto {
@@ -15,8 +15,6 @@ namespace {
 constexpr qsizetype blockSize = 65536;
 // How long a document waits for the server's "100 Continue", which old servers do not send.
 constexpr std::chrono::milliseconds leave(1000);
-// How often the wait for an address checks whether to give up.
-constexpr std::chrono::milliseconds look(50);
 
 // Without this, closing an encrypted connection waits for the other side.
 void shutDown(http_t* http) {
@@ -57,23 +55,6 @@ int HttpConnection::giveUp(http_t* http, void* connection) {
   return 0;
 }
 
-// A look-up cannot be interrupted, so it runs in a thread of its own, which is abandoned if necessary.
-Outcome HttpConnection::findAddresses(const QByteArray& host, int port) {
-  std::packaged_task<Addresses()> task([host, port] {
-    return Addresses(httpAddrGetList(host.constData(), AF_UNSPEC, QByteArray::number(port).constData()));
-  });
-  std::future<Addresses> found = task.get_future();
-  std::thread(std::move(task)).detach();
-  const auto end = Clock::now() + m_limit;
-  while (found.wait_for(std::min(look, m_limit)) != std::future_status::ready) {
-    if (m_watchdog->isInterrupted() || Clock::now() >= end)
-      return Outcome::failed(Faults::tr("looking up the print server %1 took too long").arg(m_name));
-  }
-  m_addresses = found.get();
-  return m_addresses ? Outcome::done()
-                     : Outcome::failed(Faults::tr("there is no print server named %1").arg(m_name));
-}
-
 HttpConnection::~HttpConnection() {
   if (m_given) wipe(*m_given);
 }
@@ -87,7 +68,10 @@ Outcome HttpConnection::open(std::chrono::milliseconds limit, std::shared_ptr<Wa
   made->m_port = ippPort();
   made->m_name = QString::fromUtf8(made->m_host);
   if (!made->m_host.startsWith('/')) made->m_name += QStringLiteral(":%1").arg(made->m_port);
-  if (Outcome found = made->findAddresses(made->m_host, made->m_port); !found) return found;
+  if (Outcome found = findAddresses(made->m_host, made->m_port, made->m_name, limit, *made->m_watchdog,
+                                    &made->m_addresses);
+      !found)
+    return found;
   if (Outcome prepared = made->prepare(); !prepared) return prepared;
   if (Outcome connected = made->reconnect(); !connected) return connected;
   *connection = std::move(made);

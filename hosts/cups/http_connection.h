@@ -64,7 +64,6 @@ class HttpConnection {
   HttpConnection(std::chrono::milliseconds limit, std::shared_ptr<Watchdog> watchdog,
                  std::shared_ptr<PasswordKeeper> passwords)
       : m_limit(limit), m_watchdog(std::move(watchdog)), m_passwords(std::move(passwords)) {}
-  Outcome findAddresses(const QByteArray& host, int port);
   Outcome prepare();
   Outcome reconnect();
   bool isPrivate() const;

@@ -59,41 +59,43 @@ bool Watchdog::isInterrupted() const {
   return m_isInterrupted != 0;
 }
 
-std::optional<Watchdog::Clock::time_point> Watchdog::after(std::optional<std::chrono::milliseconds> limit) {
-  return limit ? std::optional(Clock::now() + *limit) : std::nullopt;
+bool Watchdog::isDue() const {
+  return m_isInterrupted != 0 || m_end <= Clock::now();
 }
 
-bool Watchdog::isDue() const {
-  return m_isInterrupted != 0 || (m_end && *m_end <= Clock::now());
+// Whether the thread must be woken for it. Mostly it looks early enough of itself, and each waking costs a
+// short program two switches between threads.
+bool Watchdog::setEnd(std::optional<std::chrono::milliseconds> limit) {
+  m_end = limit ? Clock::now() + *limit : Clock::time_point::max();
+  return m_isInterrupted != 0 || m_end < m_waking;
 }
 
 void Watchdog::run() {
   std::unique_lock lock(m_mutex);
   while (!m_isGone) {
+    m_waking = m_http != nullptr ? m_end : Clock::time_point::max();
     if (m_http != nullptr && isDue()) {
       m_hasCut = true;
       cut(m_http, m_addresses);
-      m_changed.wait_for(lock, nextLook);
-    } else if (m_http != nullptr && m_end) {
-      m_changed.wait_until(lock, *m_end);
-    } else {
-      m_changed.wait(lock);
+      m_waking = Clock::now() + nextLook;
     }
+    m_changed.wait_until(lock, m_waking);
   }
 }
 
 Watchdog::Watch::Watch(Watchdog& dog, http_t* http, http_addrlist_t* addresses,
                        std::optional<std::chrono::milliseconds> limit)
     : m_dog(dog) {
+  bool mustWake = false;
   {
     const std::lock_guard lock(dog.m_mutex);
     dog.m_http = http;
     dog.m_addresses = addresses;
-    dog.m_end = after(limit);
     dog.m_hasCut = false;
+    mustWake = dog.setEnd(limit);
     if (!dog.m_thread.joinable()) dog.m_thread = std::thread([&dog] { dog.run(); });
   }
-  dog.m_changed.notify_all();
+  if (mustWake) dog.m_changed.notify_all();
 }
 
 Watchdog::Watch::~Watch() {
@@ -102,11 +104,12 @@ Watchdog::Watch::~Watch() {
 }
 
 void Watchdog::Watch::restart(std::optional<std::chrono::milliseconds> limit) {
+  bool mustWake = false;
   {
     const std::lock_guard lock(m_dog.m_mutex);
-    m_dog.m_end = after(limit);
+    mustWake = m_dog.setEnd(limit);
   }
-  m_dog.m_changed.notify_all();
+  if (mustWake) m_dog.m_changed.notify_all();
 }
 
 bool Watchdog::Watch::hasCut() const {

@@ -58,14 +58,15 @@ class Watchdog {
 
   void run();
   bool isDue() const;
-  static std::optional<Clock::time_point> after(std::optional<std::chrono::milliseconds> limit);
+  bool setEnd(std::optional<std::chrono::milliseconds> limit);
 
   mutable std::mutex m_mutex;
   std::condition_variable m_changed;
   std::thread m_thread;      // started by the first watch
   http_t* m_http = nullptr;  // what is watched
   http_addrlist_t* m_addresses = nullptr;
-  std::optional<Clock::time_point> m_end;
+  Clock::time_point m_end = Clock::time_point::max();
+  Clock::time_point m_waking = Clock::time_point::max();  // when the thread will look of itself
   int m_isInterrupted = 0;
   bool m_hasCut = false;
   bool m_isGone = false;
