@@ -1,27 +1,54 @@
 #include "hosts/cups/ppd_file.h"
 
 #include <cups/file.h>
+#include <fcntl.h>
+#include <sys/mman.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QTemporaryFile>
 #include <span>
 
 #include "hosts/cups/bounds.h"
 #include "hosts/cups/faults.h"
+#include "platform/descriptor.h"
 
 namespace kesto {
 namespace {
 
+// For libcups, which reads from where the descriptor is and closes it. A pipe is read as it comes.
+int atStart(int descriptor) {
+  ::lseek(descriptor, 0, SEEK_SET);
+  return ::fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
+}
+
 // libcups unpacks a compressed PPD while reading it.
-bool isShortEnough(const QString& path) {
+bool isShortEnough(int descriptor) {
   const std::unique_ptr<cups_file_t, decltype(&cupsFileClose)> file(
-      cupsFileOpen(QFile::encodeName(path).constData(), "r"), cupsFileClose);
+      cupsFileOpenFd(atStart(descriptor), "r"), cupsFileClose);
   QByteArray block(65536, Qt::Uninitialized);
   qsizetype length = 0;
   for (ssize_t count = 1; file && count > 0 && length <= longestPpd; length += count)
     count = cupsFileRead(file.get(), block.data(), static_cast<std::size_t>(block.size()));
   return length <= longestPpd;
+}
+
+// `name` stands for the file in messages.
+Outcome readPpd(int descriptor, const QString& name, PpdFile* ppd) {
+  ppd->reset(ppdOpenFd(atStart(descriptor)));
+  if (*ppd) return Outcome::done();
+  int line = 0;
+  const ppd_status_t status = ppdLastError(&line);
+  return Outcome::failed(
+      Faults::tr("%1: line %2: %3").arg(name).arg(line).arg(QString::fromUtf8(ppdErrorString(status))));
+}
+
+// A file in memory, without a name.
+Outcome storeInMemory(const QByteArray& bytes, QFile* file) {
+  Descriptor memory(::memfd_create("ppd", MFD_CLOEXEC));
+  const bool isStored = memory && file->open(memory.get(), QIODevice::WriteOnly, QFile::AutoCloseHandle) &&
+                        memory.release() >= 0 && file->write(bytes) == bytes.size() && file->flush();
+  return isStored ? Outcome::done()
+                  : Outcome::failed(Faults::tr("cannot store the PPD: %1").arg(qt_error_string()));
 }
 
 bool isSmallEnough(const ppd_file_t& ppd) {
@@ -46,13 +73,7 @@ Outcome openPpdFile(const QString& path, PpdFile* ppd) {
   if (QFileInfo(path).isDir()) return Outcome::failed(Faults::tr("%1: a folder, not a PPD file").arg(path));
   if (!file.open(QIODevice::ReadOnly))
     return Outcome::failed(path + QStringLiteral(": ") + file.errorString());
-  file.close();
-  ppd->reset(ppdOpenFile(QFile::encodeName(path).constData()));
-  if (*ppd) return Outcome::done();
-  int line = 0;
-  const ppd_status_t status = ppdLastError(&line);
-  return Outcome::failed(
-      Faults::tr("%1: line %2: %3").arg(path).arg(line).arg(QString::fromUtf8(ppdErrorString(status))));
+  return readPpd(file.handle(), path, ppd);
 }
 
 Outcome fetchPpdFile(PrintServer& server, const QString& queue, PpdFile* ppd) {
@@ -64,11 +85,10 @@ Outcome fetchPpdFile(PrintServer& server, const QString& queue, PpdFile* ppd) {
   if (!fetched)
     return Outcome::failed(Faults::tr("cannot get the PPD of %1: %2").arg(queue, fetched.reason()));
   if (bytes.isNull()) return Outcome::done();
-  QTemporaryFile file;
-  if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
-    return Outcome::failed(Faults::tr("cannot store the PPD: %1").arg(file.errorString()));
-  const bool isShort = isShortEnough(file.fileName());
-  if (isShort) fetched = openPpdFile(file.fileName(), ppd);
+  QFile file;
+  if (Outcome stored = storeInMemory(bytes, &file); !stored) return stored;
+  const bool isShort = isShortEnough(file.handle());
+  if (isShort) fetched = readPpd(file.handle(), queue + QStringLiteral(".ppd"), ppd);
   if (isShort && (!fetched || isSmallEnough(**ppd))) return fetched;
   ppd->reset();
   return Outcome::failed(Faults::tr("the PPD of %1 is too large").arg(queue));
