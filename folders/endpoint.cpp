@@ -3,6 +3,7 @@
 #include <arpa/inet.h>
 
 #include <QtCore/QRegularExpression>
+#include <algorithm>
 
 namespace kesto {
 namespace {
@@ -26,9 +27,20 @@ bool isBracketedAddress(const QString& text) {
          1;
 }
 
+// A name or an IPv4 address alone.
+bool isPlainName(const QString& text) {
+  const auto isPlain = [](QChar each) {
+    return (each >= u'a' && each <= u'z') || (each >= u'A' && each <= u'Z') ||
+           (each >= u'0' && each <= u'9') || each == u'.' || each == u'-';
+  };
+  return !text.isEmpty() && std::ranges::all_of(text, isPlain);
+}
+
 }  // namespace
 
 std::optional<HostAndPort> hostAndPortOf(const QString& text) {
+  // To compile the grammar takes longer than the rest of a panel's start, and most printers need none.
+  if (isPlainName(text)) return HostAndPort{.host = text, .port = QString()};
   static const QRegularExpression grammar(
       QStringLiteral("\\A(?:\\[([^\\[\\]]++)\\]|%1++)(?::([0-9]*+))?+\\z").arg(plain));
   const QRegularExpressionMatch match = grammar.match(text);

@@ -11,7 +11,9 @@
 namespace kesto {
 
 Bundle::Bundle(QString directory, const QLocale& locale) : m_directory(std::move(directory)) {
-  // Without a translation for the language the table is empty, so every text is its own key.
+  // Without a translation for the language the table is empty, so every text is its own key. The keys are
+  // English, for which Qt would look for two dozen files.
+  if (locale.language() == QLocale::English) return;
   (void)m_translator.load(locale, QStringLiteral("Localizable"), QStringLiteral("_"),
                           m_directory + QStringLiteral("/Resources"));
 }

@@ -22,8 +22,17 @@ constexpr std::array modifiers{
     ModifierRow{QLatin1String("latin"), QLatin1String("Latn")},
 };
 
-// ICU knows the script of every language in CLDR; Qt knows only those languages whose formats it has.
-QString likelyScript(const QString& name) {
+// The locales of programs and machines.
+bool isForNoLanguage(const LocaleName& name) {
+  return name.language.isEmpty() || name.language == u"C" || name.language == u"POSIX";
+}
+
+// ICU knows the script of every language in CLDR; Qt knows only those languages whose formats it has. The
+// first question makes ICU load its data, which costs a short program a millisecond.
+QString likelyScript(const LocaleName& locale) {
+  if (isForNoLanguage(locale)) return {};
+  const QString name =
+      locale.territory.isEmpty() ? locale.language : locale.language + u'_' + locale.territory;
   std::array<char, ULOC_FULLNAME_CAPACITY> likely{};
   std::array<char, ULOC_SCRIPT_CAPACITY> script{};
   UErrorCode status = U_ZERO_ERROR;
@@ -34,20 +43,23 @@ QString likelyScript(const QString& name) {
 
 // English needs no translation.
 bool isUntranslated(const LocaleName& name) {
-  return name.language.isEmpty() || name.language == u"C" || name.language == u"POSIX" ||
-         name.language == u"en";
+  return isForNoLanguage(name) || name.language == u"en";
 }
 
 }  // namespace
 
 LocaleName localeNameOf(const QString& locale) {
-  const QString modifier = locale.section(u'@', 1);
   const QString name = locale.section(u'@', 0, 0).section(u'.', 0, 0);
-  const auto* const row =
-      std::ranges::find_if(modifiers, [&](const ModifierRow& each) { return modifier == each.modifier; });
   return {.language = name.section(u'_', 0, 0),
           .territory = name.section(u'_', 1),
-          .script = row == modifiers.end() ? likelyScript(name) : QString(row->script)};
+          .modifier = locale.section(u'@', 1)};
+}
+
+QString LocaleName::script() const {
+  const auto* const row =
+      std::ranges::find_if(modifiers, [&](const ModifierRow& each) { return modifier == each.modifier; });
+  if (row != modifiers.end()) return row->script;
+  return language == u"en" ? QStringLiteral("Latn") : likelyScript(*this);
 }
 
 QString localeOfEnvironment(const char* category) {
@@ -62,15 +74,15 @@ QLocale userLanguage() {
   const QString locale = localeOfEnvironment("LC_MESSAGES");
   const LocaleName own = localeNameOf(locale);
   QStringList wanted{locale};
-  const bool isListed = own.language != u"C" && own.language != u"POSIX" && !locale.isEmpty();
-  if (isListed) wanted = qEnvironmentVariable("LANGUAGE").split(u':', Qt::SkipEmptyParts) + wanted;
+  if (!isForNoLanguage(own)) wanted = qEnvironmentVariable("LANGUAGE").split(u':', Qt::SkipEmptyParts) + wanted;
   const QStringList translations = QStringLiteral(KESTO_LANGUAGES).split(u':');
   for (const QString& each : wanted) {
     const LocaleName name = localeNameOf(each);
     if (isUntranslated(name)) break;
+    const QString script = name.script();
     const auto serves = [&](const QString& translation) {
       const LocaleName its = localeNameOf(translation);
-      return its.language == name.language && its.script == name.script;
+      return its.language == name.language && its.script() == script;
     };
     const auto found = std::ranges::find_if(translations, serves);
     if (found != translations.end()) return QLocale(*found);

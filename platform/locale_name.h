@@ -12,9 +12,11 @@ namespace kesto {
 struct LocaleName {
   QString language;   ///< In lower case, such as "sr".
   QString territory;  ///< Such as "RS"; empty for none.
-  /// Four letters, such as "Cyrl": from a modifier such as "latin", else from CLDR for the language and
-  /// territory; empty when unknown.
-  QString script;
+  QString modifier;   ///< Such as "latin" or "euro"; empty for none.
+
+  /// Four letters, such as "Cyrl": from the modifier if that names a script, else from CLDR for the language
+  /// and territory; empty when unknown.
+  KESTO_EXPORT QString script() const;
 };
 
 /// Parses a name; a locale of that name need not be installed.

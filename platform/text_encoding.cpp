@@ -3,6 +3,7 @@
 #include <unicode/ucnv.h>
 
 #include <QtCore/QLoggingCategory>
+#include <algorithm>
 #include <array>
 #include <memory>
 
@@ -75,6 +76,12 @@ UConverter* converterOf(TextEncoding encoding) {
   return converter.get();
 }
 
+// ASCII is the same in every encoding, but for ICU's Shift JIS, which swaps three control characters. To open
+// a converter for it costs a short program more than all its other texts.
+bool isAscii(QByteArrayView bytes) {
+  return std::ranges::all_of(bytes, [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
 // The text of all bytes; null when they are not valid.
 QString decoded(UConverter* converter, QByteArrayView bytes) {
   if (converter == nullptr) return {};
@@ -102,7 +109,6 @@ struct CharacterBytes {
 // `character` is one unit or a surrogate pair.
 CharacterBytes bytesOfCharacter(QStringView character, TextEncoding encoding) {
   CharacterBytes result;
-  // ASCII is the same in every encoding, except that ICU's Shift JIS swaps three control characters.
   if (character.size() == 1 && character.front().unicode() < 0x80) {
     result.bytes[0] = static_cast<char>(character.front().unicode());
     result.size = 1;
@@ -186,7 +192,7 @@ TextEncoding systemEncodingForLocale(const QString& locale) {
   if (name.language == u"zh" && (territory == u"TW" || territory == u"HK" || territory == u"MO")) {
     return TextEncoding::MacTraditionalChinese;
   }
-  if (name.script == u"Cyrl") return TextEncoding::MacCyrillic;
+  if (name.script() == u"Cyrl") return TextEncoding::MacCyrillic;
   for (const LanguageRow& row : languages) {
     if (name.language == row.language) return row.encoding;
   }
@@ -241,7 +247,9 @@ std::optional<QByteArray> asciiOfText(QStringView text, qsizetype bufferSize) {
 
 QString textOfBytes(const QByteArray& bytes, TextEncoding encoding) {
   const qsizetype nul = bytes.indexOf('\0');
-  QString text = decoded(converterOf(encoding), nul < 0 ? bytes : QByteArrayView(bytes).first(nul));
+  const QByteArrayView own = nul < 0 ? bytes : QByteArrayView(bytes).first(nul);
+  if (isAscii(own)) return own.isEmpty() ? QStringLiteral("") : QString::fromLatin1(own);
+  QString text = decoded(converterOf(encoding), own);
   const bool swapped = encoding == TextEncoding::MacJapanese || encoding == TextEncoding::ShiftJis;
   return swapped && !text.isNull() ? withoutSwappedControls(std::move(text)) : text;
 }

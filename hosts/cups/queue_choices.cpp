@@ -17,6 +17,8 @@ double pointsOf(const QString& unit) {
 }  // namespace
 
 std::optional<CustomSize> customSizeOf(const QString& choice) {
+  // Most choices are none, and the first match of a program compiles the expression.
+  if (!choice.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive)) return {};
   static const QRegularExpression form(
       QStringLiteral(R"(^Custom\.(\d+(?:\.\d+)?)x(\d+(?:\.\d+)?)(pt|in|ft|mm|cm|m)?$)"),
       QRegularExpression::CaseInsensitiveOption);

@@ -128,9 +128,14 @@ QString choiceFor(const QueueChoices& choices, const QString& option, const QStr
       continue;
     names += namesOf(each);
   }
-  for (const QString& name : names + standardNames(option, value)) {
-    if (QString choice = find(name, plainName); !choice.isNull()) return choice;
-  }
+  const auto findOneOf = [&](const QStringList& wanted) {
+    QString choice;
+    for (auto name = wanted.begin(); name != wanted.end() && choice.isNull(); ++name)
+      choice = find(*name, plainName);
+    return choice;
+  };
+  if (QString choice = findOneOf(names); !choice.isNull()) return choice;
+  if (QString choice = findOneOf(standardNames(option, value)); !choice.isNull()) return choice;
   // A PPD's name for a value of a printer without a PPD.
   const QString standard = standardValueOf(option, value);
   if (QString choice = standard.isNull() ? QString() : find(standard, plainName); !choice.isNull())

@@ -199,12 +199,8 @@ QString plainValue(const QString& option, const QString& value) {
   return plainName(option == u"PageSize" && value.count(u'_') > 1 ? value.section(u'_', 0, 1) : value);
 }
 
-// By option and plain name. It is built in every program that prints.
+// The values of one option by plain name.
 using Index = std::unordered_map<std::string, const StandardValue*>;
-
-std::string keyOf(std::string_view option, std::string_view name) {
-  return std::string(option).append(1, '/').append(name);
-}
 
 // Takes a list of words apart.
 template <class Take>
@@ -216,28 +212,34 @@ void forEachWord(std::string_view words, Take take) {
   }
 }
 
-Index indexOf(std::span<const StandardValue> table) {
+Index indexOf(std::span<const StandardValue> table, std::string_view wanted) {
   Index index;
   for (const StandardValue& each : table) {
     forEachWord(each.options, [&](std::string_view option) {
+      if (option != wanted) return;
       forEachWord(each.names, [&](std::string_view name) {
         const QString word = QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
-        index[keyOf(option, plainName(word).toStdString())] = &each;
+        index[plainName(word).toStdString()] = &each;
       });
     });
   }
   return index;
 }
 
-const StandardValue* find(const Index& index, std::string_view option, const QString& name) {
-  const auto found = index.find(keyOf(option, name.toStdString()));
+const StandardValue* find(const Index& index, const QString& name) {
+  const auto found = index.find(name.toStdString());
   return found == index.end() ? nullptr : found->second;
 }
 
+// Made for the options that are asked for: a print mostly needs one of them, and a dialog all.
 const StandardValue* valueNamed(const QString& option, const QString& name) {
-  static const Index index = indexOf(standardValues);
-  const StandardValue* found = find(index, option.toStdString(), name);
-  return found != nullptr ? found : find(index, anyOption, name);
+  static thread_local std::unordered_map<std::string, Index> indexes;
+  for (const std::string& each : {option.toStdString(), std::string(anyOption)}) {
+    const auto [index, isNew] = indexes.try_emplace(each);
+    if (isNew) index->second = indexOf(standardValues, each);
+    if (const StandardValue* found = find(index->second, name); found != nullptr) return found;
+  }
+  return nullptr;
 }
 
 struct Found {
@@ -262,11 +264,11 @@ QString textOf(const Found& found) {
 
 // "staple-top-left" is a finishing and its place.
 QString placedFinishing(const QString& value) {
-  static const Index index = indexOf(places);
+  static const Index index = indexOf(places, anyOption);
   const QString name = plainName(value);
   for (qsizetype length = name.size() - 1; length > 0; --length) {
     const StandardValue* finishing = valueNamed(QLatin1String(anyOption), name.first(length));
-    const StandardValue* place = find(index, anyOption, name.sliced(length));
+    const StandardValue* place = find(index, name.sliced(length));
     if (finishing == nullptr || place == nullptr) continue;
     return translated(QT_TRANSLATE_NOOP("StandardTexts", "%1, %2"))
         .arg(translated(finishing->text), translated(place->text));
