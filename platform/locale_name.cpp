@@ -74,7 +74,8 @@ QLocale userLanguage() {
   const QString locale = localeOfEnvironment("LC_MESSAGES");
   const LocaleName own = localeNameOf(locale);
   QStringList wanted{locale};
-  if (!isForNoLanguage(own)) wanted = qEnvironmentVariable("LANGUAGE").split(u':', Qt::SkipEmptyParts) + wanted;
+  if (!isForNoLanguage(own))
+    wanted = qEnvironmentVariable("LANGUAGE").split(u':', Qt::SkipEmptyParts) + wanted;
   const QStringList translations = QStringLiteral(KESTO_LANGUAGES).split(u':');
   for (const QString& each : wanted) {
     const LocaleName name = localeNameOf(each);

@@ -23,8 +23,8 @@ int atStart(int descriptor) {
 
 // libcups unpacks a compressed PPD while reading it.
 bool isShortEnough(int descriptor) {
-  const std::unique_ptr<cups_file_t, decltype(&cupsFileClose)> file(
-      cupsFileOpenFd(atStart(descriptor), "r"), cupsFileClose);
+  const std::unique_ptr<cups_file_t, decltype(&cupsFileClose)> file(cupsFileOpenFd(atStart(descriptor), "r"),
+                                                                    cupsFileClose);
   QByteArray block(65536, Qt::Uninitialized);
   qsizetype length = 0;
   for (ssize_t count = 1; file && count > 0 && length <= longestPpd; length += count)
