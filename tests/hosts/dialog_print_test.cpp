@@ -3,16 +3,11 @@
 
 #include <QtGui/QAccessible>
 #include <QtNetwork/QTcpServer>
-#include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTextBrowser>
 
-#include "hosts/dialog/panes/option_pane.h"
 #include "hosts/dialog/widgets/password_dialog.h"
 #include "hosts/dialog/widgets/plain_text.h"
 #include "tests/support/dialog_printer.h"
-#include "tests/support/more_choices.h"
 
 namespace kesto::test {
 namespace {
@@ -320,123 +315,6 @@ TEST_F(DialogPrint, CancelEndsAFolderFetch) {
   click(u"getFolderNameButton"_s);  // returns when the fetch has ended
   EXPECT_TRUE(wasAlive);
   EXPECT_FALSE(m_dialog->isVisible());
-}
-
-TEST_F(DialogPrint, TabGoesRoundTheDialogInReadingOrder) {
-  openReady({QLatin1String(KESTO_TEST_DATA "/../../demo/quarterly-report.pdf")});
-  const auto* forward = widgetNamed<QToolButton>(*m_dialog, u"Next page"_s);
-  await([&] { return forward->isEnabled(); }, u"the number of pages"_s);
-  use("retentionCheckBox holdAfterRadioButton");
-  widget(u"retentionCheckBox"_s)->setFocus();
-  const auto walk = [this](Qt::KeyboardModifiers modifiers) {
-    QStringList order;
-    while (order.size() < 99 && (order.isEmpty() || order.last() != u"retentionCheckBox"_s)) {
-      QTest::keyClick(m_dialog->focusWidget(), modifiers ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
-      const QWidget& focused = *m_dialog->focusWidget();
-      const QString name = focused.objectName().isEmpty() ? plainText(focused) : focused.objectName();
-      order.append(name.isEmpty() ? focused.accessibleName() : name);
-      order.last().replace(u' ', u'_');
-    }
-    return order;
-  };
-  const QStringList all = walk({});
-  const QStringList expected =
-      u"holdAfterRadioButton suspendKeyEditText suspendKeyButton mainFolderRadioButton folderSelectionPopup "
-      "printersAddressEditText getFolderNameButton jobNameEditText summaryHeader Preview pageNumber "
-      "Next_page Presets print Cancel Help "
-      "printer generalHeader copies job-handlingHeader retentionCheckBox"_s.split(u' ');
-  QStringList order = all;
-  order.removeIf([&](const QString& name) { return !expected.contains(name); });
-  EXPECT_EQ(order, expected) << all.join(u' ');
-  QStringList back(all.rbegin() + 1, all.rend());
-  EXPECT_EQ(walk(Qt::ShiftModifier), back << all.last());
-}
-
-TEST_F(DialogPrint, HelpOpensBesideTheDialog) {
-  open();
-  await([this] { return m_dialog->isActiveWindow(); }, u"the window"_s);
-  QTest::keyClick(&*m_dialog, Qt::Key_F1);
-  auto* help = widget<QDialog>(u"help"_s);
-  EXPECT_TRUE(help->isVisible() && !help->isModal());
-  EXPECT_TRUE(help->findChild<QTextBrowser*>()->toPlainText().contains(u"pass code of up to 8 digits"_s));
-  QTest::keyClick(help, Qt::Key_Escape);
-  EXPECT_TRUE(m_dialog->isVisible() && !help->isVisible()) << "Escape closes the help alone";
-}
-
-TEST_F(DialogPrint, PresetsAreRestoredAndDeleted) {
-  startPrinter({u"--queues"_s, u"2"_s});
-  changePpd(u"Office_MFP_0002"_s, fewChoices, moreChoices);
-  m_options.queue = u"Office_MFP_0002"_s;
-  openReady();
-  const auto button = [this] { return widgetNamed<QPushButton>(*m_dialog, u"Presets"_s); };
-  const auto entryOf = [](const QMenu* shown, const QString& part) {
-    const QList<QAction*> entries = shown->actions();
-    const auto found = std::ranges::find_if(entries, [&](auto* each) { return each->text().contains(part); });
-    return found == entries.end() ? nullptr : *found;
-  };
-  // An entry of the menu as it is now, or of the menu below it that deletes.
-  const auto entry = [&](const QString& part, bool deletes = false) {
-    QMenu* menu = button()->menu();
-    QMetaObject::invokeMethod(menu, "aboutToShow");
-    return entryOf(deletes ? entryOf(menu, u"Delete"_s)->menu() : menu, part);
-  };
-  const auto save = [&] {
-    whenModal([](QWidget& window) {
-      QTest::keyClicks(window.findChild<QLineEdit*>(), u"Held & fast"_s);
-      pressEnter(window);
-    });
-    entry(u"Save"_s)->trigger();
-  };
-  use("retentionCheckBox holdAfterRadioButton");
-  const auto choose = [this](const QString& name, const QString& value) {
-    m_dialog->jobOptions().choose(name, value);
-  };
-  const auto chosen = [this] {
-    const JobOptions& options = m_dialog->jobOptions();
-    return options.value(u"Duplex"_s) + options.value(u"copies"_s);
-  };
-  choose(u"Duplex"_s, u"DuplexTumble"_s);
-  choose(u"TonerSave"_s, u"True"_s);
-  save();
-  EXPECT_EQ(button()->accessibleDescription(), u"Held & fast"_s);
-  EXPECT_FALSE(button()->shortcut().isEmpty()) << "keeps a letter";
-  click(u"retentionCheckBox"_s);
-  await([&] { return button()->accessibleDescription() == u"Held & fast (changed)"_s; }, u"the mark"_s);
-  choose(u"Duplex"_s, u"None"_s);
-  choose(u"copies"_s, u"3"_s);
-  entry(u"Held && fast"_s)->trigger();
-  EXPECT_EQ(chosen(), u"DuplexTumble1"_s);
-  EXPECT_TRUE(widget<QAbstractButton>(u"retentionCheckBox"_s)->isChecked());
-  EXPECT_TRUE(widget<QAbstractButton>(u"holdAfterRadioButton"_s)->isChecked());
-  choose(u"copies"_s, u"2"_s);
-  EXPECT_FALSE(entry(u"Last"_s)->isEnabled());
-  click(u"print"_s);
-  await([this] { return m_dialog->job() > 0; }, u"the job"_s);
-
-  m_options.queue = QString();
-  openReady();
-  EXPECT_EQ(m_dialog->queueName(), u"Office_MFP_0002"_s) << "of the last job";
-  entry(u"Last"_s)->trigger();
-  EXPECT_TRUE(entry(u"Last"_s)->isChecked() && !entry(u"Held"_s)->isChecked());
-  EXPECT_EQ(chosen(), u"DuplexTumble1"_s) << "without the copies";
-  EXPECT_TRUE(widget<QAbstractButton>(u"holdAfterRadioButton"_s)->isChecked());
-
-  m_options.queue = u"Office_MFP"_s;
-  openReady();
-  entry(u"Held"_s)->trigger();
-  EXPECT_EQ(chosen(), u"DuplexTumble1"_s);
-  EXPECT_TRUE(text(u"message"_s).contains(u"does not support TonerSave: "_s)) << text(u"message"_s);
-  entry(u"Held"_s, true)->trigger();
-  EXPECT_EQ(entry(u"Held"_s), nullptr);
-  EXPECT_EQ(button()->accessibleDescription(), u""_s);
-  // Another dialog may delete it while the menu is open.
-  for (const bool deletes : {false, true}) {
-    save();
-    QAction* stale = entry(u"Held"_s, deletes);
-    EXPECT_TRUE(QFile::remove(m_folder.path(u"config/kesto/kesto.presets.Office_MFP.json"_s)));
-    const QString alert = alertOn([&] { stale->trigger(); });
-    EXPECT_TRUE(alert.contains(u"There is no preset \"Held & fast\""_s)) << alert;
-  }
 }
 
 }  // namespace

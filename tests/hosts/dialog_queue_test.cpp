@@ -1,10 +1,8 @@
-// The dialog and its print server: which printer is chosen, what is said of it, and how the program ends.
+// The dialog and its print server: which printer is chosen, and what is said of it.
 #include <QtGui/QAccessible>
 #include <QtNetwork/QTcpServer>
 #include <QtWidgets/QProgressBar>
 
-#include "hosts/dialog/widgets/plain_text.h"
-#include "hosts/dialog/widgets/printer_details.h"
 #include "hosts/dialog/widgets/queue_chooser.h"
 #include "tests/support/dialog_printer.h"
 #include "tests/support/hostile_server.h"
@@ -294,97 +292,6 @@ TEST_F(DialogPrint, ChangesOfQueuesAreFollowedEvenWhenTheSubscriptionIsLost) {
   EXPECT_EQ(printer->placeholderText(), u"Office_MFP"_s);
   EXPECT_EQ(text(u"printerState"_s),
             u"The print server no longer has this printer. It may have been removed."_s);
-}
-
-TEST_F(DialogPrint, ASectionFoldsAndStaysAsItWasLeft) {
-  openReady();
-  const auto header = [this] { return widget<QAbstractButton>(u"job-handlingHeader"_s); };
-  const auto accessible = [&] { return QAccessible::queryAccessibleInterface(header()); };
-  const std::function<void()> ways[] = {
-      [&] { QTest::keyClick(header(), Qt::Key_Space); },
-      [&] { QTest::keyClick(header(), Qt::Key_Return); },
-      [&] { QTest::mouseClick(header(), Qt::LeftButton); },
-      [&] { accessible()->actionInterface()->doAction(QAccessibleActionInterface::pressAction()); },
-  };
-  const QSize size = m_dialog->size();
-  for (const auto& operate : ways) {
-    for (const bool isOpen : {false, true}) {
-      if (!isOpen) widget(u"retentionCheckBox"_s)->setFocus();
-      operate();
-      EXPECT_EQ(widget(u"retentionCheckBox"_s)->isVisible(), isOpen);
-      EXPECT_TRUE(accessible()->state().expanded == isOpen && accessible()->state().collapsed != isOpen);
-      EXPECT_EQ(m_dialog->focusWidget(), header());
-    }
-  }
-  EXPECT_EQ(m_dialog->size(), size);
-  EXPECT_EQ(accessible()->text(QAccessible::Name), u"Job Handling"_s);
-  click(u"retentionCheckBox"_s);
-  await([&] { return accessible()->text(QAccessible::Description) == u"Hold only"_s; }, u"the headline"_s);
-  header()->click();
-  m_dialog->resize(size - QSize(10, 10));
-  m_dialog->reject();
-  openReady();
-  EXPECT_FALSE(header()->isChecked());
-  EXPECT_EQ(m_dialog->size(), size - QSize(10, 10));
-}
-
-TEST_F(DialogPrint, TextsFromOutsideStayOnTheirLine) {
-  startPrinter();
-  changePpd(u"Office_MFP"_s, "*PageSize A5/A5:", "*PageSize A5/A\x9b 5:");
-  openReady();
-  const auto* paper = widget<QComboBox>(u"PageSize"_s);
-  EXPECT_EQ(paper->itemText(paper->findData(u"A5"_s)), u"A\\x9b 5"_s);
-  QueueListModel queues;
-  QueueSummary queue;
-  queue.name = u"q"_s;
-  queue.info = u"Floor\n\u202e2"_s;
-  queues.setQueues({queue});
-  EXPECT_EQ(queues.index(0).data(), u"q — Floor\\n\\u202e2"_s);
-  QLabel label;
-  setPlainText(label, u"Folder\r\u0085 & more"_s);
-  EXPECT_EQ(label.text(), u"Folder\\r\\x85 & more"_s);
-  PrinterDetails details(nullptr);
-  queue.supplies = {{.name = u"<b>Black</b>"_s, .color = {}, .level = 70},
-                    {.name = u"<b>Cyan</b>"_s, .color = {}}};
-  details.showQueue(queue);
-  for (const auto* each : details.findChildren<QLabel*>())
-    EXPECT_EQ(each->textFormat(), Qt::PlainText) << each->text();
-}
-
-TEST_F(DialogPrint, TheSummarySaysWhatOthersSee) {
-  for (const auto& [edits, part] :
-       Cases{{"", "none of its details."},
-             {"/JobPrivate/d", "add these lines to the print server's policy \"demo\":\n\nJob"}}) {
-    m_printer.reset();
-    changeScheduler(m_folder, edits.toLatin1());
-    startPrinter();
-    openReady();
-    click(u"privacy"_s);
-    await([this] { return widget(u"privacyText"_s)->isVisible(); }, u"what others see"_s);
-    EXPECT_TRUE(text(u"privacyText"_s).contains(part)) << text(u"privacyText"_s);
-    EXPECT_NE(text(u"privacyText"_s).contains(u"the pass code, "_s), edits.isEmpty());
-  }
-}
-
-TEST_F(DialogPrint, TheProgramEndsAsItsManualSays) {
-  startPrinter();
-  using Run = std::tuple<Text, int, const char*, const char*>;  // "%1" is the folder, "%2" the server
-  for (const auto& [line, code, output, error] :
-       {Run{"-h %2 --timings", 0, "queues=1", ""},
-        Run{"-h %2 --screenshot %1/picture.png %1/report.pdf", 0, "", ""},
-        Run{"-h %2 --screenshot %1/picture.png /no/such.pdf", 0, "", "/no/such.pdf cannot be read"},
-        Run{"-h %2 -d None --timings", 1, "", "no printer"}, Run{"--help", 0, "Usage: kesto-print", ""},
-        Run{"--nonsense", 2, "", "--nonsense"}, Run{"--x\u001b[2J", 2, "", "--x\\x1b[2J"},
-        Run{"--timeout nan", 2, "", "--timeout"}, Run{"-n 0x10", 2, "", "-n"},
-        Run{"--portal 77", 2, "", "must be an open descriptor"}}) {
-    const QString arguments = QString(line).replace(u"%2"_s, m_printer->place(u"server"_s));
-    DemoProcess program(m_folder, u"kesto-print "_s + arguments);
-    program.closeWriteChannel();
-    EXPECT_EQ(program.code(), code) << line;
-    EXPECT_TRUE(program.readAllStandardOutput().contains(output)) << line;
-    EXPECT_TRUE(program.log().contains(error)) << line;
-  }
-  EXPECT_FALSE(QImage(m_folder.path(u"picture.png"_s)).isNull());
 }
 
 }  // namespace
