@@ -28,7 +28,7 @@ bool isForNoLanguage(const LocaleName& name) {
 }
 
 // ICU knows the script of every language in CLDR; Qt knows only those languages whose formats it has. The
-// first question makes ICU load its data, which costs a short program a millisecond.
+// first question makes ICU load its data, so it is asked only when the script matters.
 QString likelyScript(const LocaleName& locale) {
   if (isForNoLanguage(locale)) return {};
   const QString name =

@@ -5,8 +5,9 @@
 namespace kesto {
 
 bool loadTexts(QTranslator* translator) {
-  return translator->load(userLanguage(), QStringLiteral("kesto"), QStringLiteral("_"),
-                          QStringLiteral(":/texts"));
+  const QLocale language = userLanguage();
+  return language.language() != QLocale::English &&
+         translator->load(language, QStringLiteral("kesto"), QStringLiteral("_"), QStringLiteral(":/texts"));
 }
 
 }  // namespace kesto
