@@ -62,8 +62,9 @@ QStringList PrivateCopy::usualFolders() {
   QStringList folders{QStringLiteral("/var/tmp/"), QStringLiteral("/tmp/")};
   const QString own = userTemporaryDirectory();
   if (own.isNull()) return folders;
-  // The runtime folder is memory, and the user's other programs need it.
-  qEnvironmentVariableIsEmpty("TMPDIR") ? folders.append(own) : folders.prepend(own);
+  // Without TMPDIR it is in the runtime folder, which is memory that the user's other programs need.
+  const bool isChosen = !qEnvironmentVariableIsEmpty("TMPDIR");
+  folders.insert(isChosen ? 0 : folders.size(), own);
   return folders;
 }
 

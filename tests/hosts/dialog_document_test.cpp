@@ -71,6 +71,14 @@ TEST_F(DialogDocument, ACopyGoesWhereThereIsRoom) {
   EXPECT_TRUE(file.seek(0) && file.readAll() == QByteArray(copy.size(), 'a'));
 }
 
+TEST_F(DialogDocument, ACopyFillsTheRuntimeFolderLast) {
+  const QString own = m_folder.path(u""_s) + u'/';
+  EXPECT_EQ(PrivateCopy::usualFolders(), (QStringList{own, u"/var/tmp/"_s, u"/tmp/"_s}));
+  qunsetenv("TMPDIR");
+  qputenv("XDG_RUNTIME_DIR", own.toUtf8());
+  EXPECT_EQ(PrivateCopy::usualFolders(), (QStringList{u"/var/tmp/"_s, u"/tmp/"_s, own + u"kesto/"_s}));
+}
+
 TEST_F(DialogDocument, WhatAnEarlierVersionLeftIsRemoved) {
   m_folder.write(u"kesto-document.left12"_s, "secret");
   m_folder.write(u"kesto-document.inUse1"_s, "secret");
