@@ -1,7 +1,7 @@
 // The real kesto-demo-printer, and the programs that use it, in a private folder of the test.
 #pragma once
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <QtCore/QCoreApplication>

@@ -15,7 +15,7 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  testing::InitGoogleMock(&argc, argv);
+  testing::InitGoogleTest(&argc, argv);
   qInstallMessageHandler(handleMessage);
   return RUN_ALL_TESTS();
 }

@@ -4,7 +4,7 @@
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);  // for files that are found beside the program
-  testing::InitGoogleMock(&argc, argv);
+  testing::InitGoogleTest(&argc, argv);
   qInstallMessageHandler(kesto::test::ExpectedWarning::handleMessage);
   return RUN_ALL_TESTS();
 }

@@ -1,7 +1,7 @@
 // How tests write Qt's values and files, and how failures show them.
 #pragma once
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonDocument>
