@@ -3,6 +3,7 @@
 #include <ctime>
 
 #include <QtCore/QEvent>
+#include <QtCore/QThread>
 
 #include "hosts/dialog/print_dialog.h"
 #include "hosts/dialog/widgets/queue_list_model.h"
@@ -27,7 +28,9 @@ double TimedApplication::sinceBegin(Clock::time_point moment) const {
 }
 
 bool TimedApplication::notify(QObject* receiver, QEvent* event) {
-  if (m_dialog == nullptr) return QApplication::notify(receiver, event);
+  // Other threads hand their events to this function as well.
+  if (QThread::currentThread() != thread() || m_dialog == nullptr)
+    return QApplication::notify(receiver, event);
   if (receiver == m_dialog && event->type() == QEvent::Paint) m_hasPainted = true;
   const Clock::time_point begin = Clock::now();
   const double worked = workedMilliseconds();
