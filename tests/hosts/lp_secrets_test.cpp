@@ -84,7 +84,7 @@ class LpAtATerminal : public LpSecrets {
     expectShown("Pass code: ");
     return lp;
   }
-  // What the program writes next. It can come in parts, and with more behind it.
+  // What the program writes next. One read may return less than that, or the following text as well.
   void expectShown(const QByteArray& text) const {
     QByteArray seen;
     for (char each = 0; seen.size() < text.size() && ::read(m_master, &each, 1) == 1;)
