@@ -42,13 +42,14 @@ Outcome readPpd(int descriptor, const QString& name, PpdFile* ppd) {
       Faults::tr("%1: line %2: %3").arg(name).arg(line).arg(QString::fromUtf8(ppdErrorString(status))));
 }
 
-// A file in memory, without a name.
-Outcome storeInMemory(const QByteArray& bytes, QFile* file) {
+// A file in memory, without a name; none when there is no room, and errno says so.
+Descriptor storeInMemory(const QByteArray& bytes) {
   Descriptor memory(::memfd_create("ppd", MFD_CLOEXEC));
-  const bool isStored = memory && file->open(memory.get(), QIODevice::WriteOnly, QFile::AutoCloseHandle) &&
-                        memory.release() >= 0 && file->write(bytes) == bytes.size() && file->flush();
-  return isStored ? Outcome::done()
-                  : Outcome::failed(Faults::tr("cannot store the PPD: %1").arg(qt_error_string()));
+  QFile file;
+  const bool isStored = memory && file.open(memory.get(), QIODevice::WriteOnly) &&
+                        file.write(bytes) == bytes.size() && file.flush();
+  if (!isStored) memory.reset();
+  return memory;
 }
 
 bool isSmallEnough(const ppd_file_t& ppd) {
@@ -85,10 +86,10 @@ Outcome fetchPpdFile(PrintServer& server, const QString& queue, PpdFile* ppd) {
   if (!fetched)
     return Outcome::failed(Faults::tr("cannot get the PPD of %1: %2").arg(queue, fetched.reason()));
   if (bytes.isNull()) return Outcome::done();
-  QFile file;
-  if (Outcome stored = storeInMemory(bytes, &file); !stored) return stored;
-  const bool isShort = isShortEnough(file.handle());
-  if (isShort) fetched = readPpd(file.handle(), queue + QStringLiteral(".ppd"), ppd);
+  const Descriptor file = storeInMemory(bytes);
+  if (!file) return Outcome::failed(Faults::tr("cannot store the PPD: %1").arg(qt_error_string()));
+  const bool isShort = isShortEnough(file.get());
+  if (isShort) fetched = readPpd(file.get(), queue + QStringLiteral(".ppd"), ppd);
   if (isShort && (!fetched || isSmallEnough(**ppd))) return fetched;
   ppd->reset();
   return Outcome::failed(Faults::tr("the PPD of %1 is too large").arg(queue));

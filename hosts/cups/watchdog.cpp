@@ -63,11 +63,11 @@ bool Watchdog::isDue() const {
   return m_isInterrupted != 0 || m_end <= Clock::now();
 }
 
-// Whether the thread must be woken for it. Mostly it looks early enough of itself, and each waking costs a
-// short program two switches between threads.
-bool Watchdog::setEnd(std::optional<std::chrono::milliseconds> limit) {
+// Mostly the thread looks early enough of itself, and each waking costs a short program two switches between
+// threads. Needs the lock.
+void Watchdog::setEnd(std::optional<std::chrono::milliseconds> limit) {
   m_end = limit ? Clock::now() + *limit : Clock::time_point::max();
-  return m_isInterrupted != 0 || m_end < m_waking;
+  if (m_isInterrupted != 0 || m_end < m_waking) m_changed.notify_all();
 }
 
 void Watchdog::run() {
@@ -86,16 +86,12 @@ void Watchdog::run() {
 Watchdog::Watch::Watch(Watchdog& dog, http_t* http, http_addrlist_t* addresses,
                        std::optional<std::chrono::milliseconds> limit)
     : m_dog(dog) {
-  bool mustWake = false;
-  {
-    const std::lock_guard lock(dog.m_mutex);
-    dog.m_http = http;
-    dog.m_addresses = addresses;
-    dog.m_hasCut = false;
-    mustWake = dog.setEnd(limit);
-    if (!dog.m_thread.joinable()) dog.m_thread = std::thread([&dog] { dog.run(); });
-  }
-  if (mustWake) dog.m_changed.notify_all();
+  const std::lock_guard lock(dog.m_mutex);
+  dog.m_http = http;
+  dog.m_addresses = addresses;
+  dog.m_hasCut = false;
+  dog.setEnd(limit);
+  if (!dog.m_thread.joinable()) dog.m_thread = std::thread([&dog] { dog.run(); });
 }
 
 Watchdog::Watch::~Watch() {
@@ -104,12 +100,8 @@ Watchdog::Watch::~Watch() {
 }
 
 void Watchdog::Watch::restart(std::optional<std::chrono::milliseconds> limit) {
-  bool mustWake = false;
-  {
-    const std::lock_guard lock(m_dog.m_mutex);
-    mustWake = m_dog.setEnd(limit);
-  }
-  if (mustWake) m_dog.m_changed.notify_all();
+  const std::lock_guard lock(m_dog.m_mutex);
+  m_dog.setEnd(limit);
 }
 
 bool Watchdog::Watch::hasCut() const {

@@ -58,7 +58,7 @@ class Watchdog {
 
   void run();
   bool isDue() const;
-  bool setEnd(std::optional<std::chrono::milliseconds> limit);
+  void setEnd(std::optional<std::chrono::milliseconds> limit);
 
   mutable std::mutex m_mutex;
   std::condition_variable m_changed;
