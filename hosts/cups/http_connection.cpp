@@ -34,6 +34,13 @@ http_status_t nextStatus(http_t* http) {
   return isOfHttp ? static_cast<http_status_t>(status) : HTTP_STATUS_ERROR;
 }
 
+// HTTP/1.0 closes the connection after an answer unless it says otherwise, HTTP/1.1 the other way round.
+bool staysOpen(http_t* http) {
+  const char* connection = httpGetField(http, HTTP_FIELD_CONNECTION);
+  return httpGetVersion(http) < HTTP_VERSION_1_1 ? qstricmp(connection, "keep-alive") == 0
+                                                 : qstricmp(connection, "close") != 0;
+}
+
 bool isRedirect(http_status_t status) {
   return status >= HTTP_STATUS_MULTIPLE_CHOICES && status < HTTP_STATUS_BAD_REQUEST;
 }
@@ -113,13 +120,17 @@ Outcome HttpConnection::exchange(const HttpRequest& request, QByteArray* reply) 
   for (int tries = 1;; ++tries) {
     // If something can be read before a request, it is the end of the connection.
     if (m_isUsable && httpCheck(m_http.get()) != 0) m_isUsable = false;
-    if (!m_isUsable) {
+    const bool isNew = !m_isUsable;
+    if (isNew) {
       if (Outcome connected = reconnect(); !connected) return connected;
     }
     if (request.isSecret) {
       if (Outcome isPrivate = makePrivate(); !isPrivate) return isPrivate;
     }
-    if (Outcome answered = attempt(request, reply); !answered) return answered;
+    const Outcome answered = attempt(request, reply);
+    // A server may close a connection just when it is used again.
+    if (!answered && m_isClosed && !isNew && request.isQuestion) continue;
+    if (!answered) return answered;
     if (m_status == HTTP_STATUS_OK) return Outcome::done();
     if (tries == mostAttempts || !canTryAgain(request)) return outcomeOfStatus();
   }
@@ -129,6 +140,7 @@ Outcome HttpConnection::exchange(const HttpRequest& request, QByteArray* reply) 
 Outcome HttpConnection::attempt(const HttpRequest& request, QByteArray* reply) {
   m_isUsable = false;
   m_isSilent = false;
+  m_isClosed = false;
   m_hasBegunDocument = false;
   m_status = HTTP_STATUS_ERROR;
   m_waitBegan = Clock::now();
@@ -149,7 +161,7 @@ Outcome HttpConnection::attempt(const HttpRequest& request, QByteArray* reply) {
   Outcome received = receive(request.longestReply, reply);
   if (m_isSilent || watch.hasCut()) return noAnswer(watch);
   if (!received) return received;
-  m_isUsable = qstricmp(httpGetField(m_http.get(), HTTP_FIELD_CONNECTION), "close") != 0;
+  m_isUsable = staysOpen(m_http.get());
   return Outcome::done();
 }
 
@@ -297,12 +309,13 @@ const char* HttpConnection::findPassword() {
   return m_password.constData();
 }
 
-Outcome HttpConnection::noAnswer(const Watch& watch) const {
+Outcome HttpConnection::noAnswer(const Watch& watch) {
   if (m_watchdog->isInterrupted()) return Outcome::failed(QStringLiteral("interrupted"));
   if (m_isSilent || watch.hasCut()) {
     const QString seconds = QString::number(std::chrono::duration<double>(m_limit).count());
     return Outcome::failed(Faults::tr("the print server %1 did not answer within %2 s").arg(m_name, seconds));
   }
+  m_isClosed = true;
   return Outcome::failed(Faults::tr("the print server %1 closed the connection").arg(m_name));
 }
 

@@ -32,6 +32,8 @@ struct HttpRequest {
   qsizetype longestReply = 0;
   /// Whether it goes out with the user's password, for which the user may be asked.
   bool mayAskPassword = false;
+  /// Whether it changes nothing on the server, and so may be sent once more when a connection ends.
+  bool isQuestion = false;
   /// Whether it has secrets in it, and so goes out encrypted unless the server is on this machine.
   bool isSecret = false;
 };
@@ -77,7 +79,7 @@ class HttpConnection {
   bool encrypt();
   bool authenticate(const HttpRequest& request);
   const char* findPassword();
-  Outcome noAnswer(const Watch& watch) const;
+  Outcome noAnswer(const Watch& watch);
   Outcome outcomeOfStatus() const;
   static int giveUp(http_t* http, void* connection);
   static const char* askPassword(const char* prompt, http_t* http, const char* method, const char* resource,
@@ -99,6 +101,7 @@ class HttpConnection {
   Clock::time_point m_waitBegan;
   bool m_isUsable = false;          // for another request
   bool m_isSilent = false;          // a wait was given up
+  bool m_isClosed = false;          // by the server, before it answered
   bool m_hasBegunDocument = false;  // it can be read only once
 };
 

@@ -203,6 +203,7 @@ Outcome PrintServer::findQueue(const QString& name, Destination* destination) {
 Outcome PrintServer::exchange(ipp_t* request, HttpRequest message, Ipp* reply) {
   message.body = bytesOfRequest(request);
   message.longestReply = longestReply;
+  message.isQuestion = QByteArrayView(ippOpString(ippGetOperation(request))).contains("Get-");
   if (!m_resource.isNull()) message.resource = m_resource;
   QByteArray bytes;
   const Outcome exchanged = m_http->exchange(message, &bytes);
@@ -232,8 +233,8 @@ Outcome PrintServer::order(ipp_t* request, const QByteArray& resource, Ipp* repl
 }
 
 Outcome PrintServer::fetch(const QByteArray& resource, qsizetype longest, QByteArray* bytes) {
-  Outcome fetched =
-      m_http->exchange({.resource = resource, .longestReply = longest, .mayAskPassword = true}, bytes);
+  Outcome fetched = m_http->exchange(
+      {.resource = resource, .longestReply = longest, .mayAskPassword = true, .isQuestion = true}, bytes);
   if (fetched) return fetched;
   bytes->clear();
   return m_http->status() == HTTP_STATUS_NOT_FOUND ? Outcome::done() : fetched;

@@ -6,6 +6,7 @@
 #include "hosts/cups/ipp_reply.h"
 #include "hosts/cups/network_printers.h"
 #include "hosts/cups/ppd_file.h"
+#include "hosts/cups/sent_job.h"
 #include "hosts/cups/server_address.h"
 #include "tests/support/hostile_server.h"
 #include "tests/support/print_program.h"
@@ -206,6 +207,22 @@ TEST(ServerAddress, ConnectsToItsServerWhateverTheLastOneWas) {
   EXPECT_TRUE(wrongAt(address.forQueue(u"q"_s)).contains(usual.address()));
   EXPECT_TRUE(usual.hasMisbehaved());
   EXPECT_EQ(QString::fromUtf8(cupsUser()), user);
+}
+
+// The second request is on its way by then.
+TEST(HttpConnection, MayEndAfterAnAnswer) {
+  for (const QByteArray version : {"1.0", "1.1"}) {
+    const QByteArray answer = "HTTP/" + version + " 200 OK\r\nContent-Length: 9\r\n\r\n\2\0\0\0\0\0\0\1\3"_ba;
+    const HostileServer hostile(IPP_OP_GET_PRINTER_ATTRIBUTES, {answer, {}, 50ms, true});
+    std::unique_ptr<PrintServer> server;
+    ASSERT_TRUE(PrintServer::connect(hostile.address(), 60s, &server));
+    Destination queue;
+    EXPECT_EQ(server->findQueue(u"q"_s, &queue).reason(), QString());
+    std::vector<QueueSummary> queues;
+    EXPECT_EQ((version == "1.0" ? cancelJob(*server, {u"q"_s, 1}) : server->listQueues(&queues)).reason(),
+              QString())
+        << version.toStdString();
+  }
 }
 
 TEST_F(HostilePrintServer, AHandshakeHasATimeLimitToo) {

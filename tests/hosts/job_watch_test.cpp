@@ -48,8 +48,8 @@ TEST_F(LpTest, AWaitEndsWhateverTheServerDoes) {
   const std::pair<Misbehaviour, Text> misbehaviours[] = {
       {{}, "did not answer within 1 s"},
       {{.closes = true}, "closed the connection"},
-      {{answered("x"), {}, {}, true}, "cannot read the print server's answer"},
-      {{answered("\2\0\4\6\0\0\0\1\3"_ba), {}, {}, true}, ""},  // not found
+      {{answered("x"), {}, 20ms, true}, "cannot read the print server's answer"},
+      {{answered("\2\0\4\6\0\0\0\1\3"_ba), {}, 20ms, true}, ""},  // not found
   };
   for (const int operation : {IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS, IPP_OP_GET_NOTIFICATIONS,
                               IPP_OP_GET_JOB_ATTRIBUTES, IPP_OP_GET_JOBS}) {

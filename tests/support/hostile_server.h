@@ -20,7 +20,7 @@ namespace kesto::test {
 struct Misbehaviour {
   QByteArray once{};
   QByteArray again{};
-  std::chrono::milliseconds pause{0};  ///< before each repetition
+  std::chrono::milliseconds pause{0};  ///< before each repetition, and before it closes the connection
   bool closes = false;                 ///< instead of staying open
 };
 
@@ -137,6 +137,7 @@ class HostileServer {
     m_hasMisbehaved = true;
     if (!sendAll(client, m_misbehaviour.once)) return;
     if (m_misbehaviour.closes) {
+      std::this_thread::sleep_for(m_misbehaviour.pause);
       ::shutdown(client, SHUT_RDWR);
       return;
     }
