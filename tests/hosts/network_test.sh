@@ -50,20 +50,18 @@ printer=$!
 children+=("$printer")
 
 chmod 711 "$scratch"  # for the account that runs jobs
+mkfifo "$scratch/places"
 "$bin/kesto-demo-printer" --dir "$scratch/run" --folder-port 0 --json >"$scratch/places" &
 children+=($!)
-for _ in {1..150}; do
-  server=$(sed -nE 's/.*"server": *"([^"]*)".*/\1/p' "$scratch/places")
-  if [[ $server ]]; then break; fi
-  sleep 0.1
-done
+read -r places <"$scratch/places"
+server=$(sed -E 's/.*"server":"([^"]*)".*/\1/' <<<"$places")
 list() { "$bin/kesto-lp" -h "$server" --list --network --timeout 3; }
-for _ in {1..10}; do
+for _ in {1..100}; do
   if list | grep -q $'^Sample\ton the network\tipps*://.*\tAttic$'; then found=yes && break; fi
 done
 [[ ${found:-} == yes ]] || { list; echo "the printer is not listed" >&2; exit 1; }
 kill "$printer"
-for _ in {1..10}; do
+for _ in {1..100}; do
   if ! list | grep -q ^Sample; then exit 0; fi
 done
 echo "the printer is listed after its end" >&2
