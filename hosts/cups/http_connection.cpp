@@ -127,7 +127,7 @@ Outcome HttpConnection::exchange(const HttpRequest& request, QByteArray* reply) 
     if (request.isSecret) {
       if (Outcome isPrivate = makePrivate(); !isPrivate) return isPrivate;
     }
-    const Outcome answered = attempt(request, reply);
+    Outcome answered = attempt(request, reply);
     // A server may close a connection just when it is used again.
     if (!answered && m_isClosed && !isNew && request.isQuestion) continue;
     if (!answered) return answered;
