@@ -6,6 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <array>
+#include <cerrno>
 #include <mutex>
 #include <thread>
 
@@ -28,8 +29,15 @@ class Server {
     require(::bind(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
                 ::listen(m_socket, SOMAXCONN) == 0,
             "the server listens");
-    std::thread([this] { serve(); }).detach();
+    m_thread = std::thread([this] { serve(); });
   }
+  ~Server() {
+    ::shutdown(m_socket, SHUT_RDWR);  // ends accept4
+    m_thread.join();
+    ::close(m_socket);
+  }
+  Server(const Server&) = delete;
+  Server& operator=(const Server&) = delete;
   QString path() const { return m_folder.filePath(QStringLiteral("s")); }
   void answer(const QByteArray& bytes) {
     const std::lock_guard lock(m_mutex);
@@ -40,6 +48,7 @@ class Server {
   void serve() {
     for (;;) {
       const int client = ::accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
+      if (client < 0 && errno == EINVAL) return;
       if (client < 0) continue;
       std::array<char, 4096> request{};
       // A server does not answer before it is asked.
@@ -66,15 +75,16 @@ class Server {
   int m_socket;
   std::mutex m_mutex;
   QByteArray m_bytes;
+  std::thread m_thread;
 };
 
 }  // namespace
 
 void runHead(const QByteArray& input) {
-  static auto* server = new Server;  // its thread ends with the program
-  server->answer(input);
+  static Server server;
+  server.answer(input);
   std::unique_ptr<PrintServer> connection;
-  require(bool(PrintServer::connect(server->path(), std::chrono::seconds(2), &connection)),
+  require(bool(PrintServer::connect(server.path(), std::chrono::seconds(2), &connection)),
           "there is a connection");
   QByteArray body;
   const bool isFetched = bool(connection->fetch("/printers/Office.ppd", largestBody, &body));

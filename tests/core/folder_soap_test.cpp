@@ -7,6 +7,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QTimer>
+#include <optional>
 
 #include "folders/soap_client.h"
 #include "tests/support/folder_server.h"
@@ -78,9 +79,11 @@ TEST(SoapClient, ASilentNameServerBlocksNothing) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   const auto ask = [] {
     ::alarm(60);  // in place of a process that never ends
-    Exchange exchange;
-    exchange.run(u"http://silent.test/"_s, 50ms);
-    std::exit(exchange.failures);
+    std::optional<Exchange> exchange(std::in_place);
+    exchange->run(u"http://silent.test/"_s, 50ms);
+    const int failures = exchange->failures;
+    exchange.reset();  // exit() would leave its folder
+    std::exit(failures);
   };
   EXPECT_EXIT(ask(), testing::ExitedWithCode(1), "");
 }
