@@ -62,7 +62,8 @@ done
 [[ ${found:-} == yes ]] || { list; echo "the printer is not listed" >&2; exit 1; }
 kill "$printer"
 for _ in {1..100}; do
-  if ! list | grep -q ^Sample; then exit 0; fi
+  printers=$(list)
+  if ! grep -q ^Sample <<<"$printers"; then exit 0; fi
 done
 echo "the printer is listed after its end" >&2
 exit 1
